@@ -1,0 +1,141 @@
+// Arrays with given bounds: index 0 exists, every access is checked, and a failed check ends the run with the name of
+// the array and the index. An array may be unallocated; reading one then fails as well.
+#pragma once
+
+#include <cstdlib>
+#include <limits>
+#include <new>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace zol {
+
+namespace detail {
+
+[[noreturn]] void fail_index(std::string_view array, long long index, long long upper);
+[[noreturn]] void fail_memory(std::string_view array, long long upper);
+
+/// Memory that comes zeroed from the system, so that large arrays cost only the pages that are used.
+template <class T>
+struct ZeroedAllocator {
+  static_assert(std::is_trivially_copyable_v<T>);
+  using value_type = T;
+  ZeroedAllocator() = default;
+  template <class U>
+  explicit ZeroedAllocator(const ZeroedAllocator<U>& /*other*/) {}
+  T* allocate(std::size_t count) {
+    void* memory = std::calloc(count, sizeof(T));  // NOLINT(cppcoreguidelines-no-malloc,hicpp-no-malloc)
+    if (memory == nullptr) throw std::bad_alloc();
+    return static_cast<T*>(memory);
+  }
+  void deallocate(T* memory, std::size_t /*count*/) { std::free(memory); }  // NOLINT(cppcoreguidelines-no-malloc)
+  template <class U>
+  void construct(U* /*place*/) {}  // already zero
+  template <class U, class... Args>
+  void construct(U* place, Args&&... args) {
+    ::new (static_cast<void*>(place)) U(std::forward<Args>(args)...);
+  }
+  friend bool operator==(const ZeroedAllocator&, const ZeroedAllocator&) { return true; }
+};
+
+template <class T, bool zero_is_default = std::is_trivially_copyable_v<T>>
+struct ArrayStore {
+  using Type = std::vector<T>;
+};
+template <class T>
+struct ArrayStore<T, true> {
+  using Type = std::vector<T, ZeroedAllocator<T>>;
+};
+
+}  // namespace detail
+
+/// One-dimensional array, indices 0 to upper(). All elements start as T{}, which for numbers is all bits zero.
+template <class T>
+class BoundedArray {
+ public:
+  /// Unallocated; upper() is -1.
+  explicit BoundedArray(std::string name) : name_(std::move(name)) {}
+  BoundedArray(std::string name, int upper) : name_(std::move(name)) { allocate(upper); }
+
+  /// Makes the array anew with indices 0 to upper; former contents are gone.
+  /// @throws RunFailure  negative upper bound or not enough memory
+  void allocate(int upper) {
+    if (upper < 0) detail::fail_index(name_, upper, std::numeric_limits<int>::max());
+    store_ = {};
+    try {
+      store_ = Store(static_cast<std::size_t>(upper) + 1);
+    } catch (const std::bad_alloc&) {
+      detail::fail_memory(name_, upper);
+    }
+  }
+
+  [[nodiscard]] T& operator()(int index) { return store_[check(index)]; }
+  [[nodiscard]] const T& operator()(int index) const { return store_[check(index)]; }
+
+  [[nodiscard]] int upper() const { return static_cast<int>(store_.size()) - 1; }
+  [[nodiscard]] const std::string& name() const { return name_; }
+
+ private:
+  using Store = typename detail::ArrayStore<T>::Type;
+
+  [[nodiscard]] std::size_t check(int index) const {
+    if (index < 0 || static_cast<std::size_t>(index) >= store_.size()) detail::fail_index(name_, index, upper());
+    return static_cast<std::size_t>(index);
+  }
+
+  std::string name_;
+  Store store_;
+};
+
+/// Two-dimensional array, rows 0 to upper_row(), columns 0 to upper_column(), row by row in memory.
+template <class T>
+class BoundedTable {
+ public:
+  explicit BoundedTable(std::string name) : name_(std::move(name)) {}
+  BoundedTable(std::string name, int upper_row, int upper_column) : name_(std::move(name)) {
+    allocate(upper_row, upper_column);
+  }
+
+  /// Makes the table anew; former contents are gone.
+  /// @throws RunFailure  negative upper bound or not enough memory
+  void allocate(int upper_row, int upper_column) {
+    if (upper_row < 0) detail::fail_index(name_, upper_row, std::numeric_limits<int>::max());
+    if (upper_column < 0) detail::fail_index(name_, upper_column, std::numeric_limits<int>::max());
+    store_ = {};
+    upper_row_ = upper_row;
+    upper_column_ = upper_column;
+    try {
+      store_ = Store((static_cast<std::size_t>(upper_row) + 1) * (static_cast<std::size_t>(upper_column) + 1));
+    } catch (const std::exception&) {
+      upper_row_ = upper_column_ = -1;
+      detail::fail_memory(name_, upper_row);
+    }
+  }
+
+  [[nodiscard]] T& operator()(int row, int column) { return store_[check(row, column)]; }
+  [[nodiscard]] const T& operator()(int row, int column) const { return store_[check(row, column)]; }
+
+  [[nodiscard]] int upper_row() const { return upper_row_; }
+  [[nodiscard]] int upper_column() const { return upper_column_; }
+  [[nodiscard]] const std::string& name() const { return name_; }
+
+ private:
+  using Store = typename detail::ArrayStore<T>::Type;
+
+  [[nodiscard]] std::size_t check(int row, int column) const {
+    if (row < 0 || row > upper_row_) detail::fail_index(name_, row, upper_row_);
+    if (column < 0 || column > upper_column_) detail::fail_index(name_, column, upper_column_);
+    return static_cast<std::size_t>(row) * (static_cast<std::size_t>(upper_column_) + 1) +
+           static_cast<std::size_t>(column);
+  }
+
+  std::string name_;
+  int upper_row_ = -1;
+  int upper_column_ = -1;
+  Store store_;
+};
+
+}  // namespace zol

@@ -1,0 +1,18 @@
+// Where the data files of the installation lie.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace zol {
+
+struct DataRoot {
+  std::string root;            ///< folder of the tables, space groups and parameter files
+  std::string crystal_folder;  ///< folder that file dialogs of crystals start in
+
+  /// Path of a file below the root, given by its relative name with "/". Where the exact name is missing, one that
+  /// differs only in the case of its letters is taken; where there is none, the path as asked for.
+  [[nodiscard]] std::string path(std::string_view relative) const;
+};
+
+}  // namespace zol

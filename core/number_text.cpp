@@ -1,0 +1,255 @@
+#include "core/number_text.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cstdio>
+
+namespace zol {
+namespace {
+
+bool is_digit(char c) { return c >= '0' && c <= '9'; }
+
+/// Length of the longest number at the head of a text, 0 when there is none.
+std::size_t number_length(std::string_view text) {
+  std::size_t at = 0;
+  if (at < text.size() && (text[at] == '+' || text[at] == '-')) ++at;
+  const std::size_t whole = at;
+  while (at < text.size() && is_digit(text[at])) ++at;
+  std::size_t digits = at - whole;
+  if (at < text.size() && text[at] == '.') {
+    const std::size_t fraction = at + 1;
+    std::size_t end = fraction;
+    while (end < text.size() && is_digit(text[end])) ++end;
+    digits += end - fraction;
+    at = end;
+  }
+  if (digits == 0) return 0;
+  if (at < text.size() && (text[at] == 'e' || text[at] == 'E' || text[at] == 'd' || text[at] == 'D')) {
+    std::size_t exponent = at + 1;
+    if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
+    if (exponent < text.size() && is_digit(text[exponent])) {
+      while (exponent < text.size() && is_digit(text[exponent])) ++exponent;
+      at = exponent;
+    }
+  }
+  return at;
+}
+
+/// Power of ten of the leading digit of a number in text form; only its sign and rough size matter.
+long long decimal_magnitude(std::string_view number) {
+  const std::size_t e = number.find('e');
+  long long exponent = 0;
+  if (e != std::string_view::npos) {
+    std::string_view digits = number.substr(e + 1);
+    if (digits.front() == '+') digits.remove_prefix(1);
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
+    constexpr long long beyond_all = 1'000'000'000;
+    if (result.ec == std::errc::result_out_of_range) exponent = digits.front() == '-' ? -beyond_all : beyond_all;
+  }
+  const std::string_view mantissa = number.substr(0, e);
+  const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));
+  const auto leading = static_cast<long long>(std::min(mantissa.find_first_of("123456789"), mantissa.size()));
+  return exponent + point - leading;
+}
+
+/// Value of a text that number_length took; out of range gives 0 or infinity.
+template <class Float>
+Float parse(std::string text) {
+  std::replace_if(
+      text.begin(), text.end(), [](char c) { return c == 'd' || c == 'D' || c == 'E'; }, 'e');
+  const char* first = text.data() + (text.front() == '+' ? 1 : 0);
+  Float value = 0;
+  const auto result = std::from_chars(first, text.data() + text.size(), value);
+  if (result.ec != std::errc::result_out_of_range) return value;
+  const Float size = decimal_magnitude(text) > 0 ? std::numeric_limits<Float>::infinity() : Float(0);
+  return *first == '-' ? -size : size;
+}
+
+/// Decimal digits of a number: 0.d1d2d3... * 10^exponent. No digits for zero.
+struct Decimal {
+  bool negative = false;
+  std::string digits;
+  int exponent = 0;
+};
+
+/// Reads a number in scientific notation, as the library writes it.
+Decimal from_scientific(std::string_view text) {
+  Decimal result;
+  if (text.front() == '-') {
+    result.negative = true;
+    text.remove_prefix(1);
+  }
+  const std::size_t e = text.find('e');
+  for (const char c : text.substr(0, e)) {
+    if (is_digit(c)) result.digits += c;
+  }
+  std::string_view exponent = text.substr(e + 1);
+  if (exponent.front() == '+') exponent.remove_prefix(1);
+  std::from_chars(exponent.data(), exponent.data() + exponent.size(), result.exponent);
+  ++result.exponent;
+  while (!result.digits.empty() && result.digits.back() == '0') result.digits.pop_back();
+  if (result.digits.empty()) result = {};
+  return result;
+}
+
+/// The exact binary value rounded to so many significant digits, ties to even.
+Decimal to_decimal(double value, int significant_digits) {
+  std::array<char, 64> text{};
+  std::snprintf(text.data(), text.size(), "%.*e", significant_digits - 1, value);
+  return from_scientific(text.data());
+}
+
+/// Digits before and behind the point; no leading zeros before it.
+struct Parts {
+  std::string whole;
+  std::string fraction;
+};
+
+Parts split(const Decimal& decimal) {
+  Parts parts;
+  const int length = static_cast<int>(decimal.digits.size());
+  if (decimal.exponent <= 0) {
+    if (length > 0) parts.fraction.assign(static_cast<std::size_t>(-decimal.exponent), '0');
+    parts.fraction += decimal.digits;
+  } else if (decimal.exponent >= length) {
+    parts.whole = decimal.digits;
+    parts.whole.append(static_cast<std::size_t>(decimal.exponent - length), '0');
+  } else {
+    parts.whole = decimal.digits.substr(0, static_cast<std::size_t>(decimal.exponent));
+    parts.fraction = decimal.digits.substr(static_cast<std::size_t>(decimal.exponent));
+  }
+  return parts;
+}
+
+std::string plain(const Decimal& decimal) {
+  if (decimal.digits.empty()) return "0";
+  const Parts parts = split(decimal);
+  std::string text = decimal.negative ? "-" : "";
+  text += parts.whole;
+  if (!parts.fraction.empty()) text += '.' + parts.fraction;
+  return text;
+}
+
+/// Rounds the digits to so many places behind the point, halves away from zero.
+void round_places(Parts& parts, std::size_t places) {
+  if (parts.fraction.size() <= places) return;
+  const bool up = parts.fraction[places] >= '5';
+  parts.fraction.resize(places);
+  if (!up) return;
+  std::string digits = parts.whole + parts.fraction;
+  std::size_t at = digits.size();
+  while (at > 0 && digits[at - 1] == '9') digits[--at] = '0';
+  if (at > 0) {
+    ++digits[at - 1];
+  } else {
+    digits.insert(digits.begin(), '1');
+  }
+  parts.whole = digits.substr(0, digits.size() - places);
+  parts.fraction = digits.substr(digits.size() - places);
+}
+
+bool is_placeholder(char c) { return c == '0' || c == '#'; }
+
+}  // namespace
+
+std::optional<LeadingNumber> leading_number(std::string_view text) {
+  const std::size_t length = number_length(text);
+  if (length == 0) return std::nullopt;
+  const std::string number(text.substr(0, length));
+  return LeadingNumber{parse<double>(number), parse<Single>(number), length};
+}
+
+double Val(std::string_view text) {
+  std::string packed;
+  std::copy_if(text.begin(), text.end(), std::back_inserter(packed), [](char c) { return c != ' ' && c != '\t'; });
+  const std::size_t length = number_length(packed);
+  return length == 0 ? 0.0 : parse<double>(packed.substr(0, length));
+}
+
+std::optional<double> strict_number(std::string_view text) {
+  if (text.empty() || number_length(text) != text.size()) return std::nullopt;
+  return parse<double>(std::string(text));
+}
+
+std::string plain_text(Single value) { return plain(to_decimal(value, 7)); }
+std::string plain_text(Double value) { return plain(to_decimal(value, 15)); }
+std::string plain_text(int value) { return std::to_string(value); }
+std::string plain_text(Integer value) { return std::to_string(value.value()); }
+std::string plain_text(Long value) { return std::to_string(value.value()); }
+
+std::string shortest_text(Single value) {
+  std::array<char, 64> text{};
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::scientific);
+  return plain(from_scientific({text.data(), static_cast<std::size_t>(end.ptr - text.data())}));
+}
+
+std::string Format(double value, std::string_view pattern) {
+  const std::size_t point = pattern.find('.');
+  const std::string_view before = pattern.substr(0, point);
+  const std::string_view behind = point == std::string_view::npos ? std::string_view() : pattern.substr(point + 1);
+
+  Parts parts = split(to_decimal(value, 15));
+  round_places(parts, static_cast<std::size_t>(std::count_if(behind.begin(), behind.end(), is_placeholder)));
+  parts.whole.erase(0, std::min(parts.whole.find_first_not_of('0'), parts.whole.size()));
+
+  std::string text = value < 0.0 ? "-" : "";
+  // Before the point: digits are set from the right, and the first placeholder takes all that are left over.
+  std::size_t open = static_cast<std::size_t>(std::count_if(before.begin(), before.end(), is_placeholder));
+  if (open == 0) text += parts.whole;
+  bool zeros = false;
+  bool first = true;
+  for (const char c : before) {
+    if (!is_placeholder(c)) {
+      text += c;
+      continue;
+    }
+    zeros = zeros || c == '0';
+    const std::size_t have = parts.whole.size();
+    if (first && have >= open) {
+      text += parts.whole.substr(0, have - open + 1);
+    } else if (have >= open) {
+      text += parts.whole[have - open];
+    } else if (zeros) {
+      text += '0';
+    }
+    first = false;
+    --open;
+  }
+  if (point == std::string_view::npos) return text;
+
+  // Behind the point: a "#" shows as long as a significant digit or a "0" of the pattern stands at it or behind it.
+  text += '.';
+  const std::size_t significant = parts.fraction.find_last_not_of('0') + 1;  // npos + 1 is 0
+  std::size_t place = 0;
+  for (std::size_t i = 0; i < behind.size(); ++i) {
+    if (!is_placeholder(behind[i])) {
+      text += behind[i];
+      continue;
+    }
+    const bool wanted = place < significant || behind.find('0', i) != std::string_view::npos;
+    if (wanted) text += place < parts.fraction.size() ? parts.fraction[place] : '0';
+    ++place;
+  }
+  return text;
+}
+
+std::string Format(std::string_view text, std::string_view pattern) {
+  const std::size_t first = pattern.find('&');
+  if (first == std::string_view::npos) return std::string(pattern);
+  const std::size_t last = pattern.find_last_of('&');
+  return std::string(pattern.substr(0, first)) + std::string(text) + std::string(pattern.substr(last + 1));
+}
+
+std::string right_field(std::string_view text, std::size_t width) {
+  if (text.size() >= width) return std::string(text.substr(text.size() - width));
+  return std::string(width - text.size(), ' ') + std::string(text);
+}
+
+std::string left_field(std::string_view text, std::size_t width) {
+  std::string field(text.substr(0, width));
+  field.resize(width, ' ');
+  return field;
+}
+
+}  // namespace zol

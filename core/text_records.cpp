@@ -1,0 +1,167 @@
+#include "core/text_records.h"
+
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <system_error>
+
+#include "core/number_text.h"
+#include "core/run_failure.h"
+
+namespace zol {
+namespace {
+
+bool is_blank(char c) { return c == ' ' || c == '\t'; }
+bool is_line_end(char c) { return c == '\r' || c == '\n'; }
+
+std::string quoted_for_message(std::string_view text) {
+  constexpr std::size_t longest = 40;
+  if (text.size() <= longest) return '"' + std::string(text) + '"';
+  return '"' + std::string(text.substr(0, longest)) + "...\"";
+}
+
+}  // namespace
+
+std::string read_file(const std::string& path) {
+  errno = 0;
+  std::error_code error;
+  if (std::filesystem::is_directory(path, error)) throw RunFailure("can't read " + path + ": it is a folder");
+  std::ifstream file(path, std::ios::binary);
+  if (!file) throw RunFailure("can't open " + path + ": " + std::strerror(errno != 0 ? errno : ENOENT));
+  std::ostringstream text;
+  if (file.peek() != std::ifstream::traits_type::eof()) text << file.rdbuf();
+  if (file.bad() || text.bad()) throw RunFailure("can't read " + path);
+  return std::move(text).str();
+}
+
+bool RecordReader::at_end() const {
+  for (std::size_t i = at_; i < text_.size(); ++i) {
+    if (!is_blank(text_[i]) && !is_line_end(text_[i])) return false;
+  }
+  return true;
+}
+
+void RecordReader::fail(const std::string& what) const {
+  throw RunFailure(path_ + ", line " + std::to_string(line_) + ": " + what);
+}
+
+void RecordReader::skip_line_end() {
+  if (text_[at_] == '\r' && at_ + 1 < text_.size() && text_[at_ + 1] == '\n') ++at_;
+  ++at_;
+  ++next_line_;
+}
+
+std::string RecordReader::next_string(std::string_view field) {
+  if (at_end()) {
+    line_ = next_line_;
+    fail("the file ends where " + std::string(field) + " is expected");
+  }
+  while (at_ < text_.size() && is_blank(text_[at_])) ++at_;
+  line_ = next_line_;
+  std::string content;
+  if (at_ < text_.size() && text_[at_] == '"') {
+    const std::size_t close = text_.find('"', at_ + 1);
+    if (close == std::string::npos) fail("the quote before " + std::string(field) + " has no closing quote");
+    content = text_.substr(at_ + 1, close - at_ - 1);
+    at_ = close + 1;
+    for (std::size_t i = 0; i < content.size(); ++i) {
+      const bool crlf = content[i] == '\r' && i + 1 < content.size() && content[i + 1] == '\n';
+      if (is_line_end(content[i]) && !crlf) ++next_line_;
+    }
+    while (at_ < text_.size() && text_[at_] != ',' && !is_line_end(text_[at_])) ++at_;
+  } else {
+    const std::size_t start = at_;
+    while (at_ < text_.size() && text_[at_] != ',' && !is_line_end(text_[at_])) ++at_;
+    content = text_.substr(start, at_ - start);
+  }
+  if (at_ < text_.size()) {
+    if (text_[at_] == ',') {
+      ++at_;
+    } else {
+      skip_line_end();
+    }
+  }
+  return content;
+}
+
+Single RecordReader::next_single(std::string_view field) {
+  const std::string content = next_string(field);
+  const auto number = leading_number(content);
+  if (!number) fail(std::string(field) + " is " + quoted_for_message(content) + ", a number is expected");
+  if (!std::isfinite(number->single)) {
+    fail(std::string(field) + " is " + quoted_for_message(content) + ", too large for a Single (below 3.4E+38)");
+  }
+  return number->single;
+}
+
+Integer RecordReader::next_integer(std::string_view field) {
+  const std::string content = next_string(field);
+  const auto number = leading_number(content);
+  if (!number) fail(std::string(field) + " is " + quoted_for_message(content) + ", a whole number is expected");
+  const double whole = round_half_even(number->value);
+  if (!(whole >= -32768.0 && whole <= 32767.0)) {
+    fail(std::string(field) + " is " + quoted_for_message(content) + ", it must be within -32768 to 32767");
+  }
+  return Integer::rounded(whole);
+}
+
+AtomicFile::AtomicFile(std::string path) : path_(std::move(path)) {
+  std::error_code error;
+  if (std::filesystem::is_directory(path_, error)) throw RunFailure("can't write " + path_ + ": it is a folder");
+  const auto behind_links = std::filesystem::weakly_canonical(path_, error);
+  target_ = error ? path_ : behind_links.string();
+  temporary_ = target_ + ".XXXXXX";
+  const int descriptor = mkstemp(temporary_.data());
+  if (descriptor < 0) {
+    const int reason = errno;
+    temporary_.clear();
+    throw RunFailure("can't write " + path_ + ": " + std::strerror(reason));
+  }
+  // mkstemp makes a private file; the result has the old file's permissions, or those of any new file.
+  struct stat old {};
+  const mode_t mask = umask(0);
+  umask(mask);
+  const mode_t mode = stat(target_.c_str(), &old) == 0 ? old.st_mode & 07777U : 0666U & ~mask;
+  (void)fchmod(descriptor, mode);
+  close(descriptor);
+}
+
+AtomicFile::~AtomicFile() {
+  if (!temporary_.empty()) (void)unlink(temporary_.c_str());
+}
+
+void AtomicFile::commit() {
+  std::ofstream file(temporary_, std::ios::binary | std::ios::trunc);
+  file.write(text_.data(), static_cast<std::streamsize>(text_.size()));
+  file.close();
+  if (!file) throw RunFailure("can't write " + path_ + ": " + std::strerror(errno));
+  if (std::rename(temporary_.c_str(), target_.c_str()) != 0) {
+    throw RunFailure("can't write " + path_ + ": " + std::strerror(errno));
+  }
+  temporary_.clear();
+}
+
+RecordWriter& RecordWriter::raw(std::string_view text) {
+  if (line_begun_) file_.write(",");
+  file_.write(text);
+  line_begun_ = true;
+  return *this;
+}
+
+RecordWriter& RecordWriter::field(std::string_view text) { return raw('"' + std::string(text) + '"'); }
+RecordWriter& RecordWriter::field(Single value) { return raw(shortest_text(value)); }
+RecordWriter& RecordWriter::field(Integer value) { return raw(plain_text(value)); }
+RecordWriter& RecordWriter::field(Long value) { return raw(plain_text(value)); }
+
+void RecordWriter::end_line() {
+  file_.write("\r\n");
+  line_begun_ = false;
+}
+
+}  // namespace zol

@@ -1,0 +1,96 @@
+// Plain text records, the form of all data files: fields separated by a comma or a line end, strings in double quotes.
+//
+// Bytes are Latin-1; CR LF, LF or CR ends a line. Files are written with CR LF, to a temporary file that takes the
+// place of the old one only when it is complete.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/numbers.h"
+
+namespace zol {
+
+/// Bytes of a whole file.
+/// @throws RunFailure  the file is missing or can't be read; the message names the path
+[[nodiscard]] std::string read_file(const std::string& path);
+
+/// Reads fields one after the other, on whatever line they stand. A blank before a field is skipped; a quoted field may
+/// hold commas and loses its quotes; a field read as a number takes the number that it starts with.
+/// The name given with each read stands in the message when the field is missing or no number.
+class RecordReader {
+ public:
+  /// @throws RunFailure  the file is missing or can't be read
+  explicit RecordReader(const std::string& path) : RecordReader(path, read_file(path)) {}
+  /// Reads from a text in memory; the path only names it in messages.
+  RecordReader(std::string path, std::string text) : path_(std::move(path)), text_(std::move(text)) {}
+
+  /// True when nothing but blanks and line ends is left.
+  [[nodiscard]] bool at_end() const;
+
+  /// @throws RunFailure  a read past the end
+  [[nodiscard]] std::string next_string(std::string_view field);
+  /// @throws RunFailure  a read past the end, no number, or one too large for a Single
+  [[nodiscard]] Single next_single(std::string_view field);
+  /// Rounds half to even. @throws RunFailure  a read past the end, no number, or one beyond 16 bits
+  [[nodiscard]] Integer next_integer(std::string_view field);
+
+  /// Line of the field read last, from 1.
+  [[nodiscard]] int line() const { return line_; }
+  [[nodiscard]] const std::string& path() const { return path_; }
+  /// Ends the run with "PATH, line N: " and the text.
+  [[noreturn]] void fail(const std::string& what) const;
+
+ private:
+  void skip_line_end();
+
+  std::string path_;
+  std::string text_;
+  std::size_t at_ = 0;
+  int line_ = 1;       // of the field read last
+  int next_line_ = 1;  // of the next character
+};
+
+/// A file under way: written to a temporary file beside it, renamed over it by commit. Without commit, as when the run
+/// fails, nothing is left and an old file stays as it was.
+class AtomicFile {
+ public:
+  /// @throws RunFailure  the file can't be created; the message names the path
+  explicit AtomicFile(std::string path);
+  AtomicFile(const AtomicFile&) = delete;
+  AtomicFile& operator=(const AtomicFile&) = delete;
+  ~AtomicFile();
+
+  void write(std::string_view text) { text_ += text; }
+  /// @throws RunFailure  the file can't be written or renamed
+  void commit();
+
+ private:
+  std::string path_;       // as the user gave it, for messages
+  std::string target_;     // behind symbolic links
+  std::string temporary_;  // empty when there is none
+  std::string text_;
+};
+
+/// Writes records: fields separated by a comma without blanks, strings quoted, numbers in their shortest plain form.
+class RecordWriter {
+ public:
+  /// @throws RunFailure  the file can't be created
+  explicit RecordWriter(std::string path) : file_(std::move(path)) {}
+
+  RecordWriter& field(std::string_view text);
+  RecordWriter& field(Single value);
+  RecordWriter& field(Integer value);
+  RecordWriter& field(Long value);
+  void end_line();
+  /// Puts the file in its place. @throws RunFailure  it can't be written
+  void commit() { file_.commit(); }
+
+ private:
+  RecordWriter& raw(std::string_view text);
+
+  AtomicFile file_;
+  bool line_begun_ = false;
+};
+
+}  // namespace zol

@@ -1,0 +1,14 @@
+#include "reflections/main1_form.h"
+
+#include "shell/state_names.h"
+
+namespace zol {
+
+Main1Form::Main1Form(Workbench& bench)
+    : Window(window_name, "ZOL "), CommonDialog1(bench.services), state(bench.state) {
+  register_main1_fields(fields(), bench.state);
+}
+
+CrystalState& main1_state(Workbench& bench) { return bench.windows.use<Main1Form>().state; }
+
+}  // namespace zol

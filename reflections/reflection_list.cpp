@@ -1,0 +1,177 @@
+#include "reflections/reflection_list.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "core/cell_geometry.h"
+#include "core/number_text.h"
+#include "reflections/structure_factor.h"
+
+namespace zol {
+namespace {
+
+/// Twice what the sphere needs; the array size follows from it.
+Integer index_limit(Single dmin, Single reciprocal_edge, std::string_view edge_name) {
+  return Integer::floor(divide(divide(2.0, dmin, "Dmin"), reciprocal_edge, edge_name));
+}
+
+/// Upper bound of the arrays: the bounding box, divided by the centring of the lattice.
+Long array_bound(const std::array<Integer, 3>& limits, std::string_view lattice_letter) {
+  const auto span = [&limits](std::size_t axis) { return 2.0 * limits[axis].value() + 1.0; };
+  const Long box = Long::rounded(to_single(span(0) * span(1) * span(2)));
+  if (lattice_letter == "A" || lattice_letter == "B" || lattice_letter == "C" || lattice_letter == "I") {
+    return box.value() / 2;
+  }
+  if (lattice_letter == "F") return box.value() / 4;
+  if (lattice_letter == "R") return box.value() / 3;
+  return box;
+}
+
+void create_arrays(Module1State& state, Long bound) {
+  const int upper = bound.value();
+  state.RefH.allocate(upper);
+  state.RefK.allocate(upper);
+  state.RefL.allocate(upper);
+  state.RefS.allocate(upper);
+  state.RefA.allocate(upper);
+  state.RefB.allocate(upper);
+  state.RefI.allocate(upper);
+  state.RefTwoTheta.allocate(upper);
+  state.BandHKL.allocate(upper, 2);
+}
+
+struct IndexRange {
+  int lowest = 0;
+  int highest = 0;
+};
+
+std::array<IndexRange, 3> index_ranges(const std::array<Integer, 3>& limits, const EnumerationSettings& settings) {
+  std::array<IndexRange, 3> ranges;
+  for (std::size_t axis = 0; axis < 3; ++axis) {
+    const int limit = limits[axis].value();
+    ranges[axis] = {settings.negative[axis] ? -limit : 0, limit};
+    if (const auto& fixed = settings.fixed[axis]) ranges[axis] = {fixed->value(), fixed->value()};
+  }
+  return ranges;
+}
+
+bool odd(int n) { return n % 2 != 0; }
+
+bool centring_allows(char lattice_letter, int h, int k, int l) {
+  switch (lattice_letter) {
+    case 'A':
+      return !odd(k + l);
+    case 'B':
+      return !odd(h + l);
+    case 'C':
+      return !odd(h + k);
+    case 'I':
+      return !odd(h + k + l);
+    case 'F':
+      return !odd(h + k) && !odd(k + l) && !odd(h + l);
+    case 'R':  // obverse setting, hexagonal axes
+      return (-h + k + l) % 3 == 0;
+    default:
+      return true;
+  }
+}
+
+bool selection_allows(const EnumerationSettings& settings, int h, int k) {
+  const auto keeps = [](bool zero_wanted, bool other_wanted, int n) {
+    return !(zero_wanted && n % 3 != 0) && !(other_wanted && n % 3 == 0);
+  };
+  return keeps(settings.k_mod_3_zero, settings.k_mod_3_not_zero, k) &&
+         keeps(settings.h_minus_k_mod_3_zero, settings.h_minus_k_mod_3_not_zero, h - k) &&
+         keeps(settings.h_mod_3_zero, settings.h_mod_3_not_zero, h);
+}
+
+void append_reflection(CrystalState& state, int h, int k, int l, Single length) {
+  state.RefCount += 1;
+  const int i = state.RefCount.value();
+  state.RefH(i) = h;
+  state.RefK(i) = k;
+  state.RefL(i) = l;
+  state.RefS(i) = to_single(double{length} / 2.0);
+}
+
+/// Sets RefTwoTheta(i). @returns the Bragg angle in radians, none when there is none
+std::optional<Single> set_angle(CrystalState& state, int i) {
+  const Single sine = to_single(double{state.RefS(i)} * double{state.WaveLength});
+  if (state.WaveLength == 0 || std::abs(sine) >= 1) {
+    state.RefTwoTheta(i) = 0;
+    return std::nullopt;
+  }
+  const double theta_deg = ArcSin(sine);
+  state.RefTwoTheta(i) = to_single(theta_deg + theta_deg);
+  return to_single(double{state.RefTwoTheta(i)} / 2.0 * degree);
+}
+
+/// The columns h, k, l, k/2, d and 2-theta.
+std::string geometry_columns(const CrystalState& state, int i, bool has_angle) {
+  constexpr std::string_view index_pattern = "##0";
+  const double s = state.RefS(i);
+  std::string line = right_field(Format(state.RefH(i).value(), index_pattern), 4);
+  line += right_field(Format(state.RefK(i).value(), index_pattern), 4);
+  line += right_field(Format(state.RefL(i).value(), index_pattern), 4);
+  line += right_field(Format(s, "##0.000"), 8);
+  line += right_field(s > 0.0 ? Format(1.0 / s / 2.0, "#0.0000") : "", 9);
+  line += right_field(has_angle ? Format(state.RefTwoTheta(i), " ##0.000") : "", 8);
+  return line;
+}
+
+}  // namespace
+
+void enumerate_reflections(CrystalState& state, const EnumerationSettings& settings) {
+  const std::array limits{index_limit(state.Dmin, state.AStar, "a*"), index_limit(state.Dmin, state.BStar, "b*"),
+                          index_limit(state.Dmin, state.CStar, "c*")};
+  create_arrays(state, array_bound(limits, state.LatticeLetter));
+  const auto [h_range, k_range, l_range] = index_ranges(limits, settings);
+  const Single sphere = to_single(divide(1.0, state.Dmin, "Dmin"));
+  const char letter = state.LatticeLetter.empty() ? 'P' : state.LatticeLetter.front();
+
+  state.RefCount = 0;
+  for (int h = h_range.lowest; h <= h_range.highest; ++h) {
+    for (int k = k_range.lowest; k <= k_range.highest; ++k) {
+      if (!selection_allows(settings, h, k)) continue;
+      for (int l = l_range.lowest; l <= l_range.highest; ++l) {
+        if ((h == 0 && k == 0 && l == 0) || !centring_allows(letter, h, k, l)) continue;
+        const Single length = DHKL(state, h, k, l);
+        if (sphere >= length) append_reflection(state, h, k, l, length);
+      }
+    }
+  }
+  if (state.KikuchiRefLimit == 0 || state.KikuchiRefLimit > state.RefCount) state.KikuchiRefLimit = state.RefCount;
+}
+
+void sort_by_s(CrystalState& state) {
+  const int count = state.RefCount.value();
+  int smallest = 0;  // stays from round to round; a value of 1000 or more is never taken
+  for (int place = 1; place <= count - 1; ++place) {
+    Single best = 1000;
+    for (int i = place; i <= count; ++i) {
+      if (state.RefS(i) < best) {
+        best = state.RefS(i);
+        smallest = i;
+      }
+    }
+    std::swap(state.RefS(place), state.RefS(smallest));
+    std::swap(state.RefH(place), state.RefH(smallest));
+    std::swap(state.RefK(place), state.RefK(smallest));
+    std::swap(state.RefL(place), state.RefL(smallest));
+  }
+}
+
+std::vector<std::string> compute_list(CrystalState& state, const Radiation& radiation) {
+  const ObservedReflections observed(state);
+  std::vector<std::string> lines;
+  for (int i = 1; i <= state.RefCount.value(); ++i) {
+    const auto theta = set_angle(state, i);
+    std::string line = geometry_columns(state, i, theta.has_value());
+    ReflectionIntensity(state, i, theta.value_or(0.0F), radiation, observed, line);
+    if (state.RefI(i) > 0 || state.NAtom >= 1) lines.push_back(std::move(line));
+  }
+  return lines;
+}
+
+}  // namespace zol

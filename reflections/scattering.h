@@ -1,0 +1,30 @@
+// Atomic scattering factors, for X-rays from a table of four Gaussians and a constant, for electrons from those of
+// X-rays. s is sin(theta)/lambda in inverse angstroms throughout.
+//
+// Sources: International Tables for Crystallography C (2004) 6.1.1.4 for the form of the table; Mott & Bethe as in
+// International Tables C 4.3.1, f_el = 0.023934 (Z - f_x) / s^2 in angstroms.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/crystal_state.h"
+
+namespace zol {
+
+/// What the structure factors are made for: the two option buttons of the main window.
+struct Radiation {
+  bool xray = false;      ///< X-ray intensity
+  bool electron = false;  ///< electron intensity and electron scattering factors
+};
+
+/// Reads a table to the end of its file, rows from 1. One record has 11 fields: element, A1, B1, ... A4, B4, C, Z.
+/// @returns the number of rows
+/// @throws RunFailure  the file is missing, a record is broken, or there are more than 300 rows
+Integer read_scatter_table(const std::string& path, BoundedArray<AsfRow>& table);
+
+/// Scattering factor of an element: electrons in units of angstroms times MassRatio, X-rays (and electrons at s = 0) in
+/// electrons. An element without a row gives 0 and sets ScatterMissing.
+[[nodiscard]] Single AtomicScatter(Main1State& state, std::string_view element, Single s, const Radiation& radiation);
+
+}  // namespace zol

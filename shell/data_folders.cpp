@@ -1,0 +1,119 @@
+#include "shell/data_folders.h"
+
+#include <cstdlib>
+#include <filesystem>
+#include <sstream>
+
+#include "core/run_failure.h"
+#include "core/text_records.h"
+
+namespace zol {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(" \t\r");
+  if (first == std::string_view::npos) return "";
+  return std::string(text.substr(first, text.find_last_not_of(" \t\r") - first + 1));
+}
+
+bool is_file(const std::string& path) {
+  std::error_code error;
+  return !path.empty() && fs::is_regular_file(path, error);
+}
+
+bool is_folder(const fs::path& path) {
+  std::error_code error;
+  return !path.empty() && fs::is_directory(path, error);
+}
+
+DataRoot below(const std::string& folder) {
+  return {(fs::path(folder) / "ZOL").string(), (fs::path(folder) / "ZOLDATA").string()};
+}
+
+std::string environment(const char* name) {
+  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): one thread
+  return value == nullptr ? "" : value;
+}
+
+/// A folder of the user by the XDG base directory rules.
+fs::path user_folder(const char* variable, const char* below_home) {
+  if (const std::string given = environment(variable); !given.empty()) return fs::path(given) / "zol";
+  const std::string home = environment("HOME");
+  return home.empty() ? fs::path() : fs::path(home) / below_home / "zol";
+}
+
+void copy_data(const std::string& from, const std::string& to) {
+  std::error_code error;
+  fs::create_directories(to, error);
+  if (!error) fs::copy(from, to, fs::copy_options::recursive | fs::copy_options::skip_existing, error);
+  if (error) throw RunFailure("can't copy the data files from " + from + " to " + to + ": " + error.message());
+}
+
+}  // namespace
+
+DataRoot data_root_at(const std::string& folder) {
+  std::error_code error;
+  fs::path root = fs::absolute(folder, error).lexically_normal();
+  if (!root.has_filename()) root = root.parent_path();
+  return {root.string(), (root.parent_path() / "ZOLDATA").string()};
+}
+
+DataRoot read_data_settings(const std::string& path) {
+  std::istringstream lines(read_file(path));
+  const fs::path folder = fs::path(path).parent_path();
+  DataRoot data;
+  std::string line;
+  for (int number = 1; std::getline(lines, line); ++number) {
+    const std::string text = trimmed(line);
+    if (text.empty() || text.front() == '#') continue;
+    const std::size_t equals = text.find('=');
+    const std::string key = trimmed(text.substr(0, equals));
+    const std::string value = equals == std::string::npos ? "" : trimmed(text.substr(equals + 1));
+    if (value.empty() || (key != "data_root" && key != "crystal_folder")) {
+      throw RunFailure(path + ", line " + std::to_string(number) + R"(: ")" + text +
+                       R"(" should be "data_root = FOLDER" or "crystal_folder = FOLDER")");
+    }
+    (key == "data_root" ? data.root : data.crystal_folder) = (folder / value).lexically_normal().string();
+  }
+  if (data.root.empty()) throw RunFailure(path + R"(: a line "data_root = FOLDER" is missing)");
+  if (data.crystal_folder.empty()) data.crystal_folder = data_root_at(data.root).crystal_folder;
+  return data;
+}
+
+DataRoot find_data_root(const DataPlaces& places) {
+  if (is_file(places.beside_executable)) return read_data_settings(places.beside_executable);
+  if (is_file(places.user_settings)) return read_data_settings(places.user_settings);
+  if (is_folder(places.source_data)) return below(places.source_data);
+  if (!places.user_data.empty() && is_folder(fs::path(places.user_data) / "ZOL")) return below(places.user_data);
+  if (is_folder(places.installed_data) && !places.user_data.empty()) {
+    copy_data(places.installed_data, places.user_data);
+    return below(places.user_data);
+  }
+  throw RunFailure("no data files found: neither in " + places.user_data + " nor in " + places.installed_data +
+                   "; name their folder in " + places.user_settings + R"( with "data_root = FOLDER")");
+}
+
+DataPlaces data_places() {
+  std::error_code error;
+  const fs::path executable = fs::read_symlink("/proc/self/exe", error);
+  const fs::path folder = executable.parent_path();
+  DataPlaces places;
+  if (!error) {
+    places.beside_executable = (folder / "zol.conf").string();
+    places.installed_data = (folder.parent_path() / "share" / "zol").string();
+  }
+  if (const fs::path settings = user_folder("XDG_CONFIG_HOME", ".config"); !settings.empty()) {
+    places.user_settings = (settings / "zol.conf").string();
+  }
+  if (const fs::path data = user_folder("XDG_DATA_HOME", ".local/share"); !data.empty())
+    places.user_data = data.string();
+  // A program in a build folder serves the tree that it was built from.
+  if (is_file((folder / "CMakeCache.txt").string()) || is_file((folder.parent_path() / "CMakeCache.txt").string())) {
+    places.source_data = ZOL_SOURCE_DIR "/data";
+  }
+  return places;
+}
+
+}  // namespace zol

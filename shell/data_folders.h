@@ -1,0 +1,35 @@
+// Which folders stand for the data root and the crystal folder on this machine.
+#pragma once
+
+#include <string>
+
+#include "core/data_root.h"
+
+namespace zol {
+
+/// A data root given by the user; crystals are then in the folder ZOLDATA beside it.
+[[nodiscard]] DataRoot data_root_at(const std::string& folder);
+
+/// Places to look at; each may be empty.
+struct DataPlaces {
+  std::string beside_executable;  ///< zol.conf of a portable folder
+  std::string user_settings;      ///< zol.conf of the user
+  std::string source_data;        ///< "data" of the source tree, for a program run from its build
+  std::string installed_data;     ///< read-only copy of the installation
+  std::string user_data;          ///< the user's own copy of it
+};
+
+/// The first of: zol.conf beside the executable, the user's zol.conf, the source tree, the user's own copy of the
+/// installed data, which the first start makes so that files can be saved.
+/// @throws RunFailure  a broken zol.conf, or no data anywhere
+[[nodiscard]] DataRoot find_data_root(const DataPlaces& places);
+
+/// The places of this executable for this user.
+[[nodiscard]] DataPlaces data_places();
+
+/// Reads "data_root = PATH" and "crystal_folder = PATH"; lines with "#" at the head are comments; relative paths start
+/// at the folder of the file.
+/// @throws RunFailure  a line of another form, or no data_root
+[[nodiscard]] DataRoot read_data_settings(const std::string& path);
+
+}  // namespace zol

@@ -1,0 +1,68 @@
+// Drives the program by a text of operations, one a line, instead of a mouse and a keyboard.
+#pragma once
+
+#include <exception>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "shell/program.h"
+#include "shell/script/script_services.h"
+
+namespace zol {
+
+/// An operation that can't be read or names no control.
+class ScriptError : public std::exception {
+ public:
+  explicit ScriptError(std::string message) : message_(std::move(message)) {}
+  [[nodiscard]] const char* what() const noexcept override { return message_.c_str(); }
+
+ private:
+  std::string message_;
+};
+
+/// Words of a line: separated by blanks; a word in double quotes may hold blanks, and in it \" \\ \n \r \t \b stand for
+/// the character; "#" outside quotes begins a comment.
+/// @throws ScriptError  an open quote or an unknown backslash
+[[nodiscard]] std::vector<std::string> split_words(const std::string& line);
+
+/// The drawing list of a picture as text, one primitive a line.
+[[nodiscard]] std::vector<std::string> drawing_text(const Canvas& canvas);
+
+class ScriptDriver {
+ public:
+  ScriptDriver(Program& program, ScriptServices& services, std::ostream& output)
+      : program_(program), services_(services), output_(output) {}
+
+  /// Runs the operations to the end of the text or of the program.
+  /// @throws ScriptError  with the line number
+  /// @throws RunFailure, UnansweredQuestion  from the program
+  void run(std::istream& script);
+
+  /// Runs one operation.
+  void execute(const std::vector<std::string>& words);
+
+ private:
+  using Words = std::vector<std::string>;
+  struct Operation;
+  static const std::vector<Operation>& operations();
+
+  template <class Kind>
+  Kind& control(const std::string& name);
+  Control& any_control(const std::string& name);
+  void type(const Words& words);
+  void click(const Words& words);
+  void select(const Words& words);
+  void choose(const Words& words);
+  void print(const Words& words);
+  void print_control(Control& shown);
+  void print_value(const std::string& owner, const NamedValues& values, const std::string& name);
+  void call(const Words& words);
+  void print_pages();
+
+  Program& program_;
+  ScriptServices& services_;
+  std::ostream& output_;
+};
+
+}  // namespace zol

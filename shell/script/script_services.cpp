@@ -1,0 +1,26 @@
+#include "shell/script/script_services.h"
+
+#include <ostream>
+
+namespace zol {
+
+std::string ScriptServices::next_answer(const std::string& question) {
+  if (answers_.empty()) throw UnansweredQuestion(question);
+  std::string answer = std::move(answers_.front());
+  answers_.pop_front();
+  return answer;
+}
+
+std::string ScriptServices::ask_file(const FileQuestion& question) {
+  return next_answer(question.save ? "the name of a file to save" : "the name of a file to open");
+}
+
+std::string ScriptServices::prompt(const std::string& text, const std::string& title) {
+  return next_answer(text + " (" + title + ")");
+}
+
+void ScriptServices::message(const std::string& text, const std::string& title) {
+  output_ << "message \"" << text << "\" \"" << title << "\"\n";
+}
+
+}  // namespace zol

@@ -1,0 +1,91 @@
+// What the program asks of its surroundings: questions to the user, the printer, pixels, and its own end.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/numbers.h"
+
+namespace zol {
+
+class Window;
+class Surface;
+
+struct FileQuestion {
+  bool save = false;
+  std::string initial_folder;
+  std::string file_name;  ///< preset
+  std::string filter;     ///< "name|*.ending|", may be empty
+};
+
+class Services {
+ public:
+  Services() = default;
+  Services(const Services&) = delete;
+  Services& operator=(const Services&) = delete;
+  virtual ~Services() = default;
+
+  /// Asks for a path, modal. @returns the full path, empty when the user cancelled
+  virtual std::string ask_file(const FileQuestion& question) = 0;
+  /// Shows the printer set-up dialog; the choice applies to the next printed window.
+  virtual void set_up_printer() = 0;
+  /// Asks for a text, modal. @returns the empty text when the user cancelled
+  virtual std::string prompt(const std::string& text, const std::string& title) = 0;
+  /// Tells something, with an exclamation icon, modal.
+  virtual void message(const std::string& text, const std::string& title) = 0;
+
+  virtual void print_line(const std::string& line) = 0;  ///< one line of the document under way
+  virtual void end_document() = 0;                       ///< sends it
+  virtual void print_window(Window& window) = 0;
+
+  /// A pixel image; nullptr where there are none.
+  virtual std::unique_ptr<Surface> make_surface(int width, int height) = 0;
+
+  /// Ends the program once the running handler has returned; no further event comes in.
+  virtual void end_program() = 0;
+};
+
+/// The file dialog of a window.
+class FileDialog {
+ public:
+  explicit FileDialog(Services& services) : services_(services) {}
+
+  void set_initial_folder(std::string folder) { question_.initial_folder = std::move(folder); }
+  void set_file_name(std::string name) { question_.file_name = std::move(name); }
+  void set_filter(std::string filter) { question_.filter = std::move(filter); }
+
+  /// Each returns the full path, empty when the user cancelled.
+  const std::string& open() { return ask(false); }
+  const std::string& save() { return ask(true); }
+  void printer_setup() { services_.set_up_printer(); }
+
+  [[nodiscard]] const std::string& file_name() const { return question_.file_name; }  ///< full path of the last answer
+  [[nodiscard]] std::string file_title() const;                                       ///< the name without folder
+
+ private:
+  const std::string& ask(bool save) {
+    question_.save = save;
+    return question_.file_name = services_.ask_file(question_);
+  }
+
+  Services& services_;
+  FileQuestion question_;
+};
+
+/// Collects a printed line: print zones of 14 columns, each value starts at the next zone; a number is its Str and a
+/// blank.
+class PrintLine {
+ public:
+  PrintLine& add(std::string_view text);
+  PrintLine& add(Single value);
+  PrintLine& add(Integer value);
+  [[nodiscard]] const std::string& text() const { return text_; }
+
+ private:
+  std::string text_;
+  std::size_t next_zone_ = 0;
+};
+
+}  // namespace zol
