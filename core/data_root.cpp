@@ -16,7 +16,7 @@ bool same_but_for_case(std::string_view a, std::string_view b) {
 
 fs::path entry_of(const fs::path& folder, const std::string& name) {
   std::error_code error;
-  const fs::path exact = folder / name;
+  fs::path exact = folder / name;
   if (fs::exists(exact, error)) return exact;
   for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
     if (same_but_for_case(entry->path().filename().string(), name)) return entry->path();

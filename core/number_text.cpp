@@ -195,7 +195,7 @@ std::string Format(double value, std::string_view pattern) {
 
   std::string text = value < 0.0 ? "-" : "";
   // Before the point: digits are set from the right, and the first placeholder takes all that are left over.
-  std::size_t open = static_cast<std::size_t>(std::count_if(before.begin(), before.end(), is_placeholder));
+  auto open = static_cast<std::size_t>(std::count_if(before.begin(), before.end(), is_placeholder));
   if (open == 0) text += parts.whole;
   bool zeros = false;
   bool first = true;

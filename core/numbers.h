@@ -75,7 +75,7 @@ class CheckedInt {
   constexpr CheckedInt& operator-=(CheckedInt b) { return *this = *this - b; }
 
   friend constexpr bool operator==(CheckedInt a, CheckedInt b) = default;
-  friend constexpr auto operator<=>(CheckedInt a, CheckedInt b) = default;
+  friend constexpr auto operator<=>(CheckedInt a, CheckedInt b) = default;  // NOLINT(modernize-use-nullptr)
   friend constexpr bool operator==(CheckedInt a, int b) { return a.wide() == b; }
   friend constexpr auto operator<=>(CheckedInt a, int b) { return a.wide() <=> static_cast<std::int64_t>(b); }
 

@@ -95,15 +95,15 @@ struct Term {
 std::array<Term, 3> parse_row(std::string_view row) {
   std::array<Term, 3> terms;
   std::size_t place = 0;
-  for (std::size_t at = 0; at < row.size(); ++at) {
-    if (row[at] == ' ') {
+  for (const char c : row) {
+    if (c == ' ') {
       ++place;
-    } else if (row[at] == '-') {
-      terms.at(place).sign = terms.at(place).sign == 0 ? 0 : -1;
-    } else if (row[at] == '+') {
+    } else if (c == '-') {
+      terms.at(place).sign = terms.at(place).sign == 0 ? 0 : -1;  // the second half of "+-"
+    } else if (c == '+') {
       terms.at(place).sign = 0;
     } else {
-      terms.at(place).index = row[at];
+      terms.at(place).index = c;
     }
   }
   return terms;

@@ -23,8 +23,6 @@ struct PixelMap {
         per_y(height / (scale.bottom - scale.top)) {}
   [[nodiscard]] double x(double user) const { return (user - left) * per_x; }
   [[nodiscard]] double y(double user) const { return (user - top) * per_y; }
-  [[nodiscard]] double radius_x(double user) const { return std::abs(user * per_x); }
-  [[nodiscard]] double radius_y(double user) const { return std::abs(user * per_y); }
   double left, top, per_x, per_y;
 };
 
@@ -234,8 +232,8 @@ void Canvas::paint(Surface& surface, const UserScale& scale, const Primitive& pr
   if (const auto* line = std::get_if<DrawnLine>(&primitive.what)) {
     surface.line(map.x(line->x1), map.y(line->y1), map.x(line->x2), map.y(line->y2), line->colour);
   } else if (const auto* circle = std::get_if<DrawnCircle>(&primitive.what)) {
-    surface.ellipse(map.x(circle->x), map.y(circle->y), map.radius_x(circle->radius), map.radius_y(circle->radius),
-                    circle->colour, circle->fill);
+    surface.circle(map.x(circle->x), map.y(circle->y), std::abs(circle->radius * map.per_x), circle->colour,
+                   circle->fill);
   } else if (const auto* point = std::get_if<DrawnPoint>(&primitive.what)) {
     const auto column = pixel_index(map.x(point->x));
     const auto row = pixel_index(map.y(point->y));

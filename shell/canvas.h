@@ -31,8 +31,7 @@ class Surface {
   virtual void fill(Colour colour) = 0;
   virtual void make_transparent() = 0;
   virtual void line(double x1, double y1, double x2, double y2, Colour colour) = 0;
-  virtual void ellipse(double x, double y, double radius_x, double radius_y, Colour outline,
-                       std::optional<Colour> fill) = 0;
+  virtual void circle(double x, double y, double radius, Colour outline, std::optional<Colour> fill) = 0;
   virtual void set_pixel(int x, int y, Colour colour) = 0;
   [[nodiscard]] virtual std::optional<Colour> pixel(int x, int y) const = 0;  ///< none where transparent
   virtual void text(double x, double y, const std::string& text, Colour colour, double font_size_pt) = 0;
@@ -88,7 +87,8 @@ class Canvas : public Control {
   void move_to(double x, double y);  ///< sets the drawing position
   void line(double x1, double y1, double x2, double y2, std::optional<Colour> colour = {});
   void line_to(double x, double y, std::optional<Colour> colour = {});
-  /// Radius in units of x. Leaves the drawing position at the centre.
+  /// A circle also where the two scales differ: the radius counts in units of x. Leaves the drawing position at the
+  /// centre.
   void circle(double x, double y, double radius, std::optional<Colour> colour = {});
   void set_point(double x, double y, std::optional<Colour> colour = {});
   /// Colour of the pixel, -1 outside the picture. @throws RunFailure  there are no pixels here

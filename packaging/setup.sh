@@ -1,0 +1,38 @@
+# Sourced by ./run and ./test: installs what is missing on a Debian machine.
+
+build_packages="cmake ninja-build g++ libgtest-dev libbenchmark-dev"
+style_packages="clang-format-14 clang-tidy-14"
+
+# Installs the packages among the arguments that are not there, and says so.
+ensure_packages() {
+  local missing=()
+  local package
+  for package in "$@"; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' || missing+=("$package")
+  done
+  [ ${#missing[@]} -eq 0 ] && return 0
+
+  local as_root=()
+  if [ "$(id -u)" -ne 0 ]; then
+    command -v sudo >/dev/null || { echo "These packages are missing and there is no sudo: ${missing[*]}" >&2; return 1; }
+    as_root=(sudo)
+  fi
+  echo "Installing ${missing[*]}"
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+}
+
+# Configures a preset unless that is done, and builds it; the compiler's messages show only when something fails.
+build_preset() {
+  local preset=$1 folder=$2
+  local log
+  log=$(mktemp)
+  [ -f "$folder/build.ninja" ] || echo "Building in $folder (the first time takes some minutes)"
+  if ! { [ -f "$folder/build.ninja" ] || cmake --preset "$preset"; } >"$log" 2>&1 ||
+     ! cmake --build --preset "$preset" >>"$log" 2>&1; then
+    cat "$log" >&2
+    rm -f "$log"
+    return 1
+  fi
+  rm -f "$log"
+}

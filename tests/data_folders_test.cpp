@@ -1,0 +1,55 @@
+#include "shell/data_folders.h"
+
+#include <gtest/gtest.h>
+
+#include "core/run_failure.h"
+#include "tests/test_files.h"
+
+namespace zol {
+namespace {
+
+TEST(DataFolders, AreTakenFromTheFirstPlaceThatHasThem) {
+  const ScratchFolder folder;
+  DataPlaces places;
+  places.installed_data = folder.path("share");
+  places.user_data = folder.path("home/data");
+  places.user_settings = folder.path("home/zol.conf");
+  EXPECT_NE(failure_of([&] { (void)find_data_root(places); }).find("no data files found"), std::string::npos);
+
+  folder.write("share/ZOL/Camera_Parameters_New", "shipped");
+  folder.write("share/ZOLDATA/NaCl.cry", "shipped");
+  EXPECT_EQ(find_data_root(places).root, folder.path("home/data/ZOL")) << "the first start makes a copy";
+  EXPECT_EQ(folder.read("home/data/ZOL/Camera_Parameters_New"), "shipped");
+  folder.write("home/data/ZOLDATA/NaCl.cry", "mine");
+  EXPECT_EQ(find_data_root(places).crystal_folder, folder.path("home/data/ZOLDATA"));
+  EXPECT_EQ(folder.read("home/data/ZOLDATA/NaCl.cry"), "mine") << "later starts leave it alone";
+
+  folder.write("source/ZOL/x", "");
+  places.source_data = folder.path("source");
+  EXPECT_EQ(find_data_root(places).root, folder.path("source/ZOL"));
+  folder.write("home/zol.conf", "# mine\n data_root = elsewhere/ZOL \r\n");
+  EXPECT_EQ(find_data_root(places).root, folder.path("home/elsewhere/ZOL"));
+  EXPECT_EQ(find_data_root(places).crystal_folder, folder.path("home/elsewhere/ZOLDATA"));
+  places.beside_executable = folder.write("bin/zol.conf", "crystal_folder = /crystals\ndata_root = /abs/ZOL\n");
+  EXPECT_EQ(find_data_root(places).root, "/abs/ZOL");
+  EXPECT_EQ(find_data_root(places).crystal_folder, "/crystals");
+}
+
+TEST(DataFolders, SettingsNameTheLineThatIsWrong) {
+  const ScratchFolder folder;
+  for (const auto* text : {"\ndata_rot = x\n", "\ndata_root x\n", "\ndata_root =\n"}) {
+    const auto path = folder.write("zol.conf", text);
+    EXPECT_NE(failure_of([&] { (void)read_data_settings(path); }).find("zol.conf, line 2: "), std::string::npos)
+        << text;
+  }
+  const auto path = folder.write("zol.conf", "crystal_folder = x\n");
+  EXPECT_NE(failure_of([&] { (void)read_data_settings(path); }).find("is missing"), std::string::npos);
+}
+
+TEST(DataFolders, GivenRootHasItsCrystalsBesideIt) {
+  EXPECT_EQ(data_root_at("/a/b/data/").root, "/a/b/data");
+  EXPECT_EQ(data_root_at("/a/b/data/").crystal_folder, "/a/b/ZOLDATA");
+}
+
+}  // namespace
+}  // namespace zol
