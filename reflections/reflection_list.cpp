@@ -20,12 +20,11 @@ Integer index_limit(Single dmin, Single reciprocal_edge, std::string_view edge_n
 Long array_bound(const std::array<Integer, 3>& limits, std::string_view lattice_letter) {
   const auto span = [&limits](std::size_t axis) { return 2.0 * limits[axis].value() + 1.0; };
   const Long box = Long::rounded(to_single(span(0) * span(1) * span(2)));
-  if (lattice_letter == "A" || lattice_letter == "B" || lattice_letter == "C" || lattice_letter == "I") {
-    return box.value() / 2;
-  }
-  if (lattice_letter == "F") return box.value() / 4;
-  if (lattice_letter == "R") return box.value() / 3;
-  return box;
+  int centring = 1;
+  if (lattice_letter == "A" || lattice_letter == "B" || lattice_letter == "C" || lattice_letter == "I") centring = 2;
+  if (lattice_letter == "R") centring = 3;
+  if (lattice_letter == "F") centring = 4;
+  return Long::rounded(to_single(box.value() / centring));  // the size is held in a Single
 }
 
 void create_arrays(Module1State& state, Long bound) {

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
+#include <new>
 #include <optional>
 #include <string>
 
@@ -92,6 +93,8 @@ int main(int argc, char** argv) {
     run(arguments, file.is_open() ? static_cast<std::istream&>(file) : std::cin);
   } catch (const zol::RunFailure& failure) {
     return stop(run_failed, "failure of the run: " + failure.message());
+  } catch (const std::bad_alloc&) {
+    return stop(run_failed, "failure of the run: not enough memory");
   } catch (const zol::ScriptError& error) {
     return stop(script_wrong, error.what());
   } catch (const zol::UnansweredQuestion& question) {

@@ -3,11 +3,10 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <utility>
-#include <vector>
-
 #include <gemmi/c4322.hpp>
 #include <gemmi/levmar.hpp>
+#include <utility>
+#include <vector>
 
 #include "core/text_records.h"
 
@@ -26,8 +25,8 @@ struct Term {
 
 using Gaussians = gemmi::C4322<double>::Coef;
 
-/// Point and model in the shape that gemmi's least squares ask for. The parameters are a1, ln b1, ... a4, ln b4, so that
-/// no exponent turns negative.
+/// Point and model in the shape that gemmi's least squares ask for. The parameters are a1, ln b1, ... a4, ln b4, so
+/// that no exponent turns negative.
 struct Point {
   double s_squared = 0.0;
   double factor = 0.0;

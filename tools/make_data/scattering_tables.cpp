@@ -1,9 +1,8 @@
 #include "tools/make_data/scattering_tables.h"
 
 #include <array>
-#include <vector>
-
 #include <gemmi/it92.hpp>
+#include <vector>
 
 #include "core/text_records.h"
 

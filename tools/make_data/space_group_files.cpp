@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <string_view>
-
 #include <gemmi/symmetry.hpp>
+#include <string_view>
 
 #include "core/text_records.h"
 
@@ -49,15 +48,24 @@ struct Setting {
 };
 
 constexpr std::array settings{
-    Setting{"MONO", "P21/n", "P 1 21/n 1"},     Setting{"MONO", "P21/a", "P 1 21/a 1"},
-    Setting{"MONO", "P2/n", "P 1 2/n 1"},       Setting{"MONO", "A2/a", "A 1 2/a 1"},
-    Setting{"MONO", "I2/a", "I 1 2/a 1"},       Setting{"MONO", "I2/m", "I 1 2/m 1"},
-    Setting{"MONO", "A2/m", "A 1 2/m 1"},       Setting{"MONOC", "P1121/b", "P 1 1 21/b"},
-    Setting{"MONOC", "B112/b", "B 1 1 2/b"},    Setting{"RHOMB", "P(R-3m)", "R -3 m:R"},
-    Setting{"TRICL", "C1", "C 1"},              Setting{"TRICL", "C-1", "C -1"},
-    Setting{"TRICL", "I-1", "I -1"},            Setting{"ORTHO", "Pbnm", "P b n m"},
-    Setting{"ORTHO", "Pmcn", "P m c n"},        Setting{"ORTHO", "Pmnb", "P m n b"},
-    Setting{"ORTHO", "Bmab", "B m a b"},        Setting{"TETRA", "I41/amd:1", "I 41/a m d:1"},
+    Setting{"MONO", "P21/n", "P 1 21/n 1"},
+    Setting{"MONO", "P21/a", "P 1 21/a 1"},
+    Setting{"MONO", "P2/n", "P 1 2/n 1"},
+    Setting{"MONO", "A2/a", "A 1 2/a 1"},
+    Setting{"MONO", "I2/a", "I 1 2/a 1"},
+    Setting{"MONO", "I2/m", "I 1 2/m 1"},
+    Setting{"MONO", "A2/m", "A 1 2/m 1"},
+    Setting{"MONOC", "P1121/b", "P 1 1 21/b"},
+    Setting{"MONOC", "B112/b", "B 1 1 2/b"},
+    Setting{"RHOMB", "P(R-3m)", "R -3 m:R"},
+    Setting{"TRICL", "C1", "C 1"},
+    Setting{"TRICL", "C-1", "C -1"},
+    Setting{"TRICL", "I-1", "I -1"},
+    Setting{"ORTHO", "Pbnm", "P b n m"},
+    Setting{"ORTHO", "Pmcn", "P m c n"},
+    Setting{"ORTHO", "Pmnb", "P m n b"},
+    Setting{"ORTHO", "Bmab", "B m a b"},
+    Setting{"TETRA", "I41/amd:1", "I 41/a m d:1"},
     Setting{"CUBIC", "Fd3m:1", "F d -3 m:1"},
 };
 

@@ -6,12 +6,11 @@
 #include <array>
 #include <complex>
 #include <cstdio>
-#include <string>
-
 #include <gemmi/it92.hpp>
 #include <gemmi/sfcalc.hpp>
 #include <gemmi/small.hpp>
 #include <gemmi/symmetry.hpp>
+#include <string>
 
 #include "core/crystal_file.h"
 #include "core/number_text.h"
