@@ -10,9 +10,9 @@
 
 namespace zol {
 
-class Window;
+class Canvas;
 class Surface;
-
+class Window;
 struct FileQuestion {
   bool save = false;
   std::string initial_folder;
@@ -41,7 +41,10 @@ class Services {
   virtual void print_window(Window& window) = 0;
 
   /// A pixel image; nullptr where there are none.
-  virtual std::unique_ptr<Surface> make_surface(int width, int height) = 0;
+  virtual std::unique_ptr<Surface> make_surface(
+      int width,
+      int height) = 0;  /// Writes a picture with its overlay to a file; the kind by the ending: .bmp, .png, .svg, .pdf.
+  virtual void export_picture(Canvas& canvas, const std::string& path) = 0;
 
   /// Ends the program once the running handler has returned; no further event comes in.
   virtual void end_program() = 0;

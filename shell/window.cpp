@@ -32,7 +32,7 @@ void Window::set_mouse_pointer(MousePointer pointer) {
 
 void Window::show() {
   visible_ = true;
-  if (view_ != nullptr) view_->window_changed(*this);
+  if (view_ != nullptr) view_->window_shown(*this);
   on_activate.fire(name_ + " was shown");
 }
 

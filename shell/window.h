@@ -65,6 +65,7 @@ class WindowView {
   WindowView& operator=(const WindowView&) = delete;
   virtual ~WindowView() = default;
   virtual void window_created(Window& window) = 0;  ///< before its Form_Load
+  virtual void window_shown(Window& window) = 0;    ///< also when it stood already: it comes to the front
   virtual void window_changed(Window& window) = 0;  ///< caption, visibility, mouse pointer
   virtual void window_unloaded(Window& window) = 0;
   virtual void control_changed(Control& control) = 0;

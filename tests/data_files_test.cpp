@@ -5,7 +5,6 @@
 #include <array>
 #include <cctype>
 #include <cmath>
-#include <compare>
 #include <filesystem>
 #include <map>
 #include <numbers>
@@ -13,6 +12,7 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "core/crystal_file.h"
@@ -175,7 +175,10 @@ using Vector = std::array<int, 3>;
 struct Operator {
   std::array<Vector, 3> rotation{};
   Vector translation{};
-  auto operator<=>(const Operator&) const = default;
+  bool operator==(const Operator&) const = default;
+  bool operator<(const Operator& other) const {
+    return std::tie(rotation, translation) < std::tie(other.rotation, other.translation);
+  }
 };
 
 const Operator identity{{{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}}, {0, 0, 0}};
@@ -353,7 +356,8 @@ TEST_F(SpaceGroupFiles, HasThePointGroupOfItsNumber) {
       ASSERT_EQ(std::abs(sign), 1);
       const int order = axis_order(op);
       ASSERT_NE(order, 0);
-      ++kinds[static_cast<std::size_t>((order == 6 ? 4 : order - 1) + (sign < 0 ? 5 : 0))];
+      const int column = (order == 6 ? 4 : order - 1) + (sign < 0 ? 5 : 0);
+      ++kinds[static_cast<std::size_t>(column)];
     }
     EXPECT_EQ(kinds, point_group(expected_contents.standard_number).kinds);
   }
@@ -530,74 +534,122 @@ TEST_F(SpaceGroupFiles, ThreeTwofoldAxesMeetOrNot) {
   }
 }
 
-// Where the origin lies: special positions of the International Tables A that another origin would not have. Free
-// coordinates have arbitrary values.
-struct SpecialPosition {
+// General positions as the International Tables A give them, for the groups that another origin would leave with the
+// same site symmetry there; for 231 on as the settings are defined.
+struct GeneralPosition {
   int number;
-  std::array<double, 3> position;
-  std::size_t multiplicity;
+  std::string_view triplet;
 };
-constexpr double third = 1.0 / 3;
 // clang-format off
-const std::vector<SpecialPosition> special_positions{
-    {2, {0, 0, 0}, 1}, {14, {0, 0, 0}, 2}, {15, {0, .13, .25}, 4}, {17, {.13, 0, 0}, 2}, {17, {0, .13, .25}, 2},
-    {18, {0, 0, .13}, 2}, {20, {.13, 0, 0}, 4}, {20, {0, .13, .25}, 4}, {24, {.13, 0, .25}, 4},
-    {26, {0, .13, .29}, 2}, {31, {0, .13, .29}, 2}, {36, {0, .13, .29}, 4}, {39, {.13, .25, .29}, 4},
-    {40, {.25, .13, .29}, 4}, {43, {0, 0, .13}, 8}, {46, {.25, .13, .29}, 4}, {48, {.25, .25, .25}, 2},
-    {50, {.25, .25, 0}, 2}, {52, {.13, .25, .25}, 4}, {57, {.13, .25, 0}, 4}, {57, {.13, .29, .25}, 4},
-    {59, {.25, .25, .13}, 2}, {60, {0, .13, .25}, 4}, {62, {.13, .25, .29}, 4}, {63, {0, .13, .25}, 4},
-    {64, {.25, .13, .25}, 8}, {68, {0, .25, .25}, 4}, {70, {.125, .125, .125}, 8}, {74, {0, .25, .13}, 4},
-    {85, {.25, .25, .13}, 2}, {86, {.25, .25, .25}, 2}, {88, {0, .25, .125}, 4}, {91, {0, .13, 0}, 4},
-    {91, {.13, .13, .375}, 4}, {92, {.13, .13, 0}, 4}, {95, {.13, .13, .625}, 4}, {96, {.13, .13, 0}, 4},
-    {98, {0, 0, 0}, 4}, {109, {0, 0, .13}, 4}, {122, {.13, .25, .125}, 8}, {125, {.25, .25, 0}, 2},
-    {126, {.25, .25, .25}, 2}, {129, {.75, .25, 0}, 2}, {129, {.25, .25, .13}, 2}, {130, {.75, .25, .25}, 4},
-    {133, {.25, .25, 0}, 4}, {134, {.25, .75, .25}, 2}, {136, {.13, .13, 0}, 4}, {137, {.75, .25, .75}, 2},
-    {138, {.75, .25, 0}, 4}, {141, {0, .75, .125}, 4}, {142, {0, .25, .375}, 8}, {151, {.13, -.13, third}, 3},
-    {152, {.13, 0, third}, 3}, {153, {.13, -.13, 2 * third}, 3}, {154, {.13, 0, 2 * third}, 3}, {166, {0, 0, .13}, 6},
-    {167, {0, 0, .25}, 6}, {167, {.13, 0, .25}, 18}, {178, {.13, 0, 0}, 6}, {178, {.13, .26, .25}, 6},
-    {179, {.13, .26, .75}, 6}, {180, {0, 0, 0}, 3}, {181, {0, 0, 0}, 3}, {182, {.13, .26, .25}, 6},
-    {186, {third, 2 * third, .13}, 2}, {188, {0, 0, 0}, 2}, {190, {0, 0, .25}, 2}, {194, {0, 0, .25}, 2},
-    {194, {third, 2 * third, .25}, 2}, {198, {.13, .13, .13}, 4}, {199, {.13, 0, .25}, 12}, {201, {.25, .25, .25}, 2},
-    {203, {.125, .125, .125}, 8}, {205, {.13, .13, .13}, 8}, {206, {.13, 0, .25}, 24}, {208, {.25, .25, .25}, 4},
-    {210, {0, 0, 0}, 8}, {212, {.125, .125, .125}, 4}, {213, {.375, .375, .375}, 4}, {214, {.125, .125, .125}, 8},
-    {218, {.25, .5, 0}, 6}, {219, {.25, 0, 0}, 24}, {220, {.375, 0, .25}, 12}, {222, {.25, .25, .25}, 2},
-    {224, {.25, .25, .25}, 2}, {226, {.25, 0, 0}, 24}, {227, {.125, .125, .125}, 8}, {227, {.5, .5, .5}, 16},
-    {228, {.125, .125, .125}, 16}, {230, {.125, 0, .25}, 24}, {230, {.375, 0, .25}, 24}, {231, {0, 0, 0}, 2},
-    {240, {.13, .13, .13}, 2}, {244, {.13, .29, .25}, 4}, {245, {.25, .13, .29}, 4}, {246, {.25, .13, .29}, 4},
-    {247, {0, .13, .29}, 8}, {248, {0, 0, 0}, 4}, {249, {0, 0, 0}, 8}, {249, {.625, .625, .625}, 16},
-    {250, {0, 0, 0}, 2}, {250, {0, 0, .25}, 2}, {250, {third, 2 * third, 0}, 2},
+const std::vector<GeneralPosition> general_positions{
+    {4, "-x,y+1/2,-z"}, {7, "x,-y,z+1/2"}, {9, "x,-y,z+1/2"}, {14, "-x,y+1/2,-z+1/2"}, {15, "-x,y,-z+1/2"},
+    {17, "-x,y,-z+1/2"}, {18, "-x+1/2,y+1/2,-z"}, {19, "-x+1/2,-y,z+1/2"}, {19, "-x,y+1/2,-z+1/2"},
+    {20, "-x,y,-z+1/2"}, {24, "-x+1/2,-y,z+1/2"}, {24, "-x,y+1/2,-z+1/2"}, {26, "x,-y,z+1/2"}, {28, "x+1/2,-y,z"},
+    {28, "-x,-y,z"}, {29, "-x,-y,z+1/2"}, {29, "x+1/2,-y,z"}, {30, "x,-y+1/2,z+1/2"}, {31, "x+1/2,-y,z+1/2"},
+    {32, "x+1/2,-y+1/2,z"}, {33, "-x,-y,z+1/2"}, {33, "x+1/2,-y+1/2,z"}, {36, "x,-y,z+1/2"}, {37, "x,-y,z+1/2"},
+    {39, "x,-y+1/2,z"}, {40, "x+1/2,-y,z"}, {40, "-x,-y,z"}, {41, "x+1/2,-y+1/2,z"}, {43, "x+1/4,-y+1/4,z+1/4"},
+    {45, "x+1/2,-y+1/2,z"}, {46, "x+1/2,-y,z"}, {46, "-x,-y,z"}, {48, "-x+1/2,-y+1/2,z"}, {50, "-x+1/2,-y+1/2,z"},
+    {57, "-x,-y,z+1/2"}, {60, "-x,y,-z+1/2"}, {62, "-x+1/2,-y,z+1/2"}, {66, "-x,y,-z+1/2"}, {67, "-x,-y+1/2,z"},
+    {67, "-x,y+1/2,-z"}, {68, "-x+1/2,-y,z"}, {68, "-x,y,-z+1/2"}, {70, "-x+3/4,-y+3/4,z"}, {70, "-x+3/4,y,-z+3/4"},
+    {73, "-x+1/2,-y,z+1/2"}, {76, "-y,x,z+1/4"}, {77, "-y,x,z+1/2"}, {78, "-y,x,z+3/4"}, {80, "-y,x+1/2,z+1/4"},
+    {84, "-y,x,z+1/2"}, {85, "-y+1/2,x,z"}, {86, "-y,x+1/2,z+1/2"}, {88, "-y+3/4,x+1/4,z+1/4"},
+    {90, "-y+1/2,x+1/2,z"}, {91, "-x,y,-z"}, {91, "-y,x,z+1/4"}, {92, "-y+1/2,x+1/2,z+1/4"}, {92, "y,x,-z"},
+    {93, "-y,x,z+1/2"}, {93, "-x,y,-z"}, {94, "-y+1/2,x+1/2,z+1/2"}, {95, "-x,y,-z"}, {95, "-y,x,z+3/4"},
+    {96, "-y+1/2,x+1/2,z+3/4"}, {96, "y,x,-z"}, {98, "-y,x+1/2,z+1/4"}, {100, "-y,x,z"}, {105, "-y,x,z+1/2"},
+    {106, "-y,x,z+1/2"}, {108, "-y,x,z"}, {109, "-y,x+1/2,z+1/4"}, {110, "-y,x+1/2,z+1/4"}, {112, "-x,y,-z+1/2"},
+    {113, "y,-x,-z"}, {116, "x,-y,z+1/2"}, {116, "y,-x,-z"}, {117, "y,-x,-z"}, {118, "x+1/2,-y+1/2,z+1/2"},
+    {118, "y,-x,-z"}, {120, "x,-y,z+1/2"}, {120, "y,-x,-z"}, {122, "-x+1/2,y,-z+3/4"}, {125, "-y+1/2,x,z"},
+    {126, "-y+1/2,x,z"}, {127, "-y,x,z"}, {129, "-y+1/2,x,z"}, {130, "-y+1/2,x,z"}, {131, "-y,x,z+1/2"},
+    {133, "-y+1/2,x,z+1/2"}, {134, "-y+1/2,x,z+1/2"}, {135, "-y,x,z+1/2"}, {137, "-y+1/2,x,z+1/2"},
+    {138, "-y+1/2,x,z+1/2"}, {140, "-y,x,z"}, {141, "-y+1/4,x+3/4,z+1/4"}, {142, "-y+1/4,x+3/4,z+1/4"},
+    {144, "-y,x-y,z+1/3"}, {145, "-y,x-y,z+2/3"}, {151, "-y,-x,-z+2/3"}, {152, "y,x,-z"}, {152, "-y,x-y,z+1/3"},
+    {153, "-y,-x,-z+1/3"}, {154, "y,x,-z"}, {154, "-y,x-y,z+2/3"}, {169, "x-y,x,z+1/6"}, {170, "x-y,x,z+5/6"},
+    {171, "x-y,x,z+1/3"}, {171, "-x,-y,z"}, {172, "-x,-y,z"}, {172, "x-y,x,z+2/3"}, {178, "y,x,-z+1/3"},
+    {178, "x-y,x,z+1/6"}, {179, "y,x,-z+2/3"}, {180, "y,x,-z+2/3"}, {180, "-x,-y,z"}, {181, "y,x,-z+1/3"},
+    {181, "-x,-y,z"}, {182, "y,x,-z"}, {186, "y,x,z+1/2"}, {188, "x,y,-z+1/2"}, {190, "x,y,-z+1/2"},
+    {194, "-x,-y,z+1/2"}, {198, "-x+1/2,-y,z+1/2"}, {198, "z,x,y"}, {199, "-x+1/2,-y,z+1/2"}, {199, "z,x,y"},
+    {201, "-x+1/2,-y+1/2,z"}, {201, "z,x,y"}, {203, "-x+3/4,-y+3/4,z"}, {203, "z,x,y"}, {205, "-x+1/2,-y,z+1/2"},
+    {205, "z,x,y"}, {206, "-x+1/2,-y,z+1/2"}, {206, "z,x,y"}, {208, "y+1/2,x+1/2,-z+1/2"},
+    {210, "y+3/4,x+1/4,-z+3/4"}, {212, "y+1/4,x+3/4,-z+3/4"}, {212, "z,x,y"}, {213, "y+3/4,x+1/4,-z+1/4"},
+    {213, "z,x,y"}, {214, "y+3/4,x+1/4,-z+1/4"}, {214, "-x+1/2,-y,z+1/2"}, {214, "z,x,y"}, {220, "y+1/4,x+1/4,z+1/4"},
+    {220, "-x+1/2,-y,z+1/2"}, {220, "z,x,y"}, {222, "-x+1/2,-y+1/2,z"}, {222, "z,x,y"}, {224, "-x+1/2,-y+1/2,z"},
+    {224, "z,x,y"}, {227, "-x+3/4,-y+1/4,z+1/2"}, {227, "z,x,y"}, {228, "-x+1/4,-y+3/4,z+1/2"}, {228, "z,x,y"},
+    {230, "y+3/4,x+1/4,-z+1/4"}, {230, "-x+1/2,-y,z+1/2"},
+    // settings
+    {231, "-x+1/2,y+1/2,-z+1/2"}, {231, "-x,-y,-z"}, {232, "-x+1/2,y+1/2,-z"}, {232, "-x,-y,-z"},
+    {233, "-x+1/2,y,-z+1/2"}, {233, "-x,-y,-z"}, {234, "-x+1/2,y,-z"}, {234, "-x,-y,-z"}, {235, "-x+1/2,y,-z"},
+    {235, "-x,-y,-z"}, {236, "-x,y,-z"}, {236, "-x,-y,-z"}, {237, "-x,y,-z"}, {237, "-x,-y,-z"},
+    {238, "-x,-y+1/2,z+1/2"}, {238, "-x,-y,-z"}, {239, "-x,-y+1/2,z"}, {239, "-x,-y,-z"}, {240, "y,x,z"},
+    {240, "-x,-y,-z"}, {240, "z,x,y"}, {242, "-x,-y,-z"}, {243, "-x,-y,-z"}, {244, "x,y,-z+1/2"}, {244, "-x,-y,-z"},
+    {245, "-x+1/2,y,z"}, {245, "-x,-y,-z"}, {246, "-x+1/2,y,z"}, {246, "-x,-y,-z"}, {247, "-x,y,z"},
+    {247, "x+1/2,-y+1/2,z"}, {247, "x,y+1/2,-z+1/2"}, {247, "-x,-y,-z"}, {248, "-y,x+1/2,z+1/4"}, {248, "y,-x,-z"},
+    {249, "-y,x,-z"}, {249, "y,x,z"}, {249, "-x+1/4,-y+1/4,-z+1/4"}, {250, "x,y,-z"}, {250, "-x,-y,-z+1/2"},
+    {250, "-x,-y,z+1/2"}, {250, "-y,x-y,z"},
 };
 // clang-format on
 
-TEST_F(SpaceGroupFiles, HaveTheOriginOfTheInternationalTables) {
-  for (const auto& [number, position, multiplicity] : special_positions) {
-    std::vector<std::array<double, 3>> images;
-    for (const auto& op : files_[static_cast<std::size_t>(number - 1)].group.operators) {
-      std::array<double, 3> image{};
-      for (std::size_t i = 0; i < 3; ++i) {
-        image[i] = double{op.translation[i]};
-        for (std::size_t j = 0; j < 3; ++j) image[i] += double{op.rotation[i][j]} * position[j];
-      }
-      const bool known = std::any_of(images.begin(), images.end(), [&](const auto& other) {
-        return std::all_of(image.begin(), image.end(), [&, i = std::size_t{0}](double x) mutable {
-          const double difference = x - other[i++];
-          return std::abs(difference - std::round(difference)) < 1e-4;
-        });
-      });
-      if (!known) images.push_back(image);
+/// "-y,x-y,z+1/3" as an operator.
+Operator parse_triplet(std::string_view triplet) {
+  Operator op;
+  std::size_t row = 0;
+  int sign = 1;
+  for (std::size_t i = 0; i < triplet.size(); ++i) {
+    const char c = triplet[i];
+    if (c >= 'x' && c <= 'z') {
+      op.rotation[row][static_cast<std::size_t>(c - 'x')] = sign;
+    } else if (c >= '0' && c <= '9') {
+      op.translation[row] = sign * unit * (c - '0') / (triplet[i + 2] - '0');
+      i += 2;
+    } else if (c == ',') {
+      ++row;
     }
-    EXPECT_EQ(images.size(), multiplicity)
-        << "number " << number << " at " << position[0] << ' ' << position[1] << ' ' << position[2];
+    sign = c == '-' ? -1 : 1;
+  }
+  return op;
+}
+
+TEST_F(SpaceGroupFiles, HaveTheGeneralPositionsOfTheTables) {
+  for (const auto& [number, triplet] : general_positions) {
+    const auto& operators = files_[static_cast<std::size_t>(number - 1)].operators;
+    EXPECT_NE(std::find(operators.begin(), operators.end(), parse_triplet(triplet)), operators.end())
+        << "number " << number << " lacks " << triplet;
   }
 }
 
-TEST_F(SpaceGroupFiles, HaveACentreOfInversionAtTheOriginOfAllStandardSettings) {
-  const Operator inversion{{{{-1, 0, 0}, {0, -1, 0}, {0, 0, -1}}}, {0, 0, 0}};
-  for (const auto& [number, expected_contents, group, operators] : files_) {
-    if (number > standard_groups) break;
-    const bool centrosymmetric = point_group(number).kinds[5] > 0;
-    EXPECT_EQ(std::find(operators.begin(), operators.end(), inversion) != operators.end(), centrosymmetric)
-        << "number " << number;
+// Order of the site symmetry at the origin, from the lines "Origin" and the positions of the International Tables A,
+// origin choice 2 where there are two.
+constexpr std::array<int, standard_groups> origin_site_orders{
+    // 1 to 15
+    1, 2, 2, 1, 2, 2, 1, 2, 1, 4, 2, 4, 2, 2, 2,
+    // 16 to 46: 222, mm2
+    4, 2, 2, 1, 2, 4, 4, 4, 1, 4, 2, 2, 2, 1, 2, 2, 2, 1, 2, 4, 2, 2, 4, 2, 2, 2, 4, 2, 4, 2, 2,
+    // 47 to 74: mmm
+    8, 2, 4, 2, 4, 2, 4, 2, 4, 2, 2, 4, 2, 2, 2, 2, 4, 4, 8, 4, 4, 2, 8, 2, 8, 4, 2, 4,
+    // 75 to 88: 4, -4, 4/m
+    4, 1, 2, 1, 4, 2, 4, 4, 8, 4, 2, 2, 8, 2,
+    // 89 to 110: 422, 4mm
+    8, 4, 2, 2, 4, 4, 2, 2, 8, 4, 8, 4, 4, 4, 4, 4, 4, 2, 8, 4, 4, 2,
+    // 111 to 142: -42m, 4/mmm
+    8, 4, 4, 4, 8, 4, 4, 4, 8, 4, 8, 4, 16, 8, 4, 2, 8, 8, 4, 2, 8, 8, 2, 4, 4, 8, 2, 4, 16, 8, 4, 2,
+    // 143 to 167: trigonal
+    3, 1, 1, 3, 6, 6, 6, 6, 2, 2, 2, 2, 6, 6, 6, 3, 3, 6, 3, 12, 6, 12, 6, 12, 6,
+    // 168 to 194: hexagonal
+    6, 1, 1, 2, 2, 3, 6, 12, 6, 12, 2, 2, 4, 4, 6, 12, 6, 6, 6, 12, 6, 12, 6, 24, 12, 12, 12,
+    // 195 to 230: cubic
+    12, 12, 12, 3, 3, 24, 6, 24, 6, 24, 6, 6, 24, 12, 24, 12, 24, 3, 3, 3, 24, 24, 24, 12, 12, 3, 48, 6, 24, 12, 48, 24,
+    12, 6, 48, 6};
+
+TEST_F(SpaceGroupFiles, HaveTheSiteSymmetryOfTheTablesAtTheOrigin) {
+  for (int number = 1; number <= standard_groups; ++number) {
+    const auto& operators = files_[static_cast<std::size_t>(number - 1)].operators;
+    const auto fixes_origin = [](const Operator& op) { return op.translation == Vector{0, 0, 0}; };
+    const auto order = std::count_if(operators.begin(), operators.end(), fixes_origin);
+    EXPECT_EQ(order, origin_site_orders[static_cast<std::size_t>(number - 1)]) << "number " << number;
+    // A centre of inversion lies at the origin wherever the group has one.
+    const bool centred = std::any_of(operators.begin(), operators.end(), [&](const Operator& op) {
+      return fixes_origin(op) && determinant(op.rotation) < 0 && axis_order(op) == 1;
+    });
+    EXPECT_EQ(centred, point_group(number).kinds[5] > 0) << "number " << number;
   }
 }
 
@@ -721,6 +773,9 @@ struct SampleCrystal {
 Metric metric_of(const CrystalState& crystal) {
   return metric(crystal.CellA, crystal.CellB, crystal.CellC, crystal.CellAlpha, crystal.CellBeta, crystal.CellGamma);
 }
+
+/// Names the crystal in messages.
+void PrintTo(const SampleCrystal& sample, std::ostream* os) { *os << sample.name; }
 
 class Sample : public testing::TestWithParam<SampleCrystal> {
  protected:

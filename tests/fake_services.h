@@ -83,11 +83,12 @@ class FakeServices : public Services {
   std::unique_ptr<Surface> make_surface(int width, int height) override {
     return std::make_unique<FakeSurface>(width, height);
   }
+  void export_picture(Canvas& /*canvas*/, const std::string& path) override { exported.push_back(path); }
   void end_program() override { ended = true; }
 
   std::deque<std::string> answers;
   std::vector<FileQuestion> questions;
-  std::vector<std::string> prompts, messages, printed;
+  std::vector<std::string> prompts, messages, printed, exported;
   bool ended = false;
 
  private:

@@ -126,6 +126,7 @@ TEST_F(Main1Test, FurtherSettingsAreNotAppliedFromTheEdge) {
 
 struct FocusView : WindowView {
   void window_created(Window& /*window*/) override {}
+  void window_shown(Window& /*window*/) override {}
   void window_changed(Window& /*window*/) override {}
   void window_unloaded(Window& /*window*/) override {}
   void control_changed(Control& /*control*/) override {}

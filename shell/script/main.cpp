@@ -9,6 +9,7 @@
 
 #include "core/run_failure.h"
 #include "shell/data_folders.h"
+#include "shell/desktop/picture_export.h"
 #include "shell/program.h"
 #include "shell/script/script_driver.h"
 
@@ -65,7 +66,8 @@ std::optional<int> read_arguments(int argc, char** argv, Arguments& arguments) {
 
 void run(const Arguments& arguments, std::istream& script) {
   const auto data = arguments.data ? zol::data_root_at(*arguments.data) : zol::find_data_root(zol::data_places());
-  zol::ScriptServices services(std::cout);
+  zol::OffscreenPictures pictures;
+  zol::ScriptServices services(std::cout, &pictures);
   zol::Program program(data, services);
   program.start();
   zol::ScriptDriver(program, services, std::cout).run(script);

@@ -230,7 +230,7 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
        }},
       {"printer", "printer", 0, 0, [](ScriptDriver& d, const Words&) { d.print_pages(); }},
       {"export", "export W.C FILE", 2, 2,
-       [](ScriptDriver& d, const Words& w) { d.control<Canvas>(w[1]).save_image_with_overlay(w[2]); }},
+       [](ScriptDriver& d, const Words& w) { d.services_.export_picture(d.control<Canvas>(w[1]), w[2]); }},
       {"echo", "echo WORDS", 0, any,
        [](ScriptDriver& d, const Words& w) {
          for (std::size_t i = 1; i < w.size(); ++i) d.output_ << (i > 1 ? " " : "") << w[i];

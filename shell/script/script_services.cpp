@@ -2,6 +2,8 @@
 
 #include <ostream>
 
+#include "core/run_failure.h"
+
 namespace zol {
 
 std::string ScriptServices::next_answer(const std::string& question) {
@@ -21,6 +23,15 @@ std::string ScriptServices::prompt(const std::string& text, const std::string& t
 
 void ScriptServices::message(const std::string& text, const std::string& title) {
   output_ << "message \"" << text << "\" \"" << title << "\"\n";
+}
+
+std::unique_ptr<Surface> ScriptServices::make_surface(int width, int height) {
+  return pictures_ == nullptr ? nullptr : pictures_->make_surface(width, height);
+}
+
+void ScriptServices::export_picture(Canvas& canvas, const std::string& path) {
+  if (pictures_ == nullptr) throw RunFailure("can't export to " + path + ": there are no pixel images here");
+  pictures_->export_picture(canvas, path);
 }
 
 }  // namespace zol

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "shell/pictures.h"
 #include "shell/window_services.h"
 
 namespace zol {
@@ -23,10 +24,10 @@ class UnansweredQuestion : public std::exception {
 };
 
 class ScriptServices : public Services {
- public:
-  /// @param output  takes the line that stands for a message box
-  explicit ScriptServices(std::ostream& output) : output_(output) {}
-
+ public:  /// @param output    takes the line that stands for a message box
+  /// @param pictures  makes pixels; without it there are none
+  explicit ScriptServices(std::ostream& output, PictureMaker* pictures = nullptr)
+      : output_(output), pictures_(pictures) {}
   /// Queues the answer to the next dialog; an empty one cancels it.
   void queue_answer(std::string answer) { answers_.push_back(std::move(answer)); }
   /// What has gone to the printer since the last call.
@@ -40,13 +41,14 @@ class ScriptServices : public Services {
   void print_line(const std::string& line) override { printed_.push_back(line); }
   void end_document() override { printed_.emplace_back("--end of document--"); }
   void print_window(Window& window) override { printed_.push_back("window " + window.caption()); }
-  std::unique_ptr<Surface> make_surface(int /*width*/, int /*height*/) override { return nullptr; }
+  std::unique_ptr<Surface> make_surface(int width, int height) override;
+  void export_picture(Canvas& canvas, const std::string& path) override;
   void end_program() override { ended_ = true; }
 
  private:
   std::string next_answer(const std::string& question);
-
   std::ostream& output_;
+  PictureMaker* pictures_;
   std::deque<std::string> answers_;
   std::vector<std::string> printed_;
   bool ended_ = false;

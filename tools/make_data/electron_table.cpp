@@ -78,8 +78,8 @@ struct FourGaussians {
 
 /// The five terms, with the two whose exponents are nearest to each other made one.
 std::vector<Term> starting_terms(const Gaussians& five) {
-  std::vector<Term> terms;
-  for (int i = 0; i < 5; ++i) terms.push_back({five.a(i), five.b(i)});
+  std::vector<Term> terms(5);
+  for (int i = 0; i < 5; ++i) terms[static_cast<std::size_t>(i)] = {five.a(i), five.b(i)};
   std::sort(terms.begin(), terms.end(), [](const Term& p, const Term& q) { return p.b < q.b; });
   std::size_t nearest = 0;
   for (std::size_t i = 1; i < n_terms; ++i) {

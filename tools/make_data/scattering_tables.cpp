@@ -39,11 +39,12 @@ Row neutral_atom(int atomic_number) {
   const auto& factor = gemmi::IT92<double>::get(element.elem);
   Row row;
   row.key = element.name();
+  auto next = row.coefficients.begin();
   for (int pair = 0; pair < 4; ++pair) {
-    row.coefficients[static_cast<std::size_t>(2 * pair)] = to_single(factor.a(pair));
-    row.coefficients[static_cast<std::size_t>(2 * pair + 1)] = to_single(factor.b(pair));
+    *next++ = to_single(factor.a(pair));
+    *next++ = to_single(factor.b(pair));
   }
-  row.coefficients[8] = to_single(factor.c());
+  *next = to_single(factor.c());
   row.atomic_number = atomic_number;
   return row;
 }

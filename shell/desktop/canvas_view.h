@@ -1,0 +1,48 @@
+// Shows a Canvas: scaled to the room, square pixels, sharp at any resolution; mouse events come back in user coordinates.
+#pragma once
+
+#include <QPixmap>
+#include <QWidget>
+#include <functional>
+
+#include "shell/canvas.h"
+
+namespace zol {
+
+class CanvasView : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit CanvasView(QWidget* parent = nullptr);
+
+  /// Ties the view to a canvas; enter runs what an event sets off.
+  void attach(Canvas& canvas, std::function<void(const std::function<void()>&)> enter);
+  /// The canvas has changed.
+  void refresh();
+
+  [[nodiscard]] Canvas* canvas() const { return canvas_; }
+  [[nodiscard]] QSize sizeHint() const override;
+  /// Where the picture stands inside the view.
+  [[nodiscard]] QRectF picture_rect() const;
+
+  void copy_to_clipboard() const;
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+
+ private:
+  [[nodiscard]] QPointF user_position(const QPointF& position) const;
+  [[nodiscard]] QPixmap drawn(const QSize& device_size) const;
+  void ask_export(double factor, const char* ending);
+
+  Canvas* canvas_ = nullptr;
+  std::function<void(const std::function<void()>&)> enter_;
+  QPixmap cache_;
+};
+
+}  // namespace zol

@@ -1,0 +1,140 @@
+#include "shell/desktop/drawing_painter.h"
+
+#include <QFontMetricsF>
+#include <QPainterPath>
+#include <cmath>
+
+#include "shell/desktop/qt_surface.h"
+#include "shell/desktop/qt_text.h"
+
+namespace zol {
+namespace {
+
+/// Beyond this many pixels a disc that crosses the picture is not worth a path of its own.
+constexpr double largest_radius = 1e6;
+
+class ListPainter {
+ public:
+  ListPainter(QPainter& painter, const Canvas& canvas)
+      : painter_(painter),
+        picture_(0, 0, canvas.pixel_width(), canvas.pixel_height()),
+        scale_(canvas.list_scale()) {}
+
+  void operator()(const UserScale& scale) { scale_ = scale; }
+
+  void operator()(const DrawnLine& drawn) {
+    const auto line = clipped({x(drawn.x1), y(drawn.y1), x(drawn.x2), y(drawn.y2)}, picture_);
+    if (!line) return;
+    painter_.setPen(pen(drawn.colour));
+    painter_.drawLine(*line);
+  }
+
+  void operator()(const DrawnCircle& drawn) {
+    const double radius = std::abs(drawn.radius * picture_.width() / (scale_.right - scale_.left));
+    const QPointF centre(x(drawn.x), y(drawn.y));
+    const QRectF box(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius);
+    if (!box.intersects(picture_) || radius > largest_radius) return;
+    painter_.setPen(pen(drawn.colour));
+    if (picture_.contains(box)) {
+      painter_.setBrush(drawn.fill ? QBrush(to_qt(*drawn.fill)) : QBrush(Qt::NoBrush));
+      painter_.drawEllipse(centre, radius, radius);
+    } else {
+      paint_cut_circle(box, drawn.fill);
+    }
+  }
+
+  void operator()(const DrawnPoint& drawn) {
+    const QPointF place(std::nearbyint(x(drawn.x)), std::nearbyint(y(drawn.y)));
+    const QRectF pixel(place, QSizeF(1, 1));
+    if (picture_.contains(pixel)) painter_.fillRect(pixel, to_qt(drawn.colour));
+  }
+
+  void operator()(const DrawnText& drawn) {
+    const QPointF place(x(drawn.x), y(drawn.y));
+    if (!picture_.contains(place)) return;
+    const QFont font = picture_font(drawn.font_size_pt);
+    painter_.setFont(font);
+    painter_.setPen(to_qt(drawn.colour));
+    painter_.drawText(place + QPointF(0, QFontMetricsF(font).ascent()), to_qt(drawn.text));
+  }
+
+ private:
+  [[nodiscard]] double x(double user) const {
+    return (user - scale_.left) / (scale_.right - scale_.left) * picture_.width();
+  }
+  [[nodiscard]] double y(double user) const {
+    return (user - scale_.top) / (scale_.bottom - scale_.top) * picture_.height();
+  }
+  [[nodiscard]] static QPen pen(Colour colour) { return {QBrush(to_qt(colour)), 1.0}; }
+
+  /// The filled part is cut as an area, the outline as a line of short pieces.
+  void paint_cut_circle(const QRectF& box, const std::optional<Colour>& fill) {
+    if (fill) {
+      QPainterPath disc;
+      disc.addEllipse(box);
+      QPainterPath window;
+      window.addRect(picture_);
+      painter_.fillPath(disc.intersected(window), to_qt(*fill));
+    }
+    constexpr int pieces = 360;
+    QPointF last(box.right(), box.center().y());
+    for (int i = 1; i <= pieces; ++i) {
+      const double angle = 2.0 * M_PI * i / pieces;
+      const QPointF next(box.center().x() + box.width() / 2 * std::cos(angle),
+                         box.center().y() + box.height() / 2 * std::sin(angle));
+      if (const auto line = clipped({last, next}, picture_)) painter_.drawLine(*line);
+      last = next;
+    }
+  }
+
+  QPainter& painter_;
+  QRectF picture_;
+  UserScale scale_;
+};
+
+}  // namespace
+
+QColor to_qt(Colour colour) {
+  const auto packed = static_cast<unsigned>(colour);
+  return {static_cast<int>(packed & 255U), static_cast<int>((packed >> 8U) & 255U),
+          static_cast<int>((packed >> 16U) & 255U)};
+}
+
+QFont picture_font(double font_size_pt) {
+  constexpr double pixels_per_point = 96.0 / 72.0;
+  QFont font(QStringLiteral("sans-serif"));
+  font.setPixelSize(std::max(1, static_cast<int>(std::lround(font_size_pt * pixels_per_point))));
+  return font;
+}
+
+std::optional<QLineF> clipped(const QLineF& line, const QRectF& inside) {
+  double enter = 0.0;
+  double leave = 1.0;
+  // Each border: how fast the line approaches it, and how far its start is from it.
+  const auto border = [&enter, &leave](double approach, double distance) {
+    if (approach == 0.0) return distance >= 0.0;
+    const double at = distance / approach;
+    if (approach < 0.0) enter = std::max(enter, at);
+    if (approach > 0.0) leave = std::min(leave, at);
+    return enter <= leave;
+  };
+  const bool some = border(-line.dx(), line.x1() - inside.left()) && border(line.dx(), inside.right() - line.x1()) &&
+                    border(-line.dy(), line.y1() - inside.top()) && border(line.dy(), inside.bottom() - line.y1());
+  if (!some) return std::nullopt;
+  return QLineF(line.pointAt(enter), line.pointAt(leave));
+}
+
+void paint_canvas(QPainter& painter, Canvas& canvas) {
+  const QRectF picture(0, 0, canvas.pixel_width(), canvas.pixel_height());
+  const bool raster = canvas.has_raster_base() || canvas.has_picture();
+  if (raster) {
+    // What lies under the drawing list exists as pixels only.
+    painter.drawImage(picture, dynamic_cast<const QtSurface&>(canvas.stored_image()).image());
+  } else {
+    painter.fillRect(picture, to_qt(canvas.back_colour()));
+  }
+  ListPainter list(painter, canvas);
+  for (const Primitive& primitive : canvas.drawing()) std::visit(list, primitive.what);
+}
+
+}  // namespace zol

@@ -1,0 +1,124 @@
+#include "shell/desktop/picture_export.h"
+
+#include <QBuffer>
+#include <QGuiApplication>
+#include <QPageSize>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QSvgGenerator>
+#include <algorithm>
+#include <array>
+
+#include "core/run_failure.h"
+#include "core/text_records.h"
+#include "shell/desktop/drawing_painter.h"
+#include "shell/desktop/qt_surface.h"
+#include "shell/desktop/qt_text.h"
+
+namespace zol {
+namespace {
+
+constexpr int dots_per_inch = 96;
+
+std::string ending_of(const std::string& path) {
+  const std::size_t dot = path.find_last_of('.');
+  if (dot == std::string::npos || path.find('/', dot) != std::string::npos) return "";
+  std::string ending = path.substr(dot + 1);
+  std::transform(ending.begin(), ending.end(), ending.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  return ending;
+}
+
+void write_bytes(const QByteArray& bytes, const std::string& path) {
+  AtomicFile file(path);
+  file.write({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  file.commit();
+}
+
+QByteArray svg_of(Canvas& canvas) {
+  QBuffer buffer;
+  QSvgGenerator svg;
+  svg.setOutputDevice(&buffer);
+  svg.setResolution(dots_per_inch);
+  svg.setSize({canvas.pixel_width(), canvas.pixel_height()});
+  svg.setViewBox(QRect(0, 0, canvas.pixel_width(), canvas.pixel_height()));
+  svg.setTitle(QString::fromStdString(canvas.path()));
+  QPainter painter(&svg);
+  paint_canvas(painter, canvas);
+  painter.end();
+  return buffer.data();
+}
+
+QByteArray pdf_of(Canvas& canvas) {
+  constexpr double points_per_pixel = 72.0 / dots_per_inch;
+  const QSizeF size(canvas.pixel_width(), canvas.pixel_height());
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter pdf(&buffer);
+  pdf.setPageSize(QPageSize(size * points_per_pixel, QPageSize::Point));
+  pdf.setPageMargins({});
+  constexpr int resolution = 1200;
+  pdf.setResolution(resolution);
+  QPainter painter(&pdf);
+  painter.scale(double{resolution} / dots_per_inch, double{resolution} / dots_per_inch);
+  paint_canvas(painter, canvas);
+  painter.end();
+  return buffer.data();
+}
+
+}  // namespace
+
+QImage picture_image(Canvas& canvas, double factor) {
+  const QSize size(canvas.pixel_width(), canvas.pixel_height());
+  QImage image((QSizeF(size) * factor).toSize(), QImage::Format_RGB32);
+  QPainter painter(&image);
+  if (factor == 1.0) {
+    painter.drawImage(0, 0, dynamic_cast<const QtSurface&>(canvas.stored_image()).image());
+    painter.drawImage(0, 0, dynamic_cast<const QtSurface&>(canvas.overlay_image()).image());
+  } else {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(factor, factor);
+    paint_canvas(painter, canvas);
+  }
+  return image;
+}
+
+void export_picture(Canvas& canvas, const std::string& path, double factor) {
+  const std::string ending = ending_of(path);
+  if (ending == "bmp") return write_image(picture_image(canvas, factor), path, "BMP");
+  if (ending == "png") return write_image(picture_image(canvas, factor), path, "PNG");
+  if (ending == "svg") return write_bytes(svg_of(canvas), path);
+  if (ending == "pdf") return write_bytes(pdf_of(canvas), path);
+  throw RunFailure("can't export to " + path + ": the name must end in .bmp, .png, .svg or .pdf");
+}
+
+struct OffscreenPictures::Platform {
+  // Qt keeps references to these for as long as the application lives.
+  std::string name = "zol-script";
+  std::string option = "-platform";
+  std::string value = "offscreen";
+  std::array<char*, 4> arguments{name.data(), option.data(), value.data(), nullptr};
+  int count = 3;
+  QGuiApplication application{count, arguments.data()};
+};
+
+OffscreenPictures::OffscreenPictures() = default;
+OffscreenPictures::~OffscreenPictures() = default;
+
+void OffscreenPictures::start() {
+  if (platform_ || QCoreApplication::instance() != nullptr) return;
+  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});  // standard error is the script's
+  platform_ = std::make_unique<Platform>();
+}
+
+std::unique_ptr<Surface> OffscreenPictures::make_surface(int width, int height) {
+  start();
+  return std::make_unique<QtSurface>(width, height);
+}
+
+void OffscreenPictures::export_picture(Canvas& canvas, const std::string& path) {
+  start();
+  zol::export_picture(canvas, path);
+}
+
+}  // namespace zol

@@ -1,0 +1,104 @@
+#include "shell/desktop/qt_surface.h"
+
+#include <QFile>
+#include <QFontMetricsF>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QPainter>
+#include <QSaveFile>
+#include <cmath>
+
+#include "core/run_failure.h"
+#include "shell/desktop/drawing_painter.h"
+#include "shell/desktop/qt_text.h"
+
+namespace zol {
+namespace {
+
+int to_pixel(double coordinate) { return static_cast<int>(std::nearbyint(coordinate)); }
+
+}  // namespace
+
+QtSurface::QtSurface(int width, int height)
+    : image_(std::max(width, 1), std::max(height, 1), QImage::Format_ARGB32_Premultiplied) {
+  image_.fill(Qt::transparent);
+}
+
+void QtSurface::fill(Colour colour) { image_.fill(to_qt(colour)); }
+
+void QtSurface::make_transparent() { image_.fill(Qt::transparent); }
+
+void QtSurface::line(double x1, double y1, double x2, double y2, Colour colour) {
+  // A line may reach far beyond the picture; what is drawn has to fit whole pixels.
+  constexpr double margin = 2.0;
+  const auto inside = clipped({x1, y1, x2, y2}, QRectF(image_.rect()).adjusted(-margin, -margin, margin, margin));
+  if (!inside) return;
+  QPainter painter(&image_);
+  painter.setPen(QPen(to_qt(colour), 1));
+  painter.drawLine(to_pixel(inside->x1()), to_pixel(inside->y1()), to_pixel(inside->x2()), to_pixel(inside->y2()));
+}
+
+void QtSurface::circle(double x, double y, double radius, Colour outline, std::optional<Colour> fill) {
+  const QRectF box(x - radius, y - radius, 2 * radius, 2 * radius);
+  constexpr double largest = 1e6;
+  if (!(radius < largest) || !box.adjusted(-1, -1, 1, 1).intersects(QRectF(image_.rect()))) return;
+  QPainter painter(&image_);
+  painter.setPen(QPen(to_qt(outline), 1));
+  painter.setBrush(fill ? QBrush(to_qt(*fill)) : QBrush(Qt::NoBrush));
+  constexpr double one_pixel = 0.75;
+  if (radius < one_pixel) {
+    painter.drawPoint(to_pixel(x), to_pixel(y));
+  } else {
+    painter.drawEllipse(QPointF(x, y), radius, radius);
+  }
+}
+
+void QtSurface::set_pixel(int x, int y, Colour colour) {
+  if (image_.valid(x, y)) image_.setPixelColor(x, y, to_qt(colour));
+}
+
+std::optional<Colour> QtSurface::pixel(int x, int y) const {
+  const QRgb value = image_.pixel(x, y);
+  if (qAlpha(value) == 0) return std::nullopt;
+  return RGB(qRed(value), qGreen(value), qBlue(value));
+}
+
+void QtSurface::text(double x, double y, const std::string& text, Colour colour, double font_size_pt) {
+  if (!QRectF(image_.rect()).adjusted(-image_.width(), -image_.height(), image_.width(), image_.height()).contains(x, y)) {
+    return;
+  }
+  QPainter painter(&image_);
+  const QFont font = picture_font(font_size_pt);
+  painter.setFont(font);
+  painter.setPen(to_qt(colour));
+  painter.drawText(QPointF(x, y + QFontMetricsF(font).ascent()), to_qt(text));
+}
+
+void QtSurface::draw(const Surface& other, bool upside_down) {
+  const QImage& source = dynamic_cast<const QtSurface&>(other).image_;
+  QPainter painter(&image_);
+  painter.setRenderHint(QPainter::SmoothPixmapTransform, source.size() != image_.size());
+  painter.drawImage(image_.rect(), upside_down ? source.mirrored(false, true) : source);
+}
+
+void QtSurface::load_bitmap(const std::string& path) {
+  const QString name = QFile::decodeName(QByteArray::fromStdString(path));
+  QImageReader reader(name);
+  const QImage read = reader.read();
+  if (read.isNull()) {
+    if (!QFile::exists(name)) throw RunFailure("can't open " + path + ": No such file or directory");
+    throw RunFailure("can't read " + path + " as a bitmap: " + reader.errorString().toStdString());
+  }
+  image_ = read.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+void QtSurface::save_bitmap(const std::string& path) const { write_image(image_, path, "BMP"); }
+
+void write_image(const QImage& image, const std::string& path, const char* kind) {
+  QSaveFile file(QFile::decodeName(QByteArray::fromStdString(path)));
+  // The picture covers all of its area: no alpha in the file.
+  const bool written = file.open(QIODevice::WriteOnly) && image.convertToFormat(QImage::Format_RGB32).save(&file, kind);
+  if (!written || !file.commit()) throw RunFailure("can't write " + path + ": " + file.errorString().toStdString());
+}
+
+}  // namespace zol

@@ -1,0 +1,37 @@
+// A pixel image in memory. Lines, discs and points have no anti-aliasing, so that their pixels can be read back.
+#pragma once
+
+#include <QImage>
+
+#include "shell/canvas.h"
+
+namespace zol {
+
+class QtSurface : public Surface {
+ public:
+  QtSurface(int width, int height);
+
+  [[nodiscard]] int width() const override { return image_.width(); }
+  [[nodiscard]] int height() const override { return image_.height(); }
+  void fill(Colour colour) override;
+  void make_transparent() override;
+  void line(double x1, double y1, double x2, double y2, Colour colour) override;
+  void circle(double x, double y, double radius, Colour outline, std::optional<Colour> fill) override;
+  void set_pixel(int x, int y, Colour colour) override;
+  [[nodiscard]] std::optional<Colour> pixel(int x, int y) const override;
+  void text(double x, double y, const std::string& text, Colour colour, double font_size_pt) override;
+  void draw(const Surface& other, bool upside_down) override;
+  void load_bitmap(const std::string& path) override;
+  void save_bitmap(const std::string& path) const override;
+
+  [[nodiscard]] const QImage& image() const { return image_; }
+
+ private:
+  QImage image_;
+};
+
+/// Writes an image to a file of a kind that Qt knows ("BMP", "PNG"), beside its place and renamed.
+/// @throws RunFailure  it can't be written
+void write_image(const QImage& image, const std::string& path, const char* kind);
+
+}  // namespace zol
