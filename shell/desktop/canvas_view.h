@@ -1,9 +1,11 @@
-// Shows a Canvas: scaled to the room, square pixels, sharp at any resolution; mouse events come back in user coordinates.
+// Shows a Canvas: scaled to the room, square pixels, sharp at any resolution; mouse events come back in user
+// coordinates.
 #pragma once
+
+#include <functional>
 
 #include <QPixmap>
 #include <QWidget>
-#include <functional>
 
 #include "shell/canvas.h"
 

@@ -1,8 +1,9 @@
 #include "shell/desktop/drawing_painter.h"
 
+#include <cmath>
+
 #include <QFontMetricsF>
 #include <QPainterPath>
-#include <cmath>
 
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
@@ -16,9 +17,7 @@ constexpr double largest_radius = 1e6;
 class ListPainter {
  public:
   ListPainter(QPainter& painter, const Canvas& canvas)
-      : painter_(painter),
-        picture_(0, 0, canvas.pixel_width(), canvas.pixel_height()),
-        scale_(canvas.list_scale()) {}
+      : painter_(painter), picture_(0, 0, canvas.pixel_width(), canvas.pixel_height()), scale_(canvas.list_scale()) {}
 
   void operator()(const UserScale& scale) { scale_ = scale; }
 

@@ -1,12 +1,13 @@
 // Draws the list of a picture with a painter: for screens of any resolution and for vector files.
 #pragma once
 
+#include <optional>
+
 #include <QColor>
 #include <QFont>
 #include <QLineF>
 #include <QPainter>
 #include <QRectF>
-#include <optional>
 
 #include "shell/canvas.h"
 

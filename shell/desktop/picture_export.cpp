@@ -1,13 +1,14 @@
 #include "shell/desktop/picture_export.h"
 
+#include <algorithm>
+#include <array>
+
 #include <QBuffer>
 #include <QGuiApplication>
 #include <QPageSize>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSvgGenerator>
-#include <algorithm>
-#include <array>
 
 #include "core/run_failure.h"
 #include "core/text_records.h"
@@ -107,7 +108,8 @@ OffscreenPictures::~OffscreenPictures() = default;
 
 void OffscreenPictures::start() {
   if (platform_ || QCoreApplication::instance() != nullptr) return;
-  qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});  // standard error is the script's
+  qInstallMessageHandler(
+      [](QtMsgType, const QMessageLogContext&, const QString&) {});  // standard error is the script's
   platform_ = std::make_unique<Platform>();
 }
 

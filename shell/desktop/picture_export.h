@@ -1,8 +1,9 @@
 // Pictures as files: pixels as BMP and PNG, lines and texts as SVG and PDF.
 #pragma once
 
-#include <QImage>
 #include <string>
+
+#include <QImage>
 
 #include "shell/pictures.h"
 

@@ -1,12 +1,13 @@
 #include "shell/desktop/qt_surface.h"
 
+#include <cmath>
+
 #include <QFile>
 #include <QFontMetricsF>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
 #include <QSaveFile>
-#include <cmath>
 
 #include "core/run_failure.h"
 #include "shell/desktop/drawing_painter.h"
@@ -64,7 +65,9 @@ std::optional<Colour> QtSurface::pixel(int x, int y) const {
 }
 
 void QtSurface::text(double x, double y, const std::string& text, Colour colour, double font_size_pt) {
-  if (!QRectF(image_.rect()).adjusted(-image_.width(), -image_.height(), image_.width(), image_.height()).contains(x, y)) {
+  if (!QRectF(image_.rect())
+           .adjusted(-image_.width(), -image_.height(), image_.width(), image_.height())
+           .contains(x, y)) {
     return;
   }
   QPainter painter(&image_);

@@ -1,9 +1,10 @@
 // Texts between the program and Qt. The program's texts are bytes: Latin-1 in data files, UTF-8 in the names of files.
 #pragma once
 
+#include <string>
+
 #include <QString>
 #include <QStringDecoder>
-#include <string>
 
 namespace zol {
 
