@@ -46,9 +46,9 @@ struct Main1Form : Window {
   CheckBox Check1{*this, "Check1", "-H calc"};
   CheckBox Check2{*this, "Check2", "-K calc"};
   CheckBox Check3{*this, "Check3", "-L calc"};
-  TextBox Text18{*this, "Text18", "h       k       l"};  // fixed h
-  TextBox Text19{*this, "Text19", "h       k       l"};  // fixed k
-  TextBox Text20{*this, "Text20", "h       k       l"};  // fixed l
+  TextBox Text18{*this, "Text18", "h       k       l"};  // fixed h; the caption stands over all three
+  TextBox Text19{*this, "Text19"};                       // fixed k
+  TextBox Text20{*this, "Text20"};                       // fixed l
   CheckBox Check4{*this, "Check4", " k mod 3=0"};
   CheckBox Check5{*this, "Check5", "(h-k) mod 3=0"};
   CheckBox Check6{*this, "Check6", "k mod 3<>0"};

@@ -24,7 +24,8 @@ Long array_bound(const std::array<Integer, 3>& limits, std::string_view lattice_
   if (lattice_letter == "A" || lattice_letter == "B" || lattice_letter == "C" || lattice_letter == "I") centring = 2;
   if (lattice_letter == "R") centring = 3;
   if (lattice_letter == "F") centring = 4;
-  return Long::rounded(to_single(box.value() / centring));  // the size is held in a Single
+  const int bound = box.value() / centring;
+  return Long::rounded(to_single(bound));  // the size is held in a Single
 }
 
 void create_arrays(Module1State& state, Long bound) {
