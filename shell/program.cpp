@@ -2,6 +2,9 @@
 
 #include "analysis/hkl3make.h"
 #include "analysis/pattern3_handlers.h"
+#include "entry/input_atom_handlers.h"
+#include "entry/input_jcpds_handlers.h"
+#include "entry/main1_import.h"
 #include "kikuchi/pattern2_form.h"
 #include "reflections/main1_handlers.h"
 #include "reflections/main1_operations.h"
@@ -84,6 +87,8 @@ void wire(Workbench& bench, Main1Form& form) {
   form.Command15.on_click = on(Command15_Click);
   form.DATA_SAVE.on_click = on(DATA_SAVE_Click);
   form.DATA_LOAD.on_click = on(DATA_LOAD_Click);
+  form.ImportFromICSD.on_click = on(ImportFromICSD_Click);
+  form.ImportfromCIF.on_click = on(ImportfromCIF_Click);
   form.OWARI.on_click = on(OWARI_Click);
   form.RefselectON.on_click = on(RefselectON_Click);
   form.Show_utility.on_click = on(Show_utility_Click);
@@ -92,6 +97,30 @@ void wire(Workbench& bench, Main1Form& form) {
   form.add_operation("LoadSGNames", on(LoadSGNames));
   form.add_operation("CalcReflections", on(CalcReflections));
   form.add_operation("CRYSTAL_SELECT", on(CRYSTAL_SELECT));
+}
+
+void wire(Workbench& bench, InputAtomForm& form) {
+  using namespace input_atom;
+  const Wire on(bench, form);
+  form.on_activate = on(Form_Activate);
+  form.G.on_key_press = on(G_KeyPress);
+  form.Command1.on_click = on(Command1_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command4.on_click = on(Command4_Click);
+  form.Import_CIF.on_click = on(Import_CIF_Click);
+  form.Import_MINCRYST.on_click = on(Import_MINCRYST_Click);
+}
+
+void wire(Workbench& bench, InputJcpdsForm& form) {
+  using namespace input_jcpds;
+  const Wire on(bench, form);
+  form.on_activate = on(Form_Activate);
+  form.G.on_key_press = on(G_KeyPress);
+  form.Command1.on_click = on(Command1_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command4.on_click = on(Command4_Click);
 }
 
 void wire(Workbench& bench, Pattern3Form& form) {
@@ -121,6 +150,8 @@ Program::Program(DataRoot data, Services& services)
   register_module1_fields(module1_, state_);
   add_window<MainMenuForm>(bench_, main_menu::Form_Load);
   add_window<Main1Form>(bench_, main1::Form_Load);
+  add_window<InputAtomForm>(bench_, input_atom::Form_Load);
+  add_window<InputJcpdsForm>(bench_, input_jcpds::Form_Load);
   add_window<Pattern3Form>(bench_, pattern3::Form_Load);
   add_window<Pattern2Form>(bench_, nullptr);
 }

@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "core/run_failure.h"
+#include "core/text_records.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -124,33 +125,31 @@ TEST(DrawingText, ShowsPrimitivesInUserCoordinates) {
                                       "point 1 2 000000", "text 1 2 000000 \"a \\\"b\\\"\""}));
 }
 
-/// Whole tasks: each script in tests/scripts prints what stands beside it.
+/// Whole tasks: each script of these folders prints what stands in the file beside it. Paths in them start at the
+/// source tree.
 class Task : public testing::TestWithParam<std::string> {};
 TEST_P(Task, PrintsWhatIsStored) {
-  const std::string base = std::string(ZOL_SOURCE_DIR "/tests/scripts/") + GetParam();
-  const auto text_of = [](const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    std::ostringstream text;
-    text << file.rdbuf();
-    return text.str();
-  };
-  std::string script = text_of(base + ".zs");
-  for (std::size_t at = 0; (at = script.find("@DATA@", at)) != std::string::npos;) {
-    script.replace(at, 6, ZOL_SOURCE_DIR "/data/ZOLDATA");
-  }
-  const auto result = run(script);
+  std::filesystem::current_path(ZOL_SOURCE_DIR);
+  const auto result = run(read_file(GetParam() + ".zs"));
   EXPECT_EQ(result.error, "");
-  EXPECT_EQ(result.output, text_of(base + ".out"));
+  EXPECT_EQ(result.output, read_file(GetParam() + ".out"));
 }
 std::vector<std::string> tasks() {
   std::vector<std::string> names;
-  for (const auto& entry : std::filesystem::directory_iterator(ZOL_SOURCE_DIR "/tests/scripts")) {
-    if (entry.path().extension() == ".zs") names.push_back(entry.path().stem().string());
+  for (const std::string folder : {"tests/scripts", "examples/cif"}) {
+    for (const auto& entry : std::filesystem::directory_iterator(std::string(ZOL_SOURCE_DIR "/") + folder)) {
+      if (entry.path().extension() == ".zs") names.push_back(folder + "/" + entry.path().stem().string());
+    }
   }
   std::sort(names.begin(), names.end());
   return names;
 }
-INSTANTIATE_TEST_SUITE_P(Scripts, Task, testing::ValuesIn(tasks()), [](const auto& row) { return row.param; });
+INSTANTIATE_TEST_SUITE_P(Scripts, Task, testing::ValuesIn(tasks()), [](const auto& row) {
+  std::string name = row.param;
+  std::replace_if(
+      name.begin(), name.end(), [](char c) { return c == '-' || c == '/'; }, '_');
+  return name;
+});
 
 struct StatusCase {
   const char* arguments;

@@ -1,5 +1,5 @@
 # A crystal described by observed reflections: each form spreads over its equivalents
-answer "@DATA@/CopperLines.cry"
+answer "data/ZOLDATA/CopperLines.cry"
 click Main1.DATA_LOAD
 print Main1.Label19
 print Main1.Label31

@@ -1,5 +1,5 @@
 # A trigonal crystal with a screw axis: electrons at 200 kV and MoKa, the zero layer, and the sheet silicate rules
-answer "@DATA@/Quartz.cry"
+answer "data/ZOLDATA/Quartz.cry"
 click Main1.DATA_LOAD
 print Main1.Label17
 print Main1.Label20

@@ -1,5 +1,5 @@
 # A monoclinic C lattice with many sites: cell, unit cell content, basal reflections, triple table
-answer "@DATA@/Muscovite.cry"
+answer "data/ZOLDATA/Muscovite.cry"
 click Main1.DATA_LOAD
 print Main1.Label16
 print Main1.Text12

@@ -1,0 +1,59 @@
+#include "entry/atom_lists.h"
+
+#include "core/run_failure.h"
+#include "core/text_records.h"
+#include "entry/word_lines.h"
+
+namespace zol {
+namespace {
+
+constexpr std::size_t most_lines = 200;
+constexpr std::size_t most_words = 100;
+
+/// Words of each line of a file.
+std::vector<std::vector<std::string>> word_lines(const std::string& path, bool skip_empty) {
+  std::vector<std::vector<std::string>> table;
+  int number = 0;
+  for (const auto& line : split_lines(read_file(path))) {
+    ++number;
+    auto words = cut_words(line);
+    if (words.empty() && skip_empty) continue;
+    const std::string where = path + ", line " + std::to_string(number) + ": ";
+    if (words.size() > most_words) {
+      throw RunFailure(where + std::to_string(words.size()) + " words, at most 100 are read");
+    }
+    if (table.size() == most_lines) throw RunFailure(where + "the table holds 200 lines of atoms at most");
+    table.push_back(std::move(words));
+  }
+  return table;
+}
+
+/// Word n of a line, from 1; empty when the line has none.
+std::string word(const std::vector<std::string>& words, std::size_t n) { return n <= words.size() ? words[n - 1] : ""; }
+
+std::string element_of_label(const std::string& label) {
+  const std::string element = label.substr(0, 2);
+  return element.starts_with('O') ? "O" : element;
+}
+
+}  // namespace
+
+std::vector<AtomRow> read_bare_atom_list(const std::string& path) {
+  std::vector<AtomRow> rows;
+  for (const auto& words : word_lines(path, true)) {
+    const std::string label = word(words, 1);
+    rows.push_back({label, element_of_label(label), "1.0", word(words, 2), word(words, 3), word(words, 4), "0.0"});
+  }
+  return rows;
+}
+
+std::vector<AtomRow> read_mincryst_list(const std::string& path) {
+  std::vector<AtomRow> rows;
+  for (const auto& words : word_lines(path, false)) {
+    rows.push_back({word(words, 6), word(words, 6), word(words, 8), word(words, 2), word(words, 3), word(words, 4),
+                    word(words, 5)});
+  }
+  return rows;
+}
+
+}  // namespace zol

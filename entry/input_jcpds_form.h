@@ -1,0 +1,23 @@
+// The table in which observed powder reflections are entered in place of atoms.
+#pragma once
+
+#include "entry/table_editor.h"
+#include "shell/window_services.h"
+#include "shell/workbench.h"
+
+namespace zol {
+
+struct InputJcpdsForm : Window {
+  static constexpr auto window_name = "InputJCPDS";
+
+  explicit InputJcpdsForm(Workbench& /*bench*/) : Window(window_name, "JCPDS input") {}
+
+  Grid G{*this, "G", table_rows + 1, 5};  // intensity, h, k, l
+  TextBox Text1{*this, "Text1"};          // edit buffer of the current cell
+  CommandButton Command1{*this, "Command1", "OK"};
+  CommandButton Command2{*this, "Command2", "CANCEL"};
+  CommandButton Command3{*this, "Command3", "delete a cell"};
+  CommandButton Command4{*this, "Command4", "delete a row"};
+};
+
+}  // namespace zol

@@ -1,0 +1,49 @@
+// How all importers cut lines into words, and what they do to a word.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/bounded_array.h"
+#include "core/numbers.h"
+
+namespace zol {
+
+/// Words of a line: only the blank separates; a tab, a comma or a quote belongs to the word.
+[[nodiscard]] std::vector<std::string> cut_words(std::string_view line);
+
+/// Lines of a text; CR LF, LF or CR ends one, and an end at the end of the text makes no further line.
+[[nodiscard]] std::vector<std::string> split_lines(std::string_view text);
+
+/// A value without its standard uncertainty: what stands before the first "(".
+[[nodiscard]] std::string without_uncertainty(std::string_view word);
+
+/// The words of the line under work, numbered from 1. Words of earlier lines stay where a later line has none, and word
+/// 0 is always empty: readers take whatever stands at a column.
+class WordTable {
+ public:
+  /// @param path  names the file in messages
+  explicit WordTable(std::string path) : path_(std::move(path)) {}
+
+  /// Takes the next line. @throws RunFailure  it has more than 100 words
+  void take(std::string_view line);
+
+  [[nodiscard]] int count() const { return count_; }  ///< words of this line alone
+  [[nodiscard]] int line() const { return line_; }    ///< from 1
+  [[nodiscard]] const std::string& operator()(int index) const { return words_(index); }
+  void strip(int index) { words_(index) = without_uncertainty(words_(index)); }
+
+  /// Strict conversion: a number and nothing else.
+  /// @param meaning  what the word was taken for, for the message
+  /// @throws RunFailure  names the file, the line, the word, its place and the meaning
+  [[nodiscard]] Single number(int index, std::string_view meaning) const;
+
+ private:
+  std::string path_;
+  BoundedArray<String> words_{"words", 100};
+  int count_ = 0;
+  int line_ = 0;
+};
+
+}  // namespace zol

@@ -1,0 +1,19 @@
+# multiplicity and Wyckoff letter stand between label and coordinates: they are counted as columns
+answer examples/cif/calcite.cif
+click Main1.ImportfromCIF
+print Main1.Text1
+print Main1.Text2
+print Main1.Text3
+print Main1.Text4
+print Main1.Text5
+print Main1.Text6
+print Main1.Text7
+print Main1.Label16
+print Main1.Label19
+click Main1.Command1
+print InputAtom.G
+click InputAtom.Command2
+print Main1.Label20
+print Main1.List1
+click Main1.Command6
+print Main1.Label26

@@ -1,0 +1,166 @@
+// The two table editors on control objects.
+#include <gtest/gtest.h>
+
+#include "entry/input_atom_form.h"
+#include "entry/input_jcpds_form.h"
+#include "reflections/main1_form.h"
+#include "shell/program.h"
+#include "tests/fake_services.h"
+#include "tests/test_files.h"
+
+namespace zol {
+namespace {
+
+class TableEditor : public testing::Test {
+ protected:
+  TableEditor() {
+    program.start();
+    main1().Text7.set_text("2");
+  }
+  Main1Form& main1() { return program.windows().use<Main1Form>(); }
+  InputAtomForm& atoms() { return program.windows().use<InputAtomForm>(); }
+  InputJcpdsForm& lines() { return program.windows().use<InputJcpdsForm>(); }
+  static void type(Grid& grid, const std::string& text) {
+    for (const char c : text) grid.press_key(static_cast<unsigned char>(c));
+  }
+  static void put(Grid& grid, int row, int column, const std::string& text) { put_cell(grid, row, column, text); }
+
+  FakeServices services;
+  Program program{{ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services};
+  CrystalState& state = program.state();
+  ScratchFolder folder;
+};
+
+TEST_F(TableEditor, EnterWalksByRowsAndKeepsCellsWithNothingTyped) {
+  type(atoms().G, "Na1\rNa\r1\r0\r0\r0\r.5\rCl1\r\r");
+  EXPECT_EQ(atoms().G.row(), 2);
+  EXPECT_EQ(atoms().G.column(), 3);
+  EXPECT_EQ(atoms().G.text(1, 7), ".5");
+  EXPECT_EQ(atoms().G.text(2, 1), "Cl1");
+  put(atoms().G, 1, 1, "kept");
+  type(atoms().G, "\r");
+  EXPECT_EQ(atoms().G.text(1, 1), "kept");
+  type(lines().G, "100\r1\r1\r1\r50\r");
+  EXPECT_EQ(lines().G.text(2, 1), "50") << "this table wraps behind L";
+}
+
+TEST_F(TableEditor, BackspaceStaysInAnEmptyBuffer) {
+  type(atoms().G, "ab\bc");
+  EXPECT_EQ(atoms().Text1.text(), "ac");
+  type(atoms().G, "\b\b");
+  EXPECT_EQ(atoms().Text1.text(), "");
+  type(atoms().G, "\bX\r");
+  EXPECT_EQ(atoms().G.text(1, 1), "\bX");
+}
+
+TEST_F(TableEditor, LastCellHasNoNext) {
+  atoms().G.set_row(200);
+  atoms().G.set_column(7);
+  EXPECT_EQ(failure_of([&] { type(atoms().G, "1\r"); }),
+            "row 201 of the table InputAtom.G is outside 0 to 200, while a key was pressed in InputAtom.G");
+}
+
+TEST_F(TableEditor, DeletedRowPullsTheOthersUp) {
+  for (int row = 1; row <= 200; ++row) put(atoms().G, row, 1, std::to_string(row));
+  atoms().G.set_row(3);
+  atoms().Command4.click();
+  EXPECT_EQ(atoms().G.text(2, 1), "2");
+  EXPECT_EQ(atoms().G.text(3, 1), "4");
+  EXPECT_EQ(atoms().G.text(199, 1), "200");
+  EXPECT_EQ(atoms().G.text(200, 1), "200") << "the last row stays and stands twice";
+  EXPECT_EQ(atoms().G.row(), 199);
+  EXPECT_EQ(atoms().G.column(), 7);
+  EXPECT_EQ(atoms().G.text(3, 0), " 3") << "the numbers stay";
+  atoms().G.set_row(200);
+  atoms().G.set_column(1);
+  atoms().Command4.click();
+  EXPECT_EQ(atoms().G.row(), 200) << "nothing follows the last row";
+  EXPECT_EQ(atoms().G.text(200, 1), "200");
+  atoms().Command3.click();
+  EXPECT_EQ(atoms().G.text(200, 1), "");
+}
+
+TEST_F(TableEditor, OkTakesTheSitesBeforeTheFirstEmptyName) {
+  auto& grid = atoms().G;
+  put(grid, 1, 1, "A");
+  put(grid, 1, 2, "Na");
+  put(grid, 1, 3, "x");
+  put(grid, 1, 4, ".25(1)");
+  put(grid, 2, 1, "B");
+  put(grid, 4, 1, "dropped");
+  atoms().Text2.set_text(".5");
+  atoms().Text4.set_text("-.1");
+  type(grid, "typed without Enter");
+  atoms().Command1.click();
+  EXPECT_EQ(state.NAtom, 2);
+  EXPECT_EQ(main1().Label19.caption(), " 2");
+  EXPECT_EQ(state.AtomOcc(1), 0);
+  EXPECT_EQ(state.AtomPos(1, 1), 0.75F);
+  EXPECT_EQ(state.AtomPos(2, 3), -0.1F) << "the shift goes to every site";
+  EXPECT_EQ(state.AtomElement(2), "");
+  EXPECT_EQ(state.NCell, 4);
+  EXPECT_EQ(program.windows().find("InputAtom"), nullptr);
+  EXPECT_EQ(atoms().Text2.text(), "") << "a new window each time";
+  EXPECT_EQ(atoms().G.text(1, 4), ".75");
+  EXPECT_EQ(atoms().G.row(), 3);
+  atoms().G.clear();
+  atoms().Command2.click();
+  EXPECT_EQ(state.NAtom, 2) << "CANCEL changes nothing";
+}
+
+TEST_F(TableEditor, HasNoRoomBehindTwoHundredAtoms) {
+  state.NAtom = 200;
+  EXPECT_NE(failure_of([&] { (void)atoms(); }).find("row 201 of the table InputAtom.G"), std::string::npos);
+}
+
+TEST_F(TableEditor, ImportEmptiesTheTableEvenWhenCancelled) {
+  put(atoms().G, 5, 1, "old");
+  services.answers = {folder.write("list", "Si1 .1 .2 .3\n"), ""};
+  atoms().Import_CIF.click();
+  EXPECT_EQ(atoms().G.text(1, 2), "Si");
+  EXPECT_EQ(atoms().G.text(5, 1), "");
+  EXPECT_EQ(atoms().G.text(5, 0), " 5");
+  EXPECT_EQ(atoms().G.text(0, 7), "Biso");
+  atoms().Import_MINCRYST.click();
+  EXPECT_EQ(atoms().G.text(1, 1), "");
+  EXPECT_EQ(state.NAtom, 0) << "only OK takes the table over";
+}
+
+TEST_F(TableEditor, ObservedReflectionsGoTheWholeWay) {
+  main1().Text7.set_text("225");
+  main1().Text1.set_text("3.615");
+  main1().Text7.leave();
+  main1().Command15.click();
+  EXPECT_TRUE(lines().visible());
+  type(lines().G, "100\r1\r1\r1\r46\r2\r0\r0\r");
+  lines().Command1.click();
+  EXPECT_EQ(main1().Label31.caption(), " 2");
+  main1().Command6.click();
+  EXPECT_EQ(main1().List2.list_count(), 14) << "8 of {111} and 6 of {200}";
+  services.answers = {folder.path("Cu.cry"), folder.path("Cu.cry")};
+  main1().DATA_SAVE.click();
+  state.JcpdsCount = 0;
+  main1().DATA_LOAD.click();
+  EXPECT_EQ(state.JcpdsI(2), 46);
+  EXPECT_EQ(main1().List2.list_count(), 14);
+  EXPECT_EQ(lines().G.text(2, 1), "46");
+  EXPECT_EQ(lines().G.row(), 3);
+}
+
+TEST_F(TableEditor, ImportersReplaceTheCrystal) {
+  services.answers = {folder.write("a.cif",
+                                   "_cell_length_a 4\n_symmetry_Int_Tables_number 221\n_atom_site_label\n"
+                                   "_atom_site_type_symbol\n_atom_site_fract_x\n_atom_site_fract_y\n"
+                                   "_atom_site_fract_z\nCs1 Cs 0 0 0\nCl1 Cl .5 .5 .5\n"),
+                      ""};
+  main1().ImportfromCIF.click();
+  EXPECT_EQ(main1().Label16.caption(), "Pm3m");
+  EXPECT_EQ(state.CellA, 4);
+  EXPECT_EQ(main1().Label19.caption(), " 2");
+  EXPECT_EQ(main1().List1.list_count(), 2);
+  main1().ImportFromICSD.click();
+  EXPECT_EQ(state.NAtom, 2) << "cancelled";
+}
+
+}  // namespace
+}  // namespace zol
