@@ -246,6 +246,10 @@ class Binder::GridTie : public Tie {
     view.setSelectionMode(QAbstractItemView::SingleSelection);
     view.setModel(model_);
     view.installEventFilter(&owner);
+    view.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+    view.horizontalHeader()->setHighlightSections(false);
+    view.verticalHeader()->setHighlightSections(false);
+    view.verticalHeader()->setDefaultSectionSize(view.fontMetrics().height() + 8);
     connect(view.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& current, const QModelIndex& /*previous*/) {
               if (showing_ || !current.isValid()) return;
@@ -258,11 +262,14 @@ class Binder::GridTie : public Tie {
   void show() override {
     showing_ = true;
     model_->refresh();
+    // Columns share the room; none gets narrower than the grid wants.
     constexpr int twips_per_pixel = 15;
     shown_.verticalHeader()->setMinimumWidth(grid_.column_width(0) / twips_per_pixel);
+    int narrowest = 0;
     for (int column = 1; column < grid_.columns(); ++column) {
-      shown_.setColumnWidth(column - 1, grid_.column_width(column) / twips_per_pixel);
+      narrowest = std::max(narrowest, grid_.column_width(column) / twips_per_pixel);
     }
+    shown_.horizontalHeader()->setMinimumSectionSize(narrowest);
     shown_.setCurrentIndex(model_->index(grid_.row() - 1, grid_.column() - 1));
     showing_ = false;
   }
