@@ -15,6 +15,9 @@ struct ZaxisForm : Window {
         CommonDialog1(bench.services) {
     fields().add("KeepMap", KeepMap);
     fields().add("MapScale", MapScale);
+    // As it starts; no event comes of it.
+    for (TextBox* limit : {&Text1, &Text2, &Text3}) limit->set_text("1");
+    Option1.set_on(true);
   }
 
   TextBox Text1{*this, "Text1", "U Max="};

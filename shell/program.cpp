@@ -5,7 +5,10 @@
 #include "entry/input_atom_handlers.h"
 #include "entry/input_jcpds_handlers.h"
 #include "entry/main1_import.h"
-#include "kikuchi/pattern2_form.h"
+#include "kikuchi/camera_parameters_handlers.h"
+#include "kikuchi/kikuchi_operations.h"
+#include "kikuchi/pattern2_handlers.h"
+#include "kikuchi/zaxis_handlers.h"
 #include "reflections/main1_handlers.h"
 #include "reflections/main1_operations.h"
 #include "shell/main_menu_handlers.h"
@@ -25,6 +28,9 @@ class Wire {
   }
   [[nodiscard]] auto operator()(void (*handler)(Workbench&, Form&, int&)) const {
     return [handler, &bench = bench_, &form = form_](int& key) { handler(bench, form, key); };
+  }
+  [[nodiscard]] auto operator()(void (*handler)(Workbench&, Form&, Single, Single)) const {
+    return [handler, &bench = bench_, &form = form_](Single x, Single y) { handler(bench, form, x, y); };
   }
   [[nodiscard]] auto operator()(void (*operation)(Workbench&)) const {
     return [operation, &bench = bench_] { operation(bench); };
@@ -97,6 +103,10 @@ void wire(Workbench& bench, Main1Form& form) {
   form.add_operation("LoadSGNames", on(LoadSGNames));
   form.add_operation("CalcReflections", on(CalcReflections));
   form.add_operation("CRYSTAL_SELECT", on(CRYSTAL_SELECT));
+  form.add_operation("PatternDisp2", on(PatternDisp2));
+  form.add_operation("Patterndisp4", on(Patterndisp4));
+  form.add_operation("ZoneCalc", on(ZoneCalc));
+  form.add_operation("ZoneCalc2", on(ZoneCalc2));
 }
 
 void wire(Workbench& bench, InputAtomForm& form) {
@@ -130,7 +140,93 @@ void wire(Workbench& bench, Pattern3Form& form) {
   form.add_operation("Hkl3make", on(Hkl3make));
 }
 
-void wire(Workbench& /*bench*/, Pattern2Form& /*form*/) {}
+void wire(Workbench& bench, Pattern2Form& form) {
+  using namespace pattern2;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text4.on_change = on(Text4_Change);
+  form.Text5.on_change = on(Text5_Change);
+  form.Text11.on_change = on(Text11_Change);
+  form.Text12.on_change = on(Text12_Change);
+  form.Text13.on_change = on(Text13_Change);
+  form.Text14.on_change = on(Text14_Change);
+  form.Text15.on_change = on(Text15_Change);
+  form.Text19.on_change = on(Text19_Change);
+  form.Text21.on_lost_focus = on(Text21_LostFocus);
+  form.Text3.on_key_press = on(Text3_KeyPress);
+  form.Text4.on_key_press = on(Text4_KeyPress);
+  form.Text5.on_key_press = on(Text5_KeyPress);
+  form.Text11.on_key_press = on(Text11_KeyPress);
+  form.Text12.on_key_press = on(Text12_KeyPress);
+  form.Text13.on_key_press = on(Text13_KeyPress);
+  form.Text22.on_key_press = on(Text22_KeyPress);
+  form.Text23.on_key_press = on(Text23_KeyPress);
+  for (int i = 0; i < form.Command1.count(); ++i) {
+    form.Command1(i).on_click = [&bench, &form, i] { Command1_Click(bench, form, i); };
+  }
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command4.on_click = on(Command4_Click);
+  form.Command5.on_click = on(Command5_Click);
+  form.Command6.on_click = on(Command6_Click);
+  form.Command7.on_click = on(Command7_Click);
+  form.Command8.on_click = on(Command8_Click);
+  form.Command9.on_click = on(Command9_Click);
+  form.Command10.on_click = on(Command10_Click);
+  form.Command11.on_click = on(Command11_Click);
+  form.Command12.on_click = on(Command12_Click);
+  form.Command13.on_click = on(Command13_Click);
+  form.Command14.on_click = on(Command14_Click);
+  form.Command15.on_click = on(Command15_Click);
+  form.Command16.on_click = on(Command16_Click);
+  form.Command17.on_click = on(Command17_Click);
+  form.Command18.on_click = on(Command18_Click);
+  form.List1.on_click = on(List1_Click);
+  form.Picture1.on_mouse_down = on(Picture1_MouseDown);
+  form.Picture1.on_double_click = on(Command4_Click);
+  form.ISAVE.on_click = on(ISAVE_Click);
+  form.Imagesize.on_click = on(Imagesize_Click);
+  form.ImageLoad.on_click = on(ImageLoad_Click);
+  form.ImageClear.on_click = on(ImageClear_Click);
+  form.Rpitch.on_click = on(Rpitch_Click);
+  form.Spitch.on_click = on(Spitch_Click);
+  form.Zpitch.on_click = on(Zpitch_Click);
+  form.add_operation("Fsize", on(Fsize));
+  form.add_operation("Spotsize", on(Spotsize));
+}
+
+void wire(Workbench& bench, ZaxisForm& form) {
+  using namespace zaxis;
+  const Wire on(bench, form);
+  for (TextBox* limit : {&form.Text1, &form.Text2, &form.Text3}) limit->on_change = on(redraw);
+  for (CheckBox* box : {&form.Check1, &form.Check2, &form.Check3}) box->on_click = on(redraw);
+  for (OptionButton* option : {&form.Option1, &form.Option2}) option->on_click = on(redraw);
+  for (TextBox* index : {&form.Text4, &form.Text5, &form.Text6}) index->on_change = on(direction_Change);
+  form.Text4.on_key_press = on(Text4_KeyPress);
+  form.Text5.on_key_press = on(Text5_KeyPress);
+  form.Text6.on_key_press = on(Text6_KeyPress);
+  form.Command1.on_click = on(Command1_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.SaveMap.on_click = on(SaveMap_Click);
+  form.add_operation("Calc", on(Calc));
+  form.add_operation("Redraw", on(Calc));
+}
+
+void wire(Workbench& bench, CameraParametersForm& form) {
+  using namespace camera_parameters;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text2.on_change = on(Text2_Change);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text5.on_change = on(Text5_Change);
+  form.Text6.on_change = on(Text6_Change);
+  form.Text7.on_change = on(Text7_Change);
+  form.Command1.on_click = on(Command1_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+}
 
 /// Makes a window known: its form, its events, its Form_Load.
 template <class Form>
@@ -153,7 +249,9 @@ Program::Program(DataRoot data, Services& services)
   add_window<InputAtomForm>(bench_, input_atom::Form_Load);
   add_window<InputJcpdsForm>(bench_, input_jcpds::Form_Load);
   add_window<Pattern3Form>(bench_, pattern3::Form_Load);
-  add_window<Pattern2Form>(bench_, nullptr);
+  add_window<Pattern2Form>(bench_, pattern2::Form_Load);
+  add_window<ZaxisForm>(bench_, zaxis::Form_Load);
+  add_window<CameraParametersForm>(bench_, camera_parameters::Form_Load);
 }
 
 void Program::start() { windows_.use(MainMenuForm::window_name).show(); }

@@ -1,0 +1,65 @@
+#include "kikuchi/camera_parameters_handlers.h"
+
+#include <array>
+
+#include "analysis/pattern3_form.h"
+#include "core/camera_file.h"
+
+namespace zol::camera_parameters {
+namespace {
+
+void fill_boxes(const Module1State& camera, CameraParametersForm& form) {
+  // Writing a box sets its scalar from the text, so the texts are made first.
+  const std::array texts{plain_text(camera.CamAcquisition), plain_text(camera.CamXShift),
+                         plain_text(camera.CamYShift),      plain_text(camera.CamDetector),
+                         plain_text(camera.CamXYRatio),     plain_text(camera.CamNormal)};
+  const std::array boxes{&form.Text1, &form.Text2, &form.Text3, &form.Text5, &form.Text6, &form.Text7};
+  for (std::size_t i = 0; i < boxes.size(); ++i) boxes[i]->set_text(texts[i]);
+}
+
+/// The dialog starts at the data root with the file in use.
+std::string ask_file(Workbench& bench, CameraParametersForm& form, bool save) {
+  form.CommonDialog1.set_initial_folder(bench.data.root);
+  form.CommonDialog1.set_file_name(bench.state.CameraFile);
+  return save ? form.CommonDialog1.save() : form.CommonDialog1.open();
+}
+
+void take(const TextBox& box, Single& scalar) { scalar = to_single(Val(box.text())); }
+
+void copy_text(const TextBox& from, Window& window, const char* to) {
+  if (auto* box = dynamic_cast<TextBox*>(window.find(to))) box->set_text(from.text());
+}
+
+}  // namespace
+
+void Form_Load(Workbench& bench, CameraParametersForm& form) { fill_boxes(bench.state, form); }
+
+void Text1_Change(Workbench& bench, CameraParametersForm& form) { take(form.Text1, bench.state.CamAcquisition); }
+void Text2_Change(Workbench& bench, CameraParametersForm& form) { take(form.Text2, bench.state.CamXShift); }
+void Text3_Change(Workbench& bench, CameraParametersForm& form) { take(form.Text3, bench.state.CamYShift); }
+void Text5_Change(Workbench& bench, CameraParametersForm& form) { take(form.Text5, bench.state.CamDetector); }
+void Text6_Change(Workbench& bench, CameraParametersForm& form) { take(form.Text6, bench.state.CamXYRatio); }
+void Text7_Change(Workbench& bench, CameraParametersForm& form) { take(form.Text7, bench.state.CamNormal); }
+
+void Command1_Click(Workbench& bench, CameraParametersForm& form) {
+  const std::string path = ask_file(bench, form, false);
+  if (path.empty()) return;
+  bench.state.CameraFile = path;
+  read_camera_file(path, bench.state);
+  fill_boxes(bench.state, form);
+  Window& pattern3 = bench.windows.use<Pattern3Form>();
+  copy_text(form.Text1, pattern3, "Text3");
+  copy_text(form.Text2, pattern3, "Text14");
+  copy_text(form.Text3, pattern3, "Text15");
+}
+
+void Command2_Click(Workbench& bench, CameraParametersForm& form) {
+  const std::string path = ask_file(bench, form, true);
+  if (path.empty()) return;
+  bench.state.CameraFile = path;
+  write_camera_file(path, bench.state);
+}
+
+void Command3_Click(Workbench& /*bench*/, CameraParametersForm& form) { form.hide(); }
+
+}  // namespace zol::camera_parameters

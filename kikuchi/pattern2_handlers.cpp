@@ -1,0 +1,321 @@
+#include "kikuchi/pattern2_handlers.h"
+
+#include <array>
+#include <cmath>
+
+#include "analysis/pattern3_form.h"
+#include "kikuchi/electron_voltage.h"
+#include "kikuchi/kikuchi_operations.h"
+#include "reflections/main1_form.h"
+#include "reflections/main1_operations.h"
+#include "spots/picture_prompts.h"
+#include "spots/zone_calculation.h"
+
+namespace zol::pattern2 {
+namespace {
+
+void enter_moves_to(TextBox& next, int& key) {
+  if (key != key_enter) return;
+  key = 0;
+  next.set_focus();
+}
+
+/// A typed component of the axis. The flag tells that the pattern is not that of the axis.
+void take_axis(Workbench& bench, const TextBox& box, Single& component) {
+  main1_state(bench).PatternFlag = 2;
+  component = to_single(Val(box.text()));
+}
+
+bool has_axis(const CrystalState& state) { return state.ZoneU != 0 || state.ZoneV != 0 || state.ZoneW != 0; }
+
+/// Shows the axis that was found and the plane normal to it.
+void show_new_axis(const CrystalState& state, Pattern2Form& form) {
+  form.Text6.set_text(plain_text(state.NewZoneU));
+  form.Text7.set_text(plain_text(state.NewZoneV));
+  form.Text8.set_text(plain_text(state.NewZoneW));
+  const auto percent = normal_plane_percent(state, {state.NewZoneU, state.NewZoneV, state.NewZoneW});
+  form.Text16.set_text(plain_text(percent[0]));
+  form.Text17.set_text(plain_text(percent[1]));
+  form.Text18.set_text(plain_text(percent[2]));
+}
+
+void take_mark(Workbench& bench, const Pattern2Form& form) {
+  CrystalState& state = main1_state(bench);
+  state.MarkH = Integer::rounded(Val(form.Text11.text()));
+  state.MarkK = Integer::rounded(Val(form.Text12.text()));
+  state.MarkL = Integer::rounded(Val(form.Text13.text()));
+}
+
+void zoom(Workbench& bench, Pattern2Form& form, double opening) {
+  bench.state.CamAcquisition = to_single(opening);
+  form.Text1.set_text(Format(bench.state.CamAcquisition, "##0.###"));
+  PatternDisp2(bench);
+}
+
+/// Turns the pattern by so many pitches; positive is anticlockwise.
+void turn(Workbench& bench, const Pattern2Form& form, double pitches_times, double pitches_by) {
+  CrystalState& state = main1_state(bench);
+  state.PatternAngle =
+      to_single(state.PatternAngle + form.RotationPitch / 180.0 * program_pi * pitches_times / pitches_by);
+  PatternDisp2(bench);
+}
+
+/// Fixes the grey scale and changes it.
+void scale_intensity(Workbench& bench, Pattern2Form& form, double display_scale) {
+  form.Check4.set_value(1);
+  main1_state(bench).DisplayScale = to_single(display_scale);
+  PatternDisp2(bench);
+}
+
+void take_angles(Workbench& bench, const Pattern2Form& form) {
+  CrystalState& state = main1_state(bench);
+  state.TiltPhi = to_single(Val(form.Text22.text()) * degree);
+  state.TiltTheta = to_single(Val(form.Text23.text()) * degree);
+}
+
+/// A red disc at the typed direction.
+void mark_angles(const CrystalState& state, Pattern2Form& form) {
+  constexpr Colour red = RGB(255, 0, 0);
+  const double distance = std::tan(program_pi / 2 - state.TiltTheta);
+  const Single x = to_single(distance * std::cos(double{state.TiltPhi}));
+  const Single y = to_single(distance * std::sin(double{state.TiltPhi}));
+  form.Picture1.set_solid_fill(true);
+  form.Picture1.set_fill_colour(red);
+  form.Picture1.circle(x, y, std::atan(Val(form.Text1.text()) * degree) * 0.01, red);
+}
+
+void find_axis_of_angles(Workbench& bench, Pattern2Form& form) {
+  ZoneCalc2(bench);
+  show_new_axis(main1_state(bench), form);
+}
+
+void enter_plots_angles(Workbench& bench, Pattern2Form& form, int& key) {
+  if (key != key_enter) return;
+  key = 0;
+  take_angles(bench, form);
+  mark_angles(main1_state(bench), form);
+  find_axis_of_angles(bench, form);
+}
+
+/// Asks for a value; an empty answer changes nothing.
+void ask(Workbench& bench, const std::string& text, const std::string& title, Single& value) {
+  const std::string answer = bench.services.prompt("[" + plain_text(value) + text, title);
+  if (!answer.empty()) value = to_single(Val(answer));
+}
+
+}  // namespace
+
+void Form_Load(Workbench& bench, Pattern2Form& form) {
+  form.Option1.set_on(true);
+  form.Text14.set_text(plain_text(bench.state.CamXShift));
+  form.Text15.set_text(plain_text(bench.state.CamYShift));
+  form.Text1.set_text(plain_text(bench.state.CamAcquisition));
+  form.RotationPitch = 5;
+  form.ShiftPitch = to_single(bench.state.CamAcquisition / 10.0);
+  form.ZoomRatio = to_single(1.4142);
+  CrystalState& state = main1_state(bench);
+  // A product where the voltage box divides; it shows only until the first radiation is set.
+  if (state.WaveLength == 0) state.WaveLength = to_single(std::sqrt(150.0 / 20.0 * 1000.0));
+}
+
+void Text1_Change(Workbench& bench, Pattern2Form& form) {
+  constexpr double widest = 85;
+  Module1State& camera = bench.state;
+  const auto limit = [&camera, &form](double opening) {
+    camera.CamAcquisition = to_single(opening);
+    form.Text1.set_text(plain_text(camera.CamAcquisition));
+  };
+  camera.CamAcquisition = to_single(Val(form.Text1.text()));
+  if (double{camera.CamAcquisition} - camera.CamXShift > widest) limit(camera.CamXShift + widest);
+  if (double{camera.CamAcquisition} - camera.CamYShift > widest) limit(camera.CamYShift + widest);
+  if (double{camera.CamXShift} + camera.CamAcquisition > widest) limit(widest - camera.CamXShift);
+  if (double{camera.CamYShift} + camera.CamAcquisition > widest) limit(widest - camera.CamYShift);
+}
+
+void Text3_Change(Workbench& bench, Pattern2Form& form) { take_axis(bench, form.Text3, bench.state.ZoneU); }
+void Text4_Change(Workbench& bench, Pattern2Form& form) { take_axis(bench, form.Text4, bench.state.ZoneV); }
+void Text5_Change(Workbench& bench, Pattern2Form& form) { take_axis(bench, form.Text5, bench.state.ZoneW); }
+
+void Text11_Change(Workbench& bench, Pattern2Form& form) {
+  main1_state(bench).MarkH = Integer::rounded(Val(form.Text11.text()));
+}
+void Text12_Change(Workbench& bench, Pattern2Form& form) {
+  main1_state(bench).MarkK = Integer::rounded(Val(form.Text12.text()));
+}
+void Text13_Change(Workbench& bench, Pattern2Form& form) {
+  main1_state(bench).MarkL = Integer::rounded(Val(form.Text13.text()));
+}
+
+void Text14_Change(Workbench& bench, Pattern2Form& form) { bench.state.CamXShift = to_single(Val(form.Text14.text())); }
+void Text15_Change(Workbench& bench, Pattern2Form& form) { bench.state.CamYShift = to_single(Val(form.Text15.text())); }
+
+void Text19_Change(Workbench& bench, Pattern2Form& form) {
+  CrystalState& state = main1_state(bench);
+  state.KikuchiRefLimit = Long::rounded(Val(form.Text19.text()));
+  if (state.KikuchiRefLimit == 0) state.KikuchiRefLimit = state.RefCount;
+}
+
+void Text21_LostFocus(Workbench& bench, Pattern2Form& form) { set_electron_voltage(bench, form.Text21.text()); }
+
+void Text3_KeyPress(Workbench& /*bench*/, Pattern2Form& form, int& key) { enter_moves_to(form.Text4, key); }
+void Text4_KeyPress(Workbench& /*bench*/, Pattern2Form& form, int& key) { enter_moves_to(form.Text5, key); }
+void Text5_KeyPress(Workbench& bench, Pattern2Form& form, int& key) {
+  if (key != key_enter) return;
+  key = 0;
+  Command8_Click(bench, form);
+}
+void Text11_KeyPress(Workbench& /*bench*/, Pattern2Form& form, int& key) { enter_moves_to(form.Text12, key); }
+void Text12_KeyPress(Workbench& /*bench*/, Pattern2Form& form, int& key) { enter_moves_to(form.Text13, key); }
+void Text13_KeyPress(Workbench& bench, Pattern2Form& /*form*/, int& key) {
+  if (key != key_enter) return;
+  key = 0;
+  Patterndisp4(bench);
+}
+void Text22_KeyPress(Workbench& bench, Pattern2Form& form, int& key) { enter_plots_angles(bench, form, key); }
+void Text23_KeyPress(Workbench& bench, Pattern2Form& form, int& key) { enter_plots_angles(bench, form, key); }
+
+void Command1_Click(Workbench& bench, Pattern2Form& form, int index) {
+  constexpr double nearly_zero = 0.00001;  // keeps off the axis, where azimuths have a constant of their own
+  CrystalState& state = main1_state(bench);
+  const double step = std::tan(form.ShiftPitch * degree);
+  const std::array<std::array<double, 2>, 4> tilts{
+      {{-step, nearly_zero}, {nearly_zero, -step}, {step, nearly_zero}, {nearly_zero, step}}};
+  const auto& [x, y] = tilts.at(static_cast<std::size_t>(index));
+  state.TiltX = to_single(x);
+  state.TiltY = to_single(y);
+  ZoneCalc(bench);
+  show_new_axis(state, form);
+  Command4_Click(bench, form);
+}
+
+void Command2_Click(Workbench& bench, Pattern2Form& form) {
+  zoom(bench, form, divide(bench.state.CamAcquisition, form.ZoomRatio, "the zoom increment"));
+}
+void Command3_Click(Workbench& bench, Pattern2Form& form) {
+  zoom(bench, form, double{bench.state.CamAcquisition} * form.ZoomRatio);
+}
+
+void Command4_Click(Workbench& bench, Pattern2Form& form) {
+  CrystalState& state = main1_state(bench);
+  state.PrevZoneU = to_single(Val(form.Text3.text()));
+  state.PrevZoneV = to_single(Val(form.Text4.text()));
+  state.PrevZoneW = to_single(Val(form.Text5.text()));
+  form.Text3.set_text(form.Text6.text());
+  form.Text4.set_text(form.Text7.text());
+  form.Text5.set_text(form.Text8.text());
+  state.PatternFlag = 1;
+  PatternDisp2(bench);
+  state.PatternFlag = 0;
+  state.PatternAngleStep = 0;
+}
+
+// The window of the spot pattern is printed, as it always was.
+void Command5_Click(Workbench& bench, Pattern2Form& form) {
+  form.CommonDialog1.printer_setup();
+  if (bench.windows.knows("Pattern")) bench.services.print_window(bench.windows.use("Pattern"));
+}
+
+void Command6_Click(Workbench& bench, Pattern2Form& form) { turn(bench, form, -1, 1); }
+void Command7_Click(Workbench& bench, Pattern2Form& form) { turn(bench, form, 1, 1); }
+
+void Command8_Click(Workbench& bench, Pattern2Form& form) {
+  CrystalState& state = main1_state(bench);
+  if (!has_axis(state)) return;
+  state.CamAcquisition = to_single(Val(form.Text1.text()));
+  state.CamXShift = to_single(Val(form.Text14.text()));
+  state.CamYShift = to_single(Val(form.Text15.text()));
+  PatternDisp2(bench);
+  state.PatternFlag = 0;
+}
+
+void Command9_Click(Workbench& bench, Pattern2Form& form) { turn(bench, form, -10, 1); }
+void Command10_Click(Workbench& bench, Pattern2Form& form) { turn(bench, form, 10, 1); }
+void Command11_Click(Workbench& bench, Pattern2Form& form) { turn(bench, form, -1, 10); }
+void Command12_Click(Workbench& bench, Pattern2Form& form) { turn(bench, form, 1, 10); }
+
+void Command13_Click(Workbench& bench, Pattern2Form& form) {
+  take_mark(bench, form);
+  Patterndisp4(bench);
+}
+
+void Command14_Click(Workbench& bench, Pattern2Form& form) {
+  scale_intensity(bench, form, main1_state(bench).DisplayScale / std::sqrt(2.0));
+}
+void Command15_Click(Workbench& bench, Pattern2Form& form) {
+  scale_intensity(bench, form, main1_state(bench).DisplayScale * std::sqrt(2.0));
+}
+
+void Command16_Click(Workbench& bench, Pattern2Form& /*form*/) { CRYSTAL_SELECT(bench); }
+
+void Command17_Click(Workbench& bench, Pattern2Form& form) {
+  form.Check1.set_value(form.Check1.checked() ? 0 : 1);
+  PatternDisp2(bench);
+}
+
+void Command18_Click(Workbench& bench, Pattern2Form& form) {
+  constexpr double lowest_marked = 10;
+  take_angles(bench, form);
+  if (Val(form.Text23.text()) > lowest_marked) mark_angles(main1_state(bench), form);
+  find_axis_of_angles(bench, form);
+}
+
+void List1_Click(Workbench& bench, Pattern2Form& form) {
+  CrystalState& state = main1_state(bench);
+  const int row = form.List1.list_index();
+  state.MarkH = state.BandHKL(row, 0);
+  state.MarkK = state.BandHKL(row, 1);
+  state.MarkL = state.BandHKL(row, 2);
+  Patterndisp4(bench);
+}
+
+void Picture1_MouseDown(Workbench& bench, Pattern2Form& form, Single x, Single y) {
+  CrystalState& state = main1_state(bench);
+  state.TiltX = x;
+  state.TiltY = y;
+  ZoneCalc(bench);
+  show_new_axis(state, form);
+}
+
+void ISAVE_Click(Workbench& /*bench*/, Pattern2Form& form) {
+  form.Picture1.save_stored_image(form.CommonDialog1.save() + ".bmp");
+}
+
+void Imagesize_Click(Workbench& bench, Pattern2Form& form) {
+  if (ask_image_size(bench, form.Picture1) && has_axis(main1_state(bench))) PatternDisp2(bench);
+}
+
+void ImageLoad_Click(Workbench& bench, Pattern2Form& form) {
+  form.ImageMark = "ON";
+  if (auto* image = dynamic_cast<Canvas*>(bench.windows.use<Pattern3Form>().find("Picture1"))) {
+    form.Picture1.take_picture(*image, true);  // y counts downward there
+  }
+  Command8_Click(bench, form);
+}
+
+void ImageClear_Click(Workbench& bench, Pattern2Form& form) {
+  form.ImageMark = "";
+  form.Picture1.remove_picture();
+  Command8_Click(bench, form);
+}
+
+void Rpitch_Click(Workbench& bench, Pattern2Form& form) { ask_rotation_pitch(bench, form.RotationPitch); }
+
+void Spitch_Click(Workbench& bench, Pattern2Form& form) {
+  ask(bench, "] Input Shift Angle  (deg.)", "Shift Angle Pitch", form.ShiftPitch);
+}
+
+void Zpitch_Click(Workbench& bench, Pattern2Form& form) {
+  ask(bench, "] Input Zoom increment (ratio)", "Zoom increment", form.ZoomRatio);
+}
+
+void Fsize(Workbench& bench, Pattern2Form& form) {
+  ask_font_size(bench, form.Picture1);
+  PatternDisp2(bench);
+}
+
+void Spotsize(Workbench& bench, Pattern2Form& /*form*/) {
+  ask_spot_size(bench);
+  PatternDisp2(bench);
+}
+
+}  // namespace zol::pattern2

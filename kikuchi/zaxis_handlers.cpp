@@ -1,0 +1,63 @@
+#include "kikuchi/zaxis_handlers.h"
+
+#include <cmath>
+
+#include "kikuchi/kikuchi_operations.h"
+#include "kikuchi/zone_map.h"
+
+namespace zol::zaxis {
+namespace {
+
+void enter_moves_to(TextBox& next, int& key) {
+  if (key != key_enter) return;
+  key = 0;
+  next.set_focus();
+}
+
+void zoom(Workbench& bench, ZaxisForm& form, double step) {
+  form.MapScale = to_single(form.MapScale + step);
+  Calc(bench);
+}
+
+}  // namespace
+
+void Form_Load(Workbench& /*bench*/, ZaxisForm& form) {
+  form.KeepMap = 0;
+  form.MapScale = to_single(1.3);
+}
+
+void redraw(Workbench& bench, ZaxisForm& /*form*/) { Calc(bench); }
+
+void direction_Change(Workbench& bench, ZaxisForm& form) {
+  form.KeepMap = 1;
+  Calc(bench);
+  form.KeepMap = 0;
+}
+
+void Text4_KeyPress(Workbench& /*bench*/, ZaxisForm& form, int& key) { enter_moves_to(form.Text5, key); }
+void Text5_KeyPress(Workbench& /*bench*/, ZaxisForm& form, int& key) { enter_moves_to(form.Text6, key); }
+void Text6_KeyPress(Workbench& bench, ZaxisForm& form, int& key) {
+  if (key != key_enter) return;
+  key = 0;
+  Command1_Click(bench, form);
+}
+
+void Command1_Click(Workbench& /*bench*/, ZaxisForm& form) {
+  constexpr Colour red = RGB(255, 0, 0);
+  constexpr double disc = 0.012;
+  const Single phi = to_single(Val(form.Text7.text()) * degree);
+  const Single theta = to_single((90.0 - Val(form.Text8.text())) * degree);
+  const double radius = map_radius(theta, form.Check2.checked());
+  form.Picture1.set_solid_fill(true);
+  form.Picture1.set_fill_colour(red);
+  form.Picture1.circle(radius * std::cos(double{phi}), radius * std::sin(double{phi}), form.MapScale * disc, red);
+}
+
+void Command2_Click(Workbench& bench, ZaxisForm& form) { zoom(bench, form, -0.1); }
+void Command3_Click(Workbench& bench, ZaxisForm& form) { zoom(bench, form, 0.1); }
+
+void SaveMap_Click(Workbench& /*bench*/, ZaxisForm& form) {
+  form.Picture1.save_stored_image(form.CommonDialog1.save() + ".bmp");
+}
+
+}  // namespace zol::zaxis
