@@ -127,8 +127,7 @@ class Matcher {
     bool fits = true;
     for (int i = 0; i < 2; ++i) {
       const auto place = static_cast<std::size_t>(i);
-      const Single measured =
-          forward(to_single((double{bands_.BandPhi(i + 1)} - double{bands_.BandPhi(i)}) / degree));
+      const Single measured = forward(to_single((double{bands_.BandPhi(i + 1)} - double{bands_.BandPhi(i)}) / degree));
       const Single calculated = forward(to_single(double{azimuth[place + 1]} - double{azimuth[place]}));
       fits = fits && std::abs(double{measured} - double{calculated}) < 2.0 * double{settings_.angle_tolerance};
     }

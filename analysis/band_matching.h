@@ -15,9 +15,9 @@
 namespace zol {
 
 struct MatchSettings {
-  Single angle_tolerance = 0;                  ///< degrees; of an azimuth difference twice as much is allowed
-  bool only_triangle = false;                  ///< the sense of rotation is not tested
-  bool omit_equivalents = false;               ///< of solutions with equal spacings and intensities the first stays
+  Single angle_tolerance = 0;                     ///< degrees; of an azimuth difference twice as much is allowed
+  bool only_triangle = false;                     ///< the sense of rotation is not tested
+  bool omit_equivalents = false;                  ///< of solutions with equal spacings and intensities the first stays
   std::optional<Single> width_tolerance_percent;  ///< none: widths are not compared
   int first_row = 1;
   bool stop_at_first_solution = false;
@@ -26,10 +26,10 @@ struct MatchSettings {
 /// What a run of matching leaves, and the next one finds.
 struct SolutionTable {
   Integer SolutionCount;
-  BoundedArray<Long> SolutionTriple{"SolutionTriple", 10000};    ///< row of the table; solutions count from 1
-  BoundedTable<Single> SolutionDir{"SolutionDir", 10000, 3};     ///< u, v, w in columns 1 to 3, the largest near 1000
-  Integer MatchStatus;                                           ///< left by the solvers
-  Single AngleError = 0;                                         ///< squared degrees, of the solution found last
+  BoundedArray<Long> SolutionTriple{"SolutionTriple", 10000};  ///< row of the table; solutions count from 1
+  BoundedTable<Single> SolutionDir{"SolutionDir", 10000, 3};   ///< u, v, w in columns 1 to 3, the largest near 1000
+  Integer MatchStatus;                                         ///< left by the solvers
+  Single AngleError = 0;                                       ///< squared degrees, of the solution found last
 };
 
 /// How the direction of a solution was found.
@@ -57,8 +57,8 @@ struct Solution {
 /// The three planes of a row.
 [[nodiscard]] std::array<PlaneIndices, 3> row_planes(const TripleTable& table, int row);
 
-/// In-plane rotation that each of three planes asks for, so that it lies on its band, radians from 0; values near a full
-/// turn are brought to the other side when the three straddle it.
+/// In-plane rotation that each of three planes asks for, so that it lies on its band, radians from 0; values near a
+/// full turn are brought to the other side when the three straddle it.
 struct PlaneRotations {
   std::array<Single, 3> rotation{};
   [[nodiscard]] Single mean() const;

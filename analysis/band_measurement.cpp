@@ -83,8 +83,8 @@ void measure_angle_to_next(MeasuredBands& bands, int band) {
   const double ya = a.y;
   const double xb = b.x;
   const double yb = b.y;
-  bands.BandCos(band) = to_single((xb * xa + ya * yb + 1.0) / std::sqrt(ya * ya + xa * xa + 1.0) /
-                                  std::sqrt(xb * xb + yb * yb + 1.0));
+  bands.BandCos(band) =
+      to_single((xb * xa + ya * yb + 1.0) / std::sqrt(ya * ya + xa * xa + 1.0) / std::sqrt(xb * xb + yb * yb + 1.0));
   bands.BandAngle(band) = ArcCos(bands.BandCos(band));
   if (bands.BandAngle(band) > 90) bands.BandAngle(band) = to_single(180.0 - double{bands.BandAngle(band)});
 }

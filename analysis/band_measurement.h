@@ -1,8 +1,8 @@
 // From the lines picked on a pattern to the normals of three lattice planes.
 //
-// The picture is a window on a plane at distance 1 from the source, a gnomonic projection: the point (0, 0) of the plane
-// lies on the screen normal, x to the right, y downward as in the picture. A band is the trace of a lattice plane. Angles
-// are in radians where not told otherwise.
+// The picture is a window on a plane at distance 1 from the source, a gnomonic projection: the point (0, 0) of the
+// plane lies on the screen normal, x to the right, y downward as in the picture. A band is the trace of a lattice
+// plane. Angles are in radians where not told otherwise.
 #pragma once
 
 #include <string>

@@ -33,14 +33,12 @@ double position_after(const Module1State& camera, const WorkingDistance& change)
 }
 
 double y_shift_after(const Module1State& camera, const WorkingDistance& change) {
-  return shift_mm(camera, camera.CamYShift) -
-         double{change.WdChange} * std::cos(double{change.DetIncline} * degree);
+  return shift_mm(camera, camera.CamYShift) - double{change.WdChange} * std::cos(double{change.DetIncline} * degree);
 }
 
 Single centre_shift_deg(const Module1State& camera, Single picture) {
   constexpr double half_picture = 255.0;
-  return to_single(
-      in_degrees((double{picture} - half_picture) / half_picture * tangent(camera.CamAcquisition)));
+  return to_single(in_degrees((double{picture} - half_picture) / half_picture * tangent(camera.CamAcquisition)));
 }
 
 void calibrate(const SiMarkers& markers, SiCalibration& result, Module1State& camera) {
@@ -60,10 +58,8 @@ void calibrate(const SiMarkers& markers, SiCalibration& result, Module1State& ca
 
   const double centre_x = result.SiCentreX;
   const double centre_y = result.SiCentreY;
-  const double turned_y1 =
-      to_single((y1 - centre_y) * std::cos(turn) + centre_y + (x1 - centre_x) * std::sin(turn));
-  const double turned_y2 =
-      to_single((y2 - centre_y) * std::cos(turn) + centre_y + (x2 - centre_x) * std::sin(turn));
+  const double turned_y1 = to_single((y1 - centre_y) * std::cos(turn) + centre_y + (x1 - centre_x) * std::sin(turn));
+  const double turned_y2 = to_single((y2 - centre_y) * std::cos(turn) + centre_y + (x2 - centre_x) * std::sin(turn));
   result.SiLength = to_single(divide(turned_y1 - turned_y2, t2 + t1, both));
   result.SiCentreY = to_single(turned_y1 - double{result.SiLength} * t1);
 

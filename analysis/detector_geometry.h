@@ -27,8 +27,8 @@ namespace zol {
 
 /// What a change of working distance along a tilted detector does to its position and to the y shift.
 struct WorkingDistance {
-  Single WdChange = 0;       ///< mm
-  Single DetIncline = 0;     ///< degrees
+  Single WdChange = 0;    ///< mm
+  Single DetIncline = 0;  ///< degrees
 };
 [[nodiscard]] double position_after(const Module1State& camera, const WorkingDistance& change);
 [[nodiscard]] double y_shift_after(const Module1State& camera, const WorkingDistance& change);

@@ -69,20 +69,16 @@ Quadratic squared_length(const Metric& metric, const Case& by, const Line& line)
   const double q_x2 = metric.q(by.x, by.second);
   const double q_12 = metric.q(by.first, by.second);
   Quadratic square{};
-  square.a =
-      to_single(m1 * m1 * length_1 * length_1 + length_x * length_x + m2 * m2 * length_2 * length_2 +
-                2.0 * m1 * q_x1 + 2.0 * m2 * q_x2 + 2.0 * m1 * m2 * q_12);
+  square.a = to_single(m1 * m1 * length_1 * length_1 + length_x * length_x + m2 * m2 * length_2 * length_2 +
+                       2.0 * m1 * q_x1 + 2.0 * m2 * q_x2 + 2.0 * m1 * m2 * q_12);
   square.b = to_single(n2 * m2 * length_2 * length_2 + n1 * m1 * length_1 * length_1 + n1 * q_x1 + n2 * q_x2 +
                        (n1 * m2 + n2 * m1) * q_12);
   // The cross term has the factor 1 on purpose, though the squared length has 2: results hang on it.
-  square.c =
-      to_single(n2 * n2 * length_2 * length_2 + n1 * n1 * length_1 * length_1 + n2 * n1 * q_12 - 1.0);
+  square.c = to_single(n2 * n2 * length_2 * length_2 + n1 * n1 * length_1 * length_1 + n2 * n1 * q_12 - 1.0);
   return square;
 }
 
-Single on_line(Single slope, Single x, Single offset) {
-  return to_single(double{x} * double{slope} + double{offset});
-}
+Single on_line(Single slope, Single x, Single offset) { return to_single(double{x} * double{slope} + double{offset}); }
 
 /// In the order second, x, first of case 2 and first, second, x of case 3 the components are turned by one place; the
 /// solutions of those cases are listed that way.
@@ -100,9 +96,7 @@ Integer InvertMatrix(Integer n, BoundedTable<Single>& a) {
 
 Integer SolveTwoPlanes(const Main1State& cell, const std::array<PlaneIndices, 3>& planes,
                        const std::array<Single, 3>& cosines, TwoDirections& directions) {
-  const auto length = [&cell, &planes](std::size_t i) {
-    return DHKL(cell, planes[i].h, planes[i].k, planes[i].l);
-  };
+  const auto length = [&cell, &planes](std::size_t i) { return DHKL(cell, planes[i].h, planes[i].k, planes[i].l); };
   const double r1 = to_single(double{length(0)} * double{cosines[0]});
   const double r2 = to_single(double{length(1)} * double{cosines[1]});
   const Row p{planes[0].h, planes[0].k, planes[0].l};
@@ -115,10 +109,9 @@ Integer SolveTwoPlanes(const Main1State& cell, const std::array<PlaneIndices, 3>
     const auto second = static_cast<std::size_t>(by.second);
     if (minors[x_axis] == 0) continue;
     const double minor = minors[x_axis].value();
-    const Line line{to_single(minors[first].value() / minor),
-                    to_single((r1 * q[second].value() - r2 * p[second].value()) / minor),
-                    to_single(minors[second].value() / minor),
-                    to_single((p[first].value() * r2 - q[first].value() * r1) / minor)};
+    const Line line{
+        to_single(minors[first].value() / minor), to_single((r1 * q[second].value() - r2 * p[second].value()) / minor),
+        to_single(minors[second].value() / minor), to_single((p[first].value() * r2 - q[first].value() * r1) / minor)};
     const auto [a, b, c] = squared_length(Metric(cell), by, line);
     const Single discriminant = to_single(double{b} * double{b} - double{a} * double{c});
     if (discriminant < 0) {

@@ -9,13 +9,11 @@
 #include "core/bounded_array.h"
 #include "core/crystal_state.h"
 #include "core/numbers.h"
+#include "spots/zone_geometry.h"
 
 namespace zol {
 
-struct PlaneIndices {
-  Integer h, k, l;
-  bool operator==(const PlaneIndices&) const = default;
-};
+using PlaneIndices = Indices<Integer>;
 
 /// u, v, w.
 using Direction = std::array<Single, 3>;

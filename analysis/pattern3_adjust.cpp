@@ -118,11 +118,9 @@ void Command15_Click(Workbench& bench, Pattern3Form& form) {
   {
     const Hourglass hourglass(form);
     go_to(form, start, best_grid_point(bench, form, start), camera);
-    const std::string x_shift = plain_text(camera.CamXShift);
-    const std::string y_shift = plain_text(camera.CamYShift);
     form.Text3.set_text(plain_text(camera.CamAcquisition));
-    form.Text14.set_text(x_shift);
-    form.Text15.set_text(y_shift);
+    form.Text14.set_text(plain_text(camera.CamXShift));
+    form.Text15.set_text(plain_text(camera.CamYShift));
     Command1_Click(bench, form);
   }
   form.AngleTol = tolerance;

@@ -110,11 +110,9 @@ void Text7_Change(Workbench& bench, Pattern3Form& form) { change_working_distanc
 void Command9_Click(Workbench& bench, Pattern3Form& form) {
   Module1State& camera = main1_state(bench);
   calibrate(form.markers, form.calibration, camera);
-  const std::string x_shift = Format(camera.CamXShift, two_decimals);
-  const std::string y_shift = Format(camera.CamYShift, two_decimals);
   form.Text3.set_text(Format(camera.CamAcquisition, two_decimals));
-  form.Text14.set_text(x_shift);
-  form.Text15.set_text(y_shift);
+  form.Text14.set_text(Format(camera.CamXShift, two_decimals));
+  form.Text15.set_text(Format(camera.CamYShift, two_decimals));
 }
 
 void CPS_Si001_Click(Workbench& /*bench*/, Pattern3Form& form) {
@@ -132,9 +130,8 @@ void take_centre(Workbench& bench, Pattern3Form& form, Single x, Single y) {
   Module1State& camera = main1_state(bench);
   camera.CamXShift = centre_shift_deg(camera, x);
   camera.CamYShift = centre_shift_deg(camera, y);
-  const std::string y_shift = Format(camera.CamYShift, two_decimals);
   form.Text14.set_text(Format(camera.CamXShift, two_decimals));
-  form.Text15.set_text(y_shift);
+  form.Text15.set_text(Format(camera.CamYShift, two_decimals));
 }
 
 }  // namespace zol::pattern3

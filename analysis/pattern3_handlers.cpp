@@ -1,6 +1,7 @@
 #include "analysis/pattern3_handlers.h"
 
 #include "analysis/hkl3make.h"
+#include "kikuchi/electron_voltage.h"
 #include "kikuchi/kikuchi_operations.h"
 #include "kikuchi/pattern2_form.h"
 #include "reflections/main1_form.h"
@@ -101,18 +102,7 @@ void Text2_LostFocus(Workbench& bench, Pattern3Form& form) {
   Hkl3make(bench);
 }
 
-void Text5_LostFocus(Workbench& bench, Pattern3Form& form) {
-  auto& main1 = bench.windows.use<Main1Form>();
-  CrystalState& state = main1.state;
-  state.AccVoltage = to_single(Val(form.Text5.text()));
-  if (!(state.AccVoltage > 0)) return;
-  main1.Combo1.set_text(form.Text5.text());
-  bench.windows.use<Pattern2Form>().Text21.set_text(form.Text5.text());
-  main1.Option2.set_on(true);
-  state.WaveLength = to_single(square_root(150.0 / double{state.AccVoltage} / 1000.0, "150 / voltage"));
-  main1.Text16.set_text(plain_text(state.WaveLength));
-  state.MassRatio = 1;
-}
+void Text5_LostFocus(Workbench& bench, Pattern3Form& form) { set_electron_voltage(bench, form.Text5.text()); }
 
 void Command1_Click(Workbench& bench, Pattern3Form& form) {
   CrystalState& state = main1_state(bench);
@@ -143,10 +133,9 @@ void Command5_Click(Workbench& bench, Pattern3Form& /*form*/) {
 }
 
 void Imatch_Click(Workbench& bench, Pattern3Form& form) {
-  const std::string answer =
-      bench.services.prompt("[" + plain_text(form.MatchMode) +
-                                "] Input matching method (0:triangle and direction 1:only triangle)",
-                            "Matching Method");
+  const std::string answer = bench.services.prompt(
+      "[" + plain_text(form.MatchMode) + "] Input matching method (0:triangle and direction 1:only triangle)",
+      "Matching Method");
   if (!answer.empty()) form.MatchMode = Integer::rounded(Val(answer));
 }
 

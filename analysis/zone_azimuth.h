@@ -7,11 +7,9 @@
 
 namespace zol {
 
-/// Reciprocal vector at right angles to any direction, (w, w, -u - v) in whole numbers. It vanishes for [n -n 0].
-[[nodiscard]] PlaneIndices zone_reference(const Direction& direction);
-
 /// Azimuth of the normal of a plane around the direction, degrees, -180 to 180.
-/// @throws RunFailure  a vector of length 0, or a cross product beyond 16 bits
+/// @throws RunFailure  a vector of length 0 (the reference vector has none for [n -n 0]), or a cross product beyond 16
+/// bits
 [[nodiscard]] Single zone_azimuth(const Main1State& cell, const PlaneIndices& plane, const Direction& direction);
 
 }  // namespace zol
