@@ -2,6 +2,8 @@
 
 #include "analysis/hkl3make.h"
 #include "analysis/pattern3_handlers.h"
+#include "calculators/atom_distance_handlers.h"
+#include "calculators/utility_handlers.h"
 #include "entry/input_atom_handlers.h"
 #include "entry/input_jcpds_handlers.h"
 #include "entry/main1_import.h"
@@ -228,6 +230,66 @@ void wire(Workbench& bench, CameraParametersForm& form) {
   form.Command3.on_click = on(Command3_Click);
 }
 
+void wire(Workbench& bench, AtomDistanceForm& form) {
+  using namespace atom_distance;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text1.on_key_press = on(Text1_KeyPress);
+  form.Command1.on_click = on(Command1_Click);
+}
+
+void wire(Workbench& bench, UtilityForm& form) {
+  using namespace utility;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text2.on_change = on(Text2_Change);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text4.on_change = on(Text4_Change);
+  form.Text10.on_change = on(Text10_Change);
+  form.Text11.on_change = on(Text11_Change);
+  form.Text12.on_change = on(Text12_Change);
+  form.Text13.on_change = on(Text13_Change);
+  form.Text14.on_change = on(Text14_Change);
+  form.Text15.on_change = on(Text15_Change);
+  form.Text46.on_change = on(Text46_Change);
+  form.Text47.on_change = on(Text47_Change);
+  form.Text48.on_change = on(Text48_Change);
+  form.Text49.on_change = on(Text49_Change);
+  form.Text50.on_change = on(Text50_Change);
+  form.Text51.on_change = on(Text51_Change);
+  form.Text1.on_key_press = on(Text1_KeyPress);
+  form.Text2.on_key_press = on(Text2_KeyPress);
+  form.Text3.on_key_press = on(Text3_KeyPress);
+  form.Text4.on_key_press = on(Text4_KeyPress);
+  form.Text9.on_key_press = on(Text9_KeyPress);
+  form.Text8.on_key_press = on(Text8_KeyPress);
+  form.Text7.on_key_press = on(Text7_KeyPress);
+  form.Text6.on_key_press = on(Text6_KeyPress);
+  form.Text10.on_key_press = on(Text10_KeyPress);
+  form.Text11.on_key_press = on(Text11_KeyPress);
+  form.Text12.on_key_press = on(Text12_KeyPress);
+  form.Text13.on_key_press = on(Text13_KeyPress);
+  form.Text14.on_key_press = on(Text14_KeyPress);
+  form.Text15.on_key_press = on(Text15_KeyPress);
+  form.Text46.on_key_press = on(Text46_KeyPress);
+  form.Text47.on_key_press = on(Text47_KeyPress);
+  form.Text48.on_key_press = on(Text48_KeyPress);
+  form.Text49.on_key_press = on(Text49_KeyPress);
+  form.Text50.on_key_press = on(Text50_KeyPress);
+  form.Text51.on_key_press = on(Text51_KeyPress);
+  for (int i = 0; i < form.Text5.count(); ++i) {
+    form.Text5(i).on_key_press = [i, &form](int& key) { Text5_KeyPress(form, i, key); };
+  }
+  form.Command1.on_click = on(Command1_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command4.on_click = on(Command4_Click);
+  form.Command5.on_click = on(Command5_Click);
+  form.Option1.on_click = on(Option1_Click);
+  form.Option2.on_click = on(Option2_Click);
+  form.Option3.on_click = on(Option3_Click);
+}
+
 /// Makes a window known: its form, its events, its Form_Load.
 template <class Form>
 void add_window(Workbench& bench, void (*form_load)(Workbench&, Form&)) {
@@ -252,6 +314,8 @@ Program::Program(DataRoot data, Services& services)
   add_window<Pattern2Form>(bench_, pattern2::Form_Load);
   add_window<ZaxisForm>(bench_, zaxis::Form_Load);
   add_window<CameraParametersForm>(bench_, camera_parameters::Form_Load);
+  add_window<AtomDistanceForm>(bench_, nullptr);
+  add_window<UtilityForm>(bench_, utility::Form_Load);
 }
 
 void Program::start() { windows_.use(MainMenuForm::window_name).show(); }

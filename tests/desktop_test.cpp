@@ -83,9 +83,19 @@ std::string label_of(const QWidget& top, const QWidget* widget) {
 }
 
 class CompleteWindow : public DesktopTest, public testing::WithParamInterface<const char*> {};
-INSTANTIATE_TEST_SUITE_P(Windows, CompleteWindow,
-                         testing::Values("MAIN_MENU", "Main1", "InputAtom", "InputJCPDS", "CameraParameters",
-                                         "Pattern2", "Zaxis"));
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Windows, CompleteWindow, testing::Values(
+    "MAIN_MENU",
+    "Main1",
+    "InputAtom",
+    "InputJCPDS",
+    "AtomDistance",
+    "Utility",
+    "CameraParameters",
+    "Pattern2",
+    "Zaxis"
+));
+// clang-format on
 
 TEST_P(CompleteWindow, HasAWidgetForEachControlAndNoOther) {
   QWidget& top = widget(GetParam());
