@@ -58,25 +58,6 @@ std::array<IndexRange, 3> index_ranges(const std::array<Integer, 3>& limits, con
 
 bool odd(int n) { return n % 2 != 0; }
 
-bool centring_allows(char lattice_letter, int h, int k, int l) {
-  switch (lattice_letter) {
-    case 'A':
-      return !odd(k + l);
-    case 'B':
-      return !odd(h + l);
-    case 'C':
-      return !odd(h + k);
-    case 'I':
-      return !odd(h + k + l);
-    case 'F':
-      return !odd(h + k) && !odd(k + l) && !odd(h + l);
-    case 'R':  // obverse setting, hexagonal axes
-      return (-h + k + l) % 3 == 0;
-    default:
-      return true;
-  }
-}
-
 bool selection_allows(const EnumerationSettings& settings, int h, int k) {
   const auto keeps = [](bool zero_wanted, bool other_wanted, int n) {
     return !(zero_wanted && n % 3 != 0) && !(other_wanted && n % 3 == 0);
@@ -121,6 +102,25 @@ std::string geometry_columns(const CrystalState& state, int i, bool has_angle) {
 }
 
 }  // namespace
+
+bool centring_allows(char lattice_letter, int h, int k, int l) {
+  switch (lattice_letter) {
+    case 'A':
+      return !odd(k + l);
+    case 'B':
+      return !odd(h + l);
+    case 'C':
+      return !odd(h + k);
+    case 'I':
+      return !odd(h + k + l);
+    case 'F':
+      return !odd(h + k) && !odd(k + l) && !odd(h + l);
+    case 'R':  // obverse setting, hexagonal axes
+      return (-h + k + l) % 3 == 0;
+    default:
+      return true;
+  }
+}
 
 void enumerate_reflections(CrystalState& state, const EnumerationSettings& settings) {
   const std::array limits{index_limit(state.Dmin, state.AStar, "a*"), index_limit(state.Dmin, state.BStar, "b*"),

@@ -24,6 +24,9 @@ struct EnumerationSettings {
   bool h_mod_3_not_zero = false;
 };
 
+/// True when a lattice of that letter (A, B, C, I, F, R in obverse setting; any other is primitive) has the reflection.
+[[nodiscard]] bool centring_allows(char lattice_letter, int h, int k, int l);
+
 /// Creates the Ref arrays and fills RefCount, RefH, RefK, RefL and RefS with the reflections of d >= Dmin that the
 /// lattice letter and the settings allow; h outermost, l innermost, all rising. No further absences are applied. Then
 /// limits KikuchiRefLimit to the count.

@@ -1,0 +1,37 @@
+// Index triples that belong to a zone axis [u v w]: the reflection from which azimuths are counted, and the vector at
+// right angles to two reflections, which tells on which side of it a reflection lies. Bare indices, no metric.
+#pragma once
+
+#include "core/numbers.h"
+
+namespace zol {
+
+/// Three indices of a reflection or of a direction, 16 or 32 bits wide.
+template <class Whole>
+struct Indices {
+  Whole h, k, l;
+  bool operator==(const Indices&) const = default;
+};
+
+/// The reflection (w, w, -u-v), floors of the components + 0.5. It lies in the zone of any whole [u v w], since
+/// w u + w v - (u + v) w = 0, and is not reduced. (0, 0, 0) for [n -n 0].
+/// @throws RunFailure  a component does not fit the width
+template <class Whole>
+[[nodiscard]] Indices<Whole> plane_in_zone(double u, double v, double w) {
+  return {Whole::floor(w + 0.5), Whole::floor(w + 0.5), Whole::floor(-u - v + 0.5)};
+}
+
+/// The reflection that marks azimuth zero of a pattern: (w, w, -u-v), and (0, 0, 1) when w is 0.
+[[nodiscard]] inline Indices<Integer> reference_reflection(double u, double v, double w) {
+  if (w == 0.0) return {0, 0, 1};
+  return plane_in_zone<Integer>(u, v, w);
+}
+
+/// Vector product a x b of two reflections: the direction [u v w] of their common zone, with its sense.
+/// @throws RunFailure  a product or difference leaves the width, already at the products
+template <class Whole>
+[[nodiscard]] Indices<Whole> cross_vector(const Indices<Whole>& a, const Indices<Whole>& b) {
+  return {a.k * b.l - b.k * a.l, b.h * a.l - a.h * b.l, a.h * b.k - b.h * a.k};
+}
+
+}  // namespace zol
