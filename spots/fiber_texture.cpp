@@ -72,13 +72,14 @@ class ArcWalk {
   /// From the centre outwards to two dispersions, clockwise (1) or anticlockwise (-1). Angles in degrees.
   void walk(Single centre, double sense) {
     const Single limit = to_single(double{centre} + sense * 2.0 * dispersion_);
+    // A step that gets lost in the rounding would never come to the end.
+    const double spacing = std::nextafter(std::abs(limit), HUGE_VALF) - std::abs(limit);
+    if (dispersion_ > 0.0 && !(2.0 * step_ > spacing)) {
+      throw RunFailure("the dispersion is " + plain_text(dispersion_) + " degrees, too large for an arc");
+    }
     last_column_ = last_row_ = 0;
-    for (Single t = centre; sense > 0.0 ? t <= limit : t >= limit;) {
+    for (Single t = centre; sense > 0.0 ? t <= limit : t >= limit; t = to_single(double{t} + sense * double{step_})) {
       add(centre, t);
-      const Single next = to_single(double{t} + sense * double{step_});
-      if (next == t)
-        throw RunFailure("the dispersion is " + plain_text(dispersion_) + " degrees, too large for an arc");
-      t = next;
     }
   }
   [[nodiscard]] std::vector<ArcPoint> take_points() { return std::move(points_); }

@@ -7,7 +7,6 @@
 #include "core/cell_geometry.h"
 #include "reflections/reflection_list.h"
 #include "reflections/structure_factor.h"
-#include "spots/zone_geometry.h"
 
 namespace zol {
 namespace {
@@ -40,7 +39,7 @@ ZoneFrame zone_frame(const CrystalState& state) {
   return frame;
 }
 
-/// Reach of one index: twice what the corner of the picture needs.
+/// Reach of one index: the edge of the picture along its reciprocal axis. Spots in the corners may need more.
 int index_limit(double half_width, Single reciprocal_edge, std::string_view edge_name) {
   return Integer::floor(divide(2.0 * half_width, reciprocal_edge, edge_name)).value();
 }
@@ -107,26 +106,32 @@ Single spot_intensity(CrystalState& state, const DiffractionSpot& spot, const Ra
 
 }  // namespace
 
-std::vector<DiffractionSpot> diffraction_spots(CrystalState& state, const Radiation& radiation) {
+void visit_reflections_on_level(const CrystalState& state, const std::function<void(const Indices<Integer>&)>& visit) {
   const ZoneFrame frame = zone_frame(state);
   const int h_limit = index_limit(frame.half_width, state.AStar, "a*");
   const int k_limit = index_limit(frame.half_width, state.BStar, "b*");
   const int l_limit = index_limit(frame.half_width, state.CStar, "c*");
   const char letter = state.LatticeLetter.empty() ? 'P' : state.LatticeLetter.front();
-
-  std::vector<DiffractionSpot> spots;
   for (int h = -h_limit; h <= h_limit; ++h) {
     for (int k = -k_limit; k <= k_limit; ++k) {
       const Range range = level_range(frame, h, k, l_limit);
       for (int l = range.first; l <= range.last; ++l) {
-        if ((h == 0 && k == 0 && l == 0) || !centring_allows(letter, h, k, l) || !on_level(frame, h, k, l)) continue;
-        auto spot = spot_in_picture(state, frame, {h, k, l});
-        if (!spot) continue;
-        spot->intensity = spot_intensity(state, *spot, radiation);
-        spots.push_back(*spot);
+        if ((h == 0 && k == 0 && l == 0) || !centring_allows(letter, h, k, l)) continue;
+        if (on_level(frame, h, k, l)) visit({h, k, l});
       }
     }
   }
+}
+
+std::vector<DiffractionSpot> diffraction_spots(CrystalState& state, const Radiation& radiation) {
+  const ZoneFrame frame = zone_frame(state);
+  std::vector<DiffractionSpot> spots;
+  visit_reflections_on_level(state, [&](const Indices<Integer>& hkl) {
+    auto spot = spot_in_picture(state, frame, hkl);
+    if (!spot) return;
+    spot->intensity = spot_intensity(state, *spot, radiation);
+    spots.push_back(*spot);
+  });
   return spots;
 }
 

@@ -5,11 +5,13 @@
 // Kinematic theory of diffraction: Hirsch et al., Electron Microscopy of Thin Crystals (1965), ch. 4.
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "core/crystal_state.h"
 #include "reflections/scattering.h"
 #include "spots/grey_scale.h"
+#include "spots/zone_geometry.h"
 
 namespace zol {
 
@@ -21,10 +23,14 @@ struct DiffractionSpot {
   bool operator==(const DiffractionSpot&) const = default;
 };
 
-/// All reflections h u + k v + l w = Level within 0.0001 that the lattice letter allows and whose projection lies
-/// inside the square of half width CamAcquisition, also the absent ones of intensity 0; h outermost, l innermost, all
-/// rising. Axes and level are those of the state; entry 0 of the reflection arrays is the scratch row and keeps the
-/// last spot.
+/// Visits the reflections h u + k v + l w = Level, within 0.0001, that the lattice letter allows and whose indices do
+/// not exceed 2 CamAcquisition / a* and so on; h outermost, l innermost, all rising. Where w is not 0 only those l are
+/// tried that can lie on the level.
+/// @throws RunFailure  no cell, limits or reference reflection beyond 16 bits
+void visit_reflections_on_level(const CrystalState& state, const std::function<void(const Indices<Integer>&)>& visit);
+
+/// All of them whose projection lies inside the square of half width CamAcquisition, in that order, those of intensity
+/// 0 included. Entry 0 of the reflection arrays is the scratch row and keeps the last spot.
 /// @throws RunFailure  zero axis or zero reference reflection, indices beyond 16 bits, no reflection arrays, a spot
 /// whose
 ///                     direction cosine to the reference squares to more than 1.0001

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -82,7 +83,7 @@ std::string label_of(const QWidget& top, const QWidget* widget) {
 }
 
 class CompleteWindow : public DesktopTest, public testing::WithParamInterface<const char*> {};
-INSTANTIATE_TEST_SUITE_P(Windows, CompleteWindow, testing::Values("MAIN_MENU", "Main1"));
+INSTANTIATE_TEST_SUITE_P(Windows, CompleteWindow, testing::Values("MAIN_MENU", "Main1", "Pattern", "FiberTexture"));
 
 TEST_P(CompleteWindow, HasAWidgetForEachControlAndNoOther) {
   QWidget& top = widget(GetParam());
@@ -114,6 +115,8 @@ TEST_P(CompleteWindow, BearsTheGivenCaptions) {
       const auto in =
           std::find_if(menus.begin(), menus.end(), [item](const QMenu* m) { return m->actions().contains(item); });
       EXPECT_EQ(in == menus.end() ? "" : plain((*in)->title()), menu) << control->name();
+    } else if (const auto* frame = qobject_cast<QGroupBox*>(shown)) {
+      EXPECT_EQ(plain(frame->title()), wanted) << control->name();
     } else if (const auto* label = dynamic_cast<const Label*>(control)) {
       EXPECT_EQ(plain(dynamic_cast<QLabel&>(*shown).text()), wanted) << control->name();
       EXPECT_EQ(label_of(top, shown), label->beside()) << control->name();
