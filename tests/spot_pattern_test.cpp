@@ -215,7 +215,7 @@ TEST(SpotPattern, FailsWithTheReason) {
                0,
                4,
                0.5,
-               "overflow: 40000 does not fit an Integer (-32768 to 32767)"},
+               "overflow: -40000 does not fit an Integer (-32768 to 32767)"},
            Row{"reference", {0, 0, 40000}, 0, 4, 0.5, "overflow: 40000 does not fit an Integer (-32768 to 32767)"},
            Row{"index limit", {0, 0, 1}, 0, 4, 10000, "overflow: 80000 does not fit an Integer (-32768 to 32767)"},
        }) {
