@@ -15,6 +15,9 @@
 #include "reflections/main1_operations.h"
 #include "shell/main_menu_handlers.h"
 #include "shell/state_names.h"
+#include "spots/fiber_texture_handlers.h"
+#include "spots/pattern_disp.h"
+#include "spots/pattern_handlers.h"
 
 namespace zol {
 namespace {
@@ -105,7 +108,9 @@ void wire(Workbench& bench, Main1Form& form) {
   form.add_operation("LoadSGNames", on(LoadSGNames));
   form.add_operation("CalcReflections", on(CalcReflections));
   form.add_operation("CRYSTAL_SELECT", on(CRYSTAL_SELECT));
+  form.add_operation("PatternDisp", on(PatternDisp));
   form.add_operation("PatternDisp2", on(PatternDisp2));
+  form.add_operation("PatternDisp3", on(PatternDisp3));
   form.add_operation("Patterndisp4", on(Patterndisp4));
   form.add_operation("ZoneCalc", on(ZoneCalc));
   form.add_operation("ZoneCalc2", on(ZoneCalc2));
@@ -290,6 +295,67 @@ void wire(Workbench& bench, UtilityForm& form) {
   form.Option3.on_click = on(Option3_Click);
 }
 
+void wire(Workbench& bench, PatternForm& form) {
+  using namespace pattern;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text2.on_change = on(Text2_Change);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text4.on_change = on(Text4_Change);
+  form.Text5.on_change = on(Text5_Change);
+  form.Text3.on_key_press = on(Text3_KeyPress);
+  form.Text4.on_key_press = on(Text4_KeyPress);
+  form.Text5.on_key_press = on(Text5_KeyPress);
+  form.Command8.on_click = on(Command8_Click);
+  form.Command5.on_click = on(Command5_Click);
+  form.Command14.on_click = on(Command14_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command6.on_click = on(Command6_Click);
+  form.Command9.on_click = on(Command9_Click);
+  form.Command11.on_click = on(Command11_Click);
+  form.Command7.on_click = on(Command7_Click);
+  form.Command10.on_click = on(Command10_Click);
+  form.Command12.on_click = on(Command12_Click);
+  form.Command4.on_click = on(Command4_Click);
+  form.Command13.on_click = on(Command13_Click);
+  form.Command1.on_click = on(Command1_Click);
+  form.ISAVE.on_click = on(ISAVE_Click);
+  form.Spotsize.on_click = on(Spotsize_Click);
+  form.Rpitch.on_click = on(Rpitch_Click);
+  form.Fsize.on_click = on(Fsize_Click);
+  form.add_operation("Imagesize", on(Imagesize));
+}
+
+void wire(Workbench& bench, FiberTextureForm& form) {
+  using namespace fiber_texture;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text2.on_change = on(Text2_Change);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text4.on_change = on(Text4_Change);
+  form.Text5.on_change = on(Text5_Change);
+  form.Text3.on_key_press = on(Text3_KeyPress);
+  form.Text4.on_key_press = on(Text4_KeyPress);
+  form.Text5.on_key_press = on(Text5_KeyPress);
+  form.Command8.on_click = on(Command8_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command6.on_click = on(Command6_Click);
+  form.Command9.on_click = on(Command9_Click);
+  form.Command11.on_click = on(Command11_Click);
+  form.Command7.on_click = on(Command7_Click);
+  form.Command10.on_click = on(Command10_Click);
+  form.Command12.on_click = on(Command12_Click);
+  form.Command5.on_click = on(Command5_Click);
+  form.Command1.on_click = on(Command1_Click);
+  form.Isave.on_click = on(Isave_Click);
+  form.Fsize.on_click = on(Fsize_Click);
+  form.Rpitch.on_click = on(Rpitch_Click);
+  form.Imagesize.on_click = on(Imagesize_Click);
+  form.Spotsize.on_click = on(Spotsize_Click);
+}
+
 /// Makes a window known: its form, its events, its Form_Load.
 template <class Form>
 void add_window(Workbench& bench, void (*form_load)(Workbench&, Form&)) {
@@ -316,6 +382,8 @@ Program::Program(DataRoot data, Services& services)
   add_window<CameraParametersForm>(bench_, camera_parameters::Form_Load);
   add_window<AtomDistanceForm>(bench_, nullptr);
   add_window<UtilityForm>(bench_, utility::Form_Load);
+  add_window<PatternForm>(bench_, pattern::Form_Load);
+  add_window<FiberTextureForm>(bench_, fiber_texture::Form_Load);
 }
 
 void Program::start() { windows_.use(MainMenuForm::window_name).show(); }
