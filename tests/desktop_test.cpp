@@ -82,7 +82,7 @@ std::string label_of(const QWidget& top, const QWidget* widget) {
 }
 
 class CompleteWindow : public DesktopTest, public testing::WithParamInterface<const char*> {};
-INSTANTIATE_TEST_SUITE_P(Windows, CompleteWindow, testing::Values("MAIN_MENU", "Main1"));
+INSTANTIATE_TEST_SUITE_P(Windows, CompleteWindow, testing::Values("Dring", "MAIN_MENU", "Main1", "Xd"));
 
 TEST_P(CompleteWindow, HasAWidgetForEachControlAndNoOther) {
   QWidget& top = widget(GetParam());
