@@ -79,9 +79,9 @@ void DRCalc(Workbench& bench) {
   write_settings(form);
   const Hourglass hourglass(form);
   form.BinCount = bin_count(state.Dmin);
-  const int highest_bin = (form.BinCount + 10000).value();
-  form.Bins.allocate(highest_bin);
-  form.BinsCopy.allocate(highest_bin);
+  const int last_bin = highest_bin(form.BinCount, 10000);
+  form.Bins.allocate(last_bin);
+  form.BinsCopy.allocate(last_bin);
   form.Profile.allocate(last_sample);
   const auto grid = interference_grid(state, form.size());
   form.Label6.set_caption(grid_text(grid));

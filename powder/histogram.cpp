@@ -3,6 +3,9 @@
 #include <cmath>
 #include <vector>
 
+#include "core/number_text.h"
+#include "core/run_failure.h"
+
 namespace zol {
 namespace {
 
@@ -114,6 +117,13 @@ class Spreader {
   std::vector<double> position_;
 };
 
+/// Bins are numbered in 16 bits.
+void check_last_bin(double bin) {
+  if (bin <= 32767.0) return;
+  throw RunFailure("the histogram would end at bin " + plain_text(bin) +
+                   ", the last one possible is 32767: Dmin is too small");
+}
+
 }  // namespace
 
 Single reciprocal_length(const Main1State& cell, Single h, Single k, Single l) {
@@ -128,7 +138,16 @@ Single reciprocal_length(const Main1State& cell, Single h, Single k, Single l) {
   return to_single(square_root(square, "the squared length of a reciprocal vector"));
 }
 
-Integer bin_count(Single dmin) { return Integer::floor(divide(5000.0, dmin, "Dmin")); }
+Integer bin_count(Single dmin) {
+  const double count = std::floor(divide(5000.0, dmin, "Dmin"));
+  check_last_bin(count);
+  return Integer::rounded(count);
+}
+
+int highest_bin(Integer count, int beyond) {
+  check_last_bin(count.value() + static_cast<double>(beyond));
+  return (count + beyond).value();
+}
 
 void fill_histogram(const CrystalState& state, const InterferenceGrid& grid, const InterferenceTable& table,
                     Integer count, BoundedArray<Single>& bins, Progress& progress) {

@@ -16,6 +16,10 @@ namespace zol {
 /// @throws RunFailure  dmin is 0, or the number passes 16 bits
 [[nodiscard]] Integer bin_count(Single dmin);
 
+/// Upper bound of an array with so many bins more, which has to fit 16 bits.
+/// @throws RunFailure  it does not, because dmin is too small
+[[nodiscard]] int highest_bin(Integer count, int beyond);
+
 /// Empties bins 0 to count and adds the reflections of the list, as it stands, with their intensities. The array has
 /// bins beyond count for what the spread carries there. Progress goes by reflections.
 /// @throws RunFailure  a point falls beyond the array, or a bin passes the range of a Single

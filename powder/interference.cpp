@@ -56,7 +56,16 @@ std::string grid_text(const InterferenceGrid& grid) {
   return Str(grid.steps[0]) + Str(grid.steps[1]) + Str(grid.steps[2]);
 }
 
-Integer grid_points(const InterferenceGrid& grid) { return grid.steps[0] * grid.steps[1] * grid.steps[2]; }
+// 16 bits from factor to factor; two numbers of steps alone never pass them.
+Integer grid_points(const InterferenceGrid& grid) {
+  const auto& [a, b, c] = grid.steps;
+  const Long product = Long(a.value()) * Long(b.value()) * Long(c.value());
+  if (product > 32767) {
+    throw RunFailure("the interference grid has " + plain_text(a) + " x " + plain_text(b) + " x " + plain_text(c) +
+                     " points, at most 32767 are possible: P, Q or R is too small");
+  }
+  return a * b * c;
+}
 
 // The entry is rounded after each factor and once more after the divisions.
 InterferenceTable::InterferenceTable(const InterferenceGrid& grid, const CrystalliteSize& size) {

@@ -72,9 +72,9 @@ void XDCalc(Workbench& bench) {
   const CrystalState& state = main1_state(bench);
   auto& form = bench.windows.use<XdForm>();
   form.BinCount = bin_count(state.Dmin);
-  const int highest_bin = (form.BinCount + 1000).value();
-  form.Bins.allocate(highest_bin);
-  form.BinsCopy.allocate(highest_bin);
+  const int last_bin = highest_bin(form.BinCount, 1000);
+  form.Bins.allocate(last_bin);
+  form.BinsCopy.allocate(last_bin);
   form.Profile.allocate(last_sample);
   const auto grid = interference_grid(state, form.size());
   form.Label12.set_caption(grid_text(grid));
