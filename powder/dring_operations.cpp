@@ -57,7 +57,7 @@ void list_peaks(DringForm& form) {
 
 DringForm::DringForm(Workbench& bench)
     : Window(window_name, "DS-ring"),
-      Picture1(*this, bench.services, "Picture1", 9000, 4500),
+      Picture1(*this, bench.services, "Picture1", 9000, 3600),
       Picture2(*this, bench.services, "Picture2", 8400, 8400),
       CommonDialog1(bench.services) {
   Picture2.set_solid_fill(false);

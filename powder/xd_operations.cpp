@@ -36,7 +36,7 @@ void list_peaks(XdForm& form, Single wavelength) {
 
 XdForm::XdForm(Workbench& bench)
     : Window(window_name, "X-ray Powder Diffraction"),
-      Picture1(*this, bench.services, "Picture1", 12000, 6600),
+      Picture1(*this, bench.services, "Picture1", 12000, 8400),
       CommonDialog1(bench.services) {
   fields().add("TwoThetaMin", TwoThetaMin);
   fields().add("TwoThetaMax", TwoThetaMax);
