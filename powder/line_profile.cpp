@@ -13,8 +13,9 @@ namespace {
 // Samples are worked on in blocks, so that what hangs on the bin alone is computed once for many of them.
 constexpr int block_size = 64;
 
-// Below far_exponent a Gaussian is at most far_value. That is left out where it is below 2^-27 of what the sample
-// holds: a Single does not change by less than 2^-26 of itself.
+// Below zero_exponent exp() is 0. Below far_exponent a Gaussian is at most far_value, and is left out where that is less
+// than 2^-27 of what the sample holds: a Single does not change by less than 2^-26 of itself.
+constexpr double zero_exponent = -746.0;
 constexpr double far_exponent = -40.0;
 constexpr double far_value = 4.3e-18;  // exp(-40) is 4.2484e-18
 constexpr double no_change = 1.0 / (1 << 27);
@@ -32,6 +33,7 @@ void add_gaussian(Block& block, double centre, double height, double width) {
   for (std::size_t m = 0; m < block.size; ++m) {
     const double e = static_cast<Single>(centre - block.position[m]);
     const double exponent = -four_ln_2 * e * e / width / width;
+    if (exponent < zero_exponent) continue;
     const double sum = block.sum[m];
     if (exponent < far_exponent && std::abs(height) * far_value < sum * no_change) continue;
     block.sum[m] = static_cast<Single>(height * std::exp(exponent) + sum);
