@@ -8,6 +8,8 @@
 #include "core/space_group.h"
 #include "core/text_records.h"
 #include "kikuchi/pattern2_form.h"
+#include "powder/open_dring.h"
+#include "powder/open_xd.h"
 #include "reflections/main1_operations.h"
 #include "reflections/scattering.h"
 #include "spots/fiber_texture_form.h"
@@ -238,11 +240,11 @@ void Command5_Click(Workbench& bench, Main1Form& form) {
 void Command6_Click(Workbench& bench, Main1Form& /*form*/) { calculate(bench); }
 
 void Command7_Click(Workbench& bench, Main1Form& form) {
-  if (form.state.RefCount > 0) bench.show_window("Xd");
+  if (form.state.RefCount > 0) open_xd(bench);
 }
 
 void Command8_Click(Workbench& bench, Main1Form& form) {
-  if (form.state.RefCount > 0) bench.show_window("Dring");
+  if (form.state.RefCount > 0) open_dring(bench);
 }
 
 void Command9_Click(Workbench& bench, Main1Form& form) {

@@ -11,6 +11,10 @@
 #include "kikuchi/kikuchi_operations.h"
 #include "kikuchi/pattern2_handlers.h"
 #include "kikuchi/zaxis_handlers.h"
+#include "powder/dring_handlers.h"
+#include "powder/open_dring.h"
+#include "powder/open_xd.h"
+#include "powder/xd_handlers.h"
 #include "reflections/main1_handlers.h"
 #include "reflections/main1_operations.h"
 #include "shell/main_menu_handlers.h"
@@ -356,6 +360,52 @@ void wire(Workbench& bench, FiberTextureForm& form) {
   form.Spotsize.on_click = on(Spotsize_Click);
 }
 
+void wire(Workbench& bench, XdForm& form) {
+  using namespace xd;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text2.on_change = on(Text2_Change);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text4.on_change = on(Text4_Change);
+  form.Text6.on_change = on(Text6_Change);
+  form.Text7.on_change = on(Text7_Change);
+  form.Text8.on_change = on(Text8_Change);
+  form.Text5.on_key_press = on(Text5_KeyPress);
+  form.Command1.on_click = on(Command1_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command4.on_click = on(Command4_Click);
+  form.Command5.on_click = on(Command5_Click);
+  form.Command6.on_click = on(Command6_Click);
+  form.Command7.on_click = on(Command7_Click);
+  form.Picture1.on_mouse_down = on(Picture1_MouseDown);
+  form.add_operation("XDCalc", on(XDCalc));
+}
+
+void wire(Workbench& bench, DringForm& form) {
+  using namespace dring;
+  const Wire on(bench, form);
+  form.Text2.on_change = on(Text2_Change);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text5.on_change = on(Text5_Change);
+  form.Text6.on_change = on(Text6_Change);
+  form.Text7.on_change = on(Text7_Change);
+  form.Text8.on_change = on(Text8_Change);
+  form.Check1.on_click = on(Check1_Click);
+  form.Check2.on_click = on(Check2_Click);
+  form.Check3.on_click = on(Check3_Click);
+  form.Command1.on_click = on(Command1_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command4.on_click = on(Command4_Click);
+  form.Command5.on_click = on(Command5_Click);
+  form.Command6.on_click = on(Command6_Click);
+  form.Command7.on_click = on(Command7_Click);
+  form.Picture1.on_mouse_down = on(Picture1_MouseDown);
+  form.Picture2.on_mouse_down = on(Picture2_MouseDown);
+  form.add_operation("DRCalc", on(DRCalc));
+}
+
 /// Makes a window known: its form, its events, its Form_Load.
 template <class Form>
 void add_window(Workbench& bench, void (*form_load)(Workbench&, Form&)) {
@@ -384,6 +434,8 @@ Program::Program(DataRoot data, Services& services)
   add_window<UtilityForm>(bench_, utility::Form_Load);
   add_window<PatternForm>(bench_, pattern::Form_Load);
   add_window<FiberTextureForm>(bench_, fiber_texture::Form_Load);
+  add_window<XdForm>(bench_, nullptr);
+  add_window<DringForm>(bench_, nullptr);
 }
 
 void Program::start() { windows_.use(MainMenuForm::window_name).show(); }

@@ -92,6 +92,8 @@ INSTANTIATE_TEST_SUITE_P(Windows, CompleteWindow, testing::Values(
     "InputJCPDS",
     "AtomDistance",
     "Utility",
+    "Xd",
+    "Dring",
     "Pattern",
     "FiberTexture",
     "CameraParameters",
