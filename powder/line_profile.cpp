@@ -13,8 +13,8 @@ namespace {
 // Samples are worked on in blocks, so that what hangs on the bin alone is computed once for many of them.
 constexpr int block_size = 64;
 
-// Below zero_exponent exp() is 0. Below far_exponent a Gaussian is at most far_value, and is left out where that is less
-// than 2^-27 of what the sample holds: a Single does not change by less than 2^-26 of itself.
+// Below zero_exponent exp() is 0. Below far_exponent a Gaussian is at most far_value, and is left out where that is
+// less than 2^-27 of what the sample holds: a Single does not change by less than 2^-26 of itself.
 constexpr double zero_exponent = -746.0;
 constexpr double far_exponent = -40.0;
 constexpr double far_value = 4.3e-18;  // exp(-40) is 4.2484e-18

@@ -304,6 +304,22 @@ TEST_F(DesktopTest, HeaderStandsOverTheColumns) {
   EXPECT_NEAR(title - line, 2 * pitch, 2.5) << "the first line begins with a minus in the third column";
 }
 
+TEST_F(DesktopTest, PowderPatternOpensAndTakesItsHeightByEnter) {
+  show_main1();
+  services.answers = {ZOL_SOURCE_DIR "/data/ZOLDATA/NaCl.cry"};
+  child<QAction>("Main1", "DATA_LOAD").trigger();
+  QTest::mouseClick(&child<QPushButton>("Main1", "Command7"), Qt::LeftButton);
+  EXPECT_TRUE(widget("Xd").isVisible());
+  EXPECT_EQ(child<CanvasView>("Xd", "Picture1").cursor().shape(), Qt::CrossCursor);
+  auto& height = child<QLineEdit>("Xd", "Text5");
+  height.clear();
+  type(height, "250.5");
+  EXPECT_EQ(height.text(), QStringLiteral("250.5"));
+  QTest::keyClick(&height, Qt::Key_Return);
+  EXPECT_EQ(height.text(), QStringLiteral(" 250"));
+  EXPECT_EQ(failures, std::vector<std::string>{});
+}
+
 TEST_F(DesktopTest, FrameButtonHidesAndTheLastOneEnds) {
   show_main1();
   type(box("Text1"), "4");
@@ -425,6 +441,13 @@ TEST_F(BinderTest, MouseEventsArriveInUserCoordinates) {
   EXPECT_EQ(events[0], (std::pair<Single, Single>{-1, 0}));
   EXPECT_EQ(events[2], (std::pair<Single, Single>{0, 1}));
   EXPECT_EQ(doubled, 1);
+}
+
+TEST_F(BinderTest, MarginBesideThePictureTakesNoPress) {
+  std::vector<Single> pressed;
+  form.Picture1.on_mouse_down = [&pressed](Single x, Single /*y*/) { pressed.push_back(x); };
+  for (const int x : {0, 24, 100, 176, 199}) QTest::mousePress(&view, Qt::LeftButton, {}, QPoint(x, 75));
+  EXPECT_EQ(pressed, std::vector<Single>{750}) << "150 pixels from x = 25";
 }
 
 TEST_F(BinderTest, PictureOfItsOwnSizeShowsPixelByPixel) {
