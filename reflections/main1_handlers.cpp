@@ -8,8 +8,12 @@
 #include "core/space_group.h"
 #include "core/text_records.h"
 #include "kikuchi/pattern2_form.h"
+#include "powder/open_dring.h"
+#include "powder/open_xd.h"
 #include "reflections/main1_operations.h"
 #include "reflections/scattering.h"
+#include "spots/fiber_texture_form.h"
+#include "spots/pattern_form.h"
 
 namespace zol::main1 {
 namespace {
@@ -236,20 +240,18 @@ void Command5_Click(Workbench& bench, Main1Form& form) {
 void Command6_Click(Workbench& bench, Main1Form& /*form*/) { calculate(bench); }
 
 void Command7_Click(Workbench& bench, Main1Form& form) {
-  if (form.state.RefCount > 0) bench.show_window("Xd");
+  if (form.state.RefCount > 0) open_xd(bench);
 }
 
 void Command8_Click(Workbench& bench, Main1Form& form) {
-  if (form.state.RefCount > 0) bench.show_window("Dring");
+  if (form.state.RefCount > 0) open_dring(bench);
 }
 
 void Command9_Click(Workbench& bench, Main1Form& form) {
   CrystalState& state = form.state;
-  if (state.RefCount >= 1 && state.NAtom >= 1) bench.show_window("Pattern");
+  if (state.RefCount >= 1 && state.NAtom >= 1) bench.windows.use<PatternForm>().show();
   const double radius = divide(1.0, Val(form.Text15.text()), "Dmin (Main1.Text15)");  // inverse angstroms
-  if (bench.windows.knows("Pattern")) {
-    if (auto* box = dynamic_cast<TextBox*>(bench.windows.use("Pattern").find("Text1"))) box->set_text(Str(radius));
-  }
+  bench.windows.use<PatternForm>().Text1.set_text(Str(radius));
   state.DisplayScale = 0;
 }
 
@@ -269,7 +271,7 @@ void Command10_Click(Workbench& bench, Main1Form& form) {
 void Command11_Click(Workbench& bench, Main1Form& /*form*/) { bench.show_window("AtomDistance"); }
 
 void Command12_Click(Workbench& bench, Main1Form& form) {
-  if (form.state.RefCount > 0) bench.show_window("FiberTexture");
+  if (form.state.RefCount > 0) bench.windows.use<FiberTextureForm>().show();
 }
 
 void Command13_Click(Workbench& bench, Main1Form& /*form*/) { bench.show_window("PATTERN3"); }

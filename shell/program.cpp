@@ -2,6 +2,8 @@
 
 #include "analysis/hkl3make.h"
 #include "analysis/pattern3_handlers.h"
+#include "calculators/atom_distance_handlers.h"
+#include "calculators/utility_handlers.h"
 #include "entry/input_atom_handlers.h"
 #include "entry/input_jcpds_handlers.h"
 #include "entry/main1_import.h"
@@ -9,10 +11,17 @@
 #include "kikuchi/kikuchi_operations.h"
 #include "kikuchi/pattern2_handlers.h"
 #include "kikuchi/zaxis_handlers.h"
+#include "powder/dring_handlers.h"
+#include "powder/open_dring.h"
+#include "powder/open_xd.h"
+#include "powder/xd_handlers.h"
 #include "reflections/main1_handlers.h"
 #include "reflections/main1_operations.h"
 #include "shell/main_menu_handlers.h"
 #include "shell/state_names.h"
+#include "spots/fiber_texture_handlers.h"
+#include "spots/pattern_disp.h"
+#include "spots/pattern_handlers.h"
 
 namespace zol {
 namespace {
@@ -103,7 +112,9 @@ void wire(Workbench& bench, Main1Form& form) {
   form.add_operation("LoadSGNames", on(LoadSGNames));
   form.add_operation("CalcReflections", on(CalcReflections));
   form.add_operation("CRYSTAL_SELECT", on(CRYSTAL_SELECT));
+  form.add_operation("PatternDisp", on(PatternDisp));
   form.add_operation("PatternDisp2", on(PatternDisp2));
+  form.add_operation("PatternDisp3", on(PatternDisp3));
   form.add_operation("Patterndisp4", on(Patterndisp4));
   form.add_operation("ZoneCalc", on(ZoneCalc));
   form.add_operation("ZoneCalc2", on(ZoneCalc2));
@@ -277,6 +288,173 @@ void wire(Workbench& bench, CameraParametersForm& form) {
   form.Command3.on_click = on(Command3_Click);
 }
 
+void wire(Workbench& bench, AtomDistanceForm& form) {
+  using namespace atom_distance;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text1.on_key_press = on(Text1_KeyPress);
+  form.Command1.on_click = on(Command1_Click);
+}
+
+void wire(Workbench& bench, UtilityForm& form) {
+  using namespace utility;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text2.on_change = on(Text2_Change);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text4.on_change = on(Text4_Change);
+  form.Text10.on_change = on(Text10_Change);
+  form.Text11.on_change = on(Text11_Change);
+  form.Text12.on_change = on(Text12_Change);
+  form.Text13.on_change = on(Text13_Change);
+  form.Text14.on_change = on(Text14_Change);
+  form.Text15.on_change = on(Text15_Change);
+  form.Text46.on_change = on(Text46_Change);
+  form.Text47.on_change = on(Text47_Change);
+  form.Text48.on_change = on(Text48_Change);
+  form.Text49.on_change = on(Text49_Change);
+  form.Text50.on_change = on(Text50_Change);
+  form.Text51.on_change = on(Text51_Change);
+  form.Text1.on_key_press = on(Text1_KeyPress);
+  form.Text2.on_key_press = on(Text2_KeyPress);
+  form.Text3.on_key_press = on(Text3_KeyPress);
+  form.Text4.on_key_press = on(Text4_KeyPress);
+  form.Text9.on_key_press = on(Text9_KeyPress);
+  form.Text8.on_key_press = on(Text8_KeyPress);
+  form.Text7.on_key_press = on(Text7_KeyPress);
+  form.Text6.on_key_press = on(Text6_KeyPress);
+  form.Text10.on_key_press = on(Text10_KeyPress);
+  form.Text11.on_key_press = on(Text11_KeyPress);
+  form.Text12.on_key_press = on(Text12_KeyPress);
+  form.Text13.on_key_press = on(Text13_KeyPress);
+  form.Text14.on_key_press = on(Text14_KeyPress);
+  form.Text15.on_key_press = on(Text15_KeyPress);
+  form.Text46.on_key_press = on(Text46_KeyPress);
+  form.Text47.on_key_press = on(Text47_KeyPress);
+  form.Text48.on_key_press = on(Text48_KeyPress);
+  form.Text49.on_key_press = on(Text49_KeyPress);
+  form.Text50.on_key_press = on(Text50_KeyPress);
+  form.Text51.on_key_press = on(Text51_KeyPress);
+  for (int i = 0; i < form.Text5.count(); ++i) {
+    form.Text5(i).on_key_press = [i, &form](int& key) { Text5_KeyPress(form, i, key); };
+  }
+  form.Command1.on_click = on(Command1_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command4.on_click = on(Command4_Click);
+  form.Command5.on_click = on(Command5_Click);
+  form.Option1.on_click = on(Option1_Click);
+  form.Option2.on_click = on(Option2_Click);
+  form.Option3.on_click = on(Option3_Click);
+}
+
+void wire(Workbench& bench, PatternForm& form) {
+  using namespace pattern;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text2.on_change = on(Text2_Change);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text4.on_change = on(Text4_Change);
+  form.Text5.on_change = on(Text5_Change);
+  form.Text3.on_key_press = on(Text3_KeyPress);
+  form.Text4.on_key_press = on(Text4_KeyPress);
+  form.Text5.on_key_press = on(Text5_KeyPress);
+  form.Command8.on_click = on(Command8_Click);
+  form.Command5.on_click = on(Command5_Click);
+  form.Command14.on_click = on(Command14_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command6.on_click = on(Command6_Click);
+  form.Command9.on_click = on(Command9_Click);
+  form.Command11.on_click = on(Command11_Click);
+  form.Command7.on_click = on(Command7_Click);
+  form.Command10.on_click = on(Command10_Click);
+  form.Command12.on_click = on(Command12_Click);
+  form.Command4.on_click = on(Command4_Click);
+  form.Command13.on_click = on(Command13_Click);
+  form.Command1.on_click = on(Command1_Click);
+  form.ISAVE.on_click = on(ISAVE_Click);
+  form.Spotsize.on_click = on(Spotsize_Click);
+  form.Rpitch.on_click = on(Rpitch_Click);
+  form.Fsize.on_click = on(Fsize_Click);
+  form.add_operation("Imagesize", on(Imagesize));
+}
+
+void wire(Workbench& bench, FiberTextureForm& form) {
+  using namespace fiber_texture;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text2.on_change = on(Text2_Change);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text4.on_change = on(Text4_Change);
+  form.Text5.on_change = on(Text5_Change);
+  form.Text3.on_key_press = on(Text3_KeyPress);
+  form.Text4.on_key_press = on(Text4_KeyPress);
+  form.Text5.on_key_press = on(Text5_KeyPress);
+  form.Command8.on_click = on(Command8_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command6.on_click = on(Command6_Click);
+  form.Command9.on_click = on(Command9_Click);
+  form.Command11.on_click = on(Command11_Click);
+  form.Command7.on_click = on(Command7_Click);
+  form.Command10.on_click = on(Command10_Click);
+  form.Command12.on_click = on(Command12_Click);
+  form.Command5.on_click = on(Command5_Click);
+  form.Command1.on_click = on(Command1_Click);
+  form.Isave.on_click = on(Isave_Click);
+  form.Fsize.on_click = on(Fsize_Click);
+  form.Rpitch.on_click = on(Rpitch_Click);
+  form.Imagesize.on_click = on(Imagesize_Click);
+  form.Spotsize.on_click = on(Spotsize_Click);
+}
+
+void wire(Workbench& bench, XdForm& form) {
+  using namespace xd;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text2.on_change = on(Text2_Change);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text4.on_change = on(Text4_Change);
+  form.Text6.on_change = on(Text6_Change);
+  form.Text7.on_change = on(Text7_Change);
+  form.Text8.on_change = on(Text8_Change);
+  form.Text5.on_key_press = on(Text5_KeyPress);
+  form.Command1.on_click = on(Command1_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command4.on_click = on(Command4_Click);
+  form.Command5.on_click = on(Command5_Click);
+  form.Command6.on_click = on(Command6_Click);
+  form.Command7.on_click = on(Command7_Click);
+  form.Picture1.on_mouse_down = on(Picture1_MouseDown);
+  form.add_operation("XDCalc", on(XDCalc));
+}
+
+void wire(Workbench& bench, DringForm& form) {
+  using namespace dring;
+  const Wire on(bench, form);
+  form.Text2.on_change = on(Text2_Change);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text5.on_change = on(Text5_Change);
+  form.Text6.on_change = on(Text6_Change);
+  form.Text7.on_change = on(Text7_Change);
+  form.Text8.on_change = on(Text8_Change);
+  form.Check1.on_click = on(Check1_Click);
+  form.Check2.on_click = on(Check2_Click);
+  form.Check3.on_click = on(Check3_Click);
+  form.Command1.on_click = on(Command1_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command4.on_click = on(Command4_Click);
+  form.Command5.on_click = on(Command5_Click);
+  form.Command6.on_click = on(Command6_Click);
+  form.Command7.on_click = on(Command7_Click);
+  form.Picture1.on_mouse_down = on(Picture1_MouseDown);
+  form.Picture2.on_mouse_down = on(Picture2_MouseDown);
+  form.add_operation("DRCalc", on(DRCalc));
+}
+
 /// Makes a window known: its form, its events, its Form_Load.
 template <class Form>
 void add_window(Workbench& bench, void (*form_load)(Workbench&, Form&)) {
@@ -301,6 +479,12 @@ Program::Program(DataRoot data, Services& services)
   add_window<Pattern2Form>(bench_, pattern2::Form_Load);
   add_window<ZaxisForm>(bench_, zaxis::Form_Load);
   add_window<CameraParametersForm>(bench_, camera_parameters::Form_Load);
+  add_window<AtomDistanceForm>(bench_, nullptr);
+  add_window<UtilityForm>(bench_, utility::Form_Load);
+  add_window<PatternForm>(bench_, pattern::Form_Load);
+  add_window<FiberTextureForm>(bench_, fiber_texture::Form_Load);
+  add_window<XdForm>(bench_, nullptr);
+  add_window<DringForm>(bench_, nullptr);
 }
 
 void Program::start() { windows_.use(MainMenuForm::window_name).show(); }

@@ -22,6 +22,7 @@
 #include <QRegularExpression>
 #include <QTableView>
 #include <QTest>
+#include <QToolButton>
 
 #include "reflections/main1_form.h"
 #include "shell/desktop/canvas_view.h"
@@ -83,9 +84,24 @@ std::string label_of(const QWidget& top, const QWidget* widget) {
 }
 
 class CompleteWindow : public DesktopTest, public testing::WithParamInterface<const char*> {};
-INSTANTIATE_TEST_SUITE_P(Windows, CompleteWindow,
-                         testing::Values("MAIN_MENU", "Main1", "InputAtom", "InputJCPDS", "CameraParameters",
-                                         "PATTERN3", "Pattern2", "Zaxis"));
+// clang-format off
+INSTANTIATE_TEST_SUITE_P(Windows, CompleteWindow, testing::Values(
+    "MAIN_MENU",
+    "Main1",
+    "InputAtom",
+    "InputJCPDS",
+    "AtomDistance",
+    "Utility",
+    "Xd",
+    "Dring",
+    "Pattern",
+    "FiberTexture",
+    "CameraParameters",
+    "PATTERN3",
+    "Pattern2",
+    "Zaxis"
+));
+// clang-format on
 
 TEST_P(CompleteWindow, HasAWidgetForEachControlAndNoOther) {
   QWidget& top = widget(GetParam());
@@ -113,7 +129,9 @@ TEST_P(CompleteWindow, BearsTheGivenCaptions) {
       if (!wanted.empty()) {
         EXPECT_EQ(plain(button->text()), wanted) << control->name();
       }
-      EXPECT_FALSE(button->text().isEmpty()) << control->name();
+      const auto* tool = qobject_cast<QToolButton*>(shown);
+      const bool arrow = tool != nullptr && tool->arrowType() != Qt::NoArrow;
+      EXPECT_TRUE(arrow || !button->text().isEmpty() || !button->icon().isNull()) << control->name();
     } else if (const auto* item = top.findChild<QAction*>(name)) {
       EXPECT_EQ(plain(item->text()), wanted) << control->name();
       const auto& menu = dynamic_cast<const MenuItem&>(*control).menu();
@@ -287,6 +305,22 @@ TEST_F(DesktopTest, HeaderStandsOverTheColumns) {
   EXPECT_NEAR(title - line, 2 * pitch, 2.5) << "the first line begins with a minus in the third column";
 }
 
+TEST_F(DesktopTest, PowderPatternOpensAndTakesItsHeightByEnter) {
+  show_main1();
+  services.answers = {ZOL_SOURCE_DIR "/data/ZOLDATA/NaCl.cry"};
+  child<QAction>("Main1", "DATA_LOAD").trigger();
+  QTest::mouseClick(&child<QPushButton>("Main1", "Command7"), Qt::LeftButton);
+  EXPECT_TRUE(widget("Xd").isVisible());
+  EXPECT_EQ(child<CanvasView>("Xd", "Picture1").cursor().shape(), Qt::CrossCursor);
+  auto& height = child<QLineEdit>("Xd", "Text5");
+  height.clear();
+  type(height, "250.5");
+  EXPECT_EQ(height.text(), QStringLiteral("250.5"));
+  QTest::keyClick(&height, Qt::Key_Return);
+  EXPECT_EQ(height.text(), QStringLiteral(" 250"));
+  EXPECT_EQ(failures, std::vector<std::string>{});
+}
+
 TEST_F(DesktopTest, FrameButtonHidesAndTheLastOneEnds) {
   show_main1();
   type(box("Text1"), "4");
@@ -408,6 +442,13 @@ TEST_F(BinderTest, MouseEventsArriveInUserCoordinates) {
   EXPECT_EQ(events[0], (std::pair<Single, Single>{-1, 0}));
   EXPECT_EQ(events[2], (std::pair<Single, Single>{0, 1}));
   EXPECT_EQ(doubled, 1);
+}
+
+TEST_F(BinderTest, MarginBesideThePictureTakesNoPress) {
+  std::vector<Single> pressed;
+  form.Picture1.on_mouse_down = [&pressed](Single x, Single /*y*/) { pressed.push_back(x); };
+  for (const int x : {0, 24, 100, 176, 199}) QTest::mousePress(&view, Qt::LeftButton, {}, QPoint(x, 75));
+  EXPECT_EQ(pressed, std::vector<Single>{750}) << "150 pixels from x = 25";
 }
 
 TEST_F(BinderTest, PictureOfItsOwnSizeShowsPixelByPixel) {

@@ -78,8 +78,9 @@ void CanvasView::paintEvent(QPaintEvent* /*event*/) {
   painter.drawPixmap(place, cache_, QRectF(cache_.rect()));
 }
 
+// The margin beside a picture that does not fill its view is no part of it.
 void CanvasView::mousePressEvent(QMouseEvent* event) {
-  if (canvas_ == nullptr || event->button() == Qt::RightButton) return;
+  if (canvas_ == nullptr || event->button() == Qt::RightButton || !picture_rect().contains(event->position())) return;
   const QPointF at = user_position(event->position());
   enter_([this, at] { canvas_->press(at.x(), at.y()); });
 }

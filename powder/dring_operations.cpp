@@ -1,0 +1,118 @@
+#include <cmath>
+
+#include "powder/dring_form.h"
+#include "powder/histogram.h"
+#include "powder/line_profile.h"
+#include "powder/open_dring.h"
+#include "reflections/main1_form.h"
+
+namespace zol {
+namespace {
+
+constexpr Colour white = RGB(255, 255, 255);
+constexpr Colour black = RGB(0, 0, 0);
+constexpr Colour red = RGB(255, 0, 0);
+
+/// Shows the settings. Writing a box runs its change handler: the field is then what the text says.
+void write_settings(DringForm& form) {
+  form.Text2.set_text(plain_text(form.DStarMax));
+  if (form.HalfWidth == 0) form.HalfWidth = 0.01F;
+  form.Text3.set_text(plain_text(form.HalfWidth));
+  form.Text6.set_text(plain_text(form.CellsP));
+  form.Text7.set_text(plain_text(form.CellsQ));
+  form.Text8.set_text(plain_text(form.CellsR));
+}
+
+void set_scales(DringForm& form) {
+  const double end = form.DStarMax;
+  form.Picture1.scale(0, 1.01, end, -0.01);
+  const double start = form.Check2.checked() ? -end : 0.0;
+  form.Picture2.scale(start, end, end, start);
+  form.Picture2.set_back_colour(form.Check3.checked() ? white : black);
+}
+
+/// The packed colour is a 32-bit number, which a level far below 0 does not fit.
+Colour grey(Long level) { return (level + Long(256) * level + Long(65536) * level).value(); }
+
+void draw(DringForm& form) {
+  form.Picture1.move_to(0, relative_height(form.Profile(0), form.DisplayMax));
+  for (int m = 1; m <= last_sample; ++m) {
+    const Single d_star = d_star_at(form.DStarMax, m);
+    form.Picture1.line_to(d_star, relative_height(form.Profile(m), form.DisplayMax));
+    const Long level = grey_level(form.Profile(m), form.DisplayMax, form.Check3.checked());
+    form.Picture2.circle(0, 0, d_star, grey(level));
+  }
+  form.Picture2.set_point(0, 0, red);  // the beam
+}
+
+void list_peaks(DringForm& form) {
+  form.List1.clear();
+  form.List1.add_item("d     I/Io");
+  for (const int m : maxima(form.Profile, form.DisplayMax)) {
+    form.List1.add_item(peak_line(ring_spacing(form.DStarMax, m), form.Profile(m), form.DisplayMax));
+  }
+}
+
+}  // namespace
+
+DringForm::DringForm(Workbench& bench)
+    : Window(window_name, "DS-ring"),
+      Picture1(*this, bench.services, "Picture1", 9000, 3600),
+      Picture2(*this, bench.services, "Picture2", 8400, 8400),
+      CommonDialog1(bench.services) {
+  Picture2.set_solid_fill(false);
+  fields().add("DStarMax", DStarMax);
+  fields().add("HalfWidth", HalfWidth);
+  fields().add("DisplayMax", DisplayMax);
+  fields().add("CellsP", CellsP);
+  fields().add("CellsQ", CellsQ);
+  fields().add("CellsR", CellsR);
+  fields().add("Bins", Bins);
+  fields().add("Profile", Profile);
+  fields().add("BinsCopy", BinsCopy);
+  fields().add("BinCount", BinCount);
+}
+
+void DRCalc(Workbench& bench) {
+  const CrystalState& state = main1_state(bench);
+  auto& form = bench.windows.use<DringForm>();
+  write_settings(form);
+  const Hourglass hourglass(form);
+  form.BinCount = bin_count(state.Dmin);
+  const int last_bin = highest_bin(form.BinCount, 10000);
+  form.Bins.allocate(last_bin);
+  form.BinsCopy.allocate(last_bin);
+  form.Profile.allocate(last_sample);
+  const auto grid = interference_grid(state, form.size());
+  form.Label6.set_caption(grid_text(grid));
+  const InterferenceTable table(grid, form.size());
+
+  BarProgress progress(form.ProgressBar1);
+  form.ProgressBar1.set_range(0, to_single(state.RefCount.value()));
+  fill_histogram(state, grid, table, form.BinCount, form.Bins, progress);
+  form.ProgressBar1.set_range(0, last_sample);
+  const auto bins = filled_bins(form.Bins, 1, form.BinCount, state.Dmin);
+  sum_gaussian_lines(bins, form.DStarMax, form.HalfWidth, form.Profile, progress);
+  if (form.Check1.checked()) take_square_roots(form.Profile);
+
+  if (form.DisplayMax == 0) form.DisplayMax = largest_sample(form.Profile);
+  set_scales(form);
+  form.Text5.set_text(Str(std::floor(form.DisplayMax)));  // a new text cuts DisplayMax and clears both pictures
+  draw(form);
+  list_peaks(form);
+}
+
+void open_dring(Workbench& bench) {
+  const CrystalState& state = main1_state(bench);
+  auto& form = bench.windows.use<DringForm>();
+  form.show();
+  form.DisplayMax = 0;
+  form.DStarMax = to_single(divide(1.0, state.Dmin, "Dmin"));
+  form.CellsP = form.CellsQ = form.CellsR = 10000;
+  form.HalfWidth = 0.003F;
+  DRCalc(bench);
+  form.Picture1.set_mouse_pointer(MousePointer::CrossHair);
+  form.Picture2.set_mouse_pointer(MousePointer::CrossHair);
+}
+
+}  // namespace zol

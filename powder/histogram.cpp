@@ -1,0 +1,163 @@
+#include "powder/histogram.h"
+
+#include <cmath>
+#include <vector>
+
+#include "core/number_text.h"
+#include "core/run_failure.h"
+
+namespace zol {
+namespace {
+
+/// A point of the grid along one axis: its offset and the entry of the table that holds its value.
+struct GridPoint {
+  Single offset;
+  int entry;
+};
+
+/// The points of a loop by repeated addition. Rounding may end it one point early.
+std::vector<GridPoint> points_of(const InterferenceGrid& grid, std::size_t axis) {
+  const double width = grid.width[axis];
+  const Single last = to_single(grid.steps[axis].value() * width);
+  std::vector<GridPoint> points;
+  for (Single x = to_single(-grid.steps[axis].value() * width); x <= last; x = to_single(double{x} + width)) {
+    points.push_back({x, static_cast<int>(std::floor(std::abs(divide(x, width, "the grid width")) + 0.5))});
+  }
+  return points;
+}
+
+/// Coordinates of the points around an index.
+std::vector<double> around(Integer index, const std::vector<GridPoint>& points) {
+  std::vector<double> coordinates;
+  coordinates.reserve(points.size());
+  for (const auto& point : points) coordinates.push_back(to_single(index.value() + double{point.offset}));
+  return coordinates;
+}
+
+std::vector<double> squares(const std::vector<double>& coordinates, double edge) {
+  std::vector<double> result;
+  result.reserve(coordinates.size());
+  for (const double x : coordinates) result.push_back(x * x * (edge * edge));
+  return result;
+}
+
+/// Terms 2 x y edge_x edge_y cosine, y running fastest.
+std::vector<double> mixed(const std::vector<double>& xs, const std::vector<double>& ys, double edge_x, double edge_y,
+                          double cosine) {
+  std::vector<double> result;
+  result.reserve(xs.size() * ys.size());
+  for (const double x : xs) {
+    for (const double y : ys) result.push_back(2.0 * x * y * edge_x * edge_y * cosine);
+  }
+  return result;
+}
+
+/// Spreads reflections over the points of a grid. The terms of the squared length that hang on one or two of the three
+/// indices alone are computed once; their sum is formed in the order of reciprocal_length, so that it is the same to
+/// the bit.
+class Spreader {
+ public:
+  Spreader(const Main1State& cell, const InterferenceGrid& grid, const InterferenceTable& table, Integer count,
+           BoundedArray<Single>& bins)
+      : cell_(cell),
+        table_(table),
+        dmin_(cell.Dmin),
+        count_(count.value()),
+        bins_(bins),
+        beyond_(bins.upper() + 1.0),
+        points_{points_of(grid, 0), points_of(grid, 1), points_of(grid, 2)},
+        position_(points_[2].size()) {}
+
+  void add(Integer h, Integer k, Integer l, Single intensity) {
+    const auto hs = around(h, points_[0]);
+    const auto ks = around(k, points_[1]);
+    const auto ls = around(l, points_[2]);
+    const auto hh = squares(hs, cell_.AStar);
+    const auto kk = squares(ks, cell_.BStar);
+    const auto ll = squares(ls, cell_.CStar);
+    const auto hk = mixed(hs, ks, cell_.AStar, cell_.BStar, cell_.CosGammaStar);
+    const auto kl = mixed(ks, ls, cell_.BStar, cell_.CStar, cell_.CosAlphaStar);
+    for (std::size_t i = 0; i < hs.size(); ++i) {
+      const auto lh = mixed(ls, {hs[i]}, cell_.CStar, cell_.AStar, cell_.CosBetaStar);
+      for (std::size_t j = 0; j < ks.size(); ++j) {
+        place_row(hh[i] + kk[j], ll, hk[i * ks.size() + j], kl.data() + j * ls.size(), lh);
+        add_row(table_.row(points_[0][i].entry, points_[1][j].entry), intensity);
+      }
+    }
+  }
+
+ private:
+  /// Positions, in bins and not yet whole, of a row of points along c*.
+  void place_row(double hh_kk, const std::vector<double>& ll, double hk, const double* kl,
+                 const std::vector<double>& lh) {
+    double lowest = 0.0;
+    for (std::size_t z = 0; z < ll.size(); ++z) {
+      const double square = hh_kk + ll[z] + hk + kl[z] + lh[z];
+      lowest = square < lowest ? square : lowest;
+      position_[z] = dmin_ * double{static_cast<Single>(std::sqrt(square))} * count_;
+    }
+    (void)square_root(lowest, "the squared length of a reciprocal vector");
+  }
+
+  void add_row(const Single* values, Single intensity) {
+    for (std::size_t z = 0; z < position_.size(); ++z) {
+      if (!(position_[z] >= 0.0 && position_[z] < beyond_)) (void)bins_(Long::floor(position_[z]).value());
+      Single& bin = bins_(static_cast<int>(position_[z]));
+      bin = to_single(double{bin} + double{intensity} * double{values[points_[2][z].entry]});
+    }
+  }
+
+  const Main1State& cell_;
+  const InterferenceTable& table_;
+  double dmin_;
+  double count_;
+  BoundedArray<Single>& bins_;
+  double beyond_;  // the first position that has no bin
+  std::array<std::vector<GridPoint>, 3> points_;
+  std::vector<double> position_;
+};
+
+/// Bins are numbered in 16 bits.
+void check_last_bin(double bin) {
+  if (bin <= 32767.0) return;
+  throw RunFailure("the histogram would end at bin " + plain_text(bin) +
+                   ", the last one possible is 32767: Dmin is too small");
+}
+
+}  // namespace
+
+Single reciprocal_length(const Main1State& cell, Single h, Single k, Single l) {
+  const double a = cell.AStar;
+  const double b = cell.BStar;
+  const double c = cell.CStar;
+  const double x = h;
+  const double y = k;
+  const double z = l;
+  const double square = x * x * (a * a) + y * y * (b * b) + z * z * (c * c) + 2.0 * x * y * a * b * cell.CosGammaStar +
+                        2.0 * y * z * b * c * cell.CosAlphaStar + 2.0 * z * x * c * a * cell.CosBetaStar;
+  return to_single(square_root(square, "the squared length of a reciprocal vector"));
+}
+
+Integer bin_count(Single dmin) {
+  const double count = std::floor(divide(5000.0, dmin, "Dmin"));
+  check_last_bin(count);
+  return Integer::rounded(count);
+}
+
+int highest_bin(Integer count, int beyond) {
+  check_last_bin(count.value() + static_cast<double>(beyond));
+  return (count + beyond).value();
+}
+
+void fill_histogram(const CrystalState& state, const InterferenceGrid& grid, const InterferenceTable& table,
+                    Integer count, BoundedArray<Single>& bins, Progress& progress) {
+  for (int n = 0; n <= count.value(); ++n) bins(n) = 0;
+  Spreader spreader(state, grid, table, count, bins);
+  const int reflections = state.RefCount.value();
+  for (int r = 1; r <= reflections; ++r) {
+    progress.report(r, reflections);
+    spreader.add(state.RefH(r), state.RefK(r), state.RefL(r), state.RefI(r));
+  }
+}
+
+}  // namespace zol

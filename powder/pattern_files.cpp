@@ -1,0 +1,34 @@
+#include "powder/pattern_files.h"
+
+#include <filesystem>
+
+#include "core/text_records.h"
+
+namespace zol {
+
+std::string with_ending(const std::string& path, std::string_view ending) {
+  const std::string name = std::filesystem::path(path).filename().string();
+  return name.find('.') == std::string::npos ? path + std::string(ending) : path;
+}
+
+void write_xdp(const std::string& path, const TwoThetaRange& range, const PseudoVoigt& line,
+               const CrystalliteSize& size, const BoundedArray<Single>& profile) {
+  RecordWriter file(path);
+  file.field("2-theta min").field(range.minimum).end_line();
+  file.field("2-theta max").field(range.maximum).end_line();
+  file.field("FWHM(deg.)").field(line.half_width).end_line();
+  file.field("Gratio").field(line.gaussian_ratio).end_line();
+  file.field("P").field(size.CellsP).end_line();
+  file.field("Q").field(size.CellsQ).end_line();
+  file.field("R").field(size.CellsR).end_line();
+  for (int m = 0; m <= last_sample; ++m) file.field(range.at(m)).field(profile(m)).end_line();
+  file.commit();
+}
+
+void write_edp(const std::string& path, Single d_star_max, const BoundedArray<Single>& profile) {
+  RecordWriter file(path);
+  for (int m = 0; m <= last_sample; ++m) file.field(d_star_at(d_star_max, m)).field(profile(m)).end_line();
+  file.commit();
+}
+
+}  // namespace zol

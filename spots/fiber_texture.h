@@ -1,0 +1,50 @@
+// Electron diffraction of a fiber texture, the beam normal to the fiber axis: each reflection gives arcs at the radius
+// 1/d, at its angle to the fiber axis and mirrored, spread by a Gaussian. Positions in inverse angstroms, x right, y up
+// along the fiber axis while PatternAngle is 0.
+//
+// Texture arcs: Vainshtein, Structure Analysis by Electron Diffraction (1964), ch. 1.
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "core/crystal_state.h"
+
+namespace zol {
+
+/// Sorts the reflection list by RefI from entry 2 on, ascending, for every window; entry 1 and RefTwoTheta stay. Equal
+/// intensities end in the order that a selection sort with exchanges gives, reached in n log n steps.
+/// @throws RunFailure  fewer than two reflections
+void sort_by_intensity(CrystalState& state);
+
+/// The picture that the arcs are for.
+struct FiberPicture {
+  int width_px = 0, height_px = 0;  ///< pixels that span -CamAcquisition to CamAcquisition
+  std::optional<double> exponent;   ///< of the strongest intensity, to which others are related
+};
+
+/// A pixel of an arc and what it adds to the darkness there.
+struct ArcPoint {
+  Single x = 0, y = 0;
+  Integer darkness;  ///< 0 to 255 for the strongest reflection, more with an exponent below 1
+  bool operator==(const ArcPoint&) const = default;
+};
+
+/// What is drawn for one reflection: the points of its four arcs in turn, and its label.
+struct FiberArcs {
+  std::vector<ArcPoint> points;
+  Single label_x = 0, label_y = 0;  ///< not at the arcs: its angle in degrees goes into the sine as it is
+};
+
+/// Arcs of reflection i of the sorted list; none for one without intensity or beyond the corner of the picture. Points
+/// that fall on the pixel of the point before them are left out.
+/// @throws RunFailure  the fiber direction is zero, a darkness does not fit 16 bits, the dispersion is too large
+[[nodiscard]] std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const FiberPicture& picture);
+
+/// Grey level of a pixel after a point has been added, 0 (black) to 255 (white).
+/// @param colour  what the pixel shows, packed as r + 256 g + 65536 b, of which the blue part counts; -1 outside the
+///                picture
+/// @throws RunFailure  the sum does not fit 16 bits
+[[nodiscard]] int darkened_grey(Integer darkness, int colour);
+
+}  // namespace zol

@@ -1,0 +1,116 @@
+#include "spots/fiber_texture_handlers.h"
+
+#include "core/number_text.h"
+#include "reflections/main1_form.h"
+#include "spots/pattern_disp.h"
+#include "spots/picture_prompts.h"
+
+namespace zol::fiber_texture {
+namespace {
+
+constexpr double zoom_factor = 1.4142;
+
+/// Enter is swallowed and the focus goes on.
+void enter_moves_to(TextBox& next, int& key) {
+  if (key != key_enter) return;
+  key = 0;
+  next.set_focus();
+}
+
+void set_half_width(Workbench& bench, FiberTextureForm& form, double half_width) {
+  bench.state.CamAcquisition = to_single(half_width);
+  // The width is rounded by going through the box.
+  form.Text1.set_text(Format(2.0 * bench.state.CamAcquisition, "##0.###"));
+  PatternDisp3(bench);
+}
+
+void rotate_by(Workbench& bench, double angle_rad) {
+  CrystalState& state = main1_state(bench);
+  state.PatternAngle = to_single(state.PatternAngle + angle_rad);
+  PatternDisp3(bench);
+}
+
+double pitch_rad(const FiberTextureForm& form) { return form.RotationPitch / 180.0 * program_pi; }
+
+Integer whole_number_in(const TextBox& box) { return Integer::rounded(Val(box.text())); }
+
+}  // namespace
+
+void Form_Load(Workbench& bench, FiberTextureForm& form) {
+  form.RotationPitch = 5;
+  if (bench.state.CamAcquisition != 0) return;
+  bench.state.CamAcquisition = 1;
+  form.Text1.set_text(plain_text(2.0 * bench.state.CamAcquisition));
+}
+
+void Text1_Change(Workbench& bench, FiberTextureForm& form) {
+  bench.state.CamAcquisition = to_single(Val(form.Text1.text()) / 2.0);
+}
+void Text2_Change(Workbench& bench, FiberTextureForm& form) {
+  main1_state(bench).Dispersion = to_single(Val(form.Text2.text()));
+}
+void Text3_Change(Workbench& bench, FiberTextureForm& form) {
+  main1_state(bench).OriginH = whole_number_in(form.Text3);
+}
+void Text4_Change(Workbench& bench, FiberTextureForm& form) {
+  main1_state(bench).OriginK = whole_number_in(form.Text4);
+}
+void Text5_Change(Workbench& bench, FiberTextureForm& form) {
+  main1_state(bench).OriginL = whole_number_in(form.Text5);
+}
+
+void Text3_KeyPress(Workbench& /*bench*/, FiberTextureForm& form, int& key) { enter_moves_to(form.Text4, key); }
+void Text4_KeyPress(Workbench& /*bench*/, FiberTextureForm& form, int& key) { enter_moves_to(form.Text5, key); }
+void Text5_KeyPress(Workbench& bench, FiberTextureForm& form, int& key) {
+  if (key != key_enter) return;
+  key = 0;
+  Command8_Click(bench, form);
+}
+
+void Command8_Click(Workbench& bench, FiberTextureForm& /*form*/) { PatternDisp3(bench); }
+
+void Command2_Click(Workbench& bench, FiberTextureForm& form) {
+  set_half_width(bench, form, bench.state.CamAcquisition / zoom_factor);
+}
+void Command3_Click(Workbench& bench, FiberTextureForm& form) {
+  set_half_width(bench, form, bench.state.CamAcquisition * zoom_factor);
+}
+
+// The angle runs the other way than in the spot pattern.
+void Command6_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, -pitch_rad(form)); }
+void Command9_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, -pitch_rad(form) * 5.0); }
+void Command11_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, -pitch_rad(form) / 5.0); }
+void Command7_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, pitch_rad(form)); }
+void Command10_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, pitch_rad(form) * 5.0); }
+void Command12_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, pitch_rad(form) / 5.0); }
+
+void Command5_Click(Workbench& bench, FiberTextureForm& form) {
+  form.CommonDialog1.printer_setup();
+  bench.services.print_window(form);
+}
+
+void Command1_Click(Workbench& /*bench*/, FiberTextureForm& form) { form.hide(); }
+
+// The ending is always added, so that a cancelled dialog writes ".bmp".
+void Isave_Click(Workbench& /*bench*/, FiberTextureForm& form) {
+  form.Picture1.save_stored_image(form.CommonDialog1.save() + ".bmp");
+}
+
+void Fsize_Click(Workbench& bench, FiberTextureForm& form) {
+  ask_font_size(bench, form.Picture1);
+  PatternDisp3(bench);
+}
+
+void Rpitch_Click(Workbench& bench, FiberTextureForm& form) { ask_rotation_pitch(bench, form.RotationPitch); }
+
+void Imagesize_Click(Workbench& bench, FiberTextureForm& form) {
+  if (ask_image_size(bench, form.Picture1)) PatternDisp3(bench);
+}
+
+// Draws the spot pattern anew, not this one: the size belongs to its spots.
+void Spotsize_Click(Workbench& bench, FiberTextureForm& /*form*/) {
+  ask_spot_size(bench);
+  PatternDisp(bench);
+}
+
+}  // namespace zol::fiber_texture

@@ -1,0 +1,119 @@
+#include "spots/pattern_handlers.h"
+
+#include "core/number_text.h"
+#include "reflections/main1_form.h"
+#include "spots/pattern_disp.h"
+#include "spots/picture_prompts.h"
+
+namespace zol::pattern {
+namespace {
+
+constexpr double zoom_factor = 1.4142;
+
+/// Enter is swallowed and the focus goes on.
+void enter_moves_to(TextBox& next, int& key) {
+  if (key != key_enter) return;
+  key = 0;
+  next.set_focus();
+}
+
+void set_half_width(Workbench& bench, PatternForm& form, double half_width) {
+  bench.state.CamAcquisition = to_single(half_width);
+  // The width is rounded by going through the box.
+  form.Text1.set_text(Format(2.0 * bench.state.CamAcquisition, "##0.###"));
+  PatternDisp(bench);
+}
+
+void step_level(Workbench& bench, PatternForm& form, double step) {
+  form.Text2.set_text(plain_text(Val(form.Text2.text()) + step));
+  PatternDisp(bench);
+}
+
+void rotate_by(Workbench& bench, double angle_rad) {
+  CrystalState& state = main1_state(bench);
+  state.PatternAngle = to_single(state.PatternAngle + angle_rad);
+  PatternDisp(bench);
+}
+
+double pitch_rad(const PatternForm& form) { return form.RotationPitch / 180.0 * program_pi; }
+
+void scale_greys(Workbench& bench, double factor) {
+  CrystalState& state = main1_state(bench);
+  state.DisplayScale = to_single(state.DisplayScale * factor);
+  PatternDisp(bench);
+}
+
+}  // namespace
+
+void Form_Load(Workbench& bench, PatternForm& form) {
+  form.Option2.set_on(true);
+  form.RotationPitch = 5;
+  if (bench.state.CamAcquisition != 0) return;
+  bench.state.CamAcquisition = 1;
+  form.Text1.set_text(plain_text(2.0 * bench.state.CamAcquisition));
+}
+
+void Text1_Change(Workbench& bench, PatternForm& form) {
+  bench.state.CamAcquisition = to_single(Val(form.Text1.text()) / 2.0);
+}
+void Text2_Change(Workbench& bench, PatternForm& form) {
+  main1_state(bench).Level = Integer::rounded(Val(form.Text2.text()));
+}
+void Text3_Change(Workbench& bench, PatternForm& form) { main1_state(bench).ZoneU = to_single(Val(form.Text3.text())); }
+void Text4_Change(Workbench& bench, PatternForm& form) { main1_state(bench).ZoneV = to_single(Val(form.Text4.text())); }
+void Text5_Change(Workbench& bench, PatternForm& form) { main1_state(bench).ZoneW = to_single(Val(form.Text5.text())); }
+
+void Text3_KeyPress(Workbench& /*bench*/, PatternForm& form, int& key) { enter_moves_to(form.Text4, key); }
+void Text4_KeyPress(Workbench& /*bench*/, PatternForm& form, int& key) { enter_moves_to(form.Text5, key); }
+void Text5_KeyPress(Workbench& bench, PatternForm& form, int& key) {
+  if (key != key_enter) return;
+  key = 0;
+  Command8_Click(bench, form);
+}
+
+void Command8_Click(Workbench& bench, PatternForm& /*form*/) { PatternDisp(bench); }
+
+void Command5_Click(Workbench& bench, PatternForm& form) { step_level(bench, form, 1.0); }
+void Command14_Click(Workbench& bench, PatternForm& form) { step_level(bench, form, -1.0); }
+
+void Command2_Click(Workbench& bench, PatternForm& form) {
+  set_half_width(bench, form, bench.state.CamAcquisition / zoom_factor);
+}
+void Command3_Click(Workbench& bench, PatternForm& form) {
+  set_half_width(bench, form, bench.state.CamAcquisition * zoom_factor);
+}
+
+void Command6_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, pitch_rad(form)); }
+void Command9_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, pitch_rad(form) * 5.0); }
+void Command11_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, pitch_rad(form) / 5.0); }
+void Command7_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, -pitch_rad(form)); }
+void Command10_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, -pitch_rad(form) * 5.0); }
+void Command12_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, -pitch_rad(form) / 5.0); }
+
+void Command4_Click(Workbench& bench, PatternForm& /*form*/) { scale_greys(bench, 0.5); }
+void Command13_Click(Workbench& bench, PatternForm& /*form*/) { scale_greys(bench, 2.0); }
+
+void Command1_Click(Workbench& /*bench*/, PatternForm& form) { form.hide(); }
+
+// The ending is always added, so that a cancelled dialog writes ".bmp".
+void ISAVE_Click(Workbench& /*bench*/, PatternForm& form) {
+  form.Picture1.save_stored_image(form.CommonDialog1.save() + ".bmp");
+}
+
+void Spotsize_Click(Workbench& bench, PatternForm& /*form*/) {
+  ask_spot_size(bench);
+  PatternDisp(bench);
+}
+
+void Rpitch_Click(Workbench& bench, PatternForm& form) { ask_rotation_pitch(bench, form.RotationPitch); }
+
+void Fsize_Click(Workbench& bench, PatternForm& form) {
+  ask_font_size(bench, form.Picture1);
+  PatternDisp(bench);
+}
+
+void Imagesize(Workbench& bench, PatternForm& form) {
+  if (ask_image_size(bench, form.Picture1)) PatternDisp(bench);
+}
+
+}  // namespace zol::pattern

@@ -1,0 +1,102 @@
+// Directions and plane normals of a crystal in Cartesian coordinates, exact pi and doubles, for comparison.
+#pragma once
+
+#include <array>
+#include <cmath>
+#include <numbers>
+
+#include "core/cell_geometry.h"
+#include "core/crystal_state.h"
+
+namespace zol {
+
+using Cartesian = std::array<double, 3>;
+
+inline double dot(const Cartesian& a, const Cartesian& b) { return a[0] * b[0] + a[1] * b[1] + a[2] * b[2]; }
+inline Cartesian cross(const Cartesian& a, const Cartesian& b) {
+  return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
+}
+inline Cartesian unit(const Cartesian& v) {
+  const double length = std::sqrt(dot(v, v));
+  return {v[0] / length, v[1] / length, v[2] / length};
+}
+inline double angle_deg(const Cartesian& a, const Cartesian& b) {
+  return std::acos(std::clamp(dot(unit(a), unit(b)), -1.0, 1.0)) * 180 / std::numbers::pi;
+}
+
+/// a along x, b in the xy plane.
+class CartesianCell {
+ public:
+  explicit CartesianCell(const Main1State& cell) {
+    const auto radians = [](double deg) { return deg * std::numbers::pi / 180; };
+    const double cos_a = std::cos(radians(cell.CellAlpha));
+    const double cos_b = std::cos(radians(cell.CellBeta));
+    const double cos_g = std::cos(radians(cell.CellGamma));
+    const double sin_g = std::sin(radians(cell.CellGamma));
+    a_ = {cell.CellA, 0, 0};
+    b_ = {cell.CellB * cos_g, cell.CellB * sin_g, 0};
+    const double c_y = (cos_a - cos_b * cos_g) / sin_g;
+    c_ = {cell.CellC * cos_b, cell.CellC * c_y, cell.CellC * std::sqrt(1 - cos_b * cos_b - c_y * c_y)};
+  }
+  [[nodiscard]] Cartesian direction(double u, double v, double w) const {
+    Cartesian sum{};
+    for (std::size_t i = 0; i < 3; ++i) sum[i] = u * a_[i] + v * b_[i] + w * c_[i];
+    return sum;
+  }
+  [[nodiscard]] Cartesian normal(double h, double k, double l) const {
+    const double volume = dot(a_, cross(b_, c_));
+    const auto bc = cross(b_, c_);
+    const auto ca = cross(c_, a_);
+    const auto ab = cross(a_, b_);
+    Cartesian sum{};
+    for (std::size_t i = 0; i < 3; ++i) sum[i] = (h * bc[i] + k * ca[i] + l * ab[i]) / volume;
+    return sum;
+  }
+
+ private:
+  Cartesian a_{}, b_{}, c_{};
+};
+
+/// A crystal with a cell, an axis at the pattern centre and the reference reflection (w, w, -u-v) of it.
+inline CrystalState oriented_crystal(const std::array<Single, 6>& cell, const std::array<int, 3>& axis) {
+  CrystalState state;
+  state.CellA = cell[0];
+  state.CellB = cell[1];
+  state.CellC = cell[2];
+  state.CellAlpha = cell[3];
+  state.CellBeta = cell[4];
+  state.CellGamma = cell[5];
+  calc_cell(state);
+  state.ZoneU = static_cast<Single>(axis[0]);
+  state.ZoneV = static_cast<Single>(axis[1]);
+  state.ZoneW = static_cast<Single>(axis[2]);
+  state.OriginH = state.OriginK = axis[2];
+  state.OriginL = -axis[0] - axis[1];
+  return state;
+}
+
+/// The frame of the pattern: X along the part of the reference normal to the axis, Y to its left, Z along the axis.
+struct PatternFrame {
+  explicit PatternFrame(const CrystalState& state) {
+    const CartesianCell cell(state);
+    z = unit(cell.direction(state.ZoneU, state.ZoneV, state.ZoneW));
+    const auto reference = cell.normal(state.OriginH.value(), state.OriginK.value(), state.OriginL.value());
+    y = unit(cross(z, reference));
+    x = cross(y, z);
+  }
+  /// Azimuth in degrees, -180 to 180.
+  [[nodiscard]] double azimuth(const Cartesian& v) const {
+    return std::atan2(dot(v, y), dot(v, x)) * 180 / std::numbers::pi;
+  }
+  Cartesian x{}, y{}, z{};
+};
+
+inline constexpr std::array<std::array<Single, 6>, 7> cells_of_all_systems{{{5.43F, 5.43F, 5.43F, 90, 90, 90},
+                                                                            {4.6F, 4.6F, 2.96F, 90, 90, 90},
+                                                                            {4.76F, 10.2F, 5.98F, 90, 90, 90},
+                                                                            {4.9F, 4.9F, 5.4F, 90, 90, 120},
+                                                                            {5.9F, 5.9F, 5.9F, 56, 56, 56},
+                                                                            {5.19F, 9.0F, 20.0F, 90, 95.7F, 90},
+                                                                            {7.1F, 7.85F, 5.57F, 90, 101.1F, 106}}};
+
+}  // namespace zol

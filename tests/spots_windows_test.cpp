@@ -1,0 +1,412 @@
+// The windows Pattern and FiberTexture on control objects.
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "reflections/main1_form.h"
+#include "shell/program.h"
+#include "spots/fiber_texture_form.h"
+#include "spots/pattern_form.h"
+#include "tests/fake_services.h"
+#include "tests/test_files.h"
+
+namespace zol {
+namespace {
+
+/// Remembers which pictures were saved.
+class SavingServices : public FakeServices {
+ public:
+  struct SavingSurface : FakeSurface {
+    SavingSurface(int width, int height, std::vector<std::string>& paths) : FakeSurface(width, height), saved(paths) {}
+    void save_bitmap(const std::string& path) const override { saved.push_back(path); }
+    std::vector<std::string>& saved;
+  };
+  std::unique_ptr<Surface> make_surface(int width, int height) override {
+    return std::make_unique<SavingSurface>(width, height, saved);
+  }
+  std::vector<std::string> saved;
+};
+
+struct FocusView : WindowView {
+  void window_created(Window& /*window*/) override {}
+  void window_shown(Window& /*window*/) override {}
+  void window_changed(Window& window) override { pointers.push_back(window.mouse_pointer()); }
+  void window_unloaded(Window& /*window*/) override {}
+  void control_changed(Control& /*control*/) override {}
+  void focus_wanted(Control& control) override { wanted.push_back(control.name()); }
+  std::vector<std::string> wanted;
+  std::vector<MousePointer> pointers;
+};
+
+class SpotsWindows : public testing::Test {
+ protected:
+  SpotsWindows() { program.start(); }
+
+  Main1Form& main1() { return program.windows().use<Main1Form>(); }
+  PatternForm& pattern() { return program.windows().use<PatternForm>(); }
+  FiberTextureForm& fiber() { return program.windows().use<FiberTextureForm>(); }
+
+  void load_rock_salt(const std::string& dmin = "1.0") {
+    main1().Text15.set_text(dmin);
+    services.answers.emplace_back(ZOL_SOURCE_DIR "/data/ZOLDATA/NaCl.cry");
+    main1().DATA_LOAD.click();
+  }
+  void open_pattern(const char* u, const char* v, const char* w) {
+    load_rock_salt();
+    main1().Command9.click();
+    pattern().Text3.set_text(u);
+    pattern().Text4.set_text(v);
+    pattern().Text5.set_text(w);
+  }
+  void open_fiber() {
+    load_rock_salt("1.5");
+    main1().Command12.click();
+    fiber().Text1.set_text("1.6");
+    fiber().Text3.set_text("1");
+  }
+  template <class Kind>
+  static std::vector<Kind> drawn(const Canvas& canvas) {
+    std::vector<Kind> found;
+    for (const auto& primitive : canvas.drawing()) {
+      if (const auto* kind = std::get_if<Kind>(&primitive.what)) found.push_back(*kind);
+    }
+    return found;
+  }
+
+  SavingServices services;
+  Program program{{ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services};
+  CrystalState& state = program.state();
+  ScratchFolder folder;
+};
+
+TEST_F(SpotsWindows, SingleCrystalOpensForAtomsOnlyButSetsTheWidthInAnyCase) {
+  main1().Text15.set_text("0.8");
+  state.DisplayScale = 7;
+  main1().Command9.click();
+  EXPECT_FALSE(pattern().visible());
+  EXPECT_EQ(pattern().Text1.text(), " 1.25");
+  EXPECT_EQ(state.CamAcquisition, 0.625F);
+  EXPECT_EQ(state.DisplayScale, 0);
+  EXPECT_TRUE(pattern().Option2.on());
+  EXPECT_EQ(pattern().RotationPitch, 5);
+
+  load_rock_salt();
+  state.NAtom = 0;  // as with observed reflections only
+  main1().Command9.click();
+  EXPECT_FALSE(pattern().visible());
+  state.NAtom = 2;
+  main1().Command9.click();
+  EXPECT_TRUE(pattern().visible());
+  EXPECT_EQ(pattern().caption(), "NaCl.cry");
+  EXPECT_TRUE(pattern().Picture1.drawing().empty()) << "nothing is drawn before the user asks";
+}
+
+TEST_F(SpotsWindows, FiberPatternOpensOnAList) {
+  main1().Command12.click();
+  EXPECT_EQ(program.windows().find("FiberTexture"), nullptr);
+  load_rock_salt();
+  main1().Command12.click();
+  EXPECT_TRUE(fiber().visible());
+  fiber().Command1.click();
+  EXPECT_FALSE(fiber().visible());
+}
+
+TEST_F(SpotsWindows, LoadRepairsAZeroWidth) {
+  state.CamAcquisition = 0;
+  EXPECT_EQ(pattern().Text1.text(), "2");
+  EXPECT_EQ(state.CamAcquisition, 1);
+  EXPECT_EQ(fiber().Text1.text(), "") << "the width is there already";
+  EXPECT_EQ(program.windows().find("Main1"), nullptr) << "no field of it was touched";
+}
+
+TEST_F(SpotsWindows, DrawingRepairsZeroValuesInItsOwnWay) {
+  open_pattern("0", "0", "1");
+  state.CamAcquisition = 0;
+  pattern().Text2.set_text("0.3");
+  pattern().Command8.click();
+  EXPECT_EQ(pattern().Text2.text(), "0");
+  EXPECT_EQ(pattern().Text1.text(), "1");
+  EXPECT_EQ(state.CamAcquisition, 0.5F) << "the box halves it";
+  EXPECT_EQ(state.SpotScale, 0.015F);
+  EXPECT_EQ(pattern().Picture1.user_scale(), (UserScale{-0.5, 0.5, 0.5, -0.5}));
+
+  state.SpotScale = 0;
+  state.CamAcquisition = 0;
+  fiber().Text3.set_text("1");
+  fiber().Command8.click();
+  EXPECT_EQ(fiber().Text1.text(), "2");
+  EXPECT_EQ(state.CamAcquisition, 1);
+  EXPECT_EQ(state.SpotScale, 0.01F);
+  EXPECT_EQ(fiber().Text2.text(), ".5");
+  EXPECT_EQ(state.Dispersion, 0.5F);
+}
+
+TEST_F(SpotsWindows, EnterMovesOnAndDraws) {
+  open_pattern("0", "0", "1");
+  fiber().Text3.set_text("1");
+  FocusView view;
+  for (Window* window : {static_cast<Window*>(&pattern()), static_cast<Window*>(&fiber())}) window->set_view(&view);
+  for (TextBox* box : {&pattern().Text3, &pattern().Text4, &fiber().Text3, &fiber().Text4}) box->type('\r');
+  EXPECT_EQ(view.wanted, (std::vector<std::string>{"Text4", "Text5", "Text4", "Text5"}));
+  EXPECT_TRUE(pattern().Picture1.drawing().empty());
+  pattern().Text5.type('\r');
+  EXPECT_FALSE(pattern().Picture1.drawing().empty());
+  EXPECT_EQ(pattern().Text5.text(), "1");
+  fiber().Text5.type('\r');
+  EXPECT_FALSE(fiber().Picture1.drawing().empty());
+  EXPECT_EQ(view.pointers, (std::vector{MousePointer::Hourglass, MousePointer::Default, MousePointer::Hourglass,
+                                        MousePointer::Default}));
+  for (Window* window : {static_cast<Window*>(&pattern()), static_cast<Window*>(&fiber())}) window->set_view(nullptr);
+}
+
+TEST_F(SpotsWindows, DirectBeamStandsOnTheZeroLevelAlone) {
+  open_pattern("0", "0", "1");
+  pattern().Check3.click();
+  pattern().Command8.click();
+  auto discs = drawn<DrawnCircle>(pattern().Picture1);
+  EXPECT_EQ(discs.front().x, 0);
+  EXPECT_FLOAT_EQ(to_single(discs.front().radius), 0.0075F);
+  EXPECT_FLOAT_EQ(to_single(discs[1].radius), 0.00375F) << "half of it";
+  EXPECT_EQ(drawn<DrawnText>(pattern().Picture1).front().text, "0 0 0");
+
+  pattern().Command5.click();
+  EXPECT_EQ(pattern().Text2.text(), "1");
+  EXPECT_EQ(state.Level, 1);
+  discs = drawn<DrawnCircle>(pattern().Picture1);
+  ASSERT_EQ(discs.size(), 24U);
+  for (const auto& disc : discs) EXPECT_GT(std::hypot(disc.x, disc.y), 0.1);
+  for (const auto& text : drawn<DrawnText>(pattern().Picture1)) {
+    EXPECT_EQ(text.text.substr(text.text.size() - 3), " 1 ") << "the first level";
+  }
+  pattern().Command14.click();
+  pattern().Command14.click();
+  EXPECT_EQ(pattern().Text2.text(), "-1");
+  EXPECT_EQ(drawn<DrawnText>(pattern().Picture1).front().text, "-5 -1 -1 ");
+}
+
+TEST_F(SpotsWindows, ZoomRoundsThroughItsBox) {
+  open_pattern("0", "0", "1");
+  pattern().Command2.click();
+  EXPECT_EQ(pattern().Text1.text(), "0.707");
+  EXPECT_EQ(state.CamAcquisition, 0.3535F);
+  pattern().Command3.click();
+  EXPECT_EQ(pattern().Text1.text(), "1.");
+  EXPECT_EQ(state.CamAcquisition, 0.5F);
+  pattern().Text1.set_text("0.0006");  // below half a unit of the third decimal after the zoom
+  pattern().Command2.click();
+  EXPECT_EQ(pattern().Text1.text(), "1") << "a width of 0 is repaired";
+  EXPECT_EQ(state.CamAcquisition, 0.5F);
+
+  open_fiber();
+  fiber().Command2.click();
+  EXPECT_EQ(fiber().Text1.text(), "1.131");
+  EXPECT_EQ(state.CamAcquisition, 0.5655F);
+  fiber().Command3.click();
+  EXPECT_EQ(fiber().Text1.text(), "1.599");
+}
+
+TEST_F(SpotsWindows, ButtonsTurnThePattern) {
+  open_pattern("0", "0", "1");
+  fiber().Text3.set_text("1");
+  struct Row {
+    CommandButton& button;
+    double pitches;
+  };
+  // The same captions turn the angle the other way in the two windows.
+  for (const auto& [button, pitches] :
+       {Row{pattern().Command6, 1}, Row{pattern().Command9, 5}, Row{pattern().Command11, 0.2},
+        Row{pattern().Command7, -1}, Row{pattern().Command10, -5}, Row{pattern().Command12, -0.2},
+        Row{fiber().Command6, -1}, Row{fiber().Command9, -5}, Row{fiber().Command11, -0.2}, Row{fiber().Command7, 1},
+        Row{fiber().Command10, 5}, Row{fiber().Command12, 0.2}}) {
+    state.PatternAngle = 1;
+    button.click();
+    EXPECT_NEAR(state.PatternAngle, 1 + pitches * 5 * 3.14159 / 180, 1e-6) << button.path();
+  }
+}
+
+TEST_F(SpotsWindows, GreyScaleOutlivesTheAxis) {
+  open_pattern("0", "0", "1");
+  pattern().Command8.click();
+  const Single first = state.DisplayScale;
+  const auto darkest = [this] {
+    Colour colour = RGB(255, 255, 255);
+    const auto discs = drawn<DrawnCircle>(pattern().Picture1);
+    for (std::size_t i = 1; i < discs.size(); ++i) colour = std::min(colour, discs[i].colour);
+    return colour;
+  };
+  EXPECT_EQ(darkest(), RGB(0, 0, 0));
+  pattern().Command13.click();  // "DWN"
+  EXPECT_EQ(state.DisplayScale, 2 * first);
+  EXPECT_EQ(darkest(), RGB(75, 75, 75));  // 255 - Int(255 / sqrt 2)
+  pattern().Option1.click();
+  pattern().Command8.click();
+  EXPECT_EQ(darkest(), RGB(128, 128, 128));  // 255 - Int(255 / 2)
+  const auto of_option = pattern().Picture1.drawing().size();
+  pattern().Text6.set_text("1");
+  pattern().Option2.click();
+  pattern().Command8.click();
+  EXPECT_EQ(darkest(), RGB(128, 128, 128)) << "the exponent goes before the options";
+  EXPECT_EQ(pattern().Picture1.drawing().size(), of_option);
+  pattern().Command4.click();  // "UP"
+  EXPECT_EQ(state.DisplayScale, first);
+  pattern().Text5.set_text("0");
+  pattern().Text3.set_text("1");
+  pattern().Command8.click();
+  EXPECT_EQ(state.DisplayScale, first) << "a new axis keeps it";
+  main1().Command9.click();
+  EXPECT_EQ(state.DisplayScale, 0);
+}
+
+TEST_F(SpotsWindows, PromptsShowThePresentValue) {
+  open_pattern("0", "0", "1");
+  pattern().Command8.click();
+  services.answers = {"2.5", "7.5", "", "10", "", "6000", ""};
+  pattern().Spotsize.click();
+  EXPECT_EQ(state.SpotScale, 0.025F);
+  pattern().Rpitch.click();
+  EXPECT_EQ(pattern().RotationPitch, 7.5F);
+  pattern().Rpitch.click();
+  EXPECT_EQ(pattern().RotationPitch, 7.5F) << "cancelled";
+  pattern().Fsize.click();
+  EXPECT_EQ(pattern().Picture1.font_size(), 10);
+  pattern().Spotsize.click();
+  EXPECT_EQ(state.SpotScale, 0.015F) << "an empty answer is 0, which the drawing repairs";
+  (*pattern().operation("Imagesize"))();
+  EXPECT_EQ(pattern().Picture1.width(), 6000);
+  EXPECT_EQ(pattern().Picture1.height(), 6000);
+  (*pattern().operation("Imagesize"))();
+  EXPECT_EQ(pattern().Picture1.width(), 6000);
+  EXPECT_EQ(services.prompts,
+            (std::vector<std::string>{
+                "[1.5] Input Diffraction spot size (% of the picture width)|Diffraction spot size",
+                "[5] Input Rotation Angle Minimum (deg.)|Rotation Angle Pitch",
+                "[7.5] Input Rotation Angle Minimum (deg.)|Rotation Angle Pitch", "[8.25] input fontsize|Font Size",
+                "[2.5] Input Diffraction spot size (% of the picture width)|Diffraction spot size",
+                "[8500] Input size of image|Image size", "[6000] Input size of image|Image size"}));
+}
+
+TEST_F(SpotsWindows, FontSizeMustBeANumber) {
+  open_pattern("0", "0", "1");
+  fiber().Text3.set_text("1");
+  struct Row {
+    const char* answer;
+    const char* message;
+  };
+  for (const auto& [answer, message] :
+       {Row{"", "the font size is \"\", must be a number of points"},
+        Row{"8 pt", "the font size is \"8 pt\", must be a number of points"},
+        Row{"0", "the font size is 0 points, must be above 0 and at most 2160"},
+        Row{"3000", "the font size is 3000 points, must be above 0 and at most 2160"}}) {
+    for (const MenuItem* item : {&pattern().Fsize, &fiber().Fsize}) {
+      services.answers = {answer};
+      EXPECT_EQ(failure_of([item] { item->click(); }), message + (", while " + item->path() + " was clicked"));
+    }
+  }
+}
+
+TEST_F(SpotsWindows, SavedPictureAlwaysGetsTheEnding) {
+  services.answers = {"/tmp/spots", "", "/tmp/fiber.bmp"};
+  pattern().ISAVE.click();
+  pattern().ISAVE.click();
+  fiber().Isave.click();
+  EXPECT_EQ(services.saved, (std::vector<std::string>{"/tmp/spots.bmp", ".bmp", "/tmp/fiber.bmp.bmp"}));
+  EXPECT_TRUE(services.questions.front().save);
+}
+
+TEST_F(SpotsWindows, CrystalWithoutScatteringFailsAtItsFirstSpot) {
+  open_pattern("0", "0", "1");
+  state.NCell = 0;
+  EXPECT_EQ(
+      failure_of([this] { pattern().Command8.click(); }),
+      "division by zero: the intensity that maps to black (DisplayScale) is 0, while Pattern.Command8 was clicked");
+  EXPECT_EQ(pattern().mouse_pointer(), MousePointer::Default);
+}
+
+TEST_F(SpotsWindows, FiberTextureSortsTheListForEveryone) {
+  open_fiber();
+  const Integer first = state.RefH(1);
+  fiber().Command8.click();
+  EXPECT_EQ(state.RefH(1), first) << "entry 1 stays out";
+  for (int i = 3; i <= state.RefCount.value(); ++i) EXPECT_GE(state.RefI(i), state.RefI(i - 1));
+  const int last = state.RefCount.value();
+  EXPECT_EQ(state.RefH(last).value() * state.RefH(last).value() + state.RefK(last).value() * state.RefK(last).value() +
+                state.RefL(last).value() * state.RefL(last).value(),
+            4)
+      << "{200} is the strongest";
+}
+
+TEST_F(SpotsWindows, FiberTextureAddsUpWhereArcsCross) {
+  open_fiber();
+  fiber().Text4.set_text("1");
+  fiber().Text5.set_text("1");
+  fiber().Check3.click();
+  fiber().Command8.click();
+  const Canvas& picture = fiber().Picture1;
+  EXPECT_EQ(drawn<DrawnCircle>(picture).size(), 1U);
+  const auto texts = drawn<DrawnText>(picture);
+  EXPECT_EQ(texts.front().text, "0 0 0");
+  EXPECT_GT(texts.size(), 20U);
+  // The four arcs of (111) begin on the pixel at the top, where the fiber axis meets its ring.
+  std::vector<Colour> top;
+  for (const auto& point : drawn<DrawnPoint>(picture)) {
+    if (std::abs(point.x) < 1e-3 && std::abs(point.y - std::sqrt(3) / 5.6402) < 1e-4) top.push_back(point.colour & 255);
+  }
+  ASSERT_EQ(top.size(), 4U);
+  const Colour step = 255 - top.front();
+  EXPECT_GT(step, 10);
+  for (int n = 0; n < 4; ++n) EXPECT_EQ(top[static_cast<std::size_t>(n)], 255 - (n + 1) * step);
+}
+
+TEST_F(SpotsWindows, FiberTextureTakesWholeDirections) {
+  (void)main1();
+  fiber().Text3.set_text("2.5");
+  fiber().Text4.set_text("-1.5");
+  fiber().Text5.set_text("3.6");
+  EXPECT_EQ(state.OriginH, 2) << "halves go to the even number";
+  EXPECT_EQ(state.OriginK, -2);
+  EXPECT_EQ(state.OriginL, 4);
+  EXPECT_EQ(failure_of([this] { fiber().Text3.set_text("33000"); }),
+            "overflow: 33000 does not fit an Integer (-32768 to 32767), while FiberTexture.Text3 changed");
+}
+
+TEST_F(SpotsWindows, FiberTextureFailsWithoutADirection) {
+  load_rock_salt();
+  fiber().Text1.set_text("1");
+  EXPECT_EQ(failure_of([this] { fiber().Command8.click(); }),
+            "division by zero: the length of the fiber direction is 0, while FiberTexture.Command8 was clicked");
+}
+
+TEST_F(SpotsWindows, FiberTextureMenus) {
+  open_fiber();
+  pattern().Text5.set_text("1");
+  services.answers = {"4500", "", "12", "3", "1.2"};
+  fiber().Imagesize.click();
+  EXPECT_EQ(fiber().Picture1.width(), 4500);
+  EXPECT_FALSE(fiber().Picture1.drawing().empty());
+  fiber().Picture1.clear();
+  fiber().Imagesize.click();
+  EXPECT_TRUE(fiber().Picture1.drawing().empty()) << "cancelled";
+  fiber().Fsize.click();
+  EXPECT_EQ(fiber().Picture1.font_size(), 12);
+  fiber().Rpitch.click();
+  EXPECT_EQ(fiber().RotationPitch, 3);
+  fiber().Picture1.clear();
+  fiber().Spotsize.click();
+  EXPECT_EQ(state.SpotScale, 0.012F);
+  EXPECT_TRUE(fiber().Picture1.drawing().empty()) << "the spot pattern is drawn instead";
+  EXPECT_FALSE(pattern().Picture1.drawing().empty());
+  fiber().Command5.click();
+  EXPECT_EQ(services.printed, std::vector<std::string>{"window NaCl.cry"});
+}
+
+TEST_F(SpotsWindows, OperationsStandOnMain1) {
+  open_pattern("1", "1", "1");
+  (*main1().operation("PatternDisp"))();
+  EXPECT_FALSE(pattern().Picture1.drawing().empty());
+  fiber().Text3.set_text("1");
+  (*main1().operation("PatternDisp3"))();
+  EXPECT_FALSE(fiber().Picture1.drawing().empty());
+}
+
+}  // namespace
+}  // namespace zol
