@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/cell_geometry.h"
+#include "core/exchange_sort.h"
 #include "core/number_text.h"
 #include "reflections/structure_factor.h"
 
@@ -145,21 +146,12 @@ void enumerate_reflections(CrystalState& state, const EnumerationSettings& setti
 }
 
 void sort_by_s(CrystalState& state) {
-  const int count = state.RefCount.value();
-  int smallest = 0;  // stays from round to round; a value of 1000 or more is never taken
-  for (int place = 1; place <= count - 1; ++place) {
-    Single best = 1000;
-    for (int i = place; i <= count; ++i) {
-      if (state.RefS(i) < best) {
-        best = state.RefS(i);
-        smallest = i;
-      }
-    }
-    std::swap(state.RefS(place), state.RefS(smallest));
-    std::swap(state.RefH(place), state.RefH(smallest));
-    std::swap(state.RefK(place), state.RefK(smallest));
-    std::swap(state.RefL(place), state.RefL(smallest));
-  }
+  constexpr double never_taken = 1000;  // a key from here on is passed over
+  std::vector<double> keys;
+  for (int i = 0; i <= state.RefCount.value(); ++i) keys.push_back(state.RefS(i));
+  const auto order = exchange_order(keys, 1, first_smallest_below(never_taken));
+  reorder(state.RefS, order);
+  for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) reorder(*array, order);
 }
 
 std::vector<std::string> compute_list(CrystalState& state, const Radiation& radiation) {
