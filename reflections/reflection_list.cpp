@@ -156,11 +156,12 @@ void sort_by_s(CrystalState& state) {
 
 std::vector<std::string> compute_list(CrystalState& state, const Radiation& radiation) {
   const ObservedReflections observed(state);
+  ScatteringCell atoms(state, radiation);
   std::vector<std::string> lines;
   for (int i = 1; i <= state.RefCount.value(); ++i) {
     const auto theta = set_angle(state, i);
     std::string line = geometry_columns(state, i, theta.has_value());
-    ReflectionIntensity(state, i, theta.value_or(0.0F), radiation, observed, line);
+    ReflectionIntensity(state, i, theta.value_or(0.0F), radiation, observed, atoms, line);
     if (state.RefI(i) > 0 || state.NAtom >= 1) lines.push_back(std::move(line));
   }
   return lines;
