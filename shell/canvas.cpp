@@ -164,6 +164,27 @@ void Canvas::remove_picture() {
   show_picture();
 }
 
+void Canvas::flip_picture() {
+  if (!picture_) return;
+  picture_->mirror(false, true);
+  show_picture();
+}
+
+void Canvas::mirror_picture() {
+  if (!picture_) return;
+  picture_->mirror(true, false);
+  show_picture();
+}
+
+void Canvas::edit_picture(const std::function<void(Surface&)>& edit) {
+  const Surface& source = stored_image();
+  auto picture = services_.make_surface(source.width(), source.height());
+  picture->draw(source, false);
+  edit(*picture);
+  picture_ = std::move(picture);
+  show_picture();
+}
+
 void Canvas::save_stored_image(const std::string& path) { stored_image().save_bitmap(path); }
 
 void Canvas::save_image_with_overlay(const std::string& path) {

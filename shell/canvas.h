@@ -5,6 +5,7 @@
 // image is made when it is first looked at and then kept up to date; until then only the list grows.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -37,6 +38,8 @@ class Surface {
   virtual void text(double x, double y, const std::string& text, Colour colour, double font_size_pt) = 0;
   /// Draws another image over this one, scaled to fill it, each direction by itself.
   virtual void draw(const Surface& other, bool upside_down) = 0;
+  /// Turns the image over, left to right or upside down.
+  virtual void mirror(bool left_to_right, bool upside_down) = 0;
   /// Takes an image from a bitmap file, with its size. @throws RunFailure  it can't be read
   virtual void load_bitmap(const std::string& path) = 0;
   /// @throws RunFailure  it can't be written
@@ -120,6 +123,10 @@ class Canvas : public Control {
   void load_picture(const std::string& path);
   void take_picture(Canvas& other, bool upside_down);  ///< the stored image of another canvas
   void remove_picture();
+  void flip_picture();    ///< upside down; without a picture nothing happens
+  void mirror_picture();  ///< left to right
+  /// The stored image, changed pixel by pixel, becomes the picture.
+  void edit_picture(const std::function<void(Surface&)>& edit);
   [[nodiscard]] bool has_picture() const { return picture_ != nullptr; }
 
   /// Writes the stored image, or the image with its overlay, as a bitmap.

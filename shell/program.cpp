@@ -147,8 +147,57 @@ void wire(Workbench& bench, InputJcpdsForm& form) {
 void wire(Workbench& bench, Pattern3Form& form) {
   using namespace pattern3;
   const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
   form.Text2.on_lost_focus = on(Text2_LostFocus);
+  form.Text3.on_change = on(Text3_Change);
+  form.Text4.on_change = on(Text4_Change);
+  form.Text5.on_lost_focus = on(Text5_LostFocus);
+  form.Text6.on_change = on(Text6_Change);
+  form.Text7.on_change = on(Text7_Change);
+  form.Text8.on_change = on(Text8_Change);
+  form.Text9.on_change = on(Text9_Change);
+  form.Text10.on_change = on(Text10_Change);
+  form.Text11.on_change = on(Text11_Change);
+  form.Text12.on_key_press = on(Text12_KeyPress);
+  form.Text13.on_key_press = on(Text13_KeyPress);
+  form.Text14.on_change = on(Text14_Change);
+  form.Text15.on_change = on(Text15_Change);
+  form.Text16.on_key_press = on(Text16_KeyPress);
+  form.Command1.on_click = on(Command1_Click);
+  form.Command2.on_click = on(Command2_Click);
+  form.Command3.on_click = on(Command3_Click);
+  form.Command4.on_click = on(Command4_Click);
+  form.Command5.on_click = on(Command5_Click);
+  form.Command6.on_click = on(Command6_Click);
+  form.Command7.on_click = on(Command7_Click);
+  form.Command8.on_click = on(Command8_Click);
+  form.Command9.on_click = on(Command9_Click);
+  for (int i = 0; i < form.Command10.count(); ++i) {
+    form.Command10(i).on_click = [&form, i] { Command10_Click(form, i); };
+  }
+  form.Command11.on_click = on(Command11_Click);
+  form.Command12.on_click = on(Command12_Click);
+  form.Command13.on_click = on(Command13_Click);
+  form.Command14.on_click = on(Command14_Click);
+  form.Command15.on_click = on(Command15_Click);
+  form.Check2.on_click = on(Check2_Click);
+  form.List1.on_click = on(List1_Click);
+  form.Picture1.on_mouse_down = on(Picture1_MouseDown);
+  form.Picture1.on_mouse_move = on(Picture1_MouseMove);
+  form.Picture1.on_mouse_up = on(Picture1_MouseUp);
+  form.ImageLoad.on_click = on(ImageLoad_Click);
+  form.ImageSAve.on_click = on(ImageSAve_Click);
+  form.Imageclear.on_click = on(Imageclear_Click);
+  form.ImageFlip.on_click = on(ImageFlip_Click);
+  form.ImageMirror.on_click = on(ImageMirror_Click);
+  form.Imatch.on_click = on(Imatch_Click);
+  form.CorrectFile.on_click = on(CorrectFile_Click);
+  form.CPS_Si001.on_click = on(CPS_Si001_Click);
+  form.CP_Setting_Show.on_click = on(CP_Setting_Show_Click);
+  form.CenterPosition.on_click = on(CenterPosition_Click);
   form.add_operation("Hkl3make", on(Hkl3make));
+  form.add_operation("MatchAngle", on(MatchAngle));
+  form.add_operation("EquivSet", on(EquivSet));
 }
 
 void wire(Workbench& bench, Pattern2Form& form) {

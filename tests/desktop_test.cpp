@@ -97,6 +97,7 @@ INSTANTIATE_TEST_SUITE_P(Windows, CompleteWindow, testing::Values(
     "Pattern",
     "FiberTexture",
     "CameraParameters",
+    "PATTERN3",
     "Pattern2",
     "Zaxis"
 ));

@@ -49,6 +49,13 @@ class FakeSurface : public Surface {
       }
     }
   }
+  void mirror(bool left_to_right, bool upside_down) override {
+    auto old = std::exchange(pixels_, {});
+    for (const auto& [place, colour] : old) {
+      const auto [x, y] = place;
+      set_pixel(left_to_right ? width_ - 1 - x : x, upside_down ? height_ - 1 - y : y, colour);
+    }
+  }
   void load_bitmap(const std::string& path) override {
     if (path != "four.bmp") throw RunFailure("can't read " + path);
     width_ = height_ = 2;

@@ -54,8 +54,10 @@ struct Binder::Tie : QObject {
   /// What is shown at once, in the middle of a handler.
   [[nodiscard]] virtual bool at_once() const { return false; }
   void show_visibility() const {
-    if (widget != nullptr && widget->isVisibleTo(widget->parentWidget()) != control.visible()) {
-      widget->setVisible(control.visible());
+    if (widget == nullptr || widget->isVisibleTo(widget->parentWidget()) == control.visible()) return;
+    widget->setVisible(control.visible());
+    for (auto* label : binder.widget().findChildren<QLabel*>()) {
+      if (label->buddy() == widget) label->setVisible(control.visible());  // the text beside a box goes with it
     }
   }
 

@@ -84,6 +84,8 @@ void QtSurface::draw(const Surface& other, bool upside_down) {
   painter.drawImage(image_.rect(), upside_down ? source.mirrored(false, true) : source);
 }
 
+void QtSurface::mirror(bool left_to_right, bool upside_down) { image_ = image_.mirrored(left_to_right, upside_down); }
+
 void QtSurface::load_bitmap(const std::string& path) {
   const QString name = QFile::decodeName(QByteArray::fromStdString(path));
   QImageReader reader(name);

@@ -21,6 +21,7 @@ class QtSurface : public Surface {
   [[nodiscard]] std::optional<Colour> pixel(int x, int y) const override;
   void text(double x, double y, const std::string& text, Colour colour, double font_size_pt) override;
   void draw(const Surface& other, bool upside_down) override;
+  void mirror(bool left_to_right, bool upside_down) override;
   void load_bitmap(const std::string& path) override;
   void save_bitmap(const std::string& path) const override;
 

@@ -1,0 +1,261 @@
+#include "analysis/band_matching.h"
+
+#include <cmath>
+
+#include "analysis/zone_azimuth.h"
+#include "core/cell_geometry.h"
+#include "core/number_text.h"
+
+namespace zol {
+namespace {
+
+constexpr double full_turn_deg = 360.0;
+constexpr double largest_component = 1000.0;
+
+/// Rows between two reports of progress.
+constexpr int report_step = 4096;
+
+enum class Verdict { Rejected, Omitted, Listed };
+
+class Matcher {
+ public:
+  Matcher(const CrystalState& state, const TripleTable& table, const MeasuredBands& bands,
+          const MatchSettings& settings, SolutionTable& solutions)
+      : state_(state), table_(table), bands_(bands), settings_(settings), solutions_(solutions) {}
+
+  [[nodiscard]] bool is_candidate(int row) const { return angles_fit(row) && widths_fit(row); }
+
+  /// @returns true when this was the solution to stop at
+  bool solve(int row) {
+    const auto planes = row_planes(table_, row);
+    TwoDirections roots;
+    const Direction inverted = invert(planes);
+    if (solutions_.MatchStatus == match_status::singular) {
+      solutions_.MatchStatus = SolveTwoPlanes(state_, planes, band_cosines(), roots);
+    }
+    if (solutions_.MatchStatus < match_status::one_root) {
+      const Verdict verdict = check(row, planes, inverted, SolvedBy::Inversion);
+      return verdict != Verdict::Rejected && solutions_.SolutionCount == 1 && settings_.stop_at_first_solution;
+    }
+    check(row, planes, roots.A1, SolvedBy::FirstRoot);
+    if (solutions_.MatchStatus >= match_status::two_roots) check(row, planes, roots.A2, SolvedBy::SecondRoot);
+    return false;
+  }
+
+  [[nodiscard]] std::vector<Solution> take_found() { return std::move(found_); }
+
+ private:
+  [[nodiscard]] bool angles_fit(int row) const {
+    for (int c = 0; c < 3; ++c) {
+      const double error = double{table_.TripleAngle(row, c)} - double{bands_.BandAngle(c)};
+      if (!(std::abs(error) < settings_.angle_tolerance)) return false;
+    }
+    return true;
+  }
+
+  [[nodiscard]] double width_ratio(int row, int c) const {
+    return divide(bands_.BandS(c), table_.TripleS(row, c), "RefS of a reflection of the triple table");
+  }
+
+  /// A row without spacings fails the run even where widths do not count.
+  [[nodiscard]] bool widths_fit(int row) const {
+    bool fit = true;
+    for (int c = 0; c < 3; ++c) {
+      const Single error_percent = to_single(std::abs(1.0 - width_ratio(row, c)) * 100.0);
+      if (!settings_.width_tolerance_percent) continue;
+      fit = fit && error_percent < *settings_.width_tolerance_percent;
+    }
+    return fit;
+  }
+
+  [[nodiscard]] std::array<Single, 3> band_cosines() const {
+    std::array<Single, 3> cosines{};
+    for (int c = 0; c < 3; ++c) {
+      cosines[static_cast<std::size_t>(c)] = to_single(std::cos(double{bands_.BandTheta(c)}));
+    }
+    return cosines;
+  }
+
+  /// The direction whose components along the three normals are those of the bands; of a singular matrix whatever the
+  /// half worked inverse gives.
+  Direction invert(const std::array<PlaneIndices, 3>& planes) {
+    BoundedTable<Single> matrix("M", 3, 3);
+    std::array<double, 3> along{};
+    for (int i = 1; i <= 3; ++i) {
+      const auto& [h, k, l] = planes[static_cast<std::size_t>(i - 1)];
+      matrix(i, 1) = to_single(h.value());
+      matrix(i, 2) = to_single(k.value());
+      matrix(i, 3) = to_single(l.value());
+      along[static_cast<std::size_t>(i - 1)] =
+          to_single(std::cos(double{bands_.BandTheta(i - 1)}) * double{DHKL(state_, h, k, l)});
+    }
+    solutions_.MatchStatus = InvertMatrix(3, matrix);
+    Direction direction{};
+    for (int i = 1; i <= 3; ++i) {
+      direction[static_cast<std::size_t>(i - 1)] =
+          to_single(matrix(i, 1) * along[0] + matrix(i, 2) * along[1] + matrix(i, 3) * along[2]);
+    }
+    return direction;
+  }
+
+  Verdict check(int row, const std::array<PlaneIndices, 3>& planes, const Direction& solved, SolvedBy solved_by) {
+    const Direction direction = in_whole_numbers(solved);
+    if (!sense_of_rotation_fits(planes, direction)) return Verdict::Rejected;
+    if (settings_.omit_equivalents && has_equivalent(row)) return Verdict::Omitted;
+    record(row, direction, solved_by);
+    return Verdict::Listed;
+  }
+
+  [[nodiscard]] static Direction in_whole_numbers(const Direction& solved) {
+    double largest = 0;
+    for (const Single component : solved) {
+      if (std::abs(component) > largest) largest = std::abs(component);
+    }
+    Direction direction{};
+    for (std::size_t i = 0; i < 3; ++i) {
+      const double part = divide(solved[i], largest, "the largest component of a direction");
+      direction[i] = to_single(std::floor(part * largest_component));
+    }
+    return direction;
+  }
+
+  [[nodiscard]] bool sense_of_rotation_fits(const std::array<PlaneIndices, 3>& planes,
+                                            const Direction& direction) const {
+    std::array<Single, 3> azimuth{};
+    for (std::size_t i = 0; i < 3; ++i) azimuth[i] = zone_azimuth(state_, planes[i], direction);
+    const auto forward = [](Single turn_deg) { return turn_deg < 0 ? to_single(turn_deg + full_turn_deg) : turn_deg; };
+    bool fits = true;
+    for (int i = 0; i < 2; ++i) {
+      const auto place = static_cast<std::size_t>(i);
+      const Single measured = forward(to_single((double{bands_.BandPhi(i + 1)} - double{bands_.BandPhi(i)}) / degree));
+      const Single calculated = forward(to_single(double{azimuth[place + 1]} - double{azimuth[place]}));
+      fits = fits && std::abs(double{measured} - double{calculated}) < 2.0 * double{settings_.angle_tolerance};
+    }
+    return fits || settings_.only_triangle;
+  }
+
+  /// The indices do not count, nor does the direction.
+  [[nodiscard]] bool has_equivalent(int row) const {
+    for (int n = 1; n <= solutions_.SolutionCount.value(); ++n) {
+      if (is_equivalent(row, solutions_.SolutionTriple(n).value())) return true;
+    }
+    return false;
+  }
+
+  [[nodiscard]] bool is_equivalent(int row, int former) const {
+    const auto off = [row, former](const BoundedTable<Single>& values, int c) {
+      constexpr double tolerance = 0.001;
+      const double ratio = divide(values(row, c), values(former, c), values.name() + " of a former solution");
+      return !(std::abs(1.0 - ratio) <= tolerance);
+    };
+    int differences = 0;
+    for (int c = 0; c < 3; ++c) differences += off(table_.TripleS, c) ? 1 : 0;
+    for (int c = 0; c < 3; ++c) differences += off(table_.TripleI, c) ? 1 : 0;
+    return differences == 0;
+  }
+
+  void record(int row, const Direction& direction, SolvedBy solved_by) {
+    solutions_.SolutionCount += 1;
+    Solution solution;
+    solution.number = solutions_.SolutionCount.value();
+    solution.row = row;
+    solution.direction = direction;
+    solution.solved_by = solved_by;
+    solution.status = solutions_.MatchStatus.value();
+    solutions_.SolutionTriple(solution.number) = row;
+    for (int i = 1; i <= 3; ++i) {
+      solutions_.SolutionDir(solution.number, i) = direction[static_cast<std::size_t>(i - 1)];
+    }
+    solutions_.AngleError = 0;
+    for (int c = 0; c < 3; ++c) {
+      const Single error = to_single(double{table_.TripleAngle(row, c)} - double{bands_.BandAngle(c)});
+      solutions_.AngleError = to_single(double{solutions_.AngleError} + double{error} * double{error});
+      solution.angle_error_deg[static_cast<std::size_t>(c)] = error;
+    }
+    if (settings_.width_tolerance_percent) {
+      auto& errors = solution.width_error_percent.emplace();
+      for (int c = 0; c < 3; ++c) errors[static_cast<std::size_t>(c)] = (width_ratio(row, c) - 1.0) * 100.0;
+    }
+    found_.push_back(solution);
+  }
+
+  const CrystalState& state_;
+  const TripleTable& table_;
+  const MeasuredBands& bands_;
+  const MatchSettings& settings_;
+  SolutionTable& solutions_;
+  std::vector<Solution> found_;
+};
+
+/// Words behind a line. Of status 1 nothing is left when a line is made, so that its two words never show; statuses 3
+/// and 4 have none.
+std::string_view status_words(int status) {
+  if (status == match_status::singular) return " Det Error Div. By Zero";
+  if (status == match_status::no_real_root) return " No Real Ans.";
+  return "";
+}
+
+}  // namespace
+
+std::vector<Solution> match_bands(const CrystalState& state, const TripleTable& table, Single used,
+                                  const MeasuredBands& bands, const MatchSettings& settings, SolutionTable& solutions,
+                                  Progress& progress) {
+  const int rows = triple_rows(used);
+  solutions.SolutionCount = 0;
+  Matcher matcher(state, table, bands, settings, solutions);
+  for (int row = settings.first_row; row <= rows; ++row) {
+    if (row % report_step == 0 || row == rows) progress.report(row, rows);
+    if (!matcher.is_candidate(row) || !matcher.solve(row)) continue;
+    progress.report(row, rows);
+    break;
+  }
+  return matcher.take_found();
+}
+
+std::string solution_line(const TripleTable& table, const Solution& solution) {
+  std::string line = Format(solution.number, "## ");
+  for (int c = 0; c <= 8; ++c) line += right_field(Format(table.TripleHKL(solution.row, c).value(), "##0"), 4);
+  for (const Single component : solution.direction) line += right_field(Format(component, "###0.#"), 7);
+  for (const Single error : solution.angle_error_deg) line += right_field(Format(error, "#0.0"), 5);
+  if (solution.width_error_percent) {
+    for (const double error : *solution.width_error_percent) line += right_field(Format(error, "##0.0"), 6);
+  }
+  if (solution.solved_by == SolvedBy::FirstRoot) return line + "  A1";
+  if (solution.solved_by == SolvedBy::SecondRoot) return line + "  A2";
+  return line.append(status_words(solution.status));
+}
+
+std::array<PlaneIndices, 3> row_planes(const TripleTable& table, int row) {
+  std::array<PlaneIndices, 3> planes;
+  for (int i = 0; i < 3; ++i) {
+    planes[static_cast<std::size_t>(i)] = {table.TripleHKL(row, 3 * i), table.TripleHKL(row, 3 * i + 1),
+                                           table.TripleHKL(row, 3 * i + 2)};
+  }
+  return planes;
+}
+
+PlaneRotations in_plane_rotations(const CrystalState& state, const TripleTable& table, const MeasuredBands& bands,
+                                  int row, const Direction& direction) {
+  constexpr double near_full_turn = 6.2;
+  const auto planes = row_planes(table, row);
+  PlaneRotations result;
+  auto& rotation = result.rotation;
+  for (std::size_t i = 0; i < 3; ++i) {
+    const Single azimuth = zone_azimuth(state, planes[i], direction);
+    rotation[i] = to_single(double{bands.BandPhi(static_cast<int>(i))} - double{azimuth} * degree);
+    if (rotation[i] > program_two_pi) rotation[i] = to_single(double{rotation[i]} - program_two_pi);
+    if (rotation[i] < 0) rotation[i] = to_single(double{rotation[i]} + program_two_pi);
+  }
+  const bool straddle = std::abs(double{rotation[2]} - double{rotation[1]}) > near_full_turn ||
+                        std::abs(double{rotation[1]} - double{rotation[0]}) > near_full_turn;
+  for (auto& turn : rotation) {
+    if (straddle && turn > near_full_turn) turn = to_single(double{turn} - program_two_pi);
+  }
+  return result;
+}
+
+Single PlaneRotations::mean() const {
+  return to_single((double{rotation[0]} + double{rotation[1]} + double{rotation[2]}) / 3.0);
+}
+
+}  // namespace zol

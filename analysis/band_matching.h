@@ -1,0 +1,69 @@
+// Indexing of three measured bands: each row of the triple table whose angles agree is an assignment of planes to the
+// bands; the direction of the beam follows from it, and the sense of rotation around that direction has to fit.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "analysis/band_measurement.h"
+#include "analysis/direction_solvers.h"
+#include "analysis/triple_table.h"
+#include "core/progress.h"
+
+namespace zol {
+
+struct MatchSettings {
+  Single angle_tolerance = 0;                     ///< degrees; of an azimuth difference twice as much is allowed
+  bool only_triangle = false;                     ///< the sense of rotation is not tested
+  bool omit_equivalents = false;                  ///< of solutions with equal spacings and intensities the first stays
+  std::optional<Single> width_tolerance_percent;  ///< none: widths are not compared
+  int first_row = 1;
+  bool stop_at_first_solution = false;
+};
+
+/// What a run of matching leaves, and the next one finds.
+struct SolutionTable {
+  Integer SolutionCount;
+  BoundedArray<Long> SolutionTriple{"SolutionTriple", 10000};  ///< row of the table; solutions count from 1
+  BoundedTable<Single> SolutionDir{"SolutionDir", 10000, 3};   ///< u, v, w in columns 1 to 3, the largest near 1000
+  Integer MatchStatus;                                         ///< left by the solvers
+  Single AngleError = 0;                                       ///< squared degrees, of the solution found last
+};
+
+/// How the direction of a solution was found.
+enum class SolvedBy { Inversion, FirstRoot, SecondRoot };
+
+struct Solution {
+  int number = 0;  ///< from 1
+  int row = 0;     ///< of the triple table
+  Direction direction{};
+  std::array<Single, 3> angle_error_deg{};  ///< table less measurement
+  std::optional<std::array<double, 3>> width_error_percent;
+  SolvedBy solved_by = SolvedBy::Inversion;
+  int status = 0;  ///< MatchStatus
+};
+
+/// Matches the bands with the rows of the table from the first one on. Progress goes by rows.
+/// @throws RunFailure  more than 10000 solutions, or a vector of length 0
+[[nodiscard]] std::vector<Solution> match_bands(const CrystalState& state, const TripleTable& table, Single used,
+                                                const MeasuredBands& bands, const MatchSettings& settings,
+                                                SolutionTable& solutions, Progress& progress);
+
+/// One line of the list: number, indices, direction, angle and width errors, words on how it was solved.
+[[nodiscard]] std::string solution_line(const TripleTable& table, const Solution& solution);
+
+/// The three planes of a row.
+[[nodiscard]] std::array<PlaneIndices, 3> row_planes(const TripleTable& table, int row);
+
+/// In-plane rotation that each of three planes asks for, so that it lies on its band, radians from 0; values near a
+/// full turn are brought to the other side when the three straddle it.
+struct PlaneRotations {
+  std::array<Single, 3> rotation{};
+  [[nodiscard]] Single mean() const;
+};
+[[nodiscard]] PlaneRotations in_plane_rotations(const CrystalState& state, const TripleTable& table,
+                                                const MeasuredBands& bands, int row, const Direction& direction);
+
+}  // namespace zol

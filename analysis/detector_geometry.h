@@ -1,0 +1,54 @@
+// The detector in degrees and in millimetres, the pattern centre from one point, and the calibration on a pattern of
+// Si(001). Angles in degrees at the interface; lengths on the detector in millimetres, on the picture in its
+// coordinates, 0 to 511, y downward.
+#pragma once
+
+#include <string>
+
+#include "core/crystal_state.h"
+
+namespace zol {
+
+/// Floor(x * n)/n: the digits that a detector box shows.
+[[nodiscard]] double truncated(double x, double n);
+
+/// Distance from the source to the detector.
+/// @throws RunFailure  an acquisition angle of 0
+[[nodiscard]] double detector_position_mm(const Module1State& camera);
+
+/// Length of a shift on the detector.
+[[nodiscard]] double shift_mm(const Module1State& camera, Single shift_deg);
+
+/// Angle of a length on the detector. @throws RunFailure  a detector of no size
+[[nodiscard]] double shift_deg(const Module1State& camera, double mm);
+
+/// Acquisition angle of a detector at this distance. @throws RunFailure  a distance of 0
+[[nodiscard]] double acquisition_deg(const Module1State& camera, Single position_mm);
+
+/// What a change of working distance along a tilted detector does to its position and to the y shift.
+struct WorkingDistance {
+  Single WdChange = 0;    ///< mm
+  Single DetIncline = 0;  ///< degrees
+};
+[[nodiscard]] double position_after(const Module1State& camera, const WorkingDistance& change);
+[[nodiscard]] double y_shift_after(const Module1State& camera, const WorkingDistance& change);
+
+/// Shift of a pattern whose centre lies at this coordinate of the picture, in x or in y.
+[[nodiscard]] Single centre_shift_deg(const Module1State& camera, Single picture);
+
+/// Poles that were marked on a pattern of Si(001): <001>, and <112> or <111> at SiAngle from it.
+struct SiMarkers {
+  Single SiMarkX1 = 0, SiMarkY1 = 0;
+  Single SiMarkX2 = 0, SiMarkY2 = 0;
+  Single SiAngle = 0;  ///< degrees
+};
+struct SiCalibration {
+  Single SiCentreX = 0, SiCentreY = 0;
+  Single SiLength = 0;  ///< from the source to the picture, in pixels
+};
+
+/// Writes acquisition angle and shifts of the camera.
+/// @throws RunFailure  markers at the same height, or poles on one another
+void calibrate(const SiMarkers& markers, SiCalibration& result, Module1State& camera);
+
+}  // namespace zol

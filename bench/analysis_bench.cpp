@@ -1,0 +1,63 @@
+// Indexing: the triple table and matching against it, for the strongest reflections of quartz and a full list.
+#include <benchmark/benchmark.h>
+
+#include "analysis/band_matching.h"
+#include "bench/bench_crystals.h"
+#include "core/cell_geometry.h"
+#include "reflections/reflection_list.h"
+
+namespace zol {
+namespace {
+
+struct NoProgress : Progress {
+  void report(int /*done*/, int /*total*/) override {}
+};
+
+std::unique_ptr<CrystalState> quartz_list() {
+  auto state = shipped_crystal("Quartz.cry");
+  state->Dmin = 1;
+  enumerate_reflections(*state, {{true, true, true}, {}});
+  sort_by_s(*state);
+  (void)compute_list(*state, {false, true});
+  sort_by_weighted_intensity(*state);
+  return state;
+}
+
+/// What Hkl3make does behind its boxes.
+void TripleTableOf(benchmark::State& run) {
+  const auto state = quartz_list();
+  TripleTable table;
+  NoProgress progress;
+  for (auto _ : run) {
+    sort_by_weighted_intensity(*state);
+    fill_triple_table(*state, static_cast<Single>(run.range(0)), table, progress);
+    benchmark::DoNotOptimize(table.TripleAngle(1, 0));
+  }
+  run.counters["rows"] = table.TripleAngle.upper_row();
+}
+BENCHMARK(TripleTableOf)->Arg(50)->Arg(100)->Unit(benchmark::kMillisecond);
+
+/// What MatchAngle does behind its boxes: the bands of reflections 1, 8 and 15, some way off the screen normal.
+void Matching(benchmark::State& run) {
+  const auto state = quartz_list();
+  TripleTable table;
+  NoProgress progress;
+  const auto used = static_cast<Single>(run.range(0));
+  fill_triple_table(*state, used, table, progress);
+  const auto count = static_cast<int>(run.range(0));
+  const int row = ((1 - 1) * count + (8 - 1)) * count + 15;
+  MeasuredBands bands;
+  for (int i = 0; i < 3; ++i) {
+    bands.BandAngle(i) = table.TripleAngle(row, i);
+    bands.BandTheta(i) = static_cast<Single>((75 + 5 * i) * degree);
+    bands.BandPhi(i) = static_cast<Single>(100 * i * degree);
+  }
+  const MatchSettings settings{2.0F, true, false, {}, 1, false};
+  SolutionTable solutions;
+  for (auto _ : run) benchmark::DoNotOptimize(match_bands(*state, table, used, bands, settings, solutions, progress));
+  run.counters["solutions"] = solutions.SolutionCount.value();
+}
+BENCHMARK(Matching)->Arg(50)->Arg(100)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace zol

@@ -1,0 +1,118 @@
+// A crystal in front of a detector, worked out with Cartesian vectors apart from the program: where the trace of a
+// plane and the edges of its band lie in the picture.
+//
+// Frame: x to the right and y downward in the picture, z along the direction [uvw], right-handed.
+#pragma once
+
+#include <array>
+#include <cmath>
+#include <numbers>
+#include <optional>
+#include <vector>
+
+namespace zol {
+
+using Vector = std::array<double, 3>;
+
+inline double dot(const Vector& a, const Vector& b) { return a[0] * b[0] + a[1] * b[1] + a[2] * b[2]; }
+inline Vector cross(const Vector& a, const Vector& b) {
+  return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
+}
+inline Vector scaled(const Vector& a, double by) { return {a[0] * by, a[1] * by, a[2] * by}; }
+inline Vector sum(const Vector& a, const Vector& b) { return {a[0] + b[0], a[1] + b[1], a[2] + b[2]}; }
+inline Vector unit(const Vector& a) { return scaled(a, 1 / std::sqrt(dot(a, a))); }
+inline double radians(double deg) { return deg * std::numbers::pi / 180; }
+
+/// Edges of the cell and of the reciprocal cell as Cartesian vectors.
+struct CartesianCell {
+  CartesianCell(double a, double b, double c, double alpha, double beta, double gamma) {
+    const double ca = std::cos(radians(alpha));
+    const double cb = std::cos(radians(beta));
+    const double cg = std::cos(radians(gamma));
+    const double sg = std::sin(radians(gamma));
+    const double cy = (ca - cb * cg) / sg;
+    direct = {Vector{a, 0, 0}, Vector{b * cg, b * sg, 0}, Vector{c * cb, c * cy, c * std::sqrt(1 - cb * cb - cy * cy)}};
+    const double volume = dot(direct[0], cross(direct[1], direct[2]));
+    for (std::size_t i = 0; i < 3; ++i) {
+      reciprocal[i] = scaled(cross(direct[(i + 1) % 3], direct[(i + 2) % 3]), 1 / volume);
+    }
+  }
+  static Vector combined(const std::array<Vector, 3>& axes, const Vector& by) {
+    return sum(sum(scaled(axes[0], by[0]), scaled(axes[1], by[1])), scaled(axes[2], by[2]));
+  }
+  [[nodiscard]] Vector direction(const Vector& uvw) const { return combined(direct, uvw); }
+  [[nodiscard]] Vector normal(const Vector& hkl) const { return combined(reciprocal, hkl); }
+  std::array<Vector, 3> direct, reciprocal;
+};
+
+struct Camera {
+  double acquisition, x_shift, y_shift, ratio;
+};
+
+struct PictureLine {
+  double x1, y1, x2, y2;
+};
+
+class ProjectedPattern {
+ public:
+  /// @param rotation_deg  of the reciprocal vector (w, w, -u - v) from x towards y
+  ProjectedPattern(const CartesianCell& cell, const Vector& uvw, double rotation_deg, const Camera& camera)
+      : cell_(cell), camera_(camera), z_(unit(cell.direction(uvw))) {
+    const Vector start = unit(cell.normal({uvw[2], uvw[2], -uvw[0] - uvw[1]}));
+    const Vector side = cross(z_, start);
+    const double angle = radians(rotation_deg);
+    x_ = sum(scaled(start, std::cos(angle)), scaled(side, -std::sin(angle)));
+    y_ = cross(z_, x_);
+  }
+
+  /// Angle of the normal above the plane of the picture.
+  [[nodiscard]] double latitude_deg(const Vector& hkl) const {
+    return std::asin(dot(unit(cell_.normal(hkl)), z_)) * 180 / std::numbers::pi;
+  }
+  [[nodiscard]] double azimuth_deg(const Vector& hkl) const {
+    const Vector n = cell_.normal(hkl);
+    return std::atan2(dot(n, y_), dot(n, x_)) * 180 / std::numbers::pi;
+  }
+
+  /// The trace of the plane, or of one turned towards the beam by an angle, cut by the picture; none outside it.
+  [[nodiscard]] std::optional<PictureLine> line(const Vector& hkl, double turned_deg = 0) const {
+    const double latitude = radians(latitude_deg(hkl) + turned_deg);
+    const double azimuth = radians(azimuth_deg(hkl));
+    const Vector n{std::cos(latitude) * std::cos(azimuth), std::cos(latitude) * std::sin(azimuth), std::sin(latitude)};
+    std::vector<std::array<double, 2>> ends;
+    for (const double border : {0.0, 511.0}) {
+      const double y = -(n[2] + n[0] * plane_x(border)) / n[1];
+      if (inside(picture_y(y))) ends.push_back({border, picture_y(y)});
+      const double x = -(n[2] + n[1] * plane_y(border)) / n[0];
+      if (inside(picture_x(x))) ends.push_back({picture_x(x), border});
+    }
+    if (ends.size() != 2) return std::nullopt;
+    return PictureLine{ends[0][0], ends[0][1], ends[1][0], ends[1][1]};
+  }
+
+  [[nodiscard]] double angle_to_deg(const Vector& uvw) const {
+    return std::acos(std::min(1.0, dot(unit(cell_.direction(uvw)), z_))) * 180 / std::numbers::pi;
+  }
+
+ private:
+  [[nodiscard]] double half() const { return std::tan(radians(camera_.acquisition)); }
+  [[nodiscard]] double plane_x(double picture) const {
+    return half() * (2 * picture / 511 - 1) - std::tan(radians(camera_.x_shift));
+  }
+  [[nodiscard]] double plane_y(double picture) const {
+    return (half() * (2 * picture / 511 - 1) - std::tan(radians(camera_.y_shift))) * camera_.ratio;
+  }
+  [[nodiscard]] double picture_x(double plane) const {
+    return ((plane + std::tan(radians(camera_.x_shift))) / half() + 1) * 511 / 2;
+  }
+  [[nodiscard]] double picture_y(double plane) const {
+    return ((plane / camera_.ratio + std::tan(radians(camera_.y_shift))) / half() + 1) * 511 / 2;
+  }
+  static bool inside(double picture) { return picture >= 0 && picture <= 511; }
+
+  CartesianCell cell_;
+  Camera camera_;
+  Vector x_{}, y_{}, z_;
+};
+
+}  // namespace zol
