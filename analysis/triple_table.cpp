@@ -1,10 +1,10 @@
 #include "analysis/triple_table.h"
 
 #include <array>
-#include <utility>
 #include <vector>
 
 #include "core/cell_geometry.h"
+#include "core/exchange_sort.h"
 #include "core/run_failure.h"
 
 namespace zol {
@@ -50,25 +50,15 @@ void store_triple(const CrystalState& state, const std::array<int, 3>& reflectio
 }  // namespace
 
 void sort_by_weighted_intensity(CrystalState& state) {
-  const int count = state.RefCount.value();
-  int largest = 0;  // stays from round to round when no positive product is left
-  for (int place = 1; place <= count - 1; ++place) {
-    Single best = 0;
-    for (int i = place; i <= count; ++i) {
-      const Single product = to_single(double{state.RefS(i)} * double{state.RefI(i)});
-      if (product > best) {
-        largest = i;
-        best = product;
-      }
-    }
-    // Without atoms and observed reflections nothing has an intensity: the list then stays as it is.
-    if (largest == 0) continue;
-    std::swap(state.RefS(place), state.RefS(largest));
-    std::swap(state.RefI(place), state.RefI(largest));
-    std::swap(state.RefH(place), state.RefH(largest));
-    std::swap(state.RefK(place), state.RefK(largest));
-    std::swap(state.RefL(place), state.RefL(largest));
+  std::vector<double> keys;
+  for (int i = 0; i <= state.RefCount.value(); ++i) {
+    keys.push_back(
+        -to_single(double{state.RefS(i)} * double{state.RefI(i)}));  // the largest product is the smallest key
   }
+  // Without atoms and observed reflections nothing has an intensity: the list then stays as it is.
+  const auto order = exchange_order(keys, 1, first_smallest_below(0), true);
+  for (auto* array : {&state.RefS, &state.RefI}) reorder(*array, order);
+  for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) reorder(*array, order);
 }
 
 Single extend_over_ties(const CrystalState& state, Single wanted) {

@@ -10,8 +10,7 @@ void Text1_Change(Workbench& /*bench*/, AtomDistanceForm& form) {
 }
 
 void Text1_KeyPress(Workbench& bench, AtomDistanceForm& form, int& key) {
-  if (key != key_enter) return;
-  key = 0;
+  if (!swallow_enter(key)) return;
   Text1_Change(bench, form);
   Command1_Click(bench, form);
 }

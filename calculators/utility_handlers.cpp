@@ -28,18 +28,6 @@ namespace {
 
 Single number_in(const TextBox& box) { return to_single(Val(box.text())); }
 
-/// Enter is swallowed and the focus goes on.
-void enter_moves_to(TextBox& next, int& key) {
-  if (key != key_enter) return;
-  key = 0;
-  next.set_focus();
-}
-
-/// Enter in the last box of a row goes nowhere.
-void swallow_enter(int& key) {
-  if (key == key_enter) key = 0;
-}
-
 /// Writes an azimuth folded into its box. The field takes what stands there.
 void fold(TextBox& box, Single& azimuth_deg) {
   box.set_text(Str(folded_azimuth(azimuth_deg)));
@@ -71,8 +59,7 @@ void Text1_KeyPress(Workbench& /*bench*/, UtilityForm& form, int& key) { enter_m
 void Text2_KeyPress(Workbench& /*bench*/, UtilityForm& form, int& key) { enter_moves_to(form.Text3, key); }
 void Text3_KeyPress(Workbench& /*bench*/, UtilityForm& form, int& key) { enter_moves_to(form.Text4, key); }
 void Text4_KeyPress(Workbench& bench, UtilityForm& form, int& key) {
-  if (key != key_enter) return;
-  key = 0;
+  if (!swallow_enter(key)) return;
   Command1_Click(bench, form);
 }
 
@@ -90,8 +77,7 @@ void Text9_KeyPress(Workbench& /*bench*/, UtilityForm& form, int& key) { enter_m
 void Text8_KeyPress(Workbench& /*bench*/, UtilityForm& form, int& key) { enter_moves_to(form.Text7, key); }
 void Text7_KeyPress(Workbench& /*bench*/, UtilityForm& form, int& key) { enter_moves_to(form.Text6, key); }
 void Text6_KeyPress(Workbench& bench, UtilityForm& form, int& key) {
-  if (key != key_enter) return;
-  key = 0;
+  if (!swallow_enter(key)) return;
   Command3_Click(bench, form);
 }
 

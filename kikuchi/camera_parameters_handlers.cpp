@@ -26,10 +26,6 @@ std::string ask_file(Workbench& bench, CameraParametersForm& form, bool save) {
 
 void take(const TextBox& box, Single& scalar) { scalar = to_single(Val(box.text())); }
 
-void copy_text(const TextBox& from, Window& window, const char* to) {
-  if (auto* box = dynamic_cast<TextBox*>(window.find(to))) box->set_text(from.text());
-}
-
 }  // namespace
 
 void Form_Load(Workbench& bench, CameraParametersForm& form) { fill_boxes(bench.state, form); }
@@ -47,10 +43,10 @@ void Command1_Click(Workbench& bench, CameraParametersForm& form) {
   bench.state.CameraFile = path;
   read_camera_file(path, bench.state);
   fill_boxes(bench.state, form);
-  Window& pattern3 = bench.windows.use<Pattern3Form>();
-  copy_text(form.Text1, pattern3, "Text3");
-  copy_text(form.Text2, pattern3, "Text14");
-  copy_text(form.Text3, pattern3, "Text15");
+  auto& pattern3 = bench.windows.use<Pattern3Form>();
+  pattern3.Text3.set_text(form.Text1.text());
+  pattern3.Text14.set_text(form.Text2.text());
+  pattern3.Text15.set_text(form.Text3.text());
 }
 
 void Command2_Click(Workbench& bench, CameraParametersForm& form) {

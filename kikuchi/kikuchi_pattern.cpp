@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
+#include <optional>
 
 #include "core/cell_geometry.h"
+#include "core/exchange_sort.h"
+#include "core/run_failure.h"
 #include "reflections/reflection_list.h"
 
 namespace zol {
@@ -78,6 +80,20 @@ Indices<Integer> reflection(const CrystalState& state, int i) { return {state.Re
 
 bool is_zero(const Indices<Integer>& hkl) { return hkl == Indices<Integer>{}; }
 
+/// What a walk along the keys ends at when it takes each key below a bound, starting from 10000, and makes that key,
+/// rounded to 16 bits, the new bound. The bound comes down to the rounded smallest key: the last key below it was taken
+/// last, or, with none below it, the first key that rounds to it.
+std::optional<int> last_under_rounded_bound(const TournamentTree& left) {
+  constexpr int first_bound = 10000;
+  const double smallest = left.smallest();
+  if (!(smallest < first_bound)) return std::nullopt;
+  const int bound = Integer::rounded(smallest).value();
+  if (const auto last = left.last_below(bound)) return last;
+  const double half_above = bound + 0.5;
+  const bool half_rounds_down = bound % 2 == 0;
+  return left.first_not_above(half_rounds_down ? half_above : std::nextafter(half_above, 0.0));
+}
+
 Single pattern_intensity(const CrystalState& state, int i) { return to_single(2.0 * state.RefS(i) * state.RefI(i)); }
 
 }  // namespace
@@ -98,23 +114,12 @@ GnomonicView gnomonic_view(const Module1State& camera) {
 
 void sort_for_kikuchi(CrystalState& state) {
   const int count = state.RefCount.value();
-  int smallest = 0;  // stays from round to round when nothing is below the bound
-  // With an empty list the end is never met, and the walk leaves the arrays.
-  for (int place = 1; place != count; ++place) {
-    Integer bound = 10000;
-    for (int i = place; i <= count; ++i) {
-      const double key = double{state.RefS(i)} * double{state.RefI(i)};
-      if (key < bound.value()) {
-        smallest = i;
-        bound = Integer::rounded(key);
-      }
-    }
-    std::swap(state.RefS(place), state.RefS(smallest));
-    std::swap(state.RefI(place), state.RefI(smallest));
-    std::swap(state.RefH(place), state.RefH(smallest));
-    std::swap(state.RefK(place), state.RefK(smallest));
-    std::swap(state.RefL(place), state.RefL(smallest));
-  }
+  if (count == 0) throw RunFailure("index 1 of the reflection list, which is empty (\"Calc\" makes it)");
+  std::vector<double> keys;
+  for (int i = 0; i <= count; ++i) keys.push_back(double{state.RefS(i)} * double{state.RefI(i)});
+  const auto order = exchange_order(keys, 1, last_under_rounded_bound);
+  for (auto* array : {&state.RefS, &state.RefI}) reorder(*array, order);
+  for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) reorder(*array, order);
 }
 
 Single strongest_in_view(const CrystalState& state, const GnomonicView& view) {

@@ -14,12 +14,6 @@
 namespace zol::pattern2 {
 namespace {
 
-void enter_moves_to(TextBox& next, int& key) {
-  if (key != key_enter) return;
-  key = 0;
-  next.set_focus();
-}
-
 /// A typed component of the axis. The flag tells that the pattern is not that of the axis.
 void take_axis(Workbench& bench, const TextBox& box, Single& component) {
   main1_state(bench).PatternFlag = 2;
@@ -90,8 +84,7 @@ void find_axis_of_angles(Workbench& bench, Pattern2Form& form) {
 }
 
 void enter_plots_angles(Workbench& bench, Pattern2Form& form, int& key) {
-  if (key != key_enter) return;
-  key = 0;
+  if (!swallow_enter(key)) return;
   take_angles(bench, form);
   mark_angles(main1_state(bench), form);
   find_axis_of_angles(bench, form);
@@ -160,15 +153,13 @@ void Text21_LostFocus(Workbench& bench, Pattern2Form& form) { set_electron_volta
 void Text3_KeyPress(Workbench& /*bench*/, Pattern2Form& form, int& key) { enter_moves_to(form.Text4, key); }
 void Text4_KeyPress(Workbench& /*bench*/, Pattern2Form& form, int& key) { enter_moves_to(form.Text5, key); }
 void Text5_KeyPress(Workbench& bench, Pattern2Form& form, int& key) {
-  if (key != key_enter) return;
-  key = 0;
+  if (!swallow_enter(key)) return;
   Command8_Click(bench, form);
 }
 void Text11_KeyPress(Workbench& /*bench*/, Pattern2Form& form, int& key) { enter_moves_to(form.Text12, key); }
 void Text12_KeyPress(Workbench& /*bench*/, Pattern2Form& form, int& key) { enter_moves_to(form.Text13, key); }
 void Text13_KeyPress(Workbench& bench, Pattern2Form& /*form*/, int& key) {
-  if (key != key_enter) return;
-  key = 0;
+  if (!swallow_enter(key)) return;
   Patterndisp4(bench);
 }
 void Text22_KeyPress(Workbench& bench, Pattern2Form& form, int& key) { enter_plots_angles(bench, form, key); }
@@ -286,9 +277,7 @@ void Imagesize_Click(Workbench& bench, Pattern2Form& form) {
 
 void ImageLoad_Click(Workbench& bench, Pattern2Form& form) {
   form.ImageMark = "ON";
-  if (auto* image = dynamic_cast<Canvas*>(bench.windows.use<Pattern3Form>().find("Picture1"))) {
-    form.Picture1.take_picture(*image, true);  // y counts downward there
-  }
+  form.Picture1.take_picture(bench.windows.use<Pattern3Form>().Picture1, true);  // y counts downward there
   Command8_Click(bench, form);
 }
 

@@ -8,12 +8,6 @@
 namespace zol::zaxis {
 namespace {
 
-void enter_moves_to(TextBox& next, int& key) {
-  if (key != key_enter) return;
-  key = 0;
-  next.set_focus();
-}
-
 void zoom(Workbench& bench, ZaxisForm& form, double step) {
   form.MapScale = to_single(form.MapScale + step);
   Calc(bench);
@@ -37,8 +31,7 @@ void direction_Change(Workbench& bench, ZaxisForm& form) {
 void Text4_KeyPress(Workbench& /*bench*/, ZaxisForm& form, int& key) { enter_moves_to(form.Text5, key); }
 void Text5_KeyPress(Workbench& /*bench*/, ZaxisForm& form, int& key) { enter_moves_to(form.Text6, key); }
 void Text6_KeyPress(Workbench& bench, ZaxisForm& form, int& key) {
-  if (key != key_enter) return;
-  key = 0;
+  if (!swallow_enter(key)) return;
   Command1_Click(bench, form);
 }
 

@@ -37,7 +37,7 @@ std::vector<double> around(Integer index, const std::vector<GridPoint>& points) 
 std::vector<double> squares(const std::vector<double>& coordinates, double edge) {
   std::vector<double> result;
   result.reserve(coordinates.size());
-  for (const double x : coordinates) result.push_back(x * x * (edge * edge));
+  for (const double x : coordinates) result.push_back(x * x * edge * edge);
   return result;
 }
 
@@ -133,7 +133,7 @@ Single reciprocal_length(const Main1State& cell, Single h, Single k, Single l) {
   const double x = h;
   const double y = k;
   const double z = l;
-  const double square = x * x * (a * a) + y * y * (b * b) + z * z * (c * c) + 2.0 * x * y * a * b * cell.CosGammaStar +
+  const double square = x * x * a * a + y * y * b * b + z * z * c * c + 2.0 * x * y * a * b * cell.CosGammaStar +
                         2.0 * y * z * b * c * cell.CosAlphaStar + 2.0 * z * x * c * a * cell.CosBetaStar;
   return to_single(square_root(square, "the squared length of a reciprocal vector"));
 }

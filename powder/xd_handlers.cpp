@@ -31,8 +31,7 @@ void Text7_Change(Workbench& /*bench*/, XdForm& form) { take_size(form, form.Tex
 void Text8_Change(Workbench& /*bench*/, XdForm& form) { take_size(form, form.Text8, form.CellsR); }
 
 void Text5_KeyPress(Workbench& /*bench*/, XdForm& form, int& key) {
-  if (key != key_enter) return;
-  key = 0;
+  if (!swallow_enter(key)) return;
   form.DisplayMax = to_single(Val(form.Text5.text()));
   redraw(form);
 }

@@ -42,13 +42,6 @@ void take_cell_constant(Workbench& bench, Main1Form& form, const TextBox& box, S
   if (complete) CalcCell(bench);
 }
 
-/// Enter is swallowed and the focus goes on.
-void enter_moves_to(TextBox& next, int& key) {
-  if (key != key_enter) return;
-  key = 0;
-  next.set_focus();
-}
-
 /// The crystal system settles the boxes only for the numbers of the International Tables.
 void constrain_from_edge_a(Workbench& bench, Main1Form& form) {
   if (form.state.SGNumber >= 1 && form.state.SGNumber <= 230) Text7_LostFocus(bench, form);

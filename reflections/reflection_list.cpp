@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "core/cell_geometry.h"
+#include "core/exchange_sort.h"
 #include "core/number_text.h"
 #include "reflections/structure_factor.h"
 
@@ -145,30 +146,22 @@ void enumerate_reflections(CrystalState& state, const EnumerationSettings& setti
 }
 
 void sort_by_s(CrystalState& state) {
-  const int count = state.RefCount.value();
-  int smallest = 0;  // stays from round to round; a value of 1000 or more is never taken
-  for (int place = 1; place <= count - 1; ++place) {
-    Single best = 1000;
-    for (int i = place; i <= count; ++i) {
-      if (state.RefS(i) < best) {
-        best = state.RefS(i);
-        smallest = i;
-      }
-    }
-    std::swap(state.RefS(place), state.RefS(smallest));
-    std::swap(state.RefH(place), state.RefH(smallest));
-    std::swap(state.RefK(place), state.RefK(smallest));
-    std::swap(state.RefL(place), state.RefL(smallest));
-  }
+  constexpr double never_taken = 1000;  // a key from here on is passed over
+  std::vector<double> keys;
+  for (int i = 0; i <= state.RefCount.value(); ++i) keys.push_back(state.RefS(i));
+  const auto order = exchange_order(keys, 1, first_smallest_below(never_taken));
+  reorder(state.RefS, order);
+  for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) reorder(*array, order);
 }
 
 std::vector<std::string> compute_list(CrystalState& state, const Radiation& radiation) {
   const ObservedReflections observed(state);
+  ScatteringCell atoms(state, radiation);
   std::vector<std::string> lines;
   for (int i = 1; i <= state.RefCount.value(); ++i) {
     const auto theta = set_angle(state, i);
     std::string line = geometry_columns(state, i, theta.has_value());
-    ReflectionIntensity(state, i, theta.value_or(0.0F), radiation, observed, line);
+    ReflectionIntensity(state, i, theta.value_or(0.0F), radiation, observed, atoms, line);
     if (state.RefI(i) > 0 || state.NAtom >= 1) lines.push_back(std::move(line));
   }
   return lines;

@@ -9,14 +9,6 @@ namespace {
 
 constexpr double mott_constant = 0.023934;  // m e^2 / (8 pi eps0 h^2) * 1/4 in angstroms for s = sin(theta)/lambda
 
-/// 0 when there is none; the first of two rows with one key wins.
-int find_row(const Main1State& state, std::string_view element) {
-  for (int row = 1; row <= state.AsfXCount.value(); ++row) {
-    if (state.AsfX(row).Element == element) return row;
-  }
-  return 0;
-}
-
 /// Rounded to a Single after each Gaussian.
 Single xray_factor(const AsfRow& row, double s) {
   Single f = row.C;
@@ -56,19 +48,25 @@ Integer read_scatter_table(const std::string& path, BoundedArray<AsfRow>& table)
   return count;
 }
 
-Single AtomicScatter(Main1State& state, std::string_view element, Single s, const Radiation& radiation) {
-  const int row = find_row(state, element);
-  Single f = 0;
-  int atomic_number = 0;
-  if (row > 0) {
-    f = xray_factor(state.AsfX(row), s);
-    atomic_number = state.AsfX(row).Z.value();
-  } else {
-    state.ScatterMissing = 1;
+const AsfRow* find_scatter_row(const Main1State& state, std::string_view element) {
+  for (int row = 1; row <= state.AsfXCount.value(); ++row) {
+    if (state.AsfX(row).Element == element) return &state.AsfX(row);
   }
+  return nullptr;
+}
+
+Single scattering_factor(const Main1State& state, const AsfRow* row, Single s, const Radiation& radiation) {
+  const Single f = row == nullptr ? 0.0F : xray_factor(*row, s);
   if (!radiation.electron || s == 0) return f;
+  const int atomic_number = row == nullptr ? 0 : row->Z.value();
   const double s_wide = s;
   return to_single((atomic_number - double{f}) * mott_constant / s_wide / s_wide * double{state.MassRatio});
+}
+
+Single AtomicScatter(Main1State& state, std::string_view element, Single s, const Radiation& radiation) {
+  const AsfRow* row = find_scatter_row(state, element);
+  if (row == nullptr) state.ScatterMissing = 1;
+  return scattering_factor(state, row, s, radiation);
 }
 
 }  // namespace zol

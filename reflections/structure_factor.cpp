@@ -1,5 +1,6 @@
 #include "reflections/structure_factor.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/number_text.h"
@@ -75,10 +76,49 @@ void StructureFactor(CrystalState& state, int i, const Radiation& radiation) {
   state.RefB(i) = b;
 }
 
+ScatteringCell::ScatteringCell(const CrystalState& state, const Radiation& radiation) : radiation_(radiation) {
+  for (int m = 1; m <= state.NCell.value(); ++m) {
+    Kind kind;
+    kind.row = find_scatter_row(state, state.UCElement(m));
+    kind.occupancy = state.UCOcc(m);
+    kind.b = state.UCB(m);
+    element_missing_ = element_missing_ || kind.row == nullptr;
+    const auto same = std::find_if(kinds_.begin(), kinds_.end(), [&kind](const Kind& other) {
+      return other.row == kind.row && other.occupancy == kind.occupancy && other.b == kind.b;
+    });
+    const auto place = static_cast<std::size_t>(same - kinds_.begin());
+    if (same == kinds_.end()) kinds_.push_back(kind);
+    atoms_.push_back({state.UCPos(m, 1), state.UCPos(m, 2), state.UCPos(m, 3), place});
+  }
+}
+
+void ScatteringCell::structure_factor(CrystalState& state, int i) {
+  const double h = state.RefH(i).value();
+  const double k = state.RefK(i).value();
+  const double l = state.RefL(i).value();
+  const Single s = state.RefS(i);
+  if (element_missing_) state.ScatterMissing = 1;
+  for (Kind& kind : kinds_) {
+    kind.weight = to_single(double{scattering_factor(state, kind.row, s, radiation_)} * double{kind.occupancy});
+    kind.damping = to_single(std::exp(-double{kind.b} * double{s} * double{s}));
+  }
+  Single a = 0;
+  Single b = 0;
+  for (const Atom& atom : atoms_) {
+    const double phase = static_cast<Single>((h * atom.x + k * atom.y + l * atom.z) * program_two_pi);
+    const Kind& kind = kinds_[atom.kind];
+    a = static_cast<Single>(a + kind.weight * std::cos(phase) * kind.damping);
+    b = static_cast<Single>(b + kind.weight * std::sin(phase) * kind.damping);
+  }
+  // A sum that leaves the range never comes back into it.
+  state.RefA(i) = to_single(a);
+  state.RefB(i) = to_single(b);
+}
+
 void ReflectionIntensity(CrystalState& state, int i, Single theta, const Radiation& radiation,
-                         const ObservedReflections& observed, std::string& line) {
+                         const ObservedReflections& observed, ScatteringCell& atoms, std::string& line) {
   if (state.NAtom > 0) {
-    StructureFactor(state, i, radiation);
+    atoms.structure_factor(state, i);
     const Single f = append_structure_factor(state, i, line);
     if (radiation.xray) xray_intensity(state, i, theta, f, line);
     if (radiation.electron) electron_intensity(state, i, f, line);

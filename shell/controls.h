@@ -120,6 +120,18 @@ class TextBox : public Control {
   std::string text_;
 };
 
+/// Swallows Enter. @returns true when the key was Enter
+inline bool swallow_enter(int& key) {
+  if (key != key_enter) return false;
+  key = 0;
+  return true;
+}
+
+/// Enter is swallowed and the focus goes on.
+inline void enter_moves_to(TextBox& next, int& key) {
+  if (swallow_enter(key)) next.set_focus();
+}
+
 class Label : public Control {
  public:
   Label(Window& window, std::string name, std::string caption = "", std::string beside = "")

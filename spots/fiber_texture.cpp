@@ -2,14 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <functional>
-#include <numeric>
 #include <string>
 #include <utility>
 
-#include <queue>
-
 #include "core/cell_geometry.h"
+#include "core/exchange_sort.h"
 #include "core/number_text.h"
 #include "core/run_failure.h"
 #include "spots/grey_scale.h"
@@ -17,45 +14,8 @@
 namespace zol {
 namespace {
 
-constexpr Single never_taken = 1000000;  ///< intensities from here on are passed over by the sort
+constexpr double never_taken = 1000000;  ///< intensities from here on are passed over by the sort
 constexpr int first_sorted = 2;
-
-/// Order that the selection sort leaves: element i comes from entry order[i]. Each round exchanges its place with the
-/// first smallest entry behind it, which here is the head of a queue by value, then place. A round without a candidate
-/// uses the entry of the round before, at first entry 0.
-std::vector<int> selection_order(const CrystalState& state, int count) {
-  std::vector<Single> value;
-  for (int i = 0; i <= count; ++i) value.push_back(state.RefI(i));
-  std::vector<int> order(value.size());
-  std::iota(order.begin(), order.end(), 0);
-
-  using Entry = std::pair<Single, int>;
-  std::priority_queue<Entry, std::vector<Entry>, std::greater<>> smallest;
-  for (int i = first_sorted; i <= count; ++i) smallest.emplace(value[static_cast<std::size_t>(i)], i);
-  int found = 0;
-  for (int place = first_sorted; place < count; ++place) {
-    const auto outdated = [&value, place](const Entry& entry) {
-      return entry.second < place || value[static_cast<std::size_t>(entry.second)] != entry.first;
-    };
-    while (!smallest.empty() && outdated(smallest.top())) smallest.pop();
-    if (!smallest.empty() && smallest.top().first < never_taken) {
-      found = smallest.top().second;
-      smallest.pop();
-    }
-    std::swap(value[static_cast<std::size_t>(place)], value[static_cast<std::size_t>(found)]);
-    std::swap(order[static_cast<std::size_t>(place)], order[static_cast<std::size_t>(found)]);
-    if (found > place) smallest.emplace(value[static_cast<std::size_t>(found)], found);
-  }
-  return order;
-}
-
-template <class Value>
-void reorder(BoundedArray<Value>& array, const std::vector<int>& order) {
-  std::vector<Value> sorted;
-  sorted.reserve(order.size());
-  for (const int from : order) sorted.push_back(array(from));
-  for (int i = 0; i < static_cast<int>(order.size()); ++i) array(i) = sorted[static_cast<std::size_t>(i)];
-}
 
 /// Walks the arcs of one reflection.
 class ArcWalk {
@@ -129,7 +89,9 @@ void sort_by_intensity(CrystalState& state) {
   if (count < 2) {
     throw RunFailure("a fiber texture needs two reflections or more, the list has " + plain_text(state.RefCount));
   }
-  const auto order = selection_order(state, count);
+  std::vector<double> keys;
+  for (int i = 0; i <= count; ++i) keys.push_back(state.RefI(i));
+  const auto order = exchange_order(keys, first_sorted, first_smallest_below(never_taken));
   for (auto* array : {&state.RefI, &state.RefA, &state.RefB, &state.RefS}) reorder(*array, order);
   for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) reorder(*array, order);
 }

@@ -10,13 +10,6 @@ namespace {
 
 constexpr double zoom_factor = 1.4142;
 
-/// Enter is swallowed and the focus goes on.
-void enter_moves_to(TextBox& next, int& key) {
-  if (key != key_enter) return;
-  key = 0;
-  next.set_focus();
-}
-
 void set_half_width(Workbench& bench, FiberTextureForm& form, double half_width) {
   bench.state.CamAcquisition = to_single(half_width);
   // The width is rounded by going through the box.
@@ -62,8 +55,7 @@ void Text5_Change(Workbench& bench, FiberTextureForm& form) {
 void Text3_KeyPress(Workbench& /*bench*/, FiberTextureForm& form, int& key) { enter_moves_to(form.Text4, key); }
 void Text4_KeyPress(Workbench& /*bench*/, FiberTextureForm& form, int& key) { enter_moves_to(form.Text5, key); }
 void Text5_KeyPress(Workbench& bench, FiberTextureForm& form, int& key) {
-  if (key != key_enter) return;
-  key = 0;
+  if (!swallow_enter(key)) return;
   Command8_Click(bench, form);
 }
 

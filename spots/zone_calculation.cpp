@@ -28,7 +28,7 @@ void reduce_by(int d, std::array<int, 3>& indices) {
 void clip(Long& first, Long& second, Long& third) {
   constexpr double most = 1000;
   if (std::abs(first.value()) <= most) return;
-  const auto scaled = [most](Long index, Long by) {
+  const auto scaled = [](Long index, Long by) {
     return Long::floor(double(index.value()) / std::abs(by.value()) * most);
   };
   first = scaled(first, first);

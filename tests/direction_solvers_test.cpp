@@ -77,7 +77,6 @@ TEST_P(TwoPlanes, GiveDirectionsOfUnitLength) {
     EXPECT_NEAR(directions.A2[i], row.A2[i], 1e-6) << i;
   }
 }
-constexpr int any = 7;
 // Case 2 gives v, w, u and case 3 w, u, v.
 INSTANTIATE_TEST_SUITE_P(
     Cases, TwoPlanes,

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <random>
 
 #include "reflections/structure_factor.h"
 #include "tests/test_files.h"
@@ -87,6 +88,43 @@ CrystalState one_atom(int h, int k, int l, Single x, Single occupancy, Single b)
   return state;
 }
 
+void intensity(CrystalState& state, Single theta, const Radiation& radiation, std::string& line) {
+  ScatteringCell atoms(state, radiation);
+  ReflectionIntensity(state, 1, theta, radiation, ObservedReflections(state), atoms, line);
+}
+
+TEST(StructureFactor, OfManyReflectionsIsTheSameToTheBit) {
+  std::mt19937 random(5);
+  std::uniform_real_distribution<Single> uniform(0, 1);
+  for (const auto& radiation : {xrays, electrons}) {
+    auto state = one_atom(1, 0, 0, 0, 1, 0);
+    state.NCell = 200;
+    for (int m = 1; m <= 200; ++m) {
+      state.UCElement(m) = m % 3 == 0 ? "Na" : (m % 50 == 1 ? "Xx" : "Cl");
+      state.UCOcc(m) = m % 5 == 0 ? 0.7F : 1.0F;
+      state.UCB(m) = m % 7 == 0 ? uniform(random) : 0.5F;
+      for (int axis = 1; axis <= 3; ++axis) state.UCPos(m, axis) = uniform(random);
+    }
+    ScatteringCell atoms(state, radiation);
+    for (int n = 0; n < 300; ++n) {
+      state.RefH(1) = n % 17 - 8;
+      state.RefK(1) = n % 11 - 5;
+      state.RefL(1) = n % 7;
+      state.RefS(1) = uniform(random);
+      state.ScatterMissing = 0;
+      StructureFactor(state, 1, radiation);
+      const Single a = state.RefA(1);
+      const Single b = state.RefB(1);
+      EXPECT_EQ(state.ScatterMissing, 1);
+      state.ScatterMissing = 0;
+      atoms.structure_factor(state, 1);
+      ASSERT_EQ(state.RefA(1), a);
+      ASSERT_EQ(state.RefB(1), b);
+      ASSERT_EQ(state.ScatterMissing, 1);
+    }
+  }
+}
+
 TEST(StructureFactor, TurnsWithTheAtom) {
   auto state = one_atom(2, 0, 0, 0.125F, 0.5F, 2);  // a quarter turn
   StructureFactor(state, 1, xrays);
@@ -99,14 +137,14 @@ TEST(Intensity, OfXraysHasTheLorentzPolarisationFactor) {
   auto state = one_atom(2, 0, 0, 0, 1, 0);
   const double theta = std::asin(0.25 * 1.542);
   std::string line;
-  ReflectionIntensity(state, 1, to_single(theta), xrays, ObservedReflections(state), line);
+  intensity(state, to_single(theta), xrays, line);
   const double f = AtomicScatter(state, "Na", 0.25F, xrays);
   const double lp = (1 + std::pow(std::cos(2 * theta), 2)) / std::pow(std::sin(theta), 2) / std::cos(theta);
   EXPECT_NEAR(state.RefI(1), f * f * lp / 64 / 64 * 100, 1e-4);
   EXPECT_EQ(line.size(), 8U + 8 + 8 + 11);
   line.clear();
   state.RefI(1) = 0;
-  ReflectionIntensity(state, 1, 0, xrays, ObservedReflections(state), line);
+  intensity(state, 0, xrays, line);
   EXPECT_EQ(line.size(), 24U) << "no angle, no column I";
   EXPECT_EQ(state.RefI(1), 0);
 }
@@ -114,13 +152,12 @@ TEST(Intensity, OfXraysHasTheLorentzPolarisationFactor) {
 TEST(Intensity, OfElectronsShowsMoreThanItStores) {
   auto state = one_atom(2, 0, 0, 0, 1, 0);
   std::string line;
-  ReflectionIntensity(state, 1, 0, electrons, ObservedReflections(state), line);
+  intensity(state, 0, electrons, line);
   const double f = AtomicScatter(state, "Na", 0.25F, electrons);
   EXPECT_NEAR(state.RefI(1), f * f / 0.25 / 64 / 64 / 2 * 1e5, 1e-3);
   EXPECT_NEAR(std::stod(line.substr(24)), f * f / 64 / 64 * 1e5, 6e-4);
   state.CellVolume = 0;
-  EXPECT_EQ(failure_of([&] { ReflectionIntensity(state, 1, 0, electrons, ObservedReflections(state), line); }),
-            "division by zero: the cell volume is 0");
+  EXPECT_EQ(failure_of([&] { intensity(state, 0, electrons, line); }), "division by zero: the cell volume is 0");
 }
 
 TEST(Intensity, ComesFromObservedReflectionsWithoutAtoms) {
@@ -128,12 +165,12 @@ TEST(Intensity, ComesFromObservedReflectionsWithoutAtoms) {
   state.NAtom = 0;
   state.SGNumber = 225;
   std::string line;
-  ReflectionIntensity(state, 1, 0, electrons, ObservedReflections(state), line);
+  intensity(state, 0, electrons, line);
   EXPECT_EQ(line, "") << "neither atoms nor a table";
   state.JcpdsCount = 1;
   state.JcpdsH(1) = 2;
   state.JcpdsI(1) = 12.5F;
-  ReflectionIntensity(state, 1, 0, electrons, ObservedReflections(state), line);
+  intensity(state, 0, electrons, line);
   EXPECT_EQ(state.RefI(1), 100);
   EXPECT_EQ(line, "  100.00    0.00  100.00    100.000");
 }

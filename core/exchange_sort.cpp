@@ -1,0 +1,68 @@
+#include "core/exchange_sort.h"
+
+#include <algorithm>
+#include <bit>
+#include <limits>
+#include <numeric>
+#include <utility>
+
+namespace zol {
+namespace {
+
+constexpr double out_of_play = std::numeric_limits<double>::infinity();
+
+}  // namespace
+
+TournamentTree::TournamentTree(std::span<const double> keys)
+    : leaves_(std::bit_ceil(std::max<std::size_t>(keys.size(), 1))) {
+  nodes_.assign(2 * leaves_, out_of_play);
+  std::copy(keys.begin(), keys.end(), nodes_.begin() + static_cast<std::ptrdiff_t>(leaves_));
+  for (std::size_t node = leaves_ - 1; node >= 1; --node)
+    nodes_[node] = std::min(nodes_[2 * node], nodes_[2 * node + 1]);
+}
+
+void TournamentTree::set(int position, double key) {
+  std::size_t node = leaf(position);
+  nodes_[node] = key;
+  for (node /= 2; node >= 1; node /= 2) nodes_[node] = std::min(nodes_[2 * node], nodes_[2 * node + 1]);
+}
+
+void TournamentTree::remove(int position) { set(position, out_of_play); }
+
+std::optional<int> TournamentTree::first_not_above(double bound) const {
+  if (!(nodes_[1] <= bound)) return std::nullopt;
+  std::size_t node = 1;
+  while (node < leaves_) node = 2 * node + (nodes_[2 * node] <= bound ? 0 : 1);
+  return static_cast<int>(node - leaves_);
+}
+
+std::optional<int> TournamentTree::last_below(double bound) const {
+  if (!(nodes_[1] < bound)) return std::nullopt;
+  std::size_t node = 1;
+  while (node < leaves_) node = 2 * node + (nodes_[2 * node + 1] < bound ? 1 : 0);
+  return static_cast<int>(node - leaves_);
+}
+
+FindEntry first_smallest_below(double limit) {
+  return [limit](const TournamentTree& left) {
+    return left.smallest() < limit ? left.first_not_above(left.smallest()) : std::nullopt;
+  };
+}
+
+std::vector<int> exchange_order(std::span<const double> keys, int first, const FindEntry& find, bool skip_without) {
+  std::vector<int> order(keys.size());
+  std::iota(order.begin(), order.end(), 0);
+  TournamentTree left(keys);
+  for (int position = 0; position < std::min(first, static_cast<int>(keys.size())); ++position) left.remove(position);
+  int found = 0;
+  for (int place = first; place < static_cast<int>(keys.size()) - 1; ++place) {
+    found = find(left).value_or(found);
+    if (found == 0 && skip_without) continue;
+    std::swap(order[static_cast<std::size_t>(place)], order[static_cast<std::size_t>(found)]);
+    if (found > place) left.set(found, left.key(place));
+    left.remove(place);
+  }
+  return order;
+}
+
+}  // namespace zol
