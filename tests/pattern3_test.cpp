@@ -11,6 +11,7 @@
 #include "reflections/main1_form.h"
 #include "shell/main_menu_form.h"
 #include "shell/program.h"
+#include "tests/band_choice.h"
 #include "tests/fake_services.h"
 #include "tests/projected_pattern.h"
 #include "tests/test_files.h"
@@ -66,37 +67,6 @@ class Pattern3Test : public testing::Test {
   ScratchFolder folder;
 };
 
-/// Three planes of the table whose bands cross the picture well apart from its centre and from each other.
-class BandChoice {
- public:
-  BandChoice(const CrystalState& state, int count, const ProjectedPattern& pattern) : pattern_(pattern) {
-    for (int i = 1; i <= count; ++i) {
-      const Vector hkl{1.0 * state.RefH(i).value(), 1.0 * state.RefK(i).value(), 1.0 * state.RefL(i).value()};
-      const double latitude = pattern.latitude_deg(hkl);
-      const double theta = std::asin(double{state.WaveLength} * state.RefS(i)) * 180 / std::numbers::pi;
-      if (latitude < 4 || latitude > 26 || latitude < 1.5 * theta) continue;
-      if (!pattern.line(hkl) || !pattern.line(hkl, theta) || !pattern.line(hkl, -theta)) continue;
-      if (fits(hkl)) {
-        planes.push_back(hkl);
-        thetas.push_back(theta);
-      }
-      if (planes.size() == 3) return;
-    }
-  }
-  std::vector<Vector> planes;
-  std::vector<double> thetas;
-
- private:
-  [[nodiscard]] bool fits(const Vector& hkl) const {
-    for (const auto& other : planes) {
-      const double turn = std::abs(std::remainder(pattern_.azimuth_deg(hkl) - pattern_.azimuth_deg(other), 360));
-      if (turn < 25 || turn > 155) return false;
-    }
-    return planes.size() < 2 || std::abs(dot(hkl, cross(planes[0], planes[1]))) > 0.5;
-  }
-  const ProjectedPattern& pattern_;
-};
-
 struct OrientationCase {
   CrystalCase crystal;
   const char* name;
@@ -114,19 +84,7 @@ class Indexing : public Pattern3Test, public testing::WithParamInterface<Orienta
     choice = std::make_unique<BandChoice>(state, static_cast<int>(form().NhklUsed), *pattern);
   }
 
-  /// Number of the solution with the true planes; 0 when there is none.
-  int true_solution() {
-    for (int n = 1; n <= form().solutions.SolutionCount.value(); ++n) {
-      const auto found = row_planes(form().triples, form().solutions.SolutionTriple(n).value());
-      bool same = true;
-      for (std::size_t i = 0; i < 3; ++i) {
-        const auto& [h, k, l] = choice->planes[i];
-        same = same && found[i] == PlaneIndices{static_cast<int>(h), static_cast<int>(k), static_cast<int>(l)};
-      }
-      if (same) return n;
-    }
-    return 0;
-  }
+  int true_solution() { return solution_with(form(), choice->planes); }
   double direction_error_deg(int n) {
     const auto& direction = form().solutions.SolutionDir;
     return pattern->angle_to_deg({direction(n, 1), direction(n, 2), direction(n, 3)});

@@ -1,0 +1,152 @@
+// A pattern that the program draws, saves as a bitmap, loads, flips, indexes, and lays its solution over: real pixels.
+#include <gtest/gtest.h>
+
+#include "analysis/pattern3_form.h"
+#include "kikuchi/pattern2_form.h"
+#include "reflections/main1_form.h"
+#include "shell/desktop/qt_surface.h"
+#include "shell/main_menu_form.h"
+#include "shell/program.h"
+#include "tests/band_choice.h"
+#include "tests/fake_services.h"
+#include "tests/projected_pattern.h"
+#include "tests/test_files.h"
+
+namespace zol {
+namespace {
+
+class PixelServices : public FakeServices {
+ public:
+  std::unique_ptr<Surface> make_surface(int width, int height) override {
+    return std::make_unique<QtSurface>(width, height);
+  }
+};
+
+struct PictureCase {
+  const char* name;
+  const char* file;
+  Vector uvw;  // whole numbers: the azimuth counts from a reflection that is one
+};
+
+class IndexedPicture : public testing::TestWithParam<PictureCase> {
+ protected:
+  static constexpr double half_opening_deg = 33;
+
+  IndexedPicture() {
+    program.start();
+    program.windows().use<MainMenuForm>().Command3.click();
+    answer(std::string(ZOL_SOURCE_DIR "/data/ZOLDATA/") + GetParam().file);
+    program.windows().use<Main1Form>().DATA_LOAD.click();
+    analysis().Text14.set_text("0");
+    analysis().Text15.set_text("0");
+    analysis().Text3.set_text("33");
+  }
+  void answer(const std::string& text) { services.answers.push_back(text); }
+
+  /// Draws the strongest bands around the axis and saves them.
+  std::string saved_pattern() {
+    auto& form = simulation();
+    program.windows().use<Main1Form>().Command10.click();
+    form.Text1.set_text("33");
+    form.Text19.set_text("100");  // few enough that a line off its band meets mostly white
+    form.Text3.set_text(std::to_string(GetParam().uvw[0]));
+    form.Text4.set_text(std::to_string(GetParam().uvw[1]));
+    form.Text5.set_text(std::to_string(GetParam().uvw[2]));
+    form.Command8.click();
+    answer(folder.path("drawn"));
+    form.ISAVE.click();
+    return folder.path("drawn.bmp");
+  }
+  void drag(const PictureLine& line) {
+    Canvas& picture = analysis().Picture1;
+    picture.press(line.x1, line.y1);
+    picture.move(line.x2, line.y2);
+    picture.release(line.x2, line.y2);
+  }
+
+  /// Part of a line, in picture coordinates, that has something drawn within a pixel of it.
+  double covered(const PictureLine& line) {
+    Surface& image = analysis().Picture1.stored_image();
+    int hits = 0;
+    int samples = 0;
+    for (int i = 2; i < 198; ++i) {
+      const double x = line.x1 + (line.x2 - line.x1) * i / 199;
+      const double y = line.y1 + (line.y2 - line.y1) * i / 199;
+      if (std::min(x, y) < 1 || std::max(x, y) > 510) continue;
+      ++samples;
+      hits += drawn_near(image, x * (image.width() - 1) / 511, y * (image.height() - 1) / 511) ? 1 : 0;
+    }
+    return samples == 0 ? 0 : 1.0 * hits / samples;
+  }
+  static bool drawn_near(const Surface& image, double x, double y) {
+    for (int dx = -1; dx <= 1; ++dx) {
+      for (int dy = -1; dy <= 1; ++dy) {
+        const auto colour = image.pixel(static_cast<int>(std::lround(x)) + dx, static_cast<int>(std::lround(y)) + dy);
+        if (colour && *colour != RGB(255, 255, 255)) return true;
+      }
+    }
+    return false;
+  }
+  /// A line of the simulation (tangents, y upward) in the coordinates of the flipped picture (0 to 511, y downward on
+  /// the screen and upward on the crystal).
+  static PictureLine in_picture(const DrawnLine& line) {
+    const double half = std::tan(radians(half_opening_deg));
+    const auto place = [half](double tangent) { return (tangent / half + 1) * 511 / 2; };
+    return {place(line.x1), place(line.y1), place(line.x2), place(line.y2)};
+  }
+  static PictureLine upside_down(const PictureLine& line) { return {line.x1, 511 - line.y1, line.x2, 511 - line.y2}; }
+
+  Pattern3Form& analysis() { return program.windows().use<Pattern3Form>(); }
+  Pattern2Form& simulation() { return program.windows().use<Pattern2Form>(); }
+
+  PixelServices services;
+  Program program{{ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services};
+  CrystalState& state = program.state();
+  ScratchFolder folder;
+};
+
+TEST_P(IndexedPicture, SolutionLiesOnTheBandsOfThePicture) {
+  const std::string path = saved_pattern();
+  const double rotation_deg = state.PatternAngle * 180 / std::numbers::pi;
+  const ProjectedPattern pattern(
+      {state.CellA, state.CellB, state.CellC, state.CellAlpha, state.CellBeta, state.CellGamma}, GetParam().uvw,
+      rotation_deg, {half_opening_deg, 0, 0, 1});
+
+  answer(path);
+  analysis().ImageLoad.click();
+  analysis().ImageFlip.click();
+  analysis().Text2.leave();  // the strongest reflections first again: the drawing had sorted them the other way
+  const BandChoice choice(state, 50, pattern);
+  ASSERT_EQ(choice.planes.size(), 3U);
+  for (std::size_t i = 0; i < 3; ++i) {
+    for (const double edge : {choice.thetas[i], -choice.thetas[i]}) {
+      const auto line = *pattern.line(choice.planes[i], edge);
+      EXPECT_GT(covered(line), 0.97) << "the picture shows the band where the projection has it";
+      EXPECT_LT(covered(upside_down(line)), 0.8) << "and not before the flip";
+    }
+    drag(*pattern.line(choice.planes[i]));
+  }
+  analysis().Command1.click();
+  const int number = solution_with(analysis(), choice.planes);
+  ASSERT_GT(number, 0) << analysis().List1.items().back();
+
+  simulation().ImageLoad.click();
+  analysis().Command2.click();  // the lines go, the picture stays
+  analysis().List1.pick(number - 1);
+  std::vector<PictureLine> marks;
+  for (const auto& entry : simulation().Picture1.drawing()) {
+    const auto* line = std::get_if<DrawnLine>(&entry.what);
+    if (line != nullptr && line->colour == RGB(255, 0, 0)) marks.push_back(in_picture(*line));
+  }
+  ASSERT_EQ(marks.size(), 6U);
+  EXPECT_TRUE(simulation().Picture1.has_picture());
+  for (const auto& mark : marks) EXPECT_GT(covered(mark), 0.9);
+}
+
+INSTANTIATE_TEST_SUITE_P(Crystals, IndexedPicture,
+                         testing::Values(PictureCase{"cubic", "Silicon.cry", {200, 450, 870}},
+                                         PictureCase{"triclinic", "Kyanite.cry", {250, 400, 800}}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+}  // namespace
+}  // namespace zol
