@@ -1,12 +1,12 @@
 // Directions and plane normals of a crystal in Cartesian coordinates, exact pi and doubles, for comparison.
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <numbers>
 
-#include "core/cell_geometry.h"
-#include "core/crystal_state.h"
+#include "tests/crystals.h"
 
 namespace zol {
 
@@ -38,6 +38,8 @@ class CartesianCell {
     const double c_y = (cos_a - cos_b * cos_g) / sin_g;
     c_ = {cell.CellC * cos_b, cell.CellC * c_y, cell.CellC * std::sqrt(1 - cos_b * cos_b - c_y * c_y)};
   }
+  [[nodiscard]] Cartesian direction(const Cartesian& uvw) const { return direction(uvw[0], uvw[1], uvw[2]); }
+  [[nodiscard]] Cartesian normal(const Cartesian& hkl) const { return normal(hkl[0], hkl[1], hkl[2]); }
   [[nodiscard]] Cartesian direction(double u, double v, double w) const {
     Cartesian sum{};
     for (std::size_t i = 0; i < 3; ++i) sum[i] = u * a_[i] + v * b_[i] + w * c_[i];
@@ -58,15 +60,8 @@ class CartesianCell {
 };
 
 /// A crystal with a cell, an axis at the pattern centre and the reference reflection (w, w, -u-v) of it.
-inline CrystalState oriented_crystal(const std::array<Single, 6>& cell, const std::array<int, 3>& axis) {
-  CrystalState state;
-  state.CellA = cell[0];
-  state.CellB = cell[1];
-  state.CellC = cell[2];
-  state.CellAlpha = cell[3];
-  state.CellBeta = cell[4];
-  state.CellGamma = cell[5];
-  calc_cell(state);
+inline CrystalState oriented_crystal(const CellNumbers& cell, const std::array<int, 3>& axis) {
+  CrystalState state = with_cell(cell);
   state.ZoneU = static_cast<Single>(axis[0]);
   state.ZoneV = static_cast<Single>(axis[1]);
   state.ZoneW = static_cast<Single>(axis[2]);
@@ -91,12 +86,12 @@ struct PatternFrame {
   Cartesian x{}, y{}, z{};
 };
 
-inline constexpr std::array<std::array<Single, 6>, 7> cells_of_all_systems{{{5.43F, 5.43F, 5.43F, 90, 90, 90},
-                                                                            {4.6F, 4.6F, 2.96F, 90, 90, 90},
-                                                                            {4.76F, 10.2F, 5.98F, 90, 90, 90},
-                                                                            {4.9F, 4.9F, 5.4F, 90, 90, 120},
-                                                                            {5.9F, 5.9F, 5.9F, 56, 56, 56},
-                                                                            {5.19F, 9.0F, 20.0F, 90, 95.7F, 90},
-                                                                            {7.1F, 7.85F, 5.57F, 90, 101.1F, 106}}};
+inline constexpr std::array<CellNumbers, 7> cells_of_all_systems{{{5.43F, 5.43F, 5.43F, 90, 90, 90},
+                                                                  {4.6F, 4.6F, 2.96F, 90, 90, 90},
+                                                                  {4.76F, 10.2F, 5.98F, 90, 90, 90},
+                                                                  {4.9F, 4.9F, 5.4F, 90, 90, 120},
+                                                                  {5.9F, 5.9F, 5.9F, 56, 56, 56},
+                                                                  {5.19F, 9.0F, 20.0F, 90, 95.7F, 90},
+                                                                  {7.1F, 7.85F, 5.57F, 90, 101.1F, 106}}};
 
 }  // namespace zol

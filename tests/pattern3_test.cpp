@@ -54,9 +54,7 @@ class Pattern3Test : public testing::Test {
     picture.release(line.x2, line.y2);
   }
   /// The cell as the program has it, so that a difference of lattice constants is no error of orientation.
-  [[nodiscard]] CartesianCell cell() const {
-    return {state.CellA, state.CellB, state.CellC, state.CellAlpha, state.CellBeta, state.CellGamma};
-  }
+  [[nodiscard]] CartesianCell cell() const { return CartesianCell(state); }
 
   Pattern3Form& form() { return program.windows().use<Pattern3Form>(); }
   Main1Form& main1() { return program.windows().use<Main1Form>(); }

@@ -10,40 +10,15 @@
 #include <optional>
 #include <vector>
 
+#include "tests/cartesian_cell.h"
+
 namespace zol {
 
-using Vector = std::array<double, 3>;
+using Vector = Cartesian;
 
-inline double dot(const Vector& a, const Vector& b) { return a[0] * b[0] + a[1] * b[1] + a[2] * b[2]; }
-inline Vector cross(const Vector& a, const Vector& b) {
-  return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
-}
 inline Vector scaled(const Vector& a, double by) { return {a[0] * by, a[1] * by, a[2] * by}; }
 inline Vector sum(const Vector& a, const Vector& b) { return {a[0] + b[0], a[1] + b[1], a[2] + b[2]}; }
-inline Vector unit(const Vector& a) { return scaled(a, 1 / std::sqrt(dot(a, a))); }
 inline double radians(double deg) { return deg * std::numbers::pi / 180; }
-
-/// Edges of the cell and of the reciprocal cell as Cartesian vectors.
-struct CartesianCell {
-  CartesianCell(double a, double b, double c, double alpha, double beta, double gamma) {
-    const double ca = std::cos(radians(alpha));
-    const double cb = std::cos(radians(beta));
-    const double cg = std::cos(radians(gamma));
-    const double sg = std::sin(radians(gamma));
-    const double cy = (ca - cb * cg) / sg;
-    direct = {Vector{a, 0, 0}, Vector{b * cg, b * sg, 0}, Vector{c * cb, c * cy, c * std::sqrt(1 - cb * cb - cy * cy)}};
-    const double volume = dot(direct[0], cross(direct[1], direct[2]));
-    for (std::size_t i = 0; i < 3; ++i) {
-      reciprocal[i] = scaled(cross(direct[(i + 1) % 3], direct[(i + 2) % 3]), 1 / volume);
-    }
-  }
-  static Vector combined(const std::array<Vector, 3>& axes, const Vector& by) {
-    return sum(sum(scaled(axes[0], by[0]), scaled(axes[1], by[1])), scaled(axes[2], by[2]));
-  }
-  [[nodiscard]] Vector direction(const Vector& uvw) const { return combined(direct, uvw); }
-  [[nodiscard]] Vector normal(const Vector& hkl) const { return combined(reciprocal, hkl); }
-  std::array<Vector, 3> direct, reciprocal;
-};
 
 struct Camera {
   double acquisition, x_shift, y_shift, ratio;
@@ -90,9 +65,7 @@ class ProjectedPattern {
     return PictureLine{ends[0][0], ends[0][1], ends[1][0], ends[1][1]};
   }
 
-  [[nodiscard]] double angle_to_deg(const Vector& uvw) const {
-    return std::acos(std::min(1.0, dot(unit(cell_.direction(uvw)), z_))) * 180 / std::numbers::pi;
-  }
+  [[nodiscard]] double angle_to_deg(const Vector& uvw) const { return angle_deg(cell_.direction(uvw), z_); }
 
  private:
   [[nodiscard]] double half() const { return std::tan(radians(camera_.acquisition)); }
