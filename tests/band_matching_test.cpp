@@ -24,9 +24,7 @@ class Matching : public testing::Test {
   using Hkl = std::array<int, 3>;
 
   void use_planes(const std::vector<Hkl>& planes) {
-    state.CellA = state.CellB = state.CellC = 4;
-    state.CellAlpha = state.CellBeta = state.CellGamma = 90;
-    calc_cell(state);
+    set_cell(state, cubic_cell(4));
     const int count = static_cast<int>(planes.size());
     state.RefCount = count;
     for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) array->allocate(count + 1);
@@ -46,7 +44,7 @@ class Matching : public testing::Test {
 
   /// Bands of three planes around a direction, the first axis turned by 30 degrees.
   void look_along(const Vector& uvw, const std::array<Vector, 3>& planes) {
-    const CartesianCell cell(4, 4, 4, 90, 90, 90);
+    const CartesianCell cell(state);
     const ProjectedPattern pattern(cell, uvw, 30, {40, 0, 0, 1});
     for (std::size_t i = 0; i < 3; ++i) {
       const auto band = static_cast<int>(i);

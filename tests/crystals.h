@@ -34,13 +34,14 @@ inline CrystalState with_cell(const CellNumbers& cell) {
 struct ListedReflection {
   int h, k, l;
   Single intensity = 1;
-  Single s = 0;  ///< sin(theta)/lambda
+  Single s = 0;  ///< sin(theta)/lambda; 0 for that of the cell
 };
 
-/// The reflection list of the state: RefH, RefK, RefL, RefS, RefI and RefA (all 0), one entry spare.
+/// The reflection list of the state, all of it for Kikuchi patterns: one entry spare, RefA 0.
 inline void set_list(CrystalState& state, const std::vector<ListedReflection>& entries) {
   const int count = static_cast<int>(entries.size());
-  state.RefCount = count;
+  state.RefCount = state.KikuchiRefLimit = count;
+  state.BandHKL.allocate(count, 2);
   for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) array->allocate(count + 1);
   for (auto* array : {&state.RefS, &state.RefI, &state.RefA}) array->allocate(count + 1);
   for (int i = 1; i <= count; ++i) {
@@ -48,7 +49,7 @@ inline void set_list(CrystalState& state, const std::vector<ListedReflection>& e
     state.RefH(i) = entry.h;
     state.RefK(i) = entry.k;
     state.RefL(i) = entry.l;
-    state.RefS(i) = entry.s;
+    state.RefS(i) = entry.s == 0 ? to_single(DHKL(state, entry.h, entry.k, entry.l) / 2.0) : entry.s;
     state.RefI(i) = entry.intensity;
   }
 }

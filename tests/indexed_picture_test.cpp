@@ -108,9 +108,7 @@ class IndexedPicture : public testing::TestWithParam<PictureCase> {
 TEST_P(IndexedPicture, SolutionLiesOnTheBandsOfThePicture) {
   const std::string path = saved_pattern();
   const double rotation_deg = state.PatternAngle * 180 / std::numbers::pi;
-  const ProjectedPattern pattern(
-      {state.CellA, state.CellB, state.CellC, state.CellAlpha, state.CellBeta, state.CellGamma}, GetParam().uvw,
-      rotation_deg, {half_opening_deg, 0, 0, 1});
+  const ProjectedPattern pattern(CartesianCell(state), GetParam().uvw, rotation_deg, {half_opening_deg, 0, 0, 1});
 
   answer(path);
   analysis().ImageLoad.click();

@@ -13,29 +13,12 @@ namespace {
 
 using Axis = std::array<int, 3>;
 
-/// Fills the list with some reflections, all of intensity 1.
-void set_list(CrystalState& state, const std::vector<Axis>& reflections) {
-  const int count = static_cast<int>(reflections.size());
-  for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) array->allocate(count + 1);
-  for (auto* array : {&state.RefS, &state.RefI}) array->allocate(count + 1);
-  state.BandHKL.allocate(count, 2);
-  state.RefCount = state.KikuchiRefLimit = count;
-  for (int i = 1; i <= count; ++i) {
-    const auto& [h, k, l] = reflections[static_cast<std::size_t>(i - 1)];
-    state.RefH(i) = h;
-    state.RefK(i) = k;
-    state.RefL(i) = l;
-    state.RefS(i) = to_single(DHKL(state, h, k, l) / 2.0);
-    state.RefI(i) = 1;
-  }
-}
-
 CrystalState silicon_001() {
   auto state = oriented_crystal({5.4307F, 5.4307F, 5.4307F, 90, 90, 90}, {0, 0, 1});
   state.WaveLength = 0.0859F;
   state.CamAcquisition = 37;
   state.CamXYRatio = 1;
-  std::vector<Axis> reflections;
+  std::vector<ListedReflection> reflections;
   for (const int a : {-2, 2}) {
     for (const int b : {-2, 2}) {
       reflections.push_back({a, b, 0});
