@@ -22,84 +22,59 @@ TEST(Records, FieldsRunOverLinesOfAllKinds) {
 }
 
 TEST(Records, NumbersTakeWhatAFieldStartsWith) {
-  RecordReader file("x", "1 2,12abc,-.5E1,1d2,2.5,\"7\",.333333343");
-  EXPECT_EQ(file.next_single("x"), 1);
-  EXPECT_EQ(file.next_integer("n"), 12);
-  EXPECT_EQ(file.next_single("x"), -5);
-  EXPECT_EQ(file.next_single("x"), 100);
-  EXPECT_EQ(file.next_integer("n"), 2) << "halves go to the even number";
-  EXPECT_EQ(file.next_integer("n"), 7);
-  EXPECT_EQ(file.next_single("x"), 1.0F / 3.0F);
+  RecordReader file("x", "1 2,-.5E1,.333333343,12abc,2.5,\"7\"");
+  for (const Single number : {1.0F, -5.0F, 1.0F / 3.0F}) EXPECT_EQ(file.next_single("x"), number);
+  for (const int number : {12, 2, 7}) EXPECT_EQ(file.next_integer("n"), number) << "halves go to the even number";
 }
 
-struct BrokenCase {
-  const char* name;
-  const char* text;
-  const char* message;  ///< of reading a string, a Single and an Integer
-};
-class BrokenRecord : public testing::TestWithParam<BrokenCase> {};
-TEST_P(BrokenRecord, NamesFileLineAndField) {
-  const auto message = failure_of([] {
-    RecordReader file("my.cry", GetParam().text);
-    (void)file.next_string("the label");
-    (void)file.next_single("x");
-    (void)file.next_integer("the count");
-  });
-  EXPECT_EQ(message, GetParam().message);
-}
-INSTANTIATE_TEST_SUITE_P(
-    Rows, BrokenRecord,
-    testing::Values(
-        BrokenCase{"empty_file", "", "my.cry, line 1: the file ends where the label is expected"},
-        BrokenCase{"too_short", "a\r\n1\r\n\r\n", "my.cry, line 3: the file ends where the count is expected"},
-        BrokenCase{"no_number", "a\nb,2", "my.cry, line 2: x is \"b\", a number is expected"},
-        BrokenCase{"empty_field", "a,,2", "my.cry, line 1: x is \"\", a number is expected"},
-        BrokenCase{"no_whole_number", "a,1\n\n\nq", "my.cry, line 2: the count is \"\", a whole number is expected"},
-        BrokenCase{"too_large", "a,1,40000",
-                   "my.cry, line 1: the count is \"40000\", it must be within -32768 to 32767"},
-        BrokenCase{"beyond_single", "a,1e40,1",
-                   "my.cry, line 1: x is \"1e40\", too large for a Single (below 3.4E+38)"},
-        BrokenCase{"open_quote", "\"a,1\n2", "my.cry, line 1: the quote before the label has no closing quote"}),
-    [](const auto& row) { return std::string(row.param.name); });
-
-TEST(Records, WrittenLinesAreReadBack) {
-  const ScratchFolder folder;
-  RecordWriter file(folder.path("out"));
-  file.field("a, b").field(0.1F).field(Integer(-3)).field(Long(100000)).end_line();
-  file.field(1.0F / 3.0F).end_line();
-  file.commit();
-  EXPECT_EQ(folder.read("out"), "\"a, b\",.1,-3,100000\r\n.33333334\r\n");
+TEST(Records, WhenBrokenAreToldWithFileLineAndField) {
+  struct Row {
+    const char* text;  ///< read as a string, a Single and an Integer
+    const char* message;
+  };
+  for (const auto& row : {Row{"", "line 1: the file ends where the label is expected"},
+                          Row{"a\r\n1\r\n\r\n", "line 3: the file ends where the count is expected"},
+                          Row{"a\nb,2", "line 2: x is \"b\", a number is expected"},
+                          Row{"a,1\n\n\nq", "line 2: the count is \"\", a whole number is expected"},
+                          Row{"a,1,40000", "line 1: the count is \"40000\", it must be within -32768 to 32767"},
+                          Row{"a,1e40,1", "line 1: x is \"1e40\", too large for a Single (below 3.4E+38)"},
+                          Row{"\"a,1\n2", "line 1: the quote before the label has no closing quote"}}) {
+    const auto message = failure_of([&row] {
+      RecordReader file("my.cry", row.text);
+      (void)file.next_string("the label");
+      (void)file.next_single("x");
+      (void)file.next_integer("the count");
+    });
+    EXPECT_EQ(message, std::string("my.cry, ") + row.message);
+  }
 }
 
 TEST(AtomicFiles, LeaveTheOldFileUnlessCommitted) {
   const ScratchFolder folder;
   folder.write("out", "old");
-  {
+  for (const bool committed : {false, true}) {
     RecordWriter file(folder.path("out"));
+    file.field("a, b").field(0.1F).field(Integer(-3)).field(Long(100000)).end_line();
     file.field("new").end_line();
+    if (committed) file.commit();
+    EXPECT_EQ(folder.read("out"), committed ? "\"a, b\",.1,-3,100000\r\n\"new\"\r\n" : "old");
   }
-  EXPECT_EQ(folder.read("out"), "old");
   EXPECT_EQ(folder.entries(), 1U) << "a temporary file was left behind";
-  RecordWriter file(folder.path("out"));
-  file.field("new").end_line();
-  file.commit();
-  EXPECT_EQ(folder.read("out"), "\"new\"\r\n");
-  EXPECT_EQ(folder.entries(), 1U);
 }
 
 TEST(AtomicFiles, KeepPermissionsAndSymbolicLinks) {
   const ScratchFolder folder;
   namespace fs = std::filesystem;
   folder.write("real", "old");
-  fs::permissions(folder.path("real"), fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+  const auto permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+  fs::permissions(folder.path("real"), permissions);
   fs::create_symlink("real", folder.path("link"));
   AtomicFile file(folder.path("link"));
   file.write("new");
   file.commit();
   EXPECT_EQ(folder.read("real"), "new");
   EXPECT_TRUE(fs::is_symlink(folder.path("link")));
-  EXPECT_EQ(fs::status(folder.path("real")).permissions(),
-            fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+  EXPECT_EQ(fs::status(folder.path("real")).permissions(), permissions);
 }
 
 TEST(Files, ThatCantBeOpenedAreNamed) {
