@@ -142,8 +142,12 @@ double shortest_distance(CrystalState& crystal) {
   for (int m = 1; m <= crystal.NCell.value(); ++m) {
     for (int n = 1; n <= crystal.NCell.value(); ++n) {
       for (int shift = 0; shift < 27; ++shift) {
-        Cartesian v{shift % 3 - 1.0, shift / 3 % 3 - 1.0, shift / 9 - 1.0};
-        for (int i = 1; i <= 3; ++i) v.at(static_cast<std::size_t>(i - 1)) += crystal.UCPos(n, i) - crystal.UCPos(m, i);
+        const std::array cell_of_n{shift % 3 - 1, shift / 3 % 3 - 1, shift / 9 - 1};
+        Cartesian v{};
+        for (int i = 1; i <= 3; ++i) {
+          const auto at = static_cast<std::size_t>(i - 1);
+          v[at] = double{crystal.UCPos(n, i)} + cell_of_n[at] - double{crystal.UCPos(m, i)};
+        }
         const auto bond = cell.direction(v);
         const double d = std::sqrt(dot(bond, bond));
         if (d > 0.001) shortest = std::min(shortest, d);  // atoms that share a site lie at 0

@@ -10,6 +10,7 @@
 #include <sstream>
 #include <string>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "core/space_group.h"
@@ -29,7 +30,10 @@ using Matrix = std::array<Vector, 3>;
 struct Operator {
   Matrix rotation{};
   Vector translation{};
-  auto operator<=>(const Operator&) const = default;
+  bool operator==(const Operator&) const = default;
+  bool operator<(const Operator& other) const {
+    return std::tie(rotation, translation) < std::tie(other.rotation, other.translation);
+  }
 };
 
 const Operator identity{{{{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}}, {0, 0, 0}};
@@ -65,8 +69,9 @@ int determinant(const Matrix& m) {
 /// Order of the rotation, from its trace; that of -n is told as n.
 int axis_order(const Operator& op) {
   const int trace = op.rotation[0][0] + op.rotation[1][1] + op.rotation[2][2];
+  const int place = determinant(op.rotation) * trace + 1;
   constexpr std::array orders{2, 3, 4, 6, 1};  // for traces -1 to 3
-  return orders.at(static_cast<std::size_t>(determinant(op.rotation) * trace + 1));
+  return orders.at(static_cast<std::size_t>(place));
 }
 
 bool is_centre(const Operator& op) { return determinant(op.rotation) < 0 && axis_order(op) == 1; }
