@@ -10,8 +10,7 @@
 namespace zol::pattern3 {
 namespace {
 
-constexpr Colour black = RGB(0, 0, 0);
-constexpr Colour red = RGB(255, 0, 0);
+using namespace colours;
 
 void allocate_for_wanted(Pattern3Form& form) {
   const int rows = triple_rows(form.NhklWanted);

@@ -7,9 +7,7 @@
 namespace zol::pattern3 {
 namespace {
 
-constexpr Colour red = RGB(255, 0, 0);
-constexpr Colour green = RGB(0, 255, 0);
-constexpr Colour blue = RGB(0, 0, 255);
+using namespace colours;
 
 /// Angles of silicon between <001> and the second pole, degrees.
 constexpr double angle_to_112 = 35.264;

@@ -8,7 +8,7 @@
 #include "kikuchi/kikuchi_operations.h"
 #include "reflections/main1_form.h"
 #include "reflections/main1_operations.h"
-#include "spots/picture_prompts.h"
+#include "spots/picture_controls.h"
 #include "spots/zone_calculation.h"
 
 namespace zol::pattern2 {
@@ -69,7 +69,7 @@ void take_angles(Workbench& bench, const Pattern2Form& form) {
 
 /// A red disc at the typed direction.
 void mark_angles(const CrystalState& state, Pattern2Form& form) {
-  constexpr Colour red = RGB(255, 0, 0);
+  using colours::red;
   const double distance = std::tan(program_pi / 2 - state.TiltTheta);
   const Single x = to_single(distance * std::cos(double{state.TiltPhi}));
   const Single y = to_single(distance * std::sin(double{state.TiltPhi}));
@@ -103,7 +103,7 @@ void Form_Load(Workbench& bench, Pattern2Form& form) {
   form.Text14.set_text(plain_text(bench.state.CamXShift));
   form.Text15.set_text(plain_text(bench.state.CamYShift));
   form.Text1.set_text(plain_text(bench.state.CamAcquisition));
-  form.RotationPitch = 5;
+  form.RotationPitch = first_pitch_deg;
   form.ShiftPitch = to_single(bench.state.CamAcquisition / 10.0);
   form.ZoomRatio = to_single(1.4142);
   CrystalState& state = main1_state(bench);

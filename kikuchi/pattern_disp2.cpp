@@ -6,16 +6,13 @@
 #include "kikuchi/zaxis_form.h"
 #include "reflections/main1_form.h"
 #include "spots/grey_scale.h"
-#include "spots/picture_prompts.h"
+#include "spots/picture_controls.h"
 
 namespace zol {
 namespace {
 
-constexpr Colour white = RGB(255, 255, 255);
-constexpr Colour black = RGB(0, 0, 0);
-constexpr Colour blue = RGB(0, 0, 255);
-constexpr Colour green = RGB(0, 255, 0);
-constexpr Colour red = RGB(255, 0, 0);
+using namespace colours;
+
 constexpr double mark_size = 0.01;  // of the reach
 
 void set_scale(Canvas& picture, const GnomonicView& view) {

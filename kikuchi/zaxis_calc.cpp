@@ -11,12 +11,10 @@
 namespace zol {
 namespace {
 
-constexpr Colour blue = RGB(0, 0, 255);
+using namespace colours;
+
 constexpr Colour pale_blue = RGB(127, 127, 255);
-constexpr Colour black = RGB(0, 0, 0);
 constexpr Colour cyan = RGB(0, 255, 255);
-constexpr Colour red = RGB(255, 0, 0);
-constexpr Colour white = RGB(255, 255, 255);
 
 Integer index_limit(const TextBox& box) { return box.text().empty() ? Integer(1) : Integer::rounded(Val(box.text())); }
 

@@ -36,7 +36,7 @@ void Text6_KeyPress(Workbench& bench, ZaxisForm& form, int& key) {
 }
 
 void Command1_Click(Workbench& /*bench*/, ZaxisForm& form) {
-  constexpr Colour red = RGB(255, 0, 0);
+  using colours::red;
   constexpr double disc = 0.012;
   const Single phi = to_single(Val(form.Text7.text()) * degree);
   const Single theta = to_single((90.0 - Val(form.Text8.text())) * degree);

@@ -1,13 +1,13 @@
 // The window of the electron Debye rings.
 #pragma once
 
-#include "powder/interference.h"
+#include "powder/powder_pattern.h"
 #include "shell/window_services.h"
 #include "shell/workbench.h"
 
 namespace zol {
 
-struct DringForm : Window {
+struct DringForm : Window, PowderPattern {
   static constexpr auto window_name = "Dring";
 
   explicit DringForm(Workbench& bench);
@@ -40,16 +40,7 @@ struct DringForm : Window {
   ProgressBar ProgressBar1{*this, "ProgressBar1"};
   FileDialog CommonDialog1;
 
-  Single DStarMax = 0;    ///< end of the profile, radius of the ring picture, 1/angstrom
-  Single HalfWidth = 0;   ///< full width at half maximum, 1/angstrom
-  Single DisplayMax = 0;  ///< drawn at full height and brightness; 0 asks for the largest sample
-  Single CellsP = 0, CellsQ = 0, CellsR = 0;
-  BoundedArray<Single> Bins{"Bins"};          ///< histogram over 1/d
-  BoundedArray<Single> Profile{"Profile"};    ///< the pattern, samples 0 to 1000
-  BoundedArray<Single> BinsCopy{"BinsCopy"};  ///< for a smoothing of no passes: allocated, never read
-  Integer BinCount;                           ///< highest bin that the lines are made from
-
-  [[nodiscard]] CrystalliteSize size() const { return {CellsP, CellsQ, CellsR}; }
+  Single DStarMax = 0;  ///< end of the profile, radius of the ring picture, 1/angstrom
 };
 
 }  // namespace zol

@@ -9,9 +9,7 @@
 namespace zol {
 namespace {
 
-constexpr Colour white = RGB(255, 255, 255);
-constexpr Colour black = RGB(0, 0, 0);
-constexpr Colour red = RGB(255, 0, 0);
+using namespace colours;
 
 /// Shows the settings. Writing a box runs its change handler: the field is then what the text says.
 void write_settings(DringForm& form) {
@@ -62,15 +60,7 @@ DringForm::DringForm(Workbench& bench)
       CommonDialog1(bench.services) {
   Picture2.set_solid_fill(false);
   fields().add("DStarMax", DStarMax);
-  fields().add("HalfWidth", HalfWidth);
-  fields().add("DisplayMax", DisplayMax);
-  fields().add("CellsP", CellsP);
-  fields().add("CellsQ", CellsQ);
-  fields().add("CellsR", CellsR);
-  fields().add("Bins", Bins);
-  fields().add("Profile", Profile);
-  fields().add("BinsCopy", BinsCopy);
-  fields().add("BinCount", BinCount);
+  show_fields(fields());
 }
 
 void DRCalc(Workbench& bench) {
@@ -78,11 +68,7 @@ void DRCalc(Workbench& bench) {
   auto& form = bench.windows.use<DringForm>();
   write_settings(form);
   const Hourglass hourglass(form);
-  form.BinCount = bin_count(state.Dmin);
-  const int last_bin = highest_bin(form.BinCount, 10000);
-  form.Bins.allocate(last_bin);
-  form.BinsCopy.allocate(last_bin);
-  form.Profile.allocate(last_sample);
+  form.allocate(state.Dmin, 10000);
   const auto grid = interference_grid(state, form.size());
   form.Label6.set_caption(grid_text(grid));
   const InterferenceTable table(grid, form.size());

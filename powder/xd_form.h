@@ -1,14 +1,14 @@
 // The window of the X-ray powder pattern.
 #pragma once
 
-#include "powder/interference.h"
 #include "powder/line_profile.h"
+#include "powder/powder_pattern.h"
 #include "shell/window_services.h"
 #include "shell/workbench.h"
 
 namespace zol {
 
-struct XdForm : Window {
+struct XdForm : Window, PowderPattern {
   static constexpr auto window_name = "Xd";
 
   explicit XdForm(Workbench& bench);
@@ -40,19 +40,11 @@ struct XdForm : Window {
   FileDialog CommonDialog1;
 
   Single TwoThetaMin = 0, TwoThetaMax = 0;  ///< degrees
-  Single HalfWidth = 0;                     ///< full width at half maximum, degrees
   Single GaussianRatio = 0;                 ///< per cent
   Single PeakMax = 0;                       ///< largest sample of the last calculation, what per cents refer to
-  Single DisplayMax = 0;                    ///< drawn at full height
-  Single CellsP = 0, CellsQ = 0, CellsR = 0;
-  BoundedArray<Single> Bins{"Bins"};          ///< histogram over 1/d
-  BoundedArray<Single> Profile{"Profile"};    ///< the pattern, samples 0 to 1000
-  BoundedArray<Single> BinsCopy{"BinsCopy"};  ///< for a smoothing of no passes: allocated, never read
-  Integer BinCount;                           ///< highest bin that the lines are made from
 
   [[nodiscard]] TwoThetaRange range() const { return {TwoThetaMin, TwoThetaMax}; }
   [[nodiscard]] PseudoVoigt line() const { return {HalfWidth, GaussianRatio}; }
-  [[nodiscard]] CrystalliteSize size() const { return {CellsP, CellsQ, CellsR}; }
 };
 
 }  // namespace zol

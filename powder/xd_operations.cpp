@@ -40,17 +40,9 @@ XdForm::XdForm(Workbench& bench)
       CommonDialog1(bench.services) {
   fields().add("TwoThetaMin", TwoThetaMin);
   fields().add("TwoThetaMax", TwoThetaMax);
-  fields().add("HalfWidth", HalfWidth);
   fields().add("GaussianRatio", GaussianRatio);
   fields().add("PeakMax", PeakMax);
-  fields().add("DisplayMax", DisplayMax);
-  fields().add("CellsP", CellsP);
-  fields().add("CellsQ", CellsQ);
-  fields().add("CellsR", CellsR);
-  fields().add("Bins", Bins);
-  fields().add("Profile", Profile);
-  fields().add("BinsCopy", BinsCopy);
-  fields().add("BinCount", BinCount);
+  show_fields(fields());
 }
 
 void xd::draw(XdForm& form, Single full_height) {
@@ -71,11 +63,7 @@ void xd::redraw(XdForm& form) {
 void XDCalc(Workbench& bench) {
   const CrystalState& state = main1_state(bench);
   auto& form = bench.windows.use<XdForm>();
-  form.BinCount = bin_count(state.Dmin);
-  const int last_bin = highest_bin(form.BinCount, 1000);
-  form.Bins.allocate(last_bin);
-  form.BinsCopy.allocate(last_bin);
-  form.Profile.allocate(last_sample);
+  form.allocate(state.Dmin, 1000);
   const auto grid = interference_grid(state, form.size());
   form.Label12.set_caption(grid_text(grid));
   const Integer points = grid_points(grid);

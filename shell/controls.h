@@ -21,6 +21,13 @@ class Window;
 /// Colour packed as r + 256 g + 65536 b.
 using Colour = std::int32_t;
 [[nodiscard]] constexpr Colour RGB(int r, int g, int b) { return r + 256 * g + 65536 * b; }
+namespace colours {
+inline constexpr Colour black = RGB(0, 0, 0);
+inline constexpr Colour white = RGB(255, 255, 255);
+inline constexpr Colour red = RGB(255, 0, 0);
+inline constexpr Colour green = RGB(0, 255, 0);
+inline constexpr Colour blue = RGB(0, 0, 255);
+}  // namespace colours
 
 enum class MousePointer { Default = 0, CrossHair = 2, Hourglass = 11 };
 

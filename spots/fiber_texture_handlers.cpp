@@ -3,37 +3,28 @@
 #include "core/number_text.h"
 #include "reflections/main1_form.h"
 #include "spots/pattern_disp.h"
-#include "spots/picture_prompts.h"
+#include "spots/picture_controls.h"
 
 namespace zol::fiber_texture {
 namespace {
 
-constexpr double zoom_factor = 1.4142;
-
-void set_half_width(Workbench& bench, FiberTextureForm& form, double half_width) {
-  bench.state.CamAcquisition = to_single(half_width);
-  // The width is rounded by going through the box.
-  form.Text1.set_text(Format(2.0 * bench.state.CamAcquisition, "##0.###"));
+void zoom(Workbench& bench, FiberTextureForm& form, double half_width) {
+  set_half_width(bench, form.Text1, half_width);
   PatternDisp3(bench);
 }
 
 void rotate_by(Workbench& bench, double angle_rad) {
-  CrystalState& state = main1_state(bench);
-  state.PatternAngle = to_single(state.PatternAngle + angle_rad);
+  turn_pattern(bench, angle_rad);
   PatternDisp3(bench);
 }
-
-double pitch_rad(const FiberTextureForm& form) { return form.RotationPitch / 180.0 * program_pi; }
 
 Integer whole_number_in(const TextBox& box) { return Integer::rounded(Val(box.text())); }
 
 }  // namespace
 
 void Form_Load(Workbench& bench, FiberTextureForm& form) {
-  form.RotationPitch = 5;
-  if (bench.state.CamAcquisition != 0) return;
-  bench.state.CamAcquisition = 1;
-  form.Text1.set_text(plain_text(2.0 * bench.state.CamAcquisition));
+  form.RotationPitch = first_pitch_deg;
+  set_first_width(bench, form.Text1);
 }
 
 void Text1_Change(Workbench& bench, FiberTextureForm& form) {
@@ -62,19 +53,27 @@ void Text5_KeyPress(Workbench& bench, FiberTextureForm& form, int& key) {
 void Command8_Click(Workbench& bench, FiberTextureForm& /*form*/) { PatternDisp3(bench); }
 
 void Command2_Click(Workbench& bench, FiberTextureForm& form) {
-  set_half_width(bench, form, bench.state.CamAcquisition / zoom_factor);
+  zoom(bench, form, bench.state.CamAcquisition / zoom_factor);
 }
 void Command3_Click(Workbench& bench, FiberTextureForm& form) {
-  set_half_width(bench, form, bench.state.CamAcquisition * zoom_factor);
+  zoom(bench, form, bench.state.CamAcquisition * zoom_factor);
 }
 
 // The angle runs the other way than in the spot pattern.
-void Command6_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, -pitch_rad(form)); }
-void Command9_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, -pitch_rad(form) * 5.0); }
-void Command11_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, -pitch_rad(form) / 5.0); }
-void Command7_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, pitch_rad(form)); }
-void Command10_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, pitch_rad(form) * 5.0); }
-void Command12_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, pitch_rad(form) / 5.0); }
+void Command6_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, -pitch_rad(form.RotationPitch)); }
+void Command9_Click(Workbench& bench, FiberTextureForm& form) {
+  rotate_by(bench, -pitch_rad(form.RotationPitch) * 5.0);
+}
+void Command11_Click(Workbench& bench, FiberTextureForm& form) {
+  rotate_by(bench, -pitch_rad(form.RotationPitch) / 5.0);
+}
+void Command7_Click(Workbench& bench, FiberTextureForm& form) { rotate_by(bench, pitch_rad(form.RotationPitch)); }
+void Command10_Click(Workbench& bench, FiberTextureForm& form) {
+  rotate_by(bench, pitch_rad(form.RotationPitch) * 5.0);
+}
+void Command12_Click(Workbench& bench, FiberTextureForm& form) {
+  rotate_by(bench, pitch_rad(form.RotationPitch) / 5.0);
+}
 
 void Command5_Click(Workbench& bench, FiberTextureForm& form) {
   form.CommonDialog1.printer_setup();

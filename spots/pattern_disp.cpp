@@ -4,7 +4,7 @@
 #include "reflections/main1_form.h"
 #include "spots/index_label.h"
 #include "spots/pattern_form.h"
-#include "spots/picture_prompts.h"
+#include "spots/picture_controls.h"
 #include "spots/spot_pattern.h"
 
 namespace zol {

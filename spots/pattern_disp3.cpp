@@ -4,7 +4,7 @@
 #include "spots/fiber_texture_form.h"
 #include "spots/index_label.h"
 #include "spots/pattern_disp.h"
-#include "spots/picture_prompts.h"
+#include "spots/picture_controls.h"
 
 namespace zol {
 namespace {

@@ -3,17 +3,13 @@
 #include "core/number_text.h"
 #include "reflections/main1_form.h"
 #include "spots/pattern_disp.h"
-#include "spots/picture_prompts.h"
+#include "spots/picture_controls.h"
 
 namespace zol::pattern {
 namespace {
 
-constexpr double zoom_factor = 1.4142;
-
-void set_half_width(Workbench& bench, PatternForm& form, double half_width) {
-  bench.state.CamAcquisition = to_single(half_width);
-  // The width is rounded by going through the box.
-  form.Text1.set_text(Format(2.0 * bench.state.CamAcquisition, "##0.###"));
+void zoom(Workbench& bench, PatternForm& form, double half_width) {
+  set_half_width(bench, form.Text1, half_width);
   PatternDisp(bench);
 }
 
@@ -23,12 +19,9 @@ void step_level(Workbench& bench, PatternForm& form, double step) {
 }
 
 void rotate_by(Workbench& bench, double angle_rad) {
-  CrystalState& state = main1_state(bench);
-  state.PatternAngle = to_single(state.PatternAngle + angle_rad);
+  turn_pattern(bench, angle_rad);
   PatternDisp(bench);
 }
-
-double pitch_rad(const PatternForm& form) { return form.RotationPitch / 180.0 * program_pi; }
 
 void scale_greys(Workbench& bench, double factor) {
   CrystalState& state = main1_state(bench);
@@ -40,10 +33,8 @@ void scale_greys(Workbench& bench, double factor) {
 
 void Form_Load(Workbench& bench, PatternForm& form) {
   form.Option2.set_on(true);
-  form.RotationPitch = 5;
-  if (bench.state.CamAcquisition != 0) return;
-  bench.state.CamAcquisition = 1;
-  form.Text1.set_text(plain_text(2.0 * bench.state.CamAcquisition));
+  form.RotationPitch = first_pitch_deg;
+  set_first_width(bench, form.Text1);
 }
 
 void Text1_Change(Workbench& bench, PatternForm& form) {
@@ -69,18 +60,18 @@ void Command5_Click(Workbench& bench, PatternForm& form) { step_level(bench, for
 void Command14_Click(Workbench& bench, PatternForm& form) { step_level(bench, form, -1.0); }
 
 void Command2_Click(Workbench& bench, PatternForm& form) {
-  set_half_width(bench, form, bench.state.CamAcquisition / zoom_factor);
+  zoom(bench, form, bench.state.CamAcquisition / zoom_factor);
 }
 void Command3_Click(Workbench& bench, PatternForm& form) {
-  set_half_width(bench, form, bench.state.CamAcquisition * zoom_factor);
+  zoom(bench, form, bench.state.CamAcquisition * zoom_factor);
 }
 
-void Command6_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, pitch_rad(form)); }
-void Command9_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, pitch_rad(form) * 5.0); }
-void Command11_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, pitch_rad(form) / 5.0); }
-void Command7_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, -pitch_rad(form)); }
-void Command10_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, -pitch_rad(form) * 5.0); }
-void Command12_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, -pitch_rad(form) / 5.0); }
+void Command6_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, pitch_rad(form.RotationPitch)); }
+void Command9_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, pitch_rad(form.RotationPitch) * 5.0); }
+void Command11_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, pitch_rad(form.RotationPitch) / 5.0); }
+void Command7_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, -pitch_rad(form.RotationPitch)); }
+void Command10_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, -pitch_rad(form.RotationPitch) * 5.0); }
+void Command12_Click(Workbench& bench, PatternForm& form) { rotate_by(bench, -pitch_rad(form.RotationPitch) / 5.0); }
 
 void Command4_Click(Workbench& bench, PatternForm& /*form*/) { scale_greys(bench, 0.5); }
 void Command13_Click(Workbench& bench, PatternForm& /*form*/) { scale_greys(bench, 2.0); }

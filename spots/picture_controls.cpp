@@ -1,4 +1,4 @@
-#include "spots/picture_prompts.h"
+#include "spots/picture_controls.h"
 
 #include "core/number_text.h"
 #include "reflections/main1_form.h"
@@ -48,6 +48,24 @@ bool ask_image_size(Workbench& bench, Canvas& picture) {
   picture.set_height(twips.value());
   return true;
 }
+
+void set_half_width(Workbench& bench, TextBox& width, double half_width) {
+  bench.state.CamAcquisition = to_single(half_width);
+  width.set_text(Format(2.0 * bench.state.CamAcquisition, "##0.###"));
+}
+
+void set_first_width(Workbench& bench, TextBox& width) {
+  if (bench.state.CamAcquisition != 0) return;
+  bench.state.CamAcquisition = 1;
+  width.set_text(plain_text(2.0 * bench.state.CamAcquisition));
+}
+
+void turn_pattern(Workbench& bench, double angle_rad) {
+  CrystalState& state = main1_state(bench);
+  state.PatternAngle = to_single(state.PatternAngle + angle_rad);
+}
+
+double pitch_rad(Single pitch_deg) { return pitch_deg / 180.0 * program_pi; }
 
 std::optional<double> exponent_in(const TextBox& box) {
   if (box.text().empty()) return std::nullopt;
