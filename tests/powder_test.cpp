@@ -326,9 +326,12 @@ TEST(Maxima, StandAboveBothNeighboursFromOnePercentOn) {
   profile(600) = profile(601) = 1;  // a flat top is none
   profile(700) = 0.01F;             // just one per cent
   profile(999) = 0.7F;
-  profile(1000) = 0.8F;  // the last sample is none, and 999 lies below it
+  profile(1000) = 0.8F;  // 999 lies below it
   EXPECT_EQ(maxima(profile, 1), (std::vector{2, 4, 700, 997}));
   EXPECT_EQ(maxima(profile, 0.5F), (std::vector{2, 4, 500, 700, 997})) << "the threshold goes with the reference";
+  profile(1) = 0.7F;
+  profile(1000) = 0;
+  EXPECT_EQ(maxima(profile, 1), (std::vector{4, 700, 997, 999})) << "sample 1 is none either";
   EXPECT_EQ(failure_of([&] { (void)maxima(profile, 0); }), "division by zero: the intensity at full height is 0");
 }
 
