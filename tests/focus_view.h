@@ -1,0 +1,23 @@
+// A view that remembers where the focus was sent.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "shell/window.h"
+
+namespace zol {
+
+class FocusView : public WindowView {
+ public:
+  void window_created(Window& window) override { window.set_view(this); }
+  void window_shown(Window& /*window*/) override {}
+  void window_changed(Window& /*window*/) override {}
+  void window_unloaded(Window& /*window*/) override {}
+  void control_changed(Control& /*control*/) override {}
+  void focus_wanted(Control& control) override { wanted.push_back(control.name()); }
+
+  std::vector<std::string> wanted;  ///< names of controls
+};
+
+}  // namespace zol
