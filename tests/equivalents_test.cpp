@@ -4,7 +4,6 @@
 
 #include <array>
 #include <set>
-#include <string>
 #include <vector>
 
 #include "tests/crystals.h"
@@ -64,8 +63,9 @@ TEST(Equivalents, AreTheOrbitOfTheLaueClass) {
       ASSERT_EQ(orbit.size(), row.order);
       const auto triples = equivalent_indices(number, {1, 2, 5});
       EXPECT_EQ(triples.size(), row.order);
-      for (const auto& [h, k, l] : triples)
+      for (const auto& [h, k, l] : triples) {
         orbit.erase({static_cast<int>(h), static_cast<int>(k), static_cast<int>(l)});
+      }
       EXPECT_TRUE(orbit.empty());
     }
   }

@@ -91,50 +91,36 @@ TEST(StructureFactor, OfManyReflectionsIsTheSameToTheBit) {
   }
 }
 
-/// Reflection 200 of a cubic cell of 4 angstroms, s = 0.25, with one atom of sodium.
-struct OneAtom {
-  explicit OneAtom(Single x, Single occupancy, Single b) {
-    state.NAtom = state.NCell = 1;
-    state.UCElement(1) = "Na";
-    state.UCOcc(1) = occupancy;
-    state.UCPos(1, 1) = x;
-    state.UCB(1) = b;
-    set_list(state, {{2, 0, 0, 0}});
-    state.RefB.allocate(1);
-  }
-  /// Sets RefI(1). @returns the columns of the line
-  std::string intensity(double theta, const Radiation& radiation) {
-    std::string line;
+// Reflection 200, s = 0.25, of half an atom that turns it by a quarter. The Lorentz-polarisation factor at theta
+// = 22.675 degrees, (1 + cos^2 2theta) / (sin^2 theta cos theta), is 10.8945.
+TEST(Intensity, OfOneAtomIsTheOneByHand) {
+  auto state = with_table();
+  state.NAtom = state.NCell = 1;
+  state.UCElement(1) = "Na";
+  state.UCPos(1, 1) = 0.125F;
+  state.UCOcc(1) = 0.5F;
+  state.UCB(1) = 2;
+  set_list(state, {{2, 0, 0, 0}});
+  state.RefB.allocate(1);
+  const auto line = [&state](double theta, const Radiation& radiation) {
+    std::string columns;
     ScatteringCell atoms(state, radiation);
-    ReflectionIntensity(state, 1, to_single(theta), radiation, ObservedReflections(state), atoms, line);
-    return line;
-  }
-  CrystalState state = with_table();
-};
+    ReflectionIntensity(state, 1, to_single(theta), radiation, ObservedReflections(state), atoms, columns);
+    return columns;
+  };
+  const double share = 0.5 * std::exp(-2 * 0.0625);
+  EXPECT_EQ(line(0, xrays).size(), 24U) << "no angle, no column I";
+  EXPECT_EQ(state.RefI(1), 0);
+  EXPECT_EQ(line(std::asin(0.25 * 1.542), xrays).size(), 24U + 11);
+  EXPECT_NEAR(state.RefA(1), 0, 1e-5);
+  EXPECT_NEAR(state.RefB(1), share * na_xrays, 1e-5);
+  EXPECT_NEAR(state.RefI(1), std::pow(share * na_xrays, 2) * 10.8945 / 64 / 64 * 100, 1e-4);
 
-TEST(StructureFactor, TurnsWithTheAtom) {
-  OneAtom atom(0.125F, 0.5F, 2);  // a quarter turn
-  StructureFactor(atom.state, 1, xrays);
-  EXPECT_NEAR(atom.state.RefA(1), 0, 1e-5);
-  EXPECT_NEAR(atom.state.RefB(1), 0.5 * na_xrays * std::exp(-2 * 0.0625), 1e-5);
-}
-
-// theta = 22.675 degrees: (1 + cos^2 2theta) / (sin^2 theta cos theta) = 10.8945
-TEST(Intensity, OfXraysHasTheLorentzPolarisationFactor) {
-  OneAtom atom(0, 1, 0);
-  EXPECT_EQ(atom.intensity(0, xrays).size(), 24U) << "no angle, no column I";
-  EXPECT_EQ(atom.state.RefI(1), 0);
-  EXPECT_EQ(atom.intensity(std::asin(0.25 * 1.542), xrays).size(), 24U + 11);
-  EXPECT_NEAR(atom.state.RefI(1), na_xrays * na_xrays * 10.8945 / 64 / 64 * 100, 1e-3);
-}
-
-TEST(Intensity, OfElectronsShowsMoreThanItStores) {
-  OneAtom atom(0, 1, 0);
-  const auto line = atom.intensity(0, electrons);
-  EXPECT_NEAR(atom.state.RefI(1), na_electrons * na_electrons / 0.25 / 64 / 64 / 2 * 1e5, 1e-3);
-  EXPECT_NEAR(std::stod(line.substr(24)), na_electrons * na_electrons / 64 / 64 * 1e5, 6e-4);
-  atom.state.CellVolume = 0;
-  EXPECT_EQ(failure_of([&] { (void)atom.intensity(0, electrons); }), "division by zero: the cell volume is 0");
+  const double shown = std::pow(share * na_electrons, 2) / 64 / 64 * 1e5;
+  EXPECT_NEAR(std::stod(line(0, electrons).substr(24)), shown, 6e-4);
+  EXPECT_NEAR(state.RefI(1), shown / 0.25 / 2, 1e-4) << "what is stored is divided by 2 s";
+  state.CellVolume = 0;
+  EXPECT_EQ(failure_of([&] { (void)line(0, electrons); }), "division by zero: the cell volume is 0");
 }
 
 }  // namespace
