@@ -8,6 +8,7 @@
 #include "spots/fiber_texture_form.h"
 #include "spots/pattern_form.h"
 #include "tests/fake_services.h"
+#include "tests/focus_view.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -27,20 +28,17 @@ class SavingServices : public FakeServices {
   std::vector<std::string> saved;
 };
 
-struct FocusView : WindowView {
-  void window_created(Window& /*window*/) override {}
-  void window_shown(Window& /*window*/) override {}
+struct PointerView : FocusView {
   void window_changed(Window& window) override { pointers.push_back(window.mouse_pointer()); }
-  void window_unloaded(Window& /*window*/) override {}
-  void control_changed(Control& /*control*/) override {}
-  void focus_wanted(Control& control) override { wanted.push_back(control.name()); }
-  std::vector<std::string> wanted;
   std::vector<MousePointer> pointers;
 };
 
 class SpotsWindows : public testing::Test {
  protected:
-  SpotsWindows() { program.start(); }
+  SpotsWindows() {
+    program.windows().set_view(&view);
+    program.start();
+  }
 
   Main1Form& main1() { return program.windows().use<Main1Form>(); }
   PatternForm& pattern() { return program.windows().use<PatternForm>(); }
@@ -51,18 +49,10 @@ class SpotsWindows : public testing::Test {
     services.answers.emplace_back(ZOL_SOURCE_DIR "/data/ZOLDATA/NaCl.cry");
     main1().DATA_LOAD.click();
   }
-  void open_pattern(const char* u, const char* v, const char* w) {
+  void open_pattern() {
     load_rock_salt();
     main1().Command9.click();
-    pattern().Text3.set_text(u);
-    pattern().Text4.set_text(v);
-    pattern().Text5.set_text(w);
-  }
-  void open_fiber() {
-    load_rock_salt("1.5");
-    main1().Command12.click();
-    fiber().Text1.set_text("1.6");
-    fiber().Text3.set_text("1");
+    pattern().Text5.set_text("1");
   }
   template <class Kind>
   static std::vector<Kind> drawn(const Canvas& canvas) {
@@ -73,27 +63,25 @@ class SpotsWindows : public testing::Test {
     return found;
   }
 
+  PointerView view;
   SavingServices services;
   Program program{{ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services};
   CrystalState& state = program.state();
-  ScratchFolder folder;
 };
 
-TEST_F(SpotsWindows, SingleCrystalOpensForAtomsOnlyButSetsTheWidthInAnyCase) {
+TEST_F(SpotsWindows, SingleCrystalOpensForAtomsOnlyAndTheFiberPatternForAnyList) {
   main1().Text15.set_text("0.8");
-  state.DisplayScale = 7;
   main1().Command9.click();
   EXPECT_FALSE(pattern().visible());
-  EXPECT_EQ(pattern().Text1.text(), " 1.25");
-  EXPECT_EQ(state.CamAcquisition, 0.625F);
-  EXPECT_EQ(state.DisplayScale, 0);
-  EXPECT_TRUE(pattern().Option2.on());
-  EXPECT_EQ(pattern().RotationPitch, 5);
-
+  EXPECT_EQ(pattern().Text1.text(), " 1.25") << "in any case";
+  main1().Command12.click();
+  EXPECT_EQ(program.windows().find("FiberTexture"), nullptr);
   load_rock_salt();
   state.NAtom = 0;  // as with observed reflections only
   main1().Command9.click();
   EXPECT_FALSE(pattern().visible());
+  main1().Command12.click();
+  EXPECT_TRUE(fiber().visible());
   state.NAtom = 2;
   main1().Command9.click();
   EXPECT_TRUE(pattern().visible());
@@ -101,39 +89,26 @@ TEST_F(SpotsWindows, SingleCrystalOpensForAtomsOnlyButSetsTheWidthInAnyCase) {
   EXPECT_TRUE(pattern().Picture1.drawing().empty()) << "nothing is drawn before the user asks";
 }
 
-TEST_F(SpotsWindows, FiberPatternOpensOnAList) {
-  main1().Command12.click();
-  EXPECT_EQ(program.windows().find("FiberTexture"), nullptr);
-  load_rock_salt();
-  main1().Command12.click();
-  EXPECT_TRUE(fiber().visible());
-  fiber().Command1.click();
-  EXPECT_FALSE(fiber().visible());
-}
-
-TEST_F(SpotsWindows, LoadRepairsAZeroWidth) {
+TEST_F(SpotsWindows, LoadAndDrawingRepairZeroValuesInTheirOwnWays) {
   state.CamAcquisition = 0;
   EXPECT_EQ(pattern().Text1.text(), "2");
   EXPECT_EQ(state.CamAcquisition, 1);
   EXPECT_EQ(fiber().Text1.text(), "") << "the width is there already";
   EXPECT_EQ(program.windows().find("Main1"), nullptr) << "no field of it was touched";
-}
 
-TEST_F(SpotsWindows, DrawingRepairsZeroValuesInItsOwnWay) {
-  open_pattern("0", "0", "1");
+  open_pattern();
   state.CamAcquisition = 0;
   pattern().Text2.set_text("0.3");
-  pattern().Command8.click();
+  (*main1().operation("PatternDisp"))();
   EXPECT_EQ(pattern().Text2.text(), "0");
   EXPECT_EQ(pattern().Text1.text(), "1");
   EXPECT_EQ(state.CamAcquisition, 0.5F) << "the box halves it";
   EXPECT_EQ(state.SpotScale, 0.015F);
   EXPECT_EQ(pattern().Picture1.user_scale(), (UserScale{-0.5, 0.5, 0.5, -0.5}));
 
-  state.SpotScale = 0;
-  state.CamAcquisition = 0;
+  state.SpotScale = state.CamAcquisition = 0;
   fiber().Text3.set_text("1");
-  fiber().Command8.click();
+  (*main1().operation("PatternDisp3"))();
   EXPECT_EQ(fiber().Text1.text(), "2");
   EXPECT_EQ(state.CamAcquisition, 1);
   EXPECT_EQ(state.SpotScale, 0.01F);
@@ -142,71 +117,37 @@ TEST_F(SpotsWindows, DrawingRepairsZeroValuesInItsOwnWay) {
 }
 
 TEST_F(SpotsWindows, EnterMovesOnAndDraws) {
-  open_pattern("0", "0", "1");
+  open_pattern();
   fiber().Text3.set_text("1");
-  FocusView view;
-  for (Window* window : {static_cast<Window*>(&pattern()), static_cast<Window*>(&fiber())}) window->set_view(&view);
+  view.pointers.clear();
   for (TextBox* box : {&pattern().Text3, &pattern().Text4, &fiber().Text3, &fiber().Text4}) box->type('\r');
   EXPECT_EQ(view.wanted, (std::vector<std::string>{"Text4", "Text5", "Text4", "Text5"}));
-  EXPECT_TRUE(pattern().Picture1.drawing().empty());
+  EXPECT_TRUE(view.pointers.empty());
   pattern().Text5.type('\r');
-  EXPECT_FALSE(pattern().Picture1.drawing().empty());
-  EXPECT_EQ(pattern().Text5.text(), "1");
   fiber().Text5.type('\r');
+  EXPECT_FALSE(pattern().Picture1.drawing().empty());
   EXPECT_FALSE(fiber().Picture1.drawing().empty());
   EXPECT_EQ(view.pointers, (std::vector{MousePointer::Hourglass, MousePointer::Default, MousePointer::Hourglass,
                                         MousePointer::Default}));
-  for (Window* window : {static_cast<Window*>(&pattern()), static_cast<Window*>(&fiber())}) window->set_view(nullptr);
-}
-
-TEST_F(SpotsWindows, DirectBeamStandsOnTheZeroLevelAlone) {
-  open_pattern("0", "0", "1");
-  pattern().Check3.click();
-  pattern().Command8.click();
-  auto discs = drawn<DrawnCircle>(pattern().Picture1);
-  EXPECT_EQ(discs.front().x, 0);
-  EXPECT_FLOAT_EQ(to_single(discs.front().radius), 0.0075F);
-  EXPECT_FLOAT_EQ(to_single(discs[1].radius), 0.00375F) << "half of it";
-  EXPECT_EQ(drawn<DrawnText>(pattern().Picture1).front().text, "0 0 0");
-
-  pattern().Command5.click();
-  EXPECT_EQ(pattern().Text2.text(), "1");
-  EXPECT_EQ(state.Level, 1);
-  discs = drawn<DrawnCircle>(pattern().Picture1);
-  ASSERT_EQ(discs.size(), 24U);
-  for (const auto& disc : discs) EXPECT_GT(std::hypot(disc.x, disc.y), 0.1);
-  for (const auto& text : drawn<DrawnText>(pattern().Picture1)) {
-    EXPECT_EQ(text.text.substr(text.text.size() - 3), " 1 ") << "the first level";
-  }
-  pattern().Command14.click();
-  pattern().Command14.click();
-  EXPECT_EQ(pattern().Text2.text(), "-1");
-  EXPECT_EQ(drawn<DrawnText>(pattern().Picture1).front().text, "-5 -1 -1 ");
 }
 
 TEST_F(SpotsWindows, ZoomRoundsThroughItsBox) {
-  open_pattern("0", "0", "1");
-  pattern().Command2.click();
-  EXPECT_EQ(pattern().Text1.text(), "0.707");
-  EXPECT_EQ(state.CamAcquisition, 0.3535F);
-  pattern().Command3.click();
-  EXPECT_EQ(pattern().Text1.text(), "1.");
-  EXPECT_EQ(state.CamAcquisition, 0.5F);
+  open_pattern();
+  fiber().Text3.set_text("1");
+  const auto width_after = [](const CommandButton& button, const TextBox& width) {
+    button.click();
+    return width.text();
+  };
+  EXPECT_EQ(width_after(pattern().Command2, pattern().Text1), "0.707");
+  EXPECT_EQ(width_after(pattern().Command3, pattern().Text1), "1.");
   pattern().Text1.set_text("0.0006");  // below half a unit of the third decimal after the zoom
-  pattern().Command2.click();
-  EXPECT_EQ(pattern().Text1.text(), "1") << "a width of 0 is repaired";
-  EXPECT_EQ(state.CamAcquisition, 0.5F);
-
-  open_fiber();
-  fiber().Command2.click();
-  EXPECT_EQ(fiber().Text1.text(), "1.131");
-  EXPECT_EQ(state.CamAcquisition, 0.5655F);
-  fiber().Command3.click();
-  EXPECT_EQ(fiber().Text1.text(), "1.599");
+  EXPECT_EQ(width_after(pattern().Command2, pattern().Text1), "1") << "a width of 0 is repaired";
+  EXPECT_EQ(width_after(fiber().Command2, fiber().Text1), "0.707");
+  EXPECT_EQ(width_after(fiber().Command3, fiber().Text1), "1.");
 }
 
-TEST_F(SpotsWindows, ButtonsTurnThePattern) {
-  open_pattern("0", "0", "1");
+TEST_F(SpotsWindows, ButtonsTurnThePatternAndGoBelowTheZeroLevel) {
+  open_pattern();
   fiber().Text3.set_text("1");
   struct Row {
     CommandButton& button;
@@ -222,10 +163,15 @@ TEST_F(SpotsWindows, ButtonsTurnThePattern) {
     button.click();
     EXPECT_NEAR(state.PatternAngle, 1 + pitches * 5 * 3.14159 / 180, 1e-6) << button.path();
   }
+  state.PatternAngle = 0;
+  pattern().Check3.click();
+  pattern().Command14.click();
+  EXPECT_EQ(pattern().Text2.text(), "-1");
+  EXPECT_EQ(drawn<DrawnText>(pattern().Picture1).front().text, "-5 -1 -1 ");
 }
 
 TEST_F(SpotsWindows, GreyScaleOutlivesTheAxis) {
-  open_pattern("0", "0", "1");
+  open_pattern();
   pattern().Command8.click();
   const Single first = state.DisplayScale;
   const auto darkest = [this] {
@@ -241,66 +187,67 @@ TEST_F(SpotsWindows, GreyScaleOutlivesTheAxis) {
   pattern().Option1.click();
   pattern().Command8.click();
   EXPECT_EQ(darkest(), RGB(128, 128, 128));  // 255 - Int(255 / 2)
-  const auto of_option = pattern().Picture1.drawing().size();
   pattern().Text6.set_text("1");
   pattern().Option2.click();
   pattern().Command8.click();
   EXPECT_EQ(darkest(), RGB(128, 128, 128)) << "the exponent goes before the options";
-  EXPECT_EQ(pattern().Picture1.drawing().size(), of_option);
-  pattern().Command4.click();  // "UP"
-  EXPECT_EQ(state.DisplayScale, first);
-  pattern().Text5.set_text("0");
   pattern().Text3.set_text("1");
-  pattern().Command8.click();
+  pattern().Command4.click();  // "UP"
   EXPECT_EQ(state.DisplayScale, first) << "a new axis keeps it";
   main1().Command9.click();
   EXPECT_EQ(state.DisplayScale, 0);
 }
 
-TEST_F(SpotsWindows, PromptsShowThePresentValue) {
-  open_pattern("0", "0", "1");
+TEST_F(SpotsWindows, MenusShowThePresentValue) {
+  open_pattern();
+  fiber().Text3.set_text("1");
   pattern().Command8.click();
-  services.answers = {"2.5", "7.5", "", "10", "", "6000", ""};
+  services.answers = {"2.5", "", "7.5", "", "10", "6000", "", "3", "12", "4500", "1.2"};
   pattern().Spotsize.click();
   EXPECT_EQ(state.SpotScale, 0.025F);
+  pattern().Spotsize.click();
+  EXPECT_EQ(state.SpotScale, 0.015F) << "an empty answer is 0, which the drawing repairs";
   pattern().Rpitch.click();
-  EXPECT_EQ(pattern().RotationPitch, 7.5F);
   pattern().Rpitch.click();
   EXPECT_EQ(pattern().RotationPitch, 7.5F) << "cancelled";
   pattern().Fsize.click();
   EXPECT_EQ(pattern().Picture1.font_size(), 10);
-  pattern().Spotsize.click();
-  EXPECT_EQ(state.SpotScale, 0.015F) << "an empty answer is 0, which the drawing repairs";
-  (*pattern().operation("Imagesize"))();
+  for (int i = 0; i < 2; ++i) (*pattern().operation("Imagesize"))();
   EXPECT_EQ(pattern().Picture1.width(), 6000);
   EXPECT_EQ(pattern().Picture1.height(), 6000);
-  (*pattern().operation("Imagesize"))();
-  EXPECT_EQ(pattern().Picture1.width(), 6000);
-  EXPECT_EQ(services.prompts,
+  fiber().Rpitch.click();
+  EXPECT_EQ(fiber().RotationPitch, 3);
+  fiber().Fsize.click();
+  EXPECT_EQ(fiber().Picture1.font_size(), 12);
+  fiber().Imagesize.click();
+  EXPECT_EQ(fiber().Picture1.width(), 4500);
+  EXPECT_FALSE(fiber().Picture1.drawing().empty());
+  fiber().Picture1.clear();
+  pattern().Picture1.clear();
+  fiber().Spotsize.click();
+  EXPECT_TRUE(fiber().Picture1.drawing().empty()) << "the spot pattern is drawn instead";
+  EXPECT_FALSE(pattern().Picture1.drawing().empty());
+  const std::vector<std::string> first(services.prompts.begin(), services.prompts.begin() + 7);
+  EXPECT_EQ(first,
             (std::vector<std::string>{
                 "[1.5] Input Diffraction spot size (% of the picture width)|Diffraction spot size",
+                "[2.5] Input Diffraction spot size (% of the picture width)|Diffraction spot size",
                 "[5] Input Rotation Angle Minimum (deg.)|Rotation Angle Pitch",
                 "[7.5] Input Rotation Angle Minimum (deg.)|Rotation Angle Pitch", "[8.25] input fontsize|Font Size",
-                "[2.5] Input Diffraction spot size (% of the picture width)|Diffraction spot size",
                 "[8500] Input size of image|Image size", "[6000] Input size of image|Image size"}));
+  fiber().Command5.click();
+  EXPECT_EQ(services.printed, std::vector<std::string>{"window NaCl.cry"});
 }
 
 TEST_F(SpotsWindows, FontSizeMustBeANumber) {
-  open_pattern("0", "0", "1");
-  fiber().Text3.set_text("1");
-  struct Row {
-    const char* answer;
-    const char* message;
-  };
+  open_pattern();
   for (const auto& [answer, message] :
-       {Row{"", "the font size is \"\", must be a number of points"},
-        Row{"8 pt", "the font size is \"8 pt\", must be a number of points"},
-        Row{"0", "the font size is 0 points, must be above 0 and at most 2160"},
-        Row{"3000", "the font size is 3000 points, must be above 0 and at most 2160"}}) {
-    for (const MenuItem* item : {&pattern().Fsize, &fiber().Fsize}) {
-      services.answers = {answer};
-      EXPECT_EQ(failure_of([item] { item->click(); }), message + (", while " + item->path() + " was clicked"));
-    }
+       {std::pair{"", "\"\", must be a number of points"}, std::pair{"8 pt", "\"8 pt\", must be a number of points"},
+        std::pair{"0", "0 points, must be above 0 and at most 2160"},
+        std::pair{"3000", "3000 points, must be above 0 and at most 2160"}}) {
+    services.answers = {answer};
+    EXPECT_EQ(failure_of([this] { pattern().Fsize.click(); }),
+              std::string("the font size is ") + message + ", while Pattern.Fsize was clicked");
   }
 }
 
@@ -310,11 +257,10 @@ TEST_F(SpotsWindows, SavedPictureAlwaysGetsTheEnding) {
   pattern().ISAVE.click();
   fiber().Isave.click();
   EXPECT_EQ(services.saved, (std::vector<std::string>{"/tmp/spots.bmp", ".bmp", "/tmp/fiber.bmp.bmp"}));
-  EXPECT_TRUE(services.questions.front().save);
 }
 
 TEST_F(SpotsWindows, CrystalWithoutScatteringFailsAtItsFirstSpot) {
-  open_pattern("0", "0", "1");
+  open_pattern();
   state.NCell = 0;
   EXPECT_EQ(
       failure_of([this] { pattern().Command8.click(); }),
@@ -322,25 +268,15 @@ TEST_F(SpotsWindows, CrystalWithoutScatteringFailsAtItsFirstSpot) {
   EXPECT_EQ(pattern().mouse_pointer(), MousePointer::Default);
 }
 
-TEST_F(SpotsWindows, FiberTextureSortsTheListForEveryone) {
-  open_fiber();
-  const Integer first = state.RefH(1);
-  fiber().Command8.click();
-  EXPECT_EQ(state.RefH(1), first) << "entry 1 stays out";
-  for (int i = 3; i <= state.RefCount.value(); ++i) EXPECT_GE(state.RefI(i), state.RefI(i - 1));
-  const int last = state.RefCount.value();
-  EXPECT_EQ(state.RefH(last).value() * state.RefH(last).value() + state.RefK(last).value() * state.RefK(last).value() +
-                state.RefL(last).value() * state.RefL(last).value(),
-            4)
-      << "{200} is the strongest";
-}
-
-TEST_F(SpotsWindows, FiberTextureAddsUpWhereArcsCross) {
-  open_fiber();
+TEST_F(SpotsWindows, FiberTextureSortsTheListAndAddsUpWhereArcsCross) {
+  load_rock_salt("1.5");
+  fiber().Text1.set_text("1.6");
+  fiber().Text3.set_text("1");
   fiber().Text4.set_text("1");
   fiber().Text5.set_text("1");
   fiber().Check3.click();
   fiber().Command8.click();
+  for (int i = 3; i <= state.RefCount.value(); ++i) EXPECT_GE(state.RefI(i), state.RefI(i - 1));
   const Canvas& picture = fiber().Picture1;
   EXPECT_EQ(drawn<DrawnCircle>(picture).size(), 1U);
   const auto texts = drawn<DrawnText>(picture);
@@ -358,54 +294,12 @@ TEST_F(SpotsWindows, FiberTextureAddsUpWhereArcsCross) {
 }
 
 TEST_F(SpotsWindows, FiberTextureTakesWholeDirections) {
-  (void)main1();
   fiber().Text3.set_text("2.5");
   fiber().Text4.set_text("-1.5");
-  fiber().Text5.set_text("3.6");
   EXPECT_EQ(state.OriginH, 2) << "halves go to the even number";
   EXPECT_EQ(state.OriginK, -2);
-  EXPECT_EQ(state.OriginL, 4);
   EXPECT_EQ(failure_of([this] { fiber().Text3.set_text("33000"); }),
             "overflow: 33000 does not fit an Integer (-32768 to 32767), while FiberTexture.Text3 changed");
-}
-
-TEST_F(SpotsWindows, FiberTextureFailsWithoutADirection) {
-  load_rock_salt();
-  fiber().Text1.set_text("1");
-  EXPECT_EQ(failure_of([this] { fiber().Command8.click(); }),
-            "division by zero: the length of the fiber direction is 0, while FiberTexture.Command8 was clicked");
-}
-
-TEST_F(SpotsWindows, FiberTextureMenus) {
-  open_fiber();
-  pattern().Text5.set_text("1");
-  services.answers = {"4500", "", "12", "3", "1.2"};
-  fiber().Imagesize.click();
-  EXPECT_EQ(fiber().Picture1.width(), 4500);
-  EXPECT_FALSE(fiber().Picture1.drawing().empty());
-  fiber().Picture1.clear();
-  fiber().Imagesize.click();
-  EXPECT_TRUE(fiber().Picture1.drawing().empty()) << "cancelled";
-  fiber().Fsize.click();
-  EXPECT_EQ(fiber().Picture1.font_size(), 12);
-  fiber().Rpitch.click();
-  EXPECT_EQ(fiber().RotationPitch, 3);
-  fiber().Picture1.clear();
-  fiber().Spotsize.click();
-  EXPECT_EQ(state.SpotScale, 0.012F);
-  EXPECT_TRUE(fiber().Picture1.drawing().empty()) << "the spot pattern is drawn instead";
-  EXPECT_FALSE(pattern().Picture1.drawing().empty());
-  fiber().Command5.click();
-  EXPECT_EQ(services.printed, std::vector<std::string>{"window NaCl.cry"});
-}
-
-TEST_F(SpotsWindows, OperationsStandOnMain1) {
-  open_pattern("1", "1", "1");
-  (*main1().operation("PatternDisp"))();
-  EXPECT_FALSE(pattern().Picture1.drawing().empty());
-  fiber().Text3.set_text("1");
-  (*main1().operation("PatternDisp3"))();
-  EXPECT_FALSE(fiber().Picture1.drawing().empty());
 }
 
 }  // namespace
