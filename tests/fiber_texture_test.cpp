@@ -12,16 +12,6 @@
 namespace zol {
 namespace {
 
-/// Cubic, 4 angstroms; RefH numbers the entries of the list from 0 on.
-CrystalState crystal_with(const std::vector<Single>& intensities) {
-  CrystalState state = with_cell(cubic_cell(4));
-  std::vector<ListedReflection> entries;
-  for (std::size_t i = 1; i < intensities.size(); ++i) entries.push_back({static_cast<int>(i), 0, 0, intensities[i]});
-  set_list(state, entries);
-  state.RefI(0) = intensities[0];
-  return state;
-}
-
 // The orders by hand: each place from 2 to the last but one is exchanged with the first smallest intensity below a
 // million that stands at or behind it, or with the one found before when there is none.
 TEST(IntensitySort, ExchangesAllButTwoTheta) {
@@ -33,12 +23,15 @@ TEST(IntensitySort, ExchangesAllButTwoTheta) {
                           Row{{9, 5, 4, 4, 1, 4}, {0, 1, 4, 3, 2, 5}},     // ties lose their order
                           Row{{9, 5, 2e6F, 3e6F}, {2, 1, 0, 3}},           // nothing found: entry 0
                           Row{{9, 5, 2e6F, 3e6F, 7}, {0, 1, 4, 2, 3}}}) {  // place 4, found before
-    auto state = crystal_with(row.intensities);
+    CrystalState state;
     const auto count = static_cast<int>(row.order.size()) - 1;
-    for (auto* array : {&state.RefA, &state.RefB, &state.RefS, &state.RefTwoTheta}) array->allocate(count);
+    state.RefCount = count;
+    for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) array->allocate(count);
+    for (auto* array : {&state.RefI, &state.RefA, &state.RefB, &state.RefS, &state.RefTwoTheta}) array->allocate(count);
     for (int i = 0; i <= count; ++i) {
       state.RefH(i) = state.RefK(i) = state.RefL(i) = i;
-      for (auto* array : {&state.RefA, &state.RefB, &state.RefS, &state.RefTwoTheta}) (*array)(i) = to_single(i);
+      state.RefA(i) = state.RefB(i) = state.RefS(i) = state.RefTwoTheta(i) = to_single(i);
+      state.RefI(i) = row.intensities[static_cast<std::size_t>(i)];
     }
     sort_by_intensity(state);
     for (int i = 0; i <= count; ++i) {
@@ -50,18 +43,17 @@ TEST(IntensitySort, ExchangesAllButTwoTheta) {
     }
   }
   EXPECT_EQ(failure_of([] {
-              auto state = crystal_with({0, 1});
+              CrystalState state;
+              state.RefCount = 1;
               sort_by_intensity(state);
             }),
             "a fiber texture needs two reflections or more, the list has 1");
 }
 
-/// One reflection at the end of a list of three; the fiber axis is [111].
+/// Cubic, 4 angstroms, with one reflection at the end of a list of three; the fiber axis is [111].
 CrystalState textured(int h, int k, int l) {
-  auto state = crystal_with({0, 1, 10, 100});
-  state.RefH(3) = h;
-  state.RefK(3) = k;
-  state.RefL(3) = l;
+  CrystalState state = with_cell(cubic_cell(4));
+  set_list(state, {{1, 0, 0, 1}, {2, 0, 0, 10}, {h, k, l, 100}});
   state.OriginH = state.OriginK = state.OriginL = 1;
   state.CamAcquisition = 0.8F;
   state.Dispersion = 4;
