@@ -72,13 +72,15 @@ TEST_P(CanvasLayers, AreStoredImageAndOverlay) {
   canvas.clear();
   EXPECT_TRUE(canvas.drawing().empty());
   EXPECT_EQ(canvas.point(6, 6), 12345);
+  canvas.set_back_colour(54321);
   EXPECT_EQ(canvas.point(5, 5), red) << "the stored image stays";
   EXPECT_TRUE(canvas.has_raster_base());
   canvas.set_persistent(true);
   canvas.clear();
-  EXPECT_EQ(canvas.point(5, 5), 12345);
+  EXPECT_EQ(canvas.point(5, 5), 54321);
   EXPECT_FALSE(canvas.has_raster_base());
   canvas.set_point(3, 3, red);
+  canvas.set_width(1500);  // the image is made anew from the list
   EXPECT_EQ(canvas.stored_image().pixel(30, 30), red) << "the scale outlives the clear";
 }
 
