@@ -49,12 +49,6 @@ class Matching : public testing::Test {
       bands.BandS(band) = state.RefS(band + 1);
     }
   }
-  void turn_bands(const std::array<double, 3>& by_deg) {
-    for (int band = 0; band < 3; ++band) {
-      const double phi = bands.BandPhi(band) + by_deg[static_cast<std::size_t>(band)] * degree;
-      bands.BandPhi(band) = to_single(phi < 0 ? phi + program_two_pi : phi);
-    }
-  }
 
   std::vector<Solution> match() { return match_bands(state, table, used, bands, settings, solutions, progress); }
   static void expect_direction(const Solution& solution, const Direction& uvw) {
@@ -88,14 +82,6 @@ TEST_F(Matching, FindsTheRowAndTheDirection) {
     with_status.status = status;
     EXPECT_EQ(solution_line(table, with_status).substr(74), words) << status;
   }
-
-  // Three planes of one pattern ask for the same rotation, also around the full turn.
-  const auto rotation_deg = [&] {
-    return in_plane_rotations(state, table, bands, found[0].row, found[0].direction).mean() / degree;
-  };
-  EXPECT_NEAR(rotation_deg(), 30, 0.2);
-  turn_bands({-30.1, -29.9, -29.9});
-  EXPECT_NEAR(rotation_deg(), 0.03, 0.2);
 }
 
 // The mirror image of the pattern has the same triangle with the other sense of rotation.
