@@ -77,13 +77,6 @@ TEST_F(Controls, ListsAndGridsKeepToTheirItems) {
   EXPECT_EQ(form.G.text(3, 2), "x") << "cells keep their place when the table grows";
 }
 
-TEST_F(Controls, FailuresTellWhatWasBeingDone) {
-  form.Text2.on_change = [] { throw RunFailure("the file is missing"); };
-  form.Command1(0).on_click = [&] { form.Text2.set_text("x"); };
-  EXPECT_EQ(failure_of([&] { form.Command1(0).click(); }),
-            "the file is missing, while Sample.Text2 changed, while Sample.Command1(0) was clicked");
-}
-
 TEST(WindowSet, CreatesAtFirstUseAndUnloads) {
   Windows windows;
   int loads = 0;
