@@ -72,16 +72,6 @@ TEST(DirectionPasses, FirstOfEqualTrialsWinsAndTheEdgesAreClamped) {
   EXPECT_EQ(search_direction({300, 0, 300, 0}).answer(), DirectionTrial()) << "nothing comes within 100 of both";
 }
 
-TEST(FoldedAzimuth, LiesWithinAQuarterTurn) {
-  struct Row {
-    Single azimuth, folded;
-  };
-  for (const auto& row : {Row{45, 45}, Row{135, -45}, Row{-100, 80}, Row{-359, 1}, Row{90.5F, -89.5F}}) {
-    EXPECT_NEAR(folded_azimuth(row.azimuth), row.folded, 2e-5) << row.azimuth;
-  }
-  EXPECT_NEAR(std::abs(folded_azimuth(90)), 90, 1e-4) << "the tangent is large but finite";
-}
-
 TEST(UtilityArcCos, IsInRadiansButForItsLowerEdge) {
   EXPECT_NEAR(ArcCos(0), 1.5707963, 2e-7);
   EXPECT_NEAR(ArcCos(-0.5F), 2.0943951, 2e-7);
