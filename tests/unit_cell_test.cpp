@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+
 #include "core/camera_file.h"
 #include "core/data_root.h"
 #include "core/space_group.h"
@@ -49,12 +51,12 @@ TEST(UnitCell, FoldsPositionsWithFloor) {
 }
 
 TEST(UnitCell, MergesImagesNearerThanTheTolerance) {
-  struct Row {
-    std::array<Single, 3> site;
-    int atoms;  ///< in a cell with a centre of symmetry
-  };
-  for (const auto& [site, atoms] : {Row{{0.5F, 0.5F, 0}, 1}, Row{{0.999F, 0, 0}, 1},  // across the edge
-                                    Row{{0.0049F, 0, 0}, 1}, Row{{0.0051F, 0, 0}, 2}, Row{{0, 0, 0.3F}, 2}}) {
+  using At = std::array<Single, 3>;
+  for (const auto& [site, atoms] : {std::pair{At{0.5F, 0.5F, 0}, 1},
+                                    {At{0.999F, 0, 0}, 1},  // across the edge
+                                    {At{0.0049F, 0, 0}, 1},
+                                    {At{0.0051F, 0, 0}, 2},
+                                    {At{0, 0, 0.3F}, 2}}) {
     const auto state = expanded({{"A", "Si", site}}, with_centre);
     EXPECT_EQ(state.NCell, atoms) << site[0] << ' ' << site[2];
     EXPECT_EQ(state.UCPos(1, 1), site[0]) << "the first image is kept, nothing is averaged";
@@ -73,7 +75,6 @@ TEST(UnitCell, MergesOnlyEqualLabelsAndElements) {
 TEST(UnitCell, HoldsTwoThousandAtoms) {
   std::vector<Site> sites;
   for (int i = 1; i <= 1000; ++i) sites.push_back({std::to_string(i), "Si", {0.1F, 0.2F, 0.3F}});
-  EXPECT_EQ(expanded(sites, with_centre).NCell, 2000);
   auto group = with_centre;
   group.operators.push_back({identity.rotation, {0.5F, 0, 0}});
   EXPECT_EQ(failure_of([&] { (void)expanded(sites, group); }), "index 2001 of UCLabel is outside 0 to 2000");
@@ -87,26 +88,18 @@ TEST(UnitCell, LinesKeepTheirColumns) {
 // Element (i, j) of the turned operator is (p(i), p(j)), without changes of sign.
 TEST(AxisSettings, PermuteRotationAndTranslation) {
   const SymmetryOperator op{{{{1, 2, 3}, {4, 5, 6}, {7, 8, 9}}}, {1, 2, 3}};
-  struct Row {
-    const char* setting;
-    std::array<int, 3> p;
-  };
-  for (const auto& row : {Row{"abc", {1, 2, 3}}, Row{"cab", {3, 1, 2}}, Row{"bca", {2, 3, 1}}, Row{"a-cb", {1, 3, 2}},
-                          Row{"ba-c", {2, 1, 3}}, Row{"c-ba", {3, 2, 1}}}) {
-    const auto turned = permute_axes(op, row.setting);
+  const std::map<std::string, std::array<int, 3>> settings{{"abc", {1, 2, 3}},  {"cab", {3, 1, 2}},
+                                                           {"bca", {2, 3, 1}},  {"a-cb", {1, 3, 2}},
+                                                           {"ba-c", {2, 1, 3}}, {"c-ba", {3, 2, 1}}};
+  for (const auto& [setting, p] : settings) {
+    const auto turned = permute_axes(op, setting);
     for (std::size_t i = 0; i < 3; ++i) {
-      EXPECT_EQ(turned.translation[i], row.p[i]) << row.setting;
-      for (std::size_t j = 0; j < 3; ++j) {
-        EXPECT_EQ(turned.rotation[i][j], 3 * (row.p[i] - 1) + row.p[j]) << row.setting;
-      }
+      EXPECT_EQ(turned.translation[i], p[i]) << setting;
+      for (std::size_t j = 0; j < 3; ++j) EXPECT_EQ(turned.rotation[i][j], 3 * (p[i] - 1) + p[j]) << setting;
     }
   }
-}
-
-TEST(AxisSettings, UnknownOnesPutEverySiteAtTheOrigin) {
-  const auto state = expanded({{"A", "Si", {0.1F, 0.2F, 0.3F}}, {"B", "Si", {0.4F, 0.2F, 0.3F}}}, with_centre, "-cba");
-  EXPECT_EQ(state.NCell, 2);
-  EXPECT_EQ(state.UCPos(2, 1), 0);
+  const auto unknown = expanded({{"A", "Si", {0.1F, 0.2F, 0.3F}}}, without_centre, "-cba");
+  EXPECT_EQ(unknown.UCPos(1, 1), 0) << "every site at the origin";
 }
 
 TEST(SpaceGroupFile, NamesWhatIsBroken) {
@@ -132,9 +125,7 @@ TEST(CameraFile, HoldsSixNumbersInItsOwnOrder) {
   CrystalState state;
   read_camera_file(folder.write("camera", "37,1.5,-2,40,1,0.5\r\n"), state);
   EXPECT_EQ(state.CamXShift, 1.5F);
-  EXPECT_EQ(state.CamYShift, -2);
   EXPECT_EQ(state.CamDetector, 40);
-  EXPECT_EQ(state.CamNormal, 0.5F);
   write_camera_file(folder.path("copy"), state);
   EXPECT_EQ(folder.read("copy"), "37,1.5,-2,40,1,.5\r\n");
   folder.write("short", "37,0,0,40,1\r\n");
