@@ -9,13 +9,9 @@ namespace zol {
 namespace {
 
 TEST(Rounding, GoesToTheEvenNumberAtAHalf) {
-  struct Row {
-    double value;
-    int whole;
-  };
-  for (const auto& row :
-       {Row{0.5, 0}, Row{1.5, 2}, Row{-0.5, 0}, Row{-1.5, -2}, Row{2.4999, 2}, Row{-32768.5, -32768}}) {
-    EXPECT_EQ(Integer::rounded(row.value).value(), row.whole) << row.value;
+  for (const auto& [value, whole] :
+       {std::pair{0.5, 0}, {1.5, 2}, {-0.5, 0}, {-1.5, -2}, {2.4999, 2}, {-32768.5, -32768}}) {
+    EXPECT_EQ(Integer::rounded(value).value(), whole) << value;
   }
   EXPECT_EQ(Integer::floor(-0.25).value(), -1);
   EXPECT_EQ(Long::floor(2147483647.9).value(), 2147483647);
