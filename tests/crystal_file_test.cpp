@@ -47,15 +47,11 @@ TEST(CrystalFile, TakesTheAtomsThatTheCountTells) {
 
 TEST(CrystalFile, WhenBrokenIsToldWithLineAndField) {
   const ScratchFolder folder;
-  struct Row {
-    const char* rest;
-    const char* message;
-  };
   for (const auto& [rest, message] :
-       {Row{"0\r\n", "line 3: the file ends where the number of observed reflections is expected"},
-        Row{"1\r\n\"A\",\"Al\",1,0,0\r\n", "line 4: the file ends where z of atom 1 is expected"},
-        Row{"1001\r\n", "line 2: the number of atoms is 1001, at most 1000 are allowed"},
-        Row{"0\r\n201\r\n", "line 3: the number of observed reflections is 201, at most 200 are allowed"}}) {
+       {std::pair{"0\r\n", "line 3: the file ends where the number of observed reflections is expected"},
+        {"1\r\n\"A\",\"Al\",1,0,0\r\n", "line 4: the file ends where z of atom 1 is expected"},
+        {"1001\r\n", "line 2: the number of atoms is 1001, at most 1000 are allowed"},
+        {"0\r\n201\r\n", "line 3: the number of observed reflections is 201, at most 200 are allowed"}}) {
     EXPECT_EQ(failure_of([&] { (void)load(folder, rest); }), folder.path("x.cry") + ", " + message);
   }
 }
