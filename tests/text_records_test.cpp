@@ -28,24 +28,22 @@ TEST(Records, NumbersTakeWhatAFieldStartsWith) {
 }
 
 TEST(Records, WhenBrokenAreToldWithFileLineAndField) {
-  struct Row {
-    const char* text;  ///< read as a string, a Single and an Integer
-    const char* message;
-  };
-  for (const auto& row : {Row{"", "line 1: the file ends where the label is expected"},
-                          Row{"a\r\n1\r\n\r\n", "line 3: the file ends where the count is expected"},
-                          Row{"a\nb,2", "line 2: x is \"b\", a number is expected"},
-                          Row{"a,1\n\n\nq", "line 2: the count is \"\", a whole number is expected"},
-                          Row{"a,1,40000", "line 1: the count is \"40000\", it must be within -32768 to 32767"},
-                          Row{"a,1e40,1", "line 1: x is \"1e40\", too large for a Single (below 3.4E+38)"},
-                          Row{"\"a,1\n2", "line 1: the quote before the label has no closing quote"}}) {
-    const auto message = failure_of([&row] {
-      RecordReader file("my.cry", row.text);
+  for (const auto& [text, message] :
+       {std::pair{"", "line 1: the file ends where the label is expected"},
+        {"a\r\n1\r\n\r\n", "line 3: the file ends where the count is expected"},
+        {"a\nb,2", "line 2: x is \"b\", a number is expected"},
+        {"a,1\n\n\nq", "line 2: the count is \"\", a whole number is expected"},
+        {"a,1,40000", "line 1: the count is \"40000\", it must be within -32768 to 32767"},
+        {"a,1e40,1", "line 1: x is \"1e40\", too large for a Single (below 3.4E+38)"},
+        {"\"a\r\nb\",x", "line 2: x is \"x\", a number is expected"},
+        {"\"a,1\n2", "line 1: the quote before the label has no closing quote"}}) {
+    RecordReader file("my.cry", text);  // of a string, a Single and an Integer
+    const auto failure = failure_of([&file] {
       (void)file.next_string("the label");
       (void)file.next_single("x");
       (void)file.next_integer("the count");
     });
-    EXPECT_EQ(message, std::string("my.cry, ") + row.message);
+    EXPECT_EQ(failure, std::string("my.cry, ") + message);
   }
 }
 
