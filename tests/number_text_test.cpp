@@ -11,23 +11,13 @@ namespace zol {
 namespace {
 
 TEST(LenientParse, TakesTheLongestLeadingNumber) {
-  struct Row {
-    const char* text;
-    double value;
-  };
   constexpr double infinite = std::numeric_limits<double>::infinity();
+  using Row = std::pair<const char*, double>;
   for (const auto& [text, value] :
-       {Row{"   ", 0},
-
-        Row{"-", 0},
-
-        Row{"1 2 3", 123}, Row{"- \t5", -5}, Row{"+.5", 0.5}, Row{"5.", 5}, Row{"1.2.3", 1.2}, Row{"-.25x", -0.25},
-        Row{"1E-2", 0.01}, Row{"1d2", 100}, Row{"2D+1", 20}, Row{"3e+", 3},
-
-        Row{"e3", 0},
-
-        Row{"0x10", 0}, Row{"1,5", 1}, Row{"-1e-999", 0}, Row{"1e999", infinite}, Row{"1e-99999999999999999999", 0},
-        Row{"-1e99999999999999999999", -infinite}}) {
+       {Row{"   ", 0.0}, Row{"-", 0.0}, Row{"1 2 3", 123.0}, Row{"- \t5", -5.0}, Row{"+.5", 0.5}, Row{"5.", 5.0},
+        Row{"1.2.3", 1.2}, Row{"-.25x", -0.25}, Row{"1E-2", 0.01}, Row{"1d2", 100.0}, Row{"2D+1", 20.0},
+        Row{"3e+", 3.0}, Row{"e3", 0.0}, Row{"0x10", 0.0}, Row{"1,5", 1.0}, Row{"-1e-999", 0.0}, Row{"1e999", infinite},
+        Row{"1e-99999999999999999999", 0.0}, Row{"-1e99999999999999999999", -infinite}}) {
     EXPECT_DOUBLE_EQ(Val(text), value) << text;
   }
 }
@@ -40,16 +30,14 @@ TEST(StrictParse, TakesNothingButANumber) {
 }
 
 TEST(PlainText, HasSevenDigitsOfASingleFifteenOfADoubleAndNoExponent) {
-  struct Row {
-    Single value;
-    const char* text;
-  };
-  for (const auto& [value, text] : {Row{0, "0"}, Row{-0.0F, "0"}, Row{-1, "-1"}, Row{-0.25F, "-.25"},
-                                    Row{0.08660254F, ".08660254"}, Row{0.1F, ".1"}, Row{1.0e-10F, ".0000000001"},
-                                    Row{16777216, "16777220"}, Row{3.0e38F, "300000000000000000000000000000000000000"},
-                                    Row{1.0000005F, "1"},            // 1.00000047683716, below the half
-                                    Row{8388608.5F, "8388608"},      // an exact half goes to the even digit
-                                    Row{9999999.5F, "10000000"}}) {  // 9999999.5 isn't a Single: it is 10000000
+  using Row = std::pair<Single, const char*>;
+  for (const auto& [value, text] :
+       {Row{0.0F, "0"}, Row{-0.0F, "0"}, Row{-1.0F, "-1"}, Row{-0.25F, "-.25"}, Row{0.08660254F, ".08660254"},
+        Row{0.1F, ".1"}, Row{1.0e-10F, ".0000000001"}, Row{16777216.0F, "16777220"},
+        Row{3.0e38F, "300000000000000000000000000000000000000"},
+        Row{1.0000005F, "1"},            // 1.00000047683716, below the half
+        Row{8388608.5F, "8388608"},      // an exact half goes to the even digit
+        Row{9999999.5F, "10000000"}}) {  // 9999999.5 isn't a Single: it is 10000000
     EXPECT_EQ(plain_text(value), text);
   }
   EXPECT_EQ(plain_text(2.0 / 3.0), ".666666666666667");
@@ -80,14 +68,12 @@ TEST(DigitPattern, GivesText) {
   for (const auto& [value, pattern, text] :
        {Row{2, "##0.###", "2."}, Row{0, "###.##", "."}, Row{-0.5, "###.##", "-.5"}, Row{1234567, "##0", "1234567"},
         Row{-12.35, " ###0.00", "- 12.35"}, Row{-0.001, " ###0.00", "- 0.00"}, Row{-0.0, "0.00", "0.00"},
-        Row{9.999, "#0.00", "10.00"}, Row{99.96, "##.#", "100."},
-
-        Row{0.30004, "#0.0###", "0.3"}, Row{0.00849998, "#0.0####", "0.0085"}, Row{5, "000", "005"},
-
-        Row{1e22, "0", "10000000000000000000000"}, Row{1e-20, "0.0#", "0.0"}, Row{12.5, ".00", "12.50"},
-        Row{0.125, "0.00", "0.13"}, Row{-0.125, "0.00", "-0.13"},  // halves away from zero
-        Row{1.005, "0.00", "1.01"},                                // the decimal text decides, not the binary value
-        Row{0.49999999999999994, "0", "1"}}) {                     // its 15 digits are .500000000000000
+        Row{9.999, "#0.00", "10.00"}, Row{99.96, "##.#", "100."}, Row{0.30004, "#0.0###", "0.3"},
+        Row{0.00849998, "#0.0####", "0.0085"}, Row{5, "000", "005"}, Row{1e22, "0", "10000000000000000000000"},
+        Row{1e-20, "0.0#", "0.0"}, Row{12.5, ".00", "12.50"}, Row{0.125, "0.00", "0.13"},
+        Row{-0.125, "0.00", "-0.13"},           // halves away from zero
+        Row{1.005, "0.00", "1.01"},             // the decimal text decides, not the binary value
+        Row{0.49999999999999994, "0", "1"}}) {  // its 15 digits are .500000000000000
     EXPECT_EQ(Format(value, pattern), text) << pattern;
   }
 }
