@@ -22,10 +22,12 @@ print PATTERN3.Text14
 print PATTERN3.Text15
 click PATTERN3.CenterPosition
 print PATTERN3.CenterMode
+click PATTERN3.CenterPosition
+click PATTERN3.CPS_Si001
+print PATTERN3.CenterMode
 echo camera at 33 degrees, shifts 4 and -6.5
 # length 255.5/tan 33 = 393.434, centre (283.012, 210.672), poles 20 degrees = 143.199 below, 15.264 = 107.371 above
 set CameraParameters.Text7 20
-click PATTERN3.CPS_Si001
 press PATTERN3.Picture1 283.012 353.871
 click PATTERN3.Option2
 press PATTERN3.Picture1 283.012 103.301
