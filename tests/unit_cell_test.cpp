@@ -4,8 +4,6 @@
 
 #include <map>
 
-#include "core/camera_file.h"
-#include "core/data_root.h"
 #include "core/space_group.h"
 #include "tests/test_files.h"
 
@@ -109,27 +107,6 @@ TEST(SpaceGroupFile, NamesWhatIsBroken) {
             path + ", line 4: r22 of operator 2 is \"q\", a number is expected");
   folder.write("No002.dat", "\"TRICL\",\"P-1\"\r\n1001\r\n");
   EXPECT_NE(failure_of([&] { (void)read_space_group(folder.path("No002.dat")); }).find("at most 1000"),
-            std::string::npos);
-}
-
-TEST(DataRoot, FindsNamesThatDifferInCase) {
-  const ScratchFolder folder;
-  const auto path = folder.write("SpaceGr/No225.dat", "");
-  const DataRoot data{folder.path(""), ""};
-  EXPECT_EQ(data.path("SpaceGr/NO225.dat"), path);
-  EXPECT_EQ(data.path("spacegr/no226.dat"), folder.path("SpaceGr/no226.dat"));
-}
-
-TEST(CameraFile, HoldsSixNumbersInItsOwnOrder) {
-  const ScratchFolder folder;
-  CrystalState state;
-  read_camera_file(folder.write("camera", "37,1.5,-2,40,1,0.5\r\n"), state);
-  EXPECT_EQ(state.CamXShift, 1.5F);
-  EXPECT_EQ(state.CamDetector, 40);
-  write_camera_file(folder.path("copy"), state);
-  EXPECT_EQ(folder.read("copy"), "37,1.5,-2,40,1,.5\r\n");
-  folder.write("short", "37,0,0,40,1\r\n");
-  EXPECT_NE(failure_of([&] { read_camera_file(folder.path("short"), state); }).find("the substrate normal"),
             std::string::npos);
 }
 
