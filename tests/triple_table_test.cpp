@@ -30,6 +30,7 @@ TEST(SortByWeightedIntensity, ExchangesAllButTheStructureFactor) {
            Row{{{1, 0}, {1, 0}, {1, -1}}, {1, 2, 3}},
        }) {
     std::vector<ListedReflection> entries;
+    entries.reserve(list.size());
     for (const auto& [s, intensity] : list)
       entries.push_back({1 + static_cast<int>(entries.size()), 0, 0, intensity, s});
     auto state = with_list(entries);
