@@ -177,9 +177,7 @@ std::optional<Single> ObservedReflections::value(Integer h, Integer k, Integer l
   return found == values_.end() ? std::nullopt : std::optional(found->second);
 }
 
-void JcpdsFactor(CrystalState& state, int i) {
-  if (state.JcpdsCount < 1) return;
-  const ObservedReflections observed(state);
+void JcpdsFactor(CrystalState& state, const ObservedReflections& observed, int i) {
   if (const auto value = observed.value(state.RefH(i), state.RefK(i), state.RefL(i))) state.RefA(i) = *value;
 }
 

@@ -39,6 +39,6 @@ class ObservedReflections {
 
 /// Sets RefA(i) to the weighted value of the observed reflection that reflection i of the list is equivalent to.
 /// RefA(i) stays when there is none.
-void JcpdsFactor(CrystalState& state, int i);
+void JcpdsFactor(CrystalState& state, const ObservedReflections& observed, int i);
 
 }  // namespace zol

@@ -123,7 +123,7 @@ void ReflectionIntensity(CrystalState& state, int i, Single theta, const Radiati
     if (radiation.xray) xray_intensity(state, i, theta, f, line);
     if (radiation.electron) electron_intensity(state, i, f, line);
   } else if (state.JcpdsCount > 0) {
-    if (const auto value = observed.value(state.RefH(i), state.RefK(i), state.RefL(i))) state.RefA(i) = *value;
+    JcpdsFactor(state, observed, i);
     state.RefB(i) = 0;
     state.RefI(i) = append_structure_factor(state, i, line);
     append_intensity(line, state.RefI(i));

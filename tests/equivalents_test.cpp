@@ -106,12 +106,12 @@ TEST(Observed, GiveTheirWeightedValueToAllEquivalents) {
   constexpr std::array<Single, 4> expected{800, 8, 77, 77};  // the last row wins; a half index never matches
   for (int i = 1; i <= 4; ++i) {
     state.RefA(i) = 77;
-    JcpdsFactor(state, i);
+    JcpdsFactor(state, ObservedReflections(state), i);
     EXPECT_EQ(state.RefA(i), expected[static_cast<std::size_t>(i - 1)]) << i;
   }
   state.SGNumber = 240;  // has no table of equivalents
   state.RefA(1) = 77;
-  JcpdsFactor(state, 1);
+  JcpdsFactor(state, ObservedReflections(state), 1);
   EXPECT_EQ(state.RefA(1), 77);
 }
 
