@@ -52,7 +52,8 @@ TEST(CrystalFile, WhenBrokenIsToldWithLineAndField) {
         {"1\r\n\"A\",\"Al\",1,0,0\r\n", "line 4: the file ends where z of atom 1 is expected"},
         {"1001\r\n", "line 2: the number of atoms is 1001, at most 1000 are allowed"},
         {"0\r\n201\r\n", "line 3: the number of observed reflections is 201, at most 200 are allowed"}}) {
-    EXPECT_EQ(failure_of([&] { (void)load(folder, rest); }), folder.path("x.cry") + ", " + message);
+    EXPECT_EQ(failure_of([&, contents = rest] { (void)load(folder, contents); }),
+              folder.path("x.cry") + ", " + message);
   }
 }
 
