@@ -35,7 +35,7 @@ TEST(Records, WhenBrokenAreToldWithFileLineAndField) {
         {"a,1\n\n\nq", "line 2: the count is \"\", a whole number is expected"},
         {"a,1,40000", "line 1: the count is \"40000\", it must be within -32768 to 32767"},
         {"a,1e40,1", "line 1: x is \"1e40\", too large for a Single (below 3.4E+38)"},
-        {"\"a\r\nb\",x", "line 2: x is \"x\", a number is expected"},
+        {"\"a\nb\r\nc\",x", "line 3: x is \"x\", a number is expected"},
         {"\"a,1\n2", "line 1: the quote before the label has no closing quote"}}) {
     RecordReader file("my.cry", text);  // of a string, a Single and an Integer
     const auto failure = failure_of([&file] {
