@@ -4,6 +4,7 @@
 
 #include <map>
 
+#include "core/camera_file.h"
 #include "core/space_group.h"
 #include "tests/test_files.h"
 
@@ -108,6 +109,17 @@ TEST(SpaceGroupFile, NamesWhatIsBroken) {
   folder.write("No002.dat", "\"TRICL\",\"P-1\"\r\n1001\r\n");
   EXPECT_NE(failure_of([&] { (void)read_space_group(folder.path("No002.dat")); }).find("at most 1000"),
             std::string::npos);
+}
+
+TEST(CameraFile, HoldsSixNumbersInItsOwnOrder) {
+  const ScratchFolder folder;
+  CrystalState state;
+  read_camera_file(folder.write("camera", "37,1.5,-2,40,1.25,0.5\r\n"), state);
+  const std::array numbers{state.CamAcquisition, state.CamXShift,  state.CamYShift,
+                           state.CamDetector,    state.CamXYRatio, state.CamNormal};
+  EXPECT_EQ(numbers, (std::array{37.0F, 1.5F, -2.0F, 40.0F, 1.25F, 0.5F}));
+  write_camera_file(folder.path("copy"), state);
+  EXPECT_EQ(folder.read("copy"), "37,1.5,-2,40,1.25,.5\r\n");
 }
 
 }  // namespace
