@@ -3,6 +3,7 @@
 build_packages="cmake ninja-build g++ libgtest-dev libbenchmark-dev
   qt6-base-dev qt6-tools-dev qt6-svg-dev libqt6svg6 fonts-dejavu-core"
 style_packages="clang-format-14 clang-tidy-14"
+fuzz_packages="clang-14 libclang-rt-14-dev"
 
 # Installs the packages among the arguments that are not there, and says so.
 ensure_packages() {
