@@ -139,7 +139,7 @@ std::string ticks_text(double from, double to, int most) {
 TEST(Rulers, TickRoundNumbers) {
   EXPECT_EQ(ticks_text(0, 100, 5), "0|||20|||40|||60|||80|||100");
   EXPECT_EQ(ticks_text(100, 0, 2), "0||||50||||100") << "an axis that runs the other way";
-  EXPECT_EQ(ticks_text(29.7, 30.32, 3), "||29.8|||30.0|||30.2||");
+  EXPECT_EQ(ticks_text(29.7, 30.32, 4), "||29.8|||30.0|||30.2||");
   EXPECT_EQ(ticks_text(-0.1, 0.1, 2), "-0.1||||0.0||||0.1");
   for (const auto& [from, to] : {std::pair{1.0, 1.0}, {0.0, HUGE_VAL}, {1e300, 1e300 * (1 + 1e-15)}}) {
     EXPECT_EQ(ticks_text(from, to, 10), "");
