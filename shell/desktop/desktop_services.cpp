@@ -37,6 +37,18 @@ QString qt_filter(const FileQuestion& question) {
   return filters.join(QStringLiteral(";;"));
 }
 
+/// The ending of files by the first filter, as "cry"; empty when there is no filter.
+QString usual_ending(const FileQuestion& question) {
+  return to_qt(question.filter).section(u'|', 1, 1).section(u'.', -1);
+}
+
+/// The name that a save dialog begins with: the last one, with the ending that such files have.
+QString proposed_name(const FileQuestion& question) {
+  const QFileInfo last(QFile::decodeName(question.file_name.c_str()));
+  const QString ending = usual_ending(question);
+  return ending.isEmpty() || last.fileName().isEmpty() ? last.fileName() : last.completeBaseName() + u'.' + ending;
+}
+
 /// The answer to a question from the name the user gave: an ending that the program adds in any case is taken off.
 std::string answer_of(const FileQuestion& question, const QString& name) {
   QString answer = name;
@@ -58,21 +70,23 @@ bool may_write(QWidget* parent, const QString& path) {
 }  // namespace
 
 std::string DesktopServices::ask_file(const FileQuestion& question) {
-  const QString folder = last_folder_.isEmpty() ? to_qt(question.initial_folder) : last_folder_;
+  const QString usual_folder = to_qt(question.initial_folder);
+  const QString folder = last_folders_.value(usual_folder, usual_folder.isEmpty() ? last_folder_ : usual_folder);
   QFileDialog dialog(QApplication::activeWindow(), question.save ? tr("Save") : tr("Open"), folder,
                      qt_filter(question));
   dialog.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the name may get an ending yet
-  if (question.save && !question.file_name.empty()) {
-    dialog.selectFile(QFileInfo(QFile::decodeName(question.file_name.c_str())).fileName());
+  if (question.save) {
+    dialog.selectFile(proposed_name(question));
+    if (question.ending.text.empty()) dialog.setDefaultSuffix(usual_ending(question));
   }
   while (dialog.exec() == QDialog::Accepted) {
     const QString chosen = dialog.selectedFiles().constFirst();
     const std::string answer = answer_of(question, chosen);
     const QString written = QFile::decodeName(question.ending.added_to(answer).c_str());
     if (question.save && !may_write(&dialog, written)) continue;
-    last_folder_ = QFileInfo(chosen).absolutePath();
+    last_folders_[usual_folder] = last_folder_ = QFileInfo(chosen).absolutePath();
     return answer;
   }
   return "";
