@@ -49,12 +49,14 @@ void use_fitting_style() {
 void fit_to_screen(QMainWindow& window) {
   const QSize room = window.screen()->availableSize() - window_frame;
   const QSize least = window.minimumSizeHint();
-  auto* area = new QScrollArea;
-  area->setWidgetResizable(true);
-  area->setFrameShape(QFrame::NoFrame);
-  area->setWidget(window.takeCentralWidget());
-  window.setCentralWidget(area);
-  window.setMinimumSize(least.boundedTo(room));
+  if (least.boundedTo(room) != least) {
+    auto* area = new QScrollArea;
+    area->setWidgetResizable(true);
+    area->setFrameShape(QFrame::NoFrame);
+    area->setWidget(window.takeCentralWidget());
+    window.setCentralWidget(area);
+    window.setMinimumSize(least.boundedTo(room));
+  }
   window.resize(window.size().expandedTo(least).boundedTo(room));
 }
 
