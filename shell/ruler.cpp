@@ -37,8 +37,9 @@ std::vector<Tick> ruler_ticks(double from, double to, int most) {
   const double part = step.size / step.parts;
   const double first = std::ceil(from / part - 1e-9);
   const double last = std::floor(to / part + 1e-9);
-  constexpr double most_ticks = 1000;  // a range far from 0 that the step no longer changes
-  if (!(last - first < most_ticks)) return {};
+  constexpr double most_ticks = 1000;
+  constexpr double countable = 1e15;  // beyond it a range far from 0 is no longer counted up by 1
+  if (!(last - first < most_ticks) || std::max(std::abs(first), std::abs(last)) > countable) return {};
   std::vector<Tick> ticks;
   for (double n = first; n <= last; ++n) {
     const bool large = std::fmod(n, step.parts) == 0;

@@ -17,7 +17,7 @@ struct FiberTextureForm : Window {
         CommonDialog1(bench.services),
         Picture1(*this, bench.services, "Picture1", 5760, 5760) {
     fields().add("RotationPitch", RotationPitch);
-    Picture1.describe_place = [](double x, double y) { return spacing_text(2 * std::hypot(x, y)); };
+    Picture1.describe_place = [](double x, double y) { return spacing_text(std::hypot(x, y)); };
   }
 
   // Fiber direction
