@@ -33,7 +33,7 @@ void StructureFactors(benchmark::State& run) {
   const auto state = large_cell();
   for (auto _ : run) {
     ScatteringCell atoms(*state, xrays);
-    for (int i = 1; i <= state->RefCount.value(); ++i) atoms.structure_factor(*state, i);
+    for (int i = 1; i <= state->RefCount.value(); ++i) atoms.StructureFactor(*state, i);
     benchmark::DoNotOptimize(state->RefA(1));
   }
   run.counters["reflections"] = state->RefCount.value();

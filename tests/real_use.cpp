@@ -451,5 +451,6 @@ int main(int argc, char** argv) {
   if (argc < 2) zol::give_up(QStringLiteral("usage: zol-real-use FILES [PICTURES]"));
   const QString files = QFile::decodeName(argv[1]);
   const std::optional<QString> pictures = argc > 2 ? std::optional(QFile::decodeName(argv[2])) : std::nullopt;
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // those of a desktop can't be filled in from here
   return zol::run_application(argc, argv, [&](zol::Desktop& desktop) { zol::walk({desktop, files, pictures}); });
 }

@@ -3,12 +3,12 @@
 #include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
-#include <QStyleFactory>
 #include <QTimer>
 
 #include "shell/data_folders.h"
 #include "shell/desktop/desktop_services.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/desktop/screen_fit.h"
 #include "shell/program.h"
 
 namespace zol {
@@ -24,7 +24,7 @@ void name_application() {
   QApplication::setApplicationVersion(QString::fromLatin1(program_version));
   use_desktop_resources();
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/zol.svg")));
-  QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+  use_fitting_style();
   QApplication::setQuitOnLastWindowClosed(false);
 }
 

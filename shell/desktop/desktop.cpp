@@ -17,6 +17,7 @@
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/file_drops.h"
 #include "shell/desktop/guide.h"
+#include "shell/desktop/screen_fit.h"
 
 // Resources of a static library have to be asked for, outside any namespace.
 static void init_resources() { Q_INIT_RESOURCE(desktop); }
@@ -107,6 +108,7 @@ void Desktop::window_created(Window& window) {
   accept_file_drops(window, *widget, enter_event);
   offer_guide(*widget);
   binder->show_everything();
+  if (auto* top = qobject_cast<QMainWindow*>(widget.get())) fit_to_screen(*top);
   shown_[window.name()] = {std::move(widget), std::move(binder)};
 }
 
