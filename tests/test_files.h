@@ -20,7 +20,6 @@ class ScratchFolder {
     std::string name = std::string(test->test_suite_name()) + "-" + test->name();
     for (char& c : name) c = c == '/' ? '-' : c;
     folder_ = std::filesystem::temp_directory_path() / ("zol-" + name + "-" + std::to_string(getpid()));
-    std::filesystem::remove_all(folder_);
     std::filesystem::create_directories(folder_);
   }
   ScratchFolder(const ScratchFolder&) = delete;
