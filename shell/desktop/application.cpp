@@ -15,7 +15,13 @@ namespace zol {
 namespace {
 
 void show_failure(const std::string& message) {
-  QMessageBox::critical(QApplication::activeWindow(), QStringLiteral("ZOL"), to_qt(message));
+  QMessageBox box(QMessageBox::Critical, QStringLiteral("ZOL"), to_qt(message), QMessageBox::Ok,
+                  QApplication::activeWindow());
+  box.setInformativeText(
+      QCoreApplication::translate("zol",
+                                  "The program ends here. Files are as they were saved last. Start it again with "
+                                  "this mended; \"Known behaviour\" in the user guide tells more."));
+  box.exec();
 }
 
 void name_application() {
