@@ -9,7 +9,10 @@ install(FILES packaging/io.github.zol.metainfo.xml DESTINATION ${CMAKE_INSTALL_D
 install(FILES shell/desktop/images/zol.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES packaging/zol.1 packaging/zol-script.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
-install(DIRECTORY docs/user-guide docs/images examples DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY docs/user-guide docs/images DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN draw EXCLUDE)
+install(PROGRAMS examples/batch/crystallite-sizes examples/batch/reflection-lists
+  DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples/batch)
 install(FILES docs/data-files.md docs/scripting.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
 # The examples name their crystals as in the source tree, from the folder above them.

@@ -7,6 +7,7 @@
 // which.
 #include <array>
 #include <cstdlib>
+#include <functional>
 #include <iostream>
 #include <optional>
 
@@ -28,6 +29,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPointer>
 #include <QStatusBar>
 #include <QTableView>
 #include <QTest>
@@ -51,23 +53,44 @@ void expect(bool holds, const QString& what) {
   if (!holds) give_up(what);
 }
 
-/// Does something as soon as a dialog of this kind is open, while the step that opens it waits for its end.
-template <class Dialog, class Action>
-void when_asked(Action action) {
-  auto* timer = new QTimer(QApplication::instance());
-  QObject::connect(timer, &QTimer::timeout, timer, [timer, action, waits = 0]() mutable {
+/// Answers a dialog of this kind as soon as it is open, while the step that opens it waits for its end. A dialog that
+/// was not ready for its answer gets it again.
+template <class Dialog>
+class Answer : public QObject {
+ public:
+  explicit Answer(std::function<void(Dialog&)> give) : QObject(QApplication::instance()), give_(std::move(give)) {
+    constexpr int milliseconds = 50;
+    startTimer(milliseconds);
+  }
+
+ protected:
+  void timerEvent(QTimerEvent* /*event*/) override {
+    if (busy_) return;
+    if (given_to_ != nullptr && !given_to_->isVisible()) return deleteLater();
+    if (given_once_ && given_to_ == nullptr) return deleteLater();
+    constexpr int most_waits = 200;
+    if (++waits_ > most_waits) give_up(QStringLiteral("a dialog did not come up or does not go"));
     auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
-    if (dialog == nullptr || !dialog->isVisible()) {
-      constexpr int longest = 500;
-      if (++waits > longest) give_up(QStringLiteral("no dialog came up"));
-      return;
-    }
-    timer->stop();
-    timer->deleteLater();
-    action(*dialog);
-  });
-  constexpr int milliseconds = 20;
-  timer->start(milliseconds);
+    if (dialog == nullptr || !dialog->isVisible()) return;
+    constexpr int next_try = 20;
+    if (given_once_ && waits_ % next_try != 0) return;
+    given_once_ = busy_ = true;
+    given_to_ = dialog;
+    give_(*dialog);
+    busy_ = false;
+  }
+
+ private:
+  std::function<void(Dialog&)> give_;
+  QPointer<Dialog> given_to_;
+  int waits_ = 0;
+  bool given_once_ = false;
+  bool busy_ = false;
+};
+
+template <class Dialog, class Give>
+void when_asked(Give give) {
+  new Answer<Dialog>(std::move(give));  // the application owns it
 }
 
 void choose_file(const QString& path) {
@@ -474,13 +497,72 @@ void walk(const User& user) {
   user.click("MAIN_MENU", "Command5");
 }
 
+struct FailureCase {
+  const char* kind;
+  void (*bring_about)(const User& user);
+};
+
+const FailureCase failure_cases[] = {
+    {"missing", [](const User& user) { user.type("Main1", "Text7", "260"); }},
+    {"broken",
+     [](const User& user) {
+       QFile file(user.file("broken.cry"));
+       expect(file.open(QIODevice::WriteOnly) && file.write("4.9\n4.9\n5.4\n90\nright\n") > 0, file.fileName());
+       file.close();
+       choose_file(file.fileName());
+       user.choose("Main1", "DATA_LOAD");
+     }},
+    {"overflow", [](const User& user) { user.type("Main1", "Text1", "1e39"); }},
+    {"division",
+     [](const User& user) {  // a crystal without atoms
+       user.click("Main1", "Command15");
+       user.click("InputJCPDS", "Command2");
+       user.click("Main1", "Command6");
+       user.click("Main1", "Command8");
+     }},
+    {"subscript",
+     [](const User& user) {  // Enter behind the last cell of the table
+       user.click("Main1", "Command15");
+       auto& table = user.widget<QTableView>("InputJCPDS", "G");
+       QTest::keyClick(&table, Qt::Key_End, Qt::ControlModifier);
+       QTest::keyClick(&table, Qt::Key_Return);
+     }},
+    {"conversion",
+     [](const User& user) {
+       user.click("Main1", "Command9");
+       answer_prompt(QStringLiteral("large"));
+       user.choose("Pattern", "Fsize");
+     }},
+};
+
+void fail(const User& user, const std::string& kind) {
+  user.click("MAIN_MENU", "Command1");
+  user.load_crystal("Quartz.cry");
+  when_asked<QMessageBox>([](QMessageBox& box) {
+    std::cout << box.text().toStdString() << std::endl;
+    QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+  });
+  for (const auto& failure : failure_cases) {
+    if (failure.kind == kind) return failure.bring_about(user);
+  }
+  give_up(QStringLiteral("there is no such kind of failure"));
+}
+
 }  // namespace
 }  // namespace zol
 
 int main(int argc, char** argv) {
-  if (argc < 2) zol::give_up(QStringLiteral("usage: zol-real-use FILES [PICTURES]"));
+  if (argc < 2) zol::give_up(QStringLiteral("usage: zol-real-use FILES [PICTURES | failure KIND]"));
   const QString files = QFile::decodeName(argv[1]);
-  const std::optional<QString> pictures = argc > 2 ? std::optional(QFile::decodeName(argv[2])) : std::nullopt;
+  const std::optional<std::string> failure = argc > 3 ? std::optional(argv[3]) : std::nullopt;
+  const std::optional<QString> pictures = argc == 3 ? std::optional(QFile::decodeName(argv[2])) : std::nullopt;
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // those of a desktop can't be filled in from here
-  return zol::run_application(argc, argv, [&](zol::Desktop& desktop) { zol::walk({desktop, files, pictures}); });
+  return zol::run_application(argc, argv, [&](zol::Desktop& desktop) {
+    const zol::User user(desktop, files, pictures);
+    if (failure) {
+      zol::fail(user, *failure);
+    } else {
+      zol::walk(user);
+    }
+  });
 }
