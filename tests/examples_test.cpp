@@ -72,8 +72,9 @@ TEST_P(Example, RunsAndLeavesWhatItNames) {
   };
 
   const bool is_shell = script.extension() != ".zs";
-  const std::string command = "cd " + copy.path("") + " && ZOL_SCRIPT=" ZOL_SCRIPT " " +
-                              (is_shell ? "" : ZOL_SCRIPT " ") + script.string() + " >/dev/null 2>told";
+  const std::string path = "PATH=" + fs::path(ZOL_SCRIPT).parent_path().string() + ":$PATH ";
+  const std::string command =
+      "cd " + copy.path("") + " && " + path + (is_shell ? "" : "zol-script ") + script.string() + " >/dev/null 2>told";
   EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 0);  // NOLINT(cert-env33-c,concurrency-mt-unsafe)
   EXPECT_EQ(copy.read("told"), "");
 

@@ -15,6 +15,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
 #include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QFile>
@@ -172,6 +173,32 @@ class User {
   void press_enter(const char* window_name, const char* box) const {
     QTest::keyClick(&widget<QLineEdit>(window_name, box), Qt::Key_Return);
   }
+  /// Types from a table or a box on, where Enter (\r) may go on to the next one.
+  static void type_on(QWidget& first, const char* keys) {
+    first.setFocus();
+    for (const char* key = keys; *key != '\0'; ++key) {
+      auto* target = QApplication::focusWidget();
+      if (*key == '\r') {
+        QTest::keyClick(target, Qt::Key_Return);
+      } else {
+        QTest::keyClick(target, *key);
+      }
+    }
+  }
+  /// Fills boxes, each given by its name and text.
+  void fill(const char* window_name, std::initializer_list<std::pair<const char*, const char*>> boxes) const {
+    for (const auto& [box, text] : boxes) type(window_name, box, text);
+  }
+  /// Goes to an item of the radiations by the arrow keys, then "Calc".
+  void choose_radiation(const char* item) const {
+    auto& combo = widget<QComboBox>("Main1", "Combo1");
+    const int wanted = combo.findText(QString::fromLatin1(item));
+    for (int from = combo.currentIndex(); from != wanted; from = combo.currentIndex()) {
+      QTest::keyClick(&combo, from < wanted ? Qt::Key_Down : Qt::Key_Up);
+      expect(combo.currentIndex() != from, QStringLiteral("an arrow key does not move in the radiations"));
+    }
+    click("Main1", "Command6");
+  }
   void pick_line(const char* window_name, const char* list, int row) const {
     auto& view = widget<QListView>(window_name, list);
     const QModelIndex index = view.model()->index(row, 0);
@@ -234,9 +261,11 @@ void open_main_window(const User& user) {
 
 void enter_by_hand(const User& user) {
   user.click("Main1", "Command1");
+  user.type_on(user.widget<QTableView>("InputAtom", "G"), "0.2");
   user.take_picture("InputAtom", "input-atom");
   user.click("InputAtom", "Command2");
   user.click("Main1", "Command15");
+  user.type_on(user.widget<QTableView>("InputJCPDS", "G"), "100\r1\r1\r1\r46\r2\r0\r0\r20");
   user.take_picture("InputJCPDS", "input-jcpds");
   user.click("InputJCPDS", "Command2");
   user.load_crystal("Quartz.cry");  // the table of observed lines has put its atoms aside
@@ -257,6 +286,7 @@ void copy_lines(const User& user) {
 }
 
 void show_powder_pattern(const User& user) {
+  user.choose_radiation("CuKa");
   user.click("Main1", "Command7");
   const QString place = user.said_of_place("Xd", "Picture1", 0.25, 0.5);
   expect(place.startsWith(QStringLiteral("2θ ")) && place.contains(QStringLiteral(" Å")),
@@ -268,8 +298,7 @@ void show_powder_pattern(const User& user) {
 }
 
 void show_rings(const User& user) {
-  user.click("Main1", "Option2");
-  user.click("Main1", "Command6");
+  user.choose_radiation("200");
   user.click("Main1", "Command8");
   expect(user.said_of_place("Dring", "Picture2", 0.3, 0.3).startsWith(QStringLiteral("d* ")),
          QStringLiteral("the status line of Dring is empty"));
@@ -306,9 +335,7 @@ void export_picture(const User& user, const char* window_name, const char* entry
 void show_spots(const User& user) {
   user.load_crystal("NaCl.cry");
   user.click("Main1", "Command9");
-  for (const auto& [box, text] : {std::pair{"Text3", "1"}, {"Text4", "1"}, {"Text5", "0"}}) {
-    user.type("Pattern", box, text);
-  }
+  user.fill("Pattern", {{"Text3", "1"}, {"Text4", "1"}, {"Text5", "0"}});
   user.click("Pattern", "Check3");
   answer_prompt(QStringLiteral("2"));
   user.choose("Pattern", "Spotsize");
@@ -323,9 +350,7 @@ void show_spots(const User& user) {
 
 void show_fiber_texture(const User& user) {
   user.click("Main1", "Command12");
-  for (const auto& [box, text] : {std::pair{"Text3", "1"}, {"Text4", "1"}, {"Text5", "1"}, {"Text2", "8"}}) {
-    user.type("FiberTexture", box, text);
-  }
+  user.fill("FiberTexture", {{"Text1", "1"}, {"Text3", "1"}, {"Text4", "1"}, {"Text5", "1"}, {"Text2", "8"}});
   user.click("FiberTexture", "Command8");
   user.take_picture("FiberTexture", "fiber-texture");
   user.save("fiber", "fiber.bmp", [&user] { user.choose("FiberTexture", "Isave"); });
@@ -336,7 +361,7 @@ void show_kikuchi_pattern(const User& user, const char* crystal, const char* u, 
                           const char* picture) {
   user.load_crystal(crystal);
   user.click("Main1", "Command10");
-  for (const auto& [box, text] : {std::pair{"Text3", u}, {"Text4", v}, {"Text5", w}}) user.type("Pattern2", box, text);
+  user.fill("Pattern2", {{"Text3", u}, {"Text4", v}, {"Text5", w}});
   user.click("Pattern2", "Command8");
   user.take_picture("Pattern2", picture);
 }
@@ -352,15 +377,18 @@ void show_zone_axes(const User& user) {
 }
 
 void use_calculators(const User& user) {
+  user.load_crystal("Rutile.cry");
   user.choose("Main1", "Show_utility");
-  for (const auto& [box, text] : {std::pair{"Text46", "1"},
-                                  {"Text47", "0"},
-                                  {"Text48", "1"},
-                                  {"Text49", "0"},
-                                  {"Text50", "0"},
-                                  {"Text51", "1"}}) {
-    user.type("Utility", box, text);
-  }
+  user.fill("Utility", {{"Text1", "30"}, {"Text2", "0"}, {"Text3", "0.8906"}, {"Text4", "30"}});
+  user.press_enter("Utility", "Text4");
+  user.fill("Utility", {{"Text9", "10"}, {"Text8", "-20"}, {"Text7", "17.368"}, {"Text6", "30"}});
+  user.press_enter("Utility", "Text6");
+  user.type_on(user.widget<QLineEdit>("Utility", "Text5(0)"), "1\r2\r0\r0\r1\r0\r0\r0\r4");
+  user.click("Utility", "Command2");
+  user.fill("Utility", {{"Text10", "1"}, {"Text11", "0"}, {"Text12", "1"}});
+  user.click("Utility", "Command4");
+  user.fill("Utility",
+            {{"Text46", "1"}, {"Text47", "0"}, {"Text48", "1"}, {"Text49", "0"}, {"Text50", "0"}, {"Text51", "1"}});
   user.take_picture("Utility", "utility");
   user.window("Utility").close();
   user.click("Main1", "Command11");
@@ -390,6 +418,7 @@ void import_cif(const User& user) {
 }
 
 void drop_crystal(const User& user) {
+  user.choose_radiation("20");
   QWidget& main = user.window("Main1");
   QMimeData data;
   data.setUrls({QUrl::fromLocalFile(QString::fromLatin1(crystals) + QStringLiteral("Silicon.cry"))});
@@ -424,10 +453,10 @@ void index_pattern(const User& user) {
   user.click("PATTERN3", "Command1");
   expect(user.lines("PATTERN3", "List1") > 1, QStringLiteral("the pattern of silicon has no solution"));
   user.take_picture("PATTERN3", "analysis");
-  user.choose("PATTERN3", "CP_Setting_Show");
+  for (const auto* mode : {"CPS_Si001", "CP_Setting_Show"}) user.choose("PATTERN3", mode);
   user.take_picture("PATTERN3", "analysis-calibration");
-  user.choose("PATTERN3", "CP_Setting_Show");
-  user.click("MAIN_MENU", "Command2");
+  for (const auto* mode : {"CPS_Si001", "CP_Setting_Show"}) user.choose("PATTERN3", mode);
+  user.pick_line("PATTERN3", "List1", 0);
   user.choose("Pattern2", "ImageLoad");
   user.pick_line("PATTERN3", "List1", 0);
   user.take_picture("Pattern2", "analysis-superposed");
