@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/float_loop.h"
+
 namespace zol::utility {
 namespace {
 
@@ -11,12 +13,10 @@ constexpr double half_pi = 1.5707963;
 constexpr double two_pi = 6.2831853;
 constexpr Single starting_error = 100;
 
-/// All values from one limit to the other by repeated addition of Singles.
+/// All values from one limit to the other, the limits and the step rounded as well.
 template <class Visit>
-void float_loop(double from, double to, double by, const Visit& visit) {
-  const Single limit = to_single(to);
-  const Single step = to_single(by);
-  for (Single value = to_single(from); value <= limit; value = to_single(double{value} + double{step})) visit(value);
+void trials(double from, double to, double by, const Visit& visit) {
+  float_loop("the search for a direction", to_single(from), to_single(to), to_single(by), LoopSense::Rising, visit);
 }
 
 /// A rotation of the specimen about x.
@@ -78,22 +78,22 @@ class Pass {
 /// The first two passes take polar angles inside azimuths, which decides between equal trials.
 DirectionTrial coarse_pass(const PhotographPair& wanted) {
   Pass pass(wanted);
-  float_loop(0, 350, 10, [&](Single a) { float_loop(0, 90, 10, [&](Single p) { pass.try_direction(a, p); }); });
+  trials(0, 350, 10, [&](Single a) { trials(0, 90, 10, [&](Single p) { pass.try_direction(a, p); }); });
   return pass.best();
 }
 
 DirectionTrial degree_pass(const PhotographPair& wanted, double azimuth, double polar) {
   Pass pass(wanted);
-  float_loop(azimuth - 10, azimuth + 10, 1,
-             [&](Single a) { float_loop(polar - 10, polar + 10, 1, [&](Single p) { pass.try_direction(a, p); }); });
+  trials(azimuth - 10, azimuth + 10, 1,
+         [&](Single a) { trials(polar - 10, polar + 10, 1, [&](Single p) { pass.try_direction(a, p); }); });
   return pass.best();
 }
 
 /// The last two take azimuths inside polar angles.
 DirectionTrial fine_pass(const PhotographPair& wanted, double azimuth, double polar, double reach, double step) {
   Pass pass(wanted);
-  float_loop(polar - reach, polar + reach, step, [&](Single p) {
-    float_loop(azimuth - reach, azimuth + reach, step, [&](Single a) { pass.try_direction(a, p); });
+  trials(polar - reach, polar + reach, step, [&](Single p) {
+    trials(azimuth - reach, azimuth + reach, step, [&](Single a) { pass.try_direction(a, p); });
   });
   return pass.best();
 }
@@ -130,7 +130,7 @@ PlaneDirection direction_from_lengths(const LengthPair& lengths) {
   const auto cosine = [](Single phi, Single rotation) { return std::cos((double{phi} - double{rotation}) * degree); };
   Single smallest_error = starting_error;
   Single best = 0;
-  float_loop(-90, 90, 0.1, [&](Single phi) {
+  trials(-90, 90, 0.1, [&](Single phi) {
     const double quotient =
         divide(cosine(phi, lengths.Rotate2), cosine(phi, lengths.Rotate1), "the cosine against the first rotation");
     const Single error = to_single(std::abs(double{ratio} - quotient));

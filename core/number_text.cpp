@@ -43,9 +43,10 @@ long long decimal_magnitude(std::string_view number) {
   if (e != std::string_view::npos) {
     std::string_view digits = number.substr(e + 1);
     if (digits.front() == '+') digits.remove_prefix(1);
+    constexpr long long beyond_all = 1'000'000'000'000;  // and far from the end of the type
     const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
-    constexpr long long beyond_all = 1'000'000'000;
     if (result.ec == std::errc::result_out_of_range) exponent = digits.front() == '-' ? -beyond_all : beyond_all;
+    exponent = std::clamp(exponent, -beyond_all, beyond_all);
   }
   const std::string_view mantissa = number.substr(0, e);
   const auto point = static_cast<long long>(std::min(mantissa.find('.'), mantissa.size()));

@@ -6,6 +6,7 @@ build_packages="cmake ninja-build g++ libgtest-dev libbenchmark-dev
 screen_packages="xvfb openbox"
 # With the last three the installation test looks at the desktop entry, the metainfo and the man pages too.
 style_packages="clang-format-14 clang-tidy-14 desktop-file-utils appstream mandoc"
+fuzz_packages="clang-14 libclang-rt-14-dev"
 
 # Installs the packages among the arguments that are not there, and says so.
 ensure_packages() {

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <vector>
 
+#include "core/float_loop.h"
 #include "core/number_text.h"
 #include "core/run_failure.h"
 
@@ -20,9 +21,10 @@ std::vector<GridPoint> points_of(const InterferenceGrid& grid, std::size_t axis)
   const double width = grid.width[axis];
   const Single last = to_single(grid.steps[axis].value() * width);
   std::vector<GridPoint> points;
-  for (Single x = to_single(-grid.steps[axis].value() * width); x <= last; x = to_single(double{x} + width)) {
+  const Single first = to_single(-grid.steps[axis].value() * width);
+  float_loop("the interference grid along an axis", first, last, width, LoopSense::Rising, [&](Single x) {
     points.push_back({x, static_cast<int>(std::floor(std::abs(divide(x, width, "the grid width")) + 0.5))});
-  }
+  });
   return points;
 }
 

@@ -7,6 +7,7 @@
 
 #include "core/cell_geometry.h"
 #include "core/exchange_sort.h"
+#include "core/float_loop.h"
 #include "core/number_text.h"
 #include "core/run_failure.h"
 #include "spots/grey_scale.h"
@@ -29,18 +30,11 @@ class ArcWalk {
         picture_width_(2.0 * state.CamAcquisition),
         step_(to_single(double{state.CamAcquisition} / radius / 10.0)) {}
 
-  /// From the centre outwards to two dispersions, clockwise (1) or anticlockwise (-1). Angles in degrees.
-  void walk(Single centre, double sense) {
-    const Single limit = to_single(double{centre} + sense * 2.0 * dispersion_);
-    // A step that gets lost in the rounding would never come to the end.
-    const double spacing = std::nextafter(std::abs(limit), HUGE_VALF) - std::abs(limit);
-    if (dispersion_ > 0.0 && !(2.0 * step_ > spacing)) {
-      throw RunFailure("the dispersion is " + plain_text(dispersion_) + " degrees, too large for an arc");
-    }
+  /// From the centre outwards to two dispersions, clockwise (rising) or anticlockwise. Angles in degrees.
+  void walk(Single centre, LoopSense sense) {
+    const Single limit = to_single(double{centre} + (sense == LoopSense::Rising ? 2.0 : -2.0) * dispersion_);
     last_column_ = last_row_ = 0;
-    for (Single t = centre; sense > 0.0 ? t <= limit : t >= limit; t = to_single(double{t} + sense * double{step_})) {
-      add(centre, t);
-    }
+    float_loop("an arc of the fiber texture", centre, limit, step_, sense, [&](Single t) { add(centre, t); });
   }
   [[nodiscard]] std::vector<ArcPoint> take_points() { return std::move(points_); }
 
@@ -113,8 +107,8 @@ std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const Fibe
 
   ArcWalk arcs(state, picture, g, relative_strength(state, i, picture.exponent));
   for (const Single centre : {angle, -angle}) {
-    arcs.walk(centre, -1.0);
-    arcs.walk(centre, 1.0);
+    arcs.walk(centre, LoopSense::Falling);
+    arcs.walk(centre, LoopSense::Rising);
   }
   const auto [label_x, label_y] = arcs.position(-double{angle});
   return FiberArcs{arcs.take_points(), label_x, label_y};

@@ -60,6 +60,16 @@ TEST_F(Pictures, PixelsFallWhereTheListSaysAndComeBackFromABitmap) {
       << "scaled to fill, each direction by itself";
 }
 
+TEST_F(Pictures, AreOfASizeThatFitsTheMemory) {
+  canvas.set_width(-15);
+  canvas.set_height(8192 * 15);
+  EXPECT_EQ(canvas.stored_image().height(), 8192);
+  EXPECT_EQ(canvas.stored_image().width(), 1);
+  canvas.set_width(std::numeric_limits<int>::max());
+  EXPECT_EQ(failure_of([this] { (void)canvas.stored_image(); }),
+            "can't make an image of 143165576 x 8192 pixels: at most 8192 x 8192 are possible");
+}
+
 TEST_F(Pictures, ExportHasTheKindThatItsNameSays) {
   canvas.line(-1, 0, 1, 0, red);
   for (const auto& [name, magic] : {std::pair{"a.bmp", "BM"}, std::pair{"a.PNG", "\x89PNG"},

@@ -18,12 +18,24 @@ namespace {
 
 int to_pixel(double coordinate) { return static_cast<int>(std::nearbyint(coordinate)); }
 
+/// A transparent image of one pixel at least.
+QImage new_image(int width, int height) {
+  constexpr qint64 most_pixels = 8192 * 8192;  // 256 MB, what Qt reads from a file at most
+  const QSize size(std::max(width, 1), std::max(height, 1));
+  const auto fail = [size](const std::string& why) {
+    throw RunFailure("can't make an image of " + std::to_string(size.width()) + " x " + std::to_string(size.height()) +
+                     " pixels: " + why);
+  };
+  if (qint64{size.width()} * size.height() > most_pixels) fail("at most 8192 x 8192 are possible");
+  QImage image(size, QImage::Format_ARGB32_Premultiplied);
+  if (image.isNull()) fail("not enough memory");
+  image.fill(Qt::transparent);
+  return image;
+}
+
 }  // namespace
 
-QtSurface::QtSurface(int width, int height)
-    : image_(std::max(width, 1), std::max(height, 1), QImage::Format_ARGB32_Premultiplied) {
-  image_.fill(Qt::transparent);
-}
+QtSurface::QtSurface(int width, int height) : image_(new_image(width, height)) {}
 
 void QtSurface::fill(Colour colour) { image_.fill(to_qt(colour)); }
 

@@ -1,0 +1,166 @@
+#include "fuzz/fuzz_targets.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <iostream>
+#include <stdexcept>
+
+#include "core/camera_file.h"
+#include "core/crystal_file.h"
+#include "core/number_text.h"
+#include "core/run_failure.h"
+#include "core/space_group.h"
+#include "core/unit_cell.h"
+#include "entry/atom_lists.h"
+#include "entry/structure_readers.h"
+#include "fuzz/memory_file.h"
+#include "fuzz/script_target.h"
+#include "reflections/scattering.h"
+#include "shell/desktop/qt_surface.h"
+
+namespace zol::fuzz {
+namespace {
+
+/// Ends the process, as a sanitizer does, when the program contradicts itself.
+void require(bool holds, const char* what) {
+  if (holds) return;
+  std::cerr << "does not hold: " << what << '\n';
+  std::abort();
+}
+
+void number_text(const std::string& input) {
+  (void)Val(input);
+  (void)strict_number(input);
+  const auto number = leading_number(input);
+  if (!number || !std::isfinite(number->value)) return;
+  for (const auto* pattern : {"##0.####", "000", "#0.0", "######.##", "0", "#", ""}) {
+    (void)Format(number->value, pattern);
+  }
+  (void)plain_text(number->value);
+  if (!std::isfinite(number->single)) return;
+  const auto again = leading_number(shortest_text(number->single));
+  require(again && again->single == number->single, "the shortest text of a Single reads back as the same Single");
+}
+
+void text_records(const std::string& input) {
+  RecordReader file("input", input);
+  for (int field = 0; !file.at_end(); ++field) {
+    try {
+      if (field % 3 == 0) (void)file.next_integer("a whole number");
+      if (field % 3 == 1) (void)file.next_string("a text");
+      if (field % 3 == 2) (void)file.next_single("a number");
+    } catch (const RunFailure&) {
+      // The reader stands behind the field and goes on, unless a quote is open.
+      if (file.at_end() || field > static_cast<int>(input.size())) throw;
+    }
+  }
+}
+
+void camera_file(const std::string& input) {
+  Module1State state;
+  read_camera_file(MemoryFile(input).path(), state);
+}
+
+/// Where files are written to: a folder of this process.
+std::string scratch_file() {
+  return (std::filesystem::temp_directory_path() / ("zol-fuzz-" + std::to_string(::getpid()) + ".cry")).string();
+}
+
+void read_crystal(const std::string& path, CrystalState& state) {
+  CrystalFileReader file(path);
+  file.read_cell(state);
+  file.read_contents(state);
+}
+
+void crystal_file(const std::string& input) {
+  CrystalState first;
+  read_crystal(MemoryFile(input).path(), first);
+  const std::string path = scratch_file();
+  write_crystal_file(path, first);
+  const std::string written = read_file(path);
+  std::filesystem::remove(path);
+  if (input.find('"') != std::string::npos || first.NAtom < -1) return;  // a quote inside a text, an older layout
+  CrystalState second;
+  read_crystal(MemoryFile(written).path(), second);
+  write_crystal_file(path, second);
+  require(read_file(path) == written, "a crystal file that was read and written reads as the same crystal");
+  std::filesystem::remove(path);
+}
+
+void space_group(const std::string& input) {
+  const auto group = read_space_group(MemoryFile(input).path());
+  (void)cell_constraint(group.system);
+  CrystalState state;
+  state.NAtom = 2;
+  state.AtomPos(2, 1) = 0.25F;
+  state.AtomLabel(2) = "A";
+  for (const auto* setting : {"abc", "cab", "c-ba"}) {
+    state.AxisSetting = setting;
+    expand_unit_cell(state, group);
+    (void)unit_cell_summary(state);
+    for (int m = 1; m <= state.NCell.value(); ++m) (void)unit_cell_line(state, m);
+  }
+}
+
+void scatter_table(const std::string& input) {
+  Main1State state;
+  state.AsfXCount = read_scatter_table(MemoryFile(input).path(), state.AsfX);
+  state.MassRatio = 1;
+  for (int row = 1; row <= state.AsfXCount.value(); ++row) {
+    (void)AtomicScatter(state, state.AsfX(row).Element, 0.3F, {false, true});
+  }
+}
+
+template <class Reader>
+void structure_file(const std::string& input) {
+  Module1State state;
+  Reader reader("input", state);
+  for (const auto& line : split_lines(input)) (void)reader.take(line);
+}
+
+void atom_lists(const std::string& input) {
+  const MemoryFile file(input);
+  (void)read_bare_atom_list(file.path());
+  (void)read_mincryst_list(file.path());
+}
+
+void bitmap(const std::string& input) {
+  const auto picture = pictures().make_surface(1, 1);
+  picture->load_bitmap(MemoryFile(input).path());
+  const auto shown = pictures().make_surface(64, 64);
+  shown->draw(*picture, true);
+  (void)shown->pixel(0, 0);
+  picture->mirror(true, true);
+}
+
+}  // namespace
+
+const std::vector<Target>& targets() {
+  static const std::vector<Target> table{
+      {"number_text", number_text},
+      {"text_records", text_records},
+      {"camera_file", camera_file},
+      {"crystal_file", crystal_file},
+      {"space_group", space_group},
+      {"scatter_table", scatter_table},
+      {"cif", structure_file<CifReader>},
+      {"icsd", structure_file<IcsdReader>},
+      {"atom_lists", atom_lists},
+      {"bitmap", bitmap},
+      {"script", run_script},
+  };
+  return table;
+}
+
+const Target& target(std::string_view name) {
+  const auto& table = targets();
+  const auto found =
+      std::find_if(table.begin(), table.end(), [name](const Target& entry) { return entry.name == name; });
+  if (found == table.end()) throw std::out_of_range("there is no target " + std::string(name));
+  return *found;
+}
+
+}  // namespace zol::fuzz

@@ -1,0 +1,48 @@
+#include "core/float_loop.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "tests/test_files.h"
+
+namespace zol {
+namespace {
+
+constexpr auto rising = LoopSense::Rising;
+constexpr auto falling = LoopSense::Falling;
+
+std::vector<Single> values(Single from, Single limit, double step, LoopSense sense) {
+  std::vector<Single> visited;
+  float_loop("a loop", from, limit, step, sense, [&visited](Single value) { visited.push_back(value); });
+  return visited;
+}
+
+TEST(FloatLoop, RoundsAfterEachStepAndTestsTheLimitBeforeEachRound) {
+  EXPECT_EQ(values(0, 1, 0.5, rising), (std::vector<Single>{0, 0.5F, 1}));
+  EXPECT_EQ(values(1, -0.75F, 0.5, falling), (std::vector<Single>{1, 0.5F, 0, -0.5F}));
+  EXPECT_TRUE(values(1, 0, 0.5, rising).empty());
+  // Ten roundings of 0.1F end above 1, so that 1 is not reached.
+  EXPECT_EQ(values(0, 1, 0.1F, rising).size(), 10U);
+  EXPECT_EQ(values(0, 1, 0.1F, rising)[8], 0.8000001F);
+}
+
+TEST(FloatLoop, FailsWhenItsStepsLeadNowhere) {
+  struct Row {
+    Single from, limit;
+    double step;
+    LoopSense sense;
+  };
+  // Half the spacing of Singles is rounded to even: 16777217 lies between two of them.
+  for (const auto& [from, limit, step, sense] :
+       {Row{0, 1, 0, rising}, Row{0, 0, -0.1, rising}, Row{0, 1e20F, 1, rising}, Row{-1e20F, 0, 1, rising},
+        Row{16777210, 16777220, 1, rising}, Row{0, -1e20F, 1, falling}, Row{1e20F, 0, 1, falling}}) {
+    EXPECT_NE(failure_of([&] { (void)values(from, limit, step, sense); }).find("which lead nowhere"), std::string::npos)
+        << from << ' ' << step;
+  }
+  EXPECT_EQ(failure_of([] { (void)values(0, 1, -0.5, rising); }),
+            "a loop goes from 0 to 1 by steps of -.5, which lead nowhere");
+}
+
+}  // namespace
+}  // namespace zol
