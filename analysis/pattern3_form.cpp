@@ -1,5 +1,7 @@
 #include "analysis/pattern3_form.h"
 
+#include "shell/place_text.h"
+
 namespace zol {
 namespace {
 
@@ -16,6 +18,10 @@ Pattern3Form::Pattern3Form(Workbench& bench)
     : Window(window_name, "KIKUCHI PATTERN ANALYSIS"),
       Picture1(*this, bench.services, "Picture1", picture_twips, picture_twips),
       CommonDialog1(bench.services) {
+  Picture1.describe_place = [](double x, double y) {
+    return value_text("x", x, "0.0", "") + value_text("   y", y, "0.0", " pixels");
+  };
+  file_drops = {{".bmp", &ImageLoad, &CommonDialog1}};
   add_arrays(fields(), triples.TripleHKL, triples.TripleS, triples.TripleI, triples.TripleAngle, lines.LineX,
              lines.LineY, lines.LineDone, LineLabel, LineColor, bands.ViewRange, bands.GnomX, bands.GnomY,
              bands.LineSlope, bands.LineIntercept, bands.LineDist, bands.BandS, bands.BandPhi, bands.BandTheta,

@@ -4,7 +4,6 @@
 #include "analysis/band_matching.h"
 #include "bench/bench_crystals.h"
 #include "core/cell_geometry.h"
-#include "reflections/reflection_list.h"
 
 namespace zol {
 namespace {
@@ -15,10 +14,7 @@ struct NoProgress : Progress {
 
 std::unique_ptr<CrystalState> quartz_list() {
   auto state = shipped_crystal("Quartz.cry");
-  state->Dmin = 1;
-  enumerate_reflections(*state, {{true, true, true}, {}});
-  sort_by_s(*state);
-  (void)compute_list(*state, {false, true});
+  make_list(*state, 1, {false, true});
   sort_by_weighted_intensity(*state);
   return state;
 }

@@ -1,6 +1,7 @@
 // Crystals for benchmarks, with the tables that ship.
 #pragma once
 
+#include <cmath>
 #include <memory>
 #include <random>
 #include <string>
@@ -10,6 +11,7 @@
 #include "core/number_text.h"
 #include "core/space_group.h"
 #include "core/unit_cell.h"
+#include "reflections/reflection_list.h"
 #include "reflections/scattering.h"
 
 namespace zol {
@@ -61,5 +63,16 @@ inline std::unique_ptr<CrystalState> p1_crystal(int atoms) {
   complete(*state);
   return state;
 }
+
+/// Lists all reflections of the cell down to dmin, in full sphere.
+inline void make_list(CrystalState& state, Single dmin, const Radiation& radiation) {
+  state.Dmin = dmin;
+  enumerate_reflections(state, {{true, true, true}, {}});
+  sort_by_s(state);
+  (void)compute_list(state, radiation);
+}
+
+/// Down to where the made-up cell has about so many reflections: 19180 to 0.8 angstroms.
+inline Single dmin_for(double reflections) { return to_single(0.8 * std::cbrt(19180 / reflections)); }
 
 }  // namespace zol

@@ -1,11 +1,8 @@
-// Powder patterns: histogram and lines, from a list that stands.
+// Powder patterns: histogram and lines, from a list that stands, beside the plain loops over all points and bins.
 #include <benchmark/benchmark.h>
 
 #include "bench/bench_crystals.h"
-#include "powder/histogram.h"
-#include "powder/interference.h"
-#include "powder/line_profile.h"
-#include "reflections/reflection_list.h"
+#include "tests/plain_powder.h"
 
 namespace zol {
 namespace {
@@ -14,53 +11,84 @@ struct NoProgress : Progress {
   void report(int /*done*/, int /*total*/) override {}
 };
 
-void make_list(CrystalState& state, Single dmin) {
-  state.Dmin = dmin;
-  enumerate_reflections(state, {{true, true, true}, {}});
-  sort_by_s(state);
-  (void)compute_list(state, {true, false});
-}
+constexpr PseudoVoigt line{0.2F, 50};
+constexpr Single ring_width = 0.003F;  // 1/angstrom
 
-void pattern(benchmark::State& run, CrystalState& state, const CrystalliteSize& size) {
-  make_list(state, 1);
-  NoProgress progress;
-  BoundedArray<Single> profile("Profile", last_sample);
-  std::size_t filled = 0;
-  for (auto _ : run) {
-    const Integer count = bin_count(state.Dmin);
+/// The crystal, its reflections down to 1 angstrom, and how large its crystallites are.
+struct Powder {
+  explicit Powder(std::unique_ptr<CrystalState> crystal, Single cells)
+      : state(std::move(crystal)), size{cells, cells, cells} {
+    make_list(*state, 1, {true, false});
+    range.maximum = two_theta_limit(state->WaveLength, state->Dmin);
+  }
+  [[nodiscard]] BoundedArray<Single> histogram() const {
+    NoProgress progress;
+    const Integer count = bin_count(state->Dmin);
     BoundedArray<Single> bins("Bins", highest_bin(count, 1000));
-    const auto grid = interference_grid(state, size);
-    fill_histogram(state, grid, InterferenceTable(grid, size), count, bins, progress);
-    const auto lines = filled_bins(bins, 0, count, state.Dmin);
-    const TwoThetaRange range{0, two_theta_limit(state.WaveLength, state.Dmin)};
-    sum_pseudo_voigt_lines(lines, state.WaveLength, range, {0.2F, 50}, profile, progress);
-    benchmark::DoNotOptimize(largest_sample(profile));
-    filled = lines.size();
+    const auto grid = interference_grid(*state, size);
+    fill_histogram(*state, grid, InterferenceTable(grid, size), count, bins, progress);
+    return bins;
   }
-  run.counters["reflections"] = state.RefCount.value();
-  run.counters["bins"] = static_cast<double>(filled);
-}
+  std::unique_ptr<CrystalState> state;
+  CrystalliteSize size;
+  TwoThetaRange range;
+};
 
-void rings(benchmark::State& run, CrystalState& state, const CrystalliteSize& size) {
-  make_list(state, 1);
+Powder quartz() { return Powder(shipped_crystal("Quartz.cry"), 10000); }
+/// 35 000 points of the interference function a reflection.
+Powder small_crystallites() { return Powder(p1_crystal(20), 50); }
+
+template <Powder (*make)()>
+void pattern(benchmark::State& run) {
+  const Powder powder = make();
   NoProgress progress;
   BoundedArray<Single> profile("Profile", last_sample);
   for (auto _ : run) {
-    const Integer count = bin_count(state.Dmin);
-    BoundedArray<Single> bins("Bins", highest_bin(count, 10000));
-    const auto grid = interference_grid(state, size);
-    fill_histogram(state, grid, InterferenceTable(grid, size), count, bins, progress);
-    sum_gaussian_lines(filled_bins(bins, 1, count, state.Dmin), 1, 0.003F, profile, progress);
-    benchmark::DoNotOptimize(largest_sample(profile));
+    const auto bins = filled_bins(powder.histogram(), 0, bin_count(1), 1);
+    sum_pseudo_voigt_lines(bins, powder.state->WaveLength, powder.range, line, profile, progress);
+    run.counters["bins"] = static_cast<double>(bins.size());
+  }
+  run.counters["reflections"] = powder.state->RefCount.value();
+}
+
+template <Powder (*make)()>
+void plain_pattern(benchmark::State& run) {
+  const Powder powder = make();
+  const auto two_theta = [&powder](Single d_star) {
+    return to_single(2.0 * ArcSin(to_single(powder.state->WaveLength / 2.0 * d_star)));
+  };
+  const auto sample = [&powder](int m) { return powder.range.at(m); };
+  for (auto _ : run) {
+    const auto bins = plain_histogram(*powder.state, powder.size);
+    benchmark::DoNotOptimize(plain_profile(bins, two_theta, sample, 1, 1, line.half_width));
   }
 }
 
-void PowderQuartz(benchmark::State& run) { pattern(run, *shipped_crystal("Quartz.cry"), {10000, 10000, 10000}); }
-void PowderLargeCellOf50(benchmark::State& run) { pattern(run, *p1_crystal(20), {50, 50, 50}); }
-void RingsQuartz(benchmark::State& run) { rings(run, *shipped_crystal("Quartz.cry"), {10000, 10000, 10000}); }
-BENCHMARK(PowderQuartz)->Unit(benchmark::kMillisecond);
-BENCHMARK(PowderLargeCellOf50)->Unit(benchmark::kMillisecond);
-BENCHMARK(RingsQuartz)->Unit(benchmark::kMillisecond);
+void rings(benchmark::State& run) {
+  const Powder powder = quartz();
+  NoProgress progress;
+  BoundedArray<Single> profile("Profile", last_sample);
+  for (auto _ : run) {
+    sum_gaussian_lines(filled_bins(powder.histogram(), 1, bin_count(1), 1), 1, ring_width, profile, progress);
+  }
+}
+
+void plain_rings(benchmark::State& run) {
+  const Powder powder = quartz();
+  const auto itself = [](Single d_star) { return d_star; };
+  const auto sample = [](int m) { return d_star_at(1, m); };
+  for (auto _ : run) {
+    const auto bins = plain_histogram(*powder.state, powder.size);
+    benchmark::DoNotOptimize(plain_profile(bins, itself, sample, 1, 0, ring_width));
+  }
+}
+
+BENCHMARK(pattern<quartz>)->Name("Powder/Quartz")->Unit(benchmark::kMillisecond);
+BENCHMARK(plain_pattern<quartz>)->Name("PowderPlain/Quartz")->Unit(benchmark::kMillisecond);
+BENCHMARK(pattern<small_crystallites>)->Name("Powder/SmallCrystallites")->Unit(benchmark::kMillisecond);
+BENCHMARK(plain_pattern<small_crystallites>)->Name("PowderPlain/SmallCrystallites")->Unit(benchmark::kMillisecond);
+BENCHMARK(rings)->Name("Rings/Quartz")->Unit(benchmark::kMillisecond);
+BENCHMARK(plain_rings)->Name("RingsPlain/Quartz")->Unit(benchmark::kMillisecond);
 
 }  // namespace
 }  // namespace zol

@@ -1,12 +1,11 @@
-// The sorts of the reflection list, growing with its length.
+// The sorts of the reflection list, growing with its length, beside the plain selection sorts.
 #include <benchmark/benchmark.h>
 
 #include <random>
+#include <string>
+#include <vector>
 
-#include "analysis/triple_table.h"
-#include "kikuchi/kikuchi_pattern.h"
-#include "reflections/reflection_list.h"
-#include "spots/fiber_texture.h"
+#include "tests/plain_sort.h"
 
 namespace zol {
 namespace {
@@ -24,41 +23,44 @@ void fill(CrystalState& state, int count) {
   }
 }
 
-template <void (*sort)(CrystalState&)>
-void sort_list(benchmark::State& run) {
+void sort_list(benchmark::State& run, const ListSort& rule) {
   CrystalState state;
   for (auto _ : run) {
     run.PauseTiming();
     fill(state, static_cast<int>(run.range(0)));
     run.ResumeTiming();
-    sort(state);
+    rule.sort(state);
   }
-  run.SetComplexityN(run.range(0));
 }
-BENCHMARK(sort_list<sort_by_s>)
-    ->Name("SortByLength")
-    ->RangeMultiplier(10)
-    ->Range(1000, 100000)
-    ->Arg(200000)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(sort_list<sort_by_weighted_intensity>)
-    ->Name("SortForTriples")
-    ->RangeMultiplier(10)
-    ->Range(1000, 100000)
-    ->Arg(200000)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(sort_list<sort_by_intensity>)
-    ->Name("SortForFiber")
-    ->RangeMultiplier(10)
-    ->Range(1000, 100000)
-    ->Arg(200000)
-    ->Unit(benchmark::kMillisecond);
-BENCHMARK(sort_list<sort_for_kikuchi>)
-    ->Name("SortForKikuchi")
-    ->RangeMultiplier(10)
-    ->Range(1000, 100000)
-    ->Arg(200000)
-    ->Unit(benchmark::kMillisecond);
+
+/// Of the keys alone.
+void sort_plainly(benchmark::State& run, const ListSort& rule) {
+  CrystalState state;
+  fill(state, static_cast<int>(run.range(0)));
+  std::vector<Single> keys;
+  for (int i = 0; i <= state.RefCount.value(); ++i) {
+    keys.push_back(rule.sort == sort_by_s           ? state.RefS(i)
+                   : rule.sort == sort_by_intensity ? state.RefI(i)
+                                                    : state.RefS(i) * state.RefI(i));
+  }
+  for (auto _ : run) benchmark::DoNotOptimize(plain_order(keys, rule));
+}
+
+void measure(const std::string& name, void (*sort)(benchmark::State&, const ListSort&), const ListSort& rule) {
+  benchmark::RegisterBenchmark((name + rule.name).c_str(), sort, rule)
+      ->RangeMultiplier(10)
+      ->Range(1000, 100000)
+      ->Arg(200000)
+      ->Unit(benchmark::kMillisecond);
+}
+
+const bool measured = [] {
+  for (const auto& rule : list_sorts) {
+    measure("Sort/", sort_list, rule);
+    measure("SortPlain/", sort_plainly, rule);
+  }
+  return true;
+}();
 
 }  // namespace
 }  // namespace zol

@@ -1,13 +1,13 @@
-// Structure factors of a P1 cell of 200 atoms next to their bare sines and cosines, and to gemmi's direct summation
-// over the same atoms where gemmi is installed.
+// Structure factors of a P1 cell of 200 atoms next to the plain loop, to their bare sines and cosines, and to gemmi's
+// direct summation over the same atoms where gemmi is installed.
 #include <benchmark/benchmark.h>
 
 #include <complex>
 #include <vector>
 
 #include "bench/bench_crystals.h"
-#include "reflections/reflection_list.h"
 #include "reflections/structure_factor.h"
+#include "tests/plain_structure_factor.h"
 
 #ifdef ZOL_HAS_GEMMI
 #include <gemmi/it92.hpp>
@@ -33,11 +33,19 @@ void StructureFactors(benchmark::State& run) {
   const auto state = large_cell();
   for (auto _ : run) {
     ScatteringCell atoms(*state, xrays);
-    for (int i = 1; i <= state->RefCount.value(); ++i) atoms.structure_factor(*state, i);
+    for (int i = 1; i <= state->RefCount.value(); ++i) atoms.StructureFactor(*state, i);
     benchmark::DoNotOptimize(state->RefA(1));
   }
   run.counters["reflections"] = state->RefCount.value();
 }
+void StructureFactorsPlain(benchmark::State& run) {
+  const auto state = large_cell();
+  for (auto _ : run) {
+    for (int i = 1; i <= state->RefCount.value(); ++i) plain_structure_factor(*state, i, xrays);
+    benchmark::DoNotOptimize(state->RefA(1));
+  }
+}
+BENCHMARK(StructureFactorsPlain)->Unit(benchmark::kMillisecond);
 BENCHMARK(StructureFactors)->Unit(benchmark::kMillisecond);
 
 /// What the phases alone cost.

@@ -16,7 +16,8 @@ void write_box(Main1Form& form, const BoxText& entry) {
 }
 
 template <class Reader>
-void import(Workbench& bench, Main1Form& form) {
+void import(Workbench& bench, Main1Form& form, const char* filter) {
+  form.CommonDialog1.set_filter(filter);
   const std::string path = form.CommonDialog1.open();
   if (path.empty()) return;
   CrystalState& state = form.state;
@@ -31,8 +32,8 @@ void import(Workbench& bench, Main1Form& form) {
 
 }  // namespace
 
-void ImportfromCIF_Click(Workbench& bench, Main1Form& form) { import <CifReader>(bench, form); }
+void ImportfromCIF_Click(Workbench& bench, Main1Form& form) { import <CifReader>(bench, form, file_filters::cif); }
 
-void ImportFromICSD_Click(Workbench& bench, Main1Form& form) { import <IcsdReader>(bench, form); }
+void ImportFromICSD_Click(Workbench& bench, Main1Form& form) { import <IcsdReader>(bench, form, file_filters::texts); }
 
 }  // namespace zol::main1

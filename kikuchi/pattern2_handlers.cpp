@@ -268,7 +268,7 @@ void Picture1_MouseDown(Workbench& bench, Pattern2Form& form, Single x, Single y
 }
 
 void ISAVE_Click(Workbench& /*bench*/, Pattern2Form& form) {
-  form.Picture1.save_stored_image(form.CommonDialog1.save() + ".bmp");
+  form.Picture1.save_stored_image(form.CommonDialog1.save_as({".bmp"}));
 }
 
 void Imagesize_Click(Workbench& bench, Pattern2Form& form) {

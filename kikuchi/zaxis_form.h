@@ -1,6 +1,9 @@
 // The map of zone axes around the present one.
 #pragma once
 
+#include <cmath>
+
+#include "shell/place_text.h"
 #include "shell/window_services.h"
 #include "shell/workbench.h"
 
@@ -13,6 +16,11 @@ struct ZaxisForm : Window {
       : Window(window_name, "Zone Axis"),
         Picture1(*this, bench.services, "Picture1", 6360, 6360),
         CommonDialog1(bench.services) {
+    Picture1.describe_place = [this](double x, double y) {
+      const double radius = std::hypot(x, y);
+      if (radius > 1) return std::string("beyond the half sphere");
+      return direction_text(Check2.checked() ? radius * 90 : std::asin(radius) / degree, x, y);
+    };
     fields().add("KeepMap", KeepMap);
     fields().add("MapScale", MapScale);
     // As it starts; no event comes of it.

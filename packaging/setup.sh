@@ -1,8 +1,11 @@
 # Sourced by ./run and ./test: installs what is missing on a Debian machine.
 
 build_packages="cmake ninja-build g++ libgtest-dev libbenchmark-dev
-  qt6-base-dev qt6-tools-dev qt6-svg-dev libqt6svg6 fonts-dejavu-core"
-style_packages="clang-format-14 clang-tidy-14"
+  qt6-base-dev libqt6opengl6-dev qt6-tools-dev qt6-svg-dev libqt6svg6 fonts-dejavu-core"
+# For the test that uses the program in real windows, and the pictures of the guide.
+screen_packages="xvfb openbox"
+# With the last three the installation test looks at the desktop entry, the metainfo and the man pages too.
+style_packages="clang-format-14 clang-tidy-14 desktop-file-utils appstream mandoc"
 fuzz_packages="clang-14 libclang-rt-14-dev"
 
 # Installs the packages among the arguments that are not there, and says so.

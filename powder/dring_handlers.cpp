@@ -45,13 +45,15 @@ void Command1_Click(Workbench& bench, DringForm& /*form*/) { DRCalc(bench); }
 void Command2_Click(Workbench& /*bench*/, DringForm& form) { ask_for_scale(form); }
 
 void Command3_Click(Workbench& /*bench*/, DringForm& form) {
-  const std::string& path = form.CommonDialog1.save();
-  if (!path.empty()) form.Picture2.save_stored_image(with_ending(path, ".BMP"));
+  const NameEnding ending{".BMP", true};
+  const std::string& path = form.CommonDialog1.save(ending);
+  if (!path.empty()) form.Picture2.save_stored_image(ending.added_to(path));
 }
 
 void Command4_Click(Workbench& /*bench*/, DringForm& form) {
-  const std::string& path = form.CommonDialog1.save();
-  if (!path.empty()) write_edp(with_ending(path, ".EDP"), form.DStarMax, form.Profile);
+  const NameEnding ending{".EDP", true};
+  const std::string& path = form.CommonDialog1.save(ending);
+  if (!path.empty()) write_edp(ending.added_to(path), form.DStarMax, form.Profile);
 }
 
 void Command5_Click(Workbench& bench, DringForm& form) {

@@ -5,6 +5,7 @@
 #include "powder/line_profile.h"
 #include "powder/open_dring.h"
 #include "reflections/main1_form.h"
+#include "shell/place_text.h"
 
 namespace zol {
 namespace {
@@ -58,6 +59,12 @@ DringForm::DringForm(Workbench& bench)
       Picture1(*this, bench.services, "Picture1", 9000, 3600),
       Picture2(*this, bench.services, "Picture2", 8400, 8400),
       CommonDialog1(bench.services) {
+  Picture1.x_axis = Axis{"1/d", "Å⁻¹"};
+  Picture1.y_axis = Axis{"I", "% of full height", 100};
+  Picture1.describe_place = [](double x, double y) {
+    return spacing_text(x) + value_text("   I", y * 100, "0.0", " %");
+  };
+  Picture2.describe_place = [](double x, double y) { return spacing_text(std::hypot(x, y)); };
   Picture2.set_solid_fill(false);
   fields().add("DStarMax", DStarMax);
   show_fields(fields());

@@ -68,6 +68,7 @@ class Spreader {
         bins_(bins),
         beyond_(bins.upper() + 1.0),
         points_{points_of(grid, 0), points_of(grid, 1), points_of(grid, 2)},
+        square_(points_[2].size()),
         position_(points_[2].size()) {}
 
   void add(Integer h, Integer k, Integer l, Single intensity) {
@@ -89,24 +90,27 @@ class Spreader {
   }
 
  private:
-  /// Positions, in bins and not yet whole, of a row of points along c*.
+  /// Positions, in bins and not yet whole, of a row of points along c*; no number where the metric is impossible.
   void place_row(double hh_kk, const std::vector<double>& ll, double hk, const double* kl,
                  const std::vector<double>& lh) {
-    double lowest = 0.0;
+    for (std::size_t z = 0; z < ll.size(); ++z) square_[z] = hh_kk + ll[z] + hk + kl[z] + lh[z];
     for (std::size_t z = 0; z < ll.size(); ++z) {
-      const double square = hh_kk + ll[z] + hk + kl[z] + lh[z];
-      lowest = square < lowest ? square : lowest;
-      position_[z] = dmin_ * double{static_cast<Single>(std::sqrt(square))} * count_;
+      position_[z] = dmin_ * double{static_cast<Single>(std::sqrt(square_[z]))} * count_;
     }
-    (void)square_root(lowest, "the squared length of a reciprocal vector");
   }
 
   void add_row(const Single* values, Single intensity) {
     for (std::size_t z = 0; z < position_.size(); ++z) {
-      if (!(position_[z] >= 0.0 && position_[z] < beyond_)) (void)bins_(Long::floor(position_[z]).value());
+      if (!(position_[z] >= 0.0 && position_[z] < beyond_)) fail(z);
       Single& bin = bins_(static_cast<int>(position_[z]));
       bin = to_single(double{bin} + double{intensity} * double{values[points_[2][z].entry]});
     }
+  }
+
+  /// Names what is wrong with a point that has no bin.
+  void fail(std::size_t z) const {
+    (void)square_root(square_[z], "the squared length of a reciprocal vector");
+    (void)bins_(Long::floor(position_[z]).value());
   }
 
   const Main1State& cell_;
@@ -116,7 +120,7 @@ class Spreader {
   BoundedArray<Single>& bins_;
   double beyond_;  // the first position that has no bin
   std::array<std::vector<GridPoint>, 3> points_;
-  std::vector<double> position_;
+  std::vector<double> square_, position_;
 };
 
 /// Bins are numbered in 16 bits.

@@ -1,15 +1,8 @@
 #include "powder/pattern_files.h"
 
-#include <filesystem>
-
 #include "core/text_records.h"
 
 namespace zol {
-
-std::string with_ending(const std::string& path, std::string_view ending) {
-  const std::string name = std::filesystem::path(path).filename().string();
-  return name.find('.') == std::string::npos ? path + std::string(ending) : path;
-}
 
 void write_xdp(const std::string& path, const TwoThetaRange& range, const PseudoVoigt& line,
                const CrystalliteSize& size, const BoundedArray<Single>& profile) {

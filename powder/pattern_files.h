@@ -2,16 +2,12 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "core/bounded_array.h"
 #include "powder/interference.h"
 #include "powder/line_profile.h"
 
 namespace zol {
-
-/// The path, with the ending behind it when the name of the file has no point. Points in names of folders don't count.
-[[nodiscard]] std::string with_ending(const std::string& path, std::string_view ending);
 
 /// ".XDP": seven settings by name, then 2-theta and intensity of each sample.
 /// @throws RunFailure  the file can't be written

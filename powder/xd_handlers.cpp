@@ -44,14 +44,16 @@ void Command2_Click(Workbench& /*bench*/, XdForm& form) {
 }
 
 void Command3_Click(Workbench& /*bench*/, XdForm& form) {
-  const std::string& path = form.CommonDialog1.save();
+  const NameEnding ending{".XDP", true};
+  const std::string& path = form.CommonDialog1.save(ending);
   if (path.empty()) return;
-  write_xdp(with_ending(path, ".XDP"), form.range(), form.line(), form.size(), form.Profile);
+  write_xdp(ending.added_to(path), form.range(), form.line(), form.size(), form.Profile);
 }
 
 void Command4_Click(Workbench& /*bench*/, XdForm& form) {
-  const std::string& path = form.CommonDialog1.save();
-  if (!path.empty()) form.Picture1.save_stored_image(with_ending(path, ".BMP"));
+  const NameEnding ending{".BMP", true};
+  const std::string& path = form.CommonDialog1.save(ending);
+  if (!path.empty()) form.Picture1.save_stored_image(ending.added_to(path));
 }
 
 void Command5_Click(Workbench& bench, XdForm& form) {

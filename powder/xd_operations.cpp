@@ -5,6 +5,7 @@
 #include "powder/histogram.h"
 #include "powder/open_xd.h"
 #include "reflections/main1_form.h"
+#include "shell/place_text.h"
 
 namespace zol {
 namespace {
@@ -38,6 +39,13 @@ XdForm::XdForm(Workbench& bench)
     : Window(window_name, "X-ray Powder Diffraction"),
       Picture1(*this, bench.services, "Picture1", 12000, 8400),
       CommonDialog1(bench.services) {
+  Picture1.x_axis = Axis{"2θ", "°"};
+  Picture1.y_axis = Axis{"I", "% of full height", 100};
+  Picture1.describe_place = [&state = bench.state](double x, double y) {
+    std::string text = value_text("2θ", x, "0.00", "°");
+    if (x > 0 && x < 180) text += value_text("   d", state.WaveLength / (2 * std::sin(x / 2 * degree)), "0.000", " Å");
+    return text + value_text("   I", y * 100, "0.0", " %");
+  };
   fields().add("TwoThetaMin", TwoThetaMin);
   fields().add("TwoThetaMax", TwoThetaMax);
   fields().add("GaussianRatio", GaussianRatio);

@@ -63,6 +63,7 @@ void rebuild(Workbench& bench, Main1Form& form, LoadBy by) {
 void load_crystal(Workbench& bench, LoadBy by) {
   auto& form = bench.windows.use<Main1Form>();
   CrystalState& state = form.state;
+  form.CommonDialog1.set_filter(file_filters::crystals);
   state.CrystalFile = form.CommonDialog1.open();
   if (state.CrystalFile.empty()) return;
 

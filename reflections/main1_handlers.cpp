@@ -56,6 +56,7 @@ void set_wavelength(Main1Form& form, double wavelength, double mass_ratio) {
 
 /// Asks for the file of a report. It shares the remembered path with the crystal file.
 bool ask_report_file(Main1Form& form) {
+  form.CommonDialog1.set_filter(file_filters::texts);
   form.state.CrystalFile = form.CommonDialog1.save();
   return !form.state.CrystalFile.empty();
 }
@@ -277,6 +278,7 @@ void Command15_Click(Workbench& bench, Main1Form& form) {
 
 void DATA_SAVE_Click(Workbench& bench, Main1Form& form) {
   form.CommonDialog1.set_initial_folder(bench.data.crystal_folder);
+  form.CommonDialog1.set_filter(file_filters::crystals);
   form.state.CrystalFile = form.CommonDialog1.save();
   if (form.state.CrystalFile.empty()) return;
   write_crystal_file(form.state.CrystalFile, form.state);

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/number_text.h"
+#include "core/sines.h"
 
 namespace zol {
 namespace {
@@ -53,62 +54,75 @@ void electron_intensity(CrystalState& state, int i, double f, std::string& line)
   append_intensity(line, 2.0 * s * double{state.RefI(i)});
 }
 
+/// Place of the first entry that is the same, put at the end when there is none.
+template <class Entry, class Same>
+std::size_t place_of(std::vector<Entry>& entries, const Entry& entry, Same same) {
+  const auto found = std::find_if(entries.begin(), entries.end(), same);
+  const auto place = static_cast<std::size_t>(found - entries.begin());
+  if (found == entries.end()) entries.push_back(entry);
+  return place;
+}
+
+/// The sum with the term of one more atom. Rounding keeps order: where both ends of the range that holds the sine or
+/// cosine give the same Single, the true value gives it too. Where they do not, the true value is computed, and so it
+/// is for a sum of 0, whose sign they may not share.
+template <class Kind, class Wave>
+Single with_atom(Single sum, const Kind& kind, double phase, double approximate, Wave wave) {
+  const auto with_term = [sum, &kind](double value) {
+    return static_cast<Single>(sum + kind.weight * value * kind.damping);
+  };
+  const Single low = with_term(approximate - sine_error);
+  const Single high = with_term(approximate + sine_error);
+  return low == high && low != 0 ? low : with_term(wave(phase));
+}
+
 }  // namespace
 
-void StructureFactor(CrystalState& state, int i, const Radiation& radiation) {
-  const double h = state.RefH(i).value();
-  const double k = state.RefK(i).value();
-  const double l = state.RefL(i).value();
-  const Single s = state.RefS(i);
-  Single a = 0;
-  Single b = 0;
-  for (int m = 1; m <= state.NCell.value(); ++m) {
-    const Single f = AtomicScatter(state, state.UCElement(m), s, radiation);
-    const double weight = to_single(double{f} * double{state.UCOcc(m)});
-    const double phase =
-        to_single((h * double{state.UCPos(m, 1)} + k * double{state.UCPos(m, 2)} + l * double{state.UCPos(m, 3)}) *
-                  program_two_pi);
-    const double damping = to_single(std::exp(-double{state.UCB(m)} * double{s} * double{s}));
-    a = to_single(double{a} + weight * std::cos(phase) * damping);
-    b = to_single(double{b} + weight * std::sin(phase) * damping);
-  }
-  state.RefA(i) = a;
-  state.RefB(i) = b;
-}
-
 ScatteringCell::ScatteringCell(const CrystalState& state, const Radiation& radiation) : radiation_(radiation) {
-  for (int m = 1; m <= state.NCell.value(); ++m) {
-    Kind kind;
-    kind.row = find_scatter_row(state, state.UCElement(m));
-    kind.occupancy = state.UCOcc(m);
-    kind.b = state.UCB(m);
-    element_missing_ = element_missing_ || kind.row == nullptr;
-    const auto same = std::find_if(kinds_.begin(), kinds_.end(), [&kind](const Kind& other) {
-      return other.row == kind.row && other.occupancy == kind.occupancy && other.b == kind.b;
-    });
-    const auto place = static_cast<std::size_t>(same - kinds_.begin());
-    if (same == kinds_.end()) kinds_.push_back(kind);
-    atoms_.push_back({state.UCPos(m, 1), state.UCPos(m, 2), state.UCPos(m, 3), place});
+  const int atoms = state.NCell.value();
+  for (int m = 1; m <= atoms; ++m) {
+    kind_.push_back(kind_of(find_scatter_row(state, state.UCElement(m)), state.UCOcc(m), state.UCB(m)));
+    x_.push_back(state.UCPos(m, 1));
+    y_.push_back(state.UCPos(m, 2));
+    z_.push_back(state.UCPos(m, 3));
+  }
+  for (auto* values : {&phases_, &sines_, &cosines_}) values->resize(kind_.size());
+}
+
+std::size_t ScatteringCell::kind_of(const AsfRow* row, double occupancy, double b) {
+  const auto element = place_of(elements_, {row}, [row](const Element& other) { return other.row == row; });
+  return place_of(kinds_, {element, occupancy, b}, [&](const Kind& other) {
+    return other.element == element && other.occupancy == occupancy && other.b == b;
+  });
+}
+
+void ScatteringCell::set_kinds(const CrystalState& state, Single s) {
+  for (Element& element : elements_) element.factor = scattering_factor(state, element.row, s, radiation_);
+  for (Kind& kind : kinds_) {
+    kind.weight = to_single(elements_[kind.element].factor * kind.occupancy);
+    kind.damping = to_single(std::exp(-kind.b * double{s} * double{s}));
   }
 }
 
-void ScatteringCell::structure_factor(CrystalState& state, int i) {
-  const double h = state.RefH(i).value();
-  const double k = state.RefK(i).value();
-  const double l = state.RefL(i).value();
-  const Single s = state.RefS(i);
-  if (element_missing_) state.ScatterMissing = 1;
-  for (Kind& kind : kinds_) {
-    kind.weight = to_single(double{scattering_factor(state, kind.row, s, radiation_)} * double{kind.occupancy});
-    kind.damping = to_single(std::exp(-double{kind.b} * double{s} * double{s}));
+void ScatteringCell::set_waves(double h, double k, double l) {
+  for (std::size_t m = 0; m < phases_.size(); ++m) {
+    phases_[m] = static_cast<Single>((h * x_[m] + k * y_[m] + l * z_[m]) * program_two_pi);
   }
+  approximate_sines(phases_, sines_, cosines_);
+}
+
+void ScatteringCell::StructureFactor(CrystalState& state, int i) {
+  for (const Element& element : elements_) {
+    if (element.row == nullptr) state.ScatterMissing = 1;
+  }
+  set_kinds(state, state.RefS(i));
+  set_waves(state.RefH(i).value(), state.RefK(i).value(), state.RefL(i).value());
   Single a = 0;
   Single b = 0;
-  for (const Atom& atom : atoms_) {
-    const double phase = static_cast<Single>((h * atom.x + k * atom.y + l * atom.z) * program_two_pi);
-    const Kind& kind = kinds_[atom.kind];
-    a = static_cast<Single>(a + kind.weight * std::cos(phase) * kind.damping);
-    b = static_cast<Single>(b + kind.weight * std::sin(phase) * kind.damping);
+  for (std::size_t m = 0; m < kind_.size(); ++m) {
+    const Kind& kind = kinds_[kind_[m]];
+    a = with_atom(a, kind, phases_[m], cosines_[m], [](double phase) { return std::cos(phase); });
+    b = with_atom(b, kind, phases_[m], sines_[m], [](double phase) { return std::sin(phase); });
   }
   // A sum that leaves the range never comes back into it.
   state.RefA(i) = to_single(a);
@@ -118,7 +132,7 @@ void ScatteringCell::structure_factor(CrystalState& state, int i) {
 void ReflectionIntensity(CrystalState& state, int i, Single theta, const Radiation& radiation,
                          const ObservedReflections& observed, ScatteringCell& atoms, std::string& line) {
   if (state.NAtom > 0) {
-    atoms.structure_factor(state, i);
+    atoms.StructureFactor(state, i);
     const Single f = append_structure_factor(state, i, line);
     if (radiation.xray) xray_intensity(state, i, theta, f, line);
     if (radiation.electron) electron_intensity(state, i, f, line);

@@ -10,37 +10,43 @@
 
 namespace zol {
 
-/// Sets RefA(i) and RefB(i), the real and imaginary part of the structure factor, from the unit cell. Entry i must hold
-/// h, k, l and RefS(i). Sums are rounded to Single after each atom; 2 pi is 6.28318.
-/// An element without a scattering factor sets ScatterMissing.
-void StructureFactor(CrystalState& state, int i, const Radiation& radiation);
-
-/// The unit cell laid out for many reflections: atoms that share element, occupancy and B share factor and damping, and
-/// the rows of the table are found once. Gives what StructureFactor gives, to the bit.
+/// The unit cell laid out for the structure factors of many reflections. What atoms share is worked out once: the row
+/// of the table and the scattering factor of an element, weight and damping of a kind, which is an element with an
+/// occupancy and a B.
 class ScatteringCell {
  public:
   ScatteringCell(const CrystalState& state, const Radiation& radiation);
 
-  /// As StructureFactor.
-  void structure_factor(CrystalState& state, int i);
+  /// Sets RefA(i) and RefB(i), the real and imaginary part of the structure factor. Entry i must hold h, k, l and
+  /// RefS(i). Sums are rounded to Single after each atom; 2 pi is 6.28318.
+  /// An element without a scattering factor sets ScatterMissing.
+  void StructureFactor(CrystalState& state, int i);
 
  private:
-  struct Kind {
+  struct Element {
     const AsfRow* row = nullptr;
-    Single occupancy = 0;
-    Single b = 0;
+    double factor = 0;  ///< of the reflection under work
+  };
+  struct Kind {
+    std::size_t element = 0;
+    double occupancy = 0;
+    double b = 0;
     double weight = 0;  ///< of the reflection under work
     double damping = 0;
   };
-  struct Atom {
-    double x = 0, y = 0, z = 0;
-    std::size_t kind = 0;
-  };
+
+  [[nodiscard]] std::size_t kind_of(const AsfRow* row, double occupancy, double b);
+  void set_kinds(const CrystalState& state, Single s);
+  void set_waves(double h, double k, double l);
 
   Radiation radiation_;
+  std::vector<Element> elements_;
   std::vector<Kind> kinds_;
-  std::vector<Atom> atoms_;
-  bool element_missing_ = false;
+
+  // One entry an atom.
+  std::vector<double> x_, y_, z_;
+  std::vector<std::size_t> kind_;
+  std::vector<double> phases_, sines_, cosines_;  ///< of the reflection under work
 };
 
 /// Sets RefA(i), RefB(i), RefI(i) and appends the columns A, B, F, I to the line.

@@ -78,6 +78,13 @@ struct Primitive {
   bool stored = true;  ///< in the stored image, else on the overlay
 };
 
+/// An axis of a curve: what is laid off along it, and in which unit.
+struct Axis {
+  std::string quantity;
+  std::string unit;
+  double per_unit = 1;  ///< shown numbers per user unit
+};
+
 class Canvas : public Control {
  public:
   /// @param width_twips  size of the control, 1440 twips are 96 pixels
@@ -146,7 +153,12 @@ class Canvas : public Control {
   Event<Single, Single> on_mouse_up;
   Event<> on_double_click;
 
+  // What a view shows beside the picture
+  std::optional<Axis> x_axis, y_axis;                             ///< rulers, where the picture is a curve
+  std::function<std::string(double x, double y)> describe_place;  ///< the place under the pointer, in user coordinates
+
   // For views and exports
+  [[nodiscard]] Services& services() const { return services_; }
   [[nodiscard]] const UserScale& user_scale() const { return scale_; }
   [[nodiscard]] const UserScale& list_scale() const { return list_scale_; }  ///< in force at the head of the list
   [[nodiscard]] const std::vector<Primitive>& drawing() const { return drawing_; }

@@ -106,12 +106,14 @@ void ComboBox::pick(int index) {
 }
 
 void ListBox::clear() {
+  ++revision_;
   items_.clear();
   list_index_ = -1;
   changed();
 }
 
 void ListBox::add_item(std::string_view item) {
+  ++revision_;
   items_.emplace_back(item);
   changed();
 }

@@ -215,6 +215,7 @@ class ListBox : public Control {
   [[nodiscard]] int list_index() const { return list_index_; }  ///< -1 when nothing is selected
   void set_list_index(int index);
   [[nodiscard]] bool selected(int index) const { return index == list_index_; }
+  [[nodiscard]] int revision() const { return revision_; }  ///< another one when the lines have changed
   [[nodiscard]] Colour fore_colour() const { return fore_colour_; }
   void set_fore_colour(Colour colour);
   /// The user picks a line; fires. @throws RunFailure  no such line
@@ -224,6 +225,7 @@ class ListBox : public Control {
  private:
   std::vector<std::string> items_;
   int list_index_ = -1;
+  int revision_ = 0;
   Colour fore_colour_ = 0;
 };
 

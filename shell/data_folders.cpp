@@ -6,6 +6,8 @@
 
 #include "core/run_failure.h"
 #include "core/text_records.h"
+#include "shell/data_copy.h"
+#include "shell/program.h"
 
 namespace zol {
 namespace {
@@ -39,16 +41,9 @@ std::string environment(const char* name) {
 
 /// A folder of the user by the XDG base directory rules.
 fs::path user_folder(const char* variable, const char* below_home) {
-  if (const std::string given = environment(variable); !given.empty()) return fs::path(given) / "zol";
+  if (const fs::path given = environment(variable); given.is_absolute()) return given / "zol";
   const std::string home = environment("HOME");
   return home.empty() ? fs::path() : fs::path(home) / below_home / "zol";
-}
-
-void copy_data(const std::string& from, const std::string& to) {
-  std::error_code error;
-  fs::create_directories(to, error);
-  if (!error) fs::copy(from, to, fs::copy_options::recursive | fs::copy_options::skip_existing, error);
-  if (error) throw RunFailure("can't copy the data files from " + from + " to " + to + ": " + error.message());
 }
 
 }  // namespace
@@ -86,11 +81,13 @@ DataRoot find_data_root(const DataPlaces& places) {
   if (is_file(places.beside_executable)) return read_data_settings(places.beside_executable);
   if (is_file(places.user_settings)) return read_data_settings(places.user_settings);
   if (is_folder(places.source_data)) return below(places.source_data);
-  if (!places.user_data.empty() && is_folder(fs::path(places.user_data) / "ZOL")) return below(places.user_data);
-  if (is_folder(places.installed_data) && !places.user_data.empty()) {
-    copy_data(places.installed_data, places.user_data);
-    return below(places.user_data);
+  if (is_folder(places.installed_data)) {
+    if (places.user_data.empty()) {
+      throw RunFailure("neither HOME nor XDG_DATA_HOME names a folder for a copy of " + places.installed_data);
+    }
+    update_data_copy(places.installed_data, places.user_data, places.installed_version);
   }
+  if (!places.user_data.empty() && is_folder(below(places.user_data).root)) return below(places.user_data);
   throw RunFailure("no data files found: neither in " + places.user_data + " nor in " + places.installed_data +
                    "; name their folder in " + places.user_settings + R"( with "data_root = FOLDER")");
 }
@@ -103,6 +100,7 @@ DataPlaces data_places() {
   if (!error) {
     places.beside_executable = (folder / "zol.conf").string();
     places.installed_data = (folder.parent_path() / "share" / "zol").string();
+    places.installed_version = program_version;
   }
   if (const fs::path settings = user_folder("XDG_CONFIG_HOME", ".config"); !settings.empty()) {
     places.user_settings = (settings / "zol.conf").string();

@@ -15,13 +15,14 @@ struct DataPlaces {
   std::string beside_executable;  ///< zol.conf of a portable folder
   std::string user_settings;      ///< zol.conf of the user
   std::string source_data;        ///< "data" of the source tree, for a program run from its build
-  std::string installed_data;     ///< read-only copy of the installation
+  std::string installed_data;     ///< the folder of the installation, read-only
+  std::string installed_version;  ///< version of the installed data
   std::string user_data;          ///< the user's own copy of it
 };
 
 /// The first of: zol.conf beside the executable, the user's zol.conf, the source tree, the user's own copy of the
-/// installed data, which the first start makes so that files can be saved.
-/// @throws RunFailure  a broken zol.conf, or no data anywhere
+/// installed data, which the first start makes so that files can be saved and a newer version brings up to date.
+/// @throws RunFailure  a broken zol.conf, no data anywhere, or a copy that can't be made
 [[nodiscard]] DataRoot find_data_root(const DataPlaces& places);
 
 /// The places of this executable for this user.

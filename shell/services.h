@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -13,11 +14,28 @@ namespace zol {
 class Canvas;
 class Surface;
 class Window;
+
+/// What the program adds to the name that a save dialog answers.
+struct NameEnding {
+  std::string text = {};       ///< as ".bmp"; empty: nothing
+  bool unless_dotted = false;  ///< only to a name that has no dot
+
+  [[nodiscard]] std::string added_to(const std::string& path) const;
+};
+
+/// Filters of file dialogs.
+namespace file_filters {
+inline constexpr auto crystals = "Crystal files|*.cry|";
+inline constexpr auto cif = "CIF|*.cif|";
+inline constexpr auto texts = "Text files|*.txt|";
+}  // namespace file_filters
+
 struct FileQuestion {
   bool save = false;
   std::string initial_folder;
   std::string file_name;  ///< preset
   std::string filter;     ///< "name|*.ending|", may be empty
+  NameEnding ending;      ///< the file that is written bears the answer with it
 };
 
 class Services {
@@ -41,9 +59,8 @@ class Services {
   virtual void print_window(Window& window) = 0;
 
   /// A pixel image; nullptr where there are none.
-  virtual std::unique_ptr<Surface> make_surface(
-      int width,
-      int height) = 0;  /// Writes a picture with its overlay to a file; the kind by the ending: .bmp, .png, .svg, .pdf.
+  virtual std::unique_ptr<Surface> make_surface(int width, int height) = 0;
+  /// Writes a picture with its overlay to a file; the kind by the ending: .bmp, .png, .svg, .pdf.
   virtual void export_picture(Canvas& canvas, const std::string& path) = 0;
 
   /// Ends the program once the running handler has returned; no further event comes in.
@@ -60,21 +77,25 @@ class FileDialog {
   void set_filter(std::string filter) { question_.filter = std::move(filter); }
 
   /// Each returns the full path, empty when the user cancelled.
-  const std::string& open() { return ask(false); }
-  const std::string& save() { return ask(true); }
+  const std::string& open() { return ask(false, {}); }
+  /// @param ending  what the caller adds to the answer
+  const std::string& save(const NameEnding& ending = {}) { return ask(true, ending); }
+  /// The answer with its ending, also when it is empty.
+  [[nodiscard]] std::string save_as(const NameEnding& ending) { return ending.added_to(save(ending)); }
   void printer_setup() { services_.set_up_printer(); }
+
+  /// Answers the next question in advance, as a file dropped on the window does.
+  void answer_next(std::string path) { answered_ = std::move(path); }
 
   [[nodiscard]] const std::string& file_name() const { return question_.file_name; }  ///< full path of the last answer
   [[nodiscard]] std::string file_title() const;                                       ///< the name without folder
 
  private:
-  const std::string& ask(bool save) {
-    question_.save = save;
-    return question_.file_name = services_.ask_file(question_);
-  }
+  const std::string& ask(bool save, const NameEnding& ending);
 
   Services& services_;
   FileQuestion question_;
+  std::optional<std::string> answered_;
 };
 
 /// Collects a printed line: print zones of 14 columns, each value starts at the next zone; a number is its Str and a

@@ -72,6 +72,13 @@ class WindowView {
   virtual void focus_wanted(Control& control) = 0;
 };
 
+/// A file dropped on a window answers the dialog of one of its menu items.
+struct FileDrop {
+  std::string ending;  ///< as ".cry", small letters
+  MenuItem* item = nullptr;
+  FileDialog* dialog = nullptr;
+};
+
 class Window {
  public:
   Window(std::string name, std::string caption) : name_(std::move(name)), caption_(std::move(caption)) {}
@@ -104,6 +111,7 @@ class Window {
   void set_view(WindowView* view) { view_ = view; }
 
   Event<> on_activate;
+  std::vector<FileDrop> file_drops;  ///< what may be dropped on it
 
  private:
   friend class Control;

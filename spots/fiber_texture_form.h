@@ -1,6 +1,9 @@
 // The window of the electron pattern of a fiber texture.
 #pragma once
 
+#include <cmath>
+
+#include "shell/place_text.h"
 #include "shell/window_services.h"
 #include "shell/workbench.h"
 
@@ -14,6 +17,7 @@ struct FiberTextureForm : Window {
         CommonDialog1(bench.services),
         Picture1(*this, bench.services, "Picture1", 5760, 5760) {
     fields().add("RotationPitch", RotationPitch);
+    Picture1.describe_place = [](double x, double y) { return spacing_text(std::hypot(x, y)); };
   }
 
   // Fiber direction

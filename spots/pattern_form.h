@@ -1,6 +1,9 @@
 // The window of the electron spot pattern.
 #pragma once
 
+#include <cmath>
+
+#include "shell/place_text.h"
 #include "shell/window_services.h"
 #include "shell/workbench.h"
 
@@ -14,6 +17,7 @@ struct PatternForm : Window {
         CommonDialog1(bench.services),
         Picture1(*this, bench.services, "Picture1", 8500, 8500) {
     fields().add("RotationPitch", RotationPitch);
+    Picture1.describe_place = [](double x, double y) { return spacing_text(2 * std::hypot(x, y)); };
   }
 
   // Zone axis and Laue level

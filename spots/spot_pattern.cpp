@@ -93,12 +93,12 @@ std::optional<DiffractionSpot> spot_in_picture(const CrystalState& state, const 
 }
 
 /// |F|^2 of a spot, worked out in the scratch row of the list.
-Single spot_intensity(CrystalState& state, const DiffractionSpot& spot, const Radiation& radiation) {
+Single spot_intensity(CrystalState& state, const DiffractionSpot& spot, ScatteringCell& atoms) {
   state.RefH(0) = spot.h;
   state.RefK(0) = spot.k;
   state.RefL(0) = spot.l;
   state.RefS(0) = to_single(double{DHKL(state, spot.h, spot.k, spot.l)} / 2.0);
-  StructureFactor(state, 0, radiation);
+  atoms.StructureFactor(state, 0);
   const double a = state.RefA(0);
   const double b = state.RefB(0);
   return to_single(a * a + b * b);
@@ -125,11 +125,12 @@ void visit_reflections_on_level(const CrystalState& state, const std::function<v
 
 std::vector<DiffractionSpot> diffraction_spots(CrystalState& state, const Radiation& radiation) {
   const ZoneFrame frame = zone_frame(state);
+  ScatteringCell atoms(state, radiation);
   std::vector<DiffractionSpot> spots;
   visit_reflections_on_level(state, [&](const Indices<Integer>& hkl) {
     auto spot = spot_in_picture(state, frame, hkl);
     if (!spot) return;
-    spot->intensity = spot_intensity(state, *spot, radiation);
+    spot->intensity = spot_intensity(state, *spot, atoms);
     spots.push_back(*spot);
   });
   return spots;

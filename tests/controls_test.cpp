@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "core/run_failure.h"
+#include "shell/ruler.h"
 #include "shell/window_services.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
@@ -98,6 +101,49 @@ TEST(WindowSet, CreatesAtFirstUseAndUnloads) {
   EXPECT_EQ(windows.use<SampleForm>().Text1.text(), "");
   EXPECT_EQ(loads, 2);
   EXPECT_THROW(windows.use("None"), RunFailure);
+}
+
+TEST(SaveDialogs, KnowTheNameThatWillBeWritten) {
+  FakeServices services;
+  FileDialog dialog(services);
+  struct Case {
+    const char* answer;
+    NameEnding ending;
+    const char* written;
+  };
+  for (const auto& [answer, ending, written] : {
+           Case{"/a.b/pattern", {".XDP", true}, "/a.b/pattern.XDP"},  // a dot in the name of the folder
+           Case{"/a.b/pattern.txt", {".XDP", true}, "/a.b/pattern.txt"},
+           Case{"pattern.", {".BMP", true}, "pattern."},
+           Case{"pattern.bmp", {".bmp"}, "pattern.bmp.bmp"},
+           Case{"", {".bmp"}, ".bmp"},  // cancelled
+           Case{"report", {}, "report"},
+       }) {
+    services.answers = {answer};
+    EXPECT_EQ(dialog.save_as(ending), written);
+    EXPECT_EQ(services.questions.back().ending.added_to(answer), written) << "what the dialog may ask about";
+  }
+  dialog.answer_next("dropped.cry");
+  EXPECT_EQ(dialog.open(), "dropped.cry");
+  EXPECT_EQ(dialog.file_name(), "dropped.cry");
+  services.answers = {"asked.cry"};
+  EXPECT_EQ(dialog.open(), "asked.cry") << "an answer in advance holds once";
+}
+
+std::string ticks_text(double from, double to, int most) {
+  std::string text;
+  for (const Tick& tick : ruler_ticks(from, to, most)) text += tick.text.empty() ? "|" : tick.text;
+  return text;
+}
+
+TEST(Rulers, TickRoundNumbers) {
+  EXPECT_EQ(ticks_text(0, 100, 5), "0|||20|||40|||60|||80|||100");
+  EXPECT_EQ(ticks_text(100, 0, 2), "0||||50||||100") << "an axis that runs the other way";
+  EXPECT_EQ(ticks_text(29.7, 30.32, 4), "||29.8|||30.0|||30.2||");
+  EXPECT_EQ(ticks_text(-0.1, 0.1, 2), "-0.1||||0.0||||0.1");
+  for (const auto& [from, to] : {std::pair{1.0, 1.0}, {0.0, HUGE_VAL}, {1e300, 1e300 * (1 + 1e-15)}}) {
+    EXPECT_EQ(ticks_text(from, to, 10), "");
+  }
 }
 
 TEST(PrintedLines, HaveZonesOfFourteenColumns) {

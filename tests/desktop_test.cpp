@@ -20,6 +20,7 @@
 #include <QToolButton>
 
 #include "analysis/pattern3_form.h"
+#include "core/text_records.h"
 #include "entry/input_jcpds_form.h"
 #include "reflections/main1_form.h"
 #include "shell/desktop/canvas_view.h"
@@ -161,6 +162,49 @@ TEST_P(CompleteWindow, UsesEachMnemonicOnce) {
   };
   for (const auto* button : top.findChildren<QAbstractButton*>()) use(button->text());
   for (const auto* action : dynamic_cast<QMainWindow&>(top).menuBar()->actions()) use(action->text());
+}
+
+// At their smallest size, where the layouts give the least.
+TEST_P(CompleteWindow, ClipsNoText) {
+  QWidget& top = widget(GetParam());
+  top.resize(1, 1);
+  top.show();
+  QApplication::processEvents();
+  for (auto* shown : top.findChildren<QWidget*>()) {
+    const QString text = shown->property("text").toString();
+    const bool adapts = shown->property("wordWrap").toBool() || qobject_cast<QProgressBar*>(shown) != nullptr;
+    if (!shown->isVisible() || text.isEmpty() || adapts) continue;
+    EXPECT_GE(shown->width(), shown->fontMetrics().size(Qt::TextShowMnemonic, text).width()) << from_qt(text);
+    EXPECT_GE(shown->height(), shown->fontMetrics().height()) << from_qt(text);
+  }
+}
+
+TEST_P(CompleteWindow, WalksByTabAsOneReads) {
+  QWidget& top = widget(GetParam());
+  top.show();
+  QApplication::processEvents();
+  const QWidget* last = nullptr;
+  for (auto* next = top.nextInFocusChain(); next != &top; next = next->nextInFocusChain()) {
+    if (!(next->focusPolicy() & Qt::TabFocus) || !next->isVisible() || next->objectName().startsWith(u"qt_")) continue;
+    if (last != nullptr && last->parentWidget() == next->parentWidget()) {
+      const int line = next->fontMetrics().height();
+      const bool below = next->y() > last->y() + line / 2;
+      const bool on_the_right = next->x() > last->x();  // the next in the line, or at the head of the next column
+      EXPECT_TRUE(below || on_the_right) << from_qt(last->objectName()) << " before " << from_qt(next->objectName());
+    }
+    last = next;
+  }
+}
+
+TEST_P(CompleteWindow, HasItsChapterInTheGuide) {
+  const QString page = widget(GetParam()).property("guidePage").toString();
+  std::istringstream lines(read_file(ZOL_SOURCE_DIR "/docs/user-guide/" + page.section(u'#', 0, 0).toStdString()));
+  const std::string heading = page.section(u'#', 1).replace(u'-', u' ').toStdString();
+  bool found = false;
+  for (std::string line; std::getline(lines, line);) {
+    found = found || (line.starts_with('#') && QString::fromStdString(line).toLower().endsWith(to_qt("# " + heading)));
+  }
+  EXPECT_TRUE(found) << page.toStdString();
 }
 
 TEST_F(DesktopTest, ComboAndListPickByMouseAndKeyboard) {

@@ -1,44 +1,12 @@
 // The orders of the list sorts against the plain selection sorts that define them.
 #include <gtest/gtest.h>
 
-#include <numeric>
 #include <random>
 
-#include "analysis/triple_table.h"
-#include "kikuchi/kikuchi_pattern.h"
-#include "reflections/reflection_list.h"
-#include "spots/fiber_texture.h"
+#include "tests/plain_sort.h"
 
 namespace zol {
 namespace {
-
-/// A plain sort: in each round from `first` on, keys that lie beyond a bound are taken, each giving the next bound.
-struct ListSort {
-  const char* name;
-  void (*sort)(CrystalState&);
-  int first;
-  double start;  ///< bound of each round
-  bool descending = false, rounds_bound = false, skip_without = false;
-  int smallest_list = 0;
-};
-
-std::vector<int> plain_order(std::vector<Single> keys, const ListSort& rule) {
-  std::vector<int> order(keys.size());
-  std::iota(order.begin(), order.end(), 0);
-  std::size_t found = 0;
-  for (auto place = static_cast<std::size_t>(rule.first); place + 1 < keys.size(); ++place) {
-    double bound = rule.start;
-    for (std::size_t i = place; i < keys.size(); ++i) {
-      if (!(rule.descending ? keys[i] > bound : keys[i] < bound)) continue;
-      found = i;
-      bound = rule.rounds_bound ? round_half_even(keys[i]) : keys[i];
-    }
-    if (found == 0 && rule.skip_without) continue;
-    std::swap(keys[place], keys[found]);
-    std::swap(order[place], order[found]);
-  }
-  return order;
-}
 
 /// The same by the program: h numbers the entries, and what a key is made of besides is 1.
 std::vector<int> order_after(const ListSort& rule, const std::vector<Single>& keys) {
@@ -87,13 +55,8 @@ TEST_P(SortedLists, HaveTheOrderOfThePlainSort) {
     }
   }
 }
-INSTANTIATE_TEST_SUITE_P(
-    Rules, SortedLists,
-    testing::Values(ListSort{"length", sort_by_s, 1, 1000},
-                    ListSort{"weighted_intensity", sort_by_weighted_intensity, 1, 0, true, false, true},
-                    ListSort{"fiber_texture", sort_by_intensity, 2, 1000000, false, false, false, 2},
-                    ListSort{"kikuchi_pattern", sort_for_kikuchi, 1, 10000, false, true, false, 1}),
-    [](const auto& row) { return std::string(row.param.name); });
+INSTANTIATE_TEST_SUITE_P(Rules, SortedLists, testing::ValuesIn(list_sorts),
+                         [](const auto& row) { return std::string(row.param.name); });
 
 }  // namespace
 }  // namespace zol

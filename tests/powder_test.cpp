@@ -10,6 +10,7 @@
 #include "powder/line_profile.h"
 #include "powder/pattern_files.h"
 #include "tests/crystals.h"
+#include "tests/plain_powder.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -63,65 +64,6 @@ BoundedArray<Single> rings(const std::vector<FilledBin>& bins, Single half_width
 
 bool same_numbers(const BoundedArray<Single>& left, const BoundedArray<Single>& right) {
   return std::equal(&left(0), &left(left.upper()) + 1, &right(0), &right(right.upper()) + 1);
-}
-
-// Plain loops, point by point and bin by bin: what the faster ways must agree with to the bit.
-
-double plain_interference(double cells, double t) {
-  if (t == 0) return cells * cells;
-  return std::sin(cells * 3.14159 * t) * std::sin(cells * 3.14159 * t) / std::sin(t * 3.14159) / std::sin(t * 3.14159);
-}
-
-BoundedArray<Single> plain_histogram(const CrystalState& state, const CrystalliteSize& size) {
-  const auto grid = interference_grid(state, size);
-  const int count = bin_count(state.Dmin).value();
-  BoundedArray<Single> bins("Bins", count + 1000);
-  const double widths[] = {grid.width[0], grid.width[1], grid.width[2]};
-  const auto limit = [&](std::size_t axis) { return static_cast<Single>(grid.steps[axis].value() * widths[axis]); };
-  const auto next = [&](Single x, std::size_t axis) { return static_cast<Single>(double{x} + widths[axis]); };
-  const auto place = [&](Single x, std::size_t axis) { return std::floor(std::abs(x / widths[axis]) + 0.5); };
-  const double p = size.CellsP;
-  const double q = size.CellsQ;
-  const double s = size.CellsR;
-  for (int r = 1; r <= state.RefCount.value(); ++r) {
-    for (Single x = -limit(0); x <= limit(0); x = next(x, 0)) {
-      for (Single y = -limit(1); y <= limit(1); y = next(y, 1)) {
-        for (Single z = -limit(2); z <= limit(2); z = next(z, 2)) {
-          auto entry = static_cast<Single>(plain_interference(p, place(x, 0) * widths[0]));
-          entry = static_cast<Single>(plain_interference(q, place(y, 1) * widths[1]) * entry);
-          entry = static_cast<Single>(plain_interference(s, place(z, 2) * widths[2]) * entry);
-          entry = static_cast<Single>(entry / p / p / q / q / s / s);
-          const double length = reciprocal_length(state, static_cast<Single>(state.RefH(r).value() + double{x}),
-                                                  static_cast<Single>(state.RefK(r).value() + double{y}),
-                                                  static_cast<Single>(state.RefL(r).value() + double{z}));
-          const int bin = static_cast<int>(std::floor(double{state.Dmin} * length * count));
-          bins(bin) = static_cast<Single>(double{bins(bin)} + double{state.RefI(r)} * double{entry});
-        }
-      }
-    }
-  }
-  return bins;
-}
-
-/// Gaussians and Lorentzians of full width w, added bin by bin; a share of 2 is a whole area of one.
-/// @param place  where the line of a bin stands
-/// @param at     where a sample lies
-template <class Place, class At>
-BoundedArray<Single> plain_profile(const BoundedArray<Single>& bins, Place place, At at, double gaussian,
-                                   double lorentzian, double w) {
-  auto profile = empty_profile();
-  for (int m = 0; m <= last_sample; ++m) {
-    Single& sum = profile(m);
-    for (int n = 1; n <= 5000; ++n) {
-      if (!(bins(n) > 0)) continue;
-      const double e = static_cast<Single>(double{place(static_cast<Single>(n / 5000.0))} - double{at(m)});
-      sum = static_cast<Single>(gaussian * std::sqrt(0.693147) * bins(n) / w / std::sqrt(3.14159) *
-                                    std::exp(-2.772588 * e * e / w / w) +
-                                double{sum});
-      sum = static_cast<Single>(lorentzian * bins(n) / 3.14159 / w / (1 + e * 4 * e / w / w) + double{sum});
-    }
-  }
-  return profile;
 }
 
 // (2/P) a* / 0.0002 by hand, a* = 1/a: 0.25 and 0.5 bins for the large crystallite, 50 for 40 cells of 5, capped for 10
@@ -363,10 +305,6 @@ TEST(GreyLevel, SaturatesAboveAndNotBelow) {
 }
 
 TEST(PatternFiles, HoldSettingsAndSamplesToTheBit) {
-  EXPECT_EQ(with_ending("/a.b/pattern", ".XDP"), "/a.b/pattern.XDP") << "a point in the name of the folder";
-  EXPECT_EQ(with_ending("/a.b/pattern.txt", ".XDP"), "/a.b/pattern.txt");
-  EXPECT_EQ(with_ending("pattern.", ".BMP"), "pattern.");
-
   const ScratchFolder folder;
   auto profile = empty_profile();
   profile(1) = 1.0F / 3.0F;

@@ -2,12 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <bit>
 #include <cmath>
+#include <cstdint>
 #include <random>
 #include <string>
 
 #include "reflections/structure_factor.h"
 #include "tests/crystals.h"
+#include "tests/plain_structure_factor.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -61,32 +65,62 @@ TEST(ScatteringTable, NamesWhatIsBroken) {
             std::string::npos);
 }
 
-TEST(StructureFactor, OfManyReflectionsIsTheSameToTheBit) {
+/// The atoms of a made-up cell: positions, occupancies and Bs from numbers between 0 and 1.
+struct MadeUpCell {
+  const char* name;
+  Single (*position)(Single random, int m);
+  Single (*occupancy)(Single random);
+  Single (*b)(Single random);
+};
+
+constexpr auto one = [](Single) { return 1.0F; };
+constexpr auto half = [](Single) { return 0.5F; };
+constexpr auto itself = [](Single random) { return random; };
+constexpr auto anywhere = [](Single random, int) { return random; };
+constexpr auto pairs = [](Single, int m) { return m % 2 == 0 ? 0.5F : 0.0F; };
+constexpr MadeUpCell made_up_cells[] = {
+    {"general", anywhere, one, [](Single random) { return 0.5F + random; }},
+    {"eighths", [](Single random, int) { return std::floor(random * 8) / 8; }, one, half},
+    {"pairs that cancel but for the last digits", pairs, one, half},
+    {"pairs damped to zeros of either sign", pairs, one, [](Single) { return 100.0F; }},
+    {"growth in place of damping", anywhere, one, [](Single random) { return -20 * random; }},
+    {"occupancies none, part and negative", anywhere, [](Single random) { return std::floor(random * 5) / 2 - 1; },
+     itself},
+    {"negative coordinates", [](Single random, int) { return 40 * random - 20; }, itself, itself},
+    {"about the limit of the fast sines", [](Single random, int) { return 4e4F * random; }, one, itself},
+    {"huge coordinates", [](Single random, int) { return (random - 0.5F) * 1e30F; }, one, itself},
+};
+
+/// Bits, since a zero has a sign.
+std::array<std::uint32_t, 2> structure_factor_bits(const CrystalState& state) {
+  return {std::bit_cast<std::uint32_t>(state.RefA(1)), std::bit_cast<std::uint32_t>(state.RefB(1))};
+}
+
+TEST(StructureFactor, AgreesWithThePlainLoopToTheBit) {
   std::mt19937 random(5);
   std::uniform_real_distribution<Single> uniform(0, 1);
-  for (const auto& radiation : {xrays, electrons}) {
+  for (const auto& cell : made_up_cells) {
     auto state = with_table();
     state.NCell = 200;
     for (int m = 1; m <= 200; ++m) {
-      state.UCElement(m) = m % 3 == 0 ? "Na" : (m % 50 == 1 ? "Xx" : "Cl");
-      state.UCOcc(m) = m % 5 == 0 ? 0.7F : 1.0F;
-      state.UCB(m) = m % 7 == 0 ? uniform(random) : 0.5F;
-      for (int axis = 1; axis <= 3; ++axis) state.UCPos(m, axis) = uniform(random);
+      const int pair = (m + 1) / 2;
+      state.UCElement(m) = pair % 3 == 0 ? "Na" : (pair % 25 == 7 ? "Xx" : "Cl");
+      state.UCOcc(m) = cell.occupancy(uniform(random));
+      state.UCB(m) = cell.b(uniform(random));
+      for (int axis = 1; axis <= 3; ++axis) state.UCPos(m, axis) = cell.position(uniform(random), m);
     }
-    ScatteringCell atoms(state, radiation);
-    for (int n = 0; n < 300; ++n) {
-      set_list(state, {{n % 17 - 8, n % 11 - 5, n % 7, 0, uniform(random)}});
-      state.RefB.allocate(1);
-      state.ScatterMissing = 0;
-      StructureFactor(state, 1, radiation);
-      const Single a = state.RefA(1);
-      const Single b = state.RefB(1);
-      EXPECT_EQ(state.ScatterMissing, 1);
-      state.ScatterMissing = 0;
-      atoms.structure_factor(state, 1);
-      ASSERT_EQ(state.RefA(1), a);
-      ASSERT_EQ(state.RefB(1), b);
-      ASSERT_EQ(state.ScatterMissing, 1);
+    for (const auto& radiation : {xrays, electrons}) {
+      ScatteringCell atoms(state, radiation);
+      for (int n = 0; n < 1000; ++n) {
+        set_list(state, {{n % 17 - 8, n % 11 - 5, n % 7, 0, uniform(random)}});
+        state.RefB.allocate(1);
+        plain_structure_factor(state, 1, radiation);
+        const auto plain = structure_factor_bits(state);
+        state.ScatterMissing = 0;
+        atoms.StructureFactor(state, 1);
+        ASSERT_EQ(structure_factor_bits(state), plain) << cell.name << ", reflection " << n;
+        ASSERT_EQ(state.ScatterMissing, 1);
+      }
     }
   }
 }

@@ -1,6 +1,7 @@
 // The windows Pattern and FiberTexture on control objects.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 #include "reflections/main1_form.h"
@@ -114,6 +115,26 @@ TEST_F(SpotsWindows, LoadAndDrawingRepairZeroValuesInTheirOwnWays) {
   EXPECT_EQ(state.SpotScale, 0.01F);
   EXPECT_EQ(fiber().Text2.text(), ".5");
   EXPECT_EQ(state.Dispersion, 0.5F);
+}
+
+TEST_F(SpotsWindows, ThePlaceUnderThePointerIsToldInTheScaleOfEachPicture) {
+  open_pattern();
+  pattern().Command8.click();
+  main1().Command12.click();
+  for (TextBox* box : {&fiber().Text1, &fiber().Text3, &fiber().Text4, &fiber().Text5}) box->set_text("1");
+  fiber().Command8.click();
+  const auto nearest_to_beam = [](const Canvas& canvas, const auto& marks) {
+    const auto distance = [](const auto& mark) { return std::hypot(mark.x, mark.y); };
+    const auto nearest = std::min_element(marks.begin(), marks.end(), [&distance](const auto& one, const auto& other) {
+      return distance(one) < distance(other);
+    });
+    return canvas.describe_place(nearest->x, nearest->y);
+  };
+  auto spots = drawn<DrawnCircle>(pattern().Picture1);
+  spots.erase(spots.begin());  // the beam
+  EXPECT_EQ(nearest_to_beam(pattern().Picture1, spots), "d* 0.3546 Å⁻¹   d 2.820 Å") << "(2 0 0)";
+  EXPECT_EQ(nearest_to_beam(fiber().Picture1, drawn<DrawnPoint>(fiber().Picture1)), "d* 0.3071 Å⁻¹   d 3.256 Å")
+      << "(1 1 1)";
 }
 
 TEST_F(SpotsWindows, EnterMovesOnAndDraws) {

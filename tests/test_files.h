@@ -2,6 +2,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <filesystem>
 #include <fstream>
@@ -18,8 +19,7 @@ class ScratchFolder {
     const auto* test = testing::UnitTest::GetInstance()->current_test_info();
     std::string name = std::string(test->test_suite_name()) + "-" + test->name();
     for (char& c : name) c = c == '/' ? '-' : c;
-    folder_ = std::filesystem::temp_directory_path() / ("zol-" + name);
-    std::filesystem::remove_all(folder_);
+    folder_ = std::filesystem::temp_directory_path() / ("zol-" + name + "-" + std::to_string(getpid()));
     std::filesystem::create_directories(folder_);
   }
   ScratchFolder(const ScratchFolder&) = delete;

@@ -20,11 +20,13 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QStatusBar>
 #include <QTableView>
 #include <QTimer>
 
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/control_models.h"
+#include "shell/desktop/item_copies.h"
 #include "shell/desktop/qt_text.h"
 
 namespace zol {
@@ -177,6 +179,7 @@ class Binder::ListTie : public Tie {
     view.setUniformItemSizes(true);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.setModel(model_);
+    add_copy_commands(view);
     connect(&view, &QListView::clicked, this, [this](const QModelIndex& index) { pick(index.row()); });
     connect(view.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& current, const QModelIndex& /*previous*/) {
@@ -186,19 +189,30 @@ class Binder::ListTie : public Tie {
   }
   void show() override {
     showing_ = true;
-    model_->refresh();
-    if (list_.list_index() >= 0) shown_.setCurrentIndex(model_->index(list_.list_index()));
+    // What the user has selected stays as long as the lines do.
+    if (std::exchange(shown_revision_, list_.revision()) != list_.revision()) {
+      model_->refresh();
+      shown_line_ = -1;
+    }
+    if (std::exchange(shown_line_, list_.list_index()) != list_.list_index()) {
+      shown_.setCurrentIndex(model_->index(list_.list_index()));
+    }
+    shown_.viewport()->update();
     showing_ = false;
   }
 
  private:
+  /// What extends the selection for a copy picks nothing.
   void pick(int row) {
+    if (QApplication::keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) return;
     binder.enter([this, row] { list_.pick(row); });
   }
 
   ListBox& list_;
   QListView& shown_;
   ListModel* model_;
+  int shown_revision_ = 0;
+  int shown_line_ = -1;
   bool showing_ = false;
 };
 
@@ -245,8 +259,8 @@ class Binder::GridTie : public Tie {
   GridTie(Binder& owner, Grid& grid, QTableView& view)
       : Tie(owner, grid, &view), grid_(grid), shown_(view), model_(new GridModel(grid, this)) {
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view.setSelectionMode(QAbstractItemView::SingleSelection);
     view.setModel(model_);
+    add_copy_commands(view);
     view.installEventFilter(&owner);
     view.horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     view.horizontalHeader()->setHighlightSections(false);
@@ -293,6 +307,10 @@ class Binder::CanvasTie : public Tie {
  public:
   CanvasTie(Binder& owner, Canvas& canvas, CanvasView& view) : Tie(owner, canvas, &view), view_(view) {
     view.attach(canvas, [&owner](const std::function<void()>& action) { owner.enter(action); });
+    if (auto* top = qobject_cast<QMainWindow*>(&owner.widget())) {
+      connect(&view, &CanvasView::pointed_at, top->statusBar(),
+              [top](const QString& place) { top->statusBar()->showMessage(place); });
+    }
   }
   void show() override { view_.refresh(); }
 

@@ -2,17 +2,31 @@
 
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QPainter>
 
+#include "core/run_failure.h"
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/ruler.h"
+#include "shell/services.h"
 
 namespace zol {
+namespace {
+
+constexpr double large_tick = 6;  // pixels
+constexpr double small_tick = 3;
+constexpr double gap = 3;
+
+QString title_of(const Axis& axis) { return to_qt(axis.quantity + " (" + axis.unit + ")"); }
+
+/// How many large ticks have room. @param wanted  pixels for one of them
+int room_for(double length, double wanted) { return std::max(1, static_cast<int>(length / wanted)); }
+
+}  // namespace
 
 CanvasView::CanvasView(QWidget* parent) : QWidget(parent) {
   setMouseTracking(true);
@@ -35,15 +49,18 @@ void CanvasView::refresh() {
 }
 
 QSize CanvasView::sizeHint() const {
-  return canvas_ == nullptr ? QSize(256, 256) : QSize(canvas_->pixel_width(), canvas_->pixel_height());
+  if (canvas_ == nullptr) return {256, 256};
+  return QSize(canvas_->pixel_width(), canvas_->pixel_height()).grownBy(ruler_margins().toMargins());
 }
 
 QRectF CanvasView::picture_rect() const {
   if (canvas_ == nullptr) return rect();
   const QSizeF picture(canvas_->pixel_width(), canvas_->pixel_height());
-  QRectF place({}, picture.scaled(size(), Qt::KeepAspectRatio));
+  const QRectF room = QRectF(rect()).marginsRemoved(ruler_margins());
+  QRectF place({}, picture.scaled(room.size(), Qt::KeepAspectRatio));
   // Whole pixels, so that a picture in its own size is shown pixel by pixel.
-  place.moveTopLeft(QPointF(std::floor((width() - place.width()) / 2), std::floor((height() - place.height()) / 2)));
+  place.moveTopLeft(QPointF(std::floor(room.left() + (room.width() - place.width()) / 2),
+                            std::floor(room.top() + (room.height() - place.height()) / 2)));
   return place;
 }
 
@@ -76,6 +93,68 @@ void CanvasView::paintEvent(QPaintEvent* /*event*/) {
   if (cache_.size() != device_size) cache_ = drawn(device_size);
   QPainter painter(this);
   painter.drawPixmap(place, cache_, QRectF(cache_.rect()));
+  painter.setPen(palette().color(QPalette::WindowText));
+  if (canvas_->x_axis) draw_x_ruler(painter, place);
+  if (canvas_->y_axis) draw_y_ruler(painter, place);
+}
+
+bool CanvasView::shows_something() const {
+  return canvas_ != nullptr && (canvas_->has_picture() || !canvas_->drawing().empty());
+}
+
+QMarginsF CanvasView::ruler_margins() const {
+  const QFontMetricsF metrics(font());
+  QMarginsF margins;
+  if (canvas_->y_axis) {
+    margins.setLeft(metrics.height() + metrics.horizontalAdvance(QStringLiteral("100")) + 3 * gap + large_tick);
+    margins.setTop(std::ceil(metrics.height() / 2));
+  }
+  if (canvas_->x_axis) {
+    margins.setBottom(2 * metrics.height() + gap + large_tick);
+    margins.setRight(metrics.horizontalAdvance(QStringLiteral("100")));
+  }
+  return margins;
+}
+
+void CanvasView::draw_x_ruler(QPainter& painter, const QRectF& place) const {
+  const auto& scale = canvas_->user_scale();
+  const double unit = canvas_->x_axis->per_unit;
+  const double width_per_value = place.width() / ((scale.right - scale.left) * unit);
+  const double line = painter.fontMetrics().height();
+  const double wanted = 4.0 * painter.fontMetrics().horizontalAdvance(u'0') * 2;
+  painter.drawLine(place.bottomLeft(), place.bottomRight());
+  if (shows_something()) {
+    for (const Tick& tick : ruler_ticks(scale.left * unit, scale.right * unit, room_for(place.width(), wanted))) {
+      const double x = place.left() + (tick.value - scale.left * unit) * width_per_value;
+      painter.drawLine(QPointF(x, place.bottom()),
+                       QPointF(x, place.bottom() + (tick.text.empty() ? small_tick : large_tick)));
+      painter.drawText(QRectF(x - wanted, place.bottom() + large_tick, 2 * wanted, line), Qt::AlignCenter,
+                       to_qt(tick.text));
+    }
+  }
+  painter.drawText(QRectF(place.left(), place.bottom() + large_tick + line, place.width(), line), Qt::AlignCenter,
+                   title_of(*canvas_->x_axis));
+}
+
+void CanvasView::draw_y_ruler(QPainter& painter, const QRectF& place) const {
+  const auto& scale = canvas_->user_scale();
+  const double unit = canvas_->y_axis->per_unit;
+  const double height_per_value = place.height() / ((scale.bottom - scale.top) * unit);
+  const double line = painter.fontMetrics().height();
+  painter.drawLine(place.topLeft(), place.bottomLeft());
+  if (shows_something()) {
+    for (const Tick& tick : ruler_ticks(scale.top * unit, scale.bottom * unit, room_for(place.height(), 2 * line))) {
+      const double y = place.top() + (tick.value - scale.top * unit) * height_per_value;
+      const double end = place.left() - (tick.text.empty() ? small_tick : large_tick);
+      painter.drawLine(QPointF(end, y), QPointF(place.left(), y));
+      painter.drawText(QRectF(0, y - line / 2, end - gap, line), Qt::AlignRight | Qt::AlignVCenter, to_qt(tick.text));
+    }
+  }
+  painter.save();
+  painter.translate(place.left() - ruler_margins().left(), place.bottom());
+  painter.rotate(-90);
+  painter.drawText(QRectF(0, 0, place.height(), line), Qt::AlignCenter, title_of(*canvas_->y_axis));
+  painter.restore();
 }
 
 // The margin beside a picture that does not fill its view is no part of it.
@@ -86,10 +165,17 @@ void CanvasView::mousePressEvent(QMouseEvent* event) {
 }
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event) {
-  if (canvas_ == nullptr || !canvas_->on_mouse_move) return;
+  if (canvas_ == nullptr) return;
   const QPointF at = user_position(event->position());
+  if (canvas_->describe_place) {
+    const bool inside = shows_something() && picture_rect().contains(event->position());
+    emit pointed_at(inside ? to_qt(canvas_->describe_place(at.x(), at.y())) : QString());
+  }
+  if (!canvas_->on_mouse_move) return;
   enter_([this, at] { canvas_->move(at.x(), at.y()); });
 }
+
+void CanvasView::leaveEvent(QEvent* /*event*/) { emit pointed_at({}); }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
   if (canvas_ == nullptr || event->button() == Qt::RightButton) return;
@@ -117,12 +203,19 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
 
 void CanvasView::copy_to_clipboard() const { QGuiApplication::clipboard()->setImage(picture_image(*canvas_)); }
 
+// A copy that can't be written is no failure of the run: the program knows nothing of it.
 void CanvasView::ask_export(double factor, const char* ending) {
-  const QString suffix = QString::fromLatin1(ending);
-  QString path = QFileDialog::getSaveFileName(this, tr("Export picture"), {}, tr("%1 files (*%1)").arg(suffix));
-  if (path.isEmpty()) return;
-  if (!path.endsWith(suffix, Qt::CaseInsensitive)) path += suffix;
-  enter_([this, path, factor] { export_picture(*canvas_, QFile::encodeName(path).toStdString(), factor); });
+  enter_([this, factor, suffix = NameEnding{ending}] {
+    Services& services = canvas_->services();
+    FileDialog dialog(services);
+    const std::string answer = dialog.save(suffix);
+    if (answer.empty()) return;
+    try {
+      export_picture(*canvas_, suffix.added_to(answer), factor);
+    } catch (const RunFailure& failure) {
+      services.message(failure.message(), "Export");
+    }
+  });
 }
 
 }  // namespace zol

@@ -1,5 +1,5 @@
 // Shows a Canvas: scaled to the room, square pixels, sharp at any resolution; mouse events come back in user
-// coordinates.
+// coordinates. A curve has rulers at its left and lower border.
 #pragma once
 
 #include <functional>
@@ -29,7 +29,12 @@ class CanvasView : public QWidget {
 
   void copy_to_clipboard() const;
 
+ signals:
+  /// The pointer stands over this place; an empty text when it has left the picture.
+  void pointed_at(const QString& place);
+
  protected:
+  void leaveEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
@@ -40,6 +45,11 @@ class CanvasView : public QWidget {
  private:
   [[nodiscard]] QPointF user_position(const QPointF& position) const;
   [[nodiscard]] QPixmap drawn(const QSize& device_size) const;
+  [[nodiscard]] bool shows_something() const;
+  /// Room for the rulers around the picture.
+  [[nodiscard]] QMarginsF ruler_margins() const;
+  void draw_x_ruler(QPainter& painter, const QRectF& place) const;
+  void draw_y_ruler(QPainter& painter, const QRectF& place) const;
   void ask_export(double factor, const char* ending);
 
   Canvas* canvas_ = nullptr;

@@ -6,11 +6,18 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QFile>
+#include <QLabel>
+#include <QMainWindow>
+#include <QShortcut>
+#include <QStatusBar>
 #include <QUiLoader>
 #include <QWidget>
 
 #include "core/run_failure.h"
 #include "shell/desktop/canvas_view.h"
+#include "shell/desktop/file_drops.h"
+#include "shell/desktop/guide.h"
+#include "shell/desktop/screen_fit.h"
 
 // Resources of a static library have to be asked for, outside any namespace.
 static void init_resources() { Q_INIT_RESOURCE(desktop); }
@@ -96,10 +103,26 @@ void Desktop::window_created(Window& window) {
   auto widget = load_ui(window.name());
   if (!widget) return;
   widget->installEventFilter(this);
-  auto binder =
-      std::make_unique<Binder>(window, *widget, [this](const std::function<void()>& action) { enter(action); });
+  const EnterEvent enter_event = [this](const std::function<void()>& action) { enter(action); };
+  auto binder = std::make_unique<Binder>(window, *widget, enter_event);
+  accept_file_drops(window, *widget, enter_event);
+  offer_guide(*widget);
   binder->show_everything();
+  if (auto* top = qobject_cast<QMainWindow*>(widget.get())) fit_to_screen(*top);
   shown_[window.name()] = {std::move(widget), std::move(binder)};
+}
+
+/// F1 opens the guide at the page that the layout names.
+void Desktop::offer_guide(QWidget& widget) {
+  const QString page = widget.property("guidePage").toString();
+  auto* shortcut = new QShortcut(QKeySequence::HelpContents, &widget);
+  connect(shortcut, &QShortcut::activated, this, [this, page] {
+    if (!guide_) guide_ = std::make_unique<Guide>();
+    guide_->open(page);
+  });
+  if (auto* top = qobject_cast<QMainWindow*>(&widget)) {
+    top->statusBar()->addPermanentWidget(new QLabel(tr("F1: user guide")));
+  }
 }
 
 void Desktop::window_shown(Window& window) {

@@ -16,6 +16,8 @@ class QWidget;
 
 namespace zol {
 
+class Guide;
+
 /// Makes the layouts and images that are built in available.
 void use_desktop_resources();
 
@@ -54,6 +56,7 @@ class Desktop : public QObject, public WindowView {
     std::unique_ptr<Binder> binder;
   };
 
+  void offer_guide(QWidget& widget);
   void run_guarded(const std::function<void()>& action);
   void show_changes();
   void breathe();
@@ -62,6 +65,7 @@ class Desktop : public QObject, public WindowView {
   std::function<void(const std::string&)> failed_;
   std::map<std::string, Shown> shown_;
   std::vector<Shown> unloaded_;
+  std::unique_ptr<Guide> guide_;
   QElapsedTimer since_breath_;
   int depth_ = 0;
   bool ended_ = false;

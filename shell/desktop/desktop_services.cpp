@@ -1,6 +1,7 @@
 #include "shell/desktop/desktop_services.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -23,29 +24,72 @@ namespace {
 QString tr(const char* text) { return QCoreApplication::translate("zol", text); }
 
 /// "name|*.ending|" as a filter of Qt, with "all files" behind it.
-QString qt_filter(const std::string& filter) {
+QString qt_filter(const FileQuestion& question) {
   QStringList filters;
-  const QStringList pieces = to_qt(filter).split(u'|');
+  const QStringList pieces = to_qt(question.filter).split(u'|');
   for (qsizetype i = 0; i + 1 < pieces.size(); i += 2) {
     filters << QStringLiteral("%1 (%2)").arg(pieces[i], QString(pieces[i + 1]).replace(u';', u' '));
+  }
+  if (const QString ending = to_qt(question.ending.text); filters.isEmpty() && !ending.isEmpty()) {
+    filters << tr("%1 files (*%2 *%3)").arg(ending.mid(1).toUpper(), ending.toLower(), ending.toUpper());
   }
   filters << tr("All files (*)");
   return filters.join(QStringLiteral(";;"));
 }
 
+/// The ending of files by the first filter, as "cry"; empty when there is no filter.
+QString usual_ending(const FileQuestion& question) {
+  return to_qt(question.filter).section(u'|', 1, 1).section(u'.', -1);
+}
+
+/// The name that a save dialog begins with: the last one, with the ending that such files have.
+QString proposed_name(const FileQuestion& question) {
+  const QFileInfo last(QFile::decodeName(question.file_name.c_str()));
+  const QString ending = usual_ending(question);
+  return ending.isEmpty() || last.fileName().isEmpty() ? last.fileName() : last.completeBaseName() + u'.' + ending;
+}
+
+/// The answer to a question from the name the user gave: an ending that the program adds in any case is taken off.
+std::string answer_of(const FileQuestion& question, const QString& name) {
+  QString answer = name;
+  const QString ending = to_qt(question.ending.text);
+  if (question.save && !question.ending.unless_dotted && answer.endsWith(ending, Qt::CaseInsensitive)) {
+    answer.chop(ending.size());
+  }
+  return QFile::encodeName(answer).toStdString();
+}
+
+/// Asks before a file is replaced, by the name that it really bears.
+bool may_write(QWidget* parent, const QString& path) {
+  if (!QFileInfo::exists(path)) return true;
+  return QMessageBox::question(parent, tr("Replace file"),
+                               tr("%1 exists already. Replace it?").arg(QDir::toNativeSeparators(path))) ==
+         QMessageBox::Yes;
+}
+
 }  // namespace
 
 std::string DesktopServices::ask_file(const FileQuestion& question) {
-  const QString folder = last_folder_.isEmpty() ? to_qt(question.initial_folder) : last_folder_;
-  const QString preset = to_qt(question.file_name);
-  const QString start = preset.isEmpty() || !question.save ? folder : preset;
-  auto* parent = QApplication::activeWindow();
-  const QString filter = qt_filter(question.filter);
-  const QString path = question.save ? QFileDialog::getSaveFileName(parent, tr("Save"), start, filter)
-                                     : QFileDialog::getOpenFileName(parent, tr("Open"), start, filter);
-  if (path.isEmpty()) return "";
-  last_folder_ = QFileInfo(path).absolutePath();
-  return QFile::encodeName(path).toStdString();
+  const QString usual_folder = to_qt(question.initial_folder);
+  const QString folder = last_folders_.value(usual_folder, usual_folder.isEmpty() ? last_folder_ : usual_folder);
+  QFileDialog dialog(QApplication::activeWindow(), question.save ? tr("Save") : tr("Open"), folder,
+                     qt_filter(question));
+  dialog.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+  dialog.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+  dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the name may get an ending yet
+  if (question.save) {
+    dialog.selectFile(proposed_name(question));
+    if (question.ending.text.empty()) dialog.setDefaultSuffix(usual_ending(question));
+  }
+  while (dialog.exec() == QDialog::Accepted) {
+    const QString chosen = dialog.selectedFiles().constFirst();
+    const std::string answer = answer_of(question, chosen);
+    const QString written = QFile::decodeName(question.ending.added_to(answer).c_str());
+    if (question.save && !may_write(&dialog, written)) continue;
+    last_folders_[usual_folder] = last_folder_ = QFileInfo(chosen).absolutePath();
+    return answer;
+  }
+  return "";
 }
 
 void DesktopServices::set_up_printer() {

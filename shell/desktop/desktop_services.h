@@ -4,6 +4,7 @@
 #include <functional>
 #include <memory>
 
+#include <QMap>
 #include <QPrinter>
 #include <QStringList>
 
@@ -33,7 +34,9 @@ class DesktopServices : public Services {
   bool choose_output(QPrinter& printer);
 
   Desktop* desktop_ = nullptr;
-  QString last_folder_;  // of this session
+  // Of this session. Crystals, camera files and pictures, each with a usual folder of their own, are remembered apart.
+  QMap<QString, QString> last_folders_;
+  QString last_folder_;
   QString chosen_printer_;
   QStringList lines_;
 };

@@ -1,0 +1,53 @@
+// Patterns apart from their drawing, growing with the reflection list.
+#include <benchmark/benchmark.h>
+
+#include "bench/bench_crystals.h"
+#include "kikuchi/kikuchi_pattern.h"
+#include "spots/fiber_texture.h"
+
+namespace zol {
+namespace {
+
+std::unique_ptr<CrystalState> listed_crystal(benchmark::State& run) {
+  auto state = p1_crystal(20);
+  make_list(*state, dmin_for(static_cast<double>(run.range(0))), {false, true});
+  state->CamXYRatio = 1;
+  run.counters["reflections"] = state->RefCount.value();
+  return state;
+}
+
+/// The sort of the list, the grey scale, all lines.
+void KikuchiPattern(benchmark::State& run) {
+  const auto state = listed_crystal(run);
+  state->CamAcquisition = 37;
+  state->ZoneU = state->ZoneV = 1;
+  state->ZoneW = 3;
+  state->OriginH = state->OriginK = 3;
+  state->OriginL = -2;
+  state->KikuchiRefLimit = state->RefCount;
+  for (auto _ : run) {
+    sort_for_kikuchi(*state);
+    const auto view = gnomonic_view(*state);
+    state->DisplayScale = strongest_in_view(*state, view);
+    benchmark::DoNotOptimize(kikuchi_lines(*state, view, false));
+  }
+}
+
+/// The sort of the list, the arcs of all reflections within the picture.
+void FiberTexture(benchmark::State& run) {
+  const auto state = listed_crystal(run);
+  state->CamAcquisition = 0.8F;
+  state->Dispersion = 4;
+  state->OriginL = 1;
+  for (auto _ : run) {
+    sort_by_intensity(*state);
+    for (int i = 1; i <= state->RefCount.value(); ++i) {
+      benchmark::DoNotOptimize(fiber_arcs(*state, i, {800, 800, 0.5}));
+    }
+  }
+}
+BENCHMARK(KikuchiPattern)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(FiberTexture)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace zol

@@ -1,0 +1,40 @@
+# What "cmake --install" puts where, and the Debian package that "cpack" makes of it.
+include(GNUInstallDirs)
+set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+  OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+install(TARGETS zol zol-script RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/zol)
+install(FILES packaging/zol.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES packaging/io.github.zol.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES shell/desktop/images/zol.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES packaging/zol.1 packaging/zol-script.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+
+install(DIRECTORY docs/user-guide docs/images DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN draw EXCLUDE)
+install(PROGRAMS examples/batch/crystallite-sizes examples/batch/reflection-lists
+  DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples/batch)
+install(FILES docs/data-files.md docs/scripting.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
+# The examples name their crystals as in the source tree, from the folder above them.
+install(CODE "file(CREATE_LINK ../../zol \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DOCDIR}/data\" SYMBOLIC)")
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_VENDOR "ZOL developers")
+set(CPACK_PACKAGE_CONTACT "ZOL developers <zol@localhost>")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "reflection lists and diffraction patterns of a crystal")
+set(CPACK_PACKAGE_DESCRIPTION
+"A workbench for crystallographers and electron microscopists. It holds one
+crystal, computes its reflections with structure factors for X-rays or
+electrons, and draws powder diagrams, Debye rings, spot, fiber texture and
+Kikuchi patterns of it. From bands picked on a measured Kikuchi pattern it
+finds the orientation of the crystal.")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS ${CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS})
+set(CPACK_STRIP_FILES ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION science)
+# Beside the libraries: what Qt loads when it runs, for the screen and for icons, and a font with all signs of the lists.
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core, libqt6svg6, qt6-qpa-plugins")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
+include(CPack)

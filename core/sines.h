@@ -1,0 +1,17 @@
+// Sines and cosines of many angles at once, for sums that are rounded to a Single: a little off, by no more than a
+// bound that decides nearly every rounding.
+#pragma once
+
+#include <span>
+
+namespace zol {
+
+inline constexpr double sine_limit = 0x1p20;  ///< radians; beyond it the sines and cosines are not a number
+
+/// No sine or cosine lies farther off, nor does std::sin or std::cos of a library that is right to the last digit.
+inline constexpr double sine_error = 0x1p-46;
+
+/// Fills in the sine and the cosine of each angle, in radians.
+void approximate_sines(std::span<const double> angles, std::span<double> sines, std::span<double> cosines);
+
+}  // namespace zol

@@ -1,0 +1,89 @@
+#include "shell/data_copy.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+
+#include "core/run_failure.h"
+#include "core/text_records.h"
+
+namespace zol {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// The file in a copy that holds its version. All copied files have its time, so that another time tells a file that
+/// the user has changed.
+fs::path stamp_of(const fs::path& copy) { return copy / "copied-version"; }
+
+void write_with_time(const fs::path& path, const std::string& text, fs::file_time_type time) {
+  AtomicFile file(path.string());
+  file.write(text);
+  file.commit();
+  fs::last_write_time(path, time);
+}
+
+/// Adds and renews files, and writes the stamp last: a copy left half done is taken up again at the next start.
+void fill_copy(const fs::path& installed, const fs::path& copy, const std::string& version) {
+  const fs::path stamp = stamp_of(copy);
+  const auto time = fs::exists(stamp) ? fs::last_write_time(stamp) : fs::file_time_type::clock::now();
+  for (const auto& entry : fs::recursive_directory_iterator(installed)) {
+    const fs::path target = copy / entry.path().lexically_relative(installed);
+    if (entry.is_directory()) {
+      fs::create_directories(target);
+    } else if (!fs::exists(target) || fs::last_write_time(target) == time) {
+      write_with_time(target, read_file(entry.path().string()), time);
+    }
+  }
+  write_with_time(stamp, version, time);
+}
+
+/// A folder under way that is gone afterwards, unless renamed.
+class TemporaryFolder {
+ public:
+  explicit TemporaryFolder(const std::string& beside) : path_(beside + ".XXXXXX") {
+    if (mkdtemp(path_.data()) == nullptr) throw RunFailure(std::strerror(errno));
+  }
+  TemporaryFolder(const TemporaryFolder&) = delete;
+  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+  ~TemporaryFolder() {
+    std::error_code ignored;
+    fs::remove_all(path_, ignored);
+  }
+  [[nodiscard]] const std::string& path() const { return path_; }
+
+ private:
+  std::string path_;
+};
+
+void make_copy(const fs::path& installed, const fs::path& copy, const std::string& version) {
+  fs::create_directories(copy.parent_path());
+  const TemporaryFolder folder(copy.string());
+  fill_copy(installed, folder.path(), version);
+  std::error_code error;
+  fs::rename(folder.path(), copy, error);
+  // Another program that started at the same time may have been first; its copy is as good.
+  if (error && !fs::exists(stamp_of(copy))) throw fs::filesystem_error("", error);
+}
+
+}  // namespace
+
+void update_data_copy(const std::string& installed, const std::string& copy, const std::string& version) {
+  const auto failure = [&](const std::string& reason) {
+    return RunFailure("can't copy the data files from " + installed + " to " + copy + ": " + reason);
+  };
+  try {
+    if (!fs::exists(copy)) {
+      make_copy(installed, copy, version);
+    } else if (const fs::path stamp = stamp_of(copy); !fs::exists(stamp) || read_file(stamp.string()) != version) {
+      fill_copy(installed, copy, version);
+    }
+  } catch (const fs::filesystem_error& error) {
+    throw failure(error.code().message());
+  } catch (const RunFailure& error) {
+    throw failure(error.message());
+  }
+}
+
+}  // namespace zol

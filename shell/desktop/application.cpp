@@ -1,0 +1,60 @@
+#include "shell/desktop/application.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QMessageBox>
+#include <QTimer>
+
+#include "shell/data_folders.h"
+#include "shell/desktop/desktop_services.h"
+#include "shell/desktop/qt_text.h"
+#include "shell/desktop/screen_fit.h"
+#include "shell/program.h"
+
+namespace zol {
+namespace {
+
+void show_failure(const std::string& message) {
+  QMessageBox box(QMessageBox::Critical, QStringLiteral("ZOL"), to_qt(message), QMessageBox::Ok,
+                  QApplication::activeWindow());
+  box.setInformativeText(
+      QCoreApplication::translate("zol",
+                                  "The program ends here. Files are as they were saved last. Start it again with "
+                                  "this mended; \"Known behaviour\" in the user guide tells more."));
+  box.exec();
+}
+
+void name_application() {
+  QApplication::setApplicationName(QStringLiteral("zol"));
+  QApplication::setApplicationDisplayName(QStringLiteral("ZOL"));
+  QApplication::setApplicationVersion(QString::fromLatin1(program_version));
+  use_desktop_resources();
+  QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/zol.svg")));
+  use_fitting_style();
+  QApplication::setQuitOnLastWindowClosed(false);
+}
+
+}  // namespace
+
+int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun) {
+  const QApplication application(argc, argv);
+  name_application();
+  DataRoot data;
+  try {
+    data = find_data_root(data_places());
+  } catch (const RunFailure& failure) {
+    show_failure(failure.message());
+    return 1;
+  }
+  DesktopServices services;
+  Program program(data, services);
+  Desktop desktop(program.windows(), show_failure);
+  services.set_desktop(desktop);
+  QTimer::singleShot(0, &desktop, [&] {
+    desktop.enter([&program] { program.start(); });
+    if (begun) begun(desktop);
+  });
+  return QApplication::exec();
+}
+
+}  // namespace zol

@@ -1,0 +1,14 @@
+// The desktop program from its first window to its end.
+#pragma once
+
+#include <functional>
+
+#include "shell/desktop/desktop.h"
+
+namespace zol {
+
+/// @param begun  is called in the event loop as soon as the first window is on the screen
+/// @returns the exit status: 0 after the user's end, 1 after a failure, whose message was shown
+int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun = {});
+
+}  // namespace zol

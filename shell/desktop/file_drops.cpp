@@ -1,0 +1,63 @@
+#include "shell/desktop/file_drops.h"
+
+#include <algorithm>
+
+#include <QDropEvent>
+#include <QFile>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QUrl>
+#include <QWidget>
+
+namespace zol {
+namespace {
+
+class DropFilter : public QObject {
+ public:
+  DropFilter(Window& window, QWidget& widget, EnterEvent enter)
+      : QObject(&widget), window_(window), enter_(std::move(enter)) {
+    widget.setAcceptDrops(true);
+    for (auto* edit : widget.findChildren<QLineEdit*>())
+      edit->setAcceptDrops(false);  // they would take the path as text
+    widget.installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    const bool dropped = event->type() == QEvent::Drop;
+    if (!dropped && event->type() != QEvent::DragEnter) return false;
+    auto& drag = dynamic_cast<QDropEvent&>(*event);
+    const QString path = file_of(drag);
+    const auto taken = std::find_if(window_.file_drops.begin(), window_.file_drops.end(), [&path](const auto& drop) {
+      return path.endsWith(QString::fromStdString(drop.ending), Qt::CaseInsensitive);
+    });
+    if (taken == window_.file_drops.end()) return false;
+    drag.setDropAction(Qt::CopyAction);
+    drag.accept();
+    if (dropped) {
+      enter_([&drop = *taken, name = QFile::encodeName(path).toStdString()] {
+        drop.dialog->answer_next(name);
+        drop.item->click();
+      });
+    }
+    return true;
+  }
+
+ private:
+  /// The path of a single file; empty for anything else.
+  static QString file_of(const QDropEvent& drag) {
+    const auto urls = drag.mimeData()->urls();
+    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+  }
+
+  Window& window_;
+  EnterEvent enter_;
+};
+
+}  // namespace
+
+void accept_file_drops(Window& window, QWidget& widget, EnterEvent enter) {
+  if (!window.file_drops.empty()) new DropFilter(window, widget, std::move(enter));  // the widget owns it
+}
+
+}  // namespace zol

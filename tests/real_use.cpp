@@ -1,0 +1,568 @@
+// The desktop program used as a person would, by mouse and keys in real windows: one way through all of them.
+//
+//     zol-real-use FILES [PICTURES]
+//
+// FILES is a folder for what is saved on the way. With PICTURES a PNG of each window goes to that folder. The program
+// ends by "Exit" with status 0; a step that does not do what it should ends it with status 3 and a line that says
+// which.
+#include <array>
+#include <cstdlib>
+#include <functional>
+#include <iostream>
+#include <optional>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QClipboard>
+#include <QComboBox>
+#include <QContextMenuEvent>
+#include <QDropEvent>
+#include <QFile>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QListView>
+#include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QPointer>
+#include <QStatusBar>
+#include <QTableView>
+#include <QTest>
+#include <QTextBrowser>
+#include <QTimer>
+
+#include "shell/desktop/application.h"
+#include "shell/desktop/canvas_view.h"
+
+namespace zol {
+namespace {
+
+constexpr auto crystals = ZOL_SOURCE_DIR "/data/ZOLDATA/";
+
+[[noreturn]] void give_up(const QString& why) {
+  std::cerr << "real use: " << why.toStdString() << std::endl;
+  std::_Exit(3);
+}
+
+void expect(bool holds, const QString& what) {
+  if (!holds) give_up(what);
+}
+
+/// Answers a dialog of this kind as soon as it is open, while the step that opens it waits for its end. A dialog that
+/// was not ready for its answer gets it again.
+template <class Dialog>
+class Answer : public QObject {
+ public:
+  explicit Answer(std::function<void(Dialog&)> give) : QObject(QApplication::instance()), give_(std::move(give)) {
+    constexpr int milliseconds = 50;
+    startTimer(milliseconds);
+  }
+
+ protected:
+  void timerEvent(QTimerEvent* /*event*/) override {
+    if (busy_) return;
+    if (given_to_ != nullptr && !given_to_->isVisible()) return deleteLater();
+    if (given_once_ && given_to_ == nullptr) return deleteLater();
+    constexpr int most_waits = 200;
+    if (++waits_ > most_waits) give_up(QStringLiteral("a dialog did not come up or does not go"));
+    auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    if (dialog == nullptr || !dialog->isVisible()) return;
+    constexpr int next_try = 20;
+    if (given_once_ && waits_ % next_try != 0) return;
+    given_once_ = busy_ = true;
+    given_to_ = dialog;
+    give_(*dialog);
+    busy_ = false;
+  }
+
+ private:
+  std::function<void(Dialog&)> give_;
+  QPointer<Dialog> given_to_;
+  int waits_ = 0;
+  bool given_once_ = false;
+  bool busy_ = false;
+};
+
+template <class Dialog, class Give>
+void when_asked(Give give) {
+  new Answer<Dialog>(std::move(give));  // the application owns it
+}
+
+void choose_file(const QString& path) {
+  when_asked<QFileDialog>([path](QFileDialog& dialog) {
+    constexpr int listing = 100;  // milliseconds until the dialog knows its folder
+    QTest::qWait(listing);
+    auto& name = *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    name.setText(path);  // typed, it would open a list of completions at each letter
+    QTest::keyClick(&name, Qt::Key_Return);
+  });
+}
+
+void answer_prompt(const QString& text) {
+  when_asked<QInputDialog>([text](QInputDialog& dialog) {
+    QTest::keyClicks(dialog.findChild<QLineEdit*>(), text);
+    QTest::keyClick(&dialog, Qt::Key_Return);
+  });
+}
+
+class User {
+ public:
+  User(Desktop& desktop, QString files, std::optional<QString> pictures)
+      : desktop_(desktop), files_(std::move(files)), pictures_(std::move(pictures)) {}
+
+  QWidget& window(const char* name) const {
+    const auto* binder = desktop_.binder(name);
+    expect(binder != nullptr, QStringLiteral("there is no window %1").arg(QString::fromLatin1(name)));
+    QWidget& shown = binder->widget();
+    constexpr int milliseconds = 200;
+    constexpr int most_tries = 50;
+    for (int tries = 0; !QTest::qWaitForWindowActive(&shown, milliseconds); ++tries) {
+      expect(tries < most_tries, QStringLiteral("%1 did not come to the front").arg(shown.windowTitle()));
+      shown.raise();
+      shown.activateWindow();
+    }
+    return shown;
+  }
+  template <class Widget>
+  Widget& widget(const char* window_name, const char* name) const {
+    auto* found = window(window_name).findChild<Widget*>(QString::fromLatin1(name));
+    expect(found != nullptr,
+           QStringLiteral("%1 has no %2").arg(QString::fromLatin1(window_name), QString::fromLatin1(name)));
+    return *found;
+  }
+
+  void click(const char* window_name, const char* button) const {
+    auto& target = widget<QAbstractButton>(window_name, button);
+    expect(target.isVisible() && target.isEnabled(), target.objectName() + QStringLiteral(" can't be clicked"));
+    constexpr QPoint inside(6, 8);
+    QTest::mouseClick(&target, Qt::LeftButton, {}, inside);
+  }
+  /// Opens the menu that an item stands in and clicks it; or clicks an item of the menu bar itself.
+  void choose(const char* window_name, const char* item) const {
+    auto& bar = widget<QMenuBar>(window_name, "menubar");
+    auto* action = &widget<QAction>(window_name, item);
+    for (auto* entry : bar.actions()) {
+      QMenu* menu = entry->menu();
+      if (entry != action && (menu == nullptr || !menu->actions().contains(action))) continue;
+      QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(entry).center());
+      if (entry == action) return;
+      expect(QTest::qWaitFor([menu] { return menu->isVisible(); }), QStringLiteral("a menu does not open"));
+      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+      return;
+    }
+    give_up(QStringLiteral("no menu holds %1").arg(QString::fromLatin1(item)));
+  }
+  void load_crystal(const char* name) const {
+    window("Main1").activateWindow();
+    choose_file(QString::fromLatin1(crystals) + QString::fromLatin1(name));
+    choose("Main1", "DATA_LOAD");
+  }
+  /// Replaces the text of a box.
+  void type(const char* window_name, const char* box, const char* text) const {
+    auto& edit = widget<QLineEdit>(window_name, box);
+    QTest::mouseDClick(&edit, Qt::LeftButton);
+    QTest::keyClick(&edit, Qt::Key_A, Qt::ControlModifier);
+    if (*text == '\0') QTest::keyClick(&edit, Qt::Key_Backspace);
+    QTest::keyClicks(&edit, QString::fromLatin1(text));
+  }
+  void press_enter(const char* window_name, const char* box) const {
+    QTest::keyClick(&widget<QLineEdit>(window_name, box), Qt::Key_Return);
+  }
+  /// Types from a table or a box on, where Enter (\r) may go on to the next one.
+  static void type_on(QWidget& first, const char* keys) {
+    first.setFocus();
+    for (const char* key = keys; *key != '\0'; ++key) {
+      auto* target = QApplication::focusWidget();
+      if (*key == '\r') {
+        QTest::keyClick(target, Qt::Key_Return);
+      } else {
+        QTest::keyClick(target, *key);
+      }
+    }
+  }
+  /// Fills boxes, each given by its name and text.
+  void fill(const char* window_name, std::initializer_list<std::pair<const char*, const char*>> boxes) const {
+    for (const auto& [box, text] : boxes) type(window_name, box, text);
+  }
+  /// Goes to an item of the radiations by the arrow keys, then "Calc".
+  void choose_radiation(const char* item) const {
+    auto& combo = widget<QComboBox>("Main1", "Combo1");
+    const int wanted = combo.findText(QString::fromLatin1(item));
+    for (int from = combo.currentIndex(); from != wanted; from = combo.currentIndex()) {
+      QTest::keyClick(&combo, from < wanted ? Qt::Key_Down : Qt::Key_Up);
+      expect(combo.currentIndex() != from, QStringLiteral("an arrow key does not move in the radiations"));
+    }
+    click("Main1", "Command6");
+  }
+  void pick_line(const char* window_name, const char* list, int row) const {
+    auto& view = widget<QListView>(window_name, list);
+    const QModelIndex index = view.model()->index(row, 0);
+    expect(index.isValid(), QStringLiteral("%1 has no line %2").arg(view.objectName()).arg(row));
+    view.scrollTo(index);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
+  }
+  int lines(const char* window_name, const char* list) const {
+    return widget<QListView>(window_name, list).model()->rowCount();
+  }
+
+  /// The place in a picture at parts of its width and height.
+  static QPoint place(const CanvasView& picture, double across, double down) {
+    const QRectF rect = picture.picture_rect();
+    return QPointF(rect.left() + across * rect.width(), rect.top() + down * rect.height()).toPoint();
+  }
+  void drag(CanvasView& picture, QPointF from, QPointF to) const {
+    QTest::mousePress(&picture, Qt::LeftButton, {}, place(picture, from.x(), from.y()));
+    QTest::mouseMove(&picture, place(picture, to.x(), to.y()));
+    QTest::mouseRelease(&picture, Qt::LeftButton, {}, place(picture, to.x(), to.y()));
+  }
+  /// What the status line says with the pointer over the middle of a picture.
+  QString said_of_place(const char* window_name, const char* picture_name, double across, double down) const {
+    auto& picture = widget<CanvasView>(window_name, picture_name);
+    QTest::mouseMove(&picture, place(picture, across, down));
+    QTest::qWait(20);
+    return dynamic_cast<QMainWindow&>(*picture.window()).statusBar()->currentMessage();
+  }
+
+  [[nodiscard]] QString file(const char* name) const { return files_ + u'/' + QString::fromLatin1(name); }
+  /// Saves by a step that asks for a file, which then exists.
+  template <class Step>
+  void save(const char* typed, const char* written, Step step) const {
+    choose_file(file(typed));
+    step();
+    expect(QFileInfo(file(written)).size() > 0, QStringLiteral("%1 was not written").arg(file(written)));
+  }
+
+  void take_picture(const char* window_name, const char* name) const {
+    if (!pictures_) return;
+    QWidget& shown = window(window_name);
+    QTest::qWait(50);
+    expect(shown.grab().save(*pictures_ + u'/' + QString::fromLatin1(name) + QStringLiteral(".png")),
+           QStringLiteral("a picture can't be saved"));
+  }
+
+ private:
+  Desktop& desktop_;
+  QString files_;
+  std::optional<QString> pictures_;
+};
+
+void open_main_window(const User& user) {
+  user.take_picture("MAIN_MENU", "main-menu");
+  user.click("MAIN_MENU", "Command1");
+  user.load_crystal("Quartz.cry");
+  expect(user.lines("Main1", "List2") > 100, QStringLiteral("the list of quartz is too short"));
+  user.take_picture("Main1", "main1");
+}
+
+void enter_by_hand(const User& user) {
+  user.click("Main1", "Command1");
+  user.type_on(user.widget<QTableView>("InputAtom", "G"), "0.2");
+  user.take_picture("InputAtom", "input-atom");
+  user.click("InputAtom", "Command2");
+  user.click("Main1", "Command15");
+  user.type_on(user.widget<QTableView>("InputJCPDS", "G"), "100\r1\r1\r1\r46\r2\r0\r0\r20");
+  user.take_picture("InputJCPDS", "input-jcpds");
+  user.click("InputJCPDS", "Command2");
+  user.load_crystal("Quartz.cry");  // the table of observed lines has put its atoms aside
+}
+
+void copy_lines(const User& user) {
+  auto& list = user.widget<QListView>("Main1", "List2");
+  user.pick_line("Main1", "List2", 2);
+  QTest::keyClick(&list, Qt::Key_Down, Qt::ShiftModifier);
+  QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
+  const QString copied = QGuiApplication::clipboard()->text();
+  expect(copied == list.model()->index(2, 0).data().toString() + u'\n' + list.model()->index(3, 0).data().toString(),
+         QStringLiteral("copied was: %1").arg(copied));
+  QTest::keyClick(&list, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
+  expect(QGuiApplication::clipboard()->text().count(u'\n') + 1 == user.lines("Main1", "List2"),
+         QStringLiteral("Ctrl+A selects all lines"));
+}
+
+void show_powder_pattern(const User& user) {
+  user.choose_radiation("CuKa");
+  user.click("Main1", "Command7");
+  const QString place = user.said_of_place("Xd", "Picture1", 0.25, 0.5);
+  expect(place.startsWith(QStringLiteral("2θ ")) && place.contains(QStringLiteral(" Å")),
+         QStringLiteral("the status line of Xd says: %1").arg(place));
+  user.take_picture("Xd", "xd");
+  user.save("pattern", "pattern.XDP", [&user] { user.click("Xd", "Command3"); });
+  user.save("pattern", "pattern.BMP", [&user] { user.click("Xd", "Command4"); });
+  user.window("Xd").close();
+}
+
+void show_rings(const User& user) {
+  user.choose_radiation("200");
+  user.click("Main1", "Command8");
+  expect(user.said_of_place("Dring", "Picture2", 0.3, 0.3).startsWith(QStringLiteral("d* ")),
+         QStringLiteral("the status line of Dring is empty"));
+  user.take_picture("Dring", "dring");
+  for (const auto* box : {"Check1", "Check2", "Check3"}) user.click("Dring", box);
+  user.click("Dring", "Command1");
+  user.take_picture("Dring", "dring-inverse");
+  user.save("rings", "rings.EDP", [&user] { user.click("Dring", "Command4"); });
+  user.save("rings", "rings.BMP", [&user] { user.click("Dring", "Command3"); });
+  user.window("Dring").close();
+}
+
+/// By the context menu of a picture.
+void export_picture(const User& user, const char* window_name, const char* entry, const char* name) {
+  auto& picture = user.widget<CanvasView>(window_name, "Picture1");
+  choose_file(user.file(name));
+  QTimer::singleShot(100, &picture, [entry] {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    expect(menu != nullptr, QStringLiteral("a picture has no context menu"));
+    for (auto* action : menu->actions()) {
+      if (action->text() != QString::fromLatin1(entry)) continue;
+      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+      return;
+    }
+    give_up(QStringLiteral("the context menu has no \"%1\"").arg(QString::fromLatin1(entry)));
+  });
+  QContextMenuEvent asked(QContextMenuEvent::Mouse, picture.rect().center(),
+                          picture.mapToGlobal(picture.rect().center()));
+  QApplication::sendEvent(&picture, &asked);
+  expect(QTest::qWaitFor([&] { return QFileInfo(user.file(name)).size() > 0; }),
+         QStringLiteral("%1 was not written").arg(user.file(name)));
+}
+
+void show_spots(const User& user) {
+  user.load_crystal("NaCl.cry");
+  user.click("Main1", "Command9");
+  user.fill("Pattern", {{"Text3", "1"}, {"Text4", "1"}, {"Text5", "0"}});
+  user.click("Pattern", "Check3");
+  answer_prompt(QStringLiteral("2"));
+  user.choose("Pattern", "Spotsize");
+  user.click("Pattern", "Command8");
+  user.take_picture("Pattern", "spots");
+  user.save("spots", "spots.bmp", [&user] { user.choose("Pattern", "ISAVE"); });
+  export_picture(user, "Pattern", "Export PNG, &double size...", "spots.png");
+  export_picture(user, "Pattern", "Export &SVG...", "spots.svg");
+  export_picture(user, "Pattern", "Export P&DF...", "spots.pdf");
+  user.click("Pattern", "Command1");
+}
+
+void show_fiber_texture(const User& user) {
+  user.click("Main1", "Command12");
+  user.fill("FiberTexture", {{"Text1", "1"}, {"Text3", "1"}, {"Text4", "1"}, {"Text5", "1"}, {"Text2", "8"}});
+  user.click("FiberTexture", "Command8");
+  user.take_picture("FiberTexture", "fiber-texture");
+  user.save("fiber", "fiber.bmp", [&user] { user.choose("FiberTexture", "Isave"); });
+  user.click("FiberTexture", "Command1");
+}
+
+void show_kikuchi_pattern(const User& user, const char* crystal, const char* u, const char* v, const char* w,
+                          const char* picture) {
+  user.load_crystal(crystal);
+  user.click("Main1", "Command10");
+  user.fill("Pattern2", {{"Text3", u}, {"Text4", v}, {"Text5", w}});
+  user.click("Pattern2", "Command8");
+  user.take_picture("Pattern2", picture);
+}
+
+void show_zone_axes(const User& user) {
+  user.save("kikuchi", "kikuchi.bmp", [&user] { user.choose("Pattern2", "ISAVE"); });
+  user.click("Pattern2", "Check2");
+  user.click("Pattern2", "Command8");
+  user.take_picture("Zaxis", "zone-axis-map");
+  user.save("map", "map.bmp", [&user] { user.choose("Zaxis", "SaveMap"); });
+  user.window("Zaxis").close();
+  user.window("Pattern2").close();
+}
+
+void use_calculators(const User& user) {
+  user.load_crystal("Rutile.cry");
+  user.choose("Main1", "Show_utility");
+  user.fill("Utility", {{"Text1", "30"}, {"Text2", "0"}, {"Text3", "0.8906"}, {"Text4", "30"}});
+  user.press_enter("Utility", "Text4");
+  user.fill("Utility", {{"Text9", "10"}, {"Text8", "-20"}, {"Text7", "17.368"}, {"Text6", "30"}});
+  user.press_enter("Utility", "Text6");
+  user.type_on(user.widget<QLineEdit>("Utility", "Text5(0)"), "1\r2\r0\r0\r1\r0\r0\r0\r4");
+  user.click("Utility", "Command2");
+  user.fill("Utility", {{"Text10", "1"}, {"Text11", "0"}, {"Text12", "1"}});
+  user.click("Utility", "Command4");
+  user.fill("Utility",
+            {{"Text46", "1"}, {"Text47", "0"}, {"Text48", "1"}, {"Text49", "0"}, {"Text50", "0"}, {"Text51", "1"}});
+  user.take_picture("Utility", "utility");
+  user.window("Utility").close();
+  user.click("Main1", "Command11");
+  user.type("AtomDistance", "Text1", "3");
+  user.click("AtomDistance", "Command1");
+  expect(user.lines("AtomDistance", "List1") > 0, QStringLiteral("no distances"));
+  user.take_picture("AtomDistance", "atom-distance");
+  user.window("AtomDistance").close();
+}
+
+void import_cif(const User& user) {
+  choose_file(QStringLiteral(ZOL_SOURCE_DIR "/examples/cif/rutile.cif"));
+  user.choose("Main1", "ImportfromCIF");
+  expect(user.widget<QLineEdit>("Main1", "Text7").text().trimmed() == QStringLiteral("136"),
+         QStringLiteral("rutile has another space group"));
+  user.click("Main1", "Command6");
+  user.save("rutile.cry", "rutile.cry", [&user] { user.choose("Main1", "DATA_SAVE"); });
+  // Once more under the same name: the dialog asks.
+  bool asked = false;
+  choose_file(user.file("rutile.cry"));
+  when_asked<QMessageBox>([&asked](QMessageBox& box) {
+    asked = true;
+    QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
+  });
+  user.choose("Main1", "DATA_SAVE");
+  expect(asked, QStringLiteral("a file is replaced without a question"));
+}
+
+void drop_crystal(const User& user) {
+  user.choose_radiation("20");
+  QWidget& main = user.window("Main1");
+  QMimeData data;
+  data.setUrls({QUrl::fromLocalFile(QString::fromLatin1(crystals) + QStringLiteral("Silicon.cry"))});
+  const QPointF middle = main.rect().center();
+  QDragEnterEvent over(middle.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, {});
+  QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
+  QApplication::sendEvent(&main, &over);
+  QApplication::sendEvent(&main, &drop);
+  expect(user.widget<QLineEdit>("Main1", "Text17").text().endsWith(QStringLiteral("Silicon.cry")),
+         QStringLiteral("a dropped crystal is not loaded"));
+}
+
+void save_camera_file(const User& user) {
+  user.choose("MAIN_MENU", "Camera_parameters");
+  user.take_picture("CameraParameters", "camera-parameters");
+  user.save("camera", "camera", [&user] { user.click("CameraParameters", "Command2"); });
+  user.click("CameraParameters", "Command3");
+}
+
+void index_pattern(const User& user) {
+  user.click("MAIN_MENU", "Command3");
+  user.type("PATTERN3", "Text3", "33");
+  choose_file(QStringLiteral(ZOL_SOURCE_DIR "/examples/silicon-pattern.bmp"));
+  user.choose("PATTERN3", "ImageLoad");
+  user.choose("PATTERN3", "ImageFlip");
+  auto& picture = user.widget<CanvasView>("PATTERN3", "Picture1");
+  constexpr double side = 511;
+  for (const auto& [x1, y1, x2, y2] : {std::array{20, 75, 490, 293}, {60, 490, 480, 245}, {24, 20, 259, 490}}) {
+    user.drag(picture, {x1 / side, y1 / side}, {x2 / side, y2 / side});
+  }
+  user.click("PATTERN3", "Check1");
+  user.click("PATTERN3", "Command1");
+  expect(user.lines("PATTERN3", "List1") > 1, QStringLiteral("the pattern of silicon has no solution"));
+  user.take_picture("PATTERN3", "analysis");
+  for (const auto* mode : {"CPS_Si001", "CP_Setting_Show"}) user.choose("PATTERN3", mode);
+  user.take_picture("PATTERN3", "analysis-calibration");
+  for (const auto* mode : {"CPS_Si001", "CP_Setting_Show"}) user.choose("PATTERN3", mode);
+  user.pick_line("PATTERN3", "List1", 0);
+  user.choose("Pattern2", "ImageLoad");
+  user.pick_line("PATTERN3", "List1", 0);
+  user.take_picture("Pattern2", "analysis-superposed");
+  user.save("indexed.bmp", "indexed.bmp", [&user] { user.choose("PATTERN3", "ImageSAve"); });
+}
+
+void read_guide(const User& user) {
+  QTest::keyClick(&user.window("PATTERN3"), Qt::Key_F1);
+  for (auto* top : QApplication::topLevelWidgets()) {
+    auto* pages = top->findChild<QTextBrowser*>();
+    if (pages == nullptr || !top->isVisible()) continue;
+    expect(pages->source().fileName() == QStringLiteral("kikuchi-analysis.md"),
+           QStringLiteral("F1 opens another page"));
+    top->close();
+    return;
+  }
+  give_up(QStringLiteral("F1 opens no guide"));
+}
+
+void walk(const User& user) {
+  open_main_window(user);
+  enter_by_hand(user);
+  copy_lines(user);
+  show_powder_pattern(user);
+  show_rings(user);
+  show_spots(user);
+  show_fiber_texture(user);
+  show_kikuchi_pattern(user, "Silicon.cry", "0", "0", "1", "kikuchi-silicon");
+  show_kikuchi_pattern(user, "ZnO.cry", "0", "0", "1", "kikuchi-zincite");
+  show_kikuchi_pattern(user, "NaCl.cry", "1", "1", "0", "kikuchi-nacl");
+  show_zone_axes(user);
+  use_calculators(user);
+  import_cif(user);
+  drop_crystal(user);
+  save_camera_file(user);
+  index_pattern(user);
+  read_guide(user);
+  user.click("MAIN_MENU", "Command5");
+}
+
+struct FailureCase {
+  const char* kind;
+  void (*bring_about)(const User& user);
+};
+
+const FailureCase failure_cases[] = {
+    {"missing", [](const User& user) { user.type("Main1", "Text7", "260"); }},
+    {"broken",
+     [](const User& user) {
+       QFile file(user.file("broken.cry"));
+       expect(file.open(QIODevice::WriteOnly) && file.write("4.9\n4.9\n5.4\n90\nright\n") > 0, file.fileName());
+       file.close();
+       choose_file(file.fileName());
+       user.choose("Main1", "DATA_LOAD");
+     }},
+    {"overflow", [](const User& user) { user.type("Main1", "Text1", "1e39"); }},
+    {"division",
+     [](const User& user) {  // a crystal without atoms
+       user.click("Main1", "Command15");
+       user.click("InputJCPDS", "Command2");
+       user.click("Main1", "Command6");
+       user.click("Main1", "Command8");
+     }},
+    {"subscript",
+     [](const User& user) {  // Enter behind the last cell of the table
+       user.click("Main1", "Command15");
+       auto& table = user.widget<QTableView>("InputJCPDS", "G");
+       QTest::keyClick(&table, Qt::Key_End, Qt::ControlModifier);
+       QTest::keyClick(&table, Qt::Key_Return);
+     }},
+    {"conversion",
+     [](const User& user) {
+       user.click("Main1", "Command9");
+       answer_prompt(QStringLiteral("large"));
+       user.choose("Pattern", "Fsize");
+     }},
+};
+
+void fail(const User& user, const std::string& kind) {
+  user.click("MAIN_MENU", "Command1");
+  user.load_crystal("Quartz.cry");
+  when_asked<QMessageBox>([](QMessageBox& box) {
+    std::cout << box.text().toStdString() << std::endl;
+    QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+  });
+  for (const auto& failure : failure_cases) {
+    if (failure.kind == kind) return failure.bring_about(user);
+  }
+  give_up(QStringLiteral("there is no such kind of failure"));
+}
+
+}  // namespace
+}  // namespace zol
+
+int main(int argc, char** argv) {
+  if (argc < 2) zol::give_up(QStringLiteral("usage: zol-real-use FILES [PICTURES | failure KIND]"));
+  const QString files = QFile::decodeName(argv[1]);
+  const std::optional<std::string> failure = argc > 3 ? std::optional(argv[3]) : std::nullopt;
+  const std::optional<QString> pictures = argc == 3 ? std::optional(QFile::decodeName(argv[2])) : std::nullopt;
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // those of a desktop can't be filled in from here
+  return zol::run_application(argc, argv, [&](zol::Desktop& desktop) {
+    const zol::User user(desktop, files, pictures);
+    if (failure) {
+      zol::fail(user, *failure);
+    } else {
+      zol::walk(user);
+    }
+  });
+}

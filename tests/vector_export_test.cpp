@@ -1,0 +1,124 @@
+// Vector files of real patterns: what the drawing list has inside the picture is in the file, as elements of their own.
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <regex>
+
+#include <QLineF>
+#include <QRectF>
+
+#include "core/text_records.h"
+#include "shell/desktop/picture_export.h"
+#include "shell/desktop/qt_surface.h"
+#include "shell/program.h"
+#include "shell/script/script_driver.h"
+#include "shell/script/script_services.h"
+#include "tests/test_files.h"
+
+namespace zol {
+namespace {
+
+struct PixelScriptServices : ScriptServices {
+  using ScriptServices::ScriptServices;
+  std::unique_ptr<Surface> make_surface(int width, int height) override {
+    return std::make_unique<QtSurface>(width, height);
+  }
+  void export_picture(Canvas& /*canvas*/, const std::string& /*path*/) override {}
+};
+
+/// Elements of a picture that the eye can count. A disc that crosses the border counts as cut.
+struct Elements {
+  int lines = 0, circles = 0, texts = 0, points = 0, cut = 0;
+};
+
+Elements in_list(const Canvas& canvas) {
+  const QRectF picture(0, 0, canvas.pixel_width(), canvas.pixel_height());
+  UserScale scale = canvas.list_scale();
+  const auto place = [&](double x, double y) {
+    return QPointF((x - scale.left) / (scale.right - scale.left) * picture.width(),
+                   (y - scale.top) / (scale.bottom - scale.top) * picture.height());
+  };
+  const auto is_seen = [&picture](const QLineF& line) {
+    if (picture.contains(line.p1()) || picture.contains(line.p2())) return true;
+    const QPointF corners[] = {picture.topLeft(), picture.topRight(), picture.bottomRight(), picture.bottomLeft()};
+    for (int i = 0; i < 4; ++i) {
+      if (line.intersects(QLineF(corners[i], corners[(i + 1) % 4]), nullptr) == QLineF::BoundedIntersection)
+        return true;
+    }
+    return false;
+  };
+  Elements count;
+  for (const Primitive& primitive : canvas.drawing()) {
+    if (const auto* changed = std::get_if<UserScale>(&primitive.what)) scale = *changed;
+    if (const auto* line = std::get_if<DrawnLine>(&primitive.what)) {
+      count.lines += is_seen({place(line->x1, line->y1), place(line->x2, line->y2)}) ? 1 : 0;
+    } else if (const auto* circle = std::get_if<DrawnCircle>(&primitive.what)) {
+      const double radius = std::abs(circle->radius / (scale.right - scale.left) * picture.width());
+      const QRectF box(place(circle->x, circle->y) - QPointF(radius, radius), QSizeF(2 * radius, 2 * radius));
+      count.circles += picture.contains(box) ? 1 : 0;
+      count.cut += !picture.contains(box) && picture.intersects(box) ? 1 : 0;
+    } else if (const auto* text = std::get_if<DrawnText>(&primitive.what)) {
+      count.texts += picture.contains(place(text->x, text->y)) ? 1 : 0;
+    } else if (const auto* point = std::get_if<DrawnPoint>(&primitive.what)) {
+      const QPoint pixel = place(point->x, point->y).toPoint();
+      count.points += picture.contains(QRectF(pixel, QSizeF(1, 1))) ? 1 : 0;
+    }
+  }
+  return count;
+}
+
+Elements in_svg(const std::string& svg) {
+  const auto count = [&svg](const char* element) {
+    const std::regex wanted(element);
+    return static_cast<int>(std::distance(std::sregex_iterator(svg.begin(), svg.end(), wanted), {}));
+  };
+  return {count("<polyline "), count("<(circle|ellipse) "), count("<text "), count("<rect ") - 1,
+          0};  // one is the background
+}
+
+struct Drawing {
+  const char* script;  // of examples/figures
+  const char* window;
+  const char* picture;
+  int least;  // elements that the pattern has at least
+};
+
+void PrintTo(const Drawing& drawing, std::ostream* out) { *out << drawing.window << ' ' << drawing.picture; }
+
+class VectorExport : public testing::TestWithParam<Drawing> {};
+INSTANTIATE_TEST_SUITE_P(
+    Patterns, VectorExport,
+    testing::Values(Drawing{"powder", "Xd", "Picture1", 500}, Drawing{"rings", "Dring", "Picture1", 500},
+                    Drawing{"rings", "Dring", "Picture2", 100}, Drawing{"spot-pattern", "Pattern", "Picture1", 50},
+                    Drawing{"fiber-texture", "FiberTexture", "Picture1", 1000},
+                    Drawing{"kikuchi", "Pattern2", "Picture1", 50}, Drawing{"zone-axis-map", "Zaxis", "Picture1", 50},
+                    Drawing{"zone-axis-map", "Pattern2", "Picture1", 100}));
+
+TEST_P(VectorExport, HoldsEachElementInsideThePicture) {
+  const auto& [script_name, window, picture, least] = GetParam();
+  const ScratchFolder folder;
+  std::ostringstream output;
+  PixelScriptServices services(output);
+  Program program({ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services);
+  program.start();
+  const std::string script = read_file(std::string(ZOL_SOURCE_DIR "/examples/figures/") + script_name + ".zs");
+  std::istringstream lines(std::regex_replace(script, std::regex("data/ZOLDATA"), ZOL_SOURCE_DIR "/data/ZOLDATA"));
+  ScriptDriver(program, services, output).run(lines);
+
+  auto& canvas = dynamic_cast<Canvas&>(*program.windows().use(window).find(picture));
+  const Elements drawn = in_list(canvas);
+  EXPECT_GE(drawn.lines + drawn.circles + drawn.texts + drawn.points + drawn.cut, least);
+  export_picture(canvas, folder.path("a.svg"), 1.0);
+  const Elements exported = in_svg(folder.read("a.svg"));
+  EXPECT_EQ(exported.texts, drawn.texts);
+  EXPECT_EQ(exported.circles, drawn.circles);
+  EXPECT_EQ(exported.points, drawn.points);
+  if (drawn.cut == 0) {
+    EXPECT_EQ(exported.lines, drawn.lines);
+  } else {
+    EXPECT_GE(exported.lines, drawn.lines + drawn.cut) << "a cut circle is a line of pieces";
+  }
+}
+
+}  // namespace
+}  // namespace zol
