@@ -34,11 +34,12 @@ TEST(FloatLoop, FailsWhenItsStepsLeadNowhere) {
     LoopSense sense;
   };
   // Half the spacing of Singles is rounded to even: 16777217 lies between two of them.
-  for (const auto& [from, limit, step, sense] :
+  for (const auto& row :
        {Row{0, 1, 0, rising}, Row{0, 0, -0.1, rising}, Row{0, 1e20F, 1, rising}, Row{-1e20F, 0, 1, rising},
         Row{16777210, 16777220, 1, rising}, Row{0, -1e20F, 1, falling}, Row{1e20F, 0, 1, falling}}) {
-    EXPECT_NE(failure_of([&] { (void)values(from, limit, step, sense); }).find("which lead nowhere"), std::string::npos)
-        << from << ' ' << step;
+    EXPECT_NE(failure_of([&] { (void)values(row.from, row.limit, row.step, row.sense); }).find("which lead nowhere"),
+              std::string::npos)
+        << row.from << ' ' << row.step;
   }
   EXPECT_EQ(failure_of([] { (void)values(0, 1, -0.5, rising); }),
             "a loop goes from 0 to 1 by steps of -.5, which lead nowhere");
