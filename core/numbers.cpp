@@ -9,8 +9,8 @@ std::string shown(double value) { return std::isfinite(value) ? plain_text(value
 }  // namespace
 
 void fail_overflow(double value, std::string_view type, double lowest, double highest) {
-  throw RunFailure("overflow: " + shown(value) + " does not fit an " + std::string(type) + " (" + shown(lowest) +
-                   " to " + shown(highest) + ")");
+  throw RunFailure("overflow: " + shown(value) + " does not fit " + (type == "Long" ? "a " : "an ") +
+                   std::string(type) + " (" + shown(lowest) + " to " + shown(highest) + ")");
 }
 
 void fail_single(double value) {

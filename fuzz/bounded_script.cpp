@@ -25,7 +25,8 @@ constexpr std::array bounds{
     Bound{"Zaxis.Text1", 0, 6},        Bound{"Zaxis.Text2", 0, 6},         Bound{"Zaxis.Text3", 0, 6},
     Bound{"Xd.Text6", 100, any},       Bound{"Xd.Text7", 100, any},        Bound{"Xd.Text8", 100, any},
     Bound{"Dring.Text6", 100, any},    Bound{"Dring.Text7", 100, any},     Bound{"Dring.Text8", 100, any},
-    Bound{"AtomDistance.Text1", 0, 5}, Bound{"FiberTexture.Text2", 0, 30},
+    Bound{"AtomDistance.Text1", 0, 5}, Bound{"FiberTexture.Text2", 0, 30}, Bound{"Pattern.Text1", 0, 3},
+    Bound{"FiberTexture.Text1", 0, 3},
 };
 
 /// Text of the bound that a number passes; none for a number within.
@@ -75,13 +76,18 @@ void bound_answer(std::string& answer) {
   }
 }
 
-std::string bounded_line(const std::string& line) {
-  std::vector<std::string> words;
+/// No words for a line that can't be read.
+std::vector<std::string> words_of(const std::string& line) {
   try {
-    words = split_words(line);
+    return split_words(line);
   } catch (const ScriptError&) {
-    return line;
+    return {};
   }
+}
+
+std::string bounded_line(const std::string& line) {
+  std::vector<std::string> words = words_of(line);
+  if (words.empty()) return line;
   if (words.size() == 3 && (words[0] == "set" || words[0] == "type")) bound_box(words);
   if (words.size() == 2 && words[0] == "answer") bound_answer(words[1]);
   if (words.size() == 3 && words[0] == "export") words[2] = words[2].substr(words[2].find_last_of('/') + 1);
@@ -90,13 +96,43 @@ std::string bounded_line(const std::string& line) {
   return text;
 }
 
+/// The window of spots or arcs that an operation draws in; empty when it draws in neither. They share the width of the
+/// picture with the windows of Kikuchi patterns, where it is an angle and far larger.
+std::string drawn_window(const std::vector<std::string>& words) {
+  if (words.size() < 2) return "";
+  if (words[1] == "Main1.PatternDisp") return "Pattern";
+  if (words[1] == "Main1.PatternDisp3") return "FiberTexture";
+  const std::string window = words[1].substr(0, words[1].find('.'));
+  return window == "Pattern" || window == "FiberTexture" ? window : "";
+}
+
+/// Sets a width before operations that come from another window, and before each one that doubles it.
+class WidthKeeper {
+ public:
+  std::string before(const std::string& line) {
+    const std::string window = drawn_window(words_of(line));
+    const bool widens = line.find(".Command3\"") != std::string::npos;
+    const bool kept = window == last_ && !widens;
+    last_ = window;
+    if (window.empty() || kept) return "";
+    return "set " + window + ".Text1 0\nset " + window + ".Text1 2\n";
+  }
+
+ private:
+  std::string last_;
+};
+
 }  // namespace
 
 std::string bounded_script(const std::string& script) {
   std::istringstream lines(script);
   std::string result;
   std::string line;
-  for (int n = 0; n < most_operations && std::getline(lines, line); ++n) result += bounded_line(line) + '\n';
+  WidthKeeper width;
+  for (int n = 0; n < most_operations && std::getline(lines, line); ++n) {
+    line = bounded_line(line);
+    result += width.before(line) + line + '\n';
+  }
   return result;
 }
 

@@ -7,7 +7,7 @@
 namespace zol::fuzz {
 
 /// The longest script: further lines are dropped.
-inline constexpr int most_operations = 60;
+inline constexpr int most_operations = 80;
 
 /// Puts the numbers of boxes that rule the amount of work within bounds and takes folders off the names of files.
 [[nodiscard]] std::string bounded_script(const std::string& script);

@@ -37,7 +37,7 @@ OffscreenPictures& pictures() {
   return shared;
 }
 
-ScriptFolder::ScriptFolder(const fs::path& folder) : folder_(folder) { fill(); }
+ScriptFolder::ScriptFolder(fs::path folder) : folder_(std::move(folder)) { fill(); }
 
 ScriptFolder::~ScriptFolder() {
   std::error_code error;
@@ -46,7 +46,7 @@ ScriptFolder::~ScriptFolder() {
 
 void ScriptFolder::fill() {
   fs::create_directories(folder_);
-  for (const auto* origin : {"data/ZOLDATA", "examples", "examples/cif"}) {
+  for (const auto* origin : {"data/ZOLDATA", "examples", "examples/cif", "fuzz/seeds/icsd", "fuzz/seeds/atom_lists"}) {
     for (const auto& file : fs::directory_iterator(source / origin)) {
       if (file.is_regular_file()) fs::copy_file(file, folder_ / file.path().filename());
     }

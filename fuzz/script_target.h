@@ -14,7 +14,7 @@ namespace zol::fuzz {
 /// A folder with crystals, structure files and a picture to load, and a place for what is saved.
 class ScriptFolder {
  public:
-  explicit ScriptFolder(const std::filesystem::path& folder);
+  explicit ScriptFolder(std::filesystem::path folder);
   ScriptFolder(const ScriptFolder&) = delete;
   ScriptFolder& operator=(const ScriptFolder&) = delete;
   ~ScriptFolder();

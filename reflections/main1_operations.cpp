@@ -62,6 +62,7 @@ void AtomCcalc(Workbench& bench) {
   auto& form = bench.windows.use<Main1Form>();
   CrystalState& state = form.state;
   form.List1.clear();
+  if (state.SGFile.empty()) throw RunFailure("the unit cell needs a space group, none has been chosen");
   expand_unit_cell(state, read_space_group(state.SGFile));
   form.Label20.set_caption(unit_cell_summary(state));
   for (int m = 1; m <= state.NCell.value(); ++m) form.List1.add_item(unit_cell_line(state, m));

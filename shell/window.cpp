@@ -52,6 +52,12 @@ const std::function<void()>* Window::operation(const std::string& name) const {
   return found == operations_.end() ? nullptr : &found->second;
 }
 
+std::vector<std::string> Window::operation_names() const {
+  std::vector<std::string> names;
+  for (const auto& [name, operation] : operations_) names.push_back(name);
+  return names;
+}
+
 Window& Windows::use(const std::string& name) {
   if (Window* existing = find(name)) return *existing;
   const auto type = types_.find(name);

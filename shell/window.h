@@ -105,6 +105,7 @@ class Window {
   }
   /// nullptr when there is no such public operation
   [[nodiscard]] const std::function<void()>* operation(const std::string& name) const;
+  [[nodiscard]] std::vector<std::string> operation_names() const;
 
   [[nodiscard]] WindowView* view() const { return view_; }
   void set_view(WindowView* view) { view_ = view; }

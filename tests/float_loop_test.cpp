@@ -34,9 +34,9 @@ TEST(FloatLoop, FailsWhenItsStepsLeadNowhere) {
     LoopSense sense;
   };
   // Half the spacing of Singles is rounded to even: 16777217 lies between two of them.
-  for (const auto& row :
+  for (const Row& row :
        {Row{0, 1, 0, rising}, Row{0, 0, -0.1, rising}, Row{0, 1e20F, 1, rising}, Row{-1e20F, 0, 1, rising},
-        Row{16777210, 16777220, 1, rising}, Row{0, -1e20F, 1, falling}, Row{1e20F, 0, 1, falling}}) {
+        Row{16777210.0F, 16777220.0F, 1, rising}, Row{0, -1e20F, 1, falling}, Row{1e20F, 0, 1, falling}}) {
     EXPECT_NE(failure_of([&] { (void)values(row.from, row.limit, row.step, row.sense); }).find("which lead nowhere"),
               std::string::npos)
         << row.from << ' ' << row.step;

@@ -71,6 +71,7 @@ TEST(Script, TellsWhatIsWrongWithItsLine) {
         {"print Module1.RefH(1", "line 2: \"RefH(1\" has no closing bracket"},
         {"echo \"x", "line 2: a quote is not closed"},
         {"click Main1.DATA_LOAD", "unanswered: the name of a file to open"},
+        {"call Main1.AtomCcalc", "failure: the unit cell needs a space group, none has been chosen"},
         {"print Module1.RefH(1)", "failure: index 1 of RefH, which has not been allocated yet"},
         {"print Module1.UCPos(1,4)", "failure: index 4 of UCPos is outside 0 to 3"}}) {
     const auto result = run(std::string("echo before\n") + script + "\necho after\n");

@@ -21,7 +21,7 @@ int to_pixel(double coordinate) { return static_cast<int>(std::nearbyint(coordin
 
 /// A transparent image of one pixel at least.
 QImage new_image(int width, int height) {
-  constexpr qint64 most_pixels = 8192 * 8192;  // 256 MB, what Qt reads from a file at most
+  constexpr qint64 most_pixels = qint64{8192} * 8192;  // 256 MB, what Qt reads from a file at most
   const QSize size(std::max(width, 1), std::max(height, 1));
   const auto fail = [size](const std::string& why) {
     throw RunFailure("can't make an image of " + std::to_string(size.width()) + " x " + std::to_string(size.height()) +
