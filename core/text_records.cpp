@@ -10,6 +10,7 @@
 #include <fstream>
 #include <sstream>
 #include <system_error>
+#include <utility>
 
 #include "core/number_text.h"
 #include "core/run_failure.h"
@@ -117,33 +118,35 @@ AtomicFile::AtomicFile(std::string path) : path_(std::move(path)) {
   const auto behind_links = std::filesystem::weakly_canonical(path_, error);
   target_ = error ? path_ : behind_links.string();
   temporary_ = target_ + ".XXXXXX";
-  const int descriptor = mkstemp(temporary_.data());
-  if (descriptor < 0) {
-    const int reason = errno;
-    temporary_.clear();
-    throw RunFailure("can't write " + path_ + ": " + std::strerror(reason));
-  }
+  descriptor_ = mkstemp(temporary_.data());
+  if (descriptor_ < 0) fail(errno);
   // mkstemp makes a private file; the result has the old file's permissions, or those of any new file.
   struct stat old {};
   const mode_t mask = umask(0);
   umask(mask);
   const mode_t mode = stat(target_.c_str(), &old) == 0 ? old.st_mode & 07777U : 0666U & ~mask;
-  (void)fchmod(descriptor, mode);
-  close(descriptor);
+  (void)fchmod(descriptor_, mode);
 }
 
 AtomicFile::~AtomicFile() {
+  if (descriptor_ >= 0) close(descriptor_);
   if (!temporary_.empty()) (void)unlink(temporary_.c_str());
 }
 
+void AtomicFile::fail(int reason) const { throw RunFailure("can't write " + path_ + ": " + std::strerror(reason)); }
+
 void AtomicFile::commit() {
-  std::ofstream file(temporary_, std::ios::binary | std::ios::trunc);
-  file.write(text_.data(), static_cast<std::streamsize>(text_.size()));
-  file.close();
-  if (!file) throw RunFailure("can't write " + path_ + ": " + std::strerror(errno));
-  if (std::rename(temporary_.c_str(), target_.c_str()) != 0) {
-    throw RunFailure("can't write " + path_ + ": " + std::strerror(errno));
+  for (std::string_view left = text_; !left.empty();) {
+    const ssize_t written = ::write(descriptor_, left.data(), left.size());
+    if (written >= 0) {
+      left.remove_prefix(static_cast<std::size_t>(written));
+    } else if (errno != EINTR) {
+      fail(errno);
+    }
   }
+  if (fsync(descriptor_) != 0 && errno != EINVAL) fail(errno);  // EINVAL: nothing that could be brought to a disk
+  if (close(std::exchange(descriptor_, -1)) != 0) fail(errno);
+  if (std::rename(temporary_.c_str(), target_.c_str()) != 0) fail(errno);
   temporary_.clear();
 }
 

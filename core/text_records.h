@@ -62,13 +62,18 @@ class AtomicFile {
   ~AtomicFile();
 
   void write(std::string_view text) { text_ += text; }
+  /// Puts the file in its place once all of it is on the disk, so that even a machine that stops leaves the old file or
+  /// the new one.
   /// @throws RunFailure  the file can't be written or renamed
   void commit();
 
  private:
+  [[noreturn]] void fail(int reason) const;
+
   std::string path_;       // as the user gave it, for messages
   std::string target_;     // behind symbolic links
   std::string temporary_;  // empty when there is none
+  int descriptor_ = -1;    // of the temporary file
   std::string text_;
 };
 

@@ -1,5 +1,6 @@
 #include "entry/structure_readers.h"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -22,7 +23,7 @@ constexpr std::array cell_tags{
 
 /// An element without charge or count: what stands before its first digit, digits looked for from 0 to 9 in turn.
 std::string without_digits(std::string word) {
-  for (char digit = '0'; digit <= '9'; ++digit) word = word.substr(0, word.find(digit));
+  for (char digit = '0'; digit <= '9'; ++digit) word.erase(std::min(word.find(digit), word.size()));
   return word;
 }
 

@@ -11,7 +11,6 @@
 #include <QSvgGenerator>
 
 #include "core/run_failure.h"
-#include "core/text_records.h"
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
@@ -28,12 +27,6 @@ std::string ending_of(const std::string& path) {
   std::transform(ending.begin(), ending.end(), ending.begin(),
                  [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
   return ending;
-}
-
-void write_bytes(const QByteArray& bytes, const std::string& path) {
-  AtomicFile file(path);
-  file.write({bytes.constData(), static_cast<std::size_t>(bytes.size())});
-  file.commit();
 }
 
 QByteArray svg_of(Canvas& canvas) {

@@ -2,14 +2,15 @@
 
 #include <cmath>
 
+#include <QBuffer>
 #include <QFile>
 #include <QFontMetricsF>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
-#include <QSaveFile>
 
 #include "core/run_failure.h"
+#include "core/text_records.h"
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/qt_text.h"
 
@@ -112,10 +113,18 @@ void QtSurface::load_bitmap(const std::string& path) {
 void QtSurface::save_bitmap(const std::string& path) const { write_image(image_, path, "BMP"); }
 
 void write_image(const QImage& image, const std::string& path, const char* kind) {
-  QSaveFile file(QFile::decodeName(QByteArray::fromStdString(path)));
+  QBuffer bytes;
   // The picture covers all of its area: no alpha in the file.
-  const bool written = file.open(QIODevice::WriteOnly) && image.convertToFormat(QImage::Format_RGB32).save(&file, kind);
-  if (!written || !file.commit()) throw RunFailure("can't write " + path + ": " + file.errorString().toStdString());
+  if (!image.convertToFormat(QImage::Format_RGB32).save(&bytes, kind)) {
+    throw RunFailure("can't write " + path + ": no picture of the kind " + kind + " can be made");
+  }
+  write_bytes(bytes.data(), path);
+}
+
+void write_bytes(const QByteArray& bytes, const std::string& path) {
+  AtomicFile file(path);
+  file.write({bytes.constData(), static_cast<std::size_t>(bytes.size())});
+  file.commit();
 }
 
 }  // namespace zol

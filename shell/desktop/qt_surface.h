@@ -31,8 +31,10 @@ class QtSurface : public Surface {
   QImage image_;
 };
 
-/// Writes an image to a file of a kind that Qt knows ("BMP", "PNG"), beside its place and renamed.
+/// Writes an image to a file of a kind that Qt knows ("BMP", "PNG"), whole or not at all.
 /// @throws RunFailure  it can't be written
 void write_image(const QImage& image, const std::string& path, const char* kind);
+/// Writes a file, whole or not at all. @throws RunFailure  it can't be written
+void write_bytes(const QByteArray& bytes, const std::string& path);
 
 }  // namespace zol
