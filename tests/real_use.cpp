@@ -417,16 +417,19 @@ void import_cif(const User& user) {
   expect(asked, QStringLiteral("a file is replaced without a question"));
 }
 
-void drop_crystal(const User& user) {
-  user.choose_radiation("20");
-  QWidget& main = user.window("Main1");
+void drop_file(QWidget& window, const QString& path) {
   QMimeData data;
-  data.setUrls({QUrl::fromLocalFile(QString::fromLatin1(crystals) + QStringLiteral("Silicon.cry"))});
-  const QPointF middle = main.rect().center();
+  data.setUrls({QUrl::fromLocalFile(path)});
+  const QPointF middle = window.rect().center();
   QDragEnterEvent over(middle.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, {});
   QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
-  QApplication::sendEvent(&main, &over);
-  QApplication::sendEvent(&main, &drop);
+  QApplication::sendEvent(&window, &over);
+  expect(over.isAccepted(), QStringLiteral("%1 can't be dropped").arg(path));
+  QApplication::sendEvent(&window, &drop);
+}
+
+void drop_crystal(const User& user) {
+  drop_file(user.window("Main1"), QString::fromLatin1(crystals) + QStringLiteral("Silicon.cry"));
   expect(user.widget<QLineEdit>("Main1", "Text17").text().endsWith(QStringLiteral("Silicon.cry")),
          QStringLiteral("a dropped crystal is not loaded"));
 }
@@ -441,7 +444,12 @@ void save_camera_file(const User& user) {
 void index_pattern(const User& user) {
   user.click("MAIN_MENU", "Command3");
   user.type("PATTERN3", "Text3", "33");
-  choose_file(QStringLiteral(ZOL_SOURCE_DIR "/examples/silicon-pattern.bmp"));
+  const auto picture_file = QStringLiteral(ZOL_SOURCE_DIR "/examples/silicon-pattern.bmp");
+  drop_file(user.window("PATTERN3"), picture_file);
+  expect(user.window("PATTERN3").windowTitle().startsWith(QStringLiteral("silicon-pattern")),
+         QStringLiteral("a dropped picture is not loaded"));
+  user.choose("PATTERN3", "Imageclear");
+  choose_file(picture_file);
   user.choose("PATTERN3", "ImageLoad");
   user.choose("PATTERN3", "ImageFlip");
   auto& picture = user.widget<CanvasView>("PATTERN3", "Picture1");

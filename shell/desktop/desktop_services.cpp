@@ -83,7 +83,7 @@ std::string DesktopServices::ask_file(const FileQuestion& question) {
   }
   while (dialog.exec() == QDialog::Accepted) {
     const QString chosen = dialog.selectedFiles().constFirst();
-    const std::string answer = answer_of(question, chosen);
+    std::string answer = answer_of(question, chosen);
     const QString written = QFile::decodeName(question.ending.added_to(answer).c_str());
     if (question.save && !may_write(&dialog, written)) continue;
     last_folders_[usual_folder] = last_folder_ = QFileInfo(chosen).absolutePath();
