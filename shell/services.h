@@ -28,6 +28,7 @@ namespace file_filters {
 inline constexpr auto crystals = "Crystal files|*.cry|";
 inline constexpr auto cif = "CIF|*.cif|";
 inline constexpr auto texts = "Text files|*.txt|";
+inline constexpr auto atom_lists = "Lists of atoms|*.txt;*.cif|";
 }  // namespace file_filters
 
 struct FileQuestion {
