@@ -135,13 +135,13 @@ void Imatch_Click(Workbench& bench, Pattern3Form& form) {
   const std::string answer = bench.services.prompt(
       "[" + plain_text(form.MatchMode) + "] Input matching method (0:triangle and direction 1:only triangle)",
       "Matching Method");
-  if (!answer.empty()) form.MatchMode = Integer::rounded(Val(answer));
+  if (!answer.empty()) form.MatchMode = typed_number("the matching method", answer, Integer::rounded);
 }
 
 void EquivSet(Workbench& bench, Pattern3Form& form) {
   const std::string answer = bench.services.prompt(
       "[" + plain_text(form.EquivMode) + "] Equivalent solution (0:Display 1:Omitt)", "Equivale solution");
-  if (!answer.empty()) form.EquivMode = Integer::rounded(Val(answer));
+  if (!answer.empty()) form.EquivMode = typed_number("the choice of solutions", answer, Integer::rounded);
 }
 
 void List1_Click(Workbench& bench, Pattern3Form& form) {

@@ -24,7 +24,7 @@ std::string ask_file(Workbench& bench, CameraParametersForm& form, bool save) {
   return save ? form.CommonDialog1.save() : form.CommonDialog1.open();
 }
 
-void take(const TextBox& box, Single& scalar) { scalar = to_single(Val(box.text())); }
+void take(const TextBox& box, Single& scalar) { scalar = single_in(box); }
 
 }  // namespace
 

@@ -17,7 +17,7 @@ namespace {
 /// A typed component of the axis. The flag tells that the pattern is not that of the axis.
 void take_axis(Workbench& bench, const TextBox& box, Single& component) {
   main1_state(bench).PatternFlag = 2;
-  component = to_single(Val(box.text()));
+  component = single_in(box);
 }
 
 bool has_axis(const CrystalState& state) { return state.ZoneU != 0 || state.ZoneV != 0 || state.ZoneW != 0; }
@@ -35,9 +35,9 @@ void show_new_axis(const CrystalState& state, Pattern2Form& form) {
 
 void take_mark(Workbench& bench, const Pattern2Form& form) {
   CrystalState& state = main1_state(bench);
-  state.MarkH = Integer::rounded(Val(form.Text11.text()));
-  state.MarkK = Integer::rounded(Val(form.Text12.text()));
-  state.MarkL = Integer::rounded(Val(form.Text13.text()));
+  state.MarkH = integer_in(form.Text11);
+  state.MarkK = integer_in(form.Text12);
+  state.MarkL = integer_in(form.Text13);
 }
 
 void zoom(Workbench& bench, Pattern2Form& form, double opening) {
@@ -63,8 +63,9 @@ void scale_intensity(Workbench& bench, Pattern2Form& form, double display_scale)
 
 void take_angles(Workbench& bench, const Pattern2Form& form) {
   CrystalState& state = main1_state(bench);
-  state.TiltPhi = to_single(Val(form.Text22.text()) * degree);
-  state.TiltTheta = to_single(Val(form.Text23.text()) * degree);
+  const auto radians = [](double angle_deg) { return to_single(angle_deg * degree); };
+  state.TiltPhi = number_in(form.Text22, radians);
+  state.TiltTheta = number_in(form.Text23, radians);
 }
 
 /// A red disc at the typed direction.
@@ -93,7 +94,7 @@ void enter_plots_angles(Workbench& bench, Pattern2Form& form, int& key) {
 /// Asks for a value; an empty answer changes nothing.
 void ask(Workbench& bench, const std::string& text, const std::string& title, Single& value) {
   const std::string answer = bench.services.prompt("[" + plain_text(value) + text, title);
-  if (!answer.empty()) value = to_single(Val(answer));
+  if (!answer.empty()) value = typed_number("the answer to \"" + title + '"', answer, to_single);
 }
 
 }  // namespace
@@ -118,7 +119,7 @@ void Text1_Change(Workbench& bench, Pattern2Form& form) {
     camera.CamAcquisition = to_single(opening);
     form.Text1.set_text(plain_text(camera.CamAcquisition));
   };
-  camera.CamAcquisition = to_single(Val(form.Text1.text()));
+  camera.CamAcquisition = single_in(form.Text1);
   if (double{camera.CamAcquisition} - camera.CamXShift > widest) limit(camera.CamXShift + widest);
   if (double{camera.CamAcquisition} - camera.CamYShift > widest) limit(camera.CamYShift + widest);
   if (double{camera.CamXShift} + camera.CamAcquisition > widest) limit(widest - camera.CamXShift);
@@ -129,22 +130,16 @@ void Text3_Change(Workbench& bench, Pattern2Form& form) { take_axis(bench, form.
 void Text4_Change(Workbench& bench, Pattern2Form& form) { take_axis(bench, form.Text4, bench.state.ZoneV); }
 void Text5_Change(Workbench& bench, Pattern2Form& form) { take_axis(bench, form.Text5, bench.state.ZoneW); }
 
-void Text11_Change(Workbench& bench, Pattern2Form& form) {
-  main1_state(bench).MarkH = Integer::rounded(Val(form.Text11.text()));
-}
-void Text12_Change(Workbench& bench, Pattern2Form& form) {
-  main1_state(bench).MarkK = Integer::rounded(Val(form.Text12.text()));
-}
-void Text13_Change(Workbench& bench, Pattern2Form& form) {
-  main1_state(bench).MarkL = Integer::rounded(Val(form.Text13.text()));
-}
+void Text11_Change(Workbench& bench, Pattern2Form& form) { main1_state(bench).MarkH = integer_in(form.Text11); }
+void Text12_Change(Workbench& bench, Pattern2Form& form) { main1_state(bench).MarkK = integer_in(form.Text12); }
+void Text13_Change(Workbench& bench, Pattern2Form& form) { main1_state(bench).MarkL = integer_in(form.Text13); }
 
-void Text14_Change(Workbench& bench, Pattern2Form& form) { bench.state.CamXShift = to_single(Val(form.Text14.text())); }
-void Text15_Change(Workbench& bench, Pattern2Form& form) { bench.state.CamYShift = to_single(Val(form.Text15.text())); }
+void Text14_Change(Workbench& bench, Pattern2Form& form) { bench.state.CamXShift = single_in(form.Text14); }
+void Text15_Change(Workbench& bench, Pattern2Form& form) { bench.state.CamYShift = single_in(form.Text15); }
 
 void Text19_Change(Workbench& bench, Pattern2Form& form) {
   CrystalState& state = main1_state(bench);
-  state.KikuchiRefLimit = Long::rounded(Val(form.Text19.text()));
+  state.KikuchiRefLimit = long_in(form.Text19);
   if (state.KikuchiRefLimit == 0) state.KikuchiRefLimit = state.RefCount;
 }
 
@@ -188,9 +183,9 @@ void Command3_Click(Workbench& bench, Pattern2Form& form) {
 
 void Command4_Click(Workbench& bench, Pattern2Form& form) {
   CrystalState& state = main1_state(bench);
-  state.PrevZoneU = to_single(Val(form.Text3.text()));
-  state.PrevZoneV = to_single(Val(form.Text4.text()));
-  state.PrevZoneW = to_single(Val(form.Text5.text()));
+  state.PrevZoneU = single_in(form.Text3);
+  state.PrevZoneV = single_in(form.Text4);
+  state.PrevZoneW = single_in(form.Text5);
   form.Text3.set_text(form.Text6.text());
   form.Text4.set_text(form.Text7.text());
   form.Text5.set_text(form.Text8.text());
@@ -212,9 +207,9 @@ void Command7_Click(Workbench& bench, Pattern2Form& form) { turn(bench, form, 1,
 void Command8_Click(Workbench& bench, Pattern2Form& form) {
   CrystalState& state = main1_state(bench);
   if (!has_axis(state)) return;
-  state.CamAcquisition = to_single(Val(form.Text1.text()));
-  state.CamXShift = to_single(Val(form.Text14.text()));
-  state.CamYShift = to_single(Val(form.Text15.text()));
+  state.CamAcquisition = single_in(form.Text1);
+  state.CamXShift = single_in(form.Text14);
+  state.CamYShift = single_in(form.Text15);
   PatternDisp2(bench);
   state.PatternFlag = 0;
 }

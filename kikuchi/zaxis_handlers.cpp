@@ -38,8 +38,8 @@ void Text6_KeyPress(Workbench& bench, ZaxisForm& form, int& key) {
 void Command1_Click(Workbench& /*bench*/, ZaxisForm& form) {
   using colours::red;
   constexpr double disc = 0.012;
-  const Single phi = to_single(Val(form.Text7.text()) * degree);
-  const Single theta = to_single((90.0 - Val(form.Text8.text())) * degree);
+  const Single phi = number_in(form.Text7, [](double deg) { return to_single(deg * degree); });
+  const Single theta = number_in(form.Text8, [](double deg) { return to_single((90.0 - deg) * degree); });
   const double radius = map_radius(theta, form.Check2.checked());
   form.Picture1.set_solid_fill(true);
   form.Picture1.set_fill_colour(red);

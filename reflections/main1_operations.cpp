@@ -19,7 +19,7 @@ void settle_dmin(Workbench& bench, Main1Form& form) {
   CrystalState& state = form.state;
   state.Dmin = to_single(Val(form.Text15.text()));
   while (!(state.Dmin > 0)) {
-    state.Dmin = to_single(Val(bench.services.prompt("Input D-value Minimum", "D-value Minimum")));
+    state.Dmin = typed_number("the smallest d", bench.services.prompt("Input D-value Minimum", "D-value Minimum"), to_single);
     form.Text15.set_text(plain_text(state.Dmin));
   }
 }

@@ -6,7 +6,7 @@ namespace zol {
 namespace {
 
 [[noreturn]] void fail_item(const Control& control, int index, std::size_t count) {
-  throw RunFailure("item " + std::to_string(index) + " of " + control.path() + " does not exist, it has " +
+  throw RunFailure("item " + std::to_string(index) + " of " + control.described() + " does not exist, it has " +
                    std::to_string(count) + " items, the first is 0");
 }
 
@@ -18,6 +18,12 @@ Control::Control(Window& window, std::string name, ControlKind kind, std::string
 }
 
 std::string Control::path() const { return window_.name() + "." + name_; }
+
+std::string Control::described() const {
+  const std::size_t first = caption_.find_first_not_of(' ');
+  if (first == std::string::npos) return path();
+  return '"' + caption_.substr(first, caption_.find_last_not_of(' ') + 1 - first) + "\" (" + path() + ')';
+}
 
 void Control::changed() {
   if (auto* view = window_.view()) view->control_changed(*this);
@@ -37,7 +43,7 @@ void TextBox::set_text(std::string_view text) {
   if (text == text_) return;
   text_ = text;
   changed();
-  on_change.fire(path() + " changed");
+  on_change.fire(described() + " changed");
 }
 
 void TextBox::set_focus() {
@@ -45,7 +51,7 @@ void TextBox::set_focus() {
 }
 
 int TextBox::press_key(int key) {
-  on_key_press.fire("a key was pressed in " + path(), key);
+  on_key_press.fire("a key was pressed in " + described(), key);
   return key;
 }
 
@@ -61,7 +67,7 @@ void TextBox::type(char character) {
   set_text(typed);
 }
 
-void TextBox::leave() { on_lost_focus.fire(path() + " lost the focus"); }
+void TextBox::leave() { on_lost_focus.fire(described() + " lost the focus"); }
 
 void CheckBox::set_value(int value) {
   value_ = value;
@@ -70,7 +76,7 @@ void CheckBox::set_value(int value) {
 
 void CheckBox::click() {
   set_value(checked() ? 0 : 1);
-  on_click.fire(path() + " was clicked");
+  on_click.fire(described() + " was clicked");
 }
 
 void OptionButton::set_on(bool on) {
@@ -86,7 +92,7 @@ void OptionButton::set_on(bool on) {
 
 void OptionButton::click() {
   set_on(true);
-  on_click.fire(path() + " was clicked");
+  on_click.fire(described() + " was clicked");
 }
 
 void ComboBox::add_item(std::string_view item) {
@@ -102,7 +108,7 @@ void ComboBox::set_text(std::string_view text) {
 void ComboBox::pick(int index) {
   if (index < 0 || static_cast<std::size_t>(index) >= items_.size()) fail_item(*this, index, items_.size());
   set_text(items_[static_cast<std::size_t>(index)]);
-  on_click.fire(path() + " was clicked");
+  on_click.fire(described() + " was clicked");
 }
 
 void ListBox::clear() {
@@ -132,7 +138,7 @@ void ListBox::set_fore_colour(Colour colour) {
 void ListBox::pick(int index) {
   if (index < 0 || index >= list_count()) fail_item(*this, index, items_.size());
   set_list_index(index);
-  on_click.fire(path() + " was clicked");
+  on_click.fire(described() + " was clicked");
 }
 
 void ProgressBar::set_range(Single minimum, Single maximum) {
@@ -221,7 +227,7 @@ void Grid::clear() {
 }
 
 int Grid::press_key(int key) {
-  on_key_press.fire("a key was pressed in " + path(), key);
+  on_key_press.fire("a key was pressed in " + described(), key);
   return key;
 }
 

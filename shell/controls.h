@@ -5,12 +5,14 @@
 // type).
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/number_text.h"
 #include "core/numbers.h"
 #include "core/run_failure.h"
 
@@ -20,7 +22,11 @@ class Window;
 
 /// Colour packed as r + 256 g + 65536 b.
 using Colour = std::int32_t;
-[[nodiscard]] constexpr Colour RGB(int r, int g, int b) { return r + 256 * g + 65536 * b; }
+/// Each part is cut to 0 to 255.
+[[nodiscard]] constexpr Colour RGB(int r, int g, int b) {
+  constexpr int most = 255;
+  return std::clamp(r, 0, most) + 256 * std::clamp(g, 0, most) + 65536 * std::clamp(b, 0, most);
+}
 namespace colours {
 inline constexpr Colour black = RGB(0, 0, 0);
 inline constexpr Colour white = RGB(255, 255, 255);
@@ -83,6 +89,8 @@ class Control {
 
   [[nodiscard]] const std::string& name() const { return name_; }
   [[nodiscard]] std::string path() const;  ///< "Window.Control"
+  /// For messages: its caption, where it has one, and its path.
+  [[nodiscard]] std::string described() const;
   [[nodiscard]] ControlKind kind() const { return kind_; }
   [[nodiscard]] Window& window() const { return window_; }
 
@@ -127,6 +135,25 @@ class TextBox : public Control {
   std::string text_;
 };
 
+/// Converts what Val makes of a typed text. @throws RunFailure  it does not fit; the message tells what the text is
+template <class Convert>
+[[nodiscard]] auto typed_number(const std::string& what, const std::string& text, const Convert& convert) {
+  try {
+    return convert(Val(text));
+  } catch (const RunFailure& failure) {
+    throw RunFailure(what + " is \"" + text + "\": " + failure.message());
+  }
+}
+
+/// The number in a box. @throws RunFailure  it does not fit; the message names the box
+template <class Convert>
+[[nodiscard]] auto number_in(const TextBox& box, const Convert& convert) {
+  return typed_number(box.described(), box.text(), convert);
+}
+[[nodiscard]] inline Single single_in(const TextBox& box) { return number_in(box, to_single); }
+[[nodiscard]] inline Integer integer_in(const TextBox& box) { return number_in(box, Integer::rounded); }
+[[nodiscard]] inline Long long_in(const TextBox& box) { return number_in(box, Long::rounded); }
+
 /// Swallows Enter. @returns true when the key was Enter
 inline bool swallow_enter(int& key) {
   if (key != key_enter) return false;
@@ -153,7 +180,7 @@ class CommandButton : public Control {
  public:
   CommandButton(Window& window, std::string name, std::string caption = "")
       : Control(window, std::move(name), ControlKind::CommandButton, std::move(caption)) {}
-  void click() const { on_click.fire(path() + " was clicked"); }
+  void click() const { on_click.fire(described() + " was clicked"); }
   Event<> on_click;
 };
 
@@ -241,7 +268,7 @@ class MenuItem : public Control {
   MenuItem(Window& window, std::string name, std::string caption, std::string menu = "")
       : Control(window, std::move(name), ControlKind::MenuItem, std::move(caption)), menu_(std::move(menu)) {}
   [[nodiscard]] const std::string& menu() const { return menu_; }
-  void click() const { on_click.fire(path() + " was clicked"); }
+  void click() const { on_click.fire(described() + " was clicked"); }
   Event<> on_click;
 
  private:

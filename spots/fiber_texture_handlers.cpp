@@ -18,8 +18,6 @@ void rotate_by(Workbench& bench, double angle_rad) {
   PatternDisp3(bench);
 }
 
-Integer whole_number_in(const TextBox& box) { return Integer::rounded(Val(box.text())); }
-
 }  // namespace
 
 void Form_Load(Workbench& bench, FiberTextureForm& form) {
@@ -28,20 +26,12 @@ void Form_Load(Workbench& bench, FiberTextureForm& form) {
 }
 
 void Text1_Change(Workbench& bench, FiberTextureForm& form) {
-  bench.state.CamAcquisition = to_single(Val(form.Text1.text()) / 2.0);
+  bench.state.CamAcquisition = number_in(form.Text1, [](double width) { return to_single(width / 2.0); });
 }
-void Text2_Change(Workbench& bench, FiberTextureForm& form) {
-  main1_state(bench).Dispersion = to_single(Val(form.Text2.text()));
-}
-void Text3_Change(Workbench& bench, FiberTextureForm& form) {
-  main1_state(bench).OriginH = whole_number_in(form.Text3);
-}
-void Text4_Change(Workbench& bench, FiberTextureForm& form) {
-  main1_state(bench).OriginK = whole_number_in(form.Text4);
-}
-void Text5_Change(Workbench& bench, FiberTextureForm& form) {
-  main1_state(bench).OriginL = whole_number_in(form.Text5);
-}
+void Text2_Change(Workbench& bench, FiberTextureForm& form) { main1_state(bench).Dispersion = single_in(form.Text2); }
+void Text3_Change(Workbench& bench, FiberTextureForm& form) { main1_state(bench).OriginH = integer_in(form.Text3); }
+void Text4_Change(Workbench& bench, FiberTextureForm& form) { main1_state(bench).OriginK = integer_in(form.Text4); }
+void Text5_Change(Workbench& bench, FiberTextureForm& form) { main1_state(bench).OriginL = integer_in(form.Text5); }
 
 void Text3_KeyPress(Workbench& /*bench*/, FiberTextureForm& form, int& key) { enter_moves_to(form.Text4, key); }
 void Text4_KeyPress(Workbench& /*bench*/, FiberTextureForm& form, int& key) { enter_moves_to(form.Text5, key); }

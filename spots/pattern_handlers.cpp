@@ -38,14 +38,12 @@ void Form_Load(Workbench& bench, PatternForm& form) {
 }
 
 void Text1_Change(Workbench& bench, PatternForm& form) {
-  bench.state.CamAcquisition = to_single(Val(form.Text1.text()) / 2.0);
+  bench.state.CamAcquisition = number_in(form.Text1, [](double width) { return to_single(width / 2.0); });
 }
-void Text2_Change(Workbench& bench, PatternForm& form) {
-  main1_state(bench).Level = Integer::rounded(Val(form.Text2.text()));
-}
-void Text3_Change(Workbench& bench, PatternForm& form) { main1_state(bench).ZoneU = to_single(Val(form.Text3.text())); }
-void Text4_Change(Workbench& bench, PatternForm& form) { main1_state(bench).ZoneV = to_single(Val(form.Text4.text())); }
-void Text5_Change(Workbench& bench, PatternForm& form) { main1_state(bench).ZoneW = to_single(Val(form.Text5.text())); }
+void Text2_Change(Workbench& bench, PatternForm& form) { main1_state(bench).Level = integer_in(form.Text2); }
+void Text3_Change(Workbench& bench, PatternForm& form) { main1_state(bench).ZoneU = single_in(form.Text3); }
+void Text4_Change(Workbench& bench, PatternForm& form) { main1_state(bench).ZoneV = single_in(form.Text4); }
+void Text5_Change(Workbench& bench, PatternForm& form) { main1_state(bench).ZoneW = single_in(form.Text5); }
 
 void Text3_KeyPress(Workbench& /*bench*/, PatternForm& form, int& key) { enter_moves_to(form.Text4, key); }
 void Text4_KeyPress(Workbench& /*bench*/, PatternForm& form, int& key) { enter_moves_to(form.Text5, key); }

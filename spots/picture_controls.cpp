@@ -31,18 +31,18 @@ void ask_spot_size(Workbench& bench) {
   const Single percent = to_single(double{state.SpotScale} * 100.0);
   const std::string answer = bench.services.prompt(
       bracketed(percent) + " Input Diffraction spot size (% of the picture width)", "Diffraction spot size");
-  state.SpotScale = to_single(Val(answer) / 100.0);
+  state.SpotScale = typed_number("the spot size", answer, [](double size) { return to_single(size / 100.0); });
 }
 
 void ask_rotation_pitch(Workbench& bench, Single& pitch) {
   const std::string answer =
       bench.services.prompt(bracketed(pitch) + " Input Rotation Angle Minimum (deg.)", "Rotation Angle Pitch");
-  if (!answer.empty()) pitch = to_single(Val(answer));
+  if (!answer.empty()) pitch = typed_number("the rotation angle pitch", answer, to_single);
 }
 
 bool ask_image_size(Workbench& bench, Canvas& picture) {
   const std::string answer = bench.services.prompt(bracketed(picture.width()) + " Input size of image", "Image size");
-  const Long twips = Long::rounded(Val(answer));
+  const Long twips = typed_number("the image size", answer, Long::rounded);
   if (twips == 0) return false;
   picture.set_width(twips.value());
   picture.set_height(twips.value());

@@ -76,7 +76,7 @@ TEST_F(CalculatorsTest, BothDirectionBlocksShareTheRotations) {
   EXPECT_EQ(form.LengthRotate2, 20);
   form.Text9.set_text("");
   EXPECT_EQ(failure_of([&] { form.Command3.click(); }),
-            "division by zero: length_1 is 0, while Utility.Command3 was clicked");
+            "division by zero: length_1 is 0, while \"Calc.\" (Utility.Command3) was clicked");
 }
 
 TEST_F(CalculatorsTest, InverseMatrixShowsHowFarItCame) {

@@ -329,7 +329,7 @@ TEST_F(DesktopTest, FailureIsShownOnceAndEndsTheProgram) {
   type(box("Text7"), "260");
   ASSERT_EQ(failures.size(), 1U);
   EXPECT_NE(failures.front().find("NO260.dat"), std::string::npos);
-  EXPECT_NE(failures.front().find("while Main1.Text7 changed"), std::string::npos);
+  EXPECT_NE(failures.front().find("while \"S.G=\" (Main1.Text7) changed"), std::string::npos);
   EXPECT_TRUE(desktop.ended());
   click("Main1", "Command6");
   EXPECT_EQ(failures.size(), 1U) << "no event comes in any more";

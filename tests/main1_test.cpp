@@ -71,7 +71,7 @@ TEST_F(Main1Test, SpaceGroupLoadsAtEveryKeystroke) {
   EXPECT_EQ(form().Label16.caption(), "") << "2250 is no number of a file";
   EXPECT_EQ(state.SGName, "Fm3m");
   EXPECT_EQ(failure_of([&] { form().Text7.set_text("40000"); }),
-            "overflow: 40000 does not fit an Integer (-32768 to 32767), while Main1.Text7 changed");
+            "overflow: 40000 does not fit an Integer (-32768 to 32767), while \"S.G=\" (Main1.Text7) changed");
 }
 
 TEST_F(Main1Test, CellFollowsTheCrystalSystem) {
@@ -165,7 +165,9 @@ TEST_F(Main1Test, TheTwoLoadsDifferOnAFileThatEndsBehindTheCell) {
   services.answers = {folder.write("bad.cry", "4,4,4,90,90,90,\"P\",299,\"abc\"\r\n")};
   const auto message = failure_of([&] { form().DATA_LOAD.click(); });
   EXPECT_NE(message.find("SpaceGr/NO299.dat"), std::string::npos) << message;
-  EXPECT_NE(message.find("while Main1.Text7 changed, while Main1.DATA_LOAD was clicked"), std::string::npos) << message;
+  EXPECT_NE(message.find("while \"S.G=\" (Main1.Text7) changed, while \"LOAD\" (Main1.DATA_LOAD) was clicked"),
+            std::string::npos)
+      << message;
 }
 
 TEST_F(Main1Test, KikuchiButtonResetsTheCameraOffset) {

@@ -268,7 +268,7 @@ TEST_F(SpotsWindows, FontSizeMustBeANumber) {
         std::pair{"3000", "3000 points, must be above 0 and at most 2160"}}) {
     services.answers = {answer};
     EXPECT_EQ(failure_of([this] { pattern().Fsize.click(); }),
-              std::string("the font size is ") + message + ", while Pattern.Fsize was clicked");
+              std::string("the font size is ") + message + ", while \"Font size\" (Pattern.Fsize) was clicked");
   }
 }
 
@@ -283,9 +283,9 @@ TEST_F(SpotsWindows, SavedPictureAlwaysGetsTheEnding) {
 TEST_F(SpotsWindows, CrystalWithoutScatteringFailsAtItsFirstSpot) {
   open_pattern();
   state.NCell = 0;
-  EXPECT_EQ(
-      failure_of([this] { pattern().Command8.click(); }),
-      "division by zero: the intensity that maps to black (DisplayScale) is 0, while Pattern.Command8 was clicked");
+  EXPECT_EQ(failure_of([this] { pattern().Command8.click(); }),
+            "division by zero: the intensity that maps to black (DisplayScale) is 0, while \"Calc\" (Pattern.Command8) "
+            "was clicked");
   EXPECT_EQ(pattern().mouse_pointer(), MousePointer::Default);
 }
 
@@ -319,8 +319,10 @@ TEST_F(SpotsWindows, FiberTextureTakesWholeDirections) {
   fiber().Text4.set_text("-1.5");
   EXPECT_EQ(state.OriginH, 2) << "halves go to the even number";
   EXPECT_EQ(state.OriginK, -2);
-  EXPECT_EQ(failure_of([this] { fiber().Text3.set_text("33000"); }),
-            "overflow: 33000 does not fit an Integer (-32768 to 32767), while FiberTexture.Text3 changed");
+  EXPECT_EQ(
+      failure_of([this] { fiber().Text3.set_text("33000"); }),
+      "\"H=\" (FiberTexture.Text3) is \"33000\": overflow: 33000 does not fit an Integer (-32768 to 32767), while "
+      "\"H=\" (FiberTexture.Text3) changed");
 }
 
 }  // namespace
