@@ -26,6 +26,14 @@ struct PixelMap {
   double left, top, per_x, per_y;
 };
 
+bool has_area(const UserScale& scale) { return scale.left != scale.right && scale.top != scale.bottom; }
+
+std::string no_area(const Canvas& canvas, const UserScale& scale) {
+  return "division by zero: the scale of the picture " + canvas.path() + " goes from " + plain_text(scale.left) +
+         " to " + plain_text(scale.right) + " across and from " + plain_text(scale.top) + " to " +
+         plain_text(scale.bottom) + " down, which leaves no room to draw";
+}
+
 /// Index of the pixel that a pixel coordinate falls on; none outside any image.
 std::optional<int> pixel_index(double coordinate) {
   const double index = round_half_even(coordinate);
@@ -66,17 +74,32 @@ void Canvas::clear() {
 }
 
 void Canvas::scale(double left, double top, double right, double bottom) {
-  if (left == right) throw RunFailure("the picture " + path() + " can't have a scale of width 0");
-  if (top == bottom) throw RunFailure("the picture " + path() + " can't have a scale of height 0");
   scale_ = {left, top, right, bottom};
   drawing_.push_back({scale_, persistent_});
 }
 
 void Canvas::add(Primitive primitive) {
   primitive.stored = persistent_;
-  if (stored_) paint(persistent_ ? *stored_ : *overlay_, scale_, primitive);
+  if (!has_area(scale_) && !raster_base_) {
+    stored_.reset();  // to be made anew, which fails for as long as this is on the list
+    overlay_.reset();
+  } else if (stored_) {
+    paint(persistent_ ? *stored_ : *overlay_, scale_, primitive);
+  }
   drawing_.push_back(std::move(primitive));
   changed();
+}
+
+std::string Canvas::fault() const {
+  const UserScale* scale = &list_scale_;
+  for (const Primitive& primitive : drawing_) {
+    if (const auto* change = std::get_if<UserScale>(&primitive.what)) {
+      scale = change;
+    } else if (!has_area(*scale)) {
+      return no_area(*this, *scale);
+    }
+  }
+  return "";
 }
 
 void Canvas::move_to(double x, double y) {
@@ -104,6 +127,7 @@ void Canvas::set_point(double x, double y, std::optional<Colour> colour) {
 
 Colour Canvas::point(double x, double y) {
   make_images();
+  if (!has_area(scale_)) throw RunFailure(no_area(*this, scale_));
   const PixelMap map(scale_, pixel_width(), pixel_height());
   const auto column = pixel_index(map.x(x));
   const auto row = pixel_index(map.y(y));
@@ -116,9 +140,15 @@ void Canvas::print(std::string_view text) { add({DrawnText{x_, y_, fore_colour_,
 
 void Canvas::print_number(Single value) { print(Str(value) + ' '); }
 
-double Canvas::scale_x(double length) const { return length * pixel_width() / std::abs(scale_.right - scale_.left); }
+double Canvas::scale_x(double length) const {
+  if (scale_.left == scale_.right) throw RunFailure(no_area(*this, scale_));
+  return length * pixel_width() / std::abs(scale_.right - scale_.left);
+}
 
-double Canvas::scale_y(double length) const { return length * pixel_height() / std::abs(scale_.bottom - scale_.top); }
+double Canvas::scale_y(double length) const {
+  if (scale_.top == scale_.bottom) throw RunFailure(no_area(*this, scale_));
+  return length * pixel_height() / std::abs(scale_.bottom - scale_.top);
+}
 
 void Canvas::set_back_colour(Colour colour) {
   back_colour_ = colour;
@@ -212,6 +242,7 @@ Surface& Canvas::overlay_image() {
 
 void Canvas::make_images() {
   if (stored_) return;
+  if (const std::string reason = fault(); !reason.empty()) throw RunFailure(reason);
   auto stored = services_.make_surface(pixel_width(), pixel_height());
   auto overlay = services_.make_surface(pixel_width(), pixel_height());
   if (!stored || !overlay) throw RunFailure("the picture " + path() + " has no pixels here");
@@ -249,6 +280,7 @@ void Canvas::replay(Surface& surface, bool stored) const {
 }
 
 void Canvas::paint(Surface& surface, const UserScale& scale, const Primitive& primitive) {
+  if (!has_area(scale)) return;
   const PixelMap map(scale, surface.width(), surface.height());
   if (const auto* line = std::get_if<DrawnLine>(&primitive.what)) {
     surface.line(map.x(line->x1), map.y(line->y1), map.x(line->x2), map.y(line->y2), line->colour);

@@ -93,6 +93,7 @@ class Canvas : public Control {
 
   /// In persistent mode erases all drawing down to the background picture; else the overlay alone.
   void clear();
+  /// A scale of width or height 0 is taken too. What is drawn in it goes on the list, but has no pixels.
   void scale(double left, double top, double right, double bottom);
   void move_to(double x, double y);  ///< sets the drawing position
   void line(double x1, double y1, double x2, double y2, std::optional<Colour> colour = {});
@@ -103,9 +104,10 @@ class Canvas : public Control {
   void set_point(double x, double y, std::optional<Colour> colour = {});
   /// Colour of the pixel, -1 outside the picture. @throws RunFailure  there are no pixels here
   [[nodiscard]] Colour point(double x, double y);
-  void print(std::string_view text);                  ///< at the drawing position, which stays
-  void print_number(Single value);                    ///< its Str and a blank
-  [[nodiscard]] double scale_x(double length) const;  ///< pixels of a length in user units
+  void print(std::string_view text);  ///< at the drawing position, which stays
+  void print_number(Single value);    ///< its Str and a blank
+  /// Pixels of a length in user units. @throws RunFailure  the scale has no width, no height
+  [[nodiscard]] double scale_x(double length) const;
   [[nodiscard]] double scale_y(double length) const;
 
   [[nodiscard]] Colour fore_colour() const { return fore_colour_; }
@@ -164,6 +166,9 @@ class Canvas : public Control {
   [[nodiscard]] const std::vector<Primitive>& drawing() const { return drawing_; }
   /// True when the stored image holds more than picture and list tell: a raster is then the base of any export.
   [[nodiscard]] bool has_raster_base() const { return raster_base_; }
+  /// Empty, or why what was drawn has no pixels: it stands in a scale of width or height 0.
+  [[nodiscard]] std::string fault() const;
+  /// @throws RunFailure  there are no pixels here, or the drawing has a fault
   [[nodiscard]] Surface& stored_image();
   [[nodiscard]] Surface& overlay_image();
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "core/run_failure.h"
 #include "tests/fake_services.h"
+#include "tests/test_files.h"
 
 namespace zol {
 namespace {
@@ -27,7 +27,22 @@ TEST_F(CanvasTest, MapsUserCoordinatesOntoPixels) {
   EXPECT_EQ(canvas.point(1, 0), -1) << "the right edge is pixel 100";
   EXPECT_DOUBLE_EQ(canvas.scale_x(0.5), 25);
   EXPECT_DOUBLE_EQ(canvas.scale_y(0.5), 25);
-  EXPECT_THROW(canvas.scale(1, 0, 1, 2), RunFailure);
+}
+
+TEST_F(CanvasTest, ListsButDoesNotPaintInAScaleWithoutAnArea) {
+  (void)canvas.stored_image();
+  canvas.scale(1, 0, 1, 2);
+  EXPECT_EQ(canvas.stored_image().width(), 100) << "nothing is drawn yet";
+  EXPECT_THROW((void)canvas.scale_x(1), RunFailure);
+  EXPECT_DOUBLE_EQ(canvas.scale_y(1), 50);
+  EXPECT_THROW((void)canvas.point(1, 1), RunFailure);
+  canvas.line(1, 0, 1, 2);
+  EXPECT_EQ(canvas.drawing().size(), 2U);
+  EXPECT_EQ(failure_of([&] { canvas.save_stored_image("x"); }), canvas.fault());
+  canvas.clear();
+  canvas.scale(1, 0, 2, 2);
+  canvas.set_point(1.5, 1, red);
+  EXPECT_EQ(canvas.stored_image().pixel(50, 50), red);
 }
 
 TEST_F(CanvasTest, ListsWhatIsDrawnFromItsPosition) {

@@ -57,6 +57,7 @@ QRectF CanvasView::picture_rect() const {
   if (canvas_ == nullptr) return rect();
   const QSizeF picture(canvas_->pixel_width(), canvas_->pixel_height());
   const QRectF room = QRectF(rect()).marginsRemoved(ruler_margins());
+  if (picture.isEmpty()) return {room.topLeft(), QSizeF()};  // an image size below one pixel
   QRectF place({}, picture.scaled(room.size(), Qt::KeepAspectRatio));
   // Whole pixels, so that a picture in its own size is shown pixel by pixel.
   place.moveTopLeft(QPointF(std::floor(room.left() + (room.width() - place.width()) / 2),
@@ -73,6 +74,8 @@ QPointF CanvasView::user_position(const QPointF& position) const {
 
 QPixmap CanvasView::drawn(const QSize& device_size) const {
   QPixmap pixmap(device_size);
+  pixmap.fill(to_qt(canvas_->back_colour()));
+  if (!canvas_->fault().empty()) return pixmap;
   QPainter painter(&pixmap);
   if (device_size == QSize(canvas_->pixel_width(), canvas_->pixel_height())) {
     painter.drawImage(0, 0, picture_image(*canvas_));
@@ -165,7 +168,7 @@ void CanvasView::mousePressEvent(QMouseEvent* event) {
 }
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event) {
-  if (canvas_ == nullptr) return;
+  if (canvas_ == nullptr || picture_rect().isEmpty()) return;
   const QPointF at = user_position(event->position());
   if (canvas_->describe_place) {
     const bool inside = shows_something() && picture_rect().contains(event->position());
@@ -178,7 +181,7 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event) {
 void CanvasView::leaveEvent(QEvent* /*event*/) { emit pointed_at({}); }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
-  if (canvas_ == nullptr || event->button() == Qt::RightButton) return;
+  if (canvas_ == nullptr || event->button() == Qt::RightButton || picture_rect().isEmpty()) return;
   const QPointF at = user_position(event->position());
   enter_([this, at] { canvas_->release(at.x(), at.y()); });
 }
@@ -201,7 +204,9 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
   menu.exec(event->globalPos());
 }
 
-void CanvasView::copy_to_clipboard() const { QGuiApplication::clipboard()->setImage(picture_image(*canvas_)); }
+void CanvasView::copy_to_clipboard() const {
+  if (canvas_->fault().empty()) QGuiApplication::clipboard()->setImage(picture_image(*canvas_));
+}
 
 // A copy that can't be written is no failure of the run: the program knows nothing of it.
 void CanvasView::ask_export(double factor, const char* ending) {

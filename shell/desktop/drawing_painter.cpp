@@ -5,6 +5,7 @@
 #include <QFontMetricsF>
 #include <QPainterPath>
 
+#include "core/run_failure.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
 
@@ -124,6 +125,7 @@ std::optional<QLineF> clipped(const QLineF& line, const QRectF& inside) {
 }
 
 void paint_canvas(QPainter& painter, Canvas& canvas) {
+  if (const std::string reason = canvas.fault(); !reason.empty()) throw RunFailure(reason);
   const QRectF picture(0, 0, canvas.pixel_width(), canvas.pixel_height());
   const bool raster = canvas.has_raster_base() || canvas.has_picture();
   if (raster) {
