@@ -12,13 +12,13 @@ void clear_pictures(DringForm& form) {
 }
 
 void take_number(DringForm& form, const TextBox& box, Single& field) {
-  field = to_single(Val(box.text()));
+  field = single_in(box);
   clear_pictures(form);
 }
 
 /// An empty box leaves the size, which must not be 0.
 void take_size(DringForm& form, const TextBox& box, Single& field) {
-  if (!box.text().empty()) field = to_single(Val(box.text()));
+  if (!box.text().empty()) field = single_in(box);
   form.Picture1.clear();
 }
 
@@ -75,7 +75,8 @@ void Picture1_MouseDown(Workbench& /*bench*/, DringForm& form, Single x, Single 
   if (x == 0) return;
   form.Label4.set_caption("d(A)=" + Format(divide(1.0, x, "1/d"), "##0.000"));
   const Single height = form.Profile(nearest_ring_sample(form.DStarMax, x));
-  form.Label5.set_caption("I(%)=" + Format(relative_height(height, form.DisplayMax) * 100.0, "##0.00"));
+  constexpr std::string_view name = "the intensity at full height (DisplayMax, which \"Clear\" sets to 0)";
+  form.Label5.set_caption("I(%)=" + Format(relative_height(height, form.DisplayMax, name) * 100.0, "##0.00"));
 }
 
 void Picture2_MouseDown(Workbench& /*bench*/, DringForm& form, Single x, Single y) {

@@ -30,16 +30,13 @@ void set_scales(DringForm& form) {
   form.Picture2.set_back_colour(form.Check3.checked() ? white : black);
 }
 
-/// The packed colour is a 32-bit number, which a level far below 0 does not fit.
-Colour grey(Long level) { return (level + Long(256) * level + Long(65536) * level).value(); }
-
 void draw(DringForm& form) {
   form.Picture1.move_to(0, relative_height(form.Profile(0), form.DisplayMax));
   for (int m = 1; m <= last_sample; ++m) {
     const Single d_star = d_star_at(form.DStarMax, m);
     form.Picture1.line_to(d_star, relative_height(form.Profile(m), form.DisplayMax));
-    const Long level = grey_level(form.Profile(m), form.DisplayMax, form.Check3.checked());
-    form.Picture2.circle(0, 0, d_star, grey(level));
+    const int level = grey_level(form.Profile(m), form.DisplayMax, form.Check3.checked()).value();
+    form.Picture2.circle(0, 0, d_star, RGB(level, level, level));
   }
   form.Picture2.set_point(0, 0, red);  // the beam
 }

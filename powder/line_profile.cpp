@@ -153,8 +153,8 @@ void take_square_roots(BoundedArray<Single>& profile) {
 }
 
 Single largest_sample(const BoundedArray<Single>& profile) {
-  Single largest = 0;
-  for (int m = 0; m <= last_sample; ++m) largest = std::max(largest, profile(m));
+  Single largest = profile(0);
+  for (int m = 1; m <= last_sample; ++m) largest = std::max(largest, profile(m));
   return largest;
 }
 
@@ -168,8 +168,8 @@ std::vector<int> maxima(const BoundedArray<Single>& profile, Single reference) {
   return found;
 }
 
-double relative_height(Single height, Single reference) {
-  return divide(height, reference, "the intensity at full height");
+double relative_height(Single height, Single reference, std::string_view name) {
+  return divide(height, reference, name);
 }
 
 Long grey_level(Single height, Single reference, bool inverse) {

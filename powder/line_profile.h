@@ -5,6 +5,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "core/bounded_array.h"
@@ -82,15 +83,19 @@ void divide_samples(BoundedArray<Single>& profile, Integer grid_points);
 /// Replaces each sample by its square root. @throws RunFailure  one is negative
 void take_square_roots(BoundedArray<Single>& profile);
 
-/// The largest sample, at least 0.
+/// The largest sample, below 0 when all are.
 [[nodiscard]] Single largest_sample(const BoundedArray<Single>& profile);
 
 /// Samples 2 to 999 above both neighbours and at least 0.01 of the reference. A flat top of two samples is none.
 /// @throws RunFailure  the reference is 0 and there is a maximum
 [[nodiscard]] std::vector<int> maxima(const BoundedArray<Single>& profile, Single reference);
 
-/// Height in units of the reference, the value that is drawn at full height. @throws RunFailure  the reference is 0
-[[nodiscard]] double relative_height(Single height, Single reference);
+/// For messages: what both windows draw at full height.
+inline constexpr std::string_view display_max = "the intensity at full height (DisplayMax)";
+
+/// Height in units of the reference, the value that is drawn at full height. @throws RunFailure  the reference, which
+/// the message calls by the name, is 0
+[[nodiscard]] double relative_height(Single height, Single reference, std::string_view name = display_max);
 
 /// Grey level of a ring, 255 at full height and above, the other way round when inverse. A negative one stays.
 /// @throws RunFailure  the reference is 0, or the level before the clamp passes 32 bits

@@ -10,13 +10,13 @@ namespace zol::xd {
 namespace {
 
 void take_number(XdForm& form, const TextBox& box, Single& field) {
-  field = to_single(Val(box.text()));
+  field = single_in(box);
   form.Picture1.clear();
 }
 
 /// An empty box leaves the size, which must not be 0.
 void take_size(XdForm& form, const TextBox& box, Single& field) {
-  if (!box.text().empty()) field = to_single(Val(box.text()));
+  if (!box.text().empty()) field = single_in(box);
   form.Picture1.clear();
 }
 
@@ -32,7 +32,7 @@ void Text8_Change(Workbench& /*bench*/, XdForm& form) { take_size(form, form.Tex
 
 void Text5_KeyPress(Workbench& /*bench*/, XdForm& form, int& key) {
   if (!swallow_enter(key)) return;
-  form.DisplayMax = to_single(Val(form.Text5.text()));
+  form.DisplayMax = single_in(form.Text5);
   redraw(form);
 }
 
@@ -76,7 +76,7 @@ void Picture1_MouseDown(Workbench& bench, XdForm& form, Single x, Single /*y*/) 
   form.Label5.set_caption("2-Theta=" + Format(x, "##0.00"));
   form.Label6.set_caption("d(A)=" + Format(Bragg(main1_state(bench), x), "#0.000"));
   const Single height = form.Profile(form.range().nearest(x));
-  form.Label7.set_caption("I(%)=" + Format(relative_height(height, form.PeakMax) * 100.0, "##0.00"));
+  form.Label7.set_caption("I(%)=" + Format(relative_height(height, form.PeakMax, peak_max) * 100.0, "##0.00"));
 }
 
 }  // namespace zol::xd

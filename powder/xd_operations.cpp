@@ -1,5 +1,6 @@
 #include "powder/xd_operations.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "powder/histogram.h"
@@ -53,19 +54,19 @@ XdForm::XdForm(Workbench& bench)
   show_fields(fields());
 }
 
-void xd::draw(XdForm& form, Single full_height) {
+void xd::draw(XdForm& form, Single full_height, std::string_view name) {
   const TwoThetaRange range = form.range();
   form.Picture1.scale(range.minimum, 1.01, range.maximum, -0.01);
   form.Text5.set_text(Str(std::floor(full_height)));
-  form.Picture1.move_to(range.minimum, relative_height(form.Profile(0), full_height));
+  form.Picture1.move_to(range.minimum, relative_height(form.Profile(0), full_height, name));
   for (int m = 1; m <= last_sample; ++m) {
-    form.Picture1.line_to(range.at(m), relative_height(form.Profile(m), full_height));
+    form.Picture1.line_to(range.at(m), relative_height(form.Profile(m), full_height, name));
   }
 }
 
 void xd::redraw(XdForm& form) {
   form.Picture1.clear();
-  draw(form, form.DisplayMax);
+  draw(form, form.DisplayMax, display_max);
 }
 
 void XDCalc(Workbench& bench) {
@@ -86,9 +87,9 @@ void XDCalc(Workbench& bench) {
   const auto bins = filled_bins(form.Bins, 0, form.BinCount, state.Dmin);
   sum_pseudo_voigt_lines(bins, state.WaveLength, form.range(), form.line(), form.Profile, progress);
   divide_samples(form.Profile, points);
-  form.PeakMax = largest_sample(form.Profile);
+  form.PeakMax = std::max(0.0F, largest_sample(form.Profile));
   form.DisplayMax = form.PeakMax;
-  xd::draw(form, form.PeakMax);
+  xd::draw(form, form.PeakMax, xd::peak_max);
   list_peaks(form, state.WaveLength);
 }
 

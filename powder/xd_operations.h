@@ -5,8 +5,12 @@
 
 namespace zol::xd {
 
+/// For messages.
+inline constexpr std::string_view peak_max = "the largest intensity (PeakMax, which \"Clear\" sets to 0)";
+
 /// Sets the scale, shows the value at full height as a whole number and draws the curve with it.
-void draw(XdForm& form, Single full_height);
+/// @param name  of that value, for the message when it is 0
+void draw(XdForm& form, Single full_height, std::string_view name);
 
 /// Draws the curve anew with DisplayMax, without calculating.
 void redraw(XdForm& form);

@@ -258,6 +258,8 @@ TEST(Samples, AreScaledAndRooted) {
   EXPECT_EQ(largest_sample(profile), 1.5F);
   profile(7) = -1;
   EXPECT_THROW(take_square_roots(profile), RunFailure);
+  for (int m = 0; m <= last_sample; ++m) profile(m) = to_single(-2 - m);
+  EXPECT_EQ(largest_sample(profile), -2) << "not 0";
 }
 
 TEST(Maxima, StandAboveBothNeighboursFromOnePercentOn) {
@@ -274,7 +276,8 @@ TEST(Maxima, StandAboveBothNeighboursFromOnePercentOn) {
   profile(1) = 0.7F;
   profile(1000) = 0;
   EXPECT_EQ(maxima(profile, 1), (std::vector{4, 700, 997, 999})) << "sample 1 is none either";
-  EXPECT_EQ(failure_of([&] { (void)maxima(profile, 0); }), "division by zero: the intensity at full height is 0");
+  EXPECT_EQ(failure_of([&] { (void)maxima(profile, 0); }),
+            "division by zero: the intensity at full height (DisplayMax) is 0");
 }
 
 TEST(PeakLine, ShowsTheNearestPerCent) {

@@ -139,9 +139,14 @@ TEST_F(PowderWindowTest, XdTakesTheListAsItStands) {
   (*form.operation("XDCalc"))();
   ASSERT_EQ(form.List1.list_count(), 2);
   EXPECT_EQ(form.List1.items()[1].substr(0, 13), "27.34    3.26");
+  const std::string no_peak =
+      "division by zero: the largest intensity (PeakMax, which \"Clear\" sets to 0) is 0, while \"CALC\" (Xd.Command1) "
+      "was clicked";
+  form.Text3.set_text("-0.2");
+  EXPECT_EQ(failure_of([&] { form.Command1.click(); }), no_peak) << "the largest of negative samples does not count";
+  form.Text3.set_text("0.2");
   for (int r = 1; r <= state.RefCount.value(); ++r) state.RefI(r) = 0;
-  EXPECT_EQ(failure_of([&] { form.Command1.click(); }),
-            "division by zero: the intensity at full height is 0, while Xd.Command1 was clicked");
+  EXPECT_EQ(failure_of([&] { form.Command1.click(); }), no_peak);
 }
 
 TEST_F(PowderWindowTest, XdBoxesClearThePictureAndKeepThePattern) {
@@ -197,7 +202,9 @@ TEST_F(PowderWindowTest, XdDrawsOverWhatIsThereUntilCleared) {
   form.Command2.click();
   EXPECT_EQ(lines_in(form.Picture1), 0);
   EXPECT_EQ(form.PeakMax, 0);
-  EXPECT_EQ(failure_of([&] { form.Picture1.press(30, 0.5); }).substr(0, 16), "division by zero");
+  EXPECT_EQ(failure_of([&] { form.Picture1.press(30, 0.5); }),
+            "division by zero: the largest intensity (PeakMax, which \"Clear\" sets to 0) is 0, while Xd.Picture1 was "
+            "pressed");
   form.Command6.click();
   EXPECT_EQ(lines_in(form.Picture1), 1000) << "the old pattern";
 }
@@ -216,8 +223,10 @@ TEST_F(PowderWindowTest, XdReadsOutAtAClick) {
   form.Picture1.press(31.7, 0.1);
   EXPECT_EQ(form.Label7.caption(), height) << "the arrows don't change it";
   EXPECT_EQ(failure_of([&] { form.Picture1.press(101, 0.1); }).substr(0, 21), "index 1001 of Profile");
-  form.Text2.set_text("0");
-  EXPECT_EQ(failure_of([&] { form.Picture1.press(31, 0.1); }).substr(0, 58),
+  for (TextBox* end : {&form.Text1, &form.Text2}) end->set_text("30");
+  form.Command1.click();
+  EXPECT_EQ(lines_in(form.Picture1), 1000) << "equal ends are listed";
+  EXPECT_EQ(failure_of([&] { form.Picture1.press(30, 0.1); }).substr(0, 58),
             "division by zero: the width of the pattern in 2-theta is 0");
 }
 
@@ -226,11 +235,11 @@ TEST_F(PowderWindowTest, CrystallitesEndTheRunWhereTheirNumbersDo) {
   auto& form = open_xd();
   form.Text6.set_text("0");
   EXPECT_EQ(failure_of([&] { form.Command1.click(); }),
-            "division by zero: the crystallite size P is 0, while Xd.Command1 was clicked");
+            "division by zero: the crystallite size P is 0, while \"CALC\" (Xd.Command1) was clicked");
   for (TextBox* box : {&form.Text6, &form.Text7, &form.Text8}) box->set_text("10");
   EXPECT_EQ(failure_of([&] { form.Command1.click(); }),
             "the interference grid has 100 x 100 x 100 points, at most 32767 are possible: P, Q or R is too small, "
-            "while Xd.Command1 was clicked");
+            "while \"CALC\" (Xd.Command1) was clicked");
   auto& rings = open_dring();
   state.RefCount = 2;  // 8 million points each
   for (TextBox* box : {&rings.Text6, &rings.Text7, &rings.Text8}) box->set_text("10");
@@ -247,11 +256,12 @@ TEST_F(PowderWindowTest, SmallDminEndsTheRunWhereTheBinsDo) {
   EXPECT_NO_THROW(program.windows().use<XdForm>().Command1.click());
   EXPECT_EQ(failure_of([&] { open_dring(); }),
             "the histogram would end at bin 34999, the last one possible is 32767: Dmin is too small, while "
-            "Main1.Command8 was clicked");
+            "\"Electron Debye-ring\" (Main1.Command8) was clicked");
   main1().Text15.set_text("0.157");
   EXPECT_THROW(open_xd(), RunFailure);
   main1().Text15.set_text("0");
-  EXPECT_EQ(failure_of([&] { open_xd(); }), "division by zero: Dmin is 0, while Main1.Command7 was clicked");
+  EXPECT_EQ(failure_of([&] { open_xd(); }),
+            "division by zero: Dmin is 0, while \"Powder XRD Pattern\" (Main1.Command7) was clicked");
   main1().Text15.set_text("2.5");  // 111 and 200 alone lie in the bins, 220 at bin 2507 of 2000, the last ones beyond
   EXPECT_EQ(failure_of([&] { open_xd(); }).substr(0, 6), "index ");
 }
@@ -356,6 +366,16 @@ TEST_F(PowderWindowTest, DringArrowsCalculateAnewAndKeepTheScale) {
   EXPECT_EQ(failure_of([&] { form.Picture1.press(0.3, 0.5); }).substr(0, 16), "division by zero");
   form.Command6.click();
   EXPECT_NEAR(form.DisplayMax, maximum, 1) << "taken anew";
+  form.Text5.set_text("-3000");
+  form.Command1.click();
+  for (const auto& entry : form.Picture2.drawing()) {
+    if (const auto* ring = std::get_if<DrawnCircle>(&entry.what)) EXPECT_EQ(ring->colour, 0) << "cut to black";
+  }
+  form.Text5.set_text("");
+  form.Text3.set_text("-1");
+  form.Command1.click();
+  EXPECT_LT(form.DisplayMax, -1) << "the largest of negative samples";
+  form.Text3.set_text("0.003");
   form.Text5.set_text("0.5");
   EXPECT_EQ(lines_in(form.Picture1), 0);
   EXPECT_EQ(failure_of([&] { form.Command1.click(); }).substr(0, 16), "division by zero") << "0.5 is shown as 0";
@@ -374,7 +394,9 @@ TEST_F(PowderWindowTest, DringReadsOutAtAClick) {
   EXPECT_EQ(form.Label1.caption(), "d(A)=2.000");
   EXPECT_EQ(failure_of([&] { form.Picture1.press(1.2, 0.4); }).substr(0, 21), "index 1200 of Profile");
   form.Text2.set_text("0");
-  EXPECT_EQ(failure_of([&] { form.Picture1.press(0.3, 0.4); }).substr(0, 16), "division by zero");
+  form.Command1.click();
+  EXPECT_EQ(failure_of([&] { form.Picture1.press(0.3, 0.4); }).substr(0, 55),
+            "division by zero: the width of the pattern in 1/d is 0,");
 }
 
 TEST_F(PowderWindowTest, DringBoxesClearTheirPictures) {
