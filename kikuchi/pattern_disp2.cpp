@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 
 #include "kikuchi/kikuchi_operations.h"
@@ -19,10 +20,12 @@ void set_scale(Canvas& picture, const GnomonicView& view) {
   picture.scale(view.left, view.top, view.right, view.bottom);
 }
 
-/// Grey level of a line, 0 to 255, full at the intensity of the scale.
+/// Grey level of a line, at most 255, full at the intensity of the scale. A negative intensity has a negative one,
+/// which ends just below all levels that the box of the lowest level can hold.
 int grey_level(const CrystalState& state, Single intensity, const GreyScale& scale) {
+  constexpr double never_drawn = -32769;
   const double level = std::floor(darkness(intensity, state.DisplayScale, scale) * 255);
-  return static_cast<int>(std::min(level, 255.0));
+  return static_cast<int>(std::clamp(level, never_drawn, 255.0));
 }
 
 /// Over a measured image strong lines are yellow.
@@ -101,8 +104,8 @@ void PatternDisp2(Workbench& bench) {
   CrystalState& state = main1_state(bench);
   auto& form = bench.windows.use<Pattern2Form>();
   Canvas& picture = form.Picture1;
-  const Integer lowest_level = Integer::rounded(Val(form.Text2.text()));
-  state.KikuchiRefLimit = Long::rounded(Val(form.Text19.text()));
+  const Integer lowest_level = integer_in(form.Text2);
+  state.KikuchiRefLimit = long_in(form.Text19);
   if (state.KikuchiRefLimit == 0) state.KikuchiRefLimit = state.RefCount;
   form.List1.clear();
   picture.set_back_colour(white);

@@ -16,7 +16,7 @@ using namespace colours;
 constexpr Colour pale_blue = RGB(127, 127, 255);
 constexpr Colour cyan = RGB(0, 255, 255);
 
-Integer index_limit(const TextBox& box) { return box.text().empty() ? Integer(1) : Integer::rounded(Val(box.text())); }
+Integer index_limit(const TextBox& box) { return box.text().empty() ? Integer(1) : integer_in(box); }
 
 std::string numbers(Single u, Single v, Single w) { return Str(u) + ' ' + Str(v) + ' ' + Str(w) + ' '; }
 
@@ -94,9 +94,9 @@ void show_axes(const CrystalState& state, ZaxisForm& form) {
 }
 
 void show_typed_direction(const CrystalState& state, ZaxisForm& form) {
-  const Single u = to_single(Val(form.Text4.text()));
-  const Single v = to_single(Val(form.Text5.text()));
-  const Single w = to_single(Val(form.Text6.text()));
+  const Single u = single_in(form.Text4);
+  const Single v = single_in(form.Text5);
+  const Single w = single_in(form.Text6);
   if (u == 0 && v == 0 && w == 0) return;
   if (const auto place = on_map(state, form, place_of_direction(state, u, v, w))) {
     form.Text7.set_text(phi_text(*place));
@@ -106,7 +106,8 @@ void show_typed_direction(const CrystalState& state, ZaxisForm& form) {
 
 /// Labels the directions near the pattern on the Kikuchi picture, in its scale.
 void label_pattern(const CrystalState& state, const ZaxisForm& form, Canvas& picture) {
-  const double reach_deg = std::abs(state.CamXShift) + std::abs(state.CamAcquisition) + std::abs(state.CamYShift);
+  const double reach_deg =
+      std::abs(double{state.CamXShift}) + std::abs(double{state.CamAcquisition}) + std::abs(double{state.CamYShift});
   const Single limit = to_single(std::tan(reach_deg * degree));
   sweep(form, [&](Single u, Single v, Single w) {
     const auto place = place_in_sweep(state, u, v, w);

@@ -56,7 +56,7 @@ std::optional<DirectionPlace> place_in_sweep(const CrystalState& state, Single u
 }
 
 DirectionPlace from_substrate_normal(const CrystalState& state, const DirectionPlace& place) {
-  const double tilt = double{state.CamNormal} * degree;
+  const double tilt = to_single(double{state.CamNormal} * degree);
   const double a = to_single(std::cos(double{place.theta}));
   const double b = to_single(std::sin(double{place.theta}) * std::cos(double{place.phi}));
   const double c = to_single(std::sin(double{place.theta}) * std::sin(double{place.phi}));

@@ -163,6 +163,17 @@ TEST_F(KikuchiWindows, GreyScaleStaysWhileFixed) {
   EXPECT_EQ(state.DisplayScale, scale);
 }
 
+TEST_F(KikuchiWindows, NegativeIntensitiesAreDrawnAtNoLevel) {
+  draw("0", "0", "1");
+  const int drawn = form().List1.list_count();
+  state.RefI(state.RefCount.value()) = -1000;  // the strongest, in view
+  form().Check4.set_value(1);
+  state.DisplayScale = 1e-30F;
+  form().Text2.set_text("-32768");
+  form().Command8.click();
+  EXPECT_EQ(form().List1.list_count(), drawn - 1);
+}
+
 TEST_F(KikuchiWindows, SuperposedImageTurnsStrongLinesYellow) {
   form().ImageLoad.click();
   EXPECT_EQ(form().ImageMark, "ON");
@@ -213,6 +224,20 @@ TEST_F(KikuchiWindows, MapFollowsThePattern) {
   const int labels = count<DrawnText>(form().Picture1);
   map().Check3.click();
   EXPECT_GT(count<DrawnText>(form().Picture1), labels);
+}
+
+TEST_F(KikuchiWindows, MapRoundsItsTiltAndAddsItsAnglesInDouble) {
+  form().Check2.set_value(1);
+  draw("1", "1", "0");
+  state.CamNormal = -70;
+  map().Option2.click();
+  EXPECT_EQ(map().Label_theta(1).caption(), "65.1") << "the tilt is a Single";
+  form().Text1.set_text("54");
+  form().Text14.set_text("30.000075");
+  state.CamAcquisition = 60;  // the sum is below a right angle, its nearest Single above
+  const auto labels = count<DrawnText>(form().Picture1);
+  map().Check3.click();
+  EXPECT_EQ(count<DrawnText>(form().Picture1), labels + 8);
 }
 
 TEST_F(KikuchiWindows, TypedDirectionKeepsTheMap) {
