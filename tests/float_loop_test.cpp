@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <vector>
 
 #include "tests/test_files.h"
@@ -43,6 +45,34 @@ TEST(FloatLoop, FailsWhenItsStepsLeadNowhere) {
   }
   EXPECT_EQ(failure_of([] { (void)values(0, 1, -0.5, rising); }),
             "a loop goes from 0 to 1 by steps of -.5, which lead nowhere");
+}
+
+TEST(SkippingLoop, MeetsTheValuesOfTheLoopThatVisitsThemAll) {
+  struct Row {
+    Single from, limit;
+    double step;
+    LoopSense sense;
+  };
+  // The last but one have steps that end half-way between two Singles.
+  for (const Row& row :
+       {Row{-3.7F, 1e5F, 0.2173F, rising}, Row{3.7F, -1e5F, 0.2173F, falling}, Row{8388600, 8396000, 1.5, rising},
+        Row{16777200, 16787200, 3, rising}, Row{-54, 60, 0.01F, rising}}) {
+    const auto all = values(row.from, row.limit, row.step, row.sense);
+    for (const double distance : {2.0, 777.0, 1e9}) {
+      std::vector<Single> some;
+      skipping_loop("a loop", row.from, row.limit, row.step, row.sense, [&some, distance](Single value) {
+        some.push_back(value);
+        return distance;
+      });
+      EXPECT_TRUE(std::includes(all.begin(), all.end(), some.begin(), some.end(),
+                                [&row](Single a, Single b) { return row.sense == rising ? a < b : a > b; }))
+          << row.from << ' ' << distance;
+      EXPECT_LE(some.size(), distance > 2 ? all.size() / 2 : all.size()) << row.from << ' ' << distance;
+      for (std::size_t i = 1; i < some.size(); ++i) {
+        EXPECT_LE(std::abs(some[i] - some[i - 1]), std::max(distance, 2.0 * row.step));
+      }
+    }
+  }
 }
 
 }  // namespace
