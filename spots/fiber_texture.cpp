@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <unordered_map>
 #include <utility>
 
 #include "core/cell_geometry.h"
@@ -18,54 +19,116 @@ namespace {
 constexpr double never_taken = 1000000;  ///< intensities from here on are passed over by the sort
 constexpr int first_sorted = 2;
 
-/// Walks the arcs of one reflection.
+constexpr double full_turn_deg = 360;
+constexpr int black = 255;
+
+/// Walks the arcs of one reflection. A wide arc goes round more than once. From its second turn on all that falls on a
+/// pixel goes into one point, which gives the same picture since darkness adds up in any order, and directions where
+/// the ring is black are skipped.
 class ArcWalk {
  public:
   ArcWalk(const CrystalState& state, const FiberPicture& picture, double radius, double strength)
       : picture_(picture),
-        radius_(radius),
+        ring_{radius, state.PatternAngle, state.CamAcquisition, picture.width_px, picture.height_px},
         strength_(strength),
-        rotation_(state.PatternAngle),
         dispersion_(state.Dispersion),
-        picture_width_(2.0 * state.CamAcquisition),
         step_(to_single(double{state.CamAcquisition} / radius / 10.0)) {}
 
   /// From the centre outwards to two dispersions, clockwise (rising) or anticlockwise. Angles in degrees.
   void walk(Single centre, LoopSense sense) {
     const Single limit = to_single(double{centre} + (sense == LoopSense::Rising ? 2.0 : -2.0) * dispersion_);
     last_column_ = last_row_ = 0;
-    float_loop("an arc of the fiber texture", centre, limit, step_, sense, [&](Single t) { add(centre, t); });
+    next_look_deg_ = full_turn_deg;
+    points_on_.clear();
+    first_point_ = points_.size();
+    skipping_loop("an arc of the fiber texture", centre, limit, step_, sense, [&](Single t) {
+      const double off = std::abs(double{centre} - t);
+      if (off > next_look_deg_) look(off, sense);
+      return off > full_turn_deg ? walk_on(off, t) : add(off, t, points_);
+    });
   }
   [[nodiscard]] std::vector<ArcPoint> take_points() { return std::move(points_); }
-
-  [[nodiscard]] std::pair<Single, Single> position(double angle_rad) const {
-    return {to_single(std::sin(angle_rad + rotation_) * radius_), to_single(std::cos(angle_rad + rotation_) * radius_)};
-  }
+  [[nodiscard]] const TextureRing& ring() const { return ring_; }
 
  private:
-  void add(double centre, double t) {
-    const auto [x, y] = position(t * degree);
-    const double off = centre - t;
+  /// Adds the point at an angle, unless it falls on the pixel of the last one.
+  double add(double off, double t, std::vector<ArcPoint>& points) {
+    const auto [x, y] = ring_.position(t * degree);
     const double spread =
         to_single(std::exp(divide(divide(-(off * off), dispersion_, "the dispersion"), dispersion_, "the dispersion")));
     const Integer darkness = Integer::floor(strength_ * spread * 255.0);
-    const double column = round_half_even(double{x} * picture_.width_px / picture_width_);
-    const double row = round_half_even(double{y} * picture_.height_px / picture_width_);
-    if (column == last_column_ && row == last_row_) return;
-    points_.push_back({x, y, darkness});
+    const double picture_width = 2.0 * ring_.half_width;
+    const double column = round_half_even(double{x} * picture_.width_px / picture_width);
+    const double row = round_half_even(double{y} * picture_.height_px / picture_width);
+    if (column != last_column_ || row != last_row_) points.push_back({x, y, darkness});
     last_column_ = column;
     last_row_ = row;
+    darkness_ = darkness;
+    return 0;
+  }
+
+  /// The same from the second turn on. @returns the angle that can be skipped
+  double walk_on(double off, double t) {
+    new_point_.clear();
+    (void)add(off, t, new_point_);
+    if (darkness_ == 0) return HUGE_VAL;  // and less from here on
+    for (const auto& point : new_point_) add_to_pixel(point);
+    return sectors_->done_from(t * degree) / degree;
+  }
+
+  void add_to_pixel(const ArcPoint& point) {
+    const auto pixel = pixel_of(point);
+    if (!pixel || is_black(*pixel)) return;
+    const auto [found, is_new] = points_on_.try_emplace(key(*pixel), points_.size());
+    if (is_new) {
+      points_.push_back(point);
+    } else {
+      Integer& sum = points_[found->second].darkness;
+      sum = std::min(sum.value() + point.darkness.value(), black);
+    }
+  }
+
+  /// Looks which parts of the ring are black, at the second turn and whenever the arc has doubled since.
+  void look(double off, LoopSense sense) {
+    if (points_on_.empty()) {
+      for (std::size_t i = first_point_; i < points_.size(); ++i) {
+        if (const auto pixel = pixel_of(points_[i])) points_on_.try_emplace(key(*pixel), i);
+      }
+    }
+    if (!sectors_) sectors_.emplace(ring_);
+    sectors_->look(sense == LoopSense::Rising ? 1 : -1, [this](const PicturePixel& pixel) { return is_black(pixel); });
+    next_look_deg_ = 2 * off;
+  }
+
+  [[nodiscard]] std::optional<PicturePixel> pixel_of(const ArcPoint& point) const {
+    return ring_.pixel(ring_.column(point.x), ring_.row(point.y));
+  }
+
+  [[nodiscard]] std::int64_t key(const PicturePixel& pixel) const {
+    return std::int64_t{pixel.row} * picture_.width_px + pixel.column;
+  }
+
+  [[nodiscard]] bool is_black(const PicturePixel& pixel) const {
+    const auto found = points_on_.find(key(pixel));
+    if (found != points_on_.end() && points_[found->second].darkness >= black) return true;
+    return picture_.is_black && picture_.is_black(pixel);
   }
 
   const FiberPicture& picture_;
-  double radius_;
+  TextureRing ring_;
   double strength_;
-  double rotation_;
   double dispersion_;
-  double picture_width_;
   Single step_;
   double last_column_ = 0, last_row_ = 0;
+  Integer darkness_;
   std::vector<ArcPoint> points_;
+
+  // From the second turn of an arc on
+  std::size_t first_point_ = 0;
+  std::vector<ArcPoint> new_point_;
+  std::unordered_map<std::int64_t, std::size_t> points_on_;  ///< the point on each pixel
+  std::optional<RingSectors> sectors_;
+  double next_look_deg_ = 0;
 };
 
 /// Intensity related to that of the strongest reflection, which stands last. Only the denominator takes the exponent.
@@ -110,7 +173,7 @@ std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const Fibe
     arcs.walk(centre, LoopSense::Falling);
     arcs.walk(centre, LoopSense::Rising);
   }
-  const auto [label_x, label_y] = arcs.position(-double{angle});
+  const auto [label_x, label_y] = arcs.ring().position(-double{angle});
   return FiberArcs{arcs.take_points(), label_x, label_y};
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/crystal_state.h"
+#include "spots/texture_ring.h"
 
 namespace zol {
 
@@ -21,6 +22,7 @@ void sort_by_intensity(CrystalState& state);
 struct FiberPicture {
   int width_px = 0, height_px = 0;  ///< pixels that span -CamAcquisition to CamAcquisition
   std::optional<double> exponent;   ///< of the strongest intensity, to which others are related
+  IsBlack is_black = {};            ///< pixels of which no more is asked, for arcs of more than one turn; may be empty
 };
 
 /// A pixel of an arc and what it adds to the darkness there.
@@ -37,7 +39,8 @@ struct FiberArcs {
 };
 
 /// Arcs of reflection i of the sorted list; none for one without intensity or beyond the corner of the picture. Points
-/// that fall on the pixel of the point before them are left out.
+/// that fall on the pixel of the point before them are left out. An arc of more than one turn has all that its further
+/// turns add to a pixel in one point there, up to black.
 /// @throws RunFailure  the fiber direction is zero, a darkness does not fit 16 bits, the dispersion is too large
 [[nodiscard]] std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const FiberPicture& picture);
 

@@ -51,7 +51,10 @@ void PatternDisp3(Workbench& bench) {
   draw_direct_beam(form, state);
 
   sort_by_intensity(state);
-  const FiberPicture settings{picture.pixel_width(), picture.pixel_height(), exponent_in(form.Text6)};
+  FiberPicture settings{picture.pixel_width(), picture.pixel_height(), exponent_in(form.Text6)};
+  settings.is_black = [&picture](const PicturePixel& pixel) {
+    return picture.stored_image().pixel(pixel.column, pixel.row) == colours::black;
+  };
   for (int i = 2; i <= state.RefCount.value(); ++i) {
     const auto arcs = fiber_arcs(state, i, settings);
     if (!arcs) continue;

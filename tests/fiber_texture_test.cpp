@@ -60,8 +60,8 @@ CrystalState textured(int h, int k, int l) {
   return state;
 }
 
-constexpr FiberPicture fine{100000, 100000, {}};  // so fine that no two points share a pixel
-constexpr FiberPicture coarse{384, 384, {}};
+const FiberPicture fine{100000, 100000, {}};  // so fine that no two points share a pixel
+const FiberPicture coarse{384, 384, {}};
 
 /// Clockwise from up, degrees.
 double direction_deg(const ArcPoint& point) {
@@ -131,6 +131,72 @@ TEST(FiberArcs, AreForWhatIsSeenRelatedToTheStrongestOrItsPower) {
   EXPECT_TRUE(fiber_arcs(state, 3, fine));
   state.CamAcquisition = 0.79F;
   EXPECT_FALSE(fiber_arcs(state, 3, fine));
+}
+
+/// A picture of greys, row by row.
+struct Greys {
+  explicit Greys(int width_px) : width(width_px), grey(static_cast<std::size_t>(width) * width, 255) {}
+  [[nodiscard]] int& at(int column, int row) { return grey[static_cast<std::size_t>(row * width + column)]; }
+  void darken(const CrystalState& state, Single x, Single y, Integer darkness) {
+    const double half = state.CamAcquisition;
+    const double column = std::nearbyint((x + half) * (width / (2 * half)));
+    const double row = std::nearbyint((y - half) * (width / (-2 * half)));
+    if (column < 0 || column >= width || row < 0 || row >= width) return;
+    int& here = at(static_cast<int>(column), static_cast<int>(row));
+    here = darkened_grey(darkness, 65536 * here);
+  }
+  int width;
+  std::vector<int> grey;
+};
+
+/// Every step of every turn.
+void draw_plainly(const CrystalState& state, double radius, Single angle, double strength, Greys& picture) {
+  const double dispersion = state.Dispersion;
+  const double per_unit = picture.width / (2.0 * state.CamAcquisition);
+  const double step = to_single(state.CamAcquisition / radius / 10.0);
+  for (const Single centre : {angle, -angle}) {
+    for (const double sign : {-1.0, 1.0}) {
+      double last_column = 0;
+      double last_row = 0;
+      const Single limit = to_single(centre + sign * 2 * dispersion);
+      for (Single t = centre; sign * t <= sign * limit; t = to_single(double{t} + sign * step)) {
+        const Single x = to_single(std::sin(t * degree + state.PatternAngle) * radius);
+        const Single y = to_single(std::cos(t * degree + state.PatternAngle) * radius);
+        const double off = double{centre} - t;
+        const Single spread = to_single(std::exp(-off * off / dispersion / dispersion));
+        const double column = std::nearbyint(x * per_unit);
+        const double row = std::nearbyint(y * per_unit);
+        if (column == last_column && row == last_row) continue;
+        picture.darken(state, x, y, Integer::floor(strength * spread * 255));
+        last_column = column;
+        last_row = row;
+      }
+    }
+  }
+}
+
+TEST(FiberArcs, OfManyTurnsGiveThePictureOfAllTheirSteps) {
+  for (const int width : {48, 61}) {
+    for (const Single dispersion : {170.0F, 500.0F, 20000.0F}) {
+      for (const Single weak : {40.0F, 3.0F, 0.2F}) {
+        SCOPED_TRACE(testing::PrintToString(std::array<double, 3>{double(width), dispersion, weak}));
+        auto state = textured(-1, 1, 1);
+        state.RefI(2) = weak;
+        state.Dispersion = dispersion;
+        state.PatternAngle = 0.3F;
+        Greys plain(width);
+        draw_plainly(state, DHKL(state, 2, 0, 0), ArcCos(to_single(std::sqrt(1 / 3.0))), weak / 100.0, plain);
+        Greys arcs(width);
+        const FiberPicture picture{
+            width, width, {}, [&arcs](const PicturePixel& pixel) { return arcs.at(pixel.column, pixel.row) == 0; }};
+        const auto found = fiber_arcs(state, 2, picture);
+        for (const auto& point : found->points) arcs.darken(state, point.x, point.y, point.darkness);
+        EXPECT_EQ(arcs.grey, plain.grey);
+        EXPECT_LT(found->points.size(), 4U * 4U * static_cast<std::size_t>(width));
+        EXPECT_TRUE(dispersion < 180 || fiber_arcs(state, 2, picture)->points.size() <= found->points.size());
+      }
+    }
+  }
 }
 
 TEST(FiberArcs, FailWithTheReason) {
