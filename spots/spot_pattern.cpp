@@ -63,13 +63,12 @@ Range level_range(const ZoneFrame& frame, int h, int k, int limit) {
           std::min(limit, static_cast<int>(std::clamp(std::ceil(centre + reach), -bound, bound)))};
 }
 
-/// Position of a spot in the picture; none outside it.
-std::optional<DiffractionSpot> spot_in_picture(const CrystalState& state, const ZoneFrame& frame,
+/// Position of a spot in the picture; none outside it. @param r  length of the zone axis
+std::optional<DiffractionSpot> spot_in_picture(const CrystalState& state, const ZoneFrame& frame, double r,
                                                const Indices<Integer>& hkl) {
   const auto& [h, k, l] = hkl;
   const auto& reference = frame.reference;
   const double g = DHKL(state, h, k, l);
-  const double r = DHKLT(state, state.ZoneU, state.ZoneV, state.ZoneW);
   const Single layer_cosine =
       to_single(divide(divide(frame.level, g, "the length of a reflection"), r, "the length of the zone axis"));
   // Latitude above the zero layer, radians. ArcCos(0) lies just above a right angle, so that 0 gives -5e-6.
@@ -114,10 +113,11 @@ void visit_reflections_on_level(const CrystalState& state, const std::function<v
   const char letter = state.LatticeLetter.empty() ? 'P' : state.LatticeLetter.front();
   for (int h = -h_limit; h <= h_limit; ++h) {
     for (int k = -k_limit; k <= k_limit; ++k) {
+      if (frame.w == 0.0 && !on_level(frame, h, k, 0)) continue;  // then l does not count
       const Range range = level_range(frame, h, k, l_limit);
       for (int l = range.first; l <= range.last; ++l) {
-        if ((h == 0 && k == 0 && l == 0) || !centring_allows(letter, h, k, l)) continue;
-        if (on_level(frame, h, k, l)) visit({h, k, l});
+        if (!on_level(frame, h, k, l) || (h == 0 && k == 0 && l == 0)) continue;
+        if (centring_allows(letter, h, k, l)) visit({h, k, l});
       }
     }
   }
@@ -127,8 +127,10 @@ std::vector<DiffractionSpot> diffraction_spots(CrystalState& state, const Radiat
   const ZoneFrame frame = zone_frame(state);
   ScatteringCell atoms(state, radiation);
   std::vector<DiffractionSpot> spots;
+  std::optional<double> axis_length;  // worked out for the first spot: it may fail
   visit_reflections_on_level(state, [&](const Indices<Integer>& hkl) {
-    auto spot = spot_in_picture(state, frame, hkl);
+    if (!axis_length) axis_length = DHKLT(state, state.ZoneU, state.ZoneV, state.ZoneW);
+    auto spot = spot_in_picture(state, frame, *axis_length, hkl);
     if (!spot) return;
     spot->intensity = spot_intensity(state, *spot, atoms);
     spots.push_back(*spot);
