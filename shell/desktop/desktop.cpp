@@ -145,7 +145,9 @@ void Desktop::control_changed(Control& control) {
   auto* shown = binder(control.window().name());
   if (shown == nullptr) return;
   shown->control_changed(control);
-  if (control.kind() == ControlKind::ProgressBar) breathe();
+  const bool grows =
+      control.kind() == ControlKind::Canvas && control.window().mouse_pointer() == MousePointer::Hourglass;
+  if (grows || control.kind() == ControlKind::ProgressBar) breathe();
 }
 
 void Desktop::focus_wanted(Control& control) {
@@ -154,11 +156,14 @@ void Desktop::focus_wanted(Control& control) {
 
 /// During a long handler windows repaint now and then; input waits.
 void Desktop::breathe() {
-  constexpr qint64 milliseconds = 50;
-  if (since_breath_.elapsed() < milliseconds) return;
+  if (since_breath_.elapsed() < work_ms_) return;
   since_breath_.start();
   show_changes();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  constexpr qint64 least_ms = 50;
+  constexpr qint64 share = 4;  // a picture that takes long to paint is painted less often
+  work_ms_ = std::max(least_ms, share * since_breath_.elapsed());
+  since_breath_.start();
 }
 
 /// The frame button hides a window; without any window left to see, the program ends.

@@ -67,6 +67,7 @@ class Desktop : public QObject, public WindowView {
   std::vector<Shown> unloaded_;
   std::unique_ptr<Guide> guide_;
   QElapsedTimer since_breath_;
+  qint64 work_ms_ = 0;  ///< between two breaths
   int depth_ = 0;
   bool ended_ = false;
 };
