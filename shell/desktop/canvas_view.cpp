@@ -74,8 +74,16 @@ QPointF CanvasView::user_position(const QPointF& position) const {
 
 QPixmap CanvasView::drawn(const QSize& device_size) const {
   QPixmap pixmap(device_size);
-  pixmap.fill(to_qt(canvas_->back_colour()));
-  if (!canvas_->fault().empty()) return pixmap;
+  try {
+    draw_on(pixmap);
+  } catch (const RunFailure&) {  // no room to draw, or too large an image: nothing to show, and no event to fail
+    pixmap.fill(to_qt(canvas_->back_colour()));
+  }
+  return pixmap;
+}
+
+void CanvasView::draw_on(QPixmap& pixmap) const {
+  const QSize device_size = pixmap.size();
   QPainter painter(&pixmap);
   if (device_size == QSize(canvas_->pixel_width(), canvas_->pixel_height())) {
     painter.drawImage(0, 0, picture_image(*canvas_));
@@ -85,7 +93,6 @@ QPixmap CanvasView::drawn(const QSize& device_size) const {
                   1.0 * device_size.height() / canvas_->pixel_height());
     paint_canvas(painter, *canvas_);
   }
-  return pixmap;
 }
 
 void CanvasView::paintEvent(QPaintEvent* /*event*/) {
@@ -205,7 +212,11 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
 }
 
 void CanvasView::copy_to_clipboard() const {
-  if (canvas_->fault().empty()) QGuiApplication::clipboard()->setImage(picture_image(*canvas_));
+  try {
+    QGuiApplication::clipboard()->setImage(picture_image(*canvas_));
+  } catch (const RunFailure& failure) {
+    canvas_->services().message(failure.message(), "Copy");
+  }
 }
 
 // A copy that can't be written is no failure of the run: the program knows nothing of it.

@@ -45,6 +45,7 @@ class CanvasView : public QWidget {
  private:
   [[nodiscard]] QPointF user_position(const QPointF& position) const;
   [[nodiscard]] QPixmap drawn(const QSize& device_size) const;
+  void draw_on(QPixmap& pixmap) const;
   [[nodiscard]] bool shows_something() const;
   /// Room for the rulers around the picture.
   [[nodiscard]] QMarginsF ruler_margins() const;
