@@ -4,6 +4,7 @@
 #include "bench/bench_crystals.h"
 #include "kikuchi/kikuchi_pattern.h"
 #include "spots/fiber_texture.h"
+#include "spots/spot_pattern.h"
 
 namespace zol {
 namespace {
@@ -46,6 +47,17 @@ void FiberTexture(benchmark::State& run) {
     }
   }
 }
+/// A zone with w = 0 in the area that a Kikuchi pattern leaves behind.
+void SpotsOfAWideZone(benchmark::State& run) {
+  const auto state = shipped_crystal("Rutile.cry");
+  make_list(*state, 1, {false, true});
+  state->ZoneU = 1;
+  state->ZoneV = -2;
+  state->CamAcquisition = 37;
+  for (auto _ : run) benchmark::DoNotOptimize(diffraction_spots(*state, {false, true}));
+}
+
+BENCHMARK(SpotsOfAWideZone)->Unit(benchmark::kMillisecond);
 BENCHMARK(KikuchiPattern)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
 BENCHMARK(FiberTexture)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
 

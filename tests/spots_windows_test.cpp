@@ -272,6 +272,19 @@ TEST_F(SpotsWindows, FontSizeMustBeANumber) {
   }
 }
 
+TEST_F(SpotsWindows, ImageSizesAreWholeNumbersOf32Bits) {
+  open_pattern();
+  fiber().Text3.set_text("1");
+  services.answers = {"-100", "0.3", "3e9", "1e42"};
+  for (int i = 0; i < 2; ++i) fiber().Imagesize.click();
+  EXPECT_EQ(fiber().Picture1.width(), -100);
+  EXPECT_EQ(failure_of([this] { fiber().Imagesize.click(); }),
+            "the image size is \"3e9\": overflow: 3000000000 does not fit a Long (-2147483648 to 2147483647), while "
+            "\"Image Size\" (FiberTexture.Imagesize) was clicked");
+  EXPECT_EQ(failure_of([this] { pattern().Spotsize.click(); }).substr(0, 37),
+            "the spot size is \"1e42\": overflow: a ");
+}
+
 TEST_F(SpotsWindows, SavedPictureAlwaysGetsTheEnding) {
   services.answers = {"/tmp/spots", "", "/tmp/fiber.bmp"};
   pattern().ISAVE.click();
