@@ -81,13 +81,9 @@ void CP_Setting_Show_Click(Workbench& /*bench*/, Pattern3Form& form) {
 
 void Text6_Change(Workbench& /*bench*/, Pattern3Form& form) { form.AcqStep = to_single(Val(form.Text6.text())); }
 void Text8_Change(Workbench& /*bench*/, Pattern3Form& form) { form.XShiftStep = Val(form.Text8.text()); }
-void Text9_Change(Workbench& /*bench*/, Pattern3Form& form) { form.YShiftStep = to_single(Val(form.Text9.text())); }
-void Text10_Change(Workbench& /*bench*/, Pattern3Form& form) {
-  form.AdjustSteps = Integer::rounded(Val(form.Text10.text()));
-}
-void Text11_Change(Workbench& /*bench*/, Pattern3Form& form) {
-  form.AdjustSolution = Integer::rounded(Val(form.Text11.text()));
-}
+void Text9_Change(Workbench& /*bench*/, Pattern3Form& form) { form.YShiftStep = single_in(form.Text9); }
+void Text10_Change(Workbench& /*bench*/, Pattern3Form& form) { form.AdjustSteps = integer_in(form.Text10); }
+void Text11_Change(Workbench& /*bench*/, Pattern3Form& form) { form.AdjustSolution = integer_in(form.Text11); }
 
 void Command7_Click(Workbench& bench, Pattern3Form& form) {
   step(bench, form, main1_state(bench).CamAcquisition, form.AcqStep, form.Text3);

@@ -27,7 +27,7 @@ void limit_acquisition(Pattern3Form& form, Module1State& camera) {
 }
 
 void acquisition_from_mm(Pattern3Form& form, const Module1State& camera) {
-  const Single position = to_single(Val(form.Text12.text()));
+  const Single position = single_in(form.Text12);
   form.Text3.set_text(plain_text(truncated(acquisition_deg(camera, position), 1000)));
 }
 
@@ -42,8 +42,8 @@ void y_shift_from_mm(Pattern3Form& form, const Module1State& camera) {
 /// Working distance and incline count from the stored calibration.
 void change_working_distance(Workbench& bench, Pattern3Form& form) {
   Module1State& camera = main1_state(bench);
-  form.working_distance.WdChange = to_single(Val(form.Text4.text()));
-  form.working_distance.DetIncline = to_single(Val(form.Text7.text()));
+  form.working_distance.WdChange = single_in(form.Text4);
+  form.working_distance.DetIncline = single_in(form.Text7);
   read_camera_file(camera.CameraFile, camera);
   form.Text12.set_text(plain_text(truncated(position_after(camera, form.working_distance), 100)));
   form.Text16.set_text(plain_text(truncated(y_shift_after(camera, form.working_distance), 100)));
@@ -68,7 +68,7 @@ void show_calibration(Pattern3Form& form, bool shown) {
 
 void Text3_Change(Workbench& bench, Pattern3Form& form) {
   Module1State& camera = main1_state(bench);
-  camera.CamAcquisition = to_single(Val(form.Text3.text()));
+  camera.CamAcquisition = single_in(form.Text3);
   limit_acquisition(form, camera);
   if (camera.CamAcquisition > 0) form.Text12.set_text(plain_text(truncated(detector_position_mm(camera), 100)));
   bench.windows.use<CameraParametersForm>().Text1.set_text(form.Text3.text());
@@ -76,14 +76,14 @@ void Text3_Change(Workbench& bench, Pattern3Form& form) {
 
 void Text14_Change(Workbench& bench, Pattern3Form& form) {
   Module1State& camera = main1_state(bench);
-  camera.CamXShift = to_single(Val(form.Text14.text()));
+  camera.CamXShift = single_in(form.Text14);
   form.Text13.set_text(plain_text(truncated(shift_mm(camera, camera.CamXShift), 1000)));
   bench.windows.use<CameraParametersForm>().Text2.set_text(form.Text14.text());
 }
 
 void Text15_Change(Workbench& bench, Pattern3Form& form) {
   Module1State& camera = main1_state(bench);
-  camera.CamYShift = to_single(Val(form.Text15.text()));
+  camera.CamYShift = single_in(form.Text15);
   form.Text16.set_text(plain_text(truncated(shift_mm(camera, camera.CamYShift), 100)));
   bench.windows.use<CameraParametersForm>().Text3.set_text(form.Text15.text());
 }

@@ -23,7 +23,7 @@ MatchSettings match_settings(const Pattern3Form& form) {
   settings.angle_tolerance = form.AngleTol;
   settings.only_triangle = form.MatchMode == 1;
   settings.omit_equivalents = form.Check1.checked();
-  if (form.Check2.checked()) settings.width_tolerance_percent = to_single(Val(form.Text17.text()));
+  if (form.Check2.checked()) settings.width_tolerance_percent = single_in(form.Text17);
   if (form.AdjustShown == 1) {
     settings.first_row = form.solutions.SolutionTriple(form.AdjustSolution.value()).value();
     settings.stop_at_first_solution = true;
@@ -87,11 +87,11 @@ void Form_Load(Workbench& bench, Pattern3Form& form) {
   if (state.RefCount > 0) Hkl3make(bench);
 }
 
-void Text1_Change(Workbench& /*bench*/, Pattern3Form& form) { form.AngleTol = to_single(Val(form.Text1.text())); }
+void Text1_Change(Workbench& /*bench*/, Pattern3Form& form) { form.AngleTol = single_in(form.Text1); }
 
 void Text2_LostFocus(Workbench& bench, Pattern3Form& form) {
   const CrystalState& state = main1_state(bench);
-  form.NhklWanted = to_single(Val(form.Text2.text()));
+  form.NhklWanted = single_in(form.Text2);
   const Single count = to_single(state.RefCount.value());
   if (form.NhklWanted > count) {
     form.NhklWanted = count;
@@ -106,9 +106,9 @@ void Text5_LostFocus(Workbench& bench, Pattern3Form& form) { set_electron_voltag
 void Command1_Click(Workbench& bench, Pattern3Form& form) {
   CrystalState& state = main1_state(bench);
   if (state.RefCount < 3) return;
-  state.CamAcquisition = to_single(Val(form.Text3.text()));
-  state.CamXShift = to_single(Val(form.Text14.text()));
-  state.CamYShift = to_single(Val(form.Text15.text()));
+  state.CamAcquisition = single_in(form.Text3);
+  state.CamXShift = single_in(form.Text14);
+  state.CamYShift = single_in(form.Text15);
   measure_bands(state, form.lines, form.Check2.checked(), form.bands);
   for (int band = 0; band < form.Label1.count(); ++band) {
     form.Label1(band).set_caption(band_text(form.bands, band, form.Check2.checked()));

@@ -5,9 +5,7 @@
 
 namespace zol::atom_distance {
 
-void Text1_Change(Workbench& /*bench*/, AtomDistanceForm& form) {
-  form.DistanceMax = to_single(Val(form.Text1.text()));
-}
+void Text1_Change(Workbench& /*bench*/, AtomDistanceForm& form) { form.DistanceMax = single_in(form.Text1); }
 
 void Text1_KeyPress(Workbench& bench, AtomDistanceForm& form, int& key) {
   if (!swallow_enter(key)) return;

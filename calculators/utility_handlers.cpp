@@ -26,12 +26,10 @@ UtilityForm::UtilityForm(Workbench& /*bench*/) : Window(window_name, "Utility") 
 namespace utility {
 namespace {
 
-Single number_in(const TextBox& box) { return to_single(Val(box.text())); }
-
 /// Writes an azimuth folded into its box. The field takes what stands there.
 void fold(TextBox& box, Single& azimuth_deg) {
   box.set_text(Str(folded_azimuth(azimuth_deg)));
-  azimuth_deg = number_in(box);
+  azimuth_deg = single_in(box);
 }
 
 void show_angle(Workbench& bench, UtilityForm& form) {
@@ -42,7 +40,7 @@ void show_angle(Workbench& bench, UtilityForm& form) {
 }
 
 void take_component(Workbench& bench, UtilityForm& form, const TextBox& box, Single& field) {
-  field = number_in(box);
+  field = single_in(box);
   show_angle(bench, form);
 }
 
@@ -50,10 +48,10 @@ void take_component(Workbench& bench, UtilityForm& form, const TextBox& box, Sin
 
 void Form_Load(Workbench& /*bench*/, UtilityForm& form) { form.Option1.set_on(true); }
 
-void Text1_Change(Workbench& /*bench*/, UtilityForm& form) { form.Phi1 = number_in(form.Text1); }
-void Text2_Change(Workbench& /*bench*/, UtilityForm& form) { form.Rotate1 = number_in(form.Text2); }
-void Text3_Change(Workbench& /*bench*/, UtilityForm& form) { form.Phi2 = number_in(form.Text3); }
-void Text4_Change(Workbench& /*bench*/, UtilityForm& form) { form.Rotate2 = number_in(form.Text4); }
+void Text1_Change(Workbench& /*bench*/, UtilityForm& form) { form.Phi1 = single_in(form.Text1); }
+void Text2_Change(Workbench& /*bench*/, UtilityForm& form) { form.Rotate1 = single_in(form.Text2); }
+void Text3_Change(Workbench& /*bench*/, UtilityForm& form) { form.Phi2 = single_in(form.Text3); }
+void Text4_Change(Workbench& /*bench*/, UtilityForm& form) { form.Rotate2 = single_in(form.Text4); }
 
 void Text1_KeyPress(Workbench& /*bench*/, UtilityForm& form, int& key) { enter_moves_to(form.Text2, key); }
 void Text2_KeyPress(Workbench& /*bench*/, UtilityForm& form, int& key) { enter_moves_to(form.Text3, key); }
@@ -82,10 +80,10 @@ void Text6_KeyPress(Workbench& bench, UtilityForm& form, int& key) {
 }
 
 void Command3_Click(Workbench& /*bench*/, UtilityForm& form) {
-  form.Length1 = number_in(form.Text9);
-  form.LengthRotate1 = number_in(form.Text8);
-  form.Length2 = number_in(form.Text7);
-  form.LengthRotate2 = number_in(form.Text6);
+  form.Length1 = single_in(form.Text9);
+  form.LengthRotate1 = single_in(form.Text8);
+  form.Length2 = single_in(form.Text7);
+  form.LengthRotate2 = single_in(form.Text6);
   const auto found = direction_from_lengths({form.Length1, form.LengthRotate1, form.Length2, form.LengthRotate2});
   form.Label15.set_caption("Phi=" + Str(found.phi));
   form.Label14.set_caption("Theta=" + Str(found.theta));
@@ -101,17 +99,17 @@ void Text5_KeyPress(UtilityForm& form, int index, int& key) {
 
 void Command2_Click(Workbench& bench, UtilityForm& form) {
   const auto cell = [&form](int i) -> Single& { return form.MatrixCells(i / 3 + 1, i % 3 + 1); };
-  for (int i = 0; i < form.Text5.count(); ++i) cell(i) = number_in(form.Text5(i));
+  for (int i = 0; i < form.Text5.count(); ++i) cell(i) = single_in(form.Text5(i));
   if (!Matrix(3, form.MatrixCells)) bench.services.message("DET=0", "ERROR");
   for (int i = 0; i < form.Label10.count(); ++i) form.Label10(i).set_caption(Str(cell(i)));
 }
 
-void Text10_Change(Workbench& /*bench*/, UtilityForm& form) { form.VectorU = number_in(form.Text10); }
-void Text11_Change(Workbench& /*bench*/, UtilityForm& form) { form.VectorV = number_in(form.Text11); }
-void Text12_Change(Workbench& /*bench*/, UtilityForm& form) { form.VectorW = number_in(form.Text12); }
-void Text13_Change(Workbench& /*bench*/, UtilityForm& form) { form.VectorH = number_in(form.Text13); }
-void Text14_Change(Workbench& /*bench*/, UtilityForm& form) { form.VectorK = number_in(form.Text14); }
-void Text15_Change(Workbench& /*bench*/, UtilityForm& form) { form.VectorL = number_in(form.Text15); }
+void Text10_Change(Workbench& /*bench*/, UtilityForm& form) { form.VectorU = single_in(form.Text10); }
+void Text11_Change(Workbench& /*bench*/, UtilityForm& form) { form.VectorV = single_in(form.Text11); }
+void Text12_Change(Workbench& /*bench*/, UtilityForm& form) { form.VectorW = single_in(form.Text12); }
+void Text13_Change(Workbench& /*bench*/, UtilityForm& form) { form.VectorH = single_in(form.Text13); }
+void Text14_Change(Workbench& /*bench*/, UtilityForm& form) { form.VectorK = single_in(form.Text14); }
+void Text15_Change(Workbench& /*bench*/, UtilityForm& form) { form.VectorL = single_in(form.Text15); }
 
 void Text10_KeyPress(Workbench& /*bench*/, UtilityForm& form, int& key) { enter_moves_to(form.Text11, key); }
 void Text11_KeyPress(Workbench& /*bench*/, UtilityForm& form, int& key) { enter_moves_to(form.Text12, key); }

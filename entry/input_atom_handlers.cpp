@@ -25,8 +25,7 @@ void close(Workbench& bench, InputAtomForm& form) {
 
 /// The sites of the table go into the crystal, moved by the origin shift.
 void take_over(Module1State& state, const InputAtomForm& form) {
-  const std::array shift{to_single(Val(form.Text2.text())), to_single(Val(form.Text3.text())),
-                         to_single(Val(form.Text4.text()))};
+  const std::array shift{single_in(form.Text2), single_in(form.Text3), single_in(form.Text4)};
   for (int i = 1; i <= state.NAtom.value(); ++i) {
     const auto number = [&form, i](int column) { return Val(form.G.text(i, column)); };
     state.AtomLabel(i) = form.G.text(i, 1);

@@ -35,7 +35,7 @@ constexpr std::array voltages{Voltage{100, 0.0371, 1.194},  Voltage{120, 0.0335,
 
 /// The number of a box goes into its field; a complete cell is computed.
 void take_cell_constant(Workbench& bench, Main1Form& form, const TextBox& box, Single& field) {
-  field = to_single(Val(box.text()));
+  field = single_in(box);
   const CrystalState& state = form.state;
   const bool complete = state.CellA != 0 && state.CellB != 0 && state.CellC != 0 && state.CellAlpha != 0 &&
                         state.CellBeta != 0 && state.CellGamma != 0;
@@ -106,7 +106,7 @@ void Text1_LostFocus(Workbench& bench, Main1Form& form) { constrain_from_edge_a(
 
 void Text7_Change(Workbench& bench, Main1Form& form) {
   CrystalState& state = form.state;
-  state.SGNumber = Integer::rounded(Val(form.Text7.text()));
+  state.SGNumber = integer_in(form.Text7);
   if (state.SGNumber < 1 || state.SGNumber > max_space_group_number) {
     form.Label17.set_caption("");
     form.Label16.set_caption("");
@@ -130,11 +130,9 @@ void Text7_LostFocus(Workbench& /*bench*/, Main1Form& form) {
   if (!constraint.gamma.empty()) form.Text6.set_text(constraint.gamma);
 }
 
-void Text15_Change(Workbench& /*bench*/, Main1Form& form) { form.state.Dmin = to_single(Val(form.Text15.text())); }
+void Text15_Change(Workbench& /*bench*/, Main1Form& form) { form.state.Dmin = single_in(form.Text15); }
 
-void Text16_Change(Workbench& /*bench*/, Main1Form& form) {
-  form.state.WaveLength = to_single(Val(form.Text16.text()));
-}
+void Text16_Change(Workbench& /*bench*/, Main1Form& form) { form.state.WaveLength = single_in(form.Text16); }
 
 void Combo1_Click(Workbench& bench, Main1Form& form) {
   CrystalState& state = form.state;

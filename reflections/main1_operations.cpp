@@ -17,9 +17,10 @@ constexpr std::string_view star_angle_pattern = "####.###";
 /// Asks for Dmin until the box holds a positive number.
 void settle_dmin(Workbench& bench, Main1Form& form) {
   CrystalState& state = form.state;
-  state.Dmin = to_single(Val(form.Text15.text()));
+  state.Dmin = single_in(form.Text15);
   while (!(state.Dmin > 0)) {
-    state.Dmin = typed_number("the smallest d", bench.services.prompt("Input D-value Minimum", "D-value Minimum"), to_single);
+    state.Dmin =
+        typed_number("the smallest d", bench.services.prompt("Input D-value Minimum", "D-value Minimum"), to_single);
     form.Text15.set_text(plain_text(state.Dmin));
   }
 }
@@ -27,7 +28,7 @@ void settle_dmin(Workbench& bench, Main1Form& form) {
 /// A box for a fixed index counts when it is not empty, blanks included.
 std::optional<Integer> fixed_index(const TextBox& box) {
   if (box.text().empty()) return std::nullopt;
-  return Integer::rounded(Val(box.text()));
+  return integer_in(box);
 }
 
 EnumerationSettings enumeration_settings(const Main1Form& form) {

@@ -70,8 +70,10 @@ TEST_F(Main1Test, SpaceGroupLoadsAtEveryKeystroke) {
   form().Text7.type('0');
   EXPECT_EQ(form().Label16.caption(), "") << "2250 is no number of a file";
   EXPECT_EQ(state.SGName, "Fm3m");
-  EXPECT_EQ(failure_of([&] { form().Text7.set_text("40000"); }),
-            "overflow: 40000 does not fit an Integer (-32768 to 32767), while \"S.G=\" (Main1.Text7) changed");
+  EXPECT_EQ(
+      failure_of([&] { form().Text7.set_text("40000"); }),
+      "\"S.G=\" (Main1.Text7) is \"40000\": overflow: 40000 does not fit an Integer (-32768 to 32767), while \"S.G=\" "
+      "(Main1.Text7) changed");
 }
 
 TEST_F(Main1Test, CellFollowsTheCrystalSystem) {
