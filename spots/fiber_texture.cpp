@@ -20,6 +20,7 @@ constexpr double never_taken = 1000000;  ///< intensities from here on are passe
 constexpr int first_sorted = 2;
 
 constexpr double full_turn_deg = 360;
+constexpr double first_look_deg = 4 * full_turn_deg;  ///< a look at the whole ring costs as much as some turns
 constexpr int black = 255;
 
 /// Walks the arcs of one reflection. A wide arc goes round more than once. From its second turn on all that falls on a
@@ -38,13 +39,15 @@ class ArcWalk {
   void walk(Single centre, LoopSense sense) {
     const Single limit = to_single(double{centre} + (sense == LoopSense::Rising ? 2.0 : -2.0) * dispersion_);
     last_column_ = last_row_ = 0;
-    next_look_deg_ = full_turn_deg;
-    points_on_.clear();
+    next_look_deg_ = first_look_deg;
+    points_on_.reset();
     first_point_ = points_.size();
     skipping_loop("an arc of the fiber texture", centre, limit, step_, sense, [&](Single t) {
       const double off = std::abs(double{centre} - t);
+      if (off <= full_turn_deg) return add(off, t, points_);
+      if (!points_on_) find_first_turn();
       if (off > next_look_deg_) look(off, sense);
-      return off > full_turn_deg ? walk_on(off, t) : add(off, t, points_);
+      return walk_on(off, t);
     });
   }
   [[nodiscard]] std::vector<ArcPoint> take_points() { return std::move(points_); }
@@ -73,13 +76,13 @@ class ArcWalk {
     (void)add(off, t, new_point_);
     if (darkness_ == 0) return HUGE_VAL;  // and less from here on
     for (const auto& point : new_point_) add_to_pixel(point);
-    return sectors_->done_from(t * degree) / degree;
+    return next_look_deg_ > first_look_deg ? sectors_->done_from(t * degree) / degree : 0;
   }
 
   void add_to_pixel(const ArcPoint& point) {
     const auto pixel = pixel_of(point);
     if (!pixel || is_black(*pixel)) return;
-    const auto [found, is_new] = points_on_.try_emplace(key(*pixel), points_.size());
+    const auto [found, is_new] = points_on_->try_emplace(key(*pixel), points_.size());
     if (is_new) {
       points_.push_back(point);
     } else {
@@ -88,13 +91,15 @@ class ArcWalk {
     }
   }
 
-  /// Looks which parts of the ring are black, at the second turn and whenever the arc has doubled since.
-  void look(double off, LoopSense sense) {
-    if (points_on_.empty()) {
-      for (std::size_t i = first_point_; i < points_.size(); ++i) {
-        if (const auto pixel = pixel_of(points_[i])) points_on_.try_emplace(key(*pixel), i);
-      }
+  void find_first_turn() {
+    points_on_.emplace();
+    for (std::size_t i = first_point_; i < points_.size(); ++i) {
+      if (const auto pixel = pixel_of(points_[i])) points_on_->try_emplace(key(*pixel), i);
     }
+  }
+
+  /// Looks which parts of the ring are black, after some turns and whenever the arc has doubled since.
+  void look(double off, LoopSense sense) {
     if (!sectors_) sectors_.emplace(ring_);
     sectors_->look(sense == LoopSense::Rising ? 1 : -1, [this](const PicturePixel& pixel) { return is_black(pixel); });
     next_look_deg_ = 2 * off;
@@ -109,8 +114,8 @@ class ArcWalk {
   }
 
   [[nodiscard]] bool is_black(const PicturePixel& pixel) const {
-    const auto found = points_on_.find(key(pixel));
-    if (found != points_on_.end() && points_[found->second].darkness >= black) return true;
+    const auto found = points_on_->find(key(pixel));
+    if (found != points_on_->end() && points_[found->second].darkness >= black) return true;
     return picture_.is_black && picture_.is_black(pixel);
   }
 
@@ -126,7 +131,7 @@ class ArcWalk {
   // From the second turn of an arc on
   std::size_t first_point_ = 0;
   std::vector<ArcPoint> new_point_;
-  std::unordered_map<std::int64_t, std::size_t> points_on_;  ///< the point on each pixel
+  std::optional<std::unordered_map<std::int64_t, std::size_t>> points_on_;  ///< the point on each pixel
   std::optional<RingSectors> sectors_;
   double next_look_deg_ = 0;
 };
