@@ -1,6 +1,5 @@
 #include "entry/structure_readers.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -20,12 +19,6 @@ constexpr std::array cell_tags{
     CellTag{"_cell_angle_gamma", BoxText::Box::gamma},
     CellTag{"_symmetry_Int_Tables_number", BoxText::Box::space_group_number},
 };
-
-/// An element without charge or count: what stands before its first digit, digits looked for from 0 to 9 in turn.
-std::string without_digits(std::string word) {
-  for (char digit = '0'; digit <= '9'; ++digit) word.erase(std::min(word.find(digit), word.size()));
-  return word;
-}
 
 }  // namespace
 
@@ -66,8 +59,9 @@ void CifReader::take_atom() {
   atoms_ += 1;
   const int n = atoms_.value();
   for (int i = 1; i <= words_.count(); ++i) words_.strip(i);
+  words_.cut_before_digits(element_.value());  // in its place: a column of the same number reads what is left
   state_.AtomLabel(n) = words_(label_.value());
-  state_.AtomElement(n) = without_digits(words_(element_.value()));
+  state_.AtomElement(n) = words_(element_.value());
   state_.AtomOcc(n) = occupancy_ == 0 ? 1.0F : words_.number(occupancy_.value(), "an occupancy");
   state_.AtomPos(n, 1) = words_.number(x_.value(), "a coordinate x");
   state_.AtomPos(n, 2) = words_.number(y_.value(), "a coordinate y");

@@ -1,6 +1,7 @@
 // How all importers cut lines into words, and what they do to a word.
 #pragma once
 
+#include <algorithm>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +34,10 @@ class WordTable {
   [[nodiscard]] int line() const { return line_; }    ///< from 1
   [[nodiscard]] const std::string& operator()(int index) const { return words_(index); }
   void strip(int index) { words_(index) = without_uncertainty(words_(index)); }
+  /// Cuts a word before its first digit: an element without charge or count.
+  void cut_before_digits(int index) {
+    words_(index).erase(std::min(words_(index).find_first_of("0123456789"), words_(index).size()));
+  }
 
   /// Strict conversion: a number and nothing else.
   /// @param meaning  what the word was taken for, for the message

@@ -93,7 +93,10 @@ TEST(CifAtoms, ThatAreNoNumbersAreToldWithLineWordAndMeaning) {
         Row{loop_tags + "Na1 Na 0 0 0 1 .\n", "9: \".\" is taken for a temperature factor B (it is word 7)"},
         Row{loop_tags + "Na1 Na 0 1/2 0 1 1\n", "9: \"1/2\" is taken for a coordinate y (it is word 4)"},
         Row{"_atom_site_label\n_atom_site_fract_x\nNa1 0\n",
-            "3: \"\" is taken for a coordinate y (there is no column for it)"}}) {
+            "3: \"\" is taken for a coordinate y (there is no column for it)"},
+        // Tags between two loops share a column; the element was cut there before its digit.
+        Row{"_atom_site_label\n\n_atom_site_type_symbol\n_atom_site_occupancy\n_atom_site_label\n5 Na\n",
+            "6: \"\" is taken for an occupancy (it is word 1)"}}) {
     EXPECT_EQ(failure_of([&row] { (void)scan<CifReader>(row.text); }),
               std::string("my.cif, line ") + row.message + ", a number and nothing else is expected");
   }
