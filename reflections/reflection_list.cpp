@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <cmath>
+#include <sstream>
 #include <utility>
 
 #include "core/cell_geometry.h"
 #include "core/exchange_sort.h"
 #include "core/number_text.h"
+#include "core/run_failure.h"
 #include "reflections/structure_factor.h"
 
 namespace zol {
@@ -27,6 +29,27 @@ Long array_bound(const std::array<Integer, 3>& limits, std::string_view lattice_
   if (lattice_letter == "F") centring = 4;
   const int bound = box.value() / centring;
   return Long::rounded(to_single(bound));  // the size is held in a Single
+}
+
+/// A negative cell constant gives a negative limit; with an odd number of those there is no list.
+void check_bound(const CrystalState& state, const std::array<Integer, 3>& limits, Long bound) {
+  if (bound >= 0) return;
+  struct Edge {
+    std::string_view edge, angle;
+    Single reciprocal, length, angle_deg;
+  };
+  const std::array edges{Edge{"a", "alpha", state.AStar, state.CellA, state.CellAlpha},
+                         Edge{"b", "beta", state.BStar, state.CellB, state.CellBeta},
+                         Edge{"c", "gamma", state.CStar, state.CellC, state.CellGamma}};
+  std::ostringstream message;
+  message << "the reflection list can't have " << plain_text(bound) << " entries: cell constants give";
+  for (std::size_t axis = 0; axis < 3; ++axis) {
+    if (limits[axis] >= 0) continue;
+    const auto& [edge, angle, reciprocal, length, angle_deg] = edges[axis];
+    message << ' ' << edge << "* = " << plain_text(reciprocal) << " (" << edge << " is " << plain_text(length)
+            << " angstroms, " << angle << ' ' << plain_text(angle_deg) << " degrees)";
+  }
+  throw RunFailure(message.str());
 }
 
 void create_arrays(Module1State& state, Long bound) {
@@ -57,14 +80,17 @@ std::array<IndexRange, 3> index_ranges(const std::array<Integer, 3>& limits, con
   return ranges;
 }
 
-bool odd(int n) { return n % 2 != 0; }
+bool odd(Integer n) { return n.value() % 2 != 0; }
+bool multiple_of_3(Integer n) { return n.value() % 3 == 0; }
 
-bool selection_allows(const EnumerationSettings& settings, int h, int k) {
-  const auto keeps = [](bool zero_wanted, bool other_wanted, int n) {
-    return !(zero_wanted && n % 3 != 0) && !(other_wanted && n % 3 == 0);
+bool selection_allows(const EnumerationSettings& settings, Integer h, Integer k) {
+  const auto keeps = [](bool zero_wanted, bool other_wanted, Integer n) {
+    return !(zero_wanted && !multiple_of_3(n)) && !(other_wanted && multiple_of_3(n));
   };
+  const bool difference_counts = settings.h_minus_k_mod_3_zero || settings.h_minus_k_mod_3_not_zero;
+  const Integer difference = difference_counts ? h - k : Integer(0);
   return keeps(settings.k_mod_3_zero, settings.k_mod_3_not_zero, k) &&
-         keeps(settings.h_minus_k_mod_3_zero, settings.h_minus_k_mod_3_not_zero, h - k) &&
+         keeps(settings.h_minus_k_mod_3_zero, settings.h_minus_k_mod_3_not_zero, difference) &&
          keeps(settings.h_mod_3_zero, settings.h_mod_3_not_zero, h);
 }
 
@@ -104,7 +130,7 @@ std::string geometry_columns(const CrystalState& state, int i, bool has_angle) {
 
 }  // namespace
 
-bool centring_allows(char lattice_letter, int h, int k, int l) {
+bool centring_allows(char lattice_letter, Integer h, Integer k, Integer l) {
   switch (lattice_letter) {
     case 'A':
       return !odd(k + l);
@@ -114,10 +140,12 @@ bool centring_allows(char lattice_letter, int h, int k, int l) {
       return !odd(h + k);
     case 'I':
       return !odd(h + k + l);
-    case 'F':
-      return !odd(h + k) && !odd(k + l) && !odd(h + l);
+    case 'F': {
+      const std::array sums{h + k, k + l, h + l};  // each of them must fit, whatever the others are
+      return std::none_of(sums.begin(), sums.end(), odd);
+    }
     case 'R':  // obverse setting, hexagonal axes
-      return (-h + k + l) % 3 == 0;
+      return multiple_of_3(-h + k + l);
     default:
       return true;
   }
@@ -126,8 +154,11 @@ bool centring_allows(char lattice_letter, int h, int k, int l) {
 void enumerate_reflections(CrystalState& state, const EnumerationSettings& settings) {
   const std::array limits{index_limit(state.Dmin, state.AStar, "a*"), index_limit(state.Dmin, state.BStar, "b*"),
                           index_limit(state.Dmin, state.CStar, "c*")};
-  create_arrays(state, array_bound(limits, state.LatticeLetter));
-  const auto [h_range, k_range, l_range] = index_ranges(limits, settings);
+  const Long bound = array_bound(limits, state.LatticeLetter);
+  check_bound(state, limits, bound);
+  const auto ranges = index_ranges(limits, settings);
+  create_arrays(state, bound);
+  const auto& [h_range, k_range, l_range] = ranges;
   const Single sphere = to_single(divide(1.0, state.Dmin, "Dmin"));
   const char letter = state.LatticeLetter.empty() ? 'P' : state.LatticeLetter.front();
 

@@ -25,12 +25,14 @@ struct EnumerationSettings {
 };
 
 /// True when a lattice of that letter (A, B, C, I, F, R in obverse setting; any other is primitive) has the reflection.
-[[nodiscard]] bool centring_allows(char lattice_letter, int h, int k, int l);
+/// @throws RunFailure  a sum of indices in the rule of the letter leaves 16 bits
+[[nodiscard]] bool centring_allows(char lattice_letter, Integer h, Integer k, Integer l);
 
 /// Creates the Ref arrays and fills RefCount, RefH, RefK, RefL and RefS with the reflections of d >= Dmin that the
 /// lattice letter and the settings allow; h outermost, l innermost, all rising. No further absences are applied. Then
 /// limits KikuchiRefLimit to the count.
-/// @throws RunFailure  no cell (division by zero), index limits beyond 16 bits, not enough memory
+/// @throws RunFailure  no cell (division by zero), a negative one, indices or their sums beyond 16 bits, not enough
+/// memory
 void enumerate_reflections(CrystalState& state, const EnumerationSettings& settings);
 
 /// Sorts the list by RefS, ascending, by exchanges: among equal values the order is that of a selection sort.

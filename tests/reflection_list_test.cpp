@@ -108,8 +108,34 @@ TEST(Enumeration, FailsWithoutACell) {
   CrystalState state;
   state.Dmin = 1;
   EXPECT_EQ(failure_of([&] { enumerate_reflections(state, {}); }), "division by zero: a* is 0");
+  auto negative = cubic("P", 1);
+  negative.CellA = -4;
+  ASSERT_TRUE(calc_cell(negative));
+  EXPECT_EQ(failure_of([&] { enumerate_reflections(negative, {}); }),
+            "the reflection list can't have -4335 entries: cell constants give a* = -.25 (a is -4 angstroms, alpha 90 "
+            "degrees)");
   auto fine = cubic("P", 1e-5F);
   EXPECT_NE(failure_of([&] { enumerate_reflections(fine, {}); }).find("does not fit an Integer"), std::string::npos);
+}
+
+TEST(Enumeration, SumsOfIndicesStayIn16Bits) {
+  struct Row {
+    char letter;
+    std::array<int, 3> hkl;
+    const char* sum;
+  };
+  for (const auto& [letter, hkl, sum] :
+       {Row{'A', {0, 30000, 30000}, "60000"}, Row{'B', {30000, 0, 30000}, "60000"},
+        Row{'C', {30000, 30000, 0}, "60000"}, Row{'I', {20000, 10000, 5000}, "35000"},
+        Row{'F', {1, 20000, 20000}, "40000"}, Row{'R', {-32768, 0, 0}, "32768"},
+        Row{'P', {30000, -30000, 0}, "60000"}}) {  // its sum is the difference in (h - k) mod 3
+    auto state = cubic("P", 1);
+    state.LatticeLetter = letter;
+    EnumerationSettings settings{{}, {hkl[0], hkl[1], hkl[2]}};
+    settings.h_minus_k_mod_3_zero = letter == 'P';
+    EXPECT_EQ(failure_of([&, &settings = settings] { enumerate_reflections(state, settings); }),
+              std::string("overflow: ") + sum + " does not fit an Integer (-32768 to 32767)");
+  }
 }
 
 TEST(List, LeavesOutAnglesThatDoNotExist) {
