@@ -28,6 +28,7 @@ struct IndexTriple {
 /// The observed reflections of a crystal with all their equivalents, ready to be asked.
 class ObservedReflections {
  public:
+  ObservedReflections() = default;  ///< none
   explicit ObservedReflections(const CrystalState& state);
 
   /// Weighted value of the last row that is equivalent to (h, k, l); none when there is no such row.

@@ -186,7 +186,9 @@ void sort_by_s(CrystalState& state) {
 }
 
 std::vector<std::string> compute_list(CrystalState& state, const Radiation& radiation) {
-  const ObservedReflections observed(state);
+  // Observed reflections left from another crystal don't count beside atoms, however absurd they are.
+  const bool observed_count = state.NAtom <= 0 && state.RefCount > 0;
+  const auto observed = observed_count ? ObservedReflections(state) : ObservedReflections();
   ScatteringCell atoms(state, radiation);
   std::vector<std::string> lines;
   for (int i = 1; i <= state.RefCount.value(); ++i) {

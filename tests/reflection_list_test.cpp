@@ -138,6 +138,21 @@ TEST(Enumeration, SumsOfIndicesStayIn16Bits) {
   }
 }
 
+TEST(List, IgnoresObservedReflectionsBesideAtoms) {
+  auto state = cubic("P", 1.9F);
+  state.SGNumber = 225;
+  state.JcpdsCount = 1;
+  state.JcpdsH(1) = 1;
+  state.JcpdsI(1) = 3e38F;  // eight times as much is no Single
+  enumerate_reflections(state, {});
+  EXPECT_THROW((void)compute_list(state, {true, false}), RunFailure);
+  state.NAtom = 1;
+  EXPECT_EQ(compute_list(state, {true, false}).size(), 10U);
+  state.NAtom = 0;
+  state.RefCount = 0;
+  EXPECT_TRUE(compute_list(state, {true, false}).empty());
+}
+
 TEST(List, LeavesOutAnglesThatDoNotExist) {
   auto state = cubic("P", 1.9F);
   state.NAtom = 1;
