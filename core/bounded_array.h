@@ -3,7 +3,6 @@
 #pragma once
 
 #include <cstdlib>
-#include <limits>
 #include <new>
 #include <string>
 #include <string_view>
@@ -16,7 +15,10 @@ namespace zol {
 namespace detail {
 
 [[noreturn]] void fail_index(std::string_view array, long long index, long long upper);
+[[noreturn]] void fail_bound(std::string_view array, long long upper);
 [[noreturn]] void fail_memory(std::string_view array, long long upper);
+/// Fails the run when the machine does not have so many bytes for array(0 to upper).
+void check_memory(std::string_view array, long long upper, std::size_t elements, std::size_t element_size);
 
 /// Memory that comes zeroed from the system, so that large arrays cost only the pages that are used.
 template <class T>
@@ -63,8 +65,9 @@ class BoundedArray {
   /// Makes the array anew with indices 0 to upper; former contents are gone.
   /// @throws RunFailure  negative upper bound or not enough memory
   void allocate(int upper) {
-    if (upper < 0) detail::fail_index(name_, upper, std::numeric_limits<int>::max());
+    if (upper < 0) detail::fail_bound(name_, upper);
     store_ = {};
+    detail::check_memory(name_, upper, static_cast<std::size_t>(upper) + 1, sizeof(T));
     try {
       store_ = Store(static_cast<std::size_t>(upper) + 1);
     } catch (const std::bad_alloc&) {
@@ -102,17 +105,20 @@ class BoundedTable {
   /// Makes the table anew; former contents are gone.
   /// @throws RunFailure  negative upper bound or not enough memory
   void allocate(int upper_row, int upper_column) {
-    if (upper_row < 0) detail::fail_index(name_, upper_row, std::numeric_limits<int>::max());
-    if (upper_column < 0) detail::fail_index(name_, upper_column, std::numeric_limits<int>::max());
+    if (upper_row < 0) detail::fail_bound(name_, upper_row);
+    if (upper_column < 0) detail::fail_bound(name_, upper_column);
+    const std::size_t elements =
+        (static_cast<std::size_t>(upper_row) + 1) * (static_cast<std::size_t>(upper_column) + 1);
     store_ = {};
-    upper_row_ = upper_row;
-    upper_column_ = upper_column;
+    upper_row_ = upper_column_ = -1;
+    detail::check_memory(name_, upper_row, elements, sizeof(T));
     try {
-      store_ = Store((static_cast<std::size_t>(upper_row) + 1) * (static_cast<std::size_t>(upper_column) + 1));
+      store_ = Store(elements);
     } catch (const std::exception&) {
-      upper_row_ = upper_column_ = -1;
       detail::fail_memory(name_, upper_row);
     }
+    upper_row_ = upper_row;
+    upper_column_ = upper_column;
   }
 
   [[nodiscard]] T& operator()(int row, int column) { return store_[check(row, column)]; }

@@ -5,6 +5,7 @@
 #include <sstream>
 #include <utility>
 
+#include "core/available_memory.h"
 #include "core/cell_geometry.h"
 #include "core/exchange_sort.h"
 #include "core/number_text.h"
@@ -78,6 +79,15 @@ std::array<IndexRange, 3> index_ranges(const std::array<Integer, 3>& limits, con
     if (const auto& fixed = settings.fixed[axis]) ranges[axis] = {fixed->value(), fixed->value()};
   }
   return ranges;
+}
+
+/// The arrays are filled together, so together they must fit: each by itself says nothing.
+void check_memory_for_list(Long bound, const std::array<IndexRange, 3>& ranges) {
+  constexpr std::uint64_t bytes_per_reflection = 6 * sizeof(Integer) + 5 * sizeof(Single);
+  std::uint64_t reached = 1;
+  for (const auto& [lowest, highest] : ranges) reached *= static_cast<std::uint64_t>(std::max(0, highest - lowest + 1));
+  const auto filled = std::min(reached, static_cast<std::uint64_t>(bound.value()));
+  require_memory("a list of up to " + std::to_string(filled) + " reflections", filled * bytes_per_reflection);
 }
 
 bool odd(Integer n) { return n.value() % 2 != 0; }
@@ -157,6 +167,7 @@ void enumerate_reflections(CrystalState& state, const EnumerationSettings& setti
   const Long bound = array_bound(limits, state.LatticeLetter);
   check_bound(state, limits, bound);
   const auto ranges = index_ranges(limits, settings);
+  check_memory_for_list(bound, ranges);
   create_arrays(state, bound);
   const auto& [h_range, k_range, l_range] = ranges;
   const Single sphere = to_single(divide(1.0, state.Dmin, "Dmin"));

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/available_memory.h"
 #include "core/bounded_array.h"
 #include "tests/test_files.h"
 
@@ -57,7 +58,34 @@ TEST(BoundedArrays, CheckEveryIndex) {
   for (const auto& [row, column] : {std::pair{1, 3}, {3, 0}, {0, -1}}) {
     EXPECT_THROW((void)table(row, column), RunFailure) << row << ' ' << column;
   }
-  EXPECT_THROW(table.allocate(-1, 2), RunFailure);
+  EXPECT_EQ(failure_of([&] { table.allocate(-1, 2); }), "the last index of BandHKL would be -1, it must be 0 or more");
+}
+
+TEST(BoundedArrays, AreRefusedWhereTheMemoryIsNot) {
+  BoundedTable<Single> table("TripleS");
+  EXPECT_TRUE(failure_of([&] {
+                table.allocate(2147483646, 1023);
+              }).starts_with("not enough memory for TripleS(0 to 2147483646): it takes 8388607 MB, there are "));
+  EXPECT_EQ(table.upper_row(), -1);
+}
+
+// 8 GB free in a machine of which a control group may have 2 GB, less what it uses and can't give back.
+TEST(AvailableMemory, IsTheLeastOfMachineAndControlGroups) {
+  constexpr std::uint64_t kb = 1024;
+  constexpr std::uint64_t gb = kb * kb * kb;
+  const ScratchFolder root;
+  EXPECT_EQ(available_memory(root.path("")), std::nullopt);
+  root.write("proc/meminfo", "MemTotal:       16000000 kB\nMemAvailable:    8388608 kB\n");
+  EXPECT_EQ(available_memory(root.path("")), 8 * gb);
+  root.write("proc/self/cgroup", "3:cpu,memory:/a\n0::/user/work\n");
+  root.write("sys/fs/cgroup/user/work/memory.max", "max\n");
+  root.write("sys/fs/cgroup/user/memory.max", std::to_string(2 * gb));
+  root.write("sys/fs/cgroup/user/memory.current", std::to_string(gb + 5 * kb));
+  root.write("sys/fs/cgroup/user/memory.stat", "anon 1\ninactive_file 1024\n");
+  EXPECT_EQ(available_memory(root.path("")), gb - 4 * kb) << "a group above";
+  root.write("sys/fs/cgroup/memory/memory.limit_in_bytes", std::to_string(gb));
+  root.write("sys/fs/cgroup/memory/memory.usage_in_bytes", std::to_string(2 * gb));
+  EXPECT_EQ(available_memory(root.path("")), 0U) << "version 1, mounted at the group itself";
 }
 
 }  // namespace
