@@ -1,6 +1,8 @@
 #include "analysis/band_matching.h"
 
+#include <algorithm>
 #include <cmath>
+#include <string_view>
 
 #include "analysis/zone_azimuth.h"
 #include "core/cell_geometry.h"
@@ -13,7 +15,13 @@ constexpr double full_turn_deg = 360.0;
 constexpr double largest_component = 1000.0;
 
 /// Rows between two reports of progress.
-constexpr int report_step = 4096;
+constexpr long long report_step = 4096;
+
+// Columns of a solution in the list.
+constexpr std::size_t index_width = 4;
+constexpr std::size_t component_width = 7;
+constexpr std::size_t angle_error_width = 5;
+constexpr std::size_t width_error_width = 6;
 
 enum class Verdict { Rejected, Omitted, Listed };
 
@@ -21,9 +29,48 @@ class Matcher {
  public:
   Matcher(const CrystalState& state, const TripleTable& table, const MeasuredBands& bands,
           const MatchSettings& settings, SolutionTable& solutions)
-      : state_(state), table_(table), bands_(bands), settings_(settings), solutions_(solutions) {}
+      : state_(state),
+        table_(table),
+        bands_(bands),
+        measured_deg_{bands.BandAngle(0), bands.BandAngle(1), bands.BandAngle(2)},
+        settings_(settings),
+        tolerance_deg_(settings.angle_tolerance),
+        solutions_(solutions) {}
 
-  [[nodiscard]] bool is_candidate(int row) const { return angles_fit(row) && widths_fit(row); }
+  /// The first row from here to the last one whose angles fit, last + 1 when there is none.
+  template <class Passed>
+  [[nodiscard]] long long next_fitting(long long row, long long last, Passed passed) const {
+    while (row <= last) {
+      passed(row);
+      const auto triple = table_.triple(row);
+      if (!triple) {
+        if (angles_fit(static_cast<int>(row))) return row;
+        ++row;
+        continue;
+      }
+      const auto [i, j, first] = *triple;
+      const std::size_t count = table_.reflections();
+      if (angle_fits(0, table_.angle(i, j))) {
+        for (std::size_t k = first; k < count && row <= last; ++k, ++row) {
+          if (angle_fits(1, table_.angle(j, k)) && angle_fits(2, table_.angle(k, i))) return row;
+        }
+      } else {
+        row += static_cast<long long>(count - first);  // all rows of the pair i, j
+      }
+    }
+    return last + 1;
+  }
+
+  /// Widths of a row without spacings fail the run even where they do not count.
+  [[nodiscard]] bool widths_fit(int row) const {
+    bool fit = true;
+    for (int c = 0; c < 3; ++c) {
+      const Single error_percent = to_single(std::abs(1.0 - width_ratio(row, c)) * 100.0);
+      if (!settings_.width_tolerance_percent) continue;
+      fit = fit && error_percent < *settings_.width_tolerance_percent;
+    }
+    return fit;
+  }
 
   /// @returns true when this was the solution to stop at
   bool solve(int row) {
@@ -45,27 +92,16 @@ class Matcher {
   [[nodiscard]] std::vector<Solution> take_found() { return std::move(found_); }
 
  private:
+  [[nodiscard]] bool angle_fits(std::size_t c, Single angle_deg) const {
+    return std::abs(double{angle_deg} - measured_deg_[c]) < tolerance_deg_;
+  }
   [[nodiscard]] bool angles_fit(int row) const {
-    for (int c = 0; c < 3; ++c) {
-      const double error = double{table_.TripleAngle(row, c)} - double{bands_.BandAngle(c)};
-      if (!(std::abs(error) < settings_.angle_tolerance)) return false;
-    }
-    return true;
+    return angle_fits(0, table_.TripleAngle(row, 0)) && angle_fits(1, table_.TripleAngle(row, 1)) &&
+           angle_fits(2, table_.TripleAngle(row, 2));
   }
 
   [[nodiscard]] double width_ratio(int row, int c) const {
     return divide(bands_.BandS(c), table_.TripleS(row, c), "RefS of a reflection of the triple table");
-  }
-
-  /// A row without spacings fails the run even where widths do not count.
-  [[nodiscard]] bool widths_fit(int row) const {
-    bool fit = true;
-    for (int c = 0; c < 3; ++c) {
-      const Single error_percent = to_single(std::abs(1.0 - width_ratio(row, c)) * 100.0);
-      if (!settings_.width_tolerance_percent) continue;
-      fit = fit && error_percent < *settings_.width_tolerance_percent;
-    }
-    return fit;
   }
 
   [[nodiscard]] std::array<Single, 3> band_cosines() const {
@@ -143,14 +179,17 @@ class Matcher {
   }
 
   [[nodiscard]] bool is_equivalent(int row, int former) const {
-    const auto off = [row, former](const BoundedTable<Single>& values, int c) {
+    const auto off = [](Single value, Single of_former, std::string_view what) {
       constexpr double tolerance = 0.001;
-      const double ratio = divide(values(row, c), values(former, c), values.name() + " of a former solution");
-      return !(std::abs(1.0 - ratio) <= tolerance);
+      return !(std::abs(1.0 - divide(value, of_former, what)) <= tolerance);
     };
     int differences = 0;
-    for (int c = 0; c < 3; ++c) differences += off(table_.TripleS, c) ? 1 : 0;
-    for (int c = 0; c < 3; ++c) differences += off(table_.TripleI, c) ? 1 : 0;
+    for (int c = 0; c < 3; ++c) {
+      differences += off(table_.TripleS(row, c), table_.TripleS(former, c), "TripleS of a former solution") ? 1 : 0;
+    }
+    for (int c = 0; c < 3; ++c) {
+      differences += off(table_.TripleI(row, c), table_.TripleI(former, c), "TripleI of a former solution") ? 1 : 0;
+    }
     return differences == 0;
   }
 
@@ -182,7 +221,9 @@ class Matcher {
   const CrystalState& state_;
   const TripleTable& table_;
   const MeasuredBands& bands_;
+  std::array<double, 3> measured_deg_;
   const MatchSettings& settings_;
+  double tolerance_deg_;
   SolutionTable& solutions_;
   std::vector<Solution> found_;
 };
@@ -203,22 +244,31 @@ std::vector<Solution> match_bands(const CrystalState& state, const TripleTable& 
   const int rows = triple_rows(used);
   solutions.SolutionCount = 0;
   Matcher matcher(state, table, bands, settings, solutions);
-  for (int row = settings.first_row; row <= rows; ++row) {
-    if (row % report_step == 0 || row == rows) progress.report(row, rows);
-    if (!matcher.is_candidate(row) || !matcher.solve(row)) continue;
-    progress.report(row, rows);
-    break;
+  long long next_report = 0;
+  const auto passed = [&](long long row) {
+    if (row < next_report) return;
+    progress.report(static_cast<int>(row), rows);
+    next_report = row + report_step;
+  };
+  long long row = matcher.next_fitting(settings.first_row, rows, passed);
+  for (; row <= rows; row = matcher.next_fitting(row + 1, rows, passed)) {
+    const int candidate = static_cast<int>(row);
+    if (matcher.widths_fit(candidate) && matcher.solve(candidate)) break;
   }
+  if (settings.first_row <= rows) progress.report(static_cast<int>(std::min<long long>(row, rows)), rows);
   return matcher.take_found();
 }
 
 std::string solution_line(const TripleTable& table, const Solution& solution) {
   std::string line = Format(solution.number, "## ");
-  for (int c = 0; c <= 8; ++c) line += right_field(Format(table.TripleHKL(solution.row, c).value(), "##0"), 4);
-  for (const Single component : solution.direction) line += right_field(Format(component, "###0.#"), 7);
-  for (const Single error : solution.angle_error_deg) line += right_field(Format(error, "#0.0"), 5);
+  for (int c = 0; c <= 8; ++c)
+    line += right_field(Format(table.TripleHKL(solution.row, c).value(), "##0"), index_width);
+  for (const Single component : solution.direction) line += right_field(Format(component, "###0.#"), component_width);
+  for (const Single error : solution.angle_error_deg) line += right_field(Format(error, "#0.0"), angle_error_width);
   if (solution.width_error_percent) {
-    for (const double error : *solution.width_error_percent) line += right_field(Format(error, "##0.0"), 6);
+    for (const double error : *solution.width_error_percent) {
+      line += right_field(Format(error, "##0.0"), width_error_width);
+    }
   }
   if (solution.solved_by == SolvedBy::FirstRoot) return line + "  A1";
   if (solution.solved_by == SolvedBy::SecondRoot) return line + "  A2";

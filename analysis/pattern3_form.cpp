@@ -22,10 +22,13 @@ Pattern3Form::Pattern3Form(Workbench& bench)
     return value_text("x", x, "0.0", "") + value_text("   y", y, "0.0", " pixels");
   };
   file_drops = {{".bmp", &ImageLoad, &CommonDialog1}};
-  add_arrays(fields(), triples.TripleHKL, triples.TripleS, triples.TripleI, triples.TripleAngle, lines.LineX,
-             lines.LineY, lines.LineDone, LineLabel, LineColor, bands.ViewRange, bands.GnomX, bands.GnomY,
-             bands.LineSlope, bands.LineIntercept, bands.LineDist, bands.BandS, bands.BandPhi, bands.BandTheta,
-             bands.BandCos, bands.BandAngle, solutions.SolutionTriple, solutions.SolutionDir);
+  add_arrays(fields(), lines.LineX, lines.LineY, lines.LineDone, LineLabel, LineColor, bands.ViewRange, bands.GnomX,
+             bands.GnomY, bands.LineSlope, bands.LineIntercept, bands.LineDist, bands.BandS, bands.BandPhi,
+             bands.BandTheta, bands.BandCos, bands.BandAngle, solutions.SolutionTriple, solutions.SolutionDir);
+  add_triples<&TripleTable::TripleHKL>("TripleHKL");
+  add_triples<&TripleTable::TripleS>("TripleS");
+  add_triples<&TripleTable::TripleI>("TripleI");
+  add_triples<&TripleTable::TripleAngle>("TripleAngle");
   fields().add("NhklWanted", NhklWanted);
   fields().add("NhklUsed", NhklUsed);
   fields().add("LastLine", lines.LastLine);

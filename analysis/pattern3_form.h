@@ -119,6 +119,14 @@ struct Pattern3Form : Window {
   WorkingDistance working_distance;
   SiMarkers markers;
   SiCalibration calibration;
+
+ private:
+  /// An element of a triple table under its name.
+  template <auto element>
+  void add_triples(const char* name) {
+    fields().add_computed(name, 2,
+                          [this](std::span<const int> at) { return shown_text((triples.*element)(at[0], at[1])); });
+  }
 };
 
 }  // namespace zol

@@ -12,12 +12,6 @@ namespace {
 
 using namespace colours;
 
-void allocate_for_wanted(Pattern3Form& form) {
-  const int rows = triple_rows(form.NhklWanted);
-  form.triples.TripleHKL.allocate(rows, 8);
-  form.triples.TripleAngle.allocate(rows, 2);
-}
-
 MatchSettings match_settings(const Pattern3Form& form) {
   MatchSettings settings;
   settings.angle_tolerance = form.AngleTol;
@@ -83,7 +77,7 @@ void Form_Load(Workbench& bench, Pattern3Form& form) {
   form.Text14.set_text(plain_text(state.CamXShift));
   form.Text15.set_text(plain_text(state.CamYShift));
   form.Text3.set_text(plain_text(state.CamAcquisition));
-  allocate_for_wanted(form);
+  form.triples.empty_indices_and_angles(triple_rows(form.NhklWanted));
   if (state.RefCount > 0) Hkl3make(bench);
 }
 
@@ -97,7 +91,7 @@ void Text2_LostFocus(Workbench& bench, Pattern3Form& form) {
     form.NhklWanted = count;
     form.Text2.set_text(plain_text(form.NhklWanted));
   }
-  allocate_for_wanted(form);
+  form.triples.empty_indices_and_angles(triple_rows(form.NhklWanted));
   Hkl3make(bench);
 }
 

@@ -1,7 +1,6 @@
 #include "analysis/triple_table.h"
 
-#include <array>
-#include <vector>
+#include <utility>
 
 #include "core/cell_geometry.h"
 #include "core/exchange_sort.h"
@@ -26,28 +25,69 @@ Single folded_angle(const CrystalState& state, int a, int b) {
   return angle > 90 ? to_single(180.0 - double{angle}) : angle;
 }
 
-/// Angles of all ordered pairs; a triple needs three of them, so each serves many times.
-std::vector<Single> pair_angles(const CrystalState& state, int count) {
-  std::vector<Single> angles;
-  angles.reserve(static_cast<std::size_t>(count) * static_cast<std::size_t>(count));
-  for (int a = 1; a <= count; ++a) {
-    for (int b = 1; b <= count; ++b) angles.push_back(folded_angle(state, a, b));
+std::vector<TripleTable::Plane> first_planes(const CrystalState& state, int count) {
+  std::vector<TripleTable::Plane> planes;
+  for (int i = 1; i <= count; ++i) {
+    planes.push_back({{state.RefH(i), state.RefK(i), state.RefL(i)}, state.RefS(i), state.RefI(i)});
   }
-  return angles;
+  return planes;
 }
 
-void store_triple(const CrystalState& state, const std::array<int, 3>& reflections, int row, TripleTable& table) {
-  for (int n = 0; n < 3; ++n) {
-    const int i = reflections[static_cast<std::size_t>(n)];
-    table.TripleHKL(row, 3 * n) = state.RefH(i);
-    table.TripleHKL(row, 3 * n + 1) = state.RefK(i);
-    table.TripleHKL(row, 3 * n + 2) = state.RefL(i);
-    table.TripleS(row, n) = state.RefS(i);
-    table.TripleI(row, n) = state.RefI(i);
-  }
-}
+/// Place of an element in one of the tables: which of the three reflections, of which table.
+std::size_t place(int column) { return static_cast<std::size_t>(column); }
 
 }  // namespace
+
+std::optional<TripleTable::Triple> TripleTable::triple_of(long long row) const {
+  const std::size_t n = planes_.size();
+  if (row < 1 || static_cast<std::size_t>(row) > n * n * n) return std::nullopt;
+  const auto at = static_cast<std::size_t>(row - 1);
+  return Triple{at / n / n, at / n % n, at % n};
+}
+
+/// The reflection that an element is of, none in a row of zeros.
+const TripleTable::Plane* TripleTable::plane(std::string_view table, const Rows& rows, int row, int column,
+                                             int columns) const {
+  if (row < 0 || row > rows.upper) detail::fail_index(table, row, rows.upper);
+  if (column < 0 || column >= columns) detail::fail_index(table, column, columns - 1);
+  const auto reflections = rows.filled ? triple_of(row) : std::nullopt;
+  return reflections ? &planes_[(*reflections)[place(column * 3 / columns)]] : nullptr;
+}
+
+Integer TripleTable::TripleHKL(int row, int column) const {
+  const Plane* found = plane("TripleHKL", indices_and_angles_, row, column, 9);
+  return found != nullptr ? found->hkl[place(column % 3)] : Integer(0);
+}
+
+Single TripleTable::TripleS(int row, int column) const {
+  const Plane* found = plane("TripleS", lengths_and_intensities_, row, column, 3);
+  return found != nullptr ? found->s : 0.0F;
+}
+
+Single TripleTable::TripleI(int row, int column) const {
+  const Plane* found = plane("TripleI", lengths_and_intensities_, row, column, 3);
+  return found != nullptr ? found->intensity : 0.0F;
+}
+
+Single TripleTable::TripleAngle(int row, int column) const {
+  if (plane("TripleAngle", indices_and_angles_, row, column, 3) == nullptr) return 0;
+  const Triple reflections = *triple_of(row);
+  return angle(reflections[place(column)], reflections[place((column + 1) % 3)]);
+}
+
+void TripleTable::empty_indices_and_angles(int rows) {
+  if (rows < 0) detail::fail_bound("TripleHKL", rows);
+  indices_and_angles_ = {rows, false};
+}
+
+void TripleTable::set(int rows, std::vector<Plane> planes, std::vector<Single> angles) {
+  if (rows < 0) detail::fail_bound("TripleHKL", rows);
+  const std::size_t count = planes.size();
+  if (count * count * count > static_cast<std::size_t>(rows)) detail::fail_index("TripleHKL", rows + 1LL, rows);
+  planes_ = std::move(planes);
+  angles_ = std::move(angles);
+  indices_and_angles_ = lengths_and_intensities_ = {rows, true};
+}
 
 void sort_by_weighted_intensity(CrystalState& state) {
   std::vector<double> keys;
@@ -71,35 +111,17 @@ Single extend_over_ties(const CrystalState& state, Single wanted) {
   return used;
 }
 
-int triple_rows(Single reflections) {
-  return Long::rounded(double{reflections} * double{reflections} * double{reflections}).value();
-}
+int triple_rows(Single reflections) { return Long::rounded(triples_of(reflections)).value(); }
 
 void fill_triple_table(const CrystalState& state, Single used, TripleTable& table, Progress& progress) {
   const int rows = triple_rows(used);
-  table.TripleHKL.allocate(rows, 8);
-  table.TripleS.allocate(rows, 2);
-  table.TripleI.allocate(rows, 2);
-  table.TripleAngle.allocate(rows, 2);
-
   const int count = Long::rounded(used).value();
-  const auto angles = pair_angles(state, count);
-  const auto angle = [&angles, count](int a, int b) {
-    return angles[static_cast<std::size_t>(a - 1) * static_cast<std::size_t>(count) + static_cast<std::size_t>(b - 1)];
-  };
-  int row = 0;
-  for (int i = 1; i <= count; ++i) {
-    progress.report(i, count);
-    for (int j = 1; j <= count; ++j) {
-      for (int k = 1; k <= count; ++k) {
-        ++row;
-        store_triple(state, {i, j, k}, row, table);
-        table.TripleAngle(row, 0) = angle(i, j);
-        table.TripleAngle(row, 1) = angle(j, k);
-        table.TripleAngle(row, 2) = angle(k, i);
-      }
-    }
+  std::vector<Single> angles;
+  for (int a = 1; a <= count; ++a) {
+    progress.report(a, count);
+    for (int b = 1; b <= count; ++b) angles.push_back(folded_angle(state, a, b));
   }
+  table.set(rows, first_planes(state, count), std::move(angles));
 }
 
 }  // namespace zol

@@ -2,18 +2,70 @@
 // measured Kikuchi pattern is indexed against.
 #pragma once
 
-#include "core/bounded_array.h"
+#include <array>
+#include <optional>
+#include <span>
+#include <string_view>
+#include <vector>
+
 #include "core/crystal_state.h"
 #include "core/progress.h"
 
 namespace zol {
 
-/// Rows are numbered from 1; row 0 and the rows behind the last one filled hold zeros.
-struct TripleTable {
-  BoundedTable<Integer> TripleHKL{"TripleHKL"};     ///< columns 0 to 8: h, k, l of the three reflections
-  BoundedTable<Single> TripleS{"TripleS"};          ///< columns 0 to 2: RefS, 1/(2d) in inverse angstroms
-  BoundedTable<Single> TripleI{"TripleI"};          ///< columns 0 to 2: RefI
-  BoundedTable<Single> TripleAngle{"TripleAngle"};  ///< columns 0 to 2: degrees between 1 and 2, 2 and 3, 3 and 1
+/// The tables of all triples of N reflections, N^3 rows from 1. Row ((i - 1) N + (j - 1)) N + k is that of reflections
+/// i, j, k, so that N reflections and the N x N angles between them are all that is kept. Row 0 and the rows behind the
+/// last triple hold zeros.
+class TripleTable {
+ public:
+  // Elements of the four tables. @throws RunFailure  a row or column that the table does not have
+  [[nodiscard]] Integer TripleHKL(int row, int column) const;   ///< columns 0 to 8: h, k, l of the three reflections
+  [[nodiscard]] Single TripleS(int row, int column) const;      ///< columns 0 to 2: RefS, 1/(2d) in inverse angstroms
+  [[nodiscard]] Single TripleI(int row, int column) const;      ///< columns 0 to 2: RefI
+  [[nodiscard]] Single TripleAngle(int row, int column) const;  ///< columns 0 to 2: degrees between 1 and 2, 2 and 3,
+                                                                ///< 3 and 1
+
+  /// Last row of TripleHKL and TripleAngle, -1 before they have one.
+  [[nodiscard]] int upper_row() const { return indices_and_angles_.upper; }
+
+  /// The three reflections of a row, from 0.
+  using Triple = std::array<std::size_t, 3>;
+  /// None for a row of zeros.
+  [[nodiscard]] std::optional<Triple> triple(long long row) const {
+    return indices_and_angles_.filled ? triple_of(row) : std::nullopt;
+  }
+  [[nodiscard]] std::size_t reflections() const { return planes_.size(); }
+  /// Degrees between the normals of two reflections, from 0.
+  [[nodiscard]] Single angle(std::size_t a, std::size_t b) const { return angles_[a * planes_.size() + b]; }
+
+  /// TripleHKL and TripleAngle made anew with zeros alone; the other two keep what they hold.
+  /// @throws RunFailure  rows is negative
+  void empty_indices_and_angles(int rows);
+
+  /// A reflection of the table.
+  struct Plane {
+    std::array<Integer, 3> hkl;
+    Single s = 0;
+    Single intensity = 0;
+  };
+  /// All four tables anew.
+  /// @param angles  degrees between reflections a and b at a N + b, both from 0
+  /// @throws RunFailure  the triples don't fit so many rows
+  void set(int rows, std::vector<Plane> planes, std::vector<Single> angles);
+
+ private:
+  /// Rows of two of the tables.
+  struct Rows {
+    int upper = -1;
+    bool filled = false;
+  };
+  [[nodiscard]] std::optional<Triple> triple_of(long long row) const;
+  [[nodiscard]] const Plane* plane(std::string_view table, const Rows& rows, int row, int column, int columns) const;
+
+  std::vector<Plane> planes_;
+  std::vector<Single> angles_;
+  Rows indices_and_angles_;
+  Rows lengths_and_intensities_;
 };
 
 /// Sorts the reflection list by RefS * RefI, descending, by exchanges of RefS, RefI, RefH, RefK and RefL alone; among
@@ -24,11 +76,16 @@ void sort_by_weighted_intensity(CrystalState& state);
 [[nodiscard]] Single extend_over_ties(const CrystalState& state, Single wanted);
 
 /// Fills the table with the first `used` reflections of the list, of which there are N = used rounded half to even.
-/// Row ((i - 1) N + (j - 1)) N + k holds reflections i, j, k. Progress goes by i.
-/// @throws RunFailure  a reflection of zero length, or not enough memory
+/// Progress goes by reflections.
+/// @throws RunFailure  a reflection of zero length, or more rows than a Long can count
 void fill_triple_table(const CrystalState& state, Single used, TripleTable& table, Progress& progress);
 
-/// Highest row of a table of so many reflections: their third power.
+/// Third power of a number of reflections: the size of their table before it is rounded.
+[[nodiscard]] inline double triples_of(Single reflections) {
+  return double{reflections} * double{reflections} * double{reflections};
+}
+
+/// Highest row of a table of so many reflections.
 [[nodiscard]] int triple_rows(Single reflections);
 
 }  // namespace zol

@@ -139,9 +139,9 @@ TEST_F(Matching, ThreeBandsOfOneZoneHaveTwoRoots) {
 
 TEST_F(Matching, Failures) {
   look_at(three);
-  table.TripleAngle.allocate(30, 2);
-  table.TripleHKL.allocate(30, 8);
-  table.TripleS.allocate(30, 2);
+  used = 3.1F;  // of 30 rows, three reflections fill 27
+  fill_triple_table(state, used, table, progress);
+  settings.first_row = 28;
   for (int i = 0; i < 3; ++i) bands.BandAngle(i) = 0;
   EXPECT_EQ(failure_of([this] { (void)match(); }), "division by zero: RefS of a reflection of the triple table is 0")
       << "empty rows have angles of 0, like bands that were never measured";

@@ -80,7 +80,7 @@ TEST(TripleTable, HoldsEveryOrderedTriple) {
   TripleTable table;
   RecordedProgress progress;
   fill_triple_table(state, 4, table, progress);
-  ASSERT_EQ(table.TripleHKL.upper_row(), 64) << "the fifth reflection is not used";
+  ASSERT_EQ(table.upper_row(), 64) << "the fifth reflection is not used";
   EXPECT_EQ(progress.steps, (std::vector<std::pair<int, int>>{{1, 4}, {2, 4}, {3, 4}, {4, 4}}));
   EXPECT_EQ(table.TripleAngle(0, 0), 0);
   for (int row = 1; row <= 64; ++row) {
@@ -91,6 +91,7 @@ TEST(TripleTable, HoldsEveryOrderedTriple) {
       EXPECT_EQ(table.TripleHKL(row, 3 * c), state.RefH(place));
       EXPECT_EQ(table.TripleHKL(row, 3 * c + 1), state.RefK(place));
       EXPECT_EQ(table.TripleHKL(row, 3 * c + 2), state.RefL(place));
+      EXPECT_EQ(table.TripleS(row, c), state.RefS(place));
       EXPECT_EQ(table.TripleI(row, c), state.RefI(place));
       EXPECT_EQ(table.TripleAngle(row, c), folded_angle(state, place, places[static_cast<std::size_t>((c + 1) % 3)]));
     }
@@ -99,6 +100,33 @@ TEST(TripleTable, HoldsEveryOrderedTriple) {
   EXPECT_NEAR(table.TripleAngle(row, 0), 45, 1e-3);
   EXPECT_NEAR(table.TripleAngle(row, 1), 35.2644, 1e-3);
   EXPECT_NEAR(table.TripleAngle(row, 2), 54.7356, 1e-3);
+}
+
+TEST(TripleTable, HoldsAHundredMillionRowsInAMegabyte) {
+  const auto state = with_list(std::vector<ListedReflection>(500, {1, 1, 0, 2}));
+  TripleTable table;
+  RecordedProgress progress;
+  EXPECT_EQ(failure_of([&] { (void)table.TripleS(0, 0); }), "index 0 of TripleS, which has not been allocated yet");
+  fill_triple_table(state, 500, table, progress);
+  EXPECT_EQ(table.TripleHKL(125'000'000, 7), 1);
+  EXPECT_EQ(failure_of([&] { (void)table.TripleHKL(125'000'001, 0); }),
+            "index 125000001 of TripleHKL is outside 0 to 125000000");
+  EXPECT_EQ(failure_of([&] { (void)table.TripleHKL(1, 9); }), "index 9 of TripleHKL is outside 0 to 8");
+  table.empty_indices_and_angles(1);
+  EXPECT_EQ(table.TripleHKL(1, 0), 0);
+  EXPECT_EQ(table.TripleS(125'000'000, 2), state.RefS(500)) << "lengths and intensities stay";
+}
+
+TEST(TripleTable, RoundsRowsAndReflectionsEachForItself) {
+  const auto state = with_list({{1, 0, 0}, {1, 1, 0}, {1, 1, 1}, {0, 0, 2}});
+  TripleTable table;
+  RecordedProgress progress;
+  fill_triple_table(state, 3.1F, table, progress);
+  EXPECT_EQ(table.upper_row(), 30);
+  EXPECT_EQ(table.TripleS(27, 2), state.RefS(3));
+  EXPECT_EQ(table.TripleS(28, 2), 0);
+  EXPECT_EQ(failure_of([&] { fill_triple_table(state, 3.6F, table, progress); }),
+            "index 48 of TripleHKL is outside 0 to 47");
 }
 
 TEST(TripleTable, FailsOnAReflectionOfNoLength) {
