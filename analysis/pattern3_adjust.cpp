@@ -24,7 +24,7 @@ struct CameraStart {
 };
 
 void go_to(const Pattern3Form& form, const CameraStart& start, const GridPoint& point, Module1State& camera) {
-  camera.CamAcquisition = to_single(double{start.acquisition} + point.acquisition * double{form.AcqStep});
+  camera.CamAcquisition = to_single(double{start.acquisition} + point.acquisition * form.AcqStep);
   camera.CamXShift = to_single(double{start.x_shift} + point.x_shift * form.XShiftStep);
   camera.CamYShift = to_single(double{start.y_shift} + point.y_shift * double{form.YShiftStep});
 }
@@ -67,7 +67,7 @@ void CP_Setting_Show_Click(Workbench& /*bench*/, Pattern3Form& form) {
   form.AdjustShown = form.AdjustShown == 0 ? 1 : 0;
   show_adjustment(form, form.AdjustShown == 1);
   if (form.AdjustShown == 0) return;
-  form.AcqStep = 0.1F;
+  form.AcqStep = 0.1;
   form.XShiftStep = 0.1;
   form.YShiftStep = 0.1F;
   form.AdjustSolution = 1;
@@ -79,7 +79,7 @@ void CP_Setting_Show_Click(Workbench& /*bench*/, Pattern3Form& form) {
   form.Text11.set_text(plain_text(form.AdjustSolution));
 }
 
-void Text6_Change(Workbench& /*bench*/, Pattern3Form& form) { form.AcqStep = to_single(Val(form.Text6.text())); }
+void Text6_Change(Workbench& /*bench*/, Pattern3Form& form) { form.AcqStep = Val(form.Text6.text()); }
 void Text8_Change(Workbench& /*bench*/, Pattern3Form& form) { form.XShiftStep = Val(form.Text8.text()); }
 void Text9_Change(Workbench& /*bench*/, Pattern3Form& form) { form.YShiftStep = single_in(form.Text9); }
 void Text10_Change(Workbench& /*bench*/, Pattern3Form& form) { form.AdjustSteps = integer_in(form.Text10); }
@@ -89,7 +89,7 @@ void Command7_Click(Workbench& bench, Pattern3Form& form) {
   step(bench, form, main1_state(bench).CamAcquisition, form.AcqStep, form.Text3);
 }
 void Command8_Click(Workbench& bench, Pattern3Form& form) {
-  step(bench, form, main1_state(bench).CamAcquisition, -double{form.AcqStep}, form.Text3);
+  step(bench, form, main1_state(bench).CamAcquisition, -form.AcqStep, form.Text3);
 }
 void Command11_Click(Workbench& bench, Pattern3Form& form) {
   step(bench, form, main1_state(bench).CamXShift, form.XShiftStep, form.Text14);

@@ -108,7 +108,7 @@ struct Pattern3Form : Window {
   Integer EquivMode;    ///< asked for and kept; nothing reads it
   SolutionTable solutions;
 
-  Single AcqStep = 0;  ///< degrees, like the two below
+  Double AcqStep = 0;  ///< degrees, like the two below
   Double XShiftStep = 0;
   Single YShiftStep = 0;
   Integer AdjustSteps;     ///< of the search, to each side

@@ -241,6 +241,10 @@ TEST_F(Pattern3Test, SolutionsArePickedAndAdjustedFor) {
   form().Command7.click();
   form().Command12.click();
   EXPECT_EQ(detector_boxes(), (std::vector<std::string>{"36.9", "-.3", "-.2"}));
+  form().Text3.set_text("54.005");
+  form().Text6.set_text("2.149393");
+  form().Command7.click();
+  EXPECT_EQ(form().Text3.text(), "56.15439") << "the step is a Double";
   form().CP_Setting_Show.click();
   EXPECT_FALSE(form().Text6.visible());
 }
