@@ -112,7 +112,7 @@ void Command1_Click(Workbench& bench, Pattern3Form& form) {
 }
 
 void MatchAngle(Workbench& bench, Pattern3Form& form) {
-  form.ProgressBar1.set_range(0, to_single(triple_rows(form.NhklUsed)));
+  form.ProgressBar1.set_range(0, to_single(triples_of(form.NhklUsed)));
   BarProgress progress(form.ProgressBar1);
   const auto found = match_bands(main1_state(bench), form.triples, form.NhklUsed, form.bands, match_settings(form),
                                  form.solutions, progress);

@@ -137,6 +137,14 @@ TEST_F(Pattern3Test, CalcNeedsReflectionsAndListsTheCount) {
   form().Text1.set_text("0.001");
   form().Command1.click();
   EXPECT_EQ(form().List1.items(), std::vector<std::string>{"    No. of solution = 0"});
+
+  form().Text2.set_text("13.4");
+  form().Text2.leave();
+  form().Command1.click();
+  const double used = form().NhklUsed;
+  ASSERT_NE(used, std::floor(used));
+  EXPECT_EQ(form().ProgressBar1.maximum(), to_single(used * used * used));
+  EXPECT_EQ(form().ProgressBar1.value(), std::round(used * used * used)) << "the last row of the table";
 }
 
 TEST_F(Pattern3Test, MatchingMethodAndEquivalenceAreAskedFor) {
