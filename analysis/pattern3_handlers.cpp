@@ -25,7 +25,7 @@ MatchSettings match_settings(const Pattern3Form& form) {
   return settings;
 }
 
-/// The box has one colour for all its lines; it ends black.
+/// A direction that was not solved stands in red.
 void list_solution(Pattern3Form& form, const Solution& solution) {
   const bool unsure = solution.solved_by == SolvedBy::Inversion && solution.status > match_status::inverted;
   form.List1.set_fore_colour(unsure ? red : black);

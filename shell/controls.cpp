@@ -114,6 +114,7 @@ void ComboBox::pick(int index) {
 void ListBox::clear() {
   ++revision_;
   items_.clear();
+  colours_.clear();
   list_index_ = -1;
   changed();
 }
@@ -121,17 +122,13 @@ void ListBox::clear() {
 void ListBox::add_item(std::string_view item) {
   ++revision_;
   items_.emplace_back(item);
+  colours_.push_back(fore_colour_);
   changed();
 }
 
 void ListBox::set_list_index(int index) {
   if (index < -1 || index >= list_count()) fail_item(*this, index, items_.size());
   list_index_ = index;
-  changed();
-}
-
-void ListBox::set_fore_colour(Colour colour) {
-  fore_colour_ = colour;
   changed();
 }
 

@@ -243,14 +243,16 @@ class ListBox : public Control {
   void set_list_index(int index);
   [[nodiscard]] bool selected(int index) const { return index == list_index_; }
   [[nodiscard]] int revision() const { return revision_; }  ///< another one when the lines have changed
-  [[nodiscard]] Colour fore_colour() const { return fore_colour_; }
-  void set_fore_colour(Colour colour);
+  [[nodiscard]] Colour colour_of(int index) const { return colours_[static_cast<std::size_t>(index)]; }
+  /// Colour of the lines that are added from now on; those that stand keep theirs.
+  void set_fore_colour(Colour colour) { fore_colour_ = colour; }
   /// The user picks a line; fires. @throws RunFailure  no such line
   void pick(int index);
   Event<> on_click;
 
  private:
   std::vector<std::string> items_;
+  std::vector<Colour> colours_;  // of the items
   int list_index_ = -1;
   int revision_ = 0;
   Colour fore_colour_ = 0;

@@ -65,6 +65,11 @@ TEST_F(Controls, ButtonsTurnOverAndExcludeEachOther) {
 
 TEST_F(Controls, ListsAndGridsKeepToTheirItems) {
   form.List1.add_item("a");
+  form.List1.set_fore_colour(colours::red);
+  form.List1.add_item("b");
+  form.List1.set_fore_colour(colours::black);
+  EXPECT_EQ(form.List1.colour_of(0), colours::black);
+  EXPECT_EQ(form.List1.colour_of(1), colours::red) << "that of the time when it was added";
   form.List1.pick(0);
   form.List1.clear();
   EXPECT_EQ(form.List1.list_index(), -1);

@@ -147,6 +147,21 @@ TEST_F(Pattern3Test, CalcNeedsReflectionsAndListsTheCount) {
   EXPECT_EQ(form().ProgressBar1.value(), std::round(used * used * used)) << "the last row of the table";
 }
 
+// Three bands that are one and the same have no direction of their own.
+TEST_F(Pattern3Test, DirectionsThatWereNotSolvedStandInRed) {
+  load("Kyanite.cry");
+  form().Text2.set_text("3");
+  form().Text2.leave();
+  services.answers = {"1"};
+  form().Imatch.click();
+  for (int i = 0; i < 3; ++i) drag({0, 100, 511, 110});
+  form().Command1.click();
+  ASSERT_GT(form().List1.list_count(), 1);
+  ASSERT_GT(form().solutions.MatchStatus, 1);
+  EXPECT_EQ(form().List1.colour_of(0), colours::red);
+  EXPECT_EQ(form().List1.colour_of(form().List1.list_count() - 1), colours::black);
+}
+
 TEST_F(Pattern3Test, MatchingMethodAndEquivalenceAreAskedFor) {
   services.answers = {"1", "", "1"};
   form().Imatch.click();

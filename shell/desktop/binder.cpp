@@ -175,7 +175,10 @@ class Binder::ComboTie : public Tie {
 class Binder::ListTie : public Tie {
  public:
   ListTie(Binder& owner, ListBox& list, QListView& view)
-      : Tie(owner, list, &view), list_(list), shown_(view), model_(new ListModel(list, this)) {
+      : Tie(owner, list, &view),
+        list_(list),
+        shown_(view),
+        model_(new ListModel(list, view.property("alignFirstWord").toBool(), this)) {
     view.setUniformItemSizes(true);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.setModel(model_);

@@ -1,6 +1,9 @@
 // Lists and tables of the program as Qt models: they read the control itself, so that thousands of lines cost nothing.
 #pragma once
 
+#include <algorithm>
+#include <string>
+
 #include <QAbstractListModel>
 #include <QAbstractTableModel>
 #include <QColor>
@@ -13,23 +16,38 @@ namespace zol {
 
 class ListModel : public QAbstractListModel {
  public:
-  ListModel(ListBox& list, QObject* parent) : QAbstractListModel(parent), list_(list) {}
+  /// @param align_first_word  lines that start with a word are pushed right so that those words end at one place
+  ListModel(ListBox& list, bool align_first_word, QObject* parent)
+      : QAbstractListModel(parent), list_(list), align_first_word_(align_first_word) {}
 
   void refresh() {
     beginResetModel();
     shown_ = list_.list_count();
+    widest_word_ = 0;
+    if (align_first_word_) {
+      for (const auto& line : list_.items()) widest_word_ = std::max(widest_word_, first_word(line));
+    }
     endResetModel();
   }
   [[nodiscard]] int rowCount(const QModelIndex& /*parent*/ = {}) const override { return shown_; }
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
     if (index.row() >= list_.list_count()) return {};
-    if (role == Qt::DisplayRole) return to_qt(list_.items()[static_cast<std::size_t>(index.row())]);
-    if (role == Qt::ForegroundRole && list_.fore_colour() != 0) return to_qt(list_.fore_colour());
-    return {};
+    if (role == Qt::DisplayRole) {
+      const auto& line = list_.items()[static_cast<std::size_t>(index.row())];
+      const std::size_t word = first_word(line);
+      return to_qt(word == 0 || word >= widest_word_ ? line : std::string(widest_word_ - word, ' ') + line);
+    }
+    // Black is the text colour of the theme, which may be a dark one.
+    if (role != Qt::ForegroundRole || list_.colour_of(index.row()) == colours::black) return {};
+    return to_qt(list_.colour_of(index.row()));
   }
 
  private:
+  [[nodiscard]] static std::size_t first_word(const std::string& line) { return std::min(line.find(' '), line.size()); }
+
   ListBox& list_;
+  bool align_first_word_;
+  std::size_t widest_word_ = 0;
   int shown_ = 0;
 };
 
