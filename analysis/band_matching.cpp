@@ -275,6 +275,18 @@ std::string solution_line(const TripleTable& table, const Solution& solution) {
   return line.append(status_words(solution.status));
 }
 
+std::string solution_heading(int solutions, bool with_widths) {
+  std::string line = left_field("No", Format(std::max(solutions, 1), "## ").size());
+  for (int plane = 0; plane < 3; ++plane) {
+    for (const auto* index : {"h", "k", "l"}) line += right_field(index, index_width);
+  }
+  for (const auto* component : {"u", "v", "w"}) line += right_field(component, component_width);
+  for (const auto* error : {"d12", "d23", "d31"}) line += right_field(error, angle_error_width);
+  if (!with_widths) return line;
+  for (const auto* error : {"w1", "w2", "w3"}) line += right_field(error, width_error_width);
+  return line;
+}
+
 std::array<PlaneIndices, 3> row_planes(const TripleTable& table, int row) {
   std::array<PlaneIndices, 3> planes;
   for (int i = 0; i < 3; ++i) {

@@ -54,6 +54,9 @@ struct Solution {
 /// One line of the list: number, indices, direction, angle and width errors, words on how it was solved.
 [[nodiscard]] std::string solution_line(const TripleTable& table, const Solution& solution);
 
+/// Names of the columns of so many lines, over the longest of them.
+[[nodiscard]] std::string solution_heading(int solutions, bool with_widths);
+
 /// The three planes of a row.
 [[nodiscard]] std::array<PlaneIndices, 3> row_planes(const TripleTable& table, int row);
 

@@ -56,8 +56,9 @@ struct Pattern3Form : Window {
   Label Label16{*this, "Label16", "Width tolerance (%) ="};
   TextBox Text17{*this, "Text17", "Width tolerance (%) ="};
   CommandButton Command1{*this, "Command1", "CALC"};
-  ControlArray<Label> Label1{*this, "Label1", 3};  // the bands, or the rotation that each asks for
-  ListBox List1{*this, "List1"};                   // solutions, then their number
+  ControlArray<Label> Label1{*this, "Label1", 3};               // the bands, or the rotation that each asks for
+  Label Heading{*this, "Heading", solution_heading(0, false)};  // of the columns of List1
+  ListBox List1{*this, "List1"};                                // solutions, then their number
   ProgressBar ProgressBar1{*this, "ProgressBar1"};
   ProgressBar ProgressBar2{*this, "ProgressBar2"};
 

@@ -116,6 +116,7 @@ void MatchAngle(Workbench& bench, Pattern3Form& form) {
   BarProgress progress(form.ProgressBar1);
   const auto found = match_bands(main1_state(bench), form.triples, form.NhklUsed, form.bands, match_settings(form),
                                  form.solutions, progress);
+  form.Heading.set_caption(solution_heading(form.solutions.SolutionCount.value(), form.Check2.checked()));
   for (const Solution& solution : found) list_solution(form, solution);
   form.List1.add_item("    No. of solution = " + plain_text(form.solutions.SolutionCount));
 }

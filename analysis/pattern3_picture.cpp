@@ -83,8 +83,11 @@ void set_labels(Pattern3Form& form, const std::array<const char*, 6>& first_labe
   for (const auto* label : first_labels) form.LineLabel(entry++) = label;
 }
 
-/// A new picture in the place of the old one: what was picked on that goes.
-void forget_lines(Workbench& bench, Pattern3Form& form) {
+/// Turns the picture over, if there is one. Nothing that was picked on it lies where it did: it goes.
+void turn_over(Workbench& bench, Pattern3Form& form, void (Canvas::*turn)()) {
+  if (!form.Picture1.has_picture()) return;
+  (form.Picture1.*turn)();
+  form.markers = {};
   Command2_Click(bench, form);
   form.List1.clear();
 }
@@ -211,15 +214,9 @@ void Imageclear_Click(Workbench& /*bench*/, Pattern3Form& form) {
   form.set_caption("");
 }
 
-void ImageFlip_Click(Workbench& bench, Pattern3Form& form) {
-  form.Picture1.flip_picture();
-  forget_lines(bench, form);
-}
+void ImageFlip_Click(Workbench& bench, Pattern3Form& form) { turn_over(bench, form, &Canvas::flip_picture); }
 
-void ImageMirror_Click(Workbench& bench, Pattern3Form& form) {
-  form.Picture1.mirror_picture();
-  forget_lines(bench, form);
-}
+void ImageMirror_Click(Workbench& bench, Pattern3Form& form) { turn_over(bench, form, &Canvas::mirror_picture); }
 
 void CorrectFile_Click(Workbench& bench, Pattern3Form& form) {
   form.CommonDialog1.set_initial_folder(bench.data.root);

@@ -76,6 +76,14 @@ TEST_F(Matching, FindsTheRowAndTheDirection) {
   EXPECT_EQ(progress.steps.back(), (std::pair{27, 27}));
   EXPECT_EQ(solution_line(table, found[0]).substr(0, 38), "1    1   0   0   1   1   0  -1   1   1");
   EXPECT_EQ(solution_line(table, found[0]).size(), 2U + 36 + 21 + 15);
+  for (const int count : {1, 50, 500}) {
+    Solution last = found[0];
+    last.number = count;
+    EXPECT_EQ(solution_heading(count, false).size(), solution_line(table, last).size()) << count;
+    last.width_error_percent.emplace();
+    EXPECT_EQ(solution_heading(count, true).size(), solution_line(table, last).size()) << count;
+  }
+  EXPECT_EQ(solution_heading(0, false), "No   h   k   l   h   k   l   h   k   l      u      v      w  d12  d23  d31");
   for (const auto& [status, words] :
        {std::pair{0, ""}, {1, " Det Error Div. By Zero"}, {2, " No Real Ans."}, {3, ""}, {4, ""}}) {
     Solution with_status = found[0];

@@ -372,6 +372,25 @@ TEST_F(DesktopTest, ProgressFillsItsBarAtOnce) {
   EXPECT_EQ(bar.value(), 0);
 }
 
+// Numbers of one and of two digits stand before the columns of the solutions; the count has no number.
+TEST_F(DesktopTest, SolutionsStandInColumnsAndInTheirColours) {
+  ListBox& list = program.windows().use<Pattern3Form>().List1;
+  const auto& model = *child<QListView>("PATTERN3", "List1").model();
+  desktop.enter([&list] {
+    list.add_item("9 a");
+    list.set_fore_colour(colours::red);
+    list.add_item("10 b");
+    list.set_fore_colour(colours::black);
+    list.add_item("  2");
+  });
+  int row = 0;
+  for (const auto* text : {" 9 a", "10 b", "  2"}) {
+    EXPECT_EQ(model.index(row, 0).data().toString().toStdString(), text);
+    EXPECT_EQ(model.index(row, 0).data(Qt::ForegroundRole).isValid(), row == 1) << row;
+    ++row;
+  }
+}
+
 class PictureView : public testing::Test {
  protected:
   PictureView() {

@@ -189,12 +189,17 @@ TEST_F(Pattern3Test, LoadedPictureIsTakenOverUpsideDown) {
   pattern2.ImageLoad.click();
   EXPECT_EQ(pattern2.Picture1.stored_image().pixel(0, 0), 102) << "lower left of the four, without the line";
 
+  form().markers.SiMarkX1 = 100;
   form().ImageFlip.click();
   EXPECT_EQ(pixel(0, 0), 102);
   EXPECT_EQ(form().lines.LineDone(0), 0) << "the lines belonged to the other view";
+  EXPECT_EQ(form().markers.SiMarkX1, 0);
   form().ImageMirror.click();
   EXPECT_EQ(pixel(0, 0), 103);
   form().Imageclear.click();
+  drag({0, 0, 511, 511});
+  form().ImageMirror.click();
+  EXPECT_EQ(form().lines.LineDone(0), 1) << "no picture, nothing to turn over";
   EXPECT_EQ(form().caption(), "");
   EXPECT_EQ(pixel(0, 0), RGB(255, 255, 255));
   form().ImageLoad.click();
