@@ -7,8 +7,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
 #include <system_error>
 #include <utility>
 
@@ -28,18 +26,6 @@ std::string quoted_for_message(std::string_view text) {
 }
 
 }  // namespace
-
-std::string read_file(const std::string& path) {
-  errno = 0;
-  std::error_code error;
-  if (std::filesystem::is_directory(path, error)) throw RunFailure("can't read " + path + ": it is a folder");
-  std::ifstream file(path, std::ios::binary);
-  if (!file) throw RunFailure("can't open " + path + ": " + std::strerror(errno != 0 ? errno : ENOENT));
-  std::ostringstream text;
-  if (file.peek() != std::ifstream::traits_type::eof()) text << file.rdbuf();
-  if (file.bad() || text.bad()) throw RunFailure("can't read " + path);
-  return std::move(text).str();
-}
 
 bool RecordReader::at_end() const {
   for (std::size_t i = at_; i < text_.size(); ++i) {

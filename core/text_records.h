@@ -8,12 +8,9 @@
 #include <string_view>
 
 #include "core/numbers.h"
+#include "core/read_file.h"
 
 namespace zol {
-
-/// Bytes of a whole file.
-/// @throws RunFailure  the file is missing or can't be read; the message names the path
-[[nodiscard]] std::string read_file(const std::string& path);
 
 /// Reads fields one after the other, on whatever line they stand. A blank before a field is skipped; a quoted field may
 /// hold commas and loses its quotes; a field read as a number takes the number that it starts with.

@@ -1,11 +1,14 @@
 #include "core/text_records.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
+
+namespace fs = std::filesystem;
 
 TEST(Records, FieldsRunOverLinesOfAllKinds) {
   RecordReader file("x", "1, 2\r\n\"a, b\" ,c d\r3\n  .5");
@@ -62,7 +65,6 @@ TEST(AtomicFiles, LeaveTheOldFileUnlessCommitted) {
 
 TEST(AtomicFiles, KeepPermissionsAndSymbolicLinks) {
   const ScratchFolder folder;
-  namespace fs = std::filesystem;
   folder.write("real", "old");
   const auto permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
   fs::permissions(folder.path("real"), permissions);
@@ -75,11 +77,21 @@ TEST(AtomicFiles, KeepPermissionsAndSymbolicLinks) {
   EXPECT_EQ(fs::status(folder.path("real")).permissions(), permissions);
 }
 
-TEST(Files, ThatCantBeOpenedAreNamed) {
+TEST(Files, ThatCantBeReadAreNamed) {
   const ScratchFolder folder;
-  EXPECT_EQ(failure_of([&] { (void)read_file(folder.path("none")); }),
-            "can't open " + folder.path("none") + ": No such file or directory");
-  EXPECT_NE(failure_of([&] { (void)read_file(folder.path("")); }).find("it is a folder"), std::string::npos);
+  ASSERT_EQ(mkfifo(folder.path("pipe").c_str(), 0666), 0);
+  std::ofstream(folder.path("large")).close();
+  fs::resize_file(folder.path("large"), most_text_bytes + 1);
+  for (const auto& [path, message] :
+       {std::pair{folder.path("none"), "can't open " + folder.path("none") + ": No such file or directory"},
+        {folder.path(""), "it is a folder"},
+        {folder.path("pipe"), "it is a pipe"},
+        {std::string("/dev/zero"), "can't read /dev/zero: it is a device"},
+        {folder.path("large"), "it has 67108865 bytes or more, at most 67108864 are taken"}}) {
+    EXPECT_NE(failure_of([&path = path] { (void)read_file(path); }).find(message), std::string::npos) << path;
+  }
+  EXPECT_NE(failure_of([] { (void)read_file("/proc/self/maps", 10); }).find("at most 10"), std::string::npos);
+  EXPECT_FALSE(read_file("/proc/self/maps").empty()) << "a file without a size";
   EXPECT_NE(failure_of([&] { AtomicFile(folder.path("none/out")); }).find("none/out"), std::string::npos);
 }
 
