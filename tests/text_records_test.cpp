@@ -1,14 +1,11 @@
 #include "core/text_records.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
-
-namespace fs = std::filesystem;
 
 TEST(Records, FieldsRunOverLinesOfAllKinds) {
   RecordReader file("x", "1, 2\r\n\"a, b\" ,c d\r3\n  .5");
@@ -48,51 +45,6 @@ TEST(Records, WhenBrokenAreToldWithFileLineAndField) {
     });
     EXPECT_EQ(failure, std::string("my.cry, ") + message);
   }
-}
-
-TEST(AtomicFiles, LeaveTheOldFileUnlessCommitted) {
-  const ScratchFolder folder;
-  folder.write("out", "old");
-  for (const bool committed : {false, true}) {
-    RecordWriter file(folder.path("out"));
-    file.field("a, b").field(0.1F).field(Integer(-3)).field(Long(100000)).end_line();
-    file.field("new").end_line();
-    if (committed) file.commit();
-    EXPECT_EQ(folder.read("out"), committed ? "\"a, b\",.1,-3,100000\r\n\"new\"\r\n" : "old");
-  }
-  EXPECT_EQ(folder.entries(), 1U) << "a temporary file was left behind";
-}
-
-TEST(AtomicFiles, KeepPermissionsAndSymbolicLinks) {
-  const ScratchFolder folder;
-  folder.write("real", "old");
-  const auto permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
-  fs::permissions(folder.path("real"), permissions);
-  fs::create_symlink("real", folder.path("link"));
-  AtomicFile file(folder.path("link"));
-  file.write("new");
-  file.commit();
-  EXPECT_EQ(folder.read("real"), "new");
-  EXPECT_TRUE(fs::is_symlink(folder.path("link")));
-  EXPECT_EQ(fs::status(folder.path("real")).permissions(), permissions);
-}
-
-TEST(Files, ThatCantBeReadAreNamed) {
-  const ScratchFolder folder;
-  ASSERT_EQ(mkfifo(folder.path("pipe").c_str(), 0666), 0);
-  std::ofstream(folder.path("large")).close();
-  fs::resize_file(folder.path("large"), most_text_bytes + 1);
-  for (const auto& [path, message] :
-       {std::pair{folder.path("none"), "can't open " + folder.path("none") + ": No such file or directory"},
-        {folder.path(""), "it is a folder"},
-        {folder.path("pipe"), "it is a pipe"},
-        {std::string("/dev/zero"), "can't read /dev/zero: it is a device"},
-        {folder.path("large"), "it has 67108865 bytes or more, at most 67108864 are taken"}}) {
-    EXPECT_NE(failure_of([&path = path] { (void)read_file(path); }).find(message), std::string::npos) << path;
-  }
-  EXPECT_NE(failure_of([] { (void)read_file("/proc/self/maps", 10); }).find("at most 10"), std::string::npos);
-  EXPECT_FALSE(read_file("/proc/self/maps").empty()) << "a file without a size";
-  EXPECT_NE(failure_of([&] { AtomicFile(folder.path("none/out")); }).find("none/out"), std::string::npos);
 }
 
 }  // namespace
