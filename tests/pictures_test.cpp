@@ -110,7 +110,9 @@ TEST_F(Pictures, AreBitmapsWithAllTheirPixels) {
     folder.write("caf\xe9.bmp", seed(name));
     canvas.load_picture(folder.path("caf\xe9.bmp"));
     const std::string whole = seed(name);
-    for (std::size_t size = 2; size < end; ++size) refused(whole.substr(0, size), "it is cut short: ");
+    for (std::size_t missing = 1; missing + 2 < end; missing += 1 + missing / 8) {
+      refused(whole.substr(0, end - missing), "it is cut short: ");
+    }
   }
   const std::string deep = seed("24-bit.bmp");
   refused(deep.substr(0, deep.size() - 1), "it is cut short: 3 rows of 16 bytes need 48, there are 47, for 2 rows");
