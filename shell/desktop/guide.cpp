@@ -8,6 +8,9 @@
 #include <QTextBlock>
 #include <QToolBar>
 
+#include "shell/data_folders.h"
+#include "shell/desktop/qt_text.h"
+
 namespace zol {
 namespace {
 
@@ -28,7 +31,7 @@ QString heading_name(const QString& heading) {
 QString guide_folder() {
   const QDir programs(QCoreApplication::applicationDirPath());
   for (const QString& folder : {programs.absoluteFilePath(QStringLiteral("../share/doc/zol/user-guide")),
-                                QStringLiteral(ZOL_SOURCE_DIR "/docs/user-guide")}) {
+                                to_qt(source_tree()) + QStringLiteral("/docs/user-guide")}) {
     if (QDir(folder).exists()) return QDir::cleanPath(folder);
   }
   return {};
