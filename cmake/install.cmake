@@ -20,7 +20,7 @@ install(CODE "file(CREATE_LINK ../../zol \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "ZOL developers")
-set(CPACK_PACKAGE_CONTACT "ZOL developers <zol@localhost>")
+set(CPACK_PACKAGE_CONTACT "ZOL developers <zol@example.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "reflection lists and diffraction patterns of a crystal")
 set(CPACK_PACKAGE_DESCRIPTION
 "A workbench for crystallographers and electron microscopists. It holds one
@@ -31,6 +31,7 @@ finds the orientation of the crystal.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS ${CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS})
 set(CPACK_STRIP_FILES ON)
+set(CPACK_PRE_BUILD_SCRIPTS ${PROJECT_SOURCE_DIR}/packaging/debian_files.cmake)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION science)
 # Beside the libraries: what Qt loads when it runs, for the screen and for icons, and a font with all signs of the lists.

@@ -1,16 +1,6 @@
 #include "core/text_records.h"
 
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <cerrno>
-#include <cstdlib>
-#include <cstring>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
-#include <system_error>
-#include <utility>
+#include <cmath>
 
 #include "core/number_text.h"
 #include "core/run_failure.h"
@@ -28,18 +18,6 @@ std::string quoted_for_message(std::string_view text) {
 }
 
 }  // namespace
-
-std::string read_file(const std::string& path) {
-  errno = 0;
-  std::error_code error;
-  if (std::filesystem::is_directory(path, error)) throw RunFailure("can't read " + path + ": it is a folder");
-  std::ifstream file(path, std::ios::binary);
-  if (!file) throw RunFailure("can't open " + path + ": " + std::strerror(errno != 0 ? errno : ENOENT));
-  std::ostringstream text;
-  if (file.peek() != std::ifstream::traits_type::eof()) text << file.rdbuf();
-  if (file.bad() || text.bad()) throw RunFailure("can't read " + path);
-  return std::move(text).str();
-}
 
 bool RecordReader::at_end() const {
   for (std::size_t i = at_; i < text_.size(); ++i) {
@@ -110,44 +88,6 @@ Integer RecordReader::next_integer(std::string_view field) {
     fail(std::string(field) + " is " + quoted_for_message(content) + ", it must be within -32768 to 32767");
   }
   return Integer::rounded(whole);
-}
-
-AtomicFile::AtomicFile(std::string path) : path_(std::move(path)) {
-  std::error_code error;
-  if (std::filesystem::is_directory(path_, error)) throw RunFailure("can't write " + path_ + ": it is a folder");
-  const auto behind_links = std::filesystem::weakly_canonical(path_, error);
-  target_ = error ? path_ : behind_links.string();
-  temporary_ = target_ + ".XXXXXX";
-  descriptor_ = mkstemp(temporary_.data());
-  if (descriptor_ < 0) fail(errno);
-  // mkstemp makes a private file; the result has the old file's permissions, or those of any new file.
-  struct stat old {};
-  const mode_t mask = umask(0);
-  umask(mask);
-  const mode_t mode = stat(target_.c_str(), &old) == 0 ? old.st_mode & 07777U : 0666U & ~mask;
-  (void)fchmod(descriptor_, mode);
-}
-
-AtomicFile::~AtomicFile() {
-  if (descriptor_ >= 0) close(descriptor_);
-  if (!temporary_.empty()) (void)unlink(temporary_.c_str());
-}
-
-void AtomicFile::fail(int reason) const { throw RunFailure("can't write " + path_ + ": " + std::strerror(reason)); }
-
-void AtomicFile::commit() {
-  for (std::string_view left = text_; !left.empty();) {
-    const ssize_t written = ::write(descriptor_, left.data(), left.size());
-    if (written >= 0) {
-      left.remove_prefix(static_cast<std::size_t>(written));
-    } else if (errno != EINTR) {
-      fail(errno);
-    }
-  }
-  if (fsync(descriptor_) != 0 && errno != EINVAL) fail(errno);  // EINVAL: nothing that could be brought to a disk
-  if (close(std::exchange(descriptor_, -1)) != 0) fail(errno);
-  if (std::rename(temporary_.c_str(), target_.c_str()) != 0) fail(errno);
-  temporary_.clear();
 }
 
 RecordWriter& RecordWriter::raw(std::string_view text) {

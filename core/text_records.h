@@ -1,19 +1,16 @@
 // Plain text records, the form of all data files: fields separated by a comma or a line end, strings in double quotes.
 //
-// Bytes are Latin-1; CR LF, LF or CR ends a line. Files are written with CR LF, to a temporary file that takes the
-// place of the old one only when it is complete.
+// Bytes are Latin-1; CR LF, LF or CR ends a line. Files are written with CR LF.
 #pragma once
 
 #include <string>
 #include <string_view>
 
+#include "core/atomic_file.h"
 #include "core/numbers.h"
+#include "core/read_file.h"
 
 namespace zol {
-
-/// Bytes of a whole file.
-/// @throws RunFailure  the file is missing or can't be read; the message names the path
-[[nodiscard]] std::string read_file(const std::string& path);
 
 /// Reads fields one after the other, on whatever line they stand. A blank before a field is skipped; a quoted field may
 /// hold commas and loses its quotes; a field read as a number takes the number that it starts with.
@@ -49,32 +46,6 @@ class RecordReader {
   std::size_t at_ = 0;
   int line_ = 1;       // of the field read last
   int next_line_ = 1;  // of the next character
-};
-
-/// A file under way: written to a temporary file beside it, renamed over it by commit. Without commit, as when the run
-/// fails, nothing is left and an old file stays as it was.
-class AtomicFile {
- public:
-  /// @throws RunFailure  the file can't be created; the message names the path
-  explicit AtomicFile(std::string path);
-  AtomicFile(const AtomicFile&) = delete;
-  AtomicFile& operator=(const AtomicFile&) = delete;
-  ~AtomicFile();
-
-  void write(std::string_view text) { text_ += text; }
-  /// Puts the file in its place once all of it is on the disk, so that even a machine that stops leaves the old file or
-  /// the new one.
-  /// @throws RunFailure  the file can't be written or renamed
-  void commit();
-
- private:
-  [[noreturn]] void fail(int reason) const;
-
-  std::string path_;       // as the user gave it, for messages
-  std::string target_;     // behind symbolic links
-  std::string temporary_;  // empty when there is none
-  int descriptor_ = -1;    // of the temporary file
-  std::string text_;
 };
 
 /// Writes records: fields separated by a comma without blanks, strings quoted, numbers in their shortest plain form.

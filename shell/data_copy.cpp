@@ -1,12 +1,13 @@
 #include "shell/data_copy.h"
 
-#include <cerrno>
-#include <cstdlib>
+#include <unistd.h>
+
 #include <cstring>
 #include <filesystem>
 
+#include "core/atomic_file.h"
+#include "core/read_file.h"
 #include "core/run_failure.h"
-#include "core/text_records.h"
 
 namespace zol {
 namespace {
@@ -24,6 +25,11 @@ void write_with_time(const fs::path& path, const std::string& text, fs::file_tim
   fs::last_write_time(path, time);
 }
 
+/// False for a file that the user has protected: it stays as it is, too.
+bool may_write(const fs::path& path) {
+  return (fs::status(path).permissions() & fs::perms(0222)) != fs::perms::none && access(path.c_str(), W_OK) == 0;
+}
+
 /// Adds and renews files, and writes the stamp last: a copy left half done is taken up again at the next start.
 void fill_copy(const fs::path& installed, const fs::path& copy, const std::string& version) {
   const fs::path stamp = stamp_of(copy);
@@ -32,39 +38,23 @@ void fill_copy(const fs::path& installed, const fs::path& copy, const std::strin
     const fs::path target = copy / entry.path().lexically_relative(installed);
     if (entry.is_directory()) {
       fs::create_directories(target);
-    } else if (!fs::exists(target) || fs::last_write_time(target) == time) {
+    } else if (!fs::exists(target) || (fs::last_write_time(target) == time && may_write(target))) {
       write_with_time(target, read_file(entry.path().string()), time);
     }
   }
   write_with_time(stamp, version, time);
 }
 
-/// A folder under way that is gone afterwards, unless renamed.
-class TemporaryFolder {
- public:
-  explicit TemporaryFolder(const std::string& beside) : path_(beside + ".XXXXXX") {
-    if (mkdtemp(path_.data()) == nullptr) throw RunFailure(std::strerror(errno));
-  }
-  TemporaryFolder(const TemporaryFolder&) = delete;
-  TemporaryFolder& operator=(const TemporaryFolder&) = delete;
-  ~TemporaryFolder() {
-    std::error_code ignored;
-    fs::remove_all(path_, ignored);
-  }
-  [[nodiscard]] const std::string& path() const { return path_; }
-
- private:
-  std::string path_;
-};
-
 void make_copy(const fs::path& installed, const fs::path& copy, const std::string& version) {
   fs::create_directories(copy.parent_path());
-  const TemporaryFolder folder(copy.string());
+  Temporary folder(copy.parent_path().string() + '/', Temporary::Kind::folder);
+  if (folder.reason() != 0) throw RunFailure(std::strerror(folder.reason()));
   fill_copy(installed, folder.path(), version);
   std::error_code error;
   fs::rename(folder.path(), copy, error);
   // Another program that started at the same time may have been first; its copy is as good.
   if (error && !fs::exists(stamp_of(copy))) throw fs::filesystem_error("", error);
+  if (!error) folder.renamed();
 }
 
 }  // namespace

@@ -1,11 +1,15 @@
 #include "shell/data_folders.h"
 
+#include <unistd.h>
+
+#include <cerrno>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <sstream>
 
+#include "core/read_file.h"
 #include "core/run_failure.h"
-#include "core/text_records.h"
 #include "shell/data_copy.h"
 #include "shell/program.h"
 
@@ -15,14 +19,15 @@ namespace {
 namespace fs = std::filesystem;
 
 std::string trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t\r");
+  const std::size_t first = text.find_first_not_of(" \t\r\n");
   if (first == std::string_view::npos) return "";
-  return std::string(text.substr(first, text.find_last_not_of(" \t\r") - first + 1));
+  return std::string(text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1));
 }
 
-bool is_file(const std::string& path) {
+/// Whatever bears the name: what is no file is told when it is read.
+bool is_there(const std::string& path) {
   std::error_code error;
-  return !path.empty() && fs::is_regular_file(path, error);
+  return !path.empty() && fs::exists(path, error);
 }
 
 bool is_folder(const fs::path& path) {
@@ -42,8 +47,29 @@ std::string environment(const char* name) {
 /// A folder of the user by the XDG base directory rules.
 fs::path user_folder(const char* variable, const char* below_home) {
   if (const fs::path given = environment(variable); given.is_absolute()) return given / "zol";
-  const std::string home = environment("HOME");
-  return home.empty() ? fs::path() : fs::path(home) / below_home / "zol";
+  const fs::path home = environment("HOME");
+  return home.is_absolute() ? home / below_home / "zol" : fs::path();
+}
+
+/// The user's own copy of the installed data, brought up to date, or else those themselves.
+DataRoot copy_of_installed(const DataPlaces& places) {
+  std::string reason;
+  if (places.user_data.empty()) {
+    reason = "neither HOME nor XDG_DATA_HOME names a folder for a copy of " + places.installed_data;
+  } else {
+    try {
+      update_data_copy(places.installed_data, places.user_data, places.installed_version);
+    } catch (const RunFailure& failure) {
+      reason = failure.message();
+    }
+  }
+  const bool copied = !places.user_data.empty() && is_folder(below(places.user_data).root);
+  DataRoot data = below(copied ? places.user_data : places.installed_data);
+  if (reason.empty() && ::access(data.crystal_folder.c_str(), W_OK) != 0) {
+    reason = data.crystal_folder + ": " + std::strerror(errno);
+  }
+  data.read_only = reason;
+  return data;
 }
 
 }  // namespace
@@ -78,18 +104,26 @@ DataRoot read_data_settings(const std::string& path) {
 }
 
 DataRoot find_data_root(const DataPlaces& places) {
-  if (is_file(places.beside_executable)) return read_data_settings(places.beside_executable);
-  if (is_file(places.user_settings)) return read_data_settings(places.user_settings);
+  if (is_there(places.beside_executable)) return read_data_settings(places.beside_executable);
+  if (is_there(places.user_settings)) return read_data_settings(places.user_settings);
   if (is_folder(places.source_data)) return below(places.source_data);
-  if (is_folder(places.installed_data)) {
-    if (places.user_data.empty()) {
-      throw RunFailure("neither HOME nor XDG_DATA_HOME names a folder for a copy of " + places.installed_data);
-    }
-    update_data_copy(places.installed_data, places.user_data, places.installed_version);
-  }
+  if (is_folder(places.installed_data)) return copy_of_installed(places);
   if (!places.user_data.empty() && is_folder(below(places.user_data).root)) return below(places.user_data);
-  throw RunFailure("no data files found: neither in " + places.user_data + " nor in " + places.installed_data +
-                   "; name their folder in " + places.user_settings + R"( with "data_root = FOLDER")");
+  throw RunFailure("no data files found: neither in " + places.installed_data + " nor in " +
+                   (places.user_data.empty() ? "the user's folders (there is no HOME)" : places.user_data) +
+                   "; name their folder in " +
+                   (places.user_settings.empty() ? places.beside_executable : places.user_settings) +
+                   R"( with "data_root = FOLDER")");
+}
+
+std::string source_tree() {
+  std::error_code error;
+  const fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
+  for (const auto& build : {folder, folder.parent_path()}) {
+    const std::string note = (build / "zol-source-tree").string();
+    if (!error && is_there(note)) return trimmed(read_file(note));
+  }
+  return "";
 }
 
 DataPlaces data_places() {
@@ -107,10 +141,7 @@ DataPlaces data_places() {
   }
   if (const fs::path data = user_folder("XDG_DATA_HOME", ".local/share"); !data.empty())
     places.user_data = data.string();
-  // A program in a build folder serves the tree that it was built from.
-  if (is_file((folder / "CMakeCache.txt").string()) || is_file((folder.parent_path() / "CMakeCache.txt").string())) {
-    places.source_data = ZOL_SOURCE_DIR "/data";
-  }
+  if (const std::string tree = source_tree(); !tree.empty()) places.source_data = tree + "/data";
   return places;
 }
 

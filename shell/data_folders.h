@@ -22,11 +22,15 @@ struct DataPlaces {
 
 /// The first of: zol.conf beside the executable, the user's zol.conf, the source tree, the user's own copy of the
 /// installed data, which the first start makes so that files can be saved and a newer version brings up to date.
-/// @throws RunFailure  a broken zol.conf, no data anywhere, or a copy that can't be made
+/// Without a place for the copy the installed data themselves serve, and the result says why nothing can be saved.
+/// @throws RunFailure  a broken zol.conf, or no data anywhere
 [[nodiscard]] DataRoot find_data_root(const DataPlaces& places);
 
 /// The places of this executable for this user.
 [[nodiscard]] DataPlaces data_places();
+
+/// The source tree of a program that lies in its build folder, which serves that tree; empty for an installed one.
+[[nodiscard]] std::string source_tree();
 
 /// Reads "data_root = PATH" and "crystal_folder = PATH"; lines with "#" at the head are comments; relative paths start
 /// at the folder of the file.

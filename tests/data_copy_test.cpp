@@ -28,23 +28,25 @@ TEST(DataCopy, NewVersionLeavesAloneWhatTheUserHasChanged) {
   const auto update = [&](const std::string& version) {
     update_data_copy(folder.path("share"), folder.path("copy"), version);
   };
-  for (const auto* name : {"plain", "changed", "removed"})
+  for (const auto* name : {"plain", "changed", "removed", "protected"})
     folder.write(std::string("share/ZOLDATA/") + name, "of version 1");
   update("1");
   folder.write("copy/ZOLDATA/changed", "mine");
   folder.write("copy/ZOLDATA/own", "mine");
   fs::remove(folder.path("copy/ZOLDATA/removed"));
+  fs::permissions(folder.path("copy/ZOLDATA/protected"), fs::perms::owner_read);
   update("1");
   EXPECT_FALSE(fs::exists(folder.path("copy/ZOLDATA/removed"))) << "no new version, so it stays away";
 
   for (const std::string version : {"2", "3"}) {
-    for (const auto* name : {"plain", "changed", "removed", "new"}) {
+    for (const auto* name : {"plain", "changed", "removed", "protected", "new"}) {
       folder.write(std::string("share/ZOLDATA/") + name, "of version " + version);
     }
     update(version);
     for (const auto* name : {"plain", "removed", "new"}) {
       EXPECT_EQ(folder.read(std::string("copy/ZOLDATA/") + name), "of version " + version) << name;
     }
+    EXPECT_EQ(folder.read("copy/ZOLDATA/protected"), "of version 1");
     for (const auto* name : {"changed", "own"}) {
       EXPECT_EQ(folder.read(std::string("copy/ZOLDATA/") + name), "mine") << name << ", version " << version;
     }

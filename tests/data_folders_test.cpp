@@ -7,6 +7,8 @@
 namespace zol {
 namespace {
 
+namespace fs = std::filesystem;
+
 TEST(DataFolders, AreTakenFromTheFirstPlaceThatHasThem) {
   const ScratchFolder folder;
   DataPlaces places;
@@ -36,6 +38,28 @@ TEST(DataFolders, AreTakenFromTheFirstPlaceThatHasThem) {
   EXPECT_EQ(find_data_root(places).crystal_folder, "/crystals");
 }
 
+TEST(DataFolders, AreTheInstalledOnesWhereNoCopyCanBeMade) {
+  const ScratchFolder folder;
+  folder.write("share/ZOL/table", "");
+  DataPlaces places;
+  places.installed_data = folder.path("share");
+  for (const auto& [user_data, reason] :
+       {std::pair{"", "neither HOME nor XDG_DATA_HOME names a folder"}, {"/proc/none/zol", "to /proc/none/zol: "}}) {
+    places.user_data = user_data;
+    const DataRoot data = find_data_root(places);
+    EXPECT_EQ(data.root, folder.path("share/ZOL"));
+    EXPECT_NE(data.read_only.find(reason), std::string::npos) << data.read_only;
+  }
+  fs::create_directories(folder.path("share/ZOLDATA"));
+  places.user_data = folder.path("home/zol");
+  EXPECT_EQ(find_data_root(places).read_only, "");
+  places.installed_version = "2";
+  fs::remove(folder.path("home/zol/copied-version"));
+  fs::create_directories(folder.path("home/zol/copied-version"));
+  EXPECT_EQ(find_data_root(places).root, folder.path("home/zol/ZOL")) << "a copy that can't be renewed still serves";
+  EXPECT_NE(find_data_root(places).read_only.find("it is a folder"), std::string::npos);
+}
+
 TEST(DataFolders, SettingsNameTheLineThatIsWrong) {
   const ScratchFolder folder;
   for (const auto* text : {"\ndata_rot = x\n", "\ndata_root x\n", "\ndata_root =\n"}) {
@@ -43,6 +67,9 @@ TEST(DataFolders, SettingsNameTheLineThatIsWrong) {
     EXPECT_NE(failure_of([&] { (void)read_data_settings(path); }).find("zol.conf, line 2: "), std::string::npos)
         << text;
   }
+  DataPlaces places;
+  places.user_settings = folder.path("");
+  EXPECT_NE(failure_of([&] { (void)find_data_root(places); }).find("it is a folder"), std::string::npos);
   const auto path = folder.write("zol.conf", "crystal_folder = x\n");
   EXPECT_NE(failure_of([&] { (void)read_data_settings(path); }).find("is missing"), std::string::npos);
 }

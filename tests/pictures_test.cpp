@@ -3,6 +3,7 @@
 
 #include <QImage>
 
+#include "core/read_file.h"
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
@@ -90,6 +91,51 @@ TEST_F(Pictures, ExportHasTheKindThatItsNameSays) {
   expect_failure("No such file", [&] { canvas.load_picture(folder.path("none.bmp")); });
   expect_failure("can't write", [&] { canvas.save_stored_image(folder.path("none/out.bmp")); });
   expect_failure("must end in .bmp, .png, .svg or .pdf", [&] { pictures->export_picture(canvas, "/a.b/out"); });
+}
+
+// The run-length file has 6 x 4 pixels from byte 1078 on: in each row a run of 6, one of 2 to fill it up, and its end,
+// but one run of 8 in the last row.
+TEST_F(Pictures, AreBitmapsWithAllTheirPixels) {
+  const auto seed = [](const std::string& name) { return read_file(ZOL_SOURCE_DIR "/fuzz/seeds/bitmap/" + name); };
+  const auto with = [](std::string bytes, std::size_t at, const std::string& other) {
+    return bytes.replace(at, other.size(), other);
+  };
+  const auto refused = [&](const std::string& bytes, const std::string& message) {
+    folder.write("a.bmp", bytes);
+    const auto failure = failure_of([&] { canvas.load_picture(folder.path("a.bmp")); });
+    EXPECT_NE(failure.find("a.bmp as a bitmap: " + message), std::string::npos) << failure;
+  };
+  for (const auto& [name, end] :
+       {std::pair{"1-bit.bmp", 74U}, {"8-bit.bmp", 130U}, {"24-bit.bmp", 102U}, {"rle.bmp", 1098U}}) {
+    folder.write("caf\xe9.bmp", seed(name));
+    canvas.load_picture(folder.path("caf\xe9.bmp"));
+    const std::string whole = seed(name);
+    for (std::size_t missing = 1; missing + 2 < end; missing += 1 + missing / 8) {
+      refused(whole.substr(0, end - missing), "it is cut short: ");
+    }
+  }
+  const std::string deep = seed("24-bit.bmp");
+  refused(deep.substr(0, deep.size() - 1), "it is cut short: 3 rows of 16 bytes need 48, there are 47, for 2 rows");
+  refused(with(deep, 10, "\xff\xff\xff\xff"), "it is cut short: 3 rows of 16 bytes need 48, there are 0");
+  refused(with(deep, 14, "\x38"), "its header is said to have 56 bytes");
+  for (const auto* side : {"\0\0\0\0", "\xff\xff\xff\x7f", "\0\0\0\x80"}) {
+    for (const std::size_t at : {18U, 22U}) refused(with(deep, at, std::string(side, 4)), "its header tells ");
+  }
+  refused(with(deep, 28, "\7"), "its header tells 7 bits a pixel in 1 planes");
+  refused(with(seed("8-bit.bmp"), 47, "\1"), "its palette is said to have 272 colours");
+  const std::string runs = seed("rle.bmp");
+  for (const auto& [at, bytes, message] :
+       {std::tuple{1084U, std::string("\0\1", 2), "its run-length code ends behind pixel 0 of 6 in row 2 of 4"},
+        {1084U, std::string("\3\1\2\1"), "its run-length code ends behind pixel 5 of 6 in row 2 of 4"},
+        {1084U, std::string("\7"), "its run-length code goes beyond the row behind pixel 7 of 6 in row 2 of 4"},
+        {1084U, std::string("\0\2", 2), "its run-length code leaves pixels out"},
+        {1096U, std::string("\0\6", 2), "it is cut short: it ends behind pixel 0 of 6 in row 4 of 4"}}) {
+    refused(with(runs, at, bytes), message);
+  }
+  for (const auto& other : {std::string(), std::string("<svg xmlns=\"http://www.w3.org/2000/svg\"/>"),
+                            seed("picture.png"), seed("picture.gif")}) {
+    refused(other, "a bitmap (BMP) begins with the letters BM");
+  }
 }
 
 // Three lines, of which one lies outside and one crosses the border; a disc inside, one cut, one outside; two texts.

@@ -47,41 +47,5 @@ TEST(Records, WhenBrokenAreToldWithFileLineAndField) {
   }
 }
 
-TEST(AtomicFiles, LeaveTheOldFileUnlessCommitted) {
-  const ScratchFolder folder;
-  folder.write("out", "old");
-  for (const bool committed : {false, true}) {
-    RecordWriter file(folder.path("out"));
-    file.field("a, b").field(0.1F).field(Integer(-3)).field(Long(100000)).end_line();
-    file.field("new").end_line();
-    if (committed) file.commit();
-    EXPECT_EQ(folder.read("out"), committed ? "\"a, b\",.1,-3,100000\r\n\"new\"\r\n" : "old");
-  }
-  EXPECT_EQ(folder.entries(), 1U) << "a temporary file was left behind";
-}
-
-TEST(AtomicFiles, KeepPermissionsAndSymbolicLinks) {
-  const ScratchFolder folder;
-  namespace fs = std::filesystem;
-  folder.write("real", "old");
-  const auto permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
-  fs::permissions(folder.path("real"), permissions);
-  fs::create_symlink("real", folder.path("link"));
-  AtomicFile file(folder.path("link"));
-  file.write("new");
-  file.commit();
-  EXPECT_EQ(folder.read("real"), "new");
-  EXPECT_TRUE(fs::is_symlink(folder.path("link")));
-  EXPECT_EQ(fs::status(folder.path("real")).permissions(), permissions);
-}
-
-TEST(Files, ThatCantBeOpenedAreNamed) {
-  const ScratchFolder folder;
-  EXPECT_EQ(failure_of([&] { (void)read_file(folder.path("none")); }),
-            "can't open " + folder.path("none") + ": No such file or directory");
-  EXPECT_NE(failure_of([&] { (void)read_file(folder.path("")); }).find("it is a folder"), std::string::npos);
-  EXPECT_NE(failure_of([&] { AtomicFile(folder.path("none/out")); }).find("none/out"), std::string::npos);
-}
-
 }  // namespace
 }  // namespace zol

@@ -24,6 +24,18 @@ void show_failure(const std::string& message) {
   box.exec();
 }
 
+void show_read_only(const DataRoot& data) {
+  QMessageBox box(QMessageBox::Warning, QStringLiteral("ZOL"),
+                  QCoreApplication::translate("zol", "Nothing can be saved in the folder of the data files."),
+                  QMessageBox::Ok);
+  box.setInformativeText(
+      QCoreApplication::translate("zol",
+                                  "%1\n\nThe program works with the files in %2 as they are. Choose another "
+                                  "folder when you save.")
+          .arg(to_qt(data.read_only), to_qt(data.root)));
+  box.exec();
+}
+
 void name_application() {
   QApplication::setApplicationName(QStringLiteral("zol"));
   QApplication::setApplicationDisplayName(QStringLiteral("ZOL"));
@@ -46,6 +58,7 @@ int run_application(int argc, char** argv, const std::function<void(Desktop&)>& 
     show_failure(failure.message());
     return 1;
   }
+  if (!data.read_only.empty()) show_read_only(data);
   DesktopServices services;
   Program program(data, services);
   Desktop desktop(program.windows(), show_failure);

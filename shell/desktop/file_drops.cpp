@@ -3,11 +3,12 @@
 #include <algorithm>
 
 #include <QDropEvent>
-#include <QFile>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QUrl>
 #include <QWidget>
+
+#include "shell/desktop/qt_text.h"
 
 namespace zol {
 namespace {
@@ -27,16 +28,16 @@ class DropFilter : public QObject {
     const bool dropped = event->type() == QEvent::Drop;
     if (!dropped && event->type() != QEvent::DragEnter) return false;
     auto& drag = dynamic_cast<QDropEvent&>(*event);
-    const QString path = file_of(drag);
+    const std::string path = file_of(drag);
     const auto taken = std::find_if(window_.file_drops.begin(), window_.file_drops.end(), [&path](const auto& drop) {
-      return path.endsWith(QString::fromStdString(drop.ending), Qt::CaseInsensitive);
+      return to_qt(path).endsWith(QString::fromStdString(drop.ending), Qt::CaseInsensitive);
     });
     if (taken == window_.file_drops.end()) return false;
     drag.setDropAction(Qt::CopyAction);
     drag.accept();
     if (dropped) {
-      enter_([&drop = *taken, name = QFile::encodeName(path).toStdString()] {
-        drop.dialog->answer_next(name);
+      enter_([&drop = *taken, path] {
+        drop.dialog->answer_next(path);
         drop.item->click();
       });
     }
@@ -44,10 +45,12 @@ class DropFilter : public QObject {
   }
 
  private:
-  /// The path of a single file; empty for anything else.
-  static QString file_of(const QDropEvent& drag) {
+  /// The path of a single file; empty for anything else. Its bytes as they are: they need not be UTF-8, which the texts
+  /// of Qt would make of them.
+  static std::string file_of(const QDropEvent& drag) {
     const auto urls = drag.mimeData()->urls();
-    return urls.size() == 1 ? urls.front().toLocalFile() : QString();
+    if (urls.size() != 1 || !urls.front().isLocalFile()) return "";
+    return QByteArray::fromPercentEncoding(urls.front().path(QUrl::FullyEncoded).toLatin1()).toStdString();
   }
 
   Window& window_;

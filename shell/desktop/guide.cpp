@@ -3,10 +3,14 @@
 #include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QImage>
 #include <QScrollBar>
 #include <QTextBlock>
 #include <QToolBar>
+
+#include "shell/data_folders.h"
+#include "shell/desktop/qt_text.h"
 
 namespace zol {
 namespace {
@@ -28,7 +32,7 @@ QString heading_name(const QString& heading) {
 QString guide_folder() {
   const QDir programs(QCoreApplication::applicationDirPath());
   for (const QString& folder : {programs.absoluteFilePath(QStringLiteral("../share/doc/zol/user-guide")),
-                                QStringLiteral(ZOL_SOURCE_DIR "/docs/user-guide")}) {
+                                to_qt(source_tree()) + QStringLiteral("/docs/user-guide")}) {
     if (QDir(folder).exists()) return QDir::cleanPath(folder);
   }
   return {};
@@ -49,6 +53,8 @@ void GuidePages::scroll_to_heading(const QString& name) {
 }
 
 QVariant GuidePages::loadResource(int type, const QUrl& name) {
+  const QUrl place = source().resolved(name);
+  if (place.isLocalFile() && !QFileInfo(place.toLocalFile()).isFile()) return {};  // a pipe would never end
   QVariant resource = QTextBrowser::loadResource(type, name);
   if (type != QTextDocument::ImageResource) return resource;
   const QImage image = QImage::fromData(resource.toByteArray());

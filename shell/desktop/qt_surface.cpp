@@ -3,14 +3,15 @@
 #include <cmath>
 
 #include <QBuffer>
-#include <QFile>
 #include <QFontMetricsF>
 #include <QImageReader>
 #include <QImageWriter>
 #include <QPainter>
 
+#include "core/atomic_file.h"
+#include "core/read_file.h"
 #include "core/run_failure.h"
-#include "core/text_records.h"
+#include "shell/bitmap_check.h"
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/qt_text.h"
 
@@ -21,13 +22,12 @@ int to_pixel(double coordinate) { return static_cast<int>(std::nearbyint(coordin
 
 /// A transparent image of one pixel at least.
 QImage new_image(int width, int height) {
-  constexpr qint64 most_pixels = qint64{8192} * 8192;  // 256 MB, what Qt reads from a file at most
   const QSize size(std::max(width, 1), std::max(height, 1));
   const auto fail = [size](const std::string& why) {
     throw RunFailure("can't make an image of " + std::to_string(size.width()) + " x " + std::to_string(size.height()) +
                      " pixels: " + why);
   };
-  if (qint64{size.width()} * size.height() > most_pixels) fail("at most 8192 x 8192 are possible");
+  if (qint64{size.width()} * size.height() > qint64{most_picture_pixels}) fail("at most 8192 x 8192 are possible");
   QImage image(size, QImage::Format_ARGB32_Premultiplied);
   if (image.isNull()) fail("not enough memory");
   image.fill(Qt::transparent);
@@ -100,13 +100,16 @@ void QtSurface::draw(const Surface& other, bool upside_down) {
 void QtSurface::mirror(bool left_to_right, bool upside_down) { image_ = image_.mirrored(left_to_right, upside_down); }
 
 void QtSurface::load_bitmap(const std::string& path) {
-  const QString name = QFile::decodeName(QByteArray::fromStdString(path));
-  QImageReader reader(name);
+  constexpr std::size_t most_bytes = most_picture_pixels * 4 + (std::size_t{1} << 20);
+  const std::string bytes = read_file(path, most_bytes);
+  check_bitmap(path, bytes);
+  auto raw = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  QBuffer buffer(&raw);
+  // What the bytes are is known: no other kind is tried, some of which take in further files.
+  QImageReader reader(&buffer, "bmp");
+  reader.setAutoDetectImageFormat(false);
   const QImage read = reader.read();
-  if (read.isNull()) {
-    if (!QFile::exists(name)) throw RunFailure("can't open " + path + ": No such file or directory");
-    throw RunFailure("can't read " + path + " as a bitmap: " + reader.errorString().toStdString());
-  }
+  if (read.isNull()) throw RunFailure("can't read " + path + " as a bitmap: " + reader.errorString().toStdString());
   image_ = read.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 

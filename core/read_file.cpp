@@ -1,0 +1,77 @@
+#include "core/read_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <cstring>
+
+#include "core/run_failure.h"
+
+namespace zol {
+namespace {
+
+/// Closes a descriptor at the end of a scope.
+struct OpenFile {
+  int descriptor;
+  explicit OpenFile(int opened) : descriptor(opened) {}
+  OpenFile(const OpenFile&) = delete;
+  OpenFile& operator=(const OpenFile&) = delete;
+  ~OpenFile() {
+    if (descriptor >= 0) close(descriptor);
+  }
+};
+
+/// Empty for a regular file.
+const char* other_kind(mode_t mode) {
+  if (S_ISREG(mode)) return "";
+  if (S_ISDIR(mode)) return "a folder";
+  if (S_ISFIFO(mode)) return "a pipe";
+  return S_ISSOCK(mode) ? "a socket" : "a device";
+}
+
+void check_kind(const std::string& path, const struct stat& file) {
+  if (const std::string kind = other_kind(file.st_mode); !kind.empty()) {
+    throw RunFailure("can't read " + path + ": it is " + kind + ", not a file");
+  }
+}
+
+void check_size(const std::string& path, std::uintmax_t size, std::size_t most_bytes) {
+  if (size <= most_bytes) return;
+  throw RunFailure("can't read " + path + ": it has " + std::to_string(size) + " bytes or more, at most " +
+                   std::to_string(most_bytes) + " are taken");
+}
+
+}  // namespace
+
+std::string read_file(const std::string& path, std::size_t most_bytes) {
+  struct stat file {};
+  // Looked at before it is opened, since a device may start by that, and once more, for it may be another file by then.
+  if (stat(path.c_str(), &file) == 0) check_kind(path, file);
+  const OpenFile open_file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  if (open_file.descriptor < 0) throw RunFailure("can't open " + path + ": " + std::strerror(errno));
+  if (fstat(open_file.descriptor, &file) != 0) throw RunFailure("can't read " + path + ": " + std::strerror(errno));
+  check_kind(path, file);
+  check_size(path, static_cast<std::uintmax_t>(file.st_size), most_bytes);
+
+  // The size is a guess: files that the system makes up say 0, and another program may be writing.
+  std::string text(static_cast<std::size_t>(file.st_size) + 1, '\0');
+  std::size_t length = 0;
+  constexpr std::size_t least_room = 4096;
+  for (;;) {
+    if (length == text.size()) text.resize(length + std::max(length, least_room));
+    const ssize_t count = read(open_file.descriptor, text.data() + length, text.size() - length);
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) throw RunFailure("can't read " + path + ": " + std::strerror(errno));
+    if (count == 0) break;
+    length += static_cast<std::size_t>(count);
+    check_size(path, length, most_bytes);
+  }
+  text.resize(length);
+  return text;
+}
+
+}  // namespace zol

@@ -1,0 +1,171 @@
+// Files as a whole: what is read and what is not, and what a save leaves of the old file.
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
+
+#include <array>
+#include <filesystem>
+
+#include "core/text_records.h"
+#include "tests/test_files.h"
+
+namespace zol {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr uid_t somebody = 4711;
+
+/// Another user than root, who may write everywhere, for the length of a scope.
+struct AsSomebody {
+  AsSomebody() { EXPECT_TRUE(geteuid() != 0 || (setegid(somebody) == 0 && seteuid(somebody) == 0)); }
+  ~AsSomebody() { EXPECT_TRUE(getuid() != 0 || (seteuid(0) == 0 && setegid(0) == 0)); }
+};
+
+void save(const std::string& path, const std::string& text) {
+  AtomicFile file(path);
+  file.write(text);
+  file.commit();
+}
+
+TEST(AtomicFiles, LeaveTheOldFileUnlessCommitted) {
+  const ScratchFolder folder;
+  folder.write("out", "old");
+  for (const bool committed : {false, true}) {
+    RecordWriter file(folder.path("out"));
+    file.field("a, b").field(0.1F).field(Integer(-3)).field(Long(100000)).end_line();
+    file.field("new").end_line();
+    if (committed) file.commit();
+    EXPECT_EQ(folder.read("out"), committed ? "\"a, b\",.1,-3,100000\r\n\"new\"\r\n" : "old");
+  }
+  EXPECT_EQ(folder.entries(), 1U) << "a temporary file was left behind";
+}
+
+TEST(AtomicFiles, KeepLinksPermissionsAndAttributes) {
+  const ScratchFolder folder;
+  folder.write("real", "old");
+  const auto permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
+  fs::permissions(folder.path("real"), permissions);
+  const bool attributes = setxattr(folder.path("real").c_str(), "user.note", "x", 1, 0) == 0;  // not on all disks
+  fs::create_directory(folder.path("other"));
+  fs::create_symlink("../real", folder.path("other/link"));
+  fs::create_symlink("other/link", folder.path("link"));
+  save(folder.path("link"), "new");
+  EXPECT_EQ(folder.read("real"), "new");
+  EXPECT_TRUE(fs::is_symlink(folder.path("link")) && fs::is_symlink(folder.path("other/link")));
+  EXPECT_EQ(fs::status(folder.path("real")).permissions(), permissions);
+  EXPECT_EQ(getxattr(folder.path("real").c_str(), "user.note", nullptr, 0), attributes ? 1 : -1);
+
+  fs::create_symlink("../not-yet", folder.path("other/dangling"));
+  save(folder.path("other/dangling"), "made");
+  EXPECT_TRUE(fs::is_symlink(folder.path("other/dangling")));
+  EXPECT_EQ(folder.read("not-yet"), "made");
+
+  fs::create_hard_link(folder.path("real"), folder.path("twin"));
+  save(folder.path("twin"), "3");
+  EXPECT_EQ(folder.read("real"), "3") << "both names are still the same file, and cut to the shorter text";
+  fs::create_symlink("loop", folder.path("loop"));
+  EXPECT_NE(failure_of([&] { AtomicFile(folder.path("loop")); }).find("Too many levels"), std::string::npos);
+}
+
+TEST(AtomicFiles, TakeNamesAsLongAsTheDiskDoes) {
+  const ScratchFolder folder;
+  for (const std::size_t length : {249U, 255U}) {
+    const std::string name(length, 'n');
+    for (const auto* text : {"old", "new"}) save(folder.path(name), text);
+    EXPECT_EQ(folder.read(name), "new");
+  }
+  EXPECT_NE(failure_of([&] { AtomicFile(folder.path(std::string(256, 'n'))); }).find("too long"), std::string::npos);
+}
+
+TEST(AtomicFiles, AreWrittenInPlaceWhereNoneCanBeMadeBeside) {
+  const ScratchFolder folder;
+  folder.write("shared/open", "old");
+  folder.write("shared/closed", "old");
+  folder.write("shared/protected", "old");
+  fs::permissions(folder.path("shared/open"), fs::perms::others_write, fs::perm_options::add);
+  fs::permissions(folder.path("shared/protected"), fs::perms::owner_read | fs::perms::others_read);
+  EXPECT_NE(failure_of([&] { AtomicFile(folder.path("shared/protected")); }).find("write-protected"),
+            std::string::npos);
+  if (getuid() == 0) {
+    fs::permissions(folder.path("shared"), fs::perms::others_all, fs::perm_options::remove);
+    ASSERT_EQ(chown(folder.path("shared/closed").c_str(), somebody, somebody), 0);
+    save(folder.path("shared/closed"), "by root");
+    struct stat file {};
+    ASSERT_EQ(stat(folder.path("shared/closed").c_str(), &file), 0);
+    EXPECT_EQ(file.st_uid, somebody) << "the file stays whose it was";
+    ASSERT_EQ(chown(folder.path("shared/closed").c_str(), 0, 0), 0);
+  }
+  ASSERT_EQ(chmod(folder.path("shared/closed").c_str(), getuid() == 0 ? 0600 : 0460), 0);
+  for (const auto folder_mode : {0555, 0777}) {  // in the second a new file would belong to somebody
+    ASSERT_EQ(chmod(folder.path("shared").c_str(), static_cast<mode_t>(folder_mode)), 0);
+    const AsSomebody user;
+    save(folder.path("shared/open"), "by somebody");
+    EXPECT_NE(failure_of([&] { AtomicFile(folder.path("shared/closed")); }).find("denied"), std::string::npos);
+  }
+  EXPECT_EQ(folder.read("shared/open"), "by somebody");
+  struct stat file {};
+  ASSERT_EQ(stat(folder.path("shared/open").c_str(), &file), 0);
+  EXPECT_EQ(file.st_uid, getuid());
+}
+
+TEST(AtomicFiles, GoToPipesAndDevices) {
+  const ScratchFolder folder;
+  const std::string pipe = folder.path("pipe");
+  ASSERT_EQ(mkfifo(pipe.c_str(), 0666), 0);
+  EXPECT_NE(failure_of([&] { AtomicFile{pipe}; }).find("nobody reads"), std::string::npos);
+  const int reader = open(pipe.c_str(), O_RDONLY | O_NONBLOCK);
+  save(pipe, "text");
+  std::array<char, 8> bytes{};
+  EXPECT_EQ(read(reader, bytes.data(), bytes.size()), 4);
+  AtomicFile given_up(pipe);
+  given_up.write("text");
+  close(reader);
+  EXPECT_NE(failure_of([&] { given_up.commit(); }).find("Broken pipe"), std::string::npos);
+  save("/dev/null", "text");
+  EXPECT_TRUE(fs::is_fifo(pipe) && fs::is_character_file("/dev/null"));
+  EXPECT_NE(failure_of([] { save("/dev/full", "text"); }).find("No space"), std::string::npos);
+
+  folder.write("output", "");
+  const int output = open(folder.path("output").c_str(), O_WRONLY);
+  ASSERT_EQ(write(output, "before ", 7), 7);
+  fs::create_symlink("/dev/fd/" + std::to_string(output), folder.path("link"));
+  save(folder.path("link"), "saved ");
+  ASSERT_EQ(write(output, "after", 5), 5);
+  close(output);
+  EXPECT_EQ(folder.read("output"), "before saved after") << "a file that is open goes on where it is";
+}
+
+TEST(AtomicFiles, CleanUpBehindProgramsThatWereKilled) {
+  const ScratchFolder folder;
+  for (const auto* name : {".zol-save-abcdef", ".zol-save-folder/part"}) folder.write(name, "left");
+  for (const auto* name : {".zol-save-abc", "out.abcdef", ".zol-save-abcdefg"}) folder.write(name, "the user's");
+  fs::create_symlink("out.abcdef", folder.path(".zol-save-linked"));
+  AtomicFile living(folder.path("living"));
+  save(folder.path("out"), "new");
+  living.commit();
+  EXPECT_EQ(folder.entries(), 6U) << "three files, a link, and the two that were saved";
+  EXPECT_FALSE(fs::exists(folder.path(".zol-save-abcdef")) || fs::exists(folder.path(".zol-save-folder")));
+}
+
+TEST(Files, ThatCantBeReadAreNamed) {
+  const ScratchFolder folder;
+  ASSERT_EQ(mkfifo(folder.path("pipe").c_str(), 0666), 0);
+  std::ofstream(folder.path("large")).close();
+  fs::resize_file(folder.path("large"), most_text_bytes + 1);
+  for (const auto& [path, message] :
+       {std::pair{folder.path("none"), "can't open " + folder.path("none") + ": No such file or directory"},
+        {folder.path(""), "it is a folder"},
+        {folder.path("pipe"), "it is a pipe"},
+        {std::string("/dev/zero"), "can't read /dev/zero: it is a device"},
+        {folder.path("large"), "it has 67108865 bytes or more, at most 67108864 are taken"}}) {
+    EXPECT_NE(failure_of([&path = path] { (void)read_file(path); }).find(message), std::string::npos) << path;
+  }
+  EXPECT_NE(failure_of([] { (void)read_file("/proc/self/maps", 10); }).find("at most 10"), std::string::npos);
+  EXPECT_FALSE(read_file("/proc/self/maps").empty()) << "a file without a size";
+  EXPECT_NE(failure_of([&] { AtomicFile(folder.path("none/out")); }).find("none/out"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace zol
