@@ -7,16 +7,20 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPrintDialog>
+#include <QPrinterInfo>
 #include <QProgressBar>
 #include <QRegularExpression>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
 
 #include "analysis/pattern3_form.h"
@@ -24,6 +28,7 @@
 #include "entry/input_jcpds_form.h"
 #include "reflections/main1_form.h"
 #include "shell/desktop/canvas_view.h"
+#include "shell/desktop/desktop_services.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/main_menu_form.h"
@@ -423,6 +428,81 @@ TEST(QtTexts, KeepLatin1AndPaths) {
   EXPECT_EQ(to_qt("α"), QStringLiteral("α"));
   EXPECT_EQ(from_qt(QStringLiteral("é")), "\xE9");
   EXPECT_EQ(from_qt(QStringLiteral("α-quartz")), "α-quartz");
+}
+
+class Dialogs : public testing::Test {
+ protected:
+  Dialogs() {  // a program that has ended in another test leaves no loop running, not even of a dialog
+    QTimer::singleShot(0, &QApplication::quit);
+    QApplication::exec();
+  }
+  /// Answers the next dialog of a kind.
+  template <class Dialog>
+  static void when_asked(const std::function<void(Dialog&)>& answer) {
+    QTimer::singleShot(0, [answer] {
+      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(dialog, nullptr);
+      answer(*dialog);
+    });
+  }
+
+  const ScratchFolder folder;
+  DesktopServices services;
+};
+
+TEST_F(Dialogs, ProposeByTheKindOfFile) {
+  for (const auto* name : {"crystals/a.cry", "imports/b.cif"}) folder.write(name, "x");
+  for (const auto& [kind, name] : {std::pair{FileKind::Crystal, "crystals/a.cry"}, {FileKind::Cif, "imports/b.cif"}}) {
+    const std::string path = folder.path(name);
+    when_asked<QFileDialog>([path](QFileDialog& dialog) {
+      dialog.selectFile(QString::fromStdString(path));
+      static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(services.ask_file({.kind = kind}), path);
+  }
+  QString place;
+  when_asked<QFileDialog>([&place](QFileDialog& dialog) {
+    place = dialog.directory().filePath(dialog.findChild<QLineEdit*>()->text());
+    dialog.reject();
+  });
+  EXPECT_EQ(services.ask_file({.kind = FileKind::Crystal, .save = true, .file_name = "/elsewhere/c.dat"}), "");
+  EXPECT_EQ(place.toStdString(), folder.path("crystals/c.dat"));
+}
+
+bool is_landscape(const std::string& pdf) {
+  double width = 0;
+  double height = 0;
+  const std::size_t box = pdf.find("/MediaBox [0 0 ");
+  return box != std::string::npos && std::istringstream(pdf.substr(box + 15)) >> width >> height && width > height;
+}
+
+// The file and the form of the page that the set-up dialog was told hold for the next window. Without a printer
+// anything else goes to a file, which is proposed to bear the name of what is printed.
+TEST_F(Dialogs, PrintToTheFileThatIsNamed) {
+  Program program({ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services);
+  Desktop desktop(program.windows(), [](const std::string& message) { ADD_FAILURE() << message; });
+  services.set_desktop(desktop);
+  Window& window = program.windows().use("Xd");
+  window.set_caption("NaCl.cry");
+  when_asked<QPrintDialog>([this](QPrintDialog& dialog) {
+    dialog.printer()->setPageOrientation(QPageLayout::Landscape);
+    dialog.findChild<QLineEdit*>(QStringLiteral("filename"))->setText(QString::fromStdString(folder.path("a.pdf")));
+    dialog.accept();
+  });
+  services.set_up_printer();
+  services.print_window(window);
+  EXPECT_TRUE(is_landscape(folder.read("a.pdf")));
+  if (!QPrinterInfo::availablePrinterNames().isEmpty()) return;
+  QStringList proposed;
+  const auto cancel = [&proposed](QFileDialog& dialog) {
+    proposed << dialog.findChild<QLineEdit*>()->text();
+    dialog.reject();
+  };
+  when_asked<QFileDialog>(cancel);
+  services.print_window(window);
+  when_asked<QFileDialog>(cancel);
+  services.end_document("Quartz.cry");
+  EXPECT_EQ(proposed, (QStringList{QStringLiteral("NaCl.pdf"), QStringLiteral("Quartz.pdf")}));
 }
 
 }  // namespace

@@ -224,7 +224,7 @@ void CanvasView::ask_export(double factor, const char* ending) {
   enter_([this, factor, suffix = NameEnding{ending}] {
     Services& services = canvas_->services();
     FileDialog dialog(services);
-    const std::string answer = dialog.save(suffix);
+    const std::string answer = dialog.save(FileKind::Export, suffix);
     if (answer.empty()) return;
     try {
       export_picture(*canvas_, suffix.added_to(answer), factor);

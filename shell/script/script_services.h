@@ -39,7 +39,7 @@ class ScriptServices : public Services {
   std::string prompt(const std::string& text, const std::string& title) override;
   void message(const std::string& text, const std::string& title) override;
   void print_line(const std::string& line) override { printed_.push_back(line); }
-  void end_document() override { printed_.emplace_back("--end of document--"); }
+  void end_document(const std::string& /*title*/) override { printed_.emplace_back("--end of document--"); }
   void print_window(Window& window) override { printed_.push_back("window " + window.caption()); }
   std::unique_ptr<Surface> make_surface(int width, int height) override;
   void export_picture(Canvas& canvas, const std::string& path) override;
