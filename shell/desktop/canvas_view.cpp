@@ -204,7 +204,7 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
   menu.addAction(tr("&Copy"), this, &CanvasView::copy_to_clipboard);
   menu.addSeparator();
   menu.addAction(tr("Export &PNG..."), this, [this] { ask_export(1.0, ".png"); });
-  menu.addAction(tr("Export PNG, &double size..."), this, [this] { ask_export(2.0, ".png"); });
+  menu.addAction(tr("Export PNG, dou&ble size..."), this, [this] { ask_export(2.0, ".png"); });
   menu.addAction(tr("Export PNG, &four times..."), this, [this] { ask_export(4.0, ".png"); });
   menu.addAction(tr("Export &SVG..."), this, [this] { ask_export(1.0, ".svg"); });
   menu.addAction(tr("Export P&DF..."), this, [this] { ask_export(1.0, ".pdf"); });
