@@ -6,6 +6,7 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
 #include <QFileDialog>
 #include <QLabel>
@@ -22,6 +23,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <QToolTip>
 
 #include "analysis/pattern3_form.h"
 #include "core/text_records.h"
@@ -179,8 +181,8 @@ TEST_P(CompleteWindow, ClipsNoText) {
     const QString text = shown->property("text").toString();
     const bool adapts = shown->property("wordWrap").toBool() || qobject_cast<QProgressBar*>(shown) != nullptr;
     if (!shown->isVisible() || text.isEmpty() || adapts) continue;
-    EXPECT_GE(shown->width(), shown->fontMetrics().size(Qt::TextShowMnemonic, text).width()) << from_qt(text);
-    EXPECT_GE(shown->height(), shown->fontMetrics().height()) << from_qt(text);
+    EXPECT_GE(shown->width(), shown->fontMetrics().size(Qt::TextShowMnemonic, text).width()) << text.toStdString();
+    EXPECT_GE(shown->height(), shown->fontMetrics().height()) << text.toStdString();
   }
 }
 
@@ -195,7 +197,8 @@ TEST_P(CompleteWindow, WalksByTabAsOneReads) {
       const int line = next->fontMetrics().height();
       const bool below = next->y() > last->y() + line / 2;
       const bool on_the_right = next->x() > last->x();  // the next in the line, or at the head of the next column
-      EXPECT_TRUE(below || on_the_right) << from_qt(last->objectName()) << " before " << from_qt(next->objectName());
+      EXPECT_TRUE(below || on_the_right) << last->objectName().toStdString() << " before "
+                                         << next->objectName().toStdString();
     }
     last = next;
   }
@@ -423,11 +426,22 @@ TEST_F(PictureView, PictureOfItsOwnSizeShowsPixelByPixel) {
   EXPECT_EQ(shown.pixelColor(5, 6), QColor(0, 255, 0)) << "the overlay";
 }
 
-TEST(QtTexts, KeepLatin1AndPaths) {
-  EXPECT_EQ(to_qt("\xE9"), QStringLiteral("é"));
-  EXPECT_EQ(to_qt("α"), QStringLiteral("α"));
-  EXPECT_EQ(from_qt(QStringLiteral("é")), "\xE9");
-  EXPECT_EQ(from_qt(QStringLiteral("α-quartz")), "α-quartz");
+// Boxes are Latin-1, byte by byte, also where the bytes could be UTF-8; names of files stay what they are.
+TEST_F(DesktopTest, BoxesTakeLatin1AndRefuseTheRest) {
+  show_main1();
+  QLineEdit& edit = box("Text2");
+  edit.setFocus();
+  for (const QString& pasted : {QStringLiteral("Å³"), QStringLiteral("1α"), QStringLiteral("2")}) {
+    QGuiApplication::clipboard()->setText(pasted);
+    edit.paste();
+  }
+  EXPECT_EQ(edit.text(), QStringLiteral("Å³2"));
+  EXPECT_EQ(main1().Text2.text(),
+            "\xC5\xB3"
+            "2");
+  EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("Not taken"))) << "and says so";
+  desktop.enter([this] { main1().Text17.set_text("/α/Å³.cry"); });
+  EXPECT_EQ(box("Text17").text(), QStringLiteral("/α/Å³.cry"));
 }
 
 class Dialogs : public testing::Test {

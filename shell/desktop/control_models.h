@@ -23,7 +23,7 @@ class ListModel : public QAbstractListModel {
   [[nodiscard]] int rowCount(const QModelIndex& /*parent*/ = {}) const override { return shown_; }
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
     if (index.row() >= list_.list_count()) return {};
-    if (role == Qt::DisplayRole) return to_qt(list_.items()[static_cast<std::size_t>(index.row())]);
+    if (role == Qt::DisplayRole) return latin1_to_qt(list_.items()[static_cast<std::size_t>(index.row())]);
     if (role == Qt::ForegroundRole && list_.fore_colour() != 0) return to_qt(list_.fore_colour());
     return {};
   }
@@ -46,11 +46,12 @@ class GridModel : public QAbstractTableModel {
   [[nodiscard]] int columnCount(const QModelIndex& /*parent*/ = {}) const override { return grid_.columns() - 1; }
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
     if (role != Qt::DisplayRole) return {};
-    return to_qt(grid_.text(index.row() + 1, index.column() + 1));
+    return latin1_to_qt(grid_.text(index.row() + 1, index.column() + 1));
   }
   [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
     if (role != Qt::DisplayRole) return {};
-    return to_qt(orientation == Qt::Horizontal ? grid_.text(0, section + 1) : grid_.text(section + 1, 0)).trimmed();
+    return latin1_to_qt(orientation == Qt::Horizontal ? grid_.text(0, section + 1) : grid_.text(section + 1, 0))
+        .trimmed();
   }
 
  private:

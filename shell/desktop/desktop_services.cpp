@@ -8,12 +8,14 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 
 #include "core/run_failure.h"
+#include "shell/desktop/latin1_input.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
@@ -92,10 +94,12 @@ void DesktopServices::set_up_printer() {
 }
 
 std::string DesktopServices::prompt(const std::string& text, const std::string& title) {
-  bool accepted = false;
-  const QString answer =
-      QInputDialog::getText(QApplication::activeWindow(), to_qt(title), to_qt(text), QLineEdit::Normal, {}, &accepted);
-  return accepted ? from_qt(answer) : "";
+  QInputDialog dialog(QApplication::activeWindow());
+  dialog.setWindowTitle(to_qt(title));
+  dialog.setLabelText(to_qt(text));
+  dialog.setTextEchoMode(QLineEdit::Normal);  // makes the box
+  take_latin1_only(*dialog.findChild<QLineEdit*>());
+  return dialog.exec() == QDialog::Accepted ? latin1_from_qt(dialog.textValue()) : "";
 }
 
 void DesktopServices::message(const std::string& text, const std::string& title) {
@@ -116,7 +120,7 @@ std::unique_ptr<QPrinter> DesktopServices::default_output(const std::string& tit
   return printer;
 }
 
-void DesktopServices::print_line(const std::string& line) { lines_ << to_qt(line); }
+void DesktopServices::print_line(const std::string& line) { lines_ << latin1_to_qt(line); }
 
 void DesktopServices::end_document(const std::string& title) {
   const QStringList lines = std::exchange(lines_, {});

@@ -63,7 +63,7 @@ class ListPainter {
     const QFont font = picture_font(drawn.font_size_pt);
     painter_.setFont(font);
     painter_.setPen(to_qt(drawn.colour));
-    painter_.drawText(place + QPointF(0, QFontMetricsF(font).ascent()), to_qt(drawn.text));
+    painter_.drawText(place + QPointF(0, QFontMetricsF(font).ascent()), latin1_to_qt(drawn.text));
   }
 
  private:
