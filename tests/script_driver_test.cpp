@@ -199,5 +199,32 @@ TEST(ScriptProgram, EndsWithItsStatus) {
   }
 }
 
+// The script or the output can break off at any time: nothing of it is lost in silence.
+TEST(ScriptProgram, TellsWhatOfItsTextsIsLost) {
+  struct Row {
+    const char* command;  // $zol is the program
+    int status;
+    std::string error;
+  };
+  const ScratchFolder folder;
+  const std::string full = "zol-script: can't write to standard output: No space left on device\n";
+  folder.write("a.zs", "echo a\n");
+  for (const auto& [command, status, error] :
+       {Row{"$zol a.zs >/dev/full", 1, full},
+        {"$zol --help >/dev/full", 1, full},
+        {"echo 'echo a\njump' | $zol >/dev/full", 2, "line 2: unknown operation \"jump\"\n" + full},
+        {"$zol a.zs >&-", 1, "zol-script: can't write to standard output: Bad file descriptor\n"},
+        {"{ while ! [ -e gone ]; do sleep 0.01; done; $zol a.zs; echo $? >piped; } | { exec <&-; touch gone; };"
+         " while ! [ -s piped ]; do sleep 0.01; done; (exit `cat piped`)",
+         1, "zol-script: can't write to standard output: Broken pipe\n"},
+        {"$zol .", 1, "failure of the run: can't read the script behind line 0: Is a directory\n"},
+        {"$zol <.", 1, "failure of the run: can't read the script behind line 0: Is a directory\n"},
+        {"$zol /proc/self/mem", 1, "failure of the run: can't read the script behind line 0: Input/output error\n"}}) {
+    const std::string line = "cd " + folder.path("") + "; zol=" ZOL_SCRIPT "; exec 2>err; " + command;
+    EXPECT_EQ(WEXITSTATUS(std::system(line.c_str())), status) << command;  // NOLINT(cert-env33-c,concurrency-mt-unsafe)
+    EXPECT_EQ(folder.read("err"), error) << command;
+  }
+}
+
 }  // namespace
 }  // namespace zol
