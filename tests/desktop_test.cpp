@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <memory>
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
@@ -46,6 +49,26 @@ struct PixelServices : FakeServices {
     return std::make_unique<QtSurface>(width, height);
   }
 };
+
+class OffscreenApplication : public testing::Environment {
+ public:
+  void SetUp() override {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    application_ = std::make_unique<QApplication>(argument_count_, arguments_.data());
+    use_desktop_resources();
+  }
+  void TearDown() override { application_.reset(); }
+
+ private:
+  std::string name_ = "desktop_test";
+  std::array<char*, 2> arguments_{name_.data(), nullptr};
+  int argument_count_ = 1;
+  std::unique_ptr<QApplication> application_;
+};
+/// A library that printing loads keeps a locale; with LOCPATH set, that is a leak of the system's.
+extern "C" const char* __lsan_default_suppressions();  // NOLINT(bugprone-reserved-identifier)
+extern "C" const char* __lsan_default_suppressions() { return "leak:argz_add_sep"; }
+[[maybe_unused]] const auto* const offscreen = testing::AddGlobalTestEnvironment(new OffscreenApplication);
 
 class DesktopTest : public testing::Test {
  protected:
@@ -521,11 +544,3 @@ TEST_F(Dialogs, PrintToTheFileThatIsNamed) {
 
 }  // namespace
 }  // namespace zol
-
-int main(int argc, char** argv) {
-  testing::InitGoogleTest(&argc, argv);
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(argc, argv);
-  zol::use_desktop_resources();
-  return RUN_ALL_TESTS();
-}
