@@ -37,8 +37,8 @@ Pattern3Form::Pattern3Form(Workbench& bench)
   fields().add("DragLine", DragLine);
   fields().add("SiMode", SiMode);
   fields().add("CenterMode", CenterMode);
-  fields().add("ImageFile", ImageFile);
-  fields().add("CorrectorFile", CorrectorFile);
+  fields().add_file_name("ImageFile", ImageFile);
+  fields().add_file_name("CorrectorFile", CorrectorFile);
   fields().add("AngleTol", AngleTol);
   fields().add("MatchMode", MatchMode);
   fields().add("EquivMode", EquivMode);

@@ -190,8 +190,8 @@ void Command10_Click(Pattern3Form& form, int index) {
 }
 
 void ImageLoad_Click(Workbench& bench, Pattern3Form& form) {
-  form.CommonDialog1.set_filter("bmp|*.bmp|");
-  const std::string path = form.CommonDialog1.open();
+  form.CommonDialog1.set_filter(file_filters::bitmaps);
+  const std::string path = form.CommonDialog1.open(FileKind::Picture);
   if (path.empty()) return;
   form.ImageFile = path;
   form.Picture1.load_picture(path);
@@ -202,7 +202,8 @@ void ImageLoad_Click(Workbench& bench, Pattern3Form& form) {
 }
 
 void ImageSAve_Click(Workbench& /*bench*/, Pattern3Form& form) {
-  const std::string path = form.CommonDialog1.save();
+  form.CommonDialog1.set_filter(file_filters::bitmaps);
+  const std::string path = form.CommonDialog1.save(FileKind::Picture);
   if (path.empty()) return;
   form.ImageFile = path;
   form.Picture1.save_image_with_overlay(path);
@@ -219,9 +220,9 @@ void ImageFlip_Click(Workbench& bench, Pattern3Form& form) { turn_over(bench, fo
 void ImageMirror_Click(Workbench& bench, Pattern3Form& form) { turn_over(bench, form, &Canvas::mirror_picture); }
 
 void CorrectFile_Click(Workbench& bench, Pattern3Form& form) {
-  form.CommonDialog1.set_initial_folder(bench.data.root);
+  form.CommonDialog1.set_initial_folder(FileKind::Corrector, bench.data.root);
   form.CommonDialog1.set_filter("");
-  const std::string path = form.CommonDialog1.open();
+  const std::string path = form.CommonDialog1.open(FileKind::Corrector);
   if (!path.empty()) form.CorrectorFile = path;
 }
 

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdio>
 
 namespace zol {
 namespace {
@@ -55,15 +54,14 @@ long long decimal_magnitude(std::string_view number) {
 }
 
 /// Value of a text that number_length took; out of range gives 0 or infinity.
-template <class Float>
-Float parse(std::string text) {
+double parse(std::string text) {
   std::replace_if(
       text.begin(), text.end(), [](char c) { return c == 'd' || c == 'D' || c == 'E'; }, 'e');
   const char* first = text.data() + (text.front() == '+' ? 1 : 0);
-  Float value = 0;
+  double value = 0;
   const auto result = std::from_chars(first, text.data() + text.size(), value);
   if (result.ec != std::errc::result_out_of_range) return value;
-  const Float size = decimal_magnitude(text) > 0 ? std::numeric_limits<Float>::infinity() : Float(0);
+  const double size = decimal_magnitude(text) > 0 ? std::numeric_limits<double>::infinity() : 0.0;
   return *first == '-' ? -size : size;
 }
 
@@ -97,8 +95,9 @@ Decimal from_scientific(std::string_view text) {
 /// The exact binary value rounded to so many significant digits, ties to even.
 Decimal to_decimal(double value, int significant_digits) {
   std::array<char, 64> text{};
-  std::snprintf(text.data(), text.size(), "%.*e", significant_digits - 1, value);
-  return from_scientific(text.data());
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::scientific,
+                                 significant_digits - 1);
+  return from_scientific({text.data(), static_cast<std::size_t>(end.ptr - text.data())});
 }
 
 /// Digits before and behind the point; no leading zeros before it.
@@ -158,19 +157,19 @@ std::optional<LeadingNumber> leading_number(std::string_view text) {
   const std::size_t length = number_length(text);
   if (length == 0) return std::nullopt;
   const std::string number(text.substr(0, length));
-  return LeadingNumber{parse<double>(number), parse<Single>(number), length};
+  return LeadingNumber{parse(number), length};
 }
 
 double Val(std::string_view text) {
   std::string packed;
   std::copy_if(text.begin(), text.end(), std::back_inserter(packed), [](char c) { return c != ' ' && c != '\t'; });
   const std::size_t length = number_length(packed);
-  return length == 0 ? 0.0 : parse<double>(packed.substr(0, length));
+  return length == 0 ? 0.0 : parse(packed.substr(0, length));
 }
 
 std::optional<double> strict_number(std::string_view text) {
   if (text.empty() || number_length(text) != text.size()) return std::nullopt;
-  return parse<double>(std::string(text));
+  return parse(std::string(text));
 }
 
 std::string plain_text(Single value) { return plain(to_decimal(value, 7)); }
@@ -182,7 +181,11 @@ std::string plain_text(Long value) { return std::to_string(value.value()); }
 std::string shortest_text(Single value) {
   std::array<char, 64> text{};
   const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::scientific);
-  return plain(from_scientific({text.data(), static_cast<std::size_t>(end.ptr - text.data())}));
+  const std::string_view shortest(text.data(), static_cast<std::size_t>(end.ptr - text.data()));
+  // Read as a Double first, a text near the middle of two Singles can fall on that middle and then to the wrong side.
+  if (static_cast<Single>(parse(std::string(shortest))) == value) return plain(from_scientific(shortest));
+  constexpr int always_enough = 9;
+  return plain(to_decimal(value, always_enough));
 }
 
 std::string Format(double value, std::string_view pattern) {

@@ -22,7 +22,6 @@ namespace zol {
 /// A number at the head of a text.
 struct LeadingNumber {
   double value = 0.0;      ///< infinite beyond the range of a Double
-  Single single = 0.0F;    ///< the decimal text rounded once, to 32 bits; infinite beyond the range
   std::size_t length = 0;  ///< characters taken
 };
 /// The longest number that the text starts with; none when it starts with no number.
@@ -42,7 +41,8 @@ template <class Number>
   return text.front() == '-' ? text : ' ' + text;
 }
 
-/// The shortest plain text that reads back as the same Single, at most 9 significant digits. All files use it.
+/// The shortest plain text that reads back, through a Double, as the same Single; at most 9 significant digits. All
+/// files use it.
 [[nodiscard]] std::string shortest_text(Single value);
 
 /// Digit pattern: "0" is a digit that always shows, "#" one that shows only if it is significant, "." the point, which

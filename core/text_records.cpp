@@ -73,10 +73,11 @@ Single RecordReader::next_single(std::string_view field) {
   const std::string content = next_string(field);
   const auto number = leading_number(content);
   if (!number) fail(std::string(field) + " is " + quoted_for_message(content) + ", a number is expected");
-  if (!std::isfinite(number->single)) {
+  const auto rounded = static_cast<Single>(number->value);
+  if (!std::isfinite(rounded)) {
     fail(std::string(field) + " is " + quoted_for_message(content) + ", too large for a Single (below 3.4E+38)");
   }
-  return number->single;
+  return rounded;
 }
 
 Integer RecordReader::next_integer(std::string_view field) {

@@ -41,7 +41,7 @@ void take_over(Module1State& state, const InputAtomForm& form) {
 /// The dialog comes first, then the table is emptied, whether or not a file was chosen.
 void import(InputAtomForm& form, std::vector<AtomRow> (*read)(const std::string& path)) {
   form.CommonDialog1.set_filter(file_filters::atom_lists);
-  const std::string path = form.CommonDialog1.open();
+  const std::string path = form.CommonDialog1.open(FileKind::AtomList);
   form.G.clear();
   write_frame(form.G, headers);
   if (path.empty()) return;

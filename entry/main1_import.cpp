@@ -16,9 +16,9 @@ void write_box(Main1Form& form, const BoxText& entry) {
 }
 
 template <class Reader>
-void import(Workbench& bench, Main1Form& form, const char* filter) {
+void import(Workbench& bench, Main1Form& form, FileKind kind, const char* filter) {
   form.CommonDialog1.set_filter(filter);
-  const std::string path = form.CommonDialog1.open();
+  const std::string path = form.CommonDialog1.open(kind);
   if (path.empty()) return;
   CrystalState& state = form.state;
   Reader reader(path, state);
@@ -32,8 +32,12 @@ void import(Workbench& bench, Main1Form& form, const char* filter) {
 
 }  // namespace
 
-void ImportfromCIF_Click(Workbench& bench, Main1Form& form) { import <CifReader>(bench, form, file_filters::cif); }
+void ImportfromCIF_Click(Workbench& bench, Main1Form& form) {
+  import <CifReader>(bench, form, FileKind::Cif, file_filters::cif);
+}
 
-void ImportFromICSD_Click(Workbench& bench, Main1Form& form) { import <IcsdReader>(bench, form, file_filters::texts); }
+void ImportFromICSD_Click(Workbench& bench, Main1Form& form) {
+  import <IcsdReader>(bench, form, FileKind::Icsd, file_filters::texts);
+}
 
 }  // namespace zol::main1

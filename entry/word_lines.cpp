@@ -48,8 +48,8 @@ void WordTable::take(std::string_view line) {
 
 Single WordTable::number(int index, std::string_view meaning) const {
   const std::string& word = words_(index);
-  const auto value = strict_number(word) ? leading_number(word) : std::nullopt;
-  if (value && std::isfinite(value->single)) return value->single;
+  const auto value = strict_number(word);
+  if (value && std::isfinite(static_cast<Single>(*value))) return static_cast<Single>(*value);
   const std::string place = index == 0 ? "there is no column for it" : "it is word " + std::to_string(index);
   throw RunFailure(path_ + ", line " + std::to_string(line_) + ": \"" + word + "\" is taken for " +
                    std::string(meaning) + " (" + place + "), a number and nothing else is expected");

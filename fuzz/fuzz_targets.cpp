@@ -40,9 +40,11 @@ void number_text(const std::string& input) {
     (void)Format(number->value, pattern);
   }
   (void)plain_text(number->value);
-  if (!std::isfinite(number->single)) return;
-  const auto again = leading_number(shortest_text(number->single));
-  require(again && again->single == number->single, "the shortest text of a Single reads back as the same Single");
+  const auto rounded = static_cast<Single>(number->value);
+  if (!std::isfinite(rounded)) return;
+  const auto again = leading_number(shortest_text(rounded));
+  require(again && static_cast<Single>(again->value) == rounded,
+          "the shortest text of a Single reads back as the same Single");
 }
 
 void text_records(const std::string& input) {

@@ -21,7 +21,8 @@ void fill_boxes(const Module1State& camera, CameraParametersForm& form) {
 std::string ask_file(Workbench& bench, CameraParametersForm& form, bool save) {
   form.CommonDialog1.set_initial_folder(bench.data.root);
   form.CommonDialog1.set_file_name(bench.state.CameraFile);
-  return save ? form.CommonDialog1.save() : form.CommonDialog1.open();
+  return save ? form.CommonDialog1.save(FileKind::CameraParameters)
+              : form.CommonDialog1.open(FileKind::CameraParameters);
 }
 
 void take(const TextBox& box, Single& scalar) { scalar = single_in(box); }

@@ -263,7 +263,7 @@ void Picture1_MouseDown(Workbench& bench, Pattern2Form& form, Single x, Single y
 }
 
 void ISAVE_Click(Workbench& /*bench*/, Pattern2Form& form) {
-  form.Picture1.save_stored_image(form.CommonDialog1.save_as({".bmp"}));
+  form.Picture1.save_stored_image(form.CommonDialog1.save_as(FileKind::Picture, {".bmp"}));
 }
 
 void Imagesize_Click(Workbench& bench, Pattern2Form& form) {

@@ -50,7 +50,7 @@ void Command2_Click(Workbench& bench, ZaxisForm& form) { zoom(bench, form, -0.1)
 void Command3_Click(Workbench& bench, ZaxisForm& form) { zoom(bench, form, 0.1); }
 
 void SaveMap_Click(Workbench& /*bench*/, ZaxisForm& form) {
-  form.Picture1.save_stored_image(form.CommonDialog1.save_as({".bmp"}));
+  form.Picture1.save_stored_image(form.CommonDialog1.save_as(FileKind::Picture, {".bmp"}));
 }
 
 }  // namespace zol::zaxis

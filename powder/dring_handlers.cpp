@@ -46,13 +46,13 @@ void Command2_Click(Workbench& /*bench*/, DringForm& form) { ask_for_scale(form)
 
 void Command3_Click(Workbench& /*bench*/, DringForm& form) {
   const NameEnding ending{".BMP", true};
-  const std::string& path = form.CommonDialog1.save(ending);
+  const std::string& path = form.CommonDialog1.save(FileKind::Picture, ending);
   if (!path.empty()) form.Picture2.save_stored_image(ending.added_to(path));
 }
 
 void Command4_Click(Workbench& /*bench*/, DringForm& form) {
   const NameEnding ending{".EDP", true};
-  const std::string& path = form.CommonDialog1.save(ending);
+  const std::string& path = form.CommonDialog1.save(FileKind::RingProfile, ending);
   if (!path.empty()) write_edp(ending.added_to(path), form.DStarMax, form.Profile);
 }
 

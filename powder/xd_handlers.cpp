@@ -45,14 +45,14 @@ void Command2_Click(Workbench& /*bench*/, XdForm& form) {
 
 void Command3_Click(Workbench& /*bench*/, XdForm& form) {
   const NameEnding ending{".XDP", true};
-  const std::string& path = form.CommonDialog1.save(ending);
+  const std::string& path = form.CommonDialog1.save(FileKind::PowderPattern, ending);
   if (path.empty()) return;
   write_xdp(ending.added_to(path), form.range(), form.line(), form.size(), form.Profile);
 }
 
 void Command4_Click(Workbench& /*bench*/, XdForm& form) {
   const NameEnding ending{".BMP", true};
-  const std::string& path = form.CommonDialog1.save(ending);
+  const std::string& path = form.CommonDialog1.save(FileKind::Picture, ending);
   if (!path.empty()) form.Picture1.save_stored_image(ending.added_to(path));
 }
 

@@ -64,7 +64,7 @@ void load_crystal(Workbench& bench, LoadBy by) {
   auto& form = bench.windows.use<Main1Form>();
   CrystalState& state = form.state;
   form.CommonDialog1.set_filter(file_filters::crystals);
-  state.CrystalFile = form.CommonDialog1.open();
+  state.CrystalFile = form.CommonDialog1.open(FileKind::Crystal);
   if (state.CrystalFile.empty()) return;
 
   CrystalFileReader file(state.CrystalFile);

@@ -7,6 +7,7 @@ namespace zol {
 Main1Form::Main1Form(Workbench& bench)
     : Window(window_name, "ZOL "), CommonDialog1(bench.services), state(bench.state) {
   file_drops = {{".cry", &DATA_LOAD, &CommonDialog1}, {".cif", &ImportfromCIF, &CommonDialog1}};
+  Text17.holds_file_name = true;
   register_main1_fields(fields(), bench.state);
 }
 

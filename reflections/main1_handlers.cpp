@@ -57,11 +57,17 @@ void set_wavelength(Main1Form& form, double wavelength, double mass_ratio) {
 /// Asks for the file of a report. It shares the remembered path with the crystal file.
 bool ask_report_file(Main1Form& form) {
   form.CommonDialog1.set_filter(file_filters::texts);
-  form.state.CrystalFile = form.CommonDialog1.save();
+  form.state.CrystalFile = form.CommonDialog1.save(FileKind::Report);
   return !form.state.CrystalFile.empty();
 }
 
 void print(Workbench& bench, const PrintLine& line) { bench.services.print_line(line.text()); }
+
+/// A report bears the name of the crystal's file.
+void end_document(Workbench& bench, const Main1Form& form) {
+  const std::string& path = form.Text17.text();
+  bench.services.end_document(path.empty() ? form.caption() : path.substr(path.rfind('/') + 1));
+}
 
 }  // namespace
 
@@ -202,7 +208,7 @@ void Command3_Click(Workbench& bench, Main1Form& form) {
     line.add(state.UCPos(m, 1)).add(state.UCPos(m, 2)).add(state.UCPos(m, 3)).add(state.UCB(m));
     print(bench, line);
   }
-  bench.services.end_document();
+  end_document(bench, form);
 }
 
 // After "Calc" the indices and RefS stand in the order of the triple table, RefA and RefB in that of the list, so that
@@ -226,7 +232,7 @@ void Command5_Click(Workbench& bench, Main1Form& form) {
     line.add(state.RefS(i)).add(state.RefA(i)).add(state.RefB(i));
     print(bench, line);
   }
-  bench.services.end_document();
+  end_document(bench, form);
 }
 
 void Command6_Click(Workbench& bench, Main1Form& /*form*/) { calculate(bench); }
@@ -277,7 +283,7 @@ void Command15_Click(Workbench& bench, Main1Form& form) {
 void DATA_SAVE_Click(Workbench& bench, Main1Form& form) {
   form.CommonDialog1.set_initial_folder(bench.data.crystal_folder);
   form.CommonDialog1.set_filter(file_filters::crystals);
-  form.state.CrystalFile = form.CommonDialog1.save();
+  form.state.CrystalFile = form.CommonDialog1.save(FileKind::Crystal);
   if (form.state.CrystalFile.empty()) return;
   write_crystal_file(form.state.CrystalFile, form.state);
   form.Text17.set_text(form.state.CrystalFile);

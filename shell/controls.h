@@ -130,6 +130,7 @@ class TextBox : public Control {
   Event<> on_change;
   Event<int&> on_key_press;
   Event<> on_lost_focus;
+  bool holds_file_name = false;  ///< bytes of the file system, where other boxes hold Latin-1
 
  private:
   std::string text_;

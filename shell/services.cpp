@@ -13,15 +13,23 @@ std::string NameEnding::added_to(const std::string& path) const {
 }
 
 std::string FileDialog::file_title() const {
-  const std::size_t slash = question_.file_name.find_last_of("/\\");
-  return slash == std::string::npos ? question_.file_name : question_.file_name.substr(slash + 1);
+  const std::size_t slash = file_name_.find_last_of("/\\");
+  return slash == std::string::npos ? file_name_ : file_name_.substr(slash + 1);
 }
 
-const std::string& FileDialog::ask(bool save, const NameEnding& ending) {
-  question_.save = save;
-  question_.ending = ending;
-  question_.file_name = answered_ ? *std::exchange(answered_, std::nullopt) : services_.ask_file(question_);
-  return question_.file_name;
+const std::string& FileDialog::ask(FileKind kind, bool save, const NameEnding& ending) {
+  std::string& last_name = last_names_[kind];
+  if (preset_) last_name = *std::exchange(preset_, std::nullopt);
+  const auto folder = folders_.find(kind);
+  const FileQuestion question{.kind = kind,
+                              .save = save,
+                              .initial_folder = folder == folders_.end() ? initial_folder_ : folder->second,
+                              .file_name = last_name,
+                              .filter = filter_,
+                              .ending = ending};
+  file_name_ = answered_ ? *std::exchange(answered_, std::nullopt) : services_.ask_file(question);
+  if (!file_name_.empty()) last_name = file_name_;
+  return file_name_;
 }
 
 PrintLine& PrintLine::add(std::string_view text) {

@@ -1,6 +1,7 @@
 // What the program asks of its surroundings: questions to the user, the printer, pixels, and its own end.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -29,14 +30,33 @@ inline constexpr auto crystals = "Crystal files|*.cry|";
 inline constexpr auto cif = "CIF|*.cif|";
 inline constexpr auto texts = "Text files|*.txt|";
 inline constexpr auto atom_lists = "Lists of atoms|*.txt;*.cif|";
+inline constexpr auto bitmaps = "bmp|*.bmp|";
+inline constexpr auto pages = "PDF|*.pdf|";
 }  // namespace file_filters
 
+/// What a file holds. Folders and names are proposed by it: a name of another kind never is.
+enum class FileKind {
+  Crystal,
+  Cif,
+  Icsd,
+  AtomList,
+  Report,
+  Picture,
+  PowderPattern,
+  RingProfile,
+  CameraParameters,
+  Corrector,
+  Export,
+  PrintedPage
+};
+
 struct FileQuestion {
+  FileKind kind = FileKind::Crystal;
   bool save = false;
-  std::string initial_folder;
-  std::string file_name;  ///< preset
-  std::string filter;     ///< "name|*.ending|", may be empty
-  NameEnding ending;      ///< the file that is written bears the answer with it
+  std::string initial_folder = {};
+  std::string file_name = {};  ///< preset, or the last answer for this kind, whatever was cancelled since
+  std::string filter = {};     ///< "name|*.ending|", may be empty
+  NameEnding ending = {};      ///< the file that is written bears the answer with it
 };
 
 class Services {
@@ -56,7 +76,9 @@ class Services {
   virtual void message(const std::string& text, const std::string& title) = 0;
 
   virtual void print_line(const std::string& line) = 0;  ///< one line of the document under way
-  virtual void end_document() = 0;                       ///< sends it
+  /// Sends the document. @param title  names it, also where it goes to a file
+  virtual void end_document(const std::string& title) = 0;
+  /// By the choice of the set-up dialog, which holds once.
   virtual void print_window(Window& window) = 0;
 
   /// A pixel image; nullptr where there are none.
@@ -73,30 +95,40 @@ class FileDialog {
  public:
   explicit FileDialog(Services& services) : services_(services) {}
 
-  void set_initial_folder(std::string folder) { question_.initial_folder = std::move(folder); }
-  void set_file_name(std::string name) { question_.file_name = std::move(name); }
-  void set_filter(std::string filter) { question_.filter = std::move(filter); }
+  void set_initial_folder(std::string folder) { initial_folder_ = std::move(folder); }
+  /// Of files of one kind, in the place of the common one.
+  void set_initial_folder(FileKind kind, std::string folder) { folders_[kind] = std::move(folder); }
+  /// Of the next question.
+  void set_file_name(std::string name) { preset_ = std::move(name); }
+  void set_filter(std::string filter) { filter_ = std::move(filter); }
 
   /// Each returns the full path, empty when the user cancelled.
-  const std::string& open() { return ask(false, {}); }
+  const std::string& open(FileKind kind) { return ask(kind, false, {}); }
   /// @param ending  what the caller adds to the answer
-  const std::string& save(const NameEnding& ending = {}) { return ask(true, ending); }
+  const std::string& save(FileKind kind, const NameEnding& ending = {}) { return ask(kind, true, ending); }
   /// The answer with its ending, also when it is empty.
-  [[nodiscard]] std::string save_as(const NameEnding& ending) { return ending.added_to(save(ending)); }
+  [[nodiscard]] std::string save_as(FileKind kind, const NameEnding& ending) {
+    return ending.added_to(save(kind, ending));
+  }
   void printer_setup() { services_.set_up_printer(); }
 
   /// Answers the next question in advance, as a file dropped on the window does.
   void answer_next(std::string path) { answered_ = std::move(path); }
 
-  [[nodiscard]] const std::string& file_name() const { return question_.file_name; }  ///< full path of the last answer
-  [[nodiscard]] std::string file_title() const;                                       ///< the name without folder
+  [[nodiscard]] const std::string& file_name() const { return file_name_; }  ///< full path of the last answer
+  [[nodiscard]] std::string file_title() const;                              ///< the name without folder
 
  private:
-  const std::string& ask(bool save, const NameEnding& ending);
+  const std::string& ask(FileKind kind, bool save, const NameEnding& ending);
 
   Services& services_;
-  FileQuestion question_;
+  std::string initial_folder_;
+  std::string filter_;
+  std::map<FileKind, std::string> folders_;
+  std::map<FileKind, std::string> last_names_;
+  std::optional<std::string> preset_;
   std::optional<std::string> answered_;
+  std::string file_name_;
 };
 
 /// Collects a printed line: print zones of 14 columns, each value starts at the next zone; a number is its Str and a

@@ -9,7 +9,7 @@ std::string asf_text(const AsfRow& row) {
   for (const Single value : {row.A1, row.B1, row.A2, row.B2, row.A3, row.B3, row.A4, row.B4, row.C}) {
     text += ',' + plain_text(value);
   }
-  return text + ',' + plain_text(row.Z);
+  return utf8_of_latin1(text + ',' + plain_text(row.Z));
 }
 
 }  // namespace
@@ -78,10 +78,10 @@ void register_main1_fields(NamedValues& values, const Main1State& state) {
   values.add("TiltY", state.TiltY);
   values.add("Dispersion", state.Dispersion);
   values.add("DisplayScale", state.DisplayScale);
-  values.add("CrystalFile", state.CrystalFile);
+  values.add_file_name("CrystalFile", state.CrystalFile);
   values.add("SystemName", state.SystemName);
   values.add("SGName", state.SGName);
-  values.add("SGFile", state.SGFile);
+  values.add_file_name("SGFile", state.SGFile);
   values.add("AxisSetting", state.AxisSetting);
   values.add_computed("AsfX", 1, [&state](std::span<const int> i) { return asf_text(state.AsfX(i[0])); });
   values.add("AsfXCount", state.AsfXCount);
@@ -123,7 +123,7 @@ void register_module1_fields(NamedValues& values, const Module1State& state) {
   values.add("CamXYRatio", state.CamXYRatio);
   values.add("CamNormal", state.CamNormal);
   values.add("CamDetector", state.CamDetector);
-  values.add("CameraFile", state.CameraFile);
+  values.add_file_name("CameraFile", state.CameraFile);
 }
 
 }  // namespace zol

@@ -12,12 +12,13 @@
 #include "core/bounded_array.h"
 #include "core/number_text.h"
 #include "shell/controls.h"
+#include "shell/latin1.h"
 #include "shell/services.h"
 
 namespace zol {
 
-/// Plain text of a value, as a view or a script shows it.
-[[nodiscard]] inline std::string shown_text(const String& value) { return value; }
+/// Plain text of a value in UTF-8, as a view or a script shows it.
+[[nodiscard]] inline std::string shown_text(const String& value) { return utf8_of_latin1(value); }
 template <class Number>
 [[nodiscard]] std::string shown_text(Number value) {
   return plain_text(value);
@@ -39,6 +40,10 @@ class NamedValues {
     entries_[name] = {2, [&table](std::span<const int> index) { return shown_text(table(index[0], index[1])); }};
   }
 
+  /// A name of a file is shown as it stands.
+  void add_file_name(const std::string& name, const String& path) {
+    entries_[name] = {0, [&path](std::span<const int>) { return path; }};
+  }
   /// A value that is put together when asked.
   void add_computed(const std::string& name, int dimensions, std::function<std::string(std::span<const int>)> text) {
     entries_[name] = {dimensions, std::move(text)};

@@ -74,7 +74,7 @@ void Command1_Click(Workbench& /*bench*/, FiberTextureForm& form) { form.hide();
 
 // The ending is always added, so that a cancelled dialog writes ".bmp".
 void Isave_Click(Workbench& /*bench*/, FiberTextureForm& form) {
-  form.Picture1.save_stored_image(form.CommonDialog1.save_as({".bmp"}));
+  form.Picture1.save_stored_image(form.CommonDialog1.save_as(FileKind::Picture, {".bmp"}));
 }
 
 void Fsize_Click(Workbench& bench, FiberTextureForm& form) {

@@ -78,7 +78,7 @@ void Command1_Click(Workbench& /*bench*/, PatternForm& form) { form.hide(); }
 
 // The ending is always added, so that a cancelled dialog writes ".bmp".
 void ISAVE_Click(Workbench& /*bench*/, PatternForm& form) {
-  form.Picture1.save_stored_image(form.CommonDialog1.save_as({".bmp"}));
+  form.Picture1.save_stored_image(form.CommonDialog1.save_as(FileKind::Picture, {".bmp"}));
 }
 
 void Spotsize_Click(Workbench& bench, PatternForm& /*form*/) {

@@ -125,14 +125,33 @@ TEST(SaveDialogs, KnowTheNameThatWillBeWritten) {
            Case{"report", {}, "report"},
        }) {
     services.answers = {answer};
-    EXPECT_EQ(dialog.save_as(ending), written);
+    EXPECT_EQ(dialog.save_as(FileKind::Picture, ending), written);
     EXPECT_EQ(services.questions.back().ending.added_to(answer), written) << "what the dialog may ask about";
   }
   dialog.answer_next("dropped.cry");
-  EXPECT_EQ(dialog.open(), "dropped.cry");
+  EXPECT_EQ(dialog.open(FileKind::Crystal), "dropped.cry");
   EXPECT_EQ(dialog.file_name(), "dropped.cry");
   services.answers = {"asked.cry"};
-  EXPECT_EQ(dialog.open(), "asked.cry") << "an answer in advance holds once";
+  EXPECT_EQ(dialog.open(FileKind::Crystal), "asked.cry") << "an answer in advance holds once";
+}
+
+// A name is proposed for its own kind only, and a cancel takes it away from none.
+TEST(SaveDialogs, ProposeTheLastNameOfTheKind) {
+  FakeServices services;
+  FileDialog dialog(services);
+  dialog.set_initial_folder("/pictures");
+  dialog.set_initial_folder(FileKind::Corrector, "/data");
+  services.answers = {"a.bmp", "", "corrector", "", "p"};
+  (void)dialog.save(FileKind::Picture);
+  EXPECT_EQ(dialog.save(FileKind::Picture), "");
+  EXPECT_EQ(dialog.file_name(), "");
+  (void)dialog.open(FileKind::Corrector);
+  (void)dialog.save(FileKind::Picture);
+  dialog.set_file_name("preset");
+  (void)dialog.save(FileKind::Picture);
+  std::string proposed;
+  for (const auto& question : services.questions) proposed += question.initial_folder + ':' + question.file_name + ' ';
+  EXPECT_EQ(proposed, "/pictures: /pictures:a.bmp /data: /pictures:a.bmp /pictures:preset ");
 }
 
 std::string ticks_text(double from, double to, int most) {

@@ -3,27 +3,37 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <memory>
+
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPrintDialog>
+#include <QPrinterInfo>
 #include <QProgressBar>
 #include <QRegularExpression>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
 #include <QToolButton>
+#include <QToolTip>
 
 #include "analysis/pattern3_form.h"
 #include "core/text_records.h"
 #include "entry/input_jcpds_form.h"
 #include "reflections/main1_form.h"
 #include "shell/desktop/canvas_view.h"
+#include "shell/desktop/desktop_services.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/main_menu_form.h"
@@ -39,6 +49,26 @@ struct PixelServices : FakeServices {
     return std::make_unique<QtSurface>(width, height);
   }
 };
+
+class OffscreenApplication : public testing::Environment {
+ public:
+  void SetUp() override {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    application_ = std::make_unique<QApplication>(argument_count_, arguments_.data());
+    use_desktop_resources();
+  }
+  void TearDown() override { application_.reset(); }
+
+ private:
+  std::string name_ = "desktop_test";
+  std::array<char*, 2> arguments_{name_.data(), nullptr};
+  int argument_count_ = 1;
+  std::unique_ptr<QApplication> application_;
+};
+/// A library that printing loads keeps a locale; with LOCPATH set, that is a leak of the system's.
+extern "C" const char* __lsan_default_suppressions();  // NOLINT(bugprone-reserved-identifier)
+extern "C" const char* __lsan_default_suppressions() { return "leak:argz_add_sep"; }
+[[maybe_unused]] const auto* const offscreen = testing::AddGlobalTestEnvironment(new OffscreenApplication);
 
 class DesktopTest : public testing::Test {
  protected:
@@ -174,8 +204,8 @@ TEST_P(CompleteWindow, ClipsNoText) {
     const QString text = shown->property("text").toString();
     const bool adapts = shown->property("wordWrap").toBool() || qobject_cast<QProgressBar*>(shown) != nullptr;
     if (!shown->isVisible() || text.isEmpty() || adapts) continue;
-    EXPECT_GE(shown->width(), shown->fontMetrics().size(Qt::TextShowMnemonic, text).width()) << from_qt(text);
-    EXPECT_GE(shown->height(), shown->fontMetrics().height()) << from_qt(text);
+    EXPECT_GE(shown->width(), shown->fontMetrics().size(Qt::TextShowMnemonic, text).width()) << text.toStdString();
+    EXPECT_GE(shown->height(), shown->fontMetrics().height()) << text.toStdString();
   }
 }
 
@@ -190,7 +220,8 @@ TEST_P(CompleteWindow, WalksByTabAsOneReads) {
       const int line = next->fontMetrics().height();
       const bool below = next->y() > last->y() + line / 2;
       const bool on_the_right = next->x() > last->x();  // the next in the line, or at the head of the next column
-      EXPECT_TRUE(below || on_the_right) << from_qt(last->objectName()) << " before " << from_qt(next->objectName());
+      EXPECT_TRUE(below || on_the_right) << last->objectName().toStdString() << " before "
+                                         << next->objectName().toStdString();
     }
     last = next;
   }
@@ -437,20 +468,98 @@ TEST_F(PictureView, PictureOfItsOwnSizeShowsPixelByPixel) {
   EXPECT_EQ(shown.pixelColor(5, 6), QColor(0, 255, 0)) << "the overlay";
 }
 
-TEST(QtTexts, KeepLatin1AndPaths) {
-  EXPECT_EQ(to_qt("\xE9"), QStringLiteral("é"));
-  EXPECT_EQ(to_qt("α"), QStringLiteral("α"));
-  EXPECT_EQ(from_qt(QStringLiteral("é")), "\xE9");
-  EXPECT_EQ(from_qt(QStringLiteral("α-quartz")), "α-quartz");
+// Boxes are Latin-1, byte by byte, also where the bytes could be UTF-8; names of files stay what they are.
+TEST_F(DesktopTest, BoxesTakeLatin1AndRefuseTheRest) {
+  show_main1();
+  QLineEdit& edit = box("Text2");
+  edit.setFocus();
+  for (const QString& pasted : {QStringLiteral("Å³"), QStringLiteral("1α"), QStringLiteral("2")}) {
+    QGuiApplication::clipboard()->setText(pasted);
+    edit.paste();
+  }
+  EXPECT_EQ(edit.text(), QStringLiteral("Å³2"));
+  EXPECT_EQ(main1().Text2.text(),
+            "\xC5\xB3"
+            "2");
+  EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("Not taken"))) << "and says so";
+  desktop.enter([this] { main1().Text17.set_text("/α/Å³.cry"); });
+  EXPECT_EQ(box("Text17").text(), QStringLiteral("/α/Å³.cry"));
+}
+
+class Dialogs : public testing::Test {
+ protected:
+  Dialogs() {  // a program that has ended in another test leaves no loop running, not even of a dialog
+    QTimer::singleShot(0, &QApplication::quit);
+    QApplication::exec();
+  }
+  /// Answers the next dialog of a kind.
+  template <class Dialog>
+  static void when_asked(const std::function<void(Dialog&)>& answer) {
+    QTimer::singleShot(0, [answer] {
+      auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+      ASSERT_NE(dialog, nullptr);
+      answer(*dialog);
+    });
+  }
+
+  const ScratchFolder folder;
+  DesktopServices services;
+};
+
+TEST_F(Dialogs, ProposeByTheKindOfFile) {
+  for (const auto* name : {"crystals/a.cry", "imports/b.cif"}) folder.write(name, "x");
+  for (const auto& [kind, name] : {std::pair{FileKind::Crystal, "crystals/a.cry"}, {FileKind::Cif, "imports/b.cif"}}) {
+    const std::string path = folder.path(name);
+    when_asked<QFileDialog>([path](QFileDialog& dialog) {
+      dialog.selectFile(QString::fromStdString(path));
+      static_cast<QDialog&>(dialog).accept();
+    });
+    EXPECT_EQ(services.ask_file({.kind = kind}), path);
+  }
+  QString place;
+  when_asked<QFileDialog>([&place](QFileDialog& dialog) {
+    place = dialog.directory().filePath(dialog.findChild<QLineEdit*>()->text());
+    dialog.reject();
+  });
+  EXPECT_EQ(services.ask_file({.kind = FileKind::Crystal, .save = true, .file_name = "/elsewhere/c.dat"}), "");
+  EXPECT_EQ(place.toStdString(), folder.path("crystals/c.dat"));
+}
+
+bool is_landscape(const std::string& pdf) {
+  double width = 0;
+  double height = 0;
+  const std::size_t box = pdf.find("/MediaBox [0 0 ");
+  return box != std::string::npos && std::istringstream(pdf.substr(box + 15)) >> width >> height && width > height;
+}
+
+// The file and the form of the page that the set-up dialog was told hold for the next window. Without a printer
+// anything else goes to a file, which is proposed to bear the name of what is printed.
+TEST_F(Dialogs, PrintToTheFileThatIsNamed) {
+  Program program({ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services);
+  Desktop desktop(program.windows(), [](const std::string& message) { ADD_FAILURE() << message; });
+  services.set_desktop(desktop);
+  Window& window = program.windows().use("Xd");
+  window.set_caption("NaCl.cry");
+  when_asked<QPrintDialog>([this](QPrintDialog& dialog) {
+    dialog.printer()->setPageOrientation(QPageLayout::Landscape);
+    dialog.findChild<QLineEdit*>(QStringLiteral("filename"))->setText(QString::fromStdString(folder.path("a.pdf")));
+    dialog.accept();
+  });
+  services.set_up_printer();
+  services.print_window(window);
+  EXPECT_TRUE(is_landscape(folder.read("a.pdf")));
+  if (!QPrinterInfo::availablePrinterNames().isEmpty()) return;
+  QStringList proposed;
+  const auto cancel = [&proposed](QFileDialog& dialog) {
+    proposed << dialog.findChild<QLineEdit*>()->text();
+    dialog.reject();
+  };
+  when_asked<QFileDialog>(cancel);
+  services.print_window(window);
+  when_asked<QFileDialog>(cancel);
+  services.end_document("Quartz.cry");
+  EXPECT_EQ(proposed, (QStringList{QStringLiteral("NaCl.pdf"), QStringLiteral("Quartz.pdf")}));
 }
 
 }  // namespace
 }  // namespace zol
-
-int main(int argc, char** argv) {
-  testing::InitGoogleTest(&argc, argv);
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication application(argc, argv);
-  zol::use_desktop_resources();
-  return RUN_ALL_TESTS();
-}

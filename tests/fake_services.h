@@ -85,7 +85,7 @@ class FakeServices : public Services {
   }
   void message(const std::string& text, const std::string& title) override { messages.push_back(text + "|" + title); }
   void print_line(const std::string& line) override { printed.push_back(line); }
-  void end_document() override { printed.emplace_back("end"); }
+  void end_document(const std::string& /*title*/) override { printed.emplace_back("end"); }
   void print_window(Window& window) override { printed.push_back("window " + window.caption()); }
   std::unique_ptr<Surface> make_surface(int width, int height) override {
     return std::make_unique<FakeSurface>(width, height);

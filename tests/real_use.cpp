@@ -89,6 +89,9 @@ void export_picture(const User& user, const char* window_name, const char* entry
   QTimer::singleShot(100, &picture, [entry] {
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     expect(menu != nullptr, QStringLiteral("a picture has no context menu"));
+    QString mnemonics;
+    for (auto* action : menu->actions()) mnemonics += action->text().section(u'&', 1).left(1).toUpper();
+    for (const QChar c : mnemonics) expect(mnemonics.count(c) == 1, QStringLiteral("two mnemonics ") + c);
     for (auto* action : menu->actions()) {
       if (action->text() != QString::fromLatin1(entry)) continue;
       QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
@@ -113,7 +116,7 @@ void show_spots(const User& user) {
   user.click("Pattern", "Command8");
   user.take_picture("Pattern", "spots");
   user.save("spots", "spots.bmp", [&user] { user.choose("Pattern", "ISAVE"); });
-  export_picture(user, "Pattern", "Export PNG, &double size...", "spots.png");
+  export_picture(user, "Pattern", "Export PNG, dou&ble size...", "spots.png");
   export_picture(user, "Pattern", "Export &SVG...", "spots.svg");
   export_picture(user, "Pattern", "Export P&DF...", "spots.pdf");
   user.click("Pattern", "Command1");

@@ -63,6 +63,8 @@ TEST(Script, TellsWhatIsWrongWithItsLine) {
         {"click Main1.Text1", "line 2: Main1.Text1 can't be clicked"},
         {"select Main1.Text1 1", "line 2: Main1.Text1 has no items"},
         {"select Main1.List3 x", "line 2: INDEX is \"x\", a whole number is expected"},
+        {"select Main1.List3 250", "line 2: Main1.List3 has no item 250, it has 250, the first is 0"},
+        {"select Main1.Combo1 -1", "line 2: Main1.Combo1 has no item -1, it has 15, the first is 0"},
         {"choose Main1.Combo1 17", "line 2: Main1.Combo1 has no item \"17\""},
         {"call Main1.Jump", "line 2: window Main1 has no operation Jump"},
         {"show Nowhere", "line 2: there is no window Nowhere"},
@@ -70,6 +72,11 @@ TEST(Script, TellsWhatIsWrongWithItsLine) {
         {"print Module1.RefH", "line 2: Module1.RefH takes 1 indices, given are 0"},
         {"print Module1.RefH(1", "line 2: \"RefH(1\" has no closing bracket"},
         {"echo \"x", "line 2: a quote is not closed"},
+        {"set Main1.Text1 4α", "line 2: \"α\" (U+03B1) is outside Latin-1"},
+        {"type Main1.Text1 \xC5", "line 2: \"Å\" is no UTF-8"},
+        {"choose Main1.Combo1 😀", "line 2: \"😀\" (U+1F600) is outside Latin-1"},
+        {"echo \xED\xA0\x80", "line 2: \"í\xC2\xA0\xC2\x80\" is no UTF-8"},
+        {"answer α\nclick Pattern.Fsize", "line 2: \"α\" (U+03B1) is outside Latin-1"},
         {"click Main1.DATA_LOAD", "unanswered: the name of a file to open"},
         {"call Main1.AtomCcalc", "failure: the unit cell needs a space group, none has been chosen"},
         {"print Module1.RefH(1)", "failure: index 1 of RefH, which has not been allocated yet"},
@@ -92,6 +99,25 @@ TEST(Script, PrintsEveryKindOfThing) {
             "    H   K   L     k/2    D(A)   2-Theta     A       B       F      I(powder)\n"
             "0 100 0\n1\nabc\nP21/c\n0\n0\nZOL \n0\nH,.493002,10.5109,.322912,26.1257,.140191,3.14236,.04081,57.7997,"
             ".003038,1\n");
+}
+
+// Å is one byte in a box and in a file, and two where the script meets them.
+TEST(Script, IsUtf8WhereBoxesAreLatin1) {
+  const ScratchFolder folder;
+  const std::string crystal = folder.path("Å³-α.cry");
+  const auto result =
+      run("set Main1.Text1 4\nset Main1.Text7 221\nleave Main1.Text7\nclick Main1.Command1\ntype InputAtom.G "
+          "\"Å³\\rNa\\r\"\nprint InputAtom.G\n"
+          "click InputAtom.Command1\nprint Module1.AtomLabel(1)\n"
+          "answer \"" +
+          crystal +
+          "\"\nclick Main1.DATA_SAVE\nprint Main1.CrystalFile\n"
+          "print Main1.Text17\nanswer \"" +
+          crystal + "\"\nclick Main1.DATA_LOAD\ncaption Xd\n");
+  EXPECT_EQ(result.error, "");
+  EXPECT_EQ(result.output, "\tSite Name\tElement\tOccupancy\tX\tY\tZ\tBiso\n 1\tÅ³\tNa\t\t\t\t\t\nÅ³\n" + crystal +
+                               "\n" + crystal + "\nÅ³-α.cry\n");
+  EXPECT_NE(folder.read("Å³-α.cry").find("\"\xC5\xB3\""), std::string::npos);
 }
 
 TEST(Script, QueuesAnswersInTheirOrder) {
@@ -170,6 +196,33 @@ TEST(ScriptProgram, EndsWithItsStatus) {
     const std::string told = folder.read("err");
     EXPECT_EQ(WEXITSTATUS(result), status) << command;
     EXPECT_TRUE(error.empty() ? told.empty() : told.starts_with(error)) << told;
+  }
+}
+
+// The script or the output can break off at any time: nothing of it is lost in silence.
+TEST(ScriptProgram, TellsWhatOfItsTextsIsLost) {
+  struct Row {
+    const char* command;  // $zol is the program
+    int status;
+    std::string error;
+  };
+  const ScratchFolder folder;
+  const std::string full = "zol-script: can't write to standard output: No space left on device\n";
+  folder.write("a.zs", "echo a\n");
+  for (const auto& [command, status, error] :
+       {Row{"$zol a.zs >/dev/full", 1, full},
+        {"$zol --help >/dev/full", 1, full},
+        {"echo 'echo a\njump' | $zol >/dev/full", 2, "line 2: unknown operation \"jump\"\n" + full},
+        {"$zol a.zs >&-", 1, "zol-script: can't write to standard output: Bad file descriptor\n"},
+        {"{ while ! [ -e gone ]; do sleep 0.01; done; $zol a.zs; echo $? >piped; } | { exec <&-; touch gone; };"
+         " while ! [ -s piped ]; do sleep 0.01; done; (exit `cat piped`)",
+         1, "zol-script: can't write to standard output: Broken pipe\n"},
+        {"$zol .", 1, "failure of the run: can't read the script behind line 0: Is a directory\n"},
+        {"$zol <.", 1, "failure of the run: can't read the script behind line 0: Is a directory\n"},
+        {"$zol /proc/self/mem", 1, "failure of the run: can't read the script behind line 0: Input/output error\n"}}) {
+    const std::string line = "cd " + folder.path("") + "; zol=" ZOL_SCRIPT "; exec 2>err; " + command;
+    EXPECT_EQ(WEXITSTATUS(std::system(line.c_str())), status) << command;  // NOLINT(cert-env33-c,concurrency-mt-unsafe)
+    EXPECT_EQ(folder.read("err"), error) << command;
   }
 }
 

@@ -25,6 +25,8 @@ TEST(Records, NumbersTakeWhatAFieldStartsWith) {
   RecordReader file("x", "1 2,-.5E1,.333333343,12abc,2.5,\"7\"");
   for (const Single number : {1.0F, -5.0F, 1.0F / 3.0F}) EXPECT_EQ(file.next_single("x"), number);
   for (const int number : {12, 2, 7}) EXPECT_EQ(file.next_integer("n"), number) << "halves go to the even number";
+  // Just above the middle between 1 and the next Single: as a Double it is that middle, which goes to the even side.
+  EXPECT_EQ(RecordReader("x", "1.000000059604644775390626").next_single("x"), 1.0F);
 }
 
 TEST(Records, WhenBrokenAreToldWithFileLineAndField) {

@@ -1,6 +1,8 @@
 // Vector files of real patterns: what the drawing list has inside the picture is in the file, as elements of their own.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
 #include <fstream>
 #include <regex>
 
@@ -26,9 +28,10 @@ struct PixelScriptServices : ScriptServices {
   void export_picture(Canvas& /*canvas*/, const std::string& /*path*/) override {}
 };
 
-/// Elements of a picture that the eye can count. A disc that crosses the border counts as cut.
+/// Elements of a picture that the eye can count. A disc that crosses the border counts as cut; each line from where the
+/// last one ends, in its colour, as joint.
 struct Elements {
-  int lines = 0, circles = 0, texts = 0, points = 0, cut = 0;
+  int lines = 0, circles = 0, texts = 0, points = 0, cut = 0, joints = 0;
 };
 
 Elements in_list(const Canvas& canvas) {
@@ -48,11 +51,20 @@ Elements in_list(const Canvas& canvas) {
     return false;
   };
   Elements count;
+  const DrawnLine* last = nullptr;  // unless another element stands between
   for (const Primitive& primitive : canvas.drawing()) {
     if (const auto* changed = std::get_if<UserScale>(&primitive.what)) scale = *changed;
     if (const auto* line = std::get_if<DrawnLine>(&primitive.what)) {
-      count.lines += is_seen({place(line->x1, line->y1), place(line->x2, line->y2)}) ? 1 : 0;
-    } else if (const auto* circle = std::get_if<DrawnCircle>(&primitive.what)) {
+      if (!is_seen({place(line->x1, line->y1), place(line->x2, line->y2)})) continue;
+      ++count.lines;
+      const bool joint =
+          last != nullptr && last->colour == line->colour && last->x2 == line->x1 && last->y2 == line->y1;
+      count.joints += joint ? 1 : 0;
+      last = line;
+      continue;
+    }
+    last = nullptr;
+    if (const auto* circle = std::get_if<DrawnCircle>(&primitive.what)) {
       const double radius = std::abs(circle->radius / (scale.right - scale.left) * picture.width());
       const QRectF box(place(circle->x, circle->y) - QPointF(radius, radius), QSizeF(2 * radius, 2 * radius));
       count.circles += picture.contains(box) ? 1 : 0;
@@ -72,8 +84,21 @@ Elements in_svg(const std::string& svg) {
     const std::regex wanted(element);
     return static_cast<int>(std::distance(std::sregex_iterator(svg.begin(), svg.end(), wanted), {}));
   };
-  return {count("<polyline "), count("<(circle|ellipse) "), count("<text "), count("<rect ") - 1,
-          0};  // one is the background
+  int polylines = 0;
+  int ends = 0;
+  for (std::size_t at = 0; (at = svg.find("<polyline ", at)) != std::string::npos; ++at) {
+    const auto points =
+        svg.begin() + static_cast<std::ptrdiff_t>(svg.find(" points=\"", at) + std::strlen(" points=\""));
+    ends += static_cast<int>(std::count(points, std::find(points, svg.end(), '"'), ','));
+    ++polylines;
+  }
+  Elements found;
+  found.lines = ends - polylines;
+  found.joints = ends - 2 * polylines;
+  found.circles = count("<(circle|ellipse) ");
+  found.texts = count("<text ");
+  found.points = count("<rect ") - 1;  // one is the background
+  return found;
 }
 
 struct Drawing {
@@ -115,6 +140,7 @@ TEST_P(VectorExport, HoldsEachElementInsideThePicture) {
   EXPECT_EQ(exported.points, drawn.points);
   if (drawn.cut == 0) {
     EXPECT_EQ(exported.lines, drawn.lines);
+    EXPECT_EQ(exported.joints, drawn.joints) << "a curve is one line";
   } else {
     EXPECT_GE(exported.lines, drawn.lines + drawn.cut) << "a cut circle is a line of pieces";
   }

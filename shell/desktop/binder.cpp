@@ -27,6 +27,7 @@
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/control_models.h"
 #include "shell/desktop/item_copies.h"
+#include "shell/desktop/latin1_input.h"
 #include "shell/desktop/qt_text.h"
 
 namespace zol {
@@ -37,10 +38,10 @@ int key_code(const QKeyEvent& event) {
   if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) return key_enter;
   if (event.key() == Qt::Key_Backspace) return key_backspace;
   if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return 0;
-  const std::string text = from_qt(event.text());
+  const QString text = event.text();
   if (text.size() != 1) return 0;
-  const int code = static_cast<unsigned char>(text.front());
-  return code >= ' ' && code != 127 ? code : 0;
+  const int code = text.front().unicode();
+  return code >= ' ' && code != 127 && code <= 0xFF ? code : 0;
 }
 
 }  // namespace
@@ -71,12 +72,15 @@ struct Binder::Tie : QObject {
 class Binder::TextTie : public Tie {
  public:
   TextTie(Binder& owner, TextBox& box, QLineEdit& edit) : Tie(owner, box, &edit), box_(box), edit_(edit) {
-    connect(&edit, &QLineEdit::textEdited, this,
-            [this](const QString& text) { binder.enter([this, typed = from_qt(text)] { box_.set_text(typed); }); });
+    if (!box.holds_file_name) take_latin1_only(edit);
+    connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
+      binder.enter(
+          [this, typed = box_.holds_file_name ? text.toStdString() : latin1_from_qt(text)] { box_.set_text(typed); });
+    });
     edit.installEventFilter(&owner);
   }
   void show() override {
-    const QString text = to_qt(box_.text());
+    const QString text = box_.holds_file_name ? to_qt(box_.text()) : latin1_to_qt(box_.text());
     if (edit_.text() == text) return;
     const int cursor = edit_.cursorPosition();
     edit_.setText(text);
@@ -160,9 +164,9 @@ class Binder::ComboTie : public Tie {
     const QSignalBlocker blocked(shown_);
     if (shown_.count() != static_cast<int>(combo_.items().size())) {
       shown_.clear();
-      for (const auto& item : combo_.items()) shown_.addItem(to_qt(item));
+      for (const auto& item : combo_.items()) shown_.addItem(latin1_to_qt(item));
     }
-    const QString text = to_qt(combo_.text());
+    const QString text = latin1_to_qt(combo_.text());
     shown_.setCurrentIndex(shown_.findText(text, Qt::MatchExactly));
     shown_.setEditText(text);
   }
@@ -294,9 +298,10 @@ class Binder::GridTie : public Tie {
   }
   bool key_pressed(QKeyEvent& event) override {
     const int code = key_code(event);
-    if (code == 0) return false;
-    binder.enter([this, code] { grid_.press_key(code); });
-    return true;
+    const bool refused = !is_latin1(event.text());
+    if (refused) say_refused(shown_);
+    if (code != 0) binder.enter([this, code] { grid_.press_key(code); });
+    return code != 0 || refused;
   }
 
  private:

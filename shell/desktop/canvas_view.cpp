@@ -204,7 +204,7 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
   menu.addAction(tr("&Copy"), this, &CanvasView::copy_to_clipboard);
   menu.addSeparator();
   menu.addAction(tr("Export &PNG..."), this, [this] { ask_export(1.0, ".png"); });
-  menu.addAction(tr("Export PNG, &double size..."), this, [this] { ask_export(2.0, ".png"); });
+  menu.addAction(tr("Export PNG, dou&ble size..."), this, [this] { ask_export(2.0, ".png"); });
   menu.addAction(tr("Export PNG, &four times..."), this, [this] { ask_export(4.0, ".png"); });
   menu.addAction(tr("Export &SVG..."), this, [this] { ask_export(1.0, ".svg"); });
   menu.addAction(tr("Export P&DF..."), this, [this] { ask_export(1.0, ".pdf"); });
@@ -224,7 +224,7 @@ void CanvasView::ask_export(double factor, const char* ending) {
   enter_([this, factor, suffix = NameEnding{ending}] {
     Services& services = canvas_->services();
     FileDialog dialog(services);
-    const std::string answer = dialog.save(suffix);
+    const std::string answer = dialog.save(FileKind::Export, suffix);
     if (answer.empty()) return;
     try {
       export_picture(*canvas_, suffix.added_to(answer), factor);

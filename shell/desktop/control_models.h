@@ -35,7 +35,7 @@ class ListModel : public QAbstractListModel {
     if (role == Qt::DisplayRole) {
       const auto& line = list_.items()[static_cast<std::size_t>(index.row())];
       const std::size_t word = first_word(line);
-      return to_qt(word == 0 || word >= widest_word_ ? line : std::string(widest_word_ - word, ' ') + line);
+      return latin1_to_qt(word == 0 || word >= widest_word_ ? line : std::string(widest_word_ - word, ' ') + line);
     }
     // Black is the text colour of the theme, which may be a dark one.
     if (role != Qt::ForegroundRole || list_.colour_of(index.row()) == colours::black) return {};
@@ -64,11 +64,12 @@ class GridModel : public QAbstractTableModel {
   [[nodiscard]] int columnCount(const QModelIndex& /*parent*/ = {}) const override { return grid_.columns() - 1; }
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
     if (role != Qt::DisplayRole) return {};
-    return to_qt(grid_.text(index.row() + 1, index.column() + 1));
+    return latin1_to_qt(grid_.text(index.row() + 1, index.column() + 1));
   }
   [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
     if (role != Qt::DisplayRole) return {};
-    return to_qt(orientation == Qt::Horizontal ? grid_.text(0, section + 1) : grid_.text(section + 1, 0)).trimmed();
+    return latin1_to_qt(orientation == Qt::Horizontal ? grid_.text(0, section + 1) : grid_.text(section + 1, 0))
+        .trimmed();
   }
 
  private:

@@ -8,12 +8,14 @@
 #include <QFontDatabase>
 #include <QFontMetricsF>
 #include <QInputDialog>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 
 #include "core/run_failure.h"
+#include "shell/desktop/latin1_input.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
@@ -42,13 +44,6 @@ QString usual_ending(const FileQuestion& question) {
   return to_qt(question.filter).section(u'|', 1, 1).section(u'.', -1);
 }
 
-/// The name that a save dialog begins with: the last one, with the ending that such files have.
-QString proposed_name(const FileQuestion& question) {
-  const QFileInfo last(QFile::decodeName(question.file_name.c_str()));
-  const QString ending = usual_ending(question);
-  return ending.isEmpty() || last.fileName().isEmpty() ? last.fileName() : last.completeBaseName() + u'.' + ending;
-}
-
 /// The answer to a question from the name the user gave: an ending that the program adds in any case is taken off.
 std::string answer_of(const FileQuestion& question, const QString& name) {
   QString answer = name;
@@ -70,15 +65,15 @@ bool may_write(QWidget* parent, const QString& path) {
 }  // namespace
 
 std::string DesktopServices::ask_file(const FileQuestion& question) {
-  const QString usual_folder = to_qt(question.initial_folder);
-  const QString folder = last_folders_.value(usual_folder, usual_folder.isEmpty() ? last_folder_ : usual_folder);
+  const QString usual_folder = QFile::decodeName(question.initial_folder.c_str());
+  const QString folder = last_folders_.value(question.kind, usual_folder.isEmpty() ? last_folder_ : usual_folder);
   QFileDialog dialog(QApplication::activeWindow(), question.save ? tr("Save") : tr("Open"), folder,
                      qt_filter(question));
   dialog.setFileMode(question.save ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
   dialog.setAcceptMode(question.save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
   dialog.setOption(QFileDialog::DontConfirmOverwrite);  // the name may get an ending yet
   if (question.save) {
-    dialog.selectFile(proposed_name(question));
+    dialog.selectFile(QFileInfo(QFile::decodeName(question.file_name.c_str())).fileName());
     if (question.ending.text.empty()) dialog.setDefaultSuffix(usual_ending(question));
   }
   while (dialog.exec() == QDialog::Accepted) {
@@ -86,56 +81,63 @@ std::string DesktopServices::ask_file(const FileQuestion& question) {
     std::string answer = answer_of(question, chosen);
     const QString written = QFile::decodeName(question.ending.added_to(answer).c_str());
     if (question.save && !may_write(&dialog, written)) continue;
-    last_folders_[usual_folder] = last_folder_ = QFileInfo(chosen).absolutePath();
+    last_folders_[question.kind] = last_folder_ = QFileInfo(chosen).absolutePath();
     return answer;
   }
   return "";
 }
 
 void DesktopServices::set_up_printer() {
-  if (QPrinterInfo::availablePrinterNames().isEmpty()) return;  // a PDF file is asked for when something is printed
-  QPrinter printer;
-  QPrintDialog dialog(&printer, QApplication::activeWindow());
-  if (dialog.exec() == QDialog::Accepted) chosen_printer_ = printer.printerName();
+  auto printer = std::make_unique<QPrinter>();
+  QPrintDialog dialog(printer.get(), QApplication::activeWindow());
+  if (dialog.exec() == QDialog::Accepted) set_up_ = std::move(printer);
 }
 
 std::string DesktopServices::prompt(const std::string& text, const std::string& title) {
-  bool accepted = false;
-  const QString answer =
-      QInputDialog::getText(QApplication::activeWindow(), to_qt(title), to_qt(text), QLineEdit::Normal, {}, &accepted);
-  return accepted ? from_qt(answer) : "";
+  QInputDialog dialog(QApplication::activeWindow());
+  dialog.setWindowTitle(to_qt(title));
+  dialog.setLabelText(to_qt(text));
+  dialog.setTextEchoMode(QLineEdit::Normal);  // makes the box
+  take_latin1_only(*dialog.findChild<QLineEdit*>());
+  return dialog.exec() == QDialog::Accepted ? latin1_from_qt(dialog.textValue()) : "";
 }
 
 void DesktopServices::message(const std::string& text, const std::string& title) {
   QMessageBox::warning(QApplication::activeWindow(), to_qt(title), to_qt(text));
 }
 
-bool DesktopServices::choose_output(QPrinter& printer) {
-  if (!chosen_printer_.isEmpty()) {
-    printer.setPrinterName(chosen_printer_);
-    return true;
-  }
-  if (!QPrinterInfo::availablePrinterNames().isEmpty()) return true;
-  const QString path = QFileDialog::getSaveFileName(QApplication::activeWindow(), tr("No printer: print to a PDF file"),
-                                                    last_folder_, tr("PDF files (*.pdf)"));
-  if (path.isEmpty()) return false;
-  printer.setOutputFormat(QPrinter::PdfFormat);
-  printer.setOutputFileName(path);
-  return true;
+std::unique_ptr<QPrinter> DesktopServices::default_output(const std::string& title) {
+  auto printer = std::make_unique<QPrinter>();
+  if (!QPrinterInfo::availablePrinterNames().isEmpty()) return printer;
+  const QString name = QFileInfo(to_qt(title).trimmed().replace(u'/', u'-')).completeBaseName();
+  const std::string path = ask_file({.kind = FileKind::PrintedPage,
+                                     .save = true,
+                                     .file_name = QFile::encodeName(name + QStringLiteral(".pdf")).toStdString(),
+                                     .filter = file_filters::pages});
+  if (path.empty()) return nullptr;
+  printer->setOutputFormat(QPrinter::PdfFormat);
+  printer->setOutputFileName(QFile::decodeName(path.c_str()));
+  return printer;
 }
 
-void DesktopServices::print_line(const std::string& line) { lines_ << to_qt(line); }
+void DesktopServices::print_line(const std::string& line) { lines_ << latin1_to_qt(line); }
 
-void DesktopServices::end_document() {
+void DesktopServices::end_document(const std::string& title) {
   const QStringList lines = std::exchange(lines_, {});
-  QPrinter printer;
-  if (choose_output(printer)) print_lines(printer, lines);
+  const auto printer = default_output(title);
+  if (!printer) return;
+  printer->setDocName(to_qt(title));
+  print_lines(*printer, lines);
 }
 
 void DesktopServices::print_window(Window& window) {
   const auto* binder = desktop_->binder(window.name());
-  QPrinter printer;
-  if (binder == nullptr || !choose_output(printer)) return;
+  if (binder == nullptr) return;
+  auto chosen = std::exchange(set_up_, nullptr);
+  if (!chosen) chosen = default_output(window.caption());
+  if (!chosen) return;
+  QPrinter& printer = *chosen;
+  printer.setDocName(to_qt(window.caption()).trimmed());
   QPainter painter(&printer);
   if (!painter.isActive()) throw RunFailure("can't print the window " + window.caption());
   const QPixmap image = binder->widget().grab();

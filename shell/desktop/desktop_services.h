@@ -20,7 +20,7 @@ class DesktopServices : public Services {
   std::string prompt(const std::string& text, const std::string& title) override;
   void message(const std::string& text, const std::string& title) override;
   void print_line(const std::string& line) override;
-  void end_document() override;
+  void end_document(const std::string& title) override;
   void print_window(Window& window) override;
   std::unique_ptr<Surface> make_surface(int width, int height) override;
   void export_picture(Canvas& canvas, const std::string& path) override;
@@ -29,15 +29,14 @@ class DesktopServices : public Services {
   void set_desktop(Desktop& desktop) { desktop_ = &desktop; }
 
  private:
-  /// The printer of the set-up dialog or the default one; a PDF file where the machine has no printer.
-  /// @returns false when the user cancelled
-  bool choose_output(QPrinter& printer);
+  /// The default printer; where the machine has none, a PDF file that the user names.
+  /// @returns nullptr when the user cancelled
+  std::unique_ptr<QPrinter> default_output(const std::string& title);
 
   Desktop* desktop_ = nullptr;
-  // Of this session. Crystals, camera files and pictures, each with a usual folder of their own, are remembered apart.
-  QMap<QString, QString> last_folders_;
-  QString last_folder_;
-  QString chosen_printer_;
+  QMap<FileKind, QString> last_folders_;  // of this session
+  QString last_folder_;                   // of all kinds, for one that has none yet
+  std::unique_ptr<QPrinter> set_up_;      // as the dialog left it, for the next window that is printed
   QStringList lines_;
 };
 

@@ -4,6 +4,7 @@
 
 #include <QFontMetricsF>
 #include <QPainterPath>
+#include <QPolygonF>
 
 #include "core/run_failure.h"
 #include "shell/desktop/qt_surface.h"
@@ -23,10 +24,13 @@ class ListPainter {
   void operator()(const UserScale& scale) { scale_ = scale; }
 
   void operator()(const DrawnLine& drawn) {
-    const auto line = clipped({x(drawn.x1), y(drawn.y1), x(drawn.x2), y(drawn.y2)}, picture_);
-    if (!line) return;
-    painter_.setPen(pen(drawn.colour));
-    painter_.drawLine(*line);
+    gather({x(drawn.x1), y(drawn.y1), x(drawn.x2), y(drawn.y2)}, drawn.colour);
+  }
+  void draw_gathered() {
+    if (gathered_.isEmpty()) return;
+    painter_.setPen(pen(gathered_colour_));
+    painter_.drawPolyline(gathered_);
+    gathered_.clear();
   }
 
   void operator()(const DrawnCircle& drawn) {
@@ -34,28 +38,32 @@ class ListPainter {
     const QPointF centre(x(drawn.x), y(drawn.y));
     const QRectF box(centre.x() - radius, centre.y() - radius, 2 * radius, 2 * radius);
     if (!box.intersects(picture_) || radius > largest_radius) return;
-    painter_.setPen(pen(drawn.colour));
+    draw_gathered();
     if (picture_.contains(box)) {
+      painter_.setPen(pen(drawn.colour));
       painter_.setBrush(drawn.fill ? QBrush(to_qt(*drawn.fill)) : QBrush(Qt::NoBrush));
       painter_.drawEllipse(centre, radius, radius);
     } else {
-      paint_cut_circle(box, drawn.fill);
+      paint_cut_circle(box, drawn);
     }
   }
 
   void operator()(const DrawnPoint& drawn) {
     const QPointF place(std::nearbyint(x(drawn.x)), std::nearbyint(y(drawn.y)));
     const QRectF pixel(place, QSizeF(1, 1));
-    if (picture_.contains(pixel)) painter_.fillRect(pixel, to_qt(drawn.colour));
+    if (!picture_.contains(pixel)) return;
+    draw_gathered();
+    painter_.fillRect(pixel, to_qt(drawn.colour));
   }
 
   void operator()(const DrawnText& drawn) {
     const QPointF place(x(drawn.x), y(drawn.y));
     if (!picture_.contains(place)) return;
+    draw_gathered();
     const QFont font = picture_font(drawn.font_size_pt);
     painter_.setFont(font);
     painter_.setPen(to_qt(drawn.colour));
-    painter_.drawText(place + QPointF(0, QFontMetricsF(font).ascent()), to_qt(drawn.text));
+    painter_.drawText(place + QPointF(0, QFontMetricsF(font).ascent()), latin1_to_qt(drawn.text));
   }
 
  private:
@@ -67,14 +75,29 @@ class ListPainter {
   }
   [[nodiscard]] static QPen pen(Colour colour) { return {QBrush(to_qt(colour)), 1.0}; }
 
+  /// Lines of one colour, each from where the last one ends, become one line, as a curve is.
+  void gather(const QLineF& whole, Colour colour) {
+    const auto line = clipped(whole, picture_);
+    if (!line) return;
+    // To the bit: Qt's own comparison of points is not.
+    const bool goes_on = !gathered_.isEmpty() && gathered_colour_ == colour && gathered_.back().x() == line->x1() &&
+                         gathered_.back().y() == line->y1();
+    if (!goes_on) {
+      draw_gathered();
+      gathered_ << line->p1();
+      gathered_colour_ = colour;
+    }
+    gathered_ << line->p2();
+  }
+
   /// The filled part is cut as an area, the outline as a line of short pieces.
-  void paint_cut_circle(const QRectF& box, const std::optional<Colour>& fill) {
-    if (fill) {
+  void paint_cut_circle(const QRectF& box, const DrawnCircle& drawn) {
+    if (drawn.fill) {
       QPainterPath disc;
       disc.addEllipse(box);
       QPainterPath window;
       window.addRect(picture_);
-      painter_.fillPath(disc.intersected(window), to_qt(*fill));
+      painter_.fillPath(disc.intersected(window), to_qt(*drawn.fill));
     }
     constexpr int pieces = 360;
     QPointF last(box.right(), box.center().y());
@@ -82,7 +105,7 @@ class ListPainter {
       const double angle = 2.0 * M_PI * i / pieces;
       const QPointF next(box.center().x() + box.width() / 2 * std::cos(angle),
                          box.center().y() + box.height() / 2 * std::sin(angle));
-      if (const auto line = clipped({last, next}, picture_)) painter_.drawLine(*line);
+      gather({last, next}, drawn.colour);
       last = next;
     }
   }
@@ -90,6 +113,8 @@ class ListPainter {
   QPainter& painter_;
   QRectF picture_;
   UserScale scale_;
+  QPolygonF gathered_;
+  Colour gathered_colour_ = 0;
 };
 
 }  // namespace
@@ -121,7 +146,7 @@ std::optional<QLineF> clipped(const QLineF& line, const QRectF& inside) {
   const bool some = border(-line.dx(), line.x1() - inside.left()) && border(line.dx(), inside.right() - line.x1()) &&
                     border(-line.dy(), line.y1() - inside.top()) && border(line.dy(), inside.bottom() - line.y1());
   if (!some) return std::nullopt;
-  return QLineF(line.pointAt(enter), line.pointAt(leave));
+  return QLineF(enter > 0.0 ? line.pointAt(enter) : line.p1(), leave < 1.0 ? line.pointAt(leave) : line.p2());
 }
 
 void paint_canvas(QPainter& painter, Canvas& canvas) {
@@ -136,6 +161,7 @@ void paint_canvas(QPainter& painter, Canvas& canvas) {
   }
   ListPainter list(painter, canvas);
   for (const Primitive& primitive : canvas.drawing()) std::visit(list, primitive.what);
+  list.draw_gathered();
 }
 
 }  // namespace zol

@@ -87,7 +87,7 @@ void QtSurface::text(double x, double y, const std::string& text, Colour colour,
   const QFont font = picture_font(font_size_pt);
   painter.setFont(font);
   painter.setPen(to_qt(colour));
-  painter.drawText(QPointF(x, y + QFontMetricsF(font).ascent()), to_qt(text));
+  painter.drawText(QPointF(x, y + QFontMetricsF(font).ascent()), latin1_to_qt(text));
 }
 
 void QtSurface::draw(const Surface& other, bool upside_down) {

@@ -1,26 +1,28 @@
-// Texts between the program and Qt. The program's texts are bytes: Latin-1 in data files, UTF-8 in the names of files.
+// Texts between the program and Qt.
 #pragma once
 
+#include <algorithm>
 #include <string>
 
 #include <QString>
-#include <QStringDecoder>
+
+#include "shell/latin1.h"
 
 namespace zol {
 
-/// UTF-8 where the bytes are valid UTF-8, else Latin-1.
-[[nodiscard]] inline QString to_qt(const std::string& text) {
-  QStringDecoder utf8(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-  const QString decoded = utf8(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
-  return utf8.hasError() ? QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size())) : decoded;
+/// A caption, a message or the name of a file.
+[[nodiscard]] inline QString to_qt(const std::string& text) { return QString::fromStdString(readable_utf8(text)); }
+
+/// The text of a box, list, table or picture.
+[[nodiscard]] inline QString latin1_to_qt(const std::string& text) {
+  return QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()));
 }
 
-/// Latin-1 where the text has such bytes, else UTF-8.
-[[nodiscard]] inline std::string from_qt(const QString& text) {
-  for (const QChar c : text) {
-    if (c.unicode() > 255) return text.toStdString();
-  }
-  return text.toLatin1().toStdString();
+[[nodiscard]] inline bool is_latin1(const QString& text) {
+  return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() <= 0xFF; });
 }
+
+/// @param text  that is Latin-1
+[[nodiscard]] inline std::string latin1_from_qt(const QString& text) { return text.toLatin1().toStdString(); }
 
 }  // namespace zol

@@ -1,5 +1,9 @@
 // zol-script: the program without a screen.
-#include <cstdio>
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <fstream>
 #include <iostream>
@@ -10,6 +14,7 @@
 #include "core/run_failure.h"
 #include "shell/data_folders.h"
 #include "shell/desktop/picture_export.h"
+#include "shell/latin1.h"
 #include "shell/program.h"
 #include "shell/script/script_driver.h"
 
@@ -25,8 +30,9 @@ Runs the program by the operations in SCRIPT, or on standard input, a line each.
   --help       this text
   --version    the version of the program
 
-Exit status: 0 end of the script or of the program, 1 failure of the run, 2 an operation
-that can't be read or names no control, 3 a dialog without a queued answer.
+Exit status: 0 end of the script or of the program, 1 failure of the run, or a script or
+an output that breaks off, 2 an operation that can't be read or names no control, 3 a
+dialog without a queued answer.
 docs/scripting.md lists the operations.
 )";
 
@@ -35,30 +41,34 @@ struct Arguments {
   std::optional<std::string> script;
 };
 
-/// Reads the command line. @returns an exit status when the program has nothing more to do
-std::optional<int> read_arguments(int argc, char** argv, Arguments& arguments) {
+/// How the program ends, and what it says of it on standard error.
+struct Outcome {
+  int status = ended;
+  std::string message = {};
+};
+
+/// Reads the command line. @returns an outcome when the program has nothing more to do
+std::optional<Outcome> read_arguments(int argc, char** argv, Arguments& arguments) {
   for (int i = 1; i < argc; ++i) {
     const std::string word = argv[i];
     if (word == "--help") {
       std::cout << usage;
-      return ended;
+      return Outcome{};
     }
     if (word == "--version") {
       std::cout << zol::program_version << '\n';
-      return ended;
+      return Outcome{};
     }
     if (word == "--data" && i + 1 < argc) {
       arguments.data = argv[++i];
     } else if (word.starts_with("--data=")) {
       arguments.data = word.substr(std::strlen("--data="));
     } else if (word.starts_with("-") && word != "-") {
-      std::cerr << "zol-script: unknown option or missing value: " << word << "\n\n" << usage;
-      return script_wrong;
+      return Outcome{script_wrong, "zol-script: unknown option or missing value: " + word + "\n\n" + usage};
     } else if (!arguments.script) {
       arguments.script = word;
     } else {
-      std::cerr << "zol-script: one script at most, given are " << *arguments.script << " and " << word << '\n';
-      return script_wrong;
+      return Outcome{script_wrong, "zol-script: one script at most, given are " + *arguments.script + " and " + word};
     }
   }
   return std::nullopt;
@@ -73,35 +83,60 @@ void run(const Arguments& arguments, std::istream& script) {
   zol::ScriptDriver(program, services, std::cout).run(script);
 }
 
-/// Shows why the script stopped, behind all that it has printed.
-int stop(int status, const std::string& message) {
-  std::cout.flush();
-  std::cerr << message << '\n';
-  return status;
+Outcome run_program(int argc, char** argv) {
+  try {
+    Arguments arguments;
+    if (auto outcome = read_arguments(argc, argv, arguments)) return *outcome;
+    std::ifstream file;
+    if (arguments.script && *arguments.script != "-") {
+      file.open(*arguments.script);
+      if (!file) {
+        return {script_wrong, "zol-script: can't open " + *arguments.script + ": " + std::strerror(errno)};
+      }
+    }
+    run(arguments, file.is_open() ? static_cast<std::istream&>(file) : std::cin);
+    return {};
+  } catch (const zol::RunFailure& failure) {
+    return {run_failed, "failure of the run: " + failure.message()};
+  } catch (const std::bad_alloc&) {
+    return {run_failed, "failure of the run: not enough memory"};
+  } catch (const zol::ScriptError& error) {
+    return {script_wrong, error.what()};
+  } catch (const zol::UnansweredQuestion& question) {
+    return {question_unanswered, std::string("unanswered question: ") + question.what()};
+  }
 }
+
+/// With a standard stream closed, the next file would get its number: a crystal that is saved would take the output.
+void keep_standard_descriptors() {
+  for (const int descriptor : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+    // Opened the wrong way round, so that a use still fails.
+    if (fcntl(descriptor, F_GETFD) < 0) (void)open("/dev/null", descriptor == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+  }
+}
+
+std::string lost_output() { return std::string("zol-script: can't write to standard output: ") + std::strerror(errno); }
 
 }  // namespace
 
 int main(int argc, char** argv) {
+  std::signal(SIGPIPE, SIG_IGN);  // NOLINT(cert-err33-c): a closed pipe fails the write, which is told
+  keep_standard_descriptors();
   std::ios::sync_with_stdio(false);
-  Arguments arguments;
-  if (const auto status = read_arguments(argc, argv, arguments)) return *status;
-  std::ifstream file;
-  if (arguments.script && *arguments.script != "-") {
-    file.open(*arguments.script);
-    if (!file) return stop(script_wrong, "zol-script: can't open " + *arguments.script + ": " + std::strerror(errno));
-  }
+  std::cout.exceptions(std::ios::badbit);
+  std::cerr.tie(nullptr);  // neither a message nor reading writes the output: its failure is not theirs
+  std::cin.tie(nullptr);
+  Outcome outcome;
   try {
-    run(arguments, file.is_open() ? static_cast<std::istream&>(file) : std::cin);
-  } catch (const zol::RunFailure& failure) {
-    return stop(run_failed, "failure of the run: " + failure.message());
-  } catch (const std::bad_alloc&) {
-    return stop(run_failed, "failure of the run: not enough memory");
-  } catch (const zol::ScriptError& error) {
-    return stop(script_wrong, error.what());
-  } catch (const zol::UnansweredQuestion& question) {
-    return stop(question_unanswered, std::string("unanswered question: ") + question.what());
+    outcome = run_program(argc, argv);
+    std::cout.flush();
+    if (close(STDOUT_FILENO) != 0) throw std::ios::failure("close");
+  } catch (const std::ios::failure&) {
+    const std::string reason = lost_output();
+    if (!outcome.message.empty()) outcome.message += '\n';
+    outcome.message += reason;
+    if (outcome.status == ended) outcome.status = run_failed;
   }
-  std::cout.flush();
-  return ended;
+  if (!outcome.message.empty()) std::cerr << zol::readable_utf8(outcome.message) << '\n';
+  return outcome.status;
 }

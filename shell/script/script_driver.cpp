@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <charconv>
-#include <cstdio>
+#include <cstring>
 #include <istream>
 #include <ostream>
+
+#include "shell/latin1.h"
 
 namespace zol {
 namespace {
@@ -28,6 +31,13 @@ char escaped(char c) {
     default:
       fail(std::string("unknown \\") + c + R"( in a quoted word; known are \" \\ \n \r \t \b)");
   }
+}
+
+/// A word as text of a box.
+std::string box_text(const std::string& word) {
+  Latin1 converted = latin1_of_utf8(word);
+  if (!converted.refused.empty()) fail(converted.refused);
+  return std::move(converted.text);
 }
 
 bool is_blank(char c) { return c == ' ' || c == '\t' || c == '\r'; }
@@ -86,11 +96,14 @@ std::pair<std::string, std::vector<int>> split_indices(const std::string& text) 
   return {text.substr(0, open), indices};
 }
 
+/// RRGGBB of a colour that is packed as r + 256 g + 65536 b.
 std::string colour_text(Colour colour) {
-  std::array<char, 16> text{};
-  std::snprintf(text.data(), text.size(), "%02X%02X%02X", static_cast<unsigned>(colour) & 0xFFU,
-                (static_cast<unsigned>(colour) >> 8U) & 0xFFU, (static_cast<unsigned>(colour) >> 16U) & 0xFFU);
-  return text.data();
+  constexpr std::string_view digits = "0123456789ABCDEF";
+  std::string text;
+  for (const unsigned shift : {4U, 0U, 12U, 8U, 20U, 16U}) {
+    text += digits[(static_cast<unsigned>(colour) >> shift) & 0xFU];
+  }
+  return text;
 }
 
 /// Coordinates with 7 significant digits.
@@ -98,8 +111,10 @@ std::string coordinates(std::initializer_list<double> values) {
   std::string line;
   for (const double value : values) {
     std::array<char, 40> text{};
-    std::snprintf(text.data(), text.size(), " %.7g", value == 0.0 ? 0.0 : value);
-    line += text.data();
+    constexpr int digits = 7;
+    const auto end = std::to_chars(text.data(), text.data() + text.size(), value == 0.0 ? 0.0 : value,
+                                   std::chars_format::general, digits);
+    line.append(1, ' ').append(text.data(), end.ptr);
   }
   return line;
 }
@@ -126,7 +141,7 @@ struct PrimitiveText {
     return "point" + coordinates({d.x, d.y}) + ' ' + colour_text(d.colour);
   }
   std::string operator()(const DrawnText& d) const {
-    return "text" + coordinates({d.x, d.y}) + ' ' + colour_text(d.colour) + ' ' + quoted(d.text);
+    return "text" + coordinates({d.x, d.y}) + ' ' + colour_text(d.colour) + ' ' + quoted(utf8_of_latin1(d.text));
   }
 };
 
@@ -143,7 +158,7 @@ void print_grid(const Grid& grid, std::ostream& output) {
   for (int row = 0; row <= last; ++row) {
     for (int column = 0; column < grid.columns(); ++column) {
       if (column > 0) output << '\t';
-      output << grid.text(row, column);
+      output << utf8_of_latin1(grid.text(row, column));
     }
     output << '\n';
   }
@@ -197,7 +212,11 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
          if (!d.program_.windows().knows(w[1])) fail("there is no window " + w[1]);
          d.program_.windows().use(w[1]).show();
        }},
-      {"set", "set W.C TEXT", 2, 2, [](ScriptDriver& d, const Words& w) { d.control<TextBox>(w[1]).set_text(w[2]); }},
+      {"set", "set W.C TEXT", 2, 2,
+       [](ScriptDriver& d, const Words& w) {
+         auto& box = d.control<TextBox>(w[1]);
+         box.set_text(box.holds_file_name ? w[2] : box_text(w[2]));
+       }},
       {"type", "type W.C TEXT", 2, 2, [](ScriptDriver& d, const Words& w) { d.type(w); }},
       {"leave", "leave W.C", 1, 1, [](ScriptDriver& d, const Words& w) { d.control<TextBox>(w[1]).leave(); }},
       {"click", "click W.C", 1, 1, [](ScriptDriver& d, const Words& w) { d.click(w); }},
@@ -217,7 +236,7 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
        [](ScriptDriver& d, const Words& w) { d.control<Canvas>(w[1]).release(number(w[2], "X"), number(w[3], "Y")); }},
       {"doubleclick", "doubleclick W.C", 1, 1,
        [](ScriptDriver& d, const Words& w) { d.control<Canvas>(w[1]).double_click(); }},
-      {"answer", "answer TEXT", 1, 1, [](ScriptDriver& d, const Words& w) { d.services_.queue_answer(w[1]); }},
+      {"answer", "answer TEXT", 1, 1, [](ScriptDriver& d, const Words& w) { d.services_.queue_answer(w[1], d.line_); }},
       {"cancel", "cancel", 0, 0, [](ScriptDriver& d, const Words&) { d.services_.queue_answer(""); }},
       {"print", "print W.C", 1, 1, [](ScriptDriver& d, const Words& w) { d.print(w); }},
       {"call", "call W.OPERATION", 1, 1, [](ScriptDriver& d, const Words& w) { d.call(w); }},
@@ -226,14 +245,17 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
       {"caption", "caption WINDOW", 1, 1,
        [](ScriptDriver& d, const Words& w) {
          if (!d.program_.windows().knows(w[1])) fail("there is no window " + w[1]);
-         d.output_ << d.program_.windows().use(w[1]).caption() << '\n';
+         d.output_ << readable_utf8(d.program_.windows().use(w[1]).caption()) << '\n';
        }},
       {"printer", "printer", 0, 0, [](ScriptDriver& d, const Words&) { d.print_pages(); }},
       {"export", "export W.C FILE", 2, 2,
        [](ScriptDriver& d, const Words& w) { d.services_.export_picture(d.control<Canvas>(w[1]), w[2]); }},
       {"echo", "echo WORDS", 0, any,
        [](ScriptDriver& d, const Words& w) {
-         for (std::size_t i = 1; i < w.size(); ++i) d.output_ << (i > 1 ? " " : "") << w[i];
+         for (std::size_t i = 1; i < w.size(); ++i) {
+           if (const auto readable = readable_utf8(w[i]); readable != w[i]) fail("\"" + readable + "\" is no UTF-8");
+           d.output_ << (i > 1 ? " " : "") << w[i];
+         }
          d.output_ << '\n';
        }},
   };
@@ -242,15 +264,25 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
 
 void ScriptDriver::run(std::istream& script) {
   std::string line;
-  for (int number = 1; !services_.ended() && std::getline(script, line); ++number) {
+  // Who writes the script may wait for what a line prints.
+  const auto next_line = [&] {
+    if (script.rdbuf()->in_avail() <= 0) output_.flush();
+    return static_cast<bool>(std::getline(script, line));
+  };
+  for (line_ = 0; !services_.ended() && next_line();) {
+    ++line_;
     try {
       const Words words = split_words(line);
       if (words.empty()) continue;
       execute(words);
     } catch (const ScriptError& error) {
-      throw ScriptError("line " + std::to_string(number) + ": " + error.what());
+      if (error.line() > 0) throw;
+      throw ScriptError(error.what(), line_);
     }
     program_.windows().free_unloaded();
+  }
+  if (script.bad()) {
+    throw RunFailure("can't read the script behind line " + std::to_string(line_) + ": " + std::strerror(errno));
   }
 }
 
@@ -281,7 +313,7 @@ Kind& ScriptDriver::control(const std::string& name) {
 
 void ScriptDriver::type(const Words& words) {
   Control& target = any_control(words[1]);
-  for (const char c : words[2]) {
+  for (const char c : box_text(words[2])) {
     if (auto* box = dynamic_cast<TextBox*>(&target)) {
       box->type(c);
     } else if (auto* grid = dynamic_cast<Grid*>(&target)) {
@@ -304,14 +336,21 @@ void ScriptDriver::click(const Words& words) {
 void ScriptDriver::select(const Words& words) {
   Control& target = any_control(words[1]);
   const int index = whole_number(words[2], "INDEX");
-  if (auto* list = dynamic_cast<ListBox*>(&target)) return list->pick(index);
-  if (auto* combo = dynamic_cast<ComboBox*>(&target)) return combo->pick(index);
+  const auto pick = [&](auto& control) {
+    const std::size_t count = control.items().size();
+    if (index < 0 || static_cast<std::size_t>(index) >= count) {
+      fail(words[1] + " has no item " + words[2] + ", it has " + std::to_string(count) + ", the first is 0");
+    }
+    control.pick(index);
+  };
+  if (auto* list = dynamic_cast<ListBox*>(&target)) return pick(*list);
+  if (auto* combo = dynamic_cast<ComboBox*>(&target)) return pick(*combo);
   fail(words[1] + " has no items");
 }
 
 void ScriptDriver::choose(const Words& words) {
   auto& combo = control<ComboBox>(words[1]);
-  const auto item = std::find(combo.items().begin(), combo.items().end(), words[2]);
+  const auto item = std::find(combo.items().begin(), combo.items().end(), box_text(words[2]));
   if (item == combo.items().end()) fail(words[1] + " has no item \"" + words[2] + "\"");
   combo.pick(static_cast<int>(item - combo.items().begin()));
 }
@@ -338,11 +377,13 @@ void ScriptDriver::print_value(const std::string& owner, const NamedValues& valu
 
 void ScriptDriver::print_control(Control& shown) {
   switch (shown.kind()) {
-    case ControlKind::TextBox:
-      output_ << dynamic_cast<TextBox&>(shown).text() << '\n';
+    case ControlKind::TextBox: {
+      const auto& box = dynamic_cast<TextBox&>(shown);
+      output_ << (box.holds_file_name ? box.text() : utf8_of_latin1(box.text())) << '\n';
       break;
+    }
     case ControlKind::ComboBox:
-      output_ << dynamic_cast<ComboBox&>(shown).text() << '\n';
+      output_ << utf8_of_latin1(dynamic_cast<ComboBox&>(shown).text()) << '\n';
       break;
     case ControlKind::CheckBox:
       output_ << dynamic_cast<CheckBox&>(shown).value() << '\n';
@@ -354,7 +395,7 @@ void ScriptDriver::print_control(Control& shown) {
       output_ << (shown.visible() ? 1 : 0) << '\n';
       break;
     case ControlKind::ListBox:
-      for (const auto& line : dynamic_cast<ListBox&>(shown).items()) output_ << line << '\n';
+      for (const auto& line : dynamic_cast<ListBox&>(shown).items()) output_ << utf8_of_latin1(line) << '\n';
       break;
     case ControlKind::ProgressBar: {
       const auto& bar = dynamic_cast<ProgressBar&>(shown);
@@ -371,7 +412,7 @@ void ScriptDriver::print_control(Control& shown) {
     case ControlKind::Label:
     case ControlKind::Frame:
     case ControlKind::MenuItem:
-      output_ << shown.caption() << '\n';
+      output_ << readable_utf8(shown.caption()) << '\n';
       break;
   }
 }

@@ -1,7 +1,8 @@
 // Drives the program by a text of operations, one a line, instead of a mouse and a keyboard.
+//
+// The script and what it prints are UTF-8, the texts of the program Latin-1; names of files go through as they stand.
 #pragma once
 
-#include <exception>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -11,22 +12,12 @@
 
 namespace zol {
 
-/// An operation that can't be read or names no control.
-class ScriptError : public std::exception {
- public:
-  explicit ScriptError(std::string message) : message_(std::move(message)) {}
-  [[nodiscard]] const char* what() const noexcept override { return message_.c_str(); }
-
- private:
-  std::string message_;
-};
-
 /// Words of a line: separated by blanks; a word in double quotes may hold blanks, and in it \" \\ \n \r \t \b stand for
 /// the character; "#" outside quotes begins a comment.
 /// @throws ScriptError  an open quote or an unknown backslash
 [[nodiscard]] std::vector<std::string> split_words(const std::string& line);
 
-/// The drawing list of a picture as text, one primitive a line.
+/// The drawing list of a picture as text in UTF-8, one primitive a line.
 [[nodiscard]] std::vector<std::string> drawing_text(const Canvas& canvas);
 
 class ScriptDriver {
@@ -36,7 +27,8 @@ class ScriptDriver {
 
   /// Runs the operations to the end of the text or of the program.
   /// @throws ScriptError  with the line number
-  /// @throws RunFailure, UnansweredQuestion  from the program
+  /// @throws RunFailure  from the program, or the script breaks off while it is read
+  /// @throws UnansweredQuestion  from the program
   void run(std::istream& script);
 
   /// Runs one operation.
@@ -63,6 +55,7 @@ class ScriptDriver {
   Program& program_;
   ScriptServices& services_;
   std::ostream& output_;
+  int line_ = 0;  // that runs, from 1
 };
 
 }  // namespace zol

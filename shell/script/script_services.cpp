@@ -6,23 +6,26 @@
 
 namespace zol {
 
-std::string ScriptServices::next_answer(const std::string& question) {
+ScriptServices::Answer ScriptServices::next_answer(const std::string& question) {
   if (answers_.empty()) throw UnansweredQuestion(question);
-  std::string answer = std::move(answers_.front());
+  Answer answer = std::move(answers_.front());
   answers_.pop_front();
   return answer;
 }
 
 std::string ScriptServices::ask_file(const FileQuestion& question) {
-  return next_answer(question.save ? "the name of a file to save" : "the name of a file to open");
+  return next_answer(question.save ? "the name of a file to save" : "the name of a file to open").text;
 }
 
 std::string ScriptServices::prompt(const std::string& text, const std::string& title) {
-  return next_answer(text + " (" + title + ")");
+  const Answer answer = next_answer(text + " (" + title + ")");
+  Latin1 typed = latin1_of_utf8(answer.text);
+  if (!typed.refused.empty()) throw ScriptError(typed.refused, answer.line);
+  return std::move(typed.text);
 }
 
 void ScriptServices::message(const std::string& text, const std::string& title) {
-  output_ << "message \"" << text << "\" \"" << title << "\"\n";
+  output_ << "message \"" << readable_utf8(text) << "\" \"" << readable_utf8(title) << "\"\n";
 }
 
 std::unique_ptr<Surface> ScriptServices::make_surface(int width, int height) {

@@ -81,7 +81,8 @@ void make_list(const std::string& crystal_path, const std::string& output_path) 
   std::FILE* output = std::fopen(output_path.c_str(), "wb");
   if (output == nullptr) throw RunFailure("can't write " + output_path);
   write_reflections(output, structure);
-  if (std::fclose(output) != 0) throw RunFailure("can't write " + output_path);
+  const bool lost = std::ferror(output) != 0;
+  if (std::fclose(output) != 0 || lost) throw RunFailure("can't write " + output_path);
 }
 
 }  // namespace
