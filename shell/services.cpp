@@ -17,6 +17,16 @@ std::string FileDialog::file_title() const {
   return slash == std::string::npos ? question_.file_name : question_.file_name.substr(slash + 1);
 }
 
+void FileDialog::answering(std::string path, const std::function<void()>& action) {
+  struct Answer {
+    std::optional<std::string>& answer;
+    ~Answer() { answer.reset(); }
+  };
+  answered_ = std::move(path);
+  const Answer held{answered_};
+  action();
+}
+
 const std::string& FileDialog::ask(bool save, const NameEnding& ending) {
   question_.save = save;
   question_.ending = ending;

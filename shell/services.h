@@ -1,6 +1,7 @@
 // What the program asks of its surroundings: questions to the user, the printer, pixels, and its own end.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -85,8 +86,8 @@ class FileDialog {
   [[nodiscard]] std::string save_as(const NameEnding& ending) { return ending.added_to(save(ending)); }
   void printer_setup() { services_.set_up_printer(); }
 
-  /// Answers the next question in advance, as a file dropped on the window does.
-  void answer_next(std::string path) { answered_ = std::move(path); }
+  /// Runs an action in which the first question is answered in advance, as a file dropped on the window does.
+  void answering(std::string path, const std::function<void()>& action);
 
   [[nodiscard]] const std::string& file_name() const { return question_.file_name; }  ///< full path of the last answer
   [[nodiscard]] std::string file_title() const;                                       ///< the name without folder

@@ -3,11 +3,9 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
-#include <new>
 #include <optional>
 #include <string>
 
-#include "core/run_failure.h"
 #include "shell/data_folders.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/program.h"
@@ -93,14 +91,12 @@ int main(int argc, char** argv) {
   }
   try {
     run(arguments, file.is_open() ? static_cast<std::istream&>(file) : std::cin);
-  } catch (const zol::RunFailure& failure) {
-    return stop(run_failed, "failure of the run: " + failure.message());
-  } catch (const std::bad_alloc&) {
-    return stop(run_failed, "failure of the run: not enough memory");
   } catch (const zol::ScriptError& error) {
     return stop(script_wrong, error.what());
   } catch (const zol::UnansweredQuestion& question) {
     return stop(question_unanswered, std::string("unanswered question: ") + question.what());
+  } catch (...) {
+    return stop(run_failed, "failure of the run: " + zol::failure_text(std::current_exception()));
   }
   std::cout.flush();
   return ended;

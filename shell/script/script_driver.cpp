@@ -240,17 +240,24 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
   return table;
 }
 
+ScriptDriver::ScriptDriver(Program& program, ScriptServices& services, std::ostream& output)
+    : program_(program),
+      services_(services),
+      output_(output),
+      gate_([this] { program_.windows().free_unloaded(); },
+            [this](const std::exception_ptr& reason) { stopped_ = reason; }) {}
+
 void ScriptDriver::run(std::istream& script) {
   std::string line;
   for (int number = 1; !services_.ended() && std::getline(script, line); ++number) {
     try {
       const Words words = split_words(line);
       if (words.empty()) continue;
-      execute(words);
+      gate_.enter({line, line, [this, &words] { execute(words); }});
+      if (stopped_) std::rethrow_exception(stopped_);
     } catch (const ScriptError& error) {
       throw ScriptError("line " + std::to_string(number) + ": " + error.what());
     }
-    program_.windows().free_unloaded();
   }
 }
 

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "shell/event_gate.h"
 #include "shell/program.h"
 #include "shell/script/script_services.h"
 
@@ -31,19 +32,16 @@ class ScriptError : public std::exception {
 
 class ScriptDriver {
  public:
-  ScriptDriver(Program& program, ScriptServices& services, std::ostream& output)
-      : program_(program), services_(services), output_(output) {}
+  ScriptDriver(Program& program, ScriptServices& services, std::ostream& output);
 
   /// Runs the operations to the end of the text or of the program.
   /// @throws ScriptError  with the line number
   /// @throws RunFailure, UnansweredQuestion  from the program
   void run(std::istream& script);
 
-  /// Runs one operation.
-  void execute(const std::vector<std::string>& words);
-
  private:
   using Words = std::vector<std::string>;
+  void execute(const Words& words);
   struct Operation;
   static const std::vector<Operation>& operations();
 
@@ -63,6 +61,8 @@ class ScriptDriver {
   Program& program_;
   ScriptServices& services_;
   std::ostream& output_;
+  std::exception_ptr stopped_;  ///< what has ended the event of an operation
+  EventGate gate_;
 };
 
 }  // namespace zol
