@@ -10,7 +10,9 @@ namespace zol {
 struct InputAtomForm : Window {
   static constexpr auto window_name = "InputAtom";
 
-  explicit InputAtomForm(Workbench& bench) : Window(window_name, "Atomic Coodinates"), CommonDialog1(bench.services) {}
+  explicit InputAtomForm(Workbench& bench) : Window(window_name, "Atomic Coodinates"), CommonDialog1(bench.services) {
+    frame_button = &Command2;
+  }
 
   Grid G{*this, "G", table_rows + 1, 8};            // site name, element, occupancy, x, y, z, B
   TextBox Text1{*this, "Text1"};                    // edit buffer of the current cell

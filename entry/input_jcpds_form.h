@@ -10,7 +10,7 @@ namespace zol {
 struct InputJcpdsForm : Window {
   static constexpr auto window_name = "InputJCPDS";
 
-  explicit InputJcpdsForm(Workbench& /*bench*/) : Window(window_name, "JCPDS input") {}
+  explicit InputJcpdsForm(Workbench& /*bench*/) : Window(window_name, "JCPDS input") { frame_button = &Command2; }
 
   Grid G{*this, "G", table_rows + 1, 5};  // intensity, h, k, l
   TextBox Text1{*this, "Text1"};          // edit buffer of the current cell

@@ -23,6 +23,7 @@ struct ZaxisForm : Window {
     };
     fields().add("KeepMap", KeepMap);
     fields().add("MapScale", MapScale);
+    beside = "Pattern2";  // whose drawing shows it
     // As it starts; no event comes of it.
     for (TextBox* limit : {&Text1, &Text2, &Text3}) limit->set_text("1");
     Option1.set_on(true);

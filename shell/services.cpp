@@ -17,6 +17,16 @@ std::string FileDialog::file_title() const {
   return slash == std::string::npos ? file_name_ : file_name_.substr(slash + 1);
 }
 
+void FileDialog::answering(std::string path, const std::function<void()>& action) {
+  struct Answer {
+    std::optional<std::string>& answer;
+    ~Answer() { answer.reset(); }
+  };
+  answered_ = std::move(path);
+  const Answer held{answered_};
+  action();
+}
+
 const std::string& FileDialog::ask(FileKind kind, bool save, const NameEnding& ending) {
   std::string& last_name = last_names_[kind];
   if (preset_) last_name = *std::exchange(preset_, std::nullopt);

@@ -1,6 +1,7 @@
 // What the program asks of its surroundings: questions to the user, the printer, pixels, and its own end.
 #pragma once
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -112,8 +113,8 @@ class FileDialog {
   }
   void printer_setup() { services_.set_up_printer(); }
 
-  /// Answers the next question in advance, as a file dropped on the window does.
-  void answer_next(std::string path) { answered_ = std::move(path); }
+  /// Runs an action in which the first question is answered in advance, as a file dropped on the window does.
+  void answering(std::string path, const std::function<void()>& action);
 
   [[nodiscard]] const std::string& file_name() const { return file_name_; }  ///< full path of the last answer
   [[nodiscard]] std::string file_title() const;                              ///< the name without folder

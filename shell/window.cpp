@@ -36,6 +36,8 @@ void Window::show() {
   on_activate.fire(name_ + " was shown");
 }
 
+void Window::activate() { on_activate.fire(name_ + " was activated"); }
+
 void Window::hide() {
   visible_ = false;
   if (view_ != nullptr) view_->window_changed(*this);
@@ -66,11 +68,15 @@ Window& Windows::use(const std::string& name) {
   Window& window = *made;
   windows_[name] = std::move(made);
   window.set_view(view_);
-  if (view_ != nullptr) view_->window_created(window);
   try {
+    if (view_ != nullptr) view_->window_created(window);
     type->second.load(window);
   } catch (RunFailure& failure) {
     failure.add_context(name + " was opened");
+    unload(name);
+    throw;
+  } catch (...) {
+    unload(name);
     throw;
   }
   return window;
@@ -92,8 +98,14 @@ void Windows::unload(const std::string& name) {
   if (found == windows_.end()) return;
   if (view_ != nullptr) view_->window_unloaded(*found->second);
   found->second->set_view(nullptr);
+  found->second->life_.reset();
   unloaded_.push_back(std::move(found->second));
   windows_.erase(found);
+}
+
+void Windows::set_view(WindowView* view) {
+  view_ = view;
+  for (const auto& [name, window] : windows_) window->set_view(view);
 }
 
 }  // namespace zol

@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/bounded_array.h"
@@ -99,6 +100,7 @@ class Window {
   [[nodiscard]] bool visible() const { return visible_; }
   void show();  ///< modeless; the window becomes the active one
   void hide();
+  void activate();  ///< the user goes to the window
 
   /// In the order of their declaration.
   [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
@@ -115,11 +117,19 @@ class Window {
   [[nodiscard]] WindowView* view() const { return view_; }
   void set_view(WindowView* view) { view_ = view; }
 
+  /// Expires with the window, and as soon as it is unloaded.
+  [[nodiscard]] std::weak_ptr<const void> life() const { return life_; }
+
   Event<> on_activate;
-  std::vector<FileDrop> file_drops;  ///< what may be dropped on it
+
+  // What a window wants from the front end
+  std::vector<FileDrop> file_drops;       ///< what may be dropped on it
+  CommandButton* frame_button = nullptr;  ///< what its frame button clicks; none: the window hides
+  std::string beside = {};                ///< the window that it goes with: it comes up beside that one, behind it
 
  private:
   friend class Control;
+  friend class Windows;
   void add(Control& control) { controls_.push_back(&control); }
 
   std::string name_;
@@ -130,6 +140,7 @@ class Window {
   NamedValues fields_;
   std::map<std::string, std::function<void()>> operations_;
   WindowView* view_ = nullptr;
+  std::shared_ptr<const void> life_ = std::make_shared<char>();
 };
 
 /// Shows the hourglass over a window as long as it lives.
@@ -156,7 +167,7 @@ class Windows {
   void add_type(const std::string& name, Type type) { types_[name] = std::move(type); }
   [[nodiscard]] bool knows(const std::string& name) const { return types_.contains(name); }
 
-  /// @throws RunFailure  no such window, or its Form_Load fails
+  /// @throws RunFailure  no such window, or its Form_Load fails: there is none then
   Window& use(const std::string& name);
   template <class Form>
   Form& use() {
@@ -169,10 +180,11 @@ class Windows {
 
   /// Ends a window; its next use makes a new one. Its handlers may still be running, so that its memory goes later.
   void unload(const std::string& name);
-  /// Frees the unloaded windows; to be called when no handler runs.
+  /// Hands over the unloaded windows, which may be freed when no handler runs.
+  [[nodiscard]] std::vector<std::unique_ptr<Window>> take_unloaded() { return std::exchange(unloaded_, {}); }
   void free_unloaded() { unloaded_.clear(); }
 
-  void set_view(WindowView* view) { view_ = view; }
+  void set_view(WindowView* view);
 
  private:
   std::map<std::string, Type> types_;

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "core/run_failure.h"
+#include "shell/event_gate.h"
 #include "shell/ruler.h"
 #include "shell/window_services.h"
 #include "tests/fake_services.h"
@@ -108,6 +109,30 @@ TEST(WindowSet, CreatesAtFirstUseAndUnloads) {
   EXPECT_THROW(windows.use("None"), RunFailure);
 }
 
+TEST(WindowSet, KeepsNoWindowWhoseLoadFails) {
+  Windows windows;
+  windows.add_type("Sample", {[] { return std::make_unique<SampleForm>(); }, [](Window&) { throw std::bad_alloc(); }});
+  EXPECT_THROW(windows.use("Sample"), std::bad_alloc);
+  EXPECT_EQ(windows.find("Sample"), nullptr);
+}
+
+TEST(Gate, LetsEventsWaitAndEndsWithTheFirstFailure) {
+  std::string log;
+  EventGate gate([&log] { log += '.'; },
+                 [&log](const std::exception_ptr& failure) { log += "! " + failure_text(failure); });
+  gate.set_journal([&log](const UserEvent& event) { log += '\n' + event.name + ':'; });
+  gate.enter({"dialog", "", [&] {
+                gate.enter({"first", "", [&] { gate.enter({"third", "", [] { throw 1; }}); }});
+                gate.enter({"unloaded meanwhile", "", [] {}, [] { return false; }});
+                gate.enter({"second", "", [] {}});
+                log += " runs";
+              }});
+  gate.enter({"behind the end", "", [] {}});
+  gate.fail(std::make_exception_ptr(std::bad_alloc()));
+  EXPECT_EQ(log, "\ndialog: runs.\nfirst:.\nsecond:.\nthird:! the program is at fault, it does not say how");
+  EXPECT_EQ(script_line({"set", "A.B", "a\"\\ \n#"}), R"(set A.B "a\"\\ \n#")");
+}
+
 TEST(SaveDialogs, KnowTheNameThatWillBeWritten) {
   FakeServices services;
   FileDialog dialog(services);
@@ -128,11 +153,12 @@ TEST(SaveDialogs, KnowTheNameThatWillBeWritten) {
     EXPECT_EQ(dialog.save_as(FileKind::Picture, ending), written);
     EXPECT_EQ(services.questions.back().ending.added_to(answer), written) << "what the dialog may ask about";
   }
-  dialog.answer_next("dropped.cry");
-  EXPECT_EQ(dialog.open(FileKind::Crystal), "dropped.cry");
+  dialog.answering("dropped.cry", [&dialog] { EXPECT_EQ(dialog.open(FileKind::Crystal), "dropped.cry"); });
   EXPECT_EQ(dialog.file_name(), "dropped.cry");
+  dialog.answering("dropped.cry", [] {});  // opens no dialog
   services.answers = {"asked.cry"};
-  EXPECT_EQ(dialog.open(FileKind::Crystal), "asked.cry") << "an answer in advance holds once";
+  EXPECT_EQ(dialog.open(FileKind::Crystal), "asked.cry")
+      << "an answer in advance holds once, and not beyond its action";
 }
 
 // A name is proposed for its own kind only, and a cancel takes it away from none.

@@ -31,13 +31,17 @@
 #include "analysis/pattern3_form.h"
 #include "core/text_records.h"
 #include "entry/input_jcpds_form.h"
+#include "kikuchi/pattern2_form.h"
+#include "kikuchi/zaxis_form.h"
 #include "reflections/main1_form.h"
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/desktop_services.h"
+#include "shell/desktop/guarded_application.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/main_menu_form.h"
 #include "shell/program.h"
+#include "shell/script/script_driver.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
 
@@ -54,7 +58,7 @@ class OffscreenApplication : public testing::Environment {
  public:
   void SetUp() override {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    application_ = std::make_unique<QApplication>(argument_count_, arguments_.data());
+    application_ = std::make_unique<GuardedApplication>(argument_count_, arguments_.data());
     use_desktop_resources();
   }
   void TearDown() override { application_.reset(); }
@@ -63,7 +67,7 @@ class OffscreenApplication : public testing::Environment {
   std::string name_ = "desktop_test";
   std::array<char*, 2> arguments_{name_.data(), nullptr};
   int argument_count_ = 1;
-  std::unique_ptr<QApplication> application_;
+  std::unique_ptr<GuardedApplication> application_;
 };
 /// A library that printing loads keeps a locale; with LOCPATH set, that is a leak of the system's.
 extern "C" const char* __lsan_default_suppressions();  // NOLINT(bugprone-reserved-identifier)
@@ -73,7 +77,7 @@ extern "C" const char* __lsan_default_suppressions() { return "leak:argz_add_sep
 class DesktopTest : public testing::Test {
  protected:
   DesktopTest() {
-    desktop.enter([this] { program.start(); });
+    desktop.enter("start", [this] { program.start(); });
   }
   QWidget& widget(const std::string& window) {
     program.windows().use(window);
@@ -97,6 +101,13 @@ class DesktopTest : public testing::Test {
   }
   void click(const char* window, const char* button) {
     QTest::mouseClick(&child<QAbstractButton>(window, button), Qt::LeftButton, {}, {5, 8});
+  }
+  /// Brings a window to the front, as a user would, with the focus in one of its boxes.
+  void go_to(const char* window, const char* box_name) {
+    desktop.enter("a test", [&] { program.windows().use(window).show(); });
+    QApplication::setActiveWindow(&widget(window));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&widget(window)));
+    child<QLineEdit>(window, box_name).setFocus(Qt::TabFocusReason);
   }
   static void type(QLineEdit& edit, const char* text) {
     edit.setFocus(Qt::TabFocusReason);
@@ -258,7 +269,7 @@ TEST_F(DesktopTest, ComboAndListPickByMouseAndKeyboard) {
 TEST_F(DesktopTest, ProgramWriteShowsWithoutFiringAgain) {
   int fired = 0;
   main1().Text2.on_change = [&fired] { ++fired; };
-  desktop.enter([this] {
+  desktop.enter("a test", [this] {
     main1().Text2.set_text("4.5");
     main1().Text2.set_text("6.5");
     main1().Combo1.set_text("17.5");
@@ -382,7 +393,7 @@ TEST_F(DesktopTest, GridTakesKeysAndMovesItsCell) {
   QTest::keyClick(&table, Qt::Key_Right);
   EXPECT_EQ(grid.row(), 2);
   EXPECT_EQ(grid.column(), 2);
-  desktop.enter([&grid] {
+  desktop.enter("a test", [&grid] {
     grid.set_text("x");
     grid.set_row(0);
     grid.set_text("head");
@@ -422,14 +433,247 @@ TEST_F(DesktopTest, SolutionsStandInColumnsAndInTheirColours) {
   }
 }
 
+struct LeavingCase {
+  const char* name;
+  void (*act)(QWidget& top);
+};
+class BoxIsLeft : public DesktopTest, public testing::WithParamInterface<LeavingCase> {};
+INSTANTIATE_TEST_SUITE_P(
+    Before, BoxIsLeft,
+    testing::Values(
+        LeavingCase{"mnemonic", [](QWidget& top) { QTest::keyClick(&top, Qt::Key_C, Qt::AltModifier); }},
+        LeavingCase{"button",
+                    [](QWidget& top) { QTest::mouseClick(top.findChild<QWidget*>("Command8"), Qt::LeftButton); }},
+        LeavingCase{"menu", [](QWidget& top) { top.findChild<QAction*>("ISAVE")->trigger(); }},
+        LeavingCase{"picture", [](QWidget& top) { QTest::mouseClick(top.findChild<CanvasView*>(), Qt::LeftButton); }},
+        LeavingCase{"frame", [](QWidget& top) { top.close(); }}),
+    [](const auto& row) { return std::string(row.param.name); });
+
+// Whatever way leads there, and whether or not it takes the focus.
+TEST_P(BoxIsLeft, BeforeAnActionAndOnce) {
+  std::string log;
+  auto& form = program.windows().use<Pattern2Form>();
+  form.frame_button = &form.Command8;
+  form.Text21.on_lost_focus = [&log] { log += "left,"; };
+  form.Command8.on_click = form.ISAVE.on_click = [&log] { log += "acted,"; };
+  form.Picture1.on_mouse_down = [&log](Single, Single) { log += "acted,"; };
+  go_to("Pattern2", "Text21");
+  for (int i = 0; i < 2; ++i) {
+    log.clear();
+    type(child<QLineEdit>("Pattern2", "Text21"), "2");
+    GetParam().act(widget("Pattern2"));
+    EXPECT_TRUE(QTest::qWaitFor([&log] { return log.ends_with("acted,"); }));
+    EXPECT_EQ(log, "left,acted,");
+  }
+}
+
+TEST_F(DesktopTest, AnotherWindowOfOursLeavesTheBox) {
+  int left = 0;
+  main1().Text1.on_lost_focus = [&left] { ++left; };
+  go_to("Main1", "Text1");
+  child<QMenuBar>("Main1", "menubar").setFocus(Qt::MenuBarFocusReason);
+  EXPECT_EQ(left, 0) << "a menu alone is no action";
+  box("Text1").setFocus(Qt::MenuBarFocusReason);
+  go_to("PATTERN3", "Text1");
+  EXPECT_EQ(left, 1);
+}
+
+struct BoxFailure {
+  const char* name;
+  const char* window;
+  const char* box;
+  const char* text;
+  const char* item;
+  const char* message;
+};
+class FailureOnLeaving : public DesktopTest, public testing::WithParamInterface<BoxFailure> {};
+INSTANTIATE_TEST_SUITE_P(Boxes, FailureOnLeaving,
+                         testing::Values(BoxFailure{"bands", "PATTERN3", "Text2", "-1", "ImageLoad", "TripleHKL"},
+                                         BoxFailure{"edge", "Main1", "Text1", "1e15", "DATA_LOAD", "overflow"}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_P(FailureOnLeaving, ComesBeforeTheDialogAndEndsTheProgram) {
+  const auto& [name, window, box_name, text, item, message] = GetParam();
+  show_main1();
+  load("NaCl.cry");
+  services.questions.clear();
+  go_to(window, box_name);
+  child<QLineEdit>(window, box_name).selectAll();
+  type(child<QLineEdit>(window, box_name), text);
+  ASSERT_EQ(failures, std::vector<std::string>{});
+  child<QAction>(window, item).trigger();
+  ASSERT_EQ(failures.size(), 1U);
+  EXPECT_NE(failures.front().find(message), std::string::npos) << failures.front();
+  EXPECT_TRUE(services.questions.empty()) << "no dialog comes any more";
+  EXPECT_TRUE(desktop.ended());
+}
+
+TEST_F(DesktopTest, MnemonicTakesTheCellThatWasTyped) {
+  go_to("Main1", "Text1");
+  type(box("Text1"), "4.05");
+  box("Text7").setFocus(Qt::TabFocusReason);
+  type(box("Text7"), "225");
+  QTest::keyClick(&widget("Main1"), Qt::Key_C, Qt::AltModifier);
+  EXPECT_TRUE(QTest::qWaitFor([this] { return program.state().RefCount > 0 || desktop.ended(); }));
+  EXPECT_EQ(failures, std::vector<std::string>{});
+}
+
+TEST_F(DesktopTest, EventsThatComeDuringAHandlerRunBehindIt) {
+  show_main1();
+  std::string log;
+  main1().Command1.on_click = [&log] { log += "second,"; };
+  program.windows().use("InputJCPDS").show();
+  dynamic_cast<CommandButton&>(*program.windows().use("InputJCPDS").find("Command3")).on_click = [&log] { log += "?"; };
+  main1().Command6.on_click = [&] {  // as the loop of a dialog does
+    click("Main1", "Command1");
+    click("InputJCPDS", "Command3");
+    program.windows().unload("InputJCPDS");
+    log += "first,";
+  };
+  click("Main1", "Command6");
+  EXPECT_EQ(log, "first,second,") << "and nothing in a window that has gone";
+}
+
+TEST_F(DesktopTest, NoExceptionPassesThroughQt) {
+  desktop.enter("a test", [this] { program.windows().use("Xd").show(); });
+  struct Thrower : QObject {
+    bool event(QEvent* /*event*/) override { throw std::runtime_error("outside any handler"); }
+  } thrower;
+  QEvent event(QEvent::User);
+  QApplication::sendEvent(&thrower, &event);
+  EXPECT_EQ(failures, std::vector<std::string>{"the program is at fault: outside any handler"});
+  EXPECT_TRUE(desktop.ended());
+
+  auto& view = child<CanvasView>("Xd", "Picture1");
+  view.canvas()->describe_place = [](double, double) -> std::string { throw 1; };
+  view.canvas()->set_point(0, 0);
+  QTest::mouseMove(&view, view.picture_rect().center().toPoint());  // Qt would leak the event
+  QApplication::processEvents();
+  EXPECT_EQ(failures.size(), 1U) << "the first one counts";
+}
+
+// Under the address sanitizer: the table is still at work on the key whose handler unloads its window.
+TEST_F(DesktopTest, AWindowMayEndInAnEventOfItsOwn) {
+  Grid& grid = program.windows().use<InputJcpdsForm>().G;
+  auto& table = child<QTableView>("InputJCPDS", "G");
+  const QPointer<QTableView> watched = &table;
+  grid.on_key_press = [this](int&) { program.windows().unload("InputJCPDS"); };
+  QTest::keyClick(&table, 'a');
+  EXPECT_EQ(program.windows().find("InputJCPDS"), nullptr);
+  EXPECT_FALSE(watched.isNull());
+  QTimer::singleShot(0, qApp, &QApplication::quit);
+  QApplication::exec();
+  EXPECT_TRUE(watched.isNull());
+}
+
+TEST_F(DesktopTest, FrameButtonOfATableIsCancel) {
+  show_main1();
+  for (const auto& [opener, table] : {std::pair{"Command1", "InputAtom"}, {"Command15", "InputJCPDS"}}) {
+    click("Main1", opener);
+    type(child<QLineEdit>(table, "Text1"), "0.25");
+    widget(table).close();
+    EXPECT_EQ(program.windows().find(table), nullptr) << "the next one is fresh";
+  }
+  EXPECT_FALSE(desktop.ended());
+}
+
+TEST_F(DesktopTest, ActivationFiresOncePerShowAndWhenTheUserComesBack) {
+  go_to("Main1", "Text1");
+  int activated = 0;
+  auto& form = program.windows().use<InputJcpdsForm>();
+  form.on_activate = [&activated] { ++activated; };
+  const auto activate = [this](const char* window) {
+    QApplication::setActiveWindow(&widget(window));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&widget(window)));
+  };
+  desktop.enter("a test", [&form] { form.show(); });
+  activate("InputJCPDS");
+  EXPECT_EQ(activated, 1);
+  QApplication::setActiveWindow(nullptr);
+  activate("InputJCPDS");
+  EXPECT_EQ(activated, 1) << "back from another program";
+  activate("Main1");
+  activate("InputJCPDS");
+  EXPECT_EQ(activated, 2);
+}
+
+TEST_F(DesktopTest, MapLeavesTheFocusToThePatternThatShowsIt) {
+  show_main1();
+  load("NaCl.cry");
+  click("Main1", "Command10");
+  program.windows().use<Pattern2Form>().Check2.set_value(1);
+  type(child<QLineEdit>("Pattern2", "Text3"), "1");
+  for (int drawing = 0; drawing < 2; ++drawing) {
+    QApplication::setActiveWindow(&widget("Pattern2"));  // this platform activates whatever comes up
+    click("Pattern2", "Command8");
+    QApplication::processEvents();
+  }
+  EXPECT_TRUE(widget("Zaxis").isVisible());
+  EXPECT_TRUE(widget("Pattern2").isActiveWindow());
+}
+
+TEST_F(DesktopTest, HourglassStandsOverPicturesAndBoxes) {
+  program.windows().use("Xd");
+  const auto shapes = [this] {
+    return std::vector{widget("Xd").cursor().shape(), child<CanvasView>("Xd", "Picture1").cursor().shape(),
+                       child<QLineEdit>("Xd", "Text1").cursor().shape()};
+  };
+  const auto before = shapes();
+  {
+    const Hourglass hourglass(program.windows().use("Xd"));
+    child<CanvasView>("Xd", "Picture1").refresh();
+    EXPECT_EQ(shapes(), std::vector(3, Qt::WaitCursor));
+  }
+  EXPECT_EQ(shapes(), before);
+}
+
+TEST_F(DesktopTest, LabelsShowMarkupAsItStands) {
+  show_main1();
+  const auto& label = child<QLabel>("Main1", "Label16");
+  const int plain_width = label.sizeHint().width();
+  desktop.enter("a test", [this] { main1().Label16.set_caption("<h1>A</h1>"); });
+  EXPECT_GT(label.sizeHint().width(), plain_width + label.fontMetrics().horizontalAdvance(QStringLiteral("<h1>")));
+}
+
+TEST_F(DesktopTest, EventsGiveTheScriptThatRepeatsThem) {
+  std::string script;
+  desktop.gate().set_journal([&script](const UserEvent& event) { script += event.script + '\n'; });
+  show_main1();
+  load("NaCl.cry");
+  go_to("Main1", "Text15");
+  box("Text15").selectAll();
+  type(box("Text15"), "0.9");
+  child<QComboBox>("Main1", "Combo1").setFocus();
+  QTest::keyClick(&child<QComboBox>("Main1", "Combo1"), Qt::Key_Down);
+  click("Main1", "Check1");
+  click("Main1", "Command6");
+  click("Main1", "Command10");
+  type(child<QLineEdit>("Pattern2", "Text5"), "1\r");
+  auto& picture = child<CanvasView>("Pattern2", "Picture1");
+  QTest::mouseClick(&picture, Qt::LeftButton, {}, picture.picture_rect().center().toPoint() + QPoint(31, 17));
+
+  std::ostringstream output;
+  ScriptServices answers(output);
+  Program again({ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, answers);
+  again.start();
+  answers.queue_answer(ZOL_SOURCE_DIR "/data/ZOLDATA/NaCl.cry");
+  std::istringstream lines(script);
+  ScriptDriver(again, answers, output).run(lines);
+  const auto& form = program.windows().use<Pattern2Form>();
+  const auto& repeated = again.windows().use<Pattern2Form>();
+  EXPECT_EQ(repeated.Text6.text(), form.Text6.text()) << script;
+  EXPECT_EQ(repeated.List1.items(), form.List1.items());
+  EXPECT_EQ(again.windows().use<Main1Form>().List2.items(), main1().List2.items());
+}
+
 class PictureView : public testing::Test {
  protected:
-  PictureView() {
-    view.attach(picture, [](const std::function<void()>& action) { action(); });
-  }
+  PictureView() { view.attach(picture, events); }
 
   PixelServices services;
   Window window{"Sample", "a sample"};
+  EventGate gate{[] {}, [](const std::exception_ptr&) { FAIL(); }};
+  UserEvents events{gate};
   Canvas picture{window, services, "Picture1", 1500, 1500};
   CanvasView view;
 };
@@ -449,8 +693,11 @@ TEST_F(PictureView, MouseEventsArriveInUserCoordinates) {
   for (const int x : {1, 24, 100, 176, 199}) QTest::mousePress(&view, Qt::LeftButton, {}, QPoint(x, 0));
   EXPECT_EQ(down, (Places{{-1, 0}, {0, 1}}));
   EXPECT_EQ(up, (Places{{-1, 0}}));
-  QTest::mouseDClick(&view, Qt::LeftButton, {}, QPoint(100, 75));
+  for (const int x : {24, 100, 176}) QTest::mouseDClick(&view, Qt::LeftButton, {}, QPoint(x, 75));
   EXPECT_EQ(doubled, 1);
+  up.clear();
+  for (const int x : {24, 176}) QTest::mouseClick(&view, Qt::LeftButton, {}, QPoint(x, 75));
+  EXPECT_EQ(up, Places{}) << "a release belongs to its press";
 }
 
 TEST_F(PictureView, PictureOfItsOwnSizeShowsPixelByPixel) {

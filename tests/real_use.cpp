@@ -143,7 +143,13 @@ void show_kikuchi_pattern(const User& user, const char* crystal, const char* u, 
 void show_zone_axes(const User& user) {
   user.save("kikuchi", "kikuchi.bmp", [&user] { user.choose("Pattern2", "ISAVE"); });
   user.click("Pattern2", "Check2");
+  auto& turn = user.widget<QAbstractButton>("Pattern2", "Command6");
   user.click("Pattern2", "Command8");
+  constexpr int coming_up = 300;  // milliseconds
+  QTest::qWait(coming_up);
+  expect(turn.isActiveWindow() &&
+             QGuiApplication::topLevelAt(turn.mapToGlobal(turn.rect().center())) == turn.window()->windowHandle(),
+         QStringLiteral("the map covers the pattern that it goes with"));
   user.take_picture("Zaxis", "zone-axis-map");
   user.save("map", "map.bmp", [&user] { user.choose("Zaxis", "SaveMap"); });
   user.window("Zaxis").close();
@@ -297,6 +303,12 @@ const FailureCase failure_cases[] = {
        auto& table = user.widget<QTableView>("InputJCPDS", "G");
        QTest::keyClick(&table, Qt::Key_End, Qt::ControlModifier);
        QTest::keyClick(&table, Qt::Key_Return);
+     }},
+    {"dialog",
+     [](const User& user) {  // the box is left on the way to a dialog
+       user.click("Main1", "Command13");
+       user.type("PATTERN3", "Text2", "-1");
+       user.choose("PATTERN3", "ImageLoad");
      }},
     {"conversion",
      [](const User& user) {

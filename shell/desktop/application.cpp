@@ -1,12 +1,12 @@
 #include "shell/desktop/application.h"
 
-#include <QApplication>
 #include <QIcon>
 #include <QMessageBox>
 #include <QTimer>
 
 #include "shell/data_folders.h"
 #include "shell/desktop/desktop_services.h"
+#include "shell/desktop/guarded_application.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/screen_fit.h"
 #include "shell/program.h"
@@ -49,7 +49,7 @@ void name_application() {
 }  // namespace
 
 int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun) {
-  const QApplication application(argc, argv);
+  const GuardedApplication application(argc, argv);
   name_application();
   DataRoot data;
   try {
@@ -64,7 +64,7 @@ int run_application(int argc, char** argv, const std::function<void(Desktop&)>& 
   Desktop desktop(program.windows(), show_failure);
   services.set_desktop(desktop);
   QTimer::singleShot(0, &desktop, [&] {
-    desktop.enter([&program] { program.start(); });
+    desktop.enter("the program started", [&program] { program.start(); });
     if (begun) begun(desktop);
   });
   return QApplication::exec();

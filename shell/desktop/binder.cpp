@@ -22,13 +22,13 @@
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QTableView>
-#include <QTimer>
 
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/control_models.h"
 #include "shell/desktop/item_copies.h"
 #include "shell/desktop/latin1_input.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/desktop/screen_fit.h"
 
 namespace zol {
 namespace {
@@ -51,6 +51,7 @@ struct Binder::Tie : QObject {
   Tie(Binder& owner, Control& bound, QWidget* shown_by) : binder(owner), control(bound), widget(shown_by) {}
   virtual void show() = 0;
   virtual bool key_pressed(QKeyEvent& /*event*/) { return false; }  ///< @returns true when the widget must not see it
+  virtual void focus_came(Qt::FocusReason /*reason*/) {}
   virtual void focus() {
     if (widget != nullptr) widget->setFocus(Qt::OtherFocusReason);
   }
@@ -74,8 +75,9 @@ class Binder::TextTie : public Tie {
   TextTie(Binder& owner, TextBox& box, QLineEdit& edit) : Tie(owner, box, &edit), box_(box), edit_(edit) {
     if (!box.holds_file_name) take_latin1_only(edit);
     connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
-      binder.enter(
-          [this, typed = box_.holds_file_name ? text.toStdString() : latin1_from_qt(text)] { box_.set_text(typed); });
+      entered();
+      const std::string typed = box_.holds_file_name ? text.toStdString() : latin1_from_qt(text);
+      binder.enter(operation({"set", box_.path(), typed}, [this, typed] { box_.set_text(typed); }));
     });
     edit.installEventFilter(&owner);
   }
@@ -89,9 +91,16 @@ class Binder::TextTie : public Tie {
   bool key_pressed(QKeyEvent& event) override {
     const int code = key_code(event);
     if (code == 0) return false;
-    int left = code;
-    if (box_.on_key_press) binder.enter([this, &left, code] { left = box_.press_key(code); });
-    return left == 0 || code == key_enter;
+    entered();
+    if (!box_.on_key_press) return code == key_enter;
+    const auto left = std::make_shared<int>(0);  // a key that has to wait is kept from the widget
+    UserEvent press{"a key was pressed in " + box_.path(), "", [this, left, code] { *left = box_.press_key(code); }};
+    if (code == key_enter) press.script = script_line({"type", box_.path(), "\r"});
+    binder.enter(std::move(press));
+    return *left == 0 || code == key_enter;
+  }
+  void focus_came(Qt::FocusReason reason) override {
+    if (reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason) entered();  // it was never away
   }
   void focus() override {
     Tie::focus();
@@ -99,6 +108,8 @@ class Binder::TextTie : public Tie {
   }
 
  private:
+  void entered() { binder.events_.in_box(box_, edit_); }
+
   TextBox& box_;
   QLineEdit& edit_;
 };
@@ -116,7 +127,9 @@ class Binder::LabelTie : public Tie {
 class Binder::ButtonTie : public Tie {
  public:
   ButtonTie(Binder& owner, CommandButton& button, QAbstractButton& view) : Tie(owner, button, &view) {
-    connect(&view, &QAbstractButton::clicked, this, [this, &button] { binder.enter([&button] { button.click(); }); });
+    connect(&view, &QAbstractButton::clicked, this, [this, &button] {
+      binder.act({"click", button.path()}, [&button] { button.click(); });
+    });
   }
   void show() override {}
 };
@@ -124,7 +137,7 @@ class Binder::ButtonTie : public Tie {
 class Binder::CheckTie : public Tie {
  public:
   CheckTie(Binder& owner, CheckBox& box, QCheckBox& view) : Tie(owner, box, &view), box_(box), shown_(view) {
-    connect(&view, &QCheckBox::clicked, this, [this] { binder.enter([this] { box_.click(); }); });
+    connect(&view, &QCheckBox::clicked, this, [this] { binder.act({"click", box_.path()}, [this] { box_.click(); }); });
   }
   void show() override { shown_.setChecked(box_.checked()); }
 
@@ -139,7 +152,7 @@ class Binder::OptionTie : public Tie {
       : Tie(owner, option, &view), option_(option), shown_(view) {
     view.setAutoExclusive(false);  // the options exclude each other by themselves
     connect(&view, &QRadioButton::clicked, this, [this] {
-      binder.enter([this] { option_.click(); });
+      binder.act({"click", option_.path()}, [this] { option_.click(); });
       shown_.setChecked(option_.on());
     });
   }
@@ -157,8 +170,9 @@ class Binder::ComboTie : public Tie {
     view.setEditable(true);
     view.setInsertPolicy(QComboBox::NoInsert);
     view.lineEdit()->setReadOnly(true);
-    connect(&view, &QComboBox::activated, this,
-            [this](int index) { binder.enter([this, index] { combo_.pick(index); }); });
+    connect(&view, &QComboBox::activated, this, [this](int index) {
+      binder.act({"select", combo_.path(), std::to_string(index)}, [this, index] { combo_.pick(index); });
+    });
   }
   void show() override {
     const QSignalBlocker blocked(shown_);
@@ -212,7 +226,7 @@ class Binder::ListTie : public Tie {
   /// What extends the selection for a copy picks nothing.
   void pick(int row) {
     if (QApplication::keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) return;
-    binder.enter([this, row] { list_.pick(row); });
+    binder.act({"select", list_.path(), std::to_string(row)}, [this, row] { list_.pick(row); });
   }
 
   ListBox& list_;
@@ -232,7 +246,9 @@ class Binder::FrameTie : public Tie {
 class Binder::MenuTie : public Tie {
  public:
   MenuTie(Binder& owner, MenuItem& item, QAction& action) : Tie(owner, item, nullptr), action_(action) {
-    connect(&action, &QAction::triggered, this, [this, &item] { binder.enter([&item] { item.click(); }); });
+    connect(&action, &QAction::triggered, this, [this, &item] {
+      binder.act({"click", item.path()}, [&item] { item.click(); });
+    });
   }
   void show() override { action_.setVisible(control.visible()); }
 
@@ -276,7 +292,9 @@ class Binder::GridTie : public Tie {
     connect(view.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& current, const QModelIndex& /*previous*/) {
               if (showing_ || !current.isValid()) return;
-              binder.enter([this, row = current.row() + 1, column = current.column() + 1] {
+              const int row = current.row() + 1;
+              const int column = current.column() + 1;
+              binder.act({"cell", grid_.path(), std::to_string(row), std::to_string(column)}, [this, row, column] {
                 grid_.set_row(row);
                 grid_.set_column(column);
               });
@@ -300,7 +318,10 @@ class Binder::GridTie : public Tie {
     const int code = key_code(event);
     const bool refused = !is_latin1(event.text());
     if (refused) say_refused(shown_);
-    if (code != 0) binder.enter([this, code] { grid_.press_key(code); });
+    if (code != 0) {
+      binder.enter(operation({"type", grid_.path(), std::string(1, static_cast<char>(code))},
+                             [this, code] { grid_.press_key(code); }));
+    }
     return code != 0 || refused;
   }
 
@@ -314,7 +335,7 @@ class Binder::GridTie : public Tie {
 class Binder::CanvasTie : public Tie {
  public:
   CanvasTie(Binder& owner, Canvas& canvas, CanvasView& view) : Tie(owner, canvas, &view), view_(view) {
-    view.attach(canvas, [&owner](const std::function<void()>& action) { owner.enter(action); });
+    view.attach(canvas, owner.events_);
     if (auto* top = qobject_cast<QMainWindow*>(&owner.widget())) {
       connect(&view, &CanvasView::pointed_at, top->statusBar(),
               [top](const QString& place) { top->statusBar()->showMessage(place); });
@@ -367,8 +388,9 @@ std::unique_ptr<Binder::Tie> Binder::make_tie(Control& control) {
   return nullptr;
 }
 
-Binder::Binder(Window& window, QWidget& widget, EnterEvent enter)
-    : window_(window), widget_(widget), enter_(std::move(enter)) {
+Binder::Binder(Window& window, QWidget& widget, UserEvents& events)
+    : window_(window), widget_(widget), events_(events) {
+  widget.setAttribute(Qt::WA_ShowWithoutActivating, !window.beside.empty());
   for (Control* control : window.controls()) {
     if (auto made = make_tie(*control)) {
       ties_.push_back(std::move(made));
@@ -397,23 +419,44 @@ void Binder::control_changed(Control& control) {
 
 void Binder::window_changed() {
   window_changed_ = true;
-  if (window_.mouse_pointer() == MousePointer::Hourglass) {
-    widget_.setCursor(Qt::WaitCursor);
-  } else {
+  show_hourglass();
+}
+
+/// The hourglass stands over all of the window, boxes and pictures with pointers of their own included.
+void Binder::show_hourglass() {
+  const bool waits = window_.mouse_pointer() == MousePointer::Hourglass;
+  if (waits != pointers_under_hourglass_.empty()) return;
+  if (!waits) {
+    for (const auto& [part, pointer] : std::exchange(pointers_under_hourglass_, {})) {
+      if (part != nullptr) part->setCursor(pointer);
+    }
     widget_.unsetCursor();
+    return;
   }
+  pointers_under_hourglass_.emplace_back(&widget_, QCursor());
+  for (auto* part : widget_.findChildren<QWidget*>()) {
+    if (part->testAttribute(Qt::WA_SetCursor)) pointers_under_hourglass_.emplace_back(part, part->cursor());
+  }
+  for (const auto& [part, pointer] : pointers_under_hourglass_) part->setCursor(Qt::WaitCursor);
 }
 
 void Binder::window_shown() {
-  comes_to_front_ = true;
+  comes_to_front_ = window_.beside.empty();
   window_changed();
+}
+
+void Binder::show_window() {
+  if (neighbour_ == nullptr || !neighbour_->isVisible()) return widget_.show();
+  if (!widget_.testAttribute(Qt::WA_Moved)) place_beside(widget_, *neighbour_);  // later it stays where the user put it
+  widget_.show();
+  neighbour_->raise();
 }
 
 void Binder::show_changes() {
   if (window_changed_) {
     window_changed_ = false;
     widget_.setWindowTitle(to_qt(window_.caption()).trimmed());
-    if (window_.visible() && !widget_.isVisible()) widget_.show();
+    if (window_.visible() && !widget_.isVisible()) show_window();
     if (!window_.visible() && widget_.isVisible()) widget_.hide();
     if (window_.visible() && std::exchange(comes_to_front_, false)) {
       widget_.raise();
@@ -437,29 +480,13 @@ void Binder::show_everything() {
   show_changes();
 }
 
-void Binder::leave_box(TextBox& box) {
-  if (box.on_lost_focus) enter([&box] { box.leave(); });
-}
-
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
   const auto tie = std::find_if(ties_.begin(), ties_.end(), [watched](const auto& t) { return t->widget == watched; });
   if (tie == ties_.end()) return QObject::eventFilter(watched, event);
   if (event->type() == QEvent::KeyPress) {
     if ((*tie)->key_pressed(dynamic_cast<QKeyEvent&>(*event))) return true;
-  } else if (event->type() == QEvent::FocusOut) {
-    auto* box = dynamic_cast<TextBox*>(&(*tie)->control);
-    const auto reason = dynamic_cast<QFocusEvent&>(*event).reason();
-    if (box != nullptr && reason != Qt::PopupFocusReason && reason != Qt::MenuBarFocusReason) {
-      if (reason != Qt::ActiveWindowFocusReason) {
-        leave_box(*box);
-      } else {
-        // Another window of ours takes the focus; another program doesn't.
-        QTimer::singleShot(0, this, [this, box] {
-          const auto* active = QApplication::activeWindow();
-          if (active != nullptr && active != &widget_) leave_box(*box);
-        });
-      }
-    }
+  } else if (event->type() == QEvent::FocusIn) {
+    (*tie)->focus_came(dynamic_cast<QFocusEvent&>(*event).reason());
   }
   return QObject::eventFilter(watched, event);
 }

@@ -8,25 +8,26 @@
 #include <memory>
 #include <set>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include <QCursor>
 #include <QObject>
+#include <QPointer>
 
+#include "shell/desktop/user_events.h"
 #include "shell/window_services.h"
 
 class QWidget;
 
 namespace zol {
 
-/// Runs an action as an event of the program: failures are shown, changes appear afterwards.
-using EnterEvent = std::function<void(const std::function<void()>&)>;
-
 class Binder : public QObject {
   Q_OBJECT
 
  public:
   /// @param widget  the top level of the window; its children bear the names of the controls
-  Binder(Window& window, QWidget& widget, EnterEvent enter);
+  Binder(Window& window, QWidget& widget, UserEvents& events);
   ~Binder() override;
 
   [[nodiscard]] Window& window() const { return window_; }
@@ -36,6 +37,8 @@ class Binder : public QObject {
   void focus_wanted(Control& control) { wanted_focus_ = &control; }
   void window_changed();
   void window_shown();
+  /// The top level beside which the window comes up, if any.
+  void set_neighbour(QWidget* neighbour) { neighbour_ = neighbour; }
   /// Shows what has changed since the last time.
   void show_changes();
   /// Shows all of it, as at the start.
@@ -66,12 +69,18 @@ class Binder : public QObject {
   template <class Widget>
   [[nodiscard]] Widget* named(const Control& control) const;
   [[nodiscard]] Tie* tie_of(const Control& control) const;
-  void enter(const std::function<void()>& action) { enter_(action); }
-  void leave_box(TextBox& box);
+  void enter(UserEvent event) { events_.enter(window_, std::move(event)); }
+  void act(std::initializer_list<std::string> words, std::function<void()> run) {
+    events_.act(window_, operation(words, std::move(run)));
+  }
+  void show_window();
+  void show_hourglass();
 
   Window& window_;
   QWidget& widget_;
-  EnterEvent enter_;
+  UserEvents& events_;
+  QPointer<QWidget> neighbour_;
+  std::vector<std::pair<QPointer<QWidget>, QCursor>> pointers_under_hourglass_;
   std::vector<std::unique_ptr<Tie>> ties_;
   std::set<Control*> changed_;
   Control* wanted_focus_ = nullptr;

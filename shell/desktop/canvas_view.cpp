@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QPainter>
 
+#include "core/number_text.h"
 #include "core/run_failure.h"
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/picture_export.h"
@@ -33,15 +34,15 @@ CanvasView::CanvasView(QWidget* parent) : QWidget(parent) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
-void CanvasView::attach(Canvas& canvas, std::function<void(const std::function<void()>&)> enter) {
+void CanvasView::attach(Canvas& canvas, UserEvents& events) {
   canvas_ = &canvas;
-  enter_ = std::move(enter);
+  events_ = &events;
   refresh();
 }
 
 void CanvasView::refresh() {
   cache_ = {};
-  if (canvas_ != nullptr) {
+  if (canvas_ != nullptr && canvas_->window().mouse_pointer() != MousePointer::Hourglass) {
     setCursor(canvas_->mouse_pointer() == MousePointer::CrossHair ? Qt::CrossCursor : Qt::ArrowCursor);
   }
   updateGeometry();
@@ -96,7 +97,10 @@ void CanvasView::draw_on(QPixmap& pixmap) const {
 }
 
 void CanvasView::paintEvent(QPaintEvent* /*event*/) {
-  if (canvas_ == nullptr) return;
+  if (canvas_ != nullptr) events_->guard([this] { paint(); });
+}
+
+void CanvasView::paint() {
   const QRectF place = picture_rect();
   const QSize device_size = (place.size() * devicePixelRatioF()).toSize();
   if (device_size.isEmpty()) return;
@@ -168,10 +172,24 @@ void CanvasView::draw_y_ruler(QPainter& painter, const QRectF& place) const {
 }
 
 // The margin beside a picture that does not fill its view is no part of it.
+bool CanvasView::counts(const QMouseEvent& event) const {
+  if (canvas_ == nullptr || event.button() == Qt::RightButton) return false;
+  const QRectF picture = picture_rect();
+  return !picture.isEmpty() && (pressed_ || picture.contains(event.position()));
+}
+
+UserEvent CanvasView::mouse_event(const char* name, const QPointF& position,
+                                  void (Canvas::*fire)(double, double) const) {
+  const QPointF at = user_position(position);
+  return operation({name, canvas_->path(), plain_text(to_single(at.x())), plain_text(to_single(at.y()))},
+                   [this, at, fire] { (canvas_->*fire)(at.x(), at.y()); });
+}
+
 void CanvasView::mousePressEvent(QMouseEvent* event) {
-  if (canvas_ == nullptr || event->button() == Qt::RightButton || !picture_rect().contains(event->position())) return;
-  const QPointF at = user_position(event->position());
-  enter_([this, at] { canvas_->press(at.x(), at.y()); });
+  pressed_ = false;
+  if (!counts(*event)) return;
+  pressed_ = true;
+  events_->act(canvas_->window(), mouse_event("press", event->position(), &Canvas::press));
 }
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event) {
@@ -179,36 +197,39 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event) {
   const QPointF at = user_position(event->position());
   if (canvas_->describe_place) {
     const bool inside = shows_something() && picture_rect().contains(event->position());
-    emit pointed_at(inside ? to_qt(canvas_->describe_place(at.x(), at.y())) : QString());
+    events_->guard([&] { emit pointed_at(inside ? to_qt(canvas_->describe_place(at.x(), at.y())) : QString()); });
   }
-  if (!canvas_->on_mouse_move) return;
-  enter_([this, at] { canvas_->move(at.x(), at.y()); });
+  if (!canvas_->on_mouse_move || !counts(*event)) return;
+  events_->enter(canvas_->window(), mouse_event("move", event->position(), &Canvas::move));
 }
 
 void CanvasView::leaveEvent(QEvent* /*event*/) { emit pointed_at({}); }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
-  if (canvas_ == nullptr || event->button() == Qt::RightButton || picture_rect().isEmpty()) return;
-  const QPointF at = user_position(event->position());
-  enter_([this, at] { canvas_->release(at.x(), at.y()); });
+  const bool ends = counts(*event) && pressed_;
+  if (event->button() != Qt::RightButton) pressed_ = false;
+  if (ends) events_->enter(canvas_->window(), mouse_event("release", event->position(), &Canvas::release));
 }
 
 void CanvasView::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (canvas_ == nullptr || event->button() == Qt::RightButton) return;
-  enter_([this] { canvas_->double_click(); });
+  pressed_ = false;
+  if (!counts(*event)) return;
+  pressed_ = true;
+  events_->act(canvas_->window(), operation({"doubleclick", canvas_->path()}, [this] { canvas_->double_click(); }));
 }
 
 void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
   if (canvas_ == nullptr) return;
-  QMenu menu(this);
-  menu.addAction(tr("&Copy"), this, &CanvasView::copy_to_clipboard);
-  menu.addSeparator();
-  menu.addAction(tr("Export &PNG..."), this, [this] { ask_export(1.0, ".png"); });
-  menu.addAction(tr("Export PNG, dou&ble size..."), this, [this] { ask_export(2.0, ".png"); });
-  menu.addAction(tr("Export PNG, &four times..."), this, [this] { ask_export(4.0, ".png"); });
-  menu.addAction(tr("Export &SVG..."), this, [this] { ask_export(1.0, ".svg"); });
-  menu.addAction(tr("Export P&DF..."), this, [this] { ask_export(1.0, ".pdf"); });
-  menu.exec(event->globalPos());
+  auto* menu = new QMenu(this);
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  menu->addAction(tr("&Copy"), this, &CanvasView::copy_to_clipboard);
+  menu->addSeparator();
+  menu->addAction(tr("Export &PNG..."), this, [this] { ask_export(1.0, ".png"); });
+  menu->addAction(tr("Export PNG, dou&ble size..."), this, [this] { ask_export(2.0, ".png"); });
+  menu->addAction(tr("Export PNG, &four times..."), this, [this] { ask_export(4.0, ".png"); });
+  menu->addAction(tr("Export &SVG..."), this, [this] { ask_export(1.0, ".svg"); });
+  menu->addAction(tr("Export P&DF..."), this, [this] { ask_export(1.0, ".pdf"); });
+  menu->popup(event->globalPos());
 }
 
 void CanvasView::copy_to_clipboard() const {
@@ -221,7 +242,7 @@ void CanvasView::copy_to_clipboard() const {
 
 // A copy that can't be written is no failure of the run: the program knows nothing of it.
 void CanvasView::ask_export(double factor, const char* ending) {
-  enter_([this, factor, suffix = NameEnding{ending}] {
+  const auto ask = [this, factor, suffix = NameEnding{ending}] {
     Services& services = canvas_->services();
     FileDialog dialog(services);
     const std::string answer = dialog.save(FileKind::Export, suffix);
@@ -231,7 +252,8 @@ void CanvasView::ask_export(double factor, const char* ending) {
     } catch (const RunFailure& failure) {
       services.message(failure.message(), "Export");
     }
-  });
+  };
+  events_->act(canvas_->window(), {canvas_->path() + " was exported", "", ask});
 }
 
 }  // namespace zol

@@ -2,12 +2,11 @@
 // coordinates. A curve has rulers at its left and lower border.
 #pragma once
 
-#include <functional>
-
 #include <QPixmap>
 #include <QWidget>
 
 #include "shell/canvas.h"
+#include "shell/desktop/user_events.h"
 
 namespace zol {
 
@@ -17,8 +16,8 @@ class CanvasView : public QWidget {
  public:
   explicit CanvasView(QWidget* parent = nullptr);
 
-  /// Ties the view to a canvas; enter runs what an event sets off.
-  void attach(Canvas& canvas, std::function<void(const std::function<void()>&)> enter);
+  /// Ties the view to a canvas; what the user does there goes to the events.
+  void attach(Canvas& canvas, UserEvents& events);
   /// The canvas has changed.
   void refresh();
 
@@ -44,17 +43,23 @@ class CanvasView : public QWidget {
 
  private:
   [[nodiscard]] QPointF user_position(const QPointF& position) const;
+  [[nodiscard]] bool counts(const QMouseEvent& event) const;
+  /// The operation of a script that repeats a mouse event.
+  [[nodiscard]] UserEvent mouse_event(const char* name, const QPointF& position,
+                                      void (Canvas::*fire)(double, double) const);
   [[nodiscard]] QPixmap drawn(const QSize& device_size) const;
   void draw_on(QPixmap& pixmap) const;
   [[nodiscard]] bool shows_something() const;
   /// Room for the rulers around the picture.
   [[nodiscard]] QMarginsF ruler_margins() const;
+  void paint();
   void draw_x_ruler(QPainter& painter, const QRectF& place) const;
   void draw_y_ruler(QPainter& painter, const QRectF& place) const;
   void ask_export(double factor, const char* ending);
 
   Canvas* canvas_ = nullptr;
-  std::function<void(const std::function<void()>&)> enter_;
+  UserEvents* events_ = nullptr;
+  bool pressed_ = false;  ///< inside the picture: what follows belongs to it, wherever the pointer goes
   QPixmap cache_;
 };
 

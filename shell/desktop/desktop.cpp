@@ -1,10 +1,9 @@
 #include "shell/desktop/desktop.h"
 
 #include <algorithm>
-#include <new>
 
-#include <QCloseEvent>
 #include <QCoreApplication>
+#include <QEvent>
 #include <QFile>
 #include <QLabel>
 #include <QMainWindow>
@@ -16,6 +15,7 @@
 #include "core/run_failure.h"
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/file_drops.h"
+#include "shell/desktop/guarded_application.h"
 #include "shell/desktop/guide.h"
 #include "shell/desktop/screen_fit.h"
 
@@ -50,43 +50,56 @@ std::unique_ptr<QWidget> load_ui(const std::string& window_name) {
   return widget;
 }
 
+/// Unloaded windows. It is deleted later, when their own events of Qt are over: first the ties, then the widgets and
+/// the controls that these show.
+class Desktop::Grave : public QObject {
+ public:
+  Grave(QObject* parent, std::vector<std::unique_ptr<Window>> windows, std::vector<Shown> shown)
+      : QObject(parent), windows_(std::move(windows)), shown_(std::move(shown)) {
+    deleteLater();
+  }
+
+ private:
+  std::vector<std::unique_ptr<Window>> windows_;
+  std::vector<Shown> shown_;
+};
+
 Desktop::Desktop(Windows& windows, std::function<void(const std::string&)> failed)
-    : windows_(windows), failed_(std::move(failed)) {
+    : windows_(windows),
+      failed_(std::move(failed)),
+      gate_([this] { settle(); }, [this](const std::exception_ptr& failure) { show_failure(failure); }),
+      events_(gate_) {
   windows_.set_view(this);
+  if (auto* application = dynamic_cast<GuardedApplication*>(QCoreApplication::instance())) {
+    application->set_failed([this](const std::exception_ptr& failure) { gate_.fail(failure); });
+  }
   since_breath_.start();
 }
 
-Desktop::~Desktop() { windows_.set_view(nullptr); }
-
-void Desktop::run_guarded(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RunFailure& failure) {
-    if (depth_ > 1) throw;
-    ended_ = true;
-    failed_(failure.message());
-    end(1);
-  } catch (const std::bad_alloc&) {
-    if (depth_ > 1) throw;
-    ended_ = true;
-    failed_("not enough memory");
-    end(1);
-  }
+Desktop::~Desktop() {
+  gate_.end();
+  if (auto* application = dynamic_cast<GuardedApplication*>(QCoreApplication::instance())) application->set_failed({});
+  windows_.set_view(nullptr);
 }
 
-void Desktop::enter(const std::function<void()>& action) {
-  if (ended_) return;
-  ++depth_;
-  run_guarded(action);
-  --depth_;
-  if (depth_ > 0 || ended_) return;
-  windows_.free_unloaded();
-  unloaded_.clear();
+/// Ends the loop also when there is no memory left for the message.
+void Desktop::show_failure(const std::exception_ptr& failure) {
+  struct End {
+    Desktop& desktop;
+    ~End() { desktop.end(1); }
+  };
+  const End end{*this};
+  failed_(failure_text(failure));
+}
+
+void Desktop::settle() {
+  auto windows = windows_.take_unloaded();
+  if (!windows.empty()) new Grave(this, std::move(windows), std::exchange(unloaded_, {}));
   show_changes();
 }
 
 void Desktop::end(int status) {
-  ended_ = true;
+  gate_.end();
   QCoreApplication::exit(status);
 }
 
@@ -103,9 +116,8 @@ void Desktop::window_created(Window& window) {
   auto widget = load_ui(window.name());
   if (!widget) return;
   widget->installEventFilter(this);
-  const EnterEvent enter_event = [this](const std::function<void()>& action) { enter(action); };
-  auto binder = std::make_unique<Binder>(window, *widget, enter_event);
-  accept_file_drops(window, *widget, enter_event);
+  auto binder = std::make_unique<Binder>(window, *widget, events_);
+  accept_file_drops(window, *widget, events_);
   offer_guide(*widget);
   binder->show_everything();
   if (auto* top = qobject_cast<QMainWindow*>(widget.get())) fit_to_screen(*top);
@@ -126,7 +138,11 @@ void Desktop::offer_guide(QWidget& widget) {
 }
 
 void Desktop::window_shown(Window& window) {
-  if (auto* shown = binder(window.name())) shown->window_shown();
+  auto* shown = binder(window.name());
+  if (shown == nullptr) return;
+  if (window.beside.empty()) active_ = window.name();
+  if (auto* neighbour = binder(window.beside)) shown->set_neighbour(&neighbour->widget());
+  shown->window_shown();
 }
 
 void Desktop::window_changed(Window& window) {
@@ -166,20 +182,38 @@ void Desktop::breathe() {
   since_breath_.start();
 }
 
-/// The frame button hides a window; without any window left to see, the program ends.
 bool Desktop::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::Close || ended_) return QObject::eventFilter(watched, event);
-  for (const auto& [name, shown] : shown_) {
-    if (shown.widget.get() != watched) continue;
-    Window& window = shown.binder->window();
-    enter([&window] { window.hide(); });
-    break;
+  const bool closes = event->type() == QEvent::Close;
+  if ((!closes && event->type() != QEvent::WindowActivate) || ended()) return QObject::eventFilter(watched, event);
+  const auto found = std::find_if(shown_.begin(), shown_.end(),
+                                  [watched](const auto& entry) { return entry.second.widget.get() == watched; });
+  if (found != shown_.end()) {
+    Window& window = found->second.binder->window();
+    closes ? close_by_frame(window) : window_activated(window);
   }
-  const bool any_left =
-      std::any_of(shown_.begin(), shown_.end(), [](const auto& entry) { return entry.second.widget->isVisible(); });
-  if (!any_left) end(0);
-  event->ignore();
-  return true;
+  if (closes) event->ignore();
+  return closes;
+}
+
+/// Without any window left to see, the program ends.
+void Desktop::close_by_frame(Window& window) {
+  UserEvent event{window.name() + " was closed by its frame", "", [&window] { window.hide(); }};
+  if (const auto* button = window.frame_button) {
+    event = operation({"click", button->path()}, [button] { button->click(); });
+  }
+  event.run = [this, run = std::move(event.run)] {
+    run();
+    const bool any_left = std::any_of(shown_.begin(), shown_.end(),
+                                      [](const auto& entry) { return entry.second.binder->window().visible(); });
+    if (!any_left) end(0);
+  };
+  events_.act(window, std::move(event));
+}
+
+/// Back from a dialog or from another program, or shown by a handler, a window was the active one already.
+void Desktop::window_activated(Window& window) {
+  if (std::exchange(active_, window.name()) == window.name() || !window.on_activate) return;
+  events_.act(window, operation({"show", window.name()}, [&window] { window.activate(); }));
 }
 
 }  // namespace zol

@@ -1,4 +1,4 @@
-// All windows of the program on the screen, and the one place where an event enters it.
+// All windows of the program on the screen.
 #pragma once
 
 #include <functional>
@@ -10,6 +10,8 @@
 #include <QObject>
 
 #include "shell/desktop/binder.h"
+#include "shell/desktop/user_events.h"
+#include "shell/event_gate.h"
 #include "shell/window_services.h"
 
 class QWidget;
@@ -32,11 +34,12 @@ class Desktop : public QObject, public WindowView {
   explicit Desktop(Windows& windows, std::function<void(const std::string&)> failed);
   ~Desktop() override;
 
-  /// Runs an action as an event: a failure of the run ends the program, changes are shown afterwards.
-  void enter(const std::function<void()>& action);
+  /// Runs an action as an event: a failure ends the program, changes are shown afterwards.
+  void enter(std::string name, std::function<void()> action) { gate_.enter({std::move(name), "", std::move(action)}); }
   /// No event comes in any more; the event loop ends with this status.
   void end(int status);
-  [[nodiscard]] bool ended() const { return ended_; }
+  [[nodiscard]] bool ended() const { return gate_.ended(); }
+  [[nodiscard]] EventGate& gate() { return gate_; }
 
   [[nodiscard]] Binder* binder(const std::string& window_name) const;
 
@@ -55,21 +58,26 @@ class Desktop : public QObject, public WindowView {
     std::unique_ptr<QWidget> widget;
     std::unique_ptr<Binder> binder;
   };
+  class Grave;
 
   void offer_guide(QWidget& widget);
-  void run_guarded(const std::function<void()>& action);
+  void show_failure(const std::exception_ptr& failure);
+  void settle();
   void show_changes();
   void breathe();
+  void close_by_frame(Window& window);
+  void window_activated(Window& window);
 
   Windows& windows_;
   std::function<void(const std::string&)> failed_;
+  EventGate gate_;
+  UserEvents events_;
   std::map<std::string, Shown> shown_;
   std::vector<Shown> unloaded_;
+  std::string active_;  ///< the window that was last activated, by the program or the user
   std::unique_ptr<Guide> guide_;
   QElapsedTimer since_breath_;
   qint64 work_ms_ = 0;  ///< between two breaths
-  int depth_ = 0;
-  bool ended_ = false;
 };
 
 }  // namespace zol

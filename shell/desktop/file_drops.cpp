@@ -15,8 +15,7 @@ namespace {
 
 class DropFilter : public QObject {
  public:
-  DropFilter(Window& window, QWidget& widget, EnterEvent enter)
-      : QObject(&widget), window_(window), enter_(std::move(enter)) {
+  DropFilter(Window& window, QWidget& widget, UserEvents& events) : QObject(&widget), window_(window), events_(events) {
     widget.setAcceptDrops(true);
     for (auto* edit : widget.findChildren<QLineEdit*>())
       edit->setAcceptDrops(false);  // they would take the path as text
@@ -35,16 +34,18 @@ class DropFilter : public QObject {
     if (taken == window_.file_drops.end()) return false;
     drag.setDropAction(Qt::CopyAction);
     drag.accept();
-    if (dropped) {
-      enter_([&drop = *taken, path] {
-        drop.dialog->answer_next(path);
-        drop.item->click();
-      });
-    }
+    if (dropped) take(*taken, path);
     return true;
   }
 
  private:
+  void take(const FileDrop& drop, const std::string& name) {
+    UserEvent event{name + " was dropped on " + window_.name(),
+                    script_line({"answer", name}) + '\n' + script_line({"click", drop.item->path()}),
+                    [&drop, name] { drop.dialog->answering(name, [&drop] { drop.item->click(); }); }};
+    events_.act(window_, std::move(event));
+  }
+
   /// The path of a single file; empty for anything else. Its bytes as they are: they need not be UTF-8, which the texts
   /// of Qt would make of them.
   static std::string file_of(const QDropEvent& drag) {
@@ -54,13 +55,13 @@ class DropFilter : public QObject {
   }
 
   Window& window_;
-  EnterEvent enter_;
+  UserEvents& events_;
 };
 
 }  // namespace
 
-void accept_file_drops(Window& window, QWidget& widget, EnterEvent enter) {
-  if (!window.file_drops.empty()) new DropFilter(window, widget, std::move(enter));  // the widget owns it
+void accept_file_drops(Window& window, QWidget& widget, UserEvents& events) {
+  if (!window.file_drops.empty()) new DropFilter(window, widget, events);  // the widget owns it
 }
 
 }  // namespace zol

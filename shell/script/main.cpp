@@ -7,11 +7,9 @@
 #include <cstring>
 #include <fstream>
 #include <iostream>
-#include <new>
 #include <optional>
 #include <string>
 
-#include "core/run_failure.h"
 #include "shell/data_folders.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/latin1.h"
@@ -96,14 +94,14 @@ Outcome run_program(int argc, char** argv) {
     }
     run(arguments, file.is_open() ? static_cast<std::istream&>(file) : std::cin);
     return {};
-  } catch (const zol::RunFailure& failure) {
-    return {run_failed, "failure of the run: " + failure.message()};
-  } catch (const std::bad_alloc&) {
-    return {run_failed, "failure of the run: not enough memory"};
   } catch (const zol::ScriptError& error) {
     return {script_wrong, error.what()};
   } catch (const zol::UnansweredQuestion& question) {
     return {question_unanswered, std::string("unanswered question: ") + question.what()};
+  } catch (const std::ios::failure&) {
+    throw;  // the output is lost
+  } catch (...) {
+    return {run_failed, "failure of the run: " + zol::failure_text(std::current_exception())};
   }
 }
 

@@ -262,6 +262,13 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
   return table;
 }
 
+ScriptDriver::ScriptDriver(Program& program, ScriptServices& services, std::ostream& output)
+    : program_(program),
+      services_(services),
+      output_(output),
+      gate_([this] { program_.windows().free_unloaded(); },
+            [this](const std::exception_ptr& reason) { stopped_ = reason; }) {}
+
 void ScriptDriver::run(std::istream& script) {
   std::string line;
   // Who writes the script may wait for what a line prints.
@@ -274,12 +281,12 @@ void ScriptDriver::run(std::istream& script) {
     try {
       const Words words = split_words(line);
       if (words.empty()) continue;
-      execute(words);
+      gate_.enter({line, line, [this, &words] { execute(words); }});
+      if (stopped_) std::rethrow_exception(stopped_);
     } catch (const ScriptError& error) {
       if (error.line() > 0) throw;
       throw ScriptError(error.what(), line_);
     }
-    program_.windows().free_unloaded();
   }
   if (script.bad()) {
     throw RunFailure("can't read the script behind line " + std::to_string(line_) + ": " + std::strerror(errno));

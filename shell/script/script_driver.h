@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "shell/event_gate.h"
 #include "shell/program.h"
 #include "shell/script/script_services.h"
 
@@ -22,8 +23,7 @@ namespace zol {
 
 class ScriptDriver {
  public:
-  ScriptDriver(Program& program, ScriptServices& services, std::ostream& output)
-      : program_(program), services_(services), output_(output) {}
+  ScriptDriver(Program& program, ScriptServices& services, std::ostream& output);
 
   /// Runs the operations to the end of the text or of the program.
   /// @throws ScriptError  with the line number
@@ -31,11 +31,9 @@ class ScriptDriver {
   /// @throws UnansweredQuestion  from the program
   void run(std::istream& script);
 
-  /// Runs one operation.
-  void execute(const std::vector<std::string>& words);
-
  private:
   using Words = std::vector<std::string>;
+  void execute(const Words& words);
   struct Operation;
   static const std::vector<Operation>& operations();
 
@@ -55,7 +53,9 @@ class ScriptDriver {
   Program& program_;
   ScriptServices& services_;
   std::ostream& output_;
-  int line_ = 0;  // that runs, from 1
+  int line_ = 0;                // that runs, from 1
+  std::exception_ptr stopped_;  ///< what has ended the event of an operation
+  EventGate gate_;
 };
 
 }  // namespace zol

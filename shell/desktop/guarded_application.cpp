@@ -1,0 +1,21 @@
+#include "shell/desktop/guarded_application.h"
+
+#include <QEvent>
+#include <QLabel>
+
+namespace zol {
+
+bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
+  if (event->type() == QEvent::Polish) {
+    if (auto* label = qobject_cast<QLabel*>(receiver)) label->setTextFormat(Qt::PlainText);
+  }
+  try {
+    return QApplication::notify(receiver, event);
+  } catch (...) {
+    if (!failed_) throw;
+    failed_(std::current_exception());
+    return false;
+  }
+}
+
+}  // namespace zol

@@ -1,0 +1,46 @@
+#include "shell/desktop/user_events.h"
+
+#include <utility>
+
+#include <QApplication>
+#include <QMenuBar>
+
+namespace zol {
+
+UserEvents::UserEvents(EventGate& gate) : gate_(gate) {
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](const QWidget* /*from*/, const QWidget* to) { focus_moved(to); });
+}
+
+/// What waits for a window that is unloaded meanwhile never runs.
+void UserEvents::enter(const Window& window, UserEvent event) {
+  event.still_wanted = [life = window.life()] { return !life.expired(); };
+  gate_.enter(std::move(event));
+}
+
+void UserEvents::act(const Window& window, UserEvent event) {
+  leave_box();
+  enter(window, std::move(event));
+}
+
+void UserEvents::in_box(TextBox& box, QWidget& shown_by) {
+  if (box_ == &box && !box_lives_.expired()) return;
+  leave_box();
+  box_ = &box;
+  box_lives_ = box.window().life();
+  box_widget_ = &shown_by;
+}
+
+void UserEvents::leave_box() {
+  TextBox* box = std::exchange(box_, nullptr);
+  if (box == nullptr || box_lives_.expired() || !box->on_lost_focus) return;
+  enter(box->window(), operation({"leave", box->path()}, [box] { box->leave(); }));
+}
+
+/// A menu is on the way to an action, or back to the box; another program leaves the box alone.
+void UserEvents::focus_moved(const QWidget* to) {
+  if (to == nullptr || to == box_widget_ || to->window()->windowType() == Qt::Popup) return;
+  if (qobject_cast<const QMenuBar*>(to) == nullptr) leave_box();
+}
+
+}  // namespace zol

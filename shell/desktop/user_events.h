@@ -1,0 +1,40 @@
+// What the user does at the widgets, on its way to the gate. A box is left before anything else is done, whatever way
+// leads there: the mouse, a mnemonic, a menu, a picture or a button that takes no focus, a drop.
+#pragma once
+
+#include <memory>
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+#include "shell/event_gate.h"
+#include "shell/window_services.h"
+
+namespace zol {
+
+class UserEvents : public QObject {
+ public:
+  explicit UserEvents(EventGate& gate);
+
+  /// Work inside a control: a box or a table that is typed into, a picture that the pointer moves over.
+  void enter(const Window& window, UserEvent event);
+  /// An action on a window: the box that the user is in is left first.
+  void act(const Window& window, UserEvent event);
+
+  /// The user is in this box now, by the focus or by typing, until it is left.
+  void in_box(TextBox& box, QWidget& shown_by);
+  void leave_box();
+  /// What a widget does by itself: no event of the program, but its failure ends it.
+  void guard(const std::function<void()>& action) { gate_.guard(action); }
+
+ private:
+  void focus_moved(const QWidget* to);
+
+  EventGate& gate_;
+  TextBox* box_ = nullptr;
+  std::weak_ptr<const void> box_lives_;
+  QPointer<QWidget> box_widget_;
+};
+
+}  // namespace zol
