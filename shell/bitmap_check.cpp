@@ -159,8 +159,9 @@ class BitmapCheck {
         pixel = 0;
         continue;
       }
-      const unsigned pixels = count == 0 ? second : count;
-      if (count == 0) at += (pixels * header_.bits + 15) / 16 * 2;  // the pixels themselves, to a full 16 bits
+      const std::int64_t pixels = count == 0 ? second : count;
+      // Behind an escape come the pixels themselves, to a full 16 bits.
+      if (count == 0) at += static_cast<std::size_t>((pixels * header_.bits + 15) / 16 * 2);
       if (at > bytes_.size()) stop("it is cut short: it ends");
       if (pixel + pixels > room) stop("its run-length code goes beyond the row");
       pixel += pixels;
