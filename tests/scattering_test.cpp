@@ -151,7 +151,7 @@ TEST(Intensity, OfOneAtomIsTheOneByHand) {
   EXPECT_NEAR(state.RefI(1), std::pow(share * na_xrays, 2) * 10.8945 / 64 / 64 * 100, 1e-4);
 
   const double shown = std::pow(share * na_electrons, 2) / 64 / 64 * 1e5;
-  EXPECT_NEAR(std::stod(line(0, electrons).substr(24)), shown, 6e-4);
+  EXPECT_NEAR(Val(line(0, electrons).substr(24)), shown, 6e-4);
   EXPECT_NEAR(state.RefI(1), shown / 0.25 / 2, 1e-4) << "what is stored is divided by 2 s";
   state.CellVolume = 0;
   EXPECT_EQ(failure_of([&] { (void)line(0, electrons); }), "division by zero: the cell volume is 0");
