@@ -172,10 +172,10 @@ void CanvasView::draw_y_ruler(QPainter& painter, const QRectF& place) const {
 }
 
 // The margin beside a picture that does not fill its view is no part of it.
-bool CanvasView::counts(const QMouseEvent& event) const {
-  if (canvas_ == nullptr || event.button() == Qt::RightButton) return false;
-  const QRectF picture = picture_rect();
-  return !picture.isEmpty() && (pressed_ || picture.contains(event.position()));
+bool CanvasView::begins(const QMouseEvent& event) {
+  if (event.button() == Qt::RightButton) return false;
+  pressed_ = canvas_ != nullptr && picture_rect().contains(event.position());
+  return pressed_;
 }
 
 UserEvent CanvasView::mouse_event(const char* name, const QPointF& position,
@@ -186,35 +186,30 @@ UserEvent CanvasView::mouse_event(const char* name, const QPointF& position,
 }
 
 void CanvasView::mousePressEvent(QMouseEvent* event) {
-  pressed_ = false;
-  if (!counts(*event)) return;
-  pressed_ = true;
-  events_->act(canvas_->window(), mouse_event("press", event->position(), &Canvas::press));
+  if (begins(*event)) events_->act(canvas_->window(), mouse_event("press", event->position(), &Canvas::press));
 }
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event) {
   if (canvas_ == nullptr || picture_rect().isEmpty()) return;
   const QPointF at = user_position(event->position());
+  const bool inside = picture_rect().contains(event->position());
   if (canvas_->describe_place) {
-    const bool inside = shows_something() && picture_rect().contains(event->position());
-    events_->guard([&] { emit pointed_at(inside ? to_qt(canvas_->describe_place(at.x(), at.y())) : QString()); });
+    const bool tells = inside && shows_something();
+    events_->guard([&] { emit pointed_at(tells ? to_qt(canvas_->describe_place(at.x(), at.y())) : QString()); });
   }
-  if (!canvas_->on_mouse_move || !counts(*event)) return;
+  if (!canvas_->on_mouse_move || !(inside || pressed_)) return;
   events_->enter(canvas_->window(), mouse_event("move", event->position(), &Canvas::move));
 }
 
 void CanvasView::leaveEvent(QEvent* /*event*/) { emit pointed_at({}); }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
-  const bool ends = counts(*event) && pressed_;
-  if (event->button() != Qt::RightButton) pressed_ = false;
-  if (ends) events_->enter(canvas_->window(), mouse_event("release", event->position(), &Canvas::release));
+  if (event->button() == Qt::RightButton || !std::exchange(pressed_, false) || picture_rect().isEmpty()) return;
+  events_->enter(canvas_->window(), mouse_event("release", event->position(), &Canvas::release));
 }
 
 void CanvasView::mouseDoubleClickEvent(QMouseEvent* event) {
-  pressed_ = false;
-  if (!counts(*event)) return;
-  pressed_ = true;
+  if (!begins(*event)) return;
   events_->act(canvas_->window(), operation({"doubleclick", canvas_->path()}, [this] { canvas_->double_click(); }));
 }
 

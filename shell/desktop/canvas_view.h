@@ -43,7 +43,8 @@ class CanvasView : public QWidget {
 
  private:
   [[nodiscard]] QPointF user_position(const QPointF& position) const;
-  [[nodiscard]] bool counts(const QMouseEvent& event) const;
+  /// A press inside the picture.
+  bool begins(const QMouseEvent& event);
   /// The operation of a script that repeats a mouse event.
   [[nodiscard]] UserEvent mouse_event(const char* name, const QPointF& position,
                                       void (Canvas::*fire)(double, double) const);
