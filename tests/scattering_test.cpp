@@ -9,6 +9,7 @@
 #include <random>
 #include <string>
 
+#include "core/number_text.h"
 #include "reflections/structure_factor.h"
 #include "tests/crystals.h"
 #include "tests/plain_structure_factor.h"
