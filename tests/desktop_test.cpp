@@ -418,7 +418,7 @@ TEST_F(DesktopTest, ProgressFillsItsBarAtOnce) {
 TEST_F(DesktopTest, SolutionsStandInColumnsAndInTheirColours) {
   ListBox& list = program.windows().use<Pattern3Form>().List1;
   const auto& model = *child<QListView>("PATTERN3", "List1").model();
-  desktop.enter([&list] {
+  desktop.enter("a test", [&list] {
     list.add_item("9 a");
     list.set_fore_colour(colours::red);
     list.add_item("10 b");
@@ -729,7 +729,7 @@ TEST_F(DesktopTest, BoxesTakeLatin1AndRefuseTheRest) {
             "\xC5\xB3"
             "2");
   EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("Not taken"))) << "and says so";
-  desktop.enter([this] { main1().Text17.set_text("/α/Å³.cry"); });
+  desktop.enter("a test", [this] { main1().Text17.set_text("/α/Å³.cry"); });
   EXPECT_EQ(box("Text17").text(), QStringLiteral("/α/Å³.cry"));
 }
 
