@@ -787,13 +787,18 @@ TEST_F(Dialogs, PrintToTheFileThatIsNamed) {
   services.set_desktop(desktop);
   Window& window = program.windows().use("Xd");
   window.set_caption("NaCl.cry");
-  when_asked<QPrintDialog>([this](QPrintDialog& dialog) {
-    dialog.printer()->setPageOrientation(QPageLayout::Landscape);
-    dialog.findChild<QLineEdit*>(QStringLiteral("filename"))->setText(QString::fromStdString(folder.path("a.pdf")));
-    dialog.accept();
-  });
-  services.set_up_printer();
-  services.print_window(window);
+  for (const auto* file : {"a.pdf", "protected.pdf"}) {
+    when_asked<QPrintDialog>([path = folder.path(file)](QPrintDialog& dialog) {
+      dialog.printer()->setPageOrientation(QPageLayout::Landscape);
+      dialog.findChild<QLineEdit*>(QStringLiteral("filename"))->setText(QString::fromStdString(path));
+      dialog.accept();
+    });
+    services.set_up_printer();
+    if (std::string_view(file) == "a.pdf") services.print_window(window);
+  }
+  std::filesystem::permissions(folder.write("protected.pdf", "old"), std::filesystem::perms::owner_read);
+  EXPECT_NE(failure_of([&] { services.print_window(window); }).find("write-protected"), std::string::npos);
+  EXPECT_EQ(folder.read("protected.pdf"), "old");
   EXPECT_TRUE(is_landscape(folder.read("a.pdf")));
   if (!QPrinterInfo::availablePrinterNames().isEmpty()) return;
   QStringList proposed;

@@ -1,6 +1,7 @@
 #include "shell/desktop/desktop_services.h"
 
 #include <QApplication>
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
@@ -11,6 +12,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
+#include <QPdfWriter>
 #include <QPrintDialog>
 #include <QPrinterInfo>
 
@@ -60,6 +62,25 @@ bool may_write(QWidget* parent, const QString& path) {
   return QMessageBox::question(parent, tr("Replace file"),
                                tr("%1 exists already. Replace it?").arg(QDir::toNativeSeparators(path))) ==
          QMessageBox::Yes;
+}
+
+/// Draws pages for a printer, or for the file that it is set to: that one is written whole or not at all.
+void print_pages(QPrinter& printer, const std::function<void(QPagedPaintDevice&)>& draw) {
+  const QString name = printer.outputFileName();
+  if (name.isEmpty()) return draw(printer);
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter pdf(&buffer);
+  pdf.setPageLayout(printer.pageLayout());
+  pdf.setResolution(printer.resolution());
+  pdf.setTitle(printer.docName());
+  draw(pdf);
+  write_bytes(buffer.data(), QFile::encodeName(name).toStdString());
+}
+
+/// The printable part of a page in its own dots.
+QSizeF page_size(const QPagedPaintDevice& pages) {
+  return pages.pageLayout().paintRectPixels(pages.logicalDpiX()).size();
 }
 
 }  // namespace
@@ -127,7 +148,7 @@ void DesktopServices::end_document(const std::string& title) {
   const auto printer = default_output(title);
   if (!printer) return;
   printer->setDocName(to_qt(title));
-  print_lines(*printer, lines);
+  print_pages(*printer, [&lines](QPagedPaintDevice& pages) { print_lines(pages, lines); });
 }
 
 void DesktopServices::print_window(Window& window) {
@@ -136,13 +157,14 @@ void DesktopServices::print_window(Window& window) {
   auto chosen = std::exchange(set_up_, nullptr);
   if (!chosen) chosen = default_output(window.caption());
   if (!chosen) return;
-  QPrinter& printer = *chosen;
-  printer.setDocName(to_qt(window.caption()).trimmed());
-  QPainter painter(&printer);
-  if (!painter.isActive()) throw RunFailure("can't print the window " + window.caption());
+  chosen->setDocName(to_qt(window.caption()).trimmed());
   const QPixmap image = binder->widget().grab();
-  const QSizeF page = printer.pageLayout().paintRectPixels(printer.resolution()).size();
-  painter.drawPixmap(QRectF({}, QSizeF(image.size()).scaled(page, Qt::KeepAspectRatio)), image, QRectF(image.rect()));
+  print_pages(*chosen, [&](QPagedPaintDevice& pages) {
+    QPainter painter(&pages);
+    if (!painter.isActive()) throw RunFailure("can't print the window " + window.caption());
+    const QSizeF size = QSizeF(image.size()).scaled(page_size(pages), Qt::KeepAspectRatio);
+    painter.drawPixmap(QRectF({}, size), image, QRectF(image.rect()));
+  });
 }
 
 std::unique_ptr<Surface> DesktopServices::make_surface(int width, int height) {
@@ -151,19 +173,19 @@ std::unique_ptr<Surface> DesktopServices::make_surface(int width, int height) {
 
 void DesktopServices::export_picture(Canvas& canvas, const std::string& path) { zol::export_picture(canvas, path); }
 
-void print_lines(QPrinter& printer, const QStringList& lines) {
-  QPainter painter(&printer);
+void print_lines(QPagedPaintDevice& pages, const QStringList& lines) {
+  QPainter painter(&pages);
   if (!painter.isActive()) throw RunFailure("can't print the report: the printer does not answer");
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   constexpr int points = 9;
   font.setPointSize(points);
   painter.setFont(font);
-  const QFontMetricsF metrics(font, &printer);
-  const double page = printer.pageLayout().paintRectPixels(printer.resolution()).height();
+  const QFontMetricsF metrics(font, &pages);
+  const double page = page_size(pages).height();
   double y = 0;
   for (const QString& line : lines) {
     if (y + metrics.lineSpacing() > page) {
-      printer.newPage();
+      pages.newPage();
       y = 0;
     }
     painter.drawText(QPointF(0, y + metrics.ascent()), line);

@@ -41,6 +41,6 @@ class DesktopServices : public Services {
 };
 
 /// Prints lines of text in a fixed-pitch font, page by page. An empty document is one empty page.
-void print_lines(QPrinter& printer, const QStringList& lines);
+void print_lines(QPagedPaintDevice& pages, const QStringList& lines);
 
 }  // namespace zol
