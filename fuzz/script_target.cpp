@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "fuzz/bounded_script.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 #include "shell/script/script_driver.h"
 
 namespace zol::fuzz {

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "fuzz/bounded_script.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 #include "shell/script/script_services.h"
 
 namespace zol::fuzz {

@@ -5,8 +5,8 @@
 #include <numbers>
 #include <vector>
 
-#include "analysis/hkl3make.h"
-#include "analysis/pattern3_form.h"
+#include "analysis/window/hkl3make.h"
+#include "analysis/window/pattern3_form.h"
 #include "tests/projected_pattern.h"
 
 namespace zol {

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <cmath>
 
-#include "calculators/atom_distance_form.h"
-#include "calculators/utility_form.h"
-#include "reflections/main1_form.h"
-#include "shell/main_menu_form.h"
-#include "shell/program.h"
+#include "calculators/window/atom_distance_form.h"
+#include "calculators/window/utility_form.h"
+#include "reflections/window/main1_form.h"
+#include "shell/program/main_menu_form.h"
+#include "shell/program/program.h"
 #include "tests/fake_services.h"
 #include "tests/focus_view.h"
 #include "tests/test_files.h"

@@ -1,4 +1,4 @@
-#include "shell/canvas.h"
+#include "shell/services/canvas.h"
 
 #include <gtest/gtest.h>
 

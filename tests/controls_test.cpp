@@ -3,9 +3,9 @@
 #include <cmath>
 
 #include "core/run_failure.h"
-#include "shell/event_gate.h"
-#include "shell/ruler.h"
-#include "shell/window_services.h"
+#include "shell/services/event_gate.h"
+#include "shell/services/ruler.h"
+#include "shell/services/window_services.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
 

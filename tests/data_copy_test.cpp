@@ -1,4 +1,4 @@
-#include "shell/data_copy.h"
+#include "shell/program/data_copy.h"
 
 #include <gtest/gtest.h>
 

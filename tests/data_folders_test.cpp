@@ -1,4 +1,4 @@
-#include "shell/data_folders.h"
+#include "shell/program/data_folders.h"
 
 #include <gtest/gtest.h>
 

@@ -28,19 +28,19 @@
 #include <QToolButton>
 #include <QToolTip>
 
-#include "analysis/pattern3_form.h"
+#include "analysis/window/pattern3_form.h"
 #include "core/text_records.h"
-#include "entry/input_jcpds_form.h"
-#include "kikuchi/pattern2_form.h"
-#include "kikuchi/zaxis_form.h"
-#include "reflections/main1_form.h"
+#include "entry/window/input_jcpds_form.h"
+#include "kikuchi/window/pattern2_form.h"
+#include "kikuchi/window/zaxis_form.h"
+#include "reflections/window/main1_form.h"
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/desktop_services.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
-#include "shell/main_menu_form.h"
-#include "shell/program.h"
+#include "shell/program/main_menu_form.h"
+#include "shell/program/program.h"
 #include "shell/script/script_driver.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
@@ -143,11 +143,15 @@ bool has_symbol(const QAbstractButton& button) {
   return !button.icon().isNull() || (tool != nullptr && tool->arrowType() != Qt::NoArrow);
 }
 
-class CompleteWindow : public DesktopTest, public testing::WithParamInterface<const char*> {};
-INSTANTIATE_TEST_SUITE_P(Windows, CompleteWindow,
-                         testing::Values("MAIN_MENU", "Main1", "InputAtom", "InputJCPDS", "AtomDistance", "Utility",
-                                         "Xd", "Dring", "Pattern", "FiberTexture", "CameraParameters", "PATTERN3",
-                                         "Pattern2", "Zaxis"));
+/// Of every window of the program.
+std::vector<std::string> window_names() {
+  FakeServices services;
+  return Program({"", ""}, services).windows().names();
+}
+
+class CompleteWindow : public DesktopTest, public testing::WithParamInterface<std::string> {};
+INSTANTIATE_TEST_SUITE_P(Windows, CompleteWindow, testing::ValuesIn(window_names()),
+                         [](const auto& name) { return name.param; });
 
 TEST_P(CompleteWindow, HasAWidgetForEachControlAndNoOther) {
   QWidget& top = widget(GetParam());

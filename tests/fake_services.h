@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "core/run_failure.h"
-#include "shell/window_services.h"
+#include "shell/services/window_services.h"
 
 namespace zol {
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/window.h"
+#include "shell/services/window.h"
 
 namespace zol {
 

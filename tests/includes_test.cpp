@@ -41,55 +41,55 @@ std::set<std::string> reached(const Arrows& arrows, const std::string& from) {
   return places;
 }
 
-/// The sources of the program: what they include, and which target each belongs to, by its name without ending.
-struct Sources {
+/// What each source of the program includes, by its path from the root.
+Arrows includes_of_sources() {
   Arrows includes;
-  std::map<std::string, std::string> targets;
-
-  Sources() {
-    for (const std::string folder :
-         {"analysis", "calculators", "core", "entry", "kikuchi", "powder", "reflections", "shell", "spots"}) {
-      const fs::path path = fs::path(ZOL_SOURCE_DIR) / folder;
-      for (const auto& entry : fs::recursive_directory_iterator(path)) {
-        const auto ending = entry.path().extension();
-        if (ending == ".h" || ending == ".cpp") add_file(entry.path());
+  for (const std::string room :
+       {"analysis", "calculators", "core", "entry", "kikuchi", "powder", "reflections", "shell", "spots"}) {
+    for (const auto& entry : fs::recursive_directory_iterator(fs::path(ZOL_SOURCE_DIR) / room)) {
+      const auto ending = entry.path().extension();
+      if (ending != ".h" && ending != ".cpp") continue;
+      auto& included = includes[entry.path().lexically_relative(ZOL_SOURCE_DIR).string()];
+      for (const auto& [quoted, of_qt] :
+           all_matches(read_file(entry.path().string()), R"re(#include (?:"(.+)"|<(Q.+)>))re")) {
+        included.insert(quoted + of_qt);
       }
-      add_targets(folder, read_file((path / "CMakeLists.txt").string()));
     }
   }
+  return includes;
+}
 
-  /// The box of the picture that a file belongs to.
-  [[nodiscard]] std::string part(const std::string& file) const {
-    if (file.starts_with("Q")) return "Qt";
-    const std::string folder = file.substr(0, file.rfind('/'));
-    if (folder.starts_with("shell/")) return folder.substr(folder.find('/') + 1);
-    const auto target = targets.find(file.substr(0, file.rfind('.')));
-    if (target != targets.end()) return target->second.ends_with("_window") ? "windows" : target->second;
-    if (folder == "shell") return file.ends_with("_form.h") ? "windows" : "window_services";
-    // A header without a source of its own name.
-    return includes.at(file).contains("shell/workbench.h") || file.ends_with("_form.h") ? "windows" : folder;
-  }
+/// The room that a file stands in, by the name of its box in the picture.
+std::string room_of(const std::string& file) {
+  if (file.starts_with("Q")) return "Qt";
+  const std::string folder = file.substr(0, file.rfind('/'));
+  if (folder.ends_with("/window")) return "windows";
+  return folder.starts_with("shell/") ? folder.substr(folder.find('/') + 1) : folder;
+}
 
- private:
-  void add_file(const fs::path& path) {
-    auto& included = includes[path.lexically_relative(ZOL_SOURCE_DIR).string()];
-    for (const auto& [quoted, of_qt] : all_matches(read_file(path.string()), R"re(#include (?:"(.+)"|<(Q.+)>))re")) {
-      included.insert(quoted + of_qt);
-    }
-  }
-
-  void add_targets(const std::string& folder, const std::string& lists) {
-    for (const auto& [target, files] : all_matches(lists, R"(add_library\((\w+) STATIC([^)]*)\))")) {
-      for (const auto& [stem, ending] : all_matches(files, R"(([\w/]+)\.(cpp))")) targets[folder + "/" + stem] = target;
-    }
-  }
-};
+/// In the rooms of the windows: forms, then operations, then handlers.
+int kind_of(const std::string& file) {
+  const std::string stem = file.substr(0, file.rfind('.'));
+  return stem.ends_with("_form") ? 0 : (stem.ends_with("_handlers") ? 2 : 1);
+}
 
 TEST(Includes, HaveNoCircle) {
-  const Sources sources;
-  ASSERT_TRUE(reached(sources.includes, "shell/script/main.cpp").contains("core/numbers.h"));
-  for (const auto& [file, included] : sources.includes) {
-    EXPECT_FALSE(reached(sources.includes, file).contains(file)) << file << " includes itself by a circle";
+  const Arrows includes = includes_of_sources();
+  ASSERT_TRUE(reached(includes, "shell/script/main.cpp").contains("core/numbers.h"));
+  for (const auto& [file, included] : includes) {
+    EXPECT_FALSE(reached(includes, file).contains(file)) << file << " includes itself by a circle";
+  }
+}
+
+TEST(Includes, OfWindowsGoFromHandlersToOperationsToForms) {
+  for (const auto& [file, included] : includes_of_sources()) {
+    if (room_of(file) != "windows") continue;
+    for (const auto& other : included) {
+      if (room_of(other) != "windows") continue;
+      EXPECT_LE(kind_of(other), kind_of(file)) << file << " includes " << other;
+      const bool same_folder = file.substr(0, file.rfind('/')) == other.substr(0, other.rfind('/'));
+      EXPECT_TRUE(kind_of(other) < 2 || same_folder) << file << " includes the handlers " << other;
+    }
   }
 }
 
@@ -99,12 +99,11 @@ TEST(Includes, GoAsTheArrowsOfThePicture) {
        all_matches(read_file(ZOL_SOURCE_DIR "/docs/images/architecture.svg"), R"re(<path id="(\w+)-(\w+)")re")) {
     drawn[from].insert(to);
   }
-  const Sources sources;
   Arrows found;
-  for (const auto& [file, included] : sources.includes) {
-    const std::string from = sources.part(file);
+  for (const auto& [file, included] : includes_of_sources()) {
+    const std::string from = room_of(file);
     for (const auto& other : included) {
-      const std::string to = sources.part(other);
+      const std::string to = room_of(other);
       found[from].insert(to);
       EXPECT_TRUE(from == to || reached(drawn, from).contains(to)) << file << " includes " << other;
     }

@@ -4,12 +4,12 @@
 #include <set>
 #include <utility>
 
-#include "analysis/pattern3_form.h"
-#include "kikuchi/pattern2_form.h"
-#include "reflections/main1_form.h"
+#include "analysis/window/pattern3_form.h"
+#include "kikuchi/window/pattern2_form.h"
+#include "reflections/window/main1_form.h"
 #include "shell/desktop/qt_surface.h"
-#include "shell/main_menu_form.h"
-#include "shell/program.h"
+#include "shell/program/main_menu_form.h"
+#include "shell/program/program.h"
 #include "tests/band_choice.h"
 #include "tests/fake_services.h"
 #include "tests/projected_pattern.h"

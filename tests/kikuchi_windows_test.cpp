@@ -3,14 +3,14 @@
 
 #include <cmath>
 
-#include "analysis/pattern3_form.h"
-#include "kikuchi/camera_parameters_form.h"
-#include "kikuchi/kikuchi_operations.h"
-#include "kikuchi/pattern2_form.h"
-#include "kikuchi/zaxis_form.h"
-#include "reflections/main1_form.h"
-#include "shell/main_menu_form.h"
-#include "shell/program.h"
+#include "analysis/window/pattern3_form.h"
+#include "kikuchi/window/camera_parameters_form.h"
+#include "kikuchi/window/kikuchi_operations.h"
+#include "kikuchi/window/pattern2_form.h"
+#include "kikuchi/window/zaxis_form.h"
+#include "reflections/window/main1_form.h"
+#include "shell/program/main_menu_form.h"
+#include "shell/program/program.h"
 #include "tests/cartesian_cell.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"

@@ -4,11 +4,11 @@
 #include <algorithm>
 #include <map>
 
-#include "analysis/pattern3_form.h"
-#include "kikuchi/pattern2_form.h"
-#include "reflections/main1_form.h"
-#include "reflections/main1_operations.h"
-#include "shell/program.h"
+#include "analysis/window/pattern3_form.h"
+#include "kikuchi/window/pattern2_form.h"
+#include "reflections/window/main1_form.h"
+#include "reflections/window/main1_operations.h"
+#include "shell/program/program.h"
 #include "tests/fake_services.h"
 #include "tests/focus_view.h"
 #include "tests/test_files.h"

@@ -2,12 +2,12 @@
 // menus of the window. Its modes and boxes: scripts/measured_pattern.zs.
 #include <gtest/gtest.h>
 
-#include "analysis/hkl3make.h"
-#include "analysis/pattern3_form.h"
-#include "kikuchi/pattern2_form.h"
-#include "reflections/main1_form.h"
-#include "shell/main_menu_form.h"
-#include "shell/program.h"
+#include "analysis/window/hkl3make.h"
+#include "analysis/window/pattern3_form.h"
+#include "kikuchi/window/pattern2_form.h"
+#include "reflections/window/main1_form.h"
+#include "shell/program/main_menu_form.h"
+#include "shell/program/program.h"
 #include "tests/band_choice.h"
 #include "tests/fake_services.h"
 #include "tests/projected_pattern.h"

@@ -5,10 +5,10 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "powder/dring_form.h"
-#include "powder/xd_form.h"
-#include "reflections/main1_form.h"
-#include "shell/program.h"
+#include "powder/window/dring_form.h"
+#include "powder/window/xd_form.h"
+#include "reflections/window/main1_form.h"
+#include "shell/program/program.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
 

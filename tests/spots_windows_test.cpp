@@ -4,10 +4,10 @@
 #include <algorithm>
 #include <cmath>
 
-#include "reflections/main1_form.h"
-#include "shell/program.h"
-#include "spots/fiber_texture_form.h"
-#include "spots/pattern_form.h"
+#include "reflections/window/main1_form.h"
+#include "shell/program/program.h"
+#include "spots/window/fiber_texture_form.h"
+#include "spots/window/pattern_form.h"
 #include "tests/fake_services.h"
 #include "tests/focus_view.h"
 #include "tests/test_files.h"

@@ -1,10 +1,10 @@
 // The two table editors on control objects.
 #include <gtest/gtest.h>
 
-#include "entry/input_atom_form.h"
-#include "entry/input_jcpds_form.h"
-#include "reflections/main1_form.h"
-#include "shell/program.h"
+#include "entry/window/input_atom_form.h"
+#include "entry/window/input_jcpds_form.h"
+#include "reflections/window/main1_form.h"
+#include "shell/program/program.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
 

@@ -12,7 +12,7 @@
 #include "core/text_records.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 #include "shell/script/script_driver.h"
 #include "shell/script/script_services.h"
 #include "tests/test_files.h"

@@ -4,12 +4,12 @@
 #include <QMessageBox>
 #include <QTimer>
 
-#include "shell/data_folders.h"
 #include "shell/desktop/desktop_services.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/screen_fit.h"
-#include "shell/program.h"
+#include "shell/program/data_folders.h"
+#include "shell/program/program.h"
 
 namespace zol {
 namespace {

@@ -16,7 +16,7 @@
 #include <QPointer>
 
 #include "shell/desktop/user_events.h"
-#include "shell/window_services.h"
+#include "shell/services/window_services.h"
 
 class QWidget;
 

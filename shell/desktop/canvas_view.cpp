@@ -12,8 +12,8 @@
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
-#include "shell/ruler.h"
-#include "shell/services.h"
+#include "shell/services/ruler.h"
+#include "shell/services/services.h"
 
 namespace zol {
 namespace {

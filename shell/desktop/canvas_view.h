@@ -5,8 +5,8 @@
 #include <QPixmap>
 #include <QWidget>
 
-#include "shell/canvas.h"
 #include "shell/desktop/user_events.h"
+#include "shell/services/canvas.h"
 
 namespace zol {
 

@@ -8,9 +8,9 @@
 #include <QAbstractTableModel>
 #include <QColor>
 
-#include "shell/controls.h"
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/services/controls.h"
 
 namespace zol {
 

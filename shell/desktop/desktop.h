@@ -11,8 +11,8 @@
 
 #include "shell/desktop/binder.h"
 #include "shell/desktop/user_events.h"
-#include "shell/event_gate.h"
-#include "shell/window_services.h"
+#include "shell/services/event_gate.h"
+#include "shell/services/window_services.h"
 
 class QWidget;
 

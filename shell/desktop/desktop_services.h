@@ -9,7 +9,7 @@
 #include <QStringList>
 
 #include "shell/desktop/desktop.h"
-#include "shell/window_services.h"
+#include "shell/services/window_services.h"
 
 namespace zol {
 

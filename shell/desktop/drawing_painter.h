@@ -9,7 +9,7 @@
 #include <QPainter>
 #include <QRectF>
 
-#include "shell/canvas.h"
+#include "shell/services/canvas.h"
 
 namespace zol {
 

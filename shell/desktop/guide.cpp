@@ -9,8 +9,8 @@
 #include <QTextBlock>
 #include <QToolBar>
 
-#include "shell/data_folders.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/program/data_folders.h"
 
 namespace zol {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <QImage>
 
-#include "shell/pictures.h"
+#include "shell/services/pictures.h"
 
 namespace zol {
 

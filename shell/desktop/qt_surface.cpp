@@ -11,9 +11,9 @@
 #include "core/atomic_file.h"
 #include "core/read_file.h"
 #include "core/run_failure.h"
-#include "shell/bitmap_check.h"
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/services/bitmap_check.h"
 
 namespace zol {
 namespace {

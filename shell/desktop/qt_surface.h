@@ -3,7 +3,7 @@
 
 #include <QImage>
 
-#include "shell/canvas.h"
+#include "shell/services/canvas.h"
 
 namespace zol {
 

@@ -6,7 +6,7 @@
 
 #include <QString>
 
-#include "shell/latin1.h"
+#include "shell/services/latin1.h"
 
 namespace zol {
 

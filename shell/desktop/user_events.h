@@ -8,8 +8,8 @@
 #include <QPointer>
 #include <QWidget>
 
-#include "shell/event_gate.h"
-#include "shell/window_services.h"
+#include "shell/services/event_gate.h"
+#include "shell/services/window_services.h"
 
 namespace zol {
 

@@ -10,11 +10,11 @@
 #include <optional>
 #include <string>
 
-#include "shell/data_folders.h"
-#include "shell/desktop/picture_export.h"
-#include "shell/latin1.h"
-#include "shell/program.h"
+#include "shell/program/data_folders.h"
+#include "shell/program/program.h"
+#include "shell/script/offscreen_pictures.h"
 #include "shell/script/script_driver.h"
+#include "shell/services/latin1.h"
 
 namespace {
 
@@ -74,8 +74,8 @@ std::optional<Outcome> read_arguments(int argc, char** argv, Arguments& argument
 
 void run(const Arguments& arguments, std::istream& script) {
   const auto data = arguments.data ? zol::data_root_at(*arguments.data) : zol::find_data_root(zol::data_places());
-  zol::OffscreenPictures pictures;
-  zol::ScriptServices services(std::cout, &pictures);
+  const auto pictures = zol::offscreen_pictures();
+  zol::ScriptServices services(std::cout, pictures.get());
   zol::Program program(data, services);
   program.start();
   zol::ScriptDriver(program, services, std::cout).run(script);

@@ -8,7 +8,7 @@
 #include <istream>
 #include <ostream>
 
-#include "shell/latin1.h"
+#include "shell/services/latin1.h"
 
 namespace zol {
 namespace {

@@ -7,9 +7,9 @@
 #include <string>
 #include <vector>
 
-#include "shell/event_gate.h"
-#include "shell/program.h"
+#include "shell/program/program.h"
 #include "shell/script/script_services.h"
+#include "shell/services/event_gate.h"
 
 namespace zol {
 

@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "shell/latin1.h"
-#include "shell/pictures.h"
-#include "shell/window_services.h"
+#include "shell/services/latin1.h"
+#include "shell/services/pictures.h"
+#include "shell/services/window_services.h"
 
 namespace zol {
 

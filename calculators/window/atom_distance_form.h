@@ -1,0 +1,31 @@
+// The window that lists the distances between atoms.
+#pragma once
+
+#include "calculators/atom_distances.h"
+#include "shell/services/window_services.h"
+#include "shell/services/workbench.h"
+
+namespace zol {
+
+struct AtomDistanceForm : Window {
+  static constexpr auto window_name = "AtomDistance";
+
+  explicit AtomDistanceForm(Workbench& /*bench*/) : Window(window_name, "Atom Distance") {
+    fields().add("CellA", cell.CellA);
+    fields().add("CellB", cell.CellB);
+    fields().add("CellC", cell.CellC);
+    fields().add("CosAlpha", cell.CosAlpha);
+    fields().add("CosBeta", cell.CosBeta);
+    fields().add("CosGamma", cell.CosGamma);
+    fields().add("DistanceMax", DistanceMax);
+  }
+
+  TextBox Text1{*this, "Text1", "distance maximum (A)="};
+  CommandButton Command1{*this, "Command1", "Calc"};
+  ListBox List1{*this, "List1"};
+
+  DistanceCell cell;       ///< as it was at the last calculation
+  Single DistanceMax = 0;  ///< angstroms
+};
+
+}  // namespace zol

@@ -1,0 +1,48 @@
+#include "calculators/window/atom_distance_form.h"
+#include "core/number_text.h"
+#include "reflections/window/main1_form.h"
+#include "shell/services/wiring.h"
+
+namespace zol::atom_distance {
+namespace {
+
+void Command1_Click(Workbench& bench, AtomDistanceForm& form);
+
+void Text1_Change(AtomDistanceForm& form) { form.DistanceMax = single_in(form.Text1); }
+
+void Text1_KeyPress(Workbench& bench, AtomDistanceForm& form, int& key) {
+  if (!swallow_enter(key)) return;
+  Text1_Change(form);
+  Command1_Click(bench, form);
+}
+
+void Command1_Click(Workbench& bench, AtomDistanceForm& form) {
+  const CrystalState& state = main1_state(bench);
+  form.cell = distance_cell(state);
+  form.List1.clear();
+  for (int i = 1; i <= state.NAtom.value(); ++i) {
+    for (const auto& found : distances_from(state, form.cell, i, form.DistanceMax)) {
+      form.List1.add_item(distance_line(state, i, found));
+    }
+    form.List1.add_item("------------------------");
+  }
+}
+
+}  // namespace
+
+}  // namespace zol::atom_distance
+
+namespace zol {
+
+/// What the user does, and what answers it.
+void wire(Workbench& bench, AtomDistanceForm& form) {
+  using namespace atom_distance;
+  const Wire on(bench, form);
+  form.Text1.on_change = on(Text1_Change);
+  form.Text1.on_key_press = on(Text1_KeyPress);  // Enter calculates
+  form.Command1.on_click = on(Command1_Click);
+}
+
+template void add_window<AtomDistanceForm>(Workbench&);
+
+}  // namespace zol

@@ -1,0 +1,149 @@
+#include <algorithm>
+#include <cmath>
+
+#include "kikuchi/kikuchi_pattern.h"
+#include "kikuchi/window/kikuchi_operations.h"
+#include "kikuchi/window/pattern2_form.h"
+#include "kikuchi/window/zaxis_form.h"
+#include "reflections/window/main1_form.h"
+#include "spots/grey_scale.h"
+#include "spots/window/picture_controls.h"
+
+namespace zol {
+namespace {
+
+using namespace colours;
+
+constexpr double mark_size = 0.01;  // of the reach
+
+void set_scale(Canvas& picture, const GnomonicView& view) {
+  picture.scale(view.left, view.top, view.right, view.bottom);
+}
+
+/// Grey level of a line, at most 255, full at the intensity of the scale. A negative intensity has a negative one,
+/// which ends just below all levels that the box of the lowest level can hold.
+int grey_level(const CrystalState& state, Single intensity, const GreyScale& scale) {
+  constexpr double never_drawn = -32769;
+  const double level = std::floor(darkness(intensity, state.DisplayScale, scale) * 255);
+  return static_cast<int>(std::clamp(level, never_drawn, 255.0));
+}
+
+/// Over a measured image strong lines are yellow.
+Colour line_colour(int level, bool over_image) {
+  const int dark = 255 - level;
+  if (over_image) return RGB(127 + level / 2, 127 + level / 2, dark);
+  return RGB(dark, dark, dark);
+}
+
+/// Draws a line through its foot, long enough to cross the picture.
+void draw_line(Canvas& picture, const KikuchiLine& line, double reach, Colour colour) {
+  const double along_x = 2 * reach * line.unit_y;
+  const double along_y = 2 * reach * line.unit_x;
+  picture.line(line.foot_x + along_x, line.foot_y - along_y, line.foot_x - along_x, line.foot_y + along_y, colour);
+}
+
+std::string band_text(int number, const KikuchiLine& line, int level) {
+  constexpr std::string_view whole = "###0";
+  constexpr std::string_view angle = "##0.0";
+  return right_field(Format(number, whole), 4) + right_field(Format(line.hkl.h.value(), whole), 4) +
+         right_field(Format(line.hkl.k.value(), whole), 4) + right_field(Format(line.hkl.l.value(), whole), 4) +
+         right_field(Format(std::abs(line.latitude_deg), angle), 6) + right_field(Format(line.azimuth_deg, angle), 6) +
+         right_field(Format(level, "##0"), 4);
+}
+
+/// Draws and lists the lines above the lowest grey level.
+void draw_bands(CrystalState& state, Pattern2Form& form, const GnomonicView& view, Integer lowest_level) {
+  const GreyScale scale{form.Option2.on(), exponent_in(form.Text10)};
+  int count = 0;
+  for (const auto& line : kikuchi_lines(state, view, form.Check3.checked())) {
+    const int level = grey_level(state, line.intensity, scale);
+    if (level <= lowest_level.value()) continue;
+    draw_line(form.Picture1, line, view.reach, line_colour(level, !form.ImageMark.empty()));
+    ++count;
+    form.List1.add_item(band_text(count, line, level));
+    state.BandHKL(count - 1, 0) = line.hkl.h;
+    state.BandHKL(count - 1, 1) = line.hkl.k;
+    state.BandHKL(count - 1, 2) = line.hkl.l;
+  }
+}
+
+void draw_disc(Canvas& picture, double x, double y, double radius, Colour colour) {
+  picture.set_fill_colour(colour);
+  picture.circle(x, y, radius, colour);
+}
+
+/// Eight lines each way, in a scale of 512 pixels, y downward.
+void draw_grid(Canvas& picture, const GnomonicView& view) {
+  constexpr int last = 511;
+  constexpr int step = 64;
+  picture.scale(0, 0, last, last);
+  for (int i = 0; i < last; i += step) {
+    picture.line(i, 0, i, last, green);
+    picture.line(0, i, last, i, green);
+  }
+  set_scale(picture, view);
+}
+
+void draw_marks(const CrystalState& state, Pattern2Form& form, const GnomonicView& view) {
+  Canvas& picture = form.Picture1;
+  picture.set_solid_fill(true);
+  if (form.Check5.checked()) draw_disc(picture, 0, 0, view.reach * mark_size, blue);
+  if (form.Check6.checked()) draw_disc(picture, 0, std::tan(state.CamNormal * degree), view.reach * mark_size, blue);
+  if (!form.Text9.text().empty()) {
+    picture.set_solid_fill(false);
+    picture.circle(0, 0, std::tan(Val(form.Text9.text()) * degree), black);
+    picture.set_solid_fill(true);
+  }
+  if (form.Check1.checked()) draw_grid(picture, view);
+  picture.set_solid_fill(true);
+}
+
+}  // namespace
+
+void PatternDisp2(Workbench& bench) {
+  CrystalState& state = main1_state(bench);
+  auto& form = bench.windows.use<Pattern2Form>();
+  Canvas& picture = form.Picture1;
+  const Integer lowest_level = integer_in(form.Text2);
+  state.KikuchiRefLimit = long_in(form.Text19);
+  if (state.KikuchiRefLimit == 0) state.KikuchiRefLimit = state.RefCount;
+  form.List1.clear();
+  picture.set_back_colour(white);
+  picture.set_fore_colour(black);
+  sort_for_kikuchi(state);
+  constexpr Single smallest_opening = 3;
+  constexpr Single default_opening = 37;
+  if (state.CamAcquisition < smallest_opening) {
+    state.CamAcquisition = default_opening;
+    form.Text1.set_text(plain_text(state.CamAcquisition));
+  }
+  const auto view = gnomonic_view(state);
+  {
+    const Hourglass hourglass(form);
+    picture.clear();
+    set_scale(picture, view);
+    const auto reference = reference_reflection(state.ZoneU, state.ZoneV, state.ZoneW);
+    state.OriginH = reference.h;
+    state.OriginK = reference.k;
+    state.OriginL = reference.l;
+    if (state.PatternFlag == 1) {
+      state.PatternAngle = to_single(double{state.PatternAngle} + double{state.PatternAngleStep} * degree);
+    }
+    if (!form.Check4.checked() || state.DisplayScale == 0) state.DisplayScale = strongest_in_view(state, view);
+    draw_bands(state, form, view, lowest_level);
+    draw_marks(state, form, view);
+    if (form.Check2.checked()) {
+      bench.windows.use<ZaxisForm>().show();
+      Calc(bench);
+    }
+  }
+}
+
+void Patterndisp4(Workbench& bench) {
+  const CrystalState& state = main1_state(bench);
+  auto& form = bench.windows.use<Pattern2Form>();
+  const Single reach = to_single(std::tan(state.CamAcquisition * degree));
+  draw_line(form.Picture1, marked_line(state, form.Check3.checked()), reach, red);
+}
+
+}  // namespace zol

@@ -1,0 +1,59 @@
+// The map of zone axes around the present one.
+#pragma once
+
+#include <cmath>
+
+#include "shell/services/place_text.h"
+#include "shell/services/window_services.h"
+#include "shell/services/workbench.h"
+
+namespace zol {
+
+struct ZaxisForm : Window {
+  static constexpr auto window_name = "Zaxis";
+
+  explicit ZaxisForm(Workbench& bench)
+      : Window(window_name, "Zone Axis"),
+        Picture1(*this, bench.services, "Picture1", 6360, 6360),
+        CommonDialog1(bench.services) {
+    Picture1.describe_place = [this](double x, double y) {
+      const double radius = std::hypot(x, y);
+      if (radius > 1) return std::string("beyond the half sphere");
+      return direction_text(Check2.checked() ? radius * 90 : std::asin(radius) / degree, x, y);
+    };
+    fields().add("KeepMap", KeepMap);
+    fields().add("MapScale", MapScale);
+    beside = "Pattern2";  // whose drawing shows it
+    // As it starts; no event comes of it.
+    for (TextBox* limit : {&Text1, &Text2, &Text3}) limit->set_text("1");
+    Option1.set_on(true);
+  }
+
+  TextBox Text1{*this, "Text1", "U Max="};
+  TextBox Text2{*this, "Text2", "V Max="};
+  TextBox Text3{*this, "Text3", "W Max="};
+  TextBox Text4{*this, "Text4", "[uvw]"};  // direction to look up; the caption stands for all three
+  TextBox Text5{*this, "Text5"};
+  TextBox Text6{*this, "Text6"};
+  TextBox Text7{*this, "Text7", "Phi"};    // azimuth, degrees
+  TextBox Text8{*this, "Text8", "Theta"};  // latitude, degrees
+  CommandButton Command1{*this, "Command1", "PLOT"};
+  CommandButton Command2{*this, "Command2", "Zoom Up"};
+  CommandButton Command3{*this, "Command3", "Zoom Dwn"};
+  CheckBox Check1{*this, "Check1", "Draw the southern semisphere"};
+  CheckBox Check2{*this, "Check2", "Theta as latitude"};
+  CheckBox Check3{*this, "Check3", "Show [uvw] on Kikuchi pattern"};
+  OptionButton Option1{*this, "Option1", "Detecter normal"};
+  OptionButton Option2{*this, "Option2", "Substrate normal"};
+  ControlArray<Label> Label_theta{*this, "Label_theta", 6};  // [100] [010] [001] [110] [101] [011]
+  ControlArray<Label> Label_phi{*this, "Label_phi", 6};
+  Canvas Picture1;
+  MenuItem SaveMap{*this, "SaveMap", "SAVE MAP", "Map"};
+
+  FileDialog CommonDialog1;
+
+  Integer KeepMap;         ///< 1 while the map is drawn over the present picture
+  Single MapScale = 1.3F;  ///< half width of the picture; the unit circle has radius 1
+};
+
+}  // namespace zol

@@ -1,0 +1,108 @@
+#include <cmath>
+
+#include "powder/histogram.h"
+#include "powder/line_profile.h"
+#include "powder/window/dring_form.h"
+#include "powder/window/open_dring.h"
+#include "reflections/window/main1_form.h"
+#include "shell/services/place_text.h"
+
+namespace zol {
+namespace {
+
+using namespace colours;
+
+/// Shows the settings. Writing a box runs its change handler: the field is then what the text says.
+void write_settings(DringForm& form) {
+  form.Text2.set_text(plain_text(form.DStarMax));
+  if (form.HalfWidth == 0) form.HalfWidth = 0.01F;
+  form.Text3.set_text(plain_text(form.HalfWidth));
+  form.Text6.set_text(plain_text(form.CellsP));
+  form.Text7.set_text(plain_text(form.CellsQ));
+  form.Text8.set_text(plain_text(form.CellsR));
+}
+
+void set_scales(DringForm& form) {
+  const double end = form.DStarMax;
+  form.Picture1.scale(0, 1.01, end, -0.01);
+  const double start = form.Check2.checked() ? -end : 0.0;
+  form.Picture2.scale(start, end, end, start);
+  form.Picture2.set_back_colour(form.Check3.checked() ? white : black);
+}
+
+void draw(DringForm& form) {
+  form.Picture1.move_to(0, relative_height(form.Profile(0), form.DisplayMax));
+  for (int m = 1; m <= last_sample; ++m) {
+    const Single d_star = d_star_at(form.DStarMax, m);
+    form.Picture1.line_to(d_star, relative_height(form.Profile(m), form.DisplayMax));
+    const int level = grey_level(form.Profile(m), form.DisplayMax, form.Check3.checked()).value();
+    form.Picture2.circle(0, 0, d_star, RGB(level, level, level));
+  }
+  form.Picture2.set_point(0, 0, red);  // the beam
+}
+
+void list_peaks(DringForm& form) {
+  form.List1.clear();
+  form.List1.add_item("d     I/Io");
+  for (const int m : maxima(form.Profile, form.DisplayMax)) {
+    form.List1.add_item(peak_line(ring_spacing(form.DStarMax, m), form.Profile(m), form.DisplayMax));
+  }
+}
+
+}  // namespace
+
+DringForm::DringForm(Workbench& bench)
+    : Window(window_name, "DS-ring"),
+      Picture1(*this, bench.services, "Picture1", 9000, 3600),
+      Picture2(*this, bench.services, "Picture2", 8400, 8400),
+      CommonDialog1(bench.services) {
+  Picture1.x_axis = Axis{"1/d", "Å⁻¹"};
+  Picture1.y_axis = Axis{"I", "% of full height", 100};
+  Picture1.describe_place = [](double x, double y) {
+    return spacing_text(x) + value_text("   I", y * 100, "0.0", " %");
+  };
+  Picture2.describe_place = [](double x, double y) { return spacing_text(std::hypot(x, y)); };
+  Picture2.set_solid_fill(false);
+  fields().add("DStarMax", DStarMax);
+  show_fields(fields());
+}
+
+void DRCalc(Workbench& bench) {
+  const CrystalState& state = main1_state(bench);
+  auto& form = bench.windows.use<DringForm>();
+  write_settings(form);
+  const Hourglass hourglass(form);
+  form.allocate(state.Dmin, 10000);
+  const auto grid = interference_grid(state, form.size());
+  form.Label6.set_caption(grid_text(grid));
+  const InterferenceTable table(grid, form.size());
+
+  BarProgress progress(form.ProgressBar1);
+  form.ProgressBar1.set_range(0, to_single(state.RefCount.value()));
+  fill_histogram(state, grid, table, form.BinCount, form.Bins, progress);
+  form.ProgressBar1.set_range(0, last_sample);
+  const auto bins = filled_bins(form.Bins, 1, form.BinCount, state.Dmin);
+  sum_gaussian_lines(bins, form.DStarMax, form.HalfWidth, form.Profile, progress);
+  if (form.Check1.checked()) take_square_roots(form.Profile);
+
+  if (form.DisplayMax == 0) form.DisplayMax = largest_sample(form.Profile);
+  set_scales(form);
+  form.Text5.set_text(Str(std::floor(form.DisplayMax)));  // a new text cuts DisplayMax and clears both pictures
+  draw(form);
+  list_peaks(form);
+}
+
+void open_dring(Workbench& bench) {
+  const CrystalState& state = main1_state(bench);
+  auto& form = bench.windows.use<DringForm>();
+  form.show();
+  form.DisplayMax = 0;
+  form.DStarMax = to_single(divide(1.0, state.Dmin, "Dmin"));
+  form.CellsP = form.CellsQ = form.CellsR = 10000;
+  form.HalfWidth = 0.003F;
+  DRCalc(bench);
+  form.Picture1.set_mouse_pointer(MousePointer::CrossHair);
+  form.Picture2.set_mouse_pointer(MousePointer::CrossHair);
+}
+
+}  // namespace zol

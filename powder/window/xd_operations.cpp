@@ -1,0 +1,110 @@
+#include "powder/window/xd_operations.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "powder/histogram.h"
+#include "powder/window/open_xd.h"
+#include "reflections/window/main1_form.h"
+#include "shell/services/place_text.h"
+
+namespace zol {
+namespace {
+
+/// Shows the settings. Writing a box runs its change handler: the field is then what the text says.
+void write_settings(XdForm& form) {
+  form.Text1.set_text(plain_text(form.TwoThetaMin));
+  if (form.TwoThetaMax == 0) form.TwoThetaMax = 60;
+  form.Text2.set_text(plain_text(form.TwoThetaMax));
+  if (form.HalfWidth == 0) form.HalfWidth = 0.1F;
+  form.Text3.set_text(plain_text(form.HalfWidth));
+  form.Text4.set_text(plain_text(form.GaussianRatio));
+  form.Text6.set_text(plain_text(form.CellsP));
+  form.Text7.set_text(plain_text(form.CellsQ));
+  form.Text8.set_text(plain_text(form.CellsR));
+}
+
+void list_peaks(XdForm& form, Single wavelength) {
+  form.List1.clear();
+  form.List1.add_item("2-Theta   d     I/Io");
+  for (const int m : maxima(form.Profile, form.PeakMax)) {
+    const Single two_theta = form.range().at(m);
+    form.List1.add_item(Format(two_theta, "##0.00") + "    " +
+                        peak_line(spacing_at_two_theta(wavelength, two_theta), form.Profile(m), form.PeakMax));
+  }
+}
+
+}  // namespace
+
+XdForm::XdForm(Workbench& bench)
+    : Window(window_name, "X-ray Powder Diffraction"),
+      Picture1(*this, bench.services, "Picture1", 12000, 8400),
+      CommonDialog1(bench.services) {
+  Picture1.x_axis = Axis{"2θ", "°"};
+  Picture1.y_axis = Axis{"I", "% of full height", 100};
+  Picture1.describe_place = [&state = bench.state](double x, double y) {
+    std::string text = value_text("2θ", x, "0.00", "°");
+    if (x > 0 && x < 180) text += value_text("   d", state.WaveLength / (2 * std::sin(x / 2 * degree)), "0.000", " Å");
+    return text + value_text("   I", y * 100, "0.0", " %");
+  };
+  fields().add("TwoThetaMin", TwoThetaMin);
+  fields().add("TwoThetaMax", TwoThetaMax);
+  fields().add("GaussianRatio", GaussianRatio);
+  fields().add("PeakMax", PeakMax);
+  show_fields(fields());
+}
+
+void xd::draw(XdForm& form, Single full_height, std::string_view name) {
+  const TwoThetaRange range = form.range();
+  form.Picture1.scale(range.minimum, 1.01, range.maximum, -0.01);
+  form.Text5.set_text(Str(std::floor(full_height)));
+  form.Picture1.move_to(range.minimum, relative_height(form.Profile(0), full_height, name));
+  for (int m = 1; m <= last_sample; ++m) {
+    form.Picture1.line_to(range.at(m), relative_height(form.Profile(m), full_height, name));
+  }
+}
+
+void xd::redraw(XdForm& form) {
+  form.Picture1.clear();
+  draw(form, form.DisplayMax, display_max);
+}
+
+void XDCalc(Workbench& bench) {
+  const CrystalState& state = main1_state(bench);
+  auto& form = bench.windows.use<XdForm>();
+  form.allocate(state.Dmin, 1000);
+  const auto grid = interference_grid(state, form.size());
+  form.Label12.set_caption(grid_text(grid));
+  const Integer points = grid_points(grid);
+  write_settings(form);
+
+  const Hourglass hourglass(form);
+  const InterferenceTable table(grid, form.size());
+  BarProgress progress(form.ProgressBar1);
+  form.ProgressBar1.set_range(1, to_single(state.RefCount.value()));
+  fill_histogram(state, grid, table, form.BinCount, form.Bins, progress);
+  form.ProgressBar1.set_range(0, last_sample);
+  const auto bins = filled_bins(form.Bins, 0, form.BinCount, state.Dmin);
+  sum_pseudo_voigt_lines(bins, state.WaveLength, form.range(), form.line(), form.Profile, progress);
+  divide_samples(form.Profile, points);
+  form.PeakMax = std::max(0.0F, largest_sample(form.Profile));
+  form.DisplayMax = form.PeakMax;
+  xd::draw(form, form.PeakMax, xd::peak_max);
+  list_peaks(form, state.WaveLength);
+}
+
+void open_xd(Workbench& bench) {
+  const CrystalState& state = main1_state(bench);
+  auto& form = bench.windows.use<XdForm>();
+  form.show();
+  form.TwoThetaMax = two_theta_limit(state.WaveLength, state.Dmin);
+  form.TwoThetaMin = 0;
+  form.HalfWidth = 0.2F;
+  form.GaussianRatio = 50;
+  form.CellsP = form.CellsQ = form.CellsR = 10000;
+  form.PeakMax = 0;
+  XDCalc(bench);
+  form.Picture1.set_mouse_pointer(MousePointer::CrossHair);
+}
+
+}  // namespace zol

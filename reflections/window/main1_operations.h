@@ -1,0 +1,31 @@
+// Public operations of Main1 that other windows call too.
+#pragma once
+
+#include "shell/services/workbench.h"
+
+namespace zol {
+
+/// The cell constants give the derived fields and the boxes of the reciprocal cell; an impossible cell changes no box.
+void CalcCell(Workbench& bench);
+
+/// Sites to unit cell: reads the operators of SGFile, fills the UC arrays, List1 and Label20.
+/// @throws RunFailure  SGFile can't be read, or the cell has more than 2000 atoms
+void AtomCcalc(Workbench& bench);
+
+/// Reads the names of the 250 space group files.
+void LoadSGNames(Workbench& bench);
+
+/// The reflection list of the present crystal: arrays, List2 and Label26. Asks for Dmin until it is positive. An
+/// element without a scattering factor empties the list and gives a message.
+void CalcReflections(Workbench& bench);
+
+/// "Calc": CalcReflections, then the triple table of PATTERN3, which reorders the list.
+void calculate(Workbench& bench);
+
+/// Asks for a crystal file and loads it, as the menu of Main1 does.
+void load_crystal_file(Workbench& bench);
+
+/// The same for other windows.
+void CRYSTAL_SELECT(Workbench& bench);
+
+}  // namespace zol

@@ -1,0 +1,17 @@
+#include "shell/program/program.h"
+
+#include "shell/program/main_menu_form.h"
+#include "shell/program/window_list.h"
+#include "shell/services/state_names.h"
+
+namespace zol {
+
+Program::Program(DataRoot data, Services& services)
+    : data_(std::move(data)), bench_{state_, windows_, services, data_} {
+  register_module1_fields(module1_, state_);
+  add_windows(bench_);
+}
+
+void Program::start() { windows_.use(MainMenuForm::window_name).show(); }
+
+}  // namespace zol

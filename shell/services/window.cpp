@@ -1,0 +1,108 @@
+#include "shell/services/window.h"
+
+#include <algorithm>
+
+#include "core/run_failure.h"
+
+namespace zol {
+
+int NamedValues::dimensions(const std::string& name) const {
+  const auto entry = entries_.find(name);
+  return entry == entries_.end() ? -1 : entry->second.dimensions;
+}
+
+std::string NamedValues::text(const std::string& name, std::span<const int> indices) const {
+  const auto entry = entries_.find(name);
+  if (entry == entries_.end()) throw RunFailure("there is no field " + name);
+  if (indices.size() != static_cast<std::size_t>(entry->second.dimensions)) {
+    throw RunFailure(name + " takes " + std::to_string(entry->second.dimensions) + " indices");
+  }
+  return entry->second.text(indices);
+}
+
+void Window::set_caption(std::string_view caption) {
+  caption_ = caption;
+  if (view_ != nullptr) view_->window_changed(*this);
+}
+
+void Window::set_mouse_pointer(MousePointer pointer) {
+  mouse_pointer_ = pointer;
+  if (view_ != nullptr) view_->window_changed(*this);
+}
+
+void Window::show() {
+  visible_ = true;
+  if (view_ != nullptr) view_->window_shown(*this);
+  on_activate.fire(name_ + " was shown");
+}
+
+void Window::activate() { on_activate.fire(name_ + " was activated"); }
+
+void Window::hide() {
+  visible_ = false;
+  if (view_ != nullptr) view_->window_changed(*this);
+}
+
+Control* Window::find(std::string_view control_name) const {
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [control_name](const Control* control) { return control->name() == control_name; });
+  return found == controls_.end() ? nullptr : *found;
+}
+
+const std::function<void()>* Window::operation(const std::string& name) const {
+  const auto found = operations_.find(name);
+  return found == operations_.end() ? nullptr : &found->second;
+}
+
+std::vector<std::string> Window::operation_names() const {
+  std::vector<std::string> names;
+  for (const auto& [name, operation] : operations_) names.push_back(name);
+  return names;
+}
+
+Window& Windows::use(const std::string& name) {
+  if (Window* existing = find(name)) return *existing;
+  const auto type = types_.find(name);
+  if (type == types_.end()) throw RunFailure("there is no window " + name);
+  auto made = type->second.make();
+  Window& window = *made;
+  windows_[name] = std::move(made);
+  window.set_view(view_);
+  try {
+    if (view_ != nullptr) view_->window_created(window);
+    type->second.load(window);
+    window.on_load.fire(name + " was opened");
+  } catch (...) {
+    unload(name);
+    throw;
+  }
+  return window;
+}
+
+Window* Windows::find(const std::string& name) const {
+  const auto found = windows_.find(name);
+  return found == windows_.end() ? nullptr : found->second.get();
+}
+
+std::vector<std::string> Windows::names() const {
+  std::vector<std::string> names;
+  for (const auto& [name, type] : types_) names.push_back(name);
+  return names;
+}
+
+void Windows::unload(const std::string& name) {
+  const auto found = windows_.find(name);
+  if (found == windows_.end()) return;
+  if (view_ != nullptr) view_->window_unloaded(*found->second);
+  found->second->set_view(nullptr);
+  found->second->life_.reset();
+  unloaded_.push_back(std::move(found->second));
+  windows_.erase(found);
+}
+
+void Windows::set_view(WindowView* view) {
+  view_ = view;
+  for (const auto& [name, window] : windows_) window->set_view(view);
+}
+
+}  // namespace zol

@@ -1,0 +1,197 @@
+// A window: a caption, its controls by name, its public fields and operations by name, and the set of all windows.
+#pragma once
+
+#include <functional>
+#include <map>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "core/bounded_array.h"
+#include "core/number_text.h"
+#include "shell/services/controls.h"
+#include "shell/services/latin1.h"
+#include "shell/services/services.h"
+
+namespace zol {
+
+/// Plain text of a value in UTF-8, as a view or a script shows it.
+[[nodiscard]] inline std::string shown_text(const String& value) { return utf8_of_latin1(value); }
+template <class Number>
+[[nodiscard]] std::string shown_text(Number value) {
+  return plain_text(value);
+}
+
+/// Public fields and arrays under their names, to be read as text. The values are looked at when asked, not copied.
+class NamedValues {
+ public:
+  template <class Value>
+  void add(const std::string& name, const Value& value) {
+    entries_[name] = {0, [&value](std::span<const int>) { return shown_text(value); }};
+  }
+  template <class Value>
+  void add(const std::string& name, const BoundedArray<Value>& array) {
+    entries_[name] = {1, [&array](std::span<const int> index) { return shown_text(array(index[0])); }};
+  }
+  template <class Value>
+  void add(const std::string& name, const BoundedTable<Value>& table) {
+    entries_[name] = {2, [&table](std::span<const int> index) { return shown_text(table(index[0], index[1])); }};
+  }
+
+  /// A name of a file is shown as it stands.
+  void add_file_name(const std::string& name, const String& path) {
+    entries_[name] = {0, [&path](std::span<const int>) { return path; }};
+  }
+  /// A value that is put together when asked.
+  void add_computed(const std::string& name, int dimensions, std::function<std::string(std::span<const int>)> text) {
+    entries_[name] = {dimensions, std::move(text)};
+  }
+
+  /// Number of indices that a name takes; -1 when there is no such name.
+  [[nodiscard]] int dimensions(const std::string& name) const;
+  /// @throws RunFailure  an index out of bounds, or an array that has not been allocated
+  [[nodiscard]] std::string text(const std::string& name, std::span<const int> indices) const;
+
+ private:
+  struct Entry {
+    int dimensions = 0;
+    std::function<std::string(std::span<const int>)> text;
+  };
+  std::map<std::string, Entry> entries_;
+};
+
+/// What shows windows on a screen. Told after each change; a headless program has none.
+class WindowView {
+ public:
+  WindowView() = default;
+  WindowView(const WindowView&) = delete;
+  WindowView& operator=(const WindowView&) = delete;
+  virtual ~WindowView() = default;
+  virtual void window_created(Window& window) = 0;  ///< before its Form_Load
+  virtual void window_shown(Window& window) = 0;    ///< also when it stood already: it comes to the front
+  virtual void window_changed(Window& window) = 0;  ///< caption, visibility, mouse pointer
+  virtual void window_unloaded(Window& window) = 0;
+  virtual void control_changed(Control& control) = 0;
+  virtual void focus_wanted(Control& control) = 0;
+};
+
+/// A file dropped on a window answers the dialog of one of its menu items.
+struct FileDrop {
+  std::string ending;  ///< as ".cry", small letters
+  MenuItem* item = nullptr;
+  FileDialog* dialog = nullptr;
+};
+
+class Window {
+ public:
+  Window(std::string name, std::string caption) : name_(std::move(name)), caption_(std::move(caption)) {}
+  Window(const Window&) = delete;
+  Window& operator=(const Window&) = delete;
+  virtual ~Window() = default;
+
+  [[nodiscard]] const std::string& name() const { return name_; }
+  [[nodiscard]] const std::string& caption() const { return caption_; }
+  void set_caption(std::string_view caption);
+  [[nodiscard]] MousePointer mouse_pointer() const { return mouse_pointer_; }
+  void set_mouse_pointer(MousePointer pointer);
+  [[nodiscard]] bool visible() const { return visible_; }
+  void show();  ///< modeless; the window becomes the active one
+  void hide();
+  void activate();  ///< the user goes to the window
+
+  /// In the order of their declaration.
+  [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
+  [[nodiscard]] Control* find(std::string_view control_name) const;  ///< nullptr when there is none
+  [[nodiscard]] NamedValues& fields() { return fields_; }
+
+  void add_operation(const std::string& name, std::function<void()> operation) {
+    operations_[name] = std::move(operation);
+  }
+  /// nullptr when there is no such public operation
+  [[nodiscard]] const std::function<void()>* operation(const std::string& name) const;
+  [[nodiscard]] std::vector<std::string> operation_names() const;
+
+  [[nodiscard]] WindowView* view() const { return view_; }
+  void set_view(WindowView* view) { view_ = view; }
+
+  /// Expires with the window, and as soon as it is unloaded.
+  [[nodiscard]] std::weak_ptr<const void> life() const { return life_; }
+
+  Event<> on_load;  ///< at its creation
+  Event<> on_activate;
+
+  // What a window wants from the front end
+  std::vector<FileDrop> file_drops;       ///< what may be dropped on it
+  CommandButton* frame_button = nullptr;  ///< what its frame button clicks; none: the window hides
+  std::string beside = {};                ///< the window that it goes with: it comes up beside that one, behind it
+
+ private:
+  friend class Control;
+  friend class Windows;
+  void add(Control& control) { controls_.push_back(&control); }
+
+  std::string name_;
+  std::string caption_;
+  MousePointer mouse_pointer_ = MousePointer::Default;
+  bool visible_ = false;
+  std::vector<Control*> controls_;
+  NamedValues fields_;
+  std::map<std::string, std::function<void()>> operations_;
+  WindowView* view_ = nullptr;
+  std::shared_ptr<const void> life_ = std::make_shared<char>();
+};
+
+/// Shows the hourglass over a window as long as it lives.
+class Hourglass {
+ public:
+  explicit Hourglass(Window& window) : window_(window) { window_.set_mouse_pointer(MousePointer::Hourglass); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+  ~Hourglass() { window_.set_mouse_pointer(MousePointer::Default); }
+
+ private:
+  Window& window_;
+};
+
+/// All windows of the program by name. A window comes into being at its first use, whatever uses it; its Form_Load runs
+/// then, with the window already in place.
+class Windows {
+ public:
+  struct Type {
+    std::function<std::unique_ptr<Window>()> make;
+    std::function<void(Window&)> load;  ///< ties events to handlers
+  };
+
+  void add_type(const std::string& name, Type type) { types_[name] = std::move(type); }
+  [[nodiscard]] bool knows(const std::string& name) const { return types_.contains(name); }
+
+  /// @throws RunFailure  no such window, or its Form_Load fails: there is none then
+  Window& use(const std::string& name);
+  template <class Form>
+  Form& use() {
+    return dynamic_cast<Form&>(use(Form::window_name));
+  }
+  /// nullptr while the window does not exist
+  [[nodiscard]] Window* find(const std::string& name) const;
+  /// Names of all windows, existing or not.
+  [[nodiscard]] std::vector<std::string> names() const;
+
+  /// Ends a window; its next use makes a new one. Its handlers may still be running, so that its memory goes later.
+  void unload(const std::string& name);
+  /// Hands over the unloaded windows, which may be freed when no handler runs.
+  [[nodiscard]] std::vector<std::unique_ptr<Window>> take_unloaded() { return std::exchange(unloaded_, {}); }
+  void free_unloaded() { unloaded_.clear(); }
+
+  void set_view(WindowView* view);
+
+ private:
+  std::map<std::string, Type> types_;
+  std::map<std::string, std::unique_ptr<Window>> windows_;
+  std::vector<std::unique_ptr<Window>> unloaded_;
+  WindowView* view_ = nullptr;
+};
+
+}  // namespace zol

@@ -1,0 +1,33 @@
+// What every handler works on: the crystal, the windows, the surroundings, the folders of the data.
+#pragma once
+
+#include "core/crystal_state.h"
+#include "core/data_root.h"
+#include "core/progress.h"
+#include "shell/services/window_services.h"
+
+namespace zol {
+
+struct Workbench {
+  CrystalState& state;
+  Windows& windows;
+  Services& services;
+  const DataRoot& data;
+
+  /// Shows a window of that name if the program has one.
+  void show_window(const std::string& name) const {
+    if (windows.knows(name)) windows.use(name).show();
+  }
+};
+
+/// Shows the progress of a calculation in a bar.
+class BarProgress : public Progress {
+ public:
+  explicit BarProgress(ProgressBar& bar) : bar_(bar) {}
+  void report(int done, int /*total*/) override { bar_.set_value(static_cast<Single>(done)); }
+
+ private:
+  ProgressBar& bar_;
+};
+
+}  // namespace zol
