@@ -240,14 +240,14 @@ std::string_view status_words(int status) {
 
 std::vector<Solution> match_bands(const CrystalState& state, const TripleTable& table, Single used,
                                   const MeasuredBands& bands, const MatchSettings& settings, SolutionTable& solutions,
-                                  Progress& progress) {
+                                  Task& task) {
   const int rows = triple_rows(used);
   solutions.SolutionCount = 0;
   Matcher matcher(state, table, bands, settings, solutions);
   long long next_report = 0;
   const auto passed = [&](long long row) {
     if (row < next_report) return;
-    progress.report(static_cast<int>(row), rows);
+    task.report(static_cast<int>(row), rows);
     next_report = row + report_step;
   };
   long long row = matcher.next_fitting(settings.first_row, rows, passed);
@@ -255,7 +255,7 @@ std::vector<Solution> match_bands(const CrystalState& state, const TripleTable& 
     const int candidate = static_cast<int>(row);
     if (matcher.widths_fit(candidate) && matcher.solve(candidate)) break;
   }
-  if (settings.first_row <= rows) progress.report(static_cast<int>(std::min<long long>(row, rows)), rows);
+  if (settings.first_row <= rows) task.report(static_cast<int>(std::min<long long>(row, rows)), rows);
   return matcher.take_found();
 }
 

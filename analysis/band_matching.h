@@ -10,7 +10,7 @@
 #include "analysis/band_measurement.h"
 #include "analysis/direction_solvers.h"
 #include "analysis/triple_table.h"
-#include "core/progress.h"
+#include "core/task.h"
 
 namespace zol {
 
@@ -49,7 +49,7 @@ struct Solution {
 /// @throws RunFailure  more than 10000 solutions, or a vector of length 0
 [[nodiscard]] std::vector<Solution> match_bands(const CrystalState& state, const TripleTable& table, Single used,
                                                 const MeasuredBands& bands, const MatchSettings& settings,
-                                                SolutionTable& solutions, Progress& progress);
+                                                SolutionTable& solutions, Task& task);
 
 /// One line of the list: number, indices, direction, angle and width errors, words on how it was solved.
 [[nodiscard]] std::string solution_line(const TripleTable& table, const Solution& solution);

@@ -113,12 +113,12 @@ Single extend_over_ties(const CrystalState& state, Single wanted) {
 
 int triple_rows(Single reflections) { return Long::rounded(triples_of(reflections)).value(); }
 
-void fill_triple_table(const CrystalState& state, Single used, TripleTable& table, Progress& progress) {
+void fill_triple_table(const CrystalState& state, Single used, TripleTable& table, Task& task) {
   const int rows = triple_rows(used);
   const int count = Long::rounded(used).value();
   std::vector<Single> angles;
   for (int a = 1; a <= count; ++a) {
-    progress.report(a, count);
+    task.report(a, count);
     for (int b = 1; b <= count; ++b) angles.push_back(folded_angle(state, a, b));
   }
   table.set(rows, first_planes(state, count), std::move(angles));

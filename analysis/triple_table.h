@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "core/crystal_state.h"
-#include "core/progress.h"
+#include "core/task.h"
 
 namespace zol {
 
@@ -78,7 +78,7 @@ void sort_by_weighted_intensity(CrystalState& state);
 /// Fills the table with the first `used` reflections of the list, of which there are N = used rounded half to even.
 /// Progress goes by reflections.
 /// @throws RunFailure  a reflection of zero length, or more rows than a Long can count
-void fill_triple_table(const CrystalState& state, Single used, TripleTable& table, Progress& progress);
+void fill_triple_table(const CrystalState& state, Single used, TripleTable& table, Task& task);
 
 /// Third power of a number of reflections: the size of their table before it is rounded.
 [[nodiscard]] inline double triples_of(Single reflections) {

@@ -8,10 +8,6 @@
 namespace zol {
 namespace {
 
-struct NoProgress : Progress {
-  void report(int /*done*/, int /*total*/) override {}
-};
-
 std::unique_ptr<CrystalState> quartz_list() {
   auto state = shipped_crystal("Quartz.cry");
   make_list(*state, 1, {false, true});
@@ -23,10 +19,10 @@ std::unique_ptr<CrystalState> quartz_list() {
 void TripleTableOf(benchmark::State& run) {
   const auto state = quartz_list();
   TripleTable table;
-  NoProgress progress;
+  QuietTask task;
   for (auto _ : run) {
     sort_by_weighted_intensity(*state);
-    fill_triple_table(*state, static_cast<Single>(run.range(0)), table, progress);
+    fill_triple_table(*state, static_cast<Single>(run.range(0)), table, task);
     benchmark::DoNotOptimize(table.TripleAngle(1, 0));
   }
   run.counters["rows"] = table.upper_row();
@@ -37,9 +33,9 @@ BENCHMARK(TripleTableOf)->Arg(50)->Arg(100)->Unit(benchmark::kMillisecond);
 void Matching(benchmark::State& run) {
   const auto state = quartz_list();
   TripleTable table;
-  NoProgress progress;
+  QuietTask task;
   const auto used = static_cast<Single>(run.range(0));
-  fill_triple_table(*state, used, table, progress);
+  fill_triple_table(*state, used, table, task);
   const auto count = static_cast<int>(run.range(0));
   const int row = ((1 - 1) * count + (8 - 1)) * count + 15;
   MeasuredBands bands;
@@ -50,7 +46,7 @@ void Matching(benchmark::State& run) {
   }
   const MatchSettings settings{2.0F, true, false, {}, 1, false};
   SolutionTable solutions;
-  for (auto _ : run) benchmark::DoNotOptimize(match_bands(*state, table, used, bands, settings, solutions, progress));
+  for (auto _ : run) benchmark::DoNotOptimize(match_bands(*state, table, used, bands, settings, solutions, task));
   run.counters["solutions"] = solutions.SolutionCount.value();
 }
 BENCHMARK(Matching)->Arg(50)->Arg(100)->Unit(benchmark::kMillisecond);

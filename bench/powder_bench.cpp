@@ -7,10 +7,6 @@
 namespace zol {
 namespace {
 
-struct NoProgress : Progress {
-  void report(int /*done*/, int /*total*/) override {}
-};
-
 constexpr PseudoVoigt line{0.2F, 50};
 constexpr Single ring_width = 0.003F;  // 1/angstrom
 
@@ -22,11 +18,11 @@ struct Powder {
     range.maximum = two_theta_limit(state->WaveLength, state->Dmin);
   }
   [[nodiscard]] BoundedArray<Single> histogram() const {
-    NoProgress progress;
+    QuietTask task;
     const Integer count = bin_count(state->Dmin);
     BoundedArray<Single> bins("Bins", highest_bin(count, 1000));
     const auto grid = interference_grid(*state, size);
-    fill_histogram(*state, grid, InterferenceTable(grid, size), count, bins, progress);
+    fill_histogram(*state, grid, InterferenceTable(grid, size), count, bins, task);
     return bins;
   }
   std::unique_ptr<CrystalState> state;
@@ -41,11 +37,11 @@ Powder small_crystallites() { return Powder(p1_crystal(20), 50); }
 template <Powder (*make)()>
 void pattern(benchmark::State& run) {
   const Powder powder = make();
-  NoProgress progress;
+  QuietTask task;
   BoundedArray<Single> profile("Profile", last_sample);
   for (auto _ : run) {
     const auto bins = filled_bins(powder.histogram(), 0, bin_count(1), 1);
-    sum_pseudo_voigt_lines(bins, powder.state->WaveLength, powder.range, line, profile, progress);
+    sum_pseudo_voigt_lines(bins, powder.state->WaveLength, powder.range, line, profile, task);
     run.counters["bins"] = static_cast<double>(bins.size());
   }
   run.counters["reflections"] = powder.state->RefCount.value();
@@ -66,10 +62,10 @@ void plain_pattern(benchmark::State& run) {
 
 void rings(benchmark::State& run) {
   const Powder powder = quartz();
-  NoProgress progress;
+  QuietTask task;
   BoundedArray<Single> profile("Profile", last_sample);
   for (auto _ : run) {
-    sum_gaussian_lines(filled_bins(powder.histogram(), 1, bin_count(1), 1), 1, ring_width, profile, progress);
+    sum_gaussian_lines(filled_bins(powder.histogram(), 1, bin_count(1), 1), 1, ring_width, profile, task);
   }
 }
 

@@ -156,12 +156,12 @@ int highest_bin(Integer count, int beyond) {
 }
 
 void fill_histogram(const CrystalState& state, const InterferenceGrid& grid, const InterferenceTable& table,
-                    Integer count, BoundedArray<Single>& bins, Progress& progress) {
+                    Integer count, BoundedArray<Single>& bins, Task& task) {
   for (int n = 0; n <= count.value(); ++n) bins(n) = 0;
   Spreader spreader(state, grid, table, count, bins);
   const int reflections = state.RefCount.value();
   for (int r = 1; r <= reflections; ++r) {
-    progress.report(r, reflections);
+    task.report(r, reflections);
     spreader.add(state.RefH(r), state.RefK(r), state.RefL(r), state.RefI(r));
   }
 }

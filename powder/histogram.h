@@ -3,7 +3,7 @@
 
 #include "core/bounded_array.h"
 #include "core/crystal_state.h"
-#include "core/progress.h"
+#include "core/task.h"
 #include "powder/interference.h"
 
 namespace zol {
@@ -24,6 +24,6 @@ namespace zol {
 /// bins beyond count for what the spread carries there. Progress goes by reflections.
 /// @throws RunFailure  a point falls beyond the array, or a bin passes the range of a Single
 void fill_histogram(const CrystalState& state, const InterferenceGrid& grid, const InterferenceTable& table,
-                    Integer count, BoundedArray<Single>& bins, Progress& progress);
+                    Integer count, BoundedArray<Single>& bins, Task& task);
 
 }  // namespace zol

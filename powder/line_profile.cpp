@@ -51,7 +51,7 @@ void add_lorentzian(Block& block, double centre, double height, double width) {
 /// Runs over the samples block by block. A sum that left the range of a Single stays infinite and fails at the end of
 /// its block.
 template <class Position, class AddLines>
-void sum_lines(BoundedArray<Single>& profile, Progress& progress, Position position, AddLines add_lines) {
+void sum_lines(BoundedArray<Single>& profile, Task& task, Position position, AddLines add_lines) {
   for (int first = 0; first <= last_sample; first += block_size) {
     Block block;
     block.first = first;
@@ -59,7 +59,7 @@ void sum_lines(BoundedArray<Single>& profile, Progress& progress, Position posit
     for (std::size_t m = 0; m < block.size; ++m) block.position[m] = position(first + static_cast<int>(m));
     add_lines(block);
     for (std::size_t m = 0; m < block.size; ++m) profile(first + static_cast<int>(m)) = to_single(block.sum[m]);
-    progress.report(first + static_cast<int>(block.size) - 1, last_sample);
+    task.report(first + static_cast<int>(block.size) - 1, last_sample);
   }
 }
 
@@ -102,7 +102,7 @@ std::vector<FilledBin> filled_bins(const BoundedArray<Single>& bins, int first, 
 }
 
 void sum_pseudo_voigt_lines(const std::vector<FilledBin>& bins, Single wavelength, const TwoThetaRange& range,
-                            const PseudoVoigt& line, BoundedArray<Single>& profile, Progress& progress) {
+                            const PseudoVoigt& line, BoundedArray<Single>& profile, Task& task) {
   struct Line {
     double two_theta, gaussian, lorentzian;
   };
@@ -118,7 +118,7 @@ void sum_pseudo_voigt_lines(const std::vector<FilledBin>& bins, Single wavelengt
                      divide(((1.0 - g) + (1.0 - g)) * content / program_pi, w, "the line width")});
   }
   sum_lines(
-      profile, progress, [&range](int m) { return double{range.at(m)}; },
+      profile, task, [&range](int m) { return double{range.at(m)}; },
       [&lines, w](Block& block) {
         for (const auto& [two_theta, gaussian, lorentzian] : lines) {
           add_gaussian(block, two_theta, gaussian, w);
@@ -128,7 +128,7 @@ void sum_pseudo_voigt_lines(const std::vector<FilledBin>& bins, Single wavelengt
 }
 
 void sum_gaussian_lines(const std::vector<FilledBin>& bins, Single d_star_max, Single half_width,
-                        BoundedArray<Single>& profile, Progress& progress) {
+                        BoundedArray<Single>& profile, Task& task) {
   const double w = half_width;
   std::vector<double> heights;
   heights.reserve(bins.size());
@@ -136,7 +136,7 @@ void sum_gaussian_lines(const std::vector<FilledBin>& bins, Single d_star_max, S
     heights.push_back(divide(double{bin.content} * std::sqrt(ln_2), w, "the line width") / std::sqrt(program_pi));
   }
   sum_lines(
-      profile, progress, [d_star_max](int m) { return double{d_star_at(d_star_max, m)}; },
+      profile, task, [d_star_max](int m) { return double{d_star_at(d_star_max, m)}; },
       [&bins, &heights, w](Block& block) {
         for (std::size_t n = 0; n < bins.size(); ++n) add_gaussian(block, bins[n].d_star, heights[n], w);
       });

@@ -10,7 +10,7 @@
 
 #include "core/bounded_array.h"
 #include "core/numbers.h"
-#include "core/progress.h"
+#include "core/task.h"
 
 namespace zol {
 
@@ -69,13 +69,13 @@ struct PseudoVoigt {
 /// Sums the lines of all bins at each sample of the range. profile has samples 0 to 1000; progress goes by samples.
 /// @throws RunFailure  the width is 0, or a sum passes the range of a Single
 void sum_pseudo_voigt_lines(const std::vector<FilledBin>& bins, Single wavelength, const TwoThetaRange& range,
-                            const PseudoVoigt& line, BoundedArray<Single>& profile, Progress& progress);
+                            const PseudoVoigt& line, BoundedArray<Single>& profile, Task& task);
 
 /// Sums Gaussians in 1/d; each has half the height of one of unit area.
 /// @param half_width  full width at half maximum, 1/angstrom
 /// @throws RunFailure  the width is 0, or a sum passes the range of a Single
 void sum_gaussian_lines(const std::vector<FilledBin>& bins, Single d_star_max, Single half_width,
-                        BoundedArray<Single>& profile, Progress& progress);
+                        BoundedArray<Single>& profile, Task& task);
 
 /// Divides each sample by the number of points of the interference grid. @throws RunFailure  it is 0
 void divide_samples(BoundedArray<Single>& profile, Integer grid_points);

@@ -9,15 +9,11 @@
 
 #include "analysis/zone_azimuth.h"
 #include "tests/projected_pattern.h"
+#include "tests/recorded_task.h"
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
-
-struct RecordedProgress : Progress {
-  void report(int done, int total) override { steps.emplace_back(done, total); }
-  std::vector<std::pair<int, int>> steps;
-};
 
 /// Primitive cubic, a = 4, seen along [3 1 5].
 class Matching : public testing::Test {
@@ -35,7 +31,7 @@ class Matching : public testing::Test {
     }
     set_list(state, entries);
     used = static_cast<Single>(planes.size());
-    RecordedProgress unseen;
+    RecordedTask unseen;
     fill_triple_table(state, used, table, unseen);
 
     const ProjectedPattern pattern(CartesianCell(state), uvw, 30, {40, 0, 0, 1});
@@ -50,7 +46,7 @@ class Matching : public testing::Test {
     }
   }
 
-  std::vector<Solution> match() { return match_bands(state, table, used, bands, settings, solutions, progress); }
+  std::vector<Solution> match() { return match_bands(state, table, used, bands, settings, solutions, task); }
   static void expect_direction(const Solution& solution, const Direction& uvw) {
     for (std::size_t i = 0; i < 3; ++i) EXPECT_NEAR(solution.direction[i], uvw[i], 1.1) << i;  // they are truncated
   }
@@ -61,7 +57,7 @@ class Matching : public testing::Test {
   MeasuredBands bands;
   MatchSettings settings{2.0F, false, false, {}, 1, false};
   SolutionTable solutions;
-  RecordedProgress progress;
+  RecordedTask task;
 };
 
 TEST_F(Matching, FindsTheRowAndTheDirection) {
@@ -73,7 +69,7 @@ TEST_F(Matching, FindsTheRowAndTheDirection) {
   EXPECT_EQ(solutions.MatchStatus, 0);
   EXPECT_EQ(solutions.SolutionTriple(1), found[0].row);
   EXPECT_EQ(solutions.SolutionDir(1, 3), found[0].direction[2]);
-  EXPECT_EQ(progress.steps.back(), (std::pair{27, 27}));
+  EXPECT_EQ(task.steps.back(), (std::pair{27, 27}));
   EXPECT_EQ(solution_line(table, found[0]).substr(0, 38), "1    1   0   0   1   1   0  -1   1   1");
   EXPECT_EQ(solution_line(table, found[0]).size(), 2U + 36 + 21 + 15);
   for (const int count : {1, 50, 500}) {
@@ -117,7 +113,7 @@ TEST_F(Matching, OmitsEquivalentsAndStopsForAdjustment) {
   ASSERT_EQ(adjusted.size(), 1U);
   EXPECT_EQ(adjusted[0].row, all[1].row);
   EXPECT_EQ(solutions.SolutionTriple(1), all[1].row);
-  EXPECT_EQ(progress.steps.back().first, all[1].row);
+  EXPECT_EQ(task.steps.back().first, all[1].row);
 }
 
 TEST_F(Matching, ComparesWidthsWhenAsked) {
@@ -148,7 +144,7 @@ TEST_F(Matching, ThreeBandsOfOneZoneHaveTwoRoots) {
 TEST_F(Matching, Failures) {
   look_at(three);
   used = 3.1F;  // of 30 rows, three reflections fill 27
-  fill_triple_table(state, used, table, progress);
+  fill_triple_table(state, used, table, task);
   settings.first_row = 28;
   for (int i = 0; i < 3; ++i) bands.BandAngle(i) = 0;
   EXPECT_EQ(failure_of([this] { (void)match(); }), "division by zero: RefS of a reflection of the triple table is 0")

@@ -11,19 +11,11 @@
 #include "powder/pattern_files.h"
 #include "tests/crystals.h"
 #include "tests/plain_powder.h"
+#include "tests/recorded_task.h"
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
-
-struct Steps : Progress {
-  void report(int done, int total) override {
-    EXPECT_TRUE(done >= last && done <= total);
-    last = done;
-    ++reports;
-  }
-  int last = 0, reports = 0;
-};
 
 CrystalState listed(const CellNumbers& cell, const std::vector<ListedReflection>& reflections) {
   auto state = with_cell(cell);
@@ -36,9 +28,9 @@ BoundedArray<Single> histogram(const CrystalState& state, const CrystalliteSize&
   const auto grid = interference_grid(state, size);
   const Integer count = bin_count(state.Dmin);
   BoundedArray<Single> bins("Bins", count.value() + beyond);
-  Steps steps;
-  fill_histogram(state, grid, InterferenceTable(grid, size), count, bins, steps);
-  EXPECT_EQ(steps.last, state.RefCount.value());
+  RecordedTask task;
+  fill_histogram(state, grid, InterferenceTable(grid, size), count, bins, task);
+  EXPECT_EQ(task.steps.back().first, state.RefCount.value());
   return bins;
 }
 
@@ -47,18 +39,18 @@ BoundedArray<Single> empty_profile() { return {"Profile", last_sample}; }
 BoundedArray<Single> pseudo_voigt(const std::vector<FilledBin>& bins, Single wavelength, const TwoThetaRange& range,
                                   const PseudoVoigt& line) {
   auto profile = empty_profile();
-  Steps steps;
-  sum_pseudo_voigt_lines(bins, wavelength, range, line, profile, steps);
-  EXPECT_EQ(steps.last, last_sample);
-  EXPECT_GT(steps.reports, 10) << "the bar moves";
+  RecordedTask task;
+  sum_pseudo_voigt_lines(bins, wavelength, range, line, profile, task);
+  EXPECT_EQ(task.steps.back().first, last_sample);
+  EXPECT_GT(task.steps.size(), 10U) << "the bar moves";
   return profile;
 }
 
 /// Rings up to 1/d = 1.
 BoundedArray<Single> rings(const std::vector<FilledBin>& bins, Single half_width) {
   auto profile = empty_profile();
-  Steps steps;
-  sum_gaussian_lines(bins, 1, half_width, profile, steps);
+  RecordedTask task;
+  sum_gaussian_lines(bins, 1, half_width, profile, task);
   return profile;
 }
 

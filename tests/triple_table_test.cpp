@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tests/crystals.h"
+#include "tests/recorded_task.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -60,11 +61,6 @@ TEST(ExtendOverTies, CutsNoEquivalentsApart) {
   }
 }
 
-struct RecordedProgress : Progress {
-  void report(int done, int total) override { steps.emplace_back(done, total); }
-  std::vector<std::pair<int, int>> steps;
-};
-
 /// Angle between the normals of two reflections, worked out where it is needed.
 Single folded_angle(const CrystalState& state, int a, int b) {
   const Single ga = state.RefS(a) + state.RefS(a);
@@ -78,10 +74,10 @@ Single folded_angle(const CrystalState& state, int a, int b) {
 TEST(TripleTable, HoldsEveryOrderedTriple) {
   const auto state = with_list({{1, 0, 0, 9}, {1, 1, 0, 8}, {1, 1, 1, 7}, {-2, 1, 0, 6}, {0, 0, 3, 5}});
   TripleTable table;
-  RecordedProgress progress;
-  fill_triple_table(state, 4, table, progress);
+  RecordedTask task;
+  fill_triple_table(state, 4, table, task);
   ASSERT_EQ(table.upper_row(), 64) << "the fifth reflection is not used";
-  EXPECT_EQ(progress.steps, (std::vector<std::pair<int, int>>{{1, 4}, {2, 4}, {3, 4}, {4, 4}}));
+  EXPECT_EQ(task.steps, (std::vector<std::pair<int, int>>{{1, 4}, {2, 4}, {3, 4}, {4, 4}}));
   EXPECT_EQ(table.TripleAngle(0, 0), 0);
   for (int row = 1; row <= 64; ++row) {
     const std::array places{(row - 1) / 16 + 1, (row - 1) / 4 % 4 + 1, (row - 1) % 4 + 1};
@@ -105,9 +101,9 @@ TEST(TripleTable, HoldsEveryOrderedTriple) {
 TEST(TripleTable, HoldsAHundredMillionRowsInAMegabyte) {
   const auto state = with_list(std::vector<ListedReflection>(500, {1, 1, 0, 2}));
   TripleTable table;
-  RecordedProgress progress;
+  RecordedTask task;
   EXPECT_EQ(failure_of([&] { (void)table.TripleS(0, 0); }), "index 0 of TripleS, which has not been allocated yet");
-  fill_triple_table(state, 500, table, progress);
+  fill_triple_table(state, 500, table, task);
   EXPECT_EQ(table.TripleHKL(125'000'000, 7), 1);
   EXPECT_EQ(failure_of([&] { (void)table.TripleHKL(125'000'001, 0); }),
             "index 125000001 of TripleHKL is outside 0 to 125000000");
@@ -120,12 +116,12 @@ TEST(TripleTable, HoldsAHundredMillionRowsInAMegabyte) {
 TEST(TripleTable, RoundsRowsAndReflectionsEachForItself) {
   const auto state = with_list({{1, 0, 0}, {1, 1, 0}, {1, 1, 1}, {0, 0, 2}});
   TripleTable table;
-  RecordedProgress progress;
-  fill_triple_table(state, 3.1F, table, progress);
+  RecordedTask task;
+  fill_triple_table(state, 3.1F, table, task);
   EXPECT_EQ(table.upper_row(), 30);
   EXPECT_EQ(table.TripleS(27, 2), state.RefS(3));
   EXPECT_EQ(table.TripleS(28, 2), 0);
-  EXPECT_EQ(failure_of([&] { fill_triple_table(state, 3.6F, table, progress); }),
+  EXPECT_EQ(failure_of([&] { fill_triple_table(state, 3.6F, table, task); }),
             "index 48 of TripleHKL is outside 0 to 47");
 }
 
@@ -133,10 +129,10 @@ TEST(TripleTable, FailsOnAReflectionOfNoLength) {
   auto state = with_list({{1, 0, 0}, {1, 1, 0}, {1, 1, 1}});
   state.RefS(2) = 0;
   TripleTable table;
-  RecordedProgress progress;
-  EXPECT_EQ(failure_of([&] { fill_triple_table(state, 3, table, progress); }),
+  RecordedTask task;
+  EXPECT_EQ(failure_of([&] { fill_triple_table(state, 3, table, task); }),
             "division by zero: the length of a reflection is 0");
-  EXPECT_THROW(fill_triple_table(state, 1300, table, progress), RunFailure) << "1300^3 rows overflow a Long";
+  EXPECT_THROW(fill_triple_table(state, 1300, table, task), RunFailure) << "1300^3 rows overflow a Long";
 }
 
 }  // namespace

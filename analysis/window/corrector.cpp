@@ -30,10 +30,10 @@ std::vector<int> read_corrector(const std::string& path) {
   return shifts;
 }
 
-void shift_rows(Surface& image, const std::vector<int>& shifts, Progress& progress) {
+void shift_rows(Surface& image, const std::vector<int>& shifts, Task& task) {
   int y = 0;
   for (const int shift : shifts) {
-    progress.report(y, corrector_rows - 1);
+    task.report(y, corrector_rows - 1);
     if (shift != 0) shift_row(image, y, shift);
     ++y;
   }

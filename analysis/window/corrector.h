@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "core/progress.h"
+#include "core/task.h"
 #include "shell/services/canvas.h"
 
 namespace zol {
@@ -16,6 +16,6 @@ inline constexpr int corrector_rows = 512;
 [[nodiscard]] std::vector<int> read_corrector(const std::string& path);
 
 /// Moves each row of the image to the left by its shift; what comes free at its end is grey. Progress goes by rows.
-void shift_rows(Surface& image, const std::vector<int>& shifts, Progress& progress);
+void shift_rows(Surface& image, const std::vector<int>& shifts, Task& task);
 
 }  // namespace zol

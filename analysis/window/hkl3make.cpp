@@ -20,8 +20,8 @@ void Hkl3make(Workbench& bench) {
 
   const Hourglass hourglass(form);
   form.ProgressBar1.set_range(0, form.NhklUsed);
-  BarProgress progress(form.ProgressBar1);
-  fill_triple_table(state, form.NhklUsed, form.triples, progress);
+  BarTask task(form.ProgressBar1);
+  fill_triple_table(state, form.NhklUsed, form.triples, task);
 }
 
 }  // namespace zol

@@ -150,9 +150,9 @@ void Command1_Click(Workbench& bench, Pattern3Form& form) {
 
 void MatchAngle(Workbench& bench, Pattern3Form& form) {
   form.ProgressBar1.set_range(0, to_single(triples_of(form.NhklUsed)));
-  BarProgress progress(form.ProgressBar1);
+  BarTask task(form.ProgressBar1);
   const auto found = match_bands(main1_state(bench), form.triples, form.NhklUsed, form.bands, match_settings(form),
-                                 form.solutions, progress);
+                                 form.solutions, task);
   form.Heading.set_caption(solution_heading(form.solutions.SolutionCount.value(), form.Check2.checked()));
   for (const Solution& solution : found) list_solution(form, solution);
   form.List1.add_item("    No. of solution = " + plain_text(form.solutions.SolutionCount));

@@ -151,8 +151,8 @@ void Command4_Click(Pattern3Form& form) {
   const auto shifts = read_corrector(form.CorrectorFile);
   const Hourglass hourglass(form);
   form.ProgressBar2.set_range(0, corrector_rows - 1);
-  BarProgress progress(form.ProgressBar2);
-  form.Picture1.edit_picture([&shifts, &progress](Surface& image) { shift_rows(image, shifts, progress); });
+  BarTask task(form.ProgressBar2);
+  form.Picture1.edit_picture([&shifts, &task](Surface& image) { shift_rows(image, shifts, task); });
 }
 
 void Command6_Click(Pattern3Form& form) {

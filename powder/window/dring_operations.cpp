@@ -77,12 +77,12 @@ void DRCalc(Workbench& bench) {
   form.Label6.set_caption(grid_text(grid));
   const InterferenceTable table(grid, form.size());
 
-  BarProgress progress(form.ProgressBar1);
+  BarTask task(form.ProgressBar1);
   form.ProgressBar1.set_range(0, to_single(state.RefCount.value()));
-  fill_histogram(state, grid, table, form.BinCount, form.Bins, progress);
+  fill_histogram(state, grid, table, form.BinCount, form.Bins, task);
   form.ProgressBar1.set_range(0, last_sample);
   const auto bins = filled_bins(form.Bins, 1, form.BinCount, state.Dmin);
-  sum_gaussian_lines(bins, form.DStarMax, form.HalfWidth, form.Profile, progress);
+  sum_gaussian_lines(bins, form.DStarMax, form.HalfWidth, form.Profile, task);
   if (form.Check1.checked()) take_square_roots(form.Profile);
 
   if (form.DisplayMax == 0) form.DisplayMax = largest_sample(form.Profile);

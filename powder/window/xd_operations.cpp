@@ -80,12 +80,12 @@ void XDCalc(Workbench& bench) {
 
   const Hourglass hourglass(form);
   const InterferenceTable table(grid, form.size());
-  BarProgress progress(form.ProgressBar1);
+  BarTask task(form.ProgressBar1);
   form.ProgressBar1.set_range(1, to_single(state.RefCount.value()));
-  fill_histogram(state, grid, table, form.BinCount, form.Bins, progress);
+  fill_histogram(state, grid, table, form.BinCount, form.Bins, task);
   form.ProgressBar1.set_range(0, last_sample);
   const auto bins = filled_bins(form.Bins, 0, form.BinCount, state.Dmin);
-  sum_pseudo_voigt_lines(bins, state.WaveLength, form.range(), form.line(), form.Profile, progress);
+  sum_pseudo_voigt_lines(bins, state.WaveLength, form.range(), form.line(), form.Profile, task);
   divide_samples(form.Profile, points);
   form.PeakMax = std::max(0.0F, largest_sample(form.Profile));
   form.DisplayMax = form.PeakMax;

@@ -3,7 +3,7 @@
 
 #include "core/crystal_state.h"
 #include "core/data_root.h"
-#include "core/progress.h"
+#include "core/task.h"
 #include "shell/services/window_services.h"
 
 namespace zol {
@@ -21,10 +21,11 @@ struct Workbench {
 };
 
 /// Shows the progress of a calculation in a bar.
-class BarProgress : public Progress {
+class BarTask : public Task {
  public:
-  explicit BarProgress(ProgressBar& bar) : bar_(bar) {}
+  explicit BarTask(ProgressBar& bar) : bar_(bar) {}
   void report(int done, int /*total*/) override { bar_.set_value(static_cast<Single>(done)); }
+  void check() override {}
 
  private:
   ProgressBar& bar_;
