@@ -649,6 +649,7 @@ TEST_F(DesktopTest, EventsGiveTheScriptThatRepeatsThem) {
   type(box("Text15"), "0.9");
   child<QComboBox>("Main1", "Combo1").setFocus();
   QTest::keyClick(&child<QComboBox>("Main1", "Combo1"), Qt::Key_Down);
+  type(box("Text18"), "#\xC5 \"");
   click("Main1", "Check1");
   click("Main1", "Command6");
   click("Main1", "Command10");
@@ -668,6 +669,7 @@ TEST_F(DesktopTest, EventsGiveTheScriptThatRepeatsThem) {
   EXPECT_EQ(repeated.Text6.text(), form.Text6.text()) << script;
   EXPECT_EQ(repeated.List1.items(), form.List1.items());
   EXPECT_EQ(again.windows().use<Main1Form>().List2.items(), main1().List2.items());
+  EXPECT_EQ(again.windows().use<Main1Form>().Text18.text(), "#\xC5 \"");
 }
 
 class PictureView : public testing::Test {

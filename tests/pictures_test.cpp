@@ -117,7 +117,7 @@ TEST_F(Pictures, AreBitmapsWithAllTheirPixels) {
   const std::string deep = seed("24-bit.bmp");
   refused(deep.substr(0, deep.size() - 1), "it is cut short: 3 rows of 16 bytes need 48, there are 47, for 2 rows");
   refused(with(deep, 10, "\xff\xff\xff\xff"), "it is cut short: 3 rows of 16 bytes need 48, there are 0");
-  refused(with(deep, 14, "\x38"), "its header is said to have 56 bytes");
+  refused(with(deep, 14, "8"), "its header is said to have 56 bytes");
   for (const auto* side : {"\0\0\0\0", "\xff\xff\xff\x7f", "\0\0\0\x80"}) {
     for (const std::size_t at : {18U, 22U}) refused(with(deep, at, std::string(side, 4)), "its header tells ");
   }

@@ -29,6 +29,7 @@
 #include "shell/desktop/latin1_input.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/screen_fit.h"
+#include "shell/latin1.h"
 
 namespace zol {
 namespace {
@@ -76,8 +77,9 @@ class Binder::TextTie : public Tie {
     if (!box.holds_file_name) take_latin1_only(edit);
     connect(&edit, &QLineEdit::textEdited, this, [this](const QString& text) {
       entered();
-      const std::string typed = box_.holds_file_name ? text.toStdString() : latin1_from_qt(text);
-      binder.enter(operation({"set", box_.path(), typed}, [this, typed] { box_.set_text(typed); }));
+      const std::string utf8 = text.toStdString();
+      const std::string typed = box_.holds_file_name ? utf8 : latin1_from_qt(text);
+      binder.enter(operation({"set", box_.path(), utf8}, [this, typed] { box_.set_text(typed); }));
     });
     edit.installEventFilter(&owner);
   }
@@ -319,8 +321,8 @@ class Binder::GridTie : public Tie {
     const bool refused = !is_latin1(event.text());
     if (refused) say_refused(shown_);
     if (code != 0) {
-      binder.enter(operation({"type", grid_.path(), std::string(1, static_cast<char>(code))},
-                             [this, code] { grid_.press_key(code); }));
+      const std::string key = utf8_of_latin1(std::string(1, static_cast<char>(code)));
+      binder.enter(operation({"type", grid_.path(), key}, [this, code] { grid_.press_key(code); }));
     }
     return code != 0 || refused;
   }

@@ -19,7 +19,7 @@ struct UserEvent {
   std::function<bool()> still_wanted = {};  ///< asked when its turn has come; none: always
 };
 
-/// A line of a script from its words, quoted where they need it.
+/// A line of a script from its words in UTF-8, quoted where they need it.
 [[nodiscard]] std::string script_line(std::initializer_list<std::string> words);
 
 /// An event that one operation of a script repeats.
