@@ -29,7 +29,7 @@
 #include "shell/desktop/latin1_input.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/screen_fit.h"
-#include "shell/latin1.h"
+#include "shell/services/latin1.h"
 
 namespace zol {
 namespace {
