@@ -1,6 +1,7 @@
 #include "core/camera_file.h"
 
-#include "core/text_records.h"
+#include "core/record_reader.h"
+#include "core/record_writer.h"
 
 namespace zol {
 

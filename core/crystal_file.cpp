@@ -1,6 +1,7 @@
 #include "core/crystal_file.h"
 
 #include "core/number_text.h"
+#include "core/record_writer.h"
 
 namespace zol {
 namespace {

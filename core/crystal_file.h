@@ -5,7 +5,7 @@
 #include <string>
 
 #include "core/crystal_state.h"
-#include "core/text_records.h"
+#include "core/record_reader.h"
 
 namespace zol {
 

@@ -1,6 +1,6 @@
 #include "core/space_group.h"
 
-#include "core/text_records.h"
+#include "core/record_reader.h"
 
 namespace zol {
 namespace {

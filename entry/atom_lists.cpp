@@ -1,7 +1,7 @@
 #include "entry/atom_lists.h"
 
 #include "core/run_failure.h"
-#include "core/text_records.h"
+#include "core/read_file.h"
 #include "entry/word_lines.h"
 
 namespace zol {

@@ -1,6 +1,6 @@
 #include "powder/pattern_files.h"
 
-#include "core/text_records.h"
+#include "core/record_writer.h"
 
 namespace zol {
 

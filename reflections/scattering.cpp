@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "core/text_records.h"
+#include "core/record_reader.h"
 
 namespace zol {
 namespace {

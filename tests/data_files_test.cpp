@@ -16,8 +16,9 @@
 #include <vector>
 
 #include "core/crystal_file.h"
+#include "core/read_file.h"
+#include "core/record_reader.h"
 #include "core/space_group.h"
-#include "core/text_records.h"
 #include "core/unit_cell.h"
 #include "tests/cell_metric.h"
 

@@ -29,7 +29,7 @@
 #include <QToolTip>
 
 #include "analysis/window/pattern3_form.h"
-#include "core/text_records.h"
+#include "core/read_file.h"
 #include "entry/window/input_jcpds_form.h"
 #include "kikuchi/window/pattern2_form.h"
 #include "kikuchi/window/zaxis_form.h"

@@ -9,7 +9,7 @@
 
 #include <QImage>
 
-#include "core/text_records.h"
+#include "core/read_file.h"
 #include "tests/test_files.h"
 
 namespace zol {

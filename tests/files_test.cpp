@@ -7,7 +7,9 @@
 #include <array>
 #include <filesystem>
 
-#include "core/text_records.h"
+#include "core/atomic_file.h"
+#include "core/read_file.h"
+#include "core/record_writer.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -34,10 +36,10 @@ TEST(AtomicFiles, LeaveTheOldFileUnlessCommitted) {
   folder.write("out", "old");
   for (const bool committed : {false, true}) {
     RecordWriter file(folder.path("out"));
-    file.field("a, b").field(0.1F).field(Integer(-3)).field(Long(100000)).end_line();
+    file.field("a, b").field(0.1F).field(Integer(-3)).end_line();
     file.field("new").end_line();
     if (committed) file.commit();
-    EXPECT_EQ(folder.read("out"), committed ? "\"a, b\",.1,-3,100000\r\n\"new\"\r\n" : "old");
+    EXPECT_EQ(folder.read("out"), committed ? "\"a, b\",.1,-3\r\n\"new\"\r\n" : "old");
   }
   EXPECT_EQ(folder.entries(), 1U) << "a temporary file was left behind";
 }

@@ -4,7 +4,7 @@
 #include <filesystem>
 
 #include "core/run_failure.h"
-#include "core/text_records.h"
+#include "core/read_file.h"
 #include "fuzz/fuzz_targets.h"
 
 namespace zol::fuzz {

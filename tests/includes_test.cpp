@@ -7,7 +7,7 @@
 #include <set>
 #include <string>
 
-#include "core/text_records.h"
+#include "core/read_file.h"
 
 namespace zol {
 namespace {

@@ -8,7 +8,7 @@
 #include <sstream>
 
 #include "core/run_failure.h"
-#include "core/text_records.h"
+#include "core/read_file.h"
 #include "tests/test_files.h"
 
 namespace zol {

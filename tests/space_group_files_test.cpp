@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "core/space_group.h"
-#include "core/text_records.h"
+#include "core/record_reader.h"
 #include "tests/cell_metric.h"
 
 namespace zol {

@@ -9,7 +9,7 @@
 #include <QLineF>
 #include <QRectF>
 
-#include "core/text_records.h"
+#include "core/read_file.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/program/program.h"

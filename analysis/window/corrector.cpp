@@ -1,6 +1,6 @@
 #include "analysis/window/corrector.h"
 
-#include "core/text_records.h"
+#include "core/record_reader.h"
 
 namespace zol {
 namespace {

@@ -3,7 +3,7 @@
 #include <array>
 
 #include "core/number_text.h"
-#include "core/text_records.h"
+#include "core/read_file.h"
 #include "entry/structure_readers.h"
 #include "reflections/window/main1_operations.h"
 

@@ -4,7 +4,7 @@
 #include "core/crystal_file.h"
 #include "core/number_text.h"
 #include "core/space_group.h"
-#include "core/text_records.h"
+#include "core/record_writer.h"
 #include "entry/window/main1_import.h"
 #include "kikuchi/window/kikuchi_operations.h"
 #include "kikuchi/window/pattern2_form.h"

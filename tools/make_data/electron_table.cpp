@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "core/text_records.h"
+#include "core/record_writer.h"
 
 namespace zol {
 namespace {

@@ -3,7 +3,7 @@
 #include <filesystem>
 
 #include "core/run_failure.h"
-#include "core/text_records.h"
+#include "core/record_writer.h"
 #include "tools/make_data/electron_table.h"
 #include "tools/make_data/scattering_tables.h"
 #include "tools/make_data/space_group_files.h"

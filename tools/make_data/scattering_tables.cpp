@@ -4,7 +4,8 @@
 #include <gemmi/it92.hpp>
 #include <vector>
 
-#include "core/text_records.h"
+#include "core/record_reader.h"
+#include "core/record_writer.h"
 
 namespace zol {
 namespace {

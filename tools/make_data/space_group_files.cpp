@@ -5,7 +5,7 @@
 #include <gemmi/symmetry.hpp>
 #include <string_view>
 
-#include "core/text_records.h"
+#include "core/record_writer.h"
 
 namespace zol {
 namespace {

@@ -1,4 +1,4 @@
-#include "core/text_records.h"
+#include "core/record_reader.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,13 @@
-// Plain text records, the form of all data files: fields separated by a comma or a line end, strings in double quotes.
+// Reads plain text records, the form of all data files: fields separated by a comma or a line end, strings in double
+// quotes.
 //
-// Bytes are Latin-1; CR LF, LF or CR ends a line. Files are written with CR LF.
+// Bytes are Latin-1; CR LF, LF or CR ends a line.
 #pragma once
 
 #include <string>
 #include <string_view>
+#include <utility>
 
-#include "core/atomic_file.h"
 #include "core/numbers.h"
 #include "core/read_file.h"
 
@@ -46,27 +47,6 @@ class RecordReader {
   std::size_t at_ = 0;
   int line_ = 1;       // of the field read last
   int next_line_ = 1;  // of the next character
-};
-
-/// Writes records: fields separated by a comma without blanks, strings quoted, numbers in their shortest plain form.
-class RecordWriter {
- public:
-  /// @throws RunFailure  the file can't be created
-  explicit RecordWriter(std::string path) : file_(std::move(path)) {}
-
-  RecordWriter& field(std::string_view text);
-  RecordWriter& field(Single value);
-  RecordWriter& field(Integer value);
-  RecordWriter& field(Long value);
-  void end_line();
-  /// Puts the file in its place. @throws RunFailure  it can't be written
-  void commit() { file_.commit(); }
-
- private:
-  RecordWriter& raw(std::string_view text);
-
-  AtomicFile file_;
-  bool line_begun_ = false;
 };
 
 }  // namespace zol

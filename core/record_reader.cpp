@@ -1,4 +1,4 @@
-#include "core/text_records.h"
+#include "core/record_reader.h"
 
 #include <cmath>
 
@@ -89,23 +89,6 @@ Integer RecordReader::next_integer(std::string_view field) {
     fail(std::string(field) + " is " + quoted_for_message(content) + ", it must be within -32768 to 32767");
   }
   return Integer::rounded(whole);
-}
-
-RecordWriter& RecordWriter::raw(std::string_view text) {
-  if (line_begun_) file_.write(",");
-  file_.write(text);
-  line_begun_ = true;
-  return *this;
-}
-
-RecordWriter& RecordWriter::field(std::string_view text) { return raw('"' + std::string(text) + '"'); }
-RecordWriter& RecordWriter::field(Single value) { return raw(shortest_text(value)); }
-RecordWriter& RecordWriter::field(Integer value) { return raw(plain_text(value)); }
-RecordWriter& RecordWriter::field(Long value) { return raw(plain_text(value)); }
-
-void RecordWriter::end_line() {
-  file_.write("\r\n");
-  line_begun_ = false;
 }
 
 }  // namespace zol
