@@ -46,7 +46,6 @@ namespace detail {
 template <std::signed_integral Rep>
 class CheckedInt {
  public:
-  using Representation = Rep;
   static constexpr int bits = std::numeric_limits<Rep>::digits + 1;
 
   constexpr CheckedInt() = default;
@@ -72,7 +71,6 @@ class CheckedInt {
   friend constexpr CheckedInt operator*(CheckedInt a, CheckedInt b) { return CheckedInt(a.wide() * b.wide()); }
   friend constexpr CheckedInt operator-(CheckedInt a) { return CheckedInt(-a.wide()); }
   constexpr CheckedInt& operator+=(CheckedInt b) { return *this = *this + b; }
-  constexpr CheckedInt& operator-=(CheckedInt b) { return *this = *this - b; }
 
   friend constexpr bool operator==(CheckedInt a, CheckedInt b) = default;
   friend constexpr auto operator<=>(CheckedInt a, CheckedInt b) = default;  // NOLINT(modernize-use-nullptr)

@@ -35,7 +35,6 @@ class RecordReader {
 
   /// Line of the field read last, from 1.
   [[nodiscard]] int line() const { return line_; }
-  [[nodiscard]] const std::string& path() const { return path_; }
   /// Ends the run with "PATH, line N: " and the text.
   [[noreturn]] void fail(const std::string& what) const;
 

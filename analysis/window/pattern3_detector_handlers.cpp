@@ -54,13 +54,6 @@ void change_working_distance(Workbench& bench, Pattern3Form& form) {
   y_shift_from_mm(form, camera);
 }
 
-/// @returns true when the key was Enter, which is swallowed
-bool is_enter(int& key) {
-  if (key != key_enter) return false;
-  key = 0;
-  return true;
-}
-
 void show_calibration(Pattern3Form& form, bool shown) {
   form.Frame1.set_visible(shown);
   for (int i = 0; i < form.Command10.count(); ++i) form.Command10(i).set_visible(shown);
@@ -89,7 +82,7 @@ void Text15_Change(Workbench& bench, Pattern3Form& form) {
 }
 
 void Text12_KeyPress(Workbench& bench, Pattern3Form& form, int& key) {
-  if (!is_enter(key)) return;
+  if (!swallow_enter(key)) return;
   const Module1State& camera = main1_state(bench);
   acquisition_from_mm(form, camera);
   x_shift_from_mm(form, camera);
@@ -97,11 +90,11 @@ void Text12_KeyPress(Workbench& bench, Pattern3Form& form, int& key) {
 }
 
 void Text13_KeyPress(Workbench& bench, Pattern3Form& form, int& key) {
-  if (is_enter(key)) x_shift_from_mm(form, main1_state(bench));
+  if (swallow_enter(key)) x_shift_from_mm(form, main1_state(bench));
 }
 
 void Text16_KeyPress(Workbench& bench, Pattern3Form& form, int& key) {
-  if (is_enter(key)) y_shift_from_mm(form, main1_state(bench));
+  if (swallow_enter(key)) y_shift_from_mm(form, main1_state(bench));
 }
 
 void Text4_Change(Workbench& bench, Pattern3Form& form) { change_working_distance(bench, form); }

@@ -199,7 +199,7 @@ void Command4_Click(Workbench& bench, Pattern2Form& form) {
 // The window of the spot pattern is printed, as it always was.
 void Command5_Click(Workbench& bench, Pattern2Form& form) {
   form.CommonDialog1.printer_setup();
-  if (bench.windows.knows("Pattern")) bench.services.print_window(bench.windows.use("Pattern"));
+  bench.services.print_window(bench.windows.use("Pattern"));
 }
 
 void Command6_Click(Workbench& bench, Pattern2Form& form) { turn(bench, form, -1, 1); }

@@ -30,7 +30,7 @@ void show_cell(Main1Form& form) {
 /// The title of the file goes to the windows that draw from the crystal.
 void show_title(Workbench& bench, const std::string& title) {
   for (const auto* name : {"Pattern2", "Xd", "Zaxis", "Dring", "FiberTexture", "Pattern"}) {
-    if (bench.windows.knows(name)) bench.windows.use(name).set_caption(title);
+    bench.windows.use(name).set_caption(title);
   }
   auto& pattern2 = bench.windows.use<Pattern2Form>();
   pattern2.Label18.set_caption(title);

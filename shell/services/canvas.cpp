@@ -138,18 +138,6 @@ Colour Canvas::point(double x, double y) {
 
 void Canvas::print(std::string_view text) { add({DrawnText{x_, y_, fore_colour_, std::string(text), font_size_}}); }
 
-void Canvas::print_number(Single value) { print(Str(value) + ' '); }
-
-double Canvas::scale_x(double length) const {
-  if (scale_.left == scale_.right) throw RunFailure(no_area(*this, scale_));
-  return length * pixel_width() / std::abs(scale_.right - scale_.left);
-}
-
-double Canvas::scale_y(double length) const {
-  if (scale_.top == scale_.bottom) throw RunFailure(no_area(*this, scale_));
-  return length * pixel_height() / std::abs(scale_.bottom - scale_.top);
-}
-
 void Canvas::set_back_colour(Colour colour) {
   back_colour_ = colour;
   if (stored_ && !raster_base_) repaint_stored();

@@ -105,10 +105,6 @@ class Canvas : public Control {
   /// Colour of the pixel, -1 outside the picture. @throws RunFailure  there are no pixels here
   [[nodiscard]] Colour point(double x, double y);
   void print(std::string_view text);  ///< at the drawing position, which stays
-  void print_number(Single value);    ///< its Str and a blank
-  /// Pixels of a length in user units. @throws RunFailure  the scale has no width, no height
-  [[nodiscard]] double scale_x(double length) const;
-  [[nodiscard]] double scale_y(double length) const;
 
   [[nodiscard]] Colour fore_colour() const { return fore_colour_; }
   [[nodiscard]] Colour back_colour() const { return back_colour_; }

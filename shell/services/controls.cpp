@@ -168,26 +168,6 @@ std::size_t Grid::cell(int row, int column) const {
   return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) + static_cast<std::size_t>(column);
 }
 
-void Grid::set_rows(int rows) {
-  rows_ = rows;
-  cells_.resize(static_cast<std::size_t>(rows_) * static_cast<std::size_t>(columns_));
-  changed();
-}
-
-void Grid::set_columns(int columns) {
-  std::vector<std::string> cells(static_cast<std::size_t>(rows_) * static_cast<std::size_t>(columns));
-  for (int row = 0; row < rows_; ++row) {
-    for (int column = 0; column < std::min(columns, columns_); ++column) {
-      cells[static_cast<std::size_t>(row) * static_cast<std::size_t>(columns) + static_cast<std::size_t>(column)] =
-          text(row, column);
-    }
-  }
-  columns_ = columns;
-  cells_ = std::move(cells);
-  widths_.resize(static_cast<std::size_t>(columns), 1000);
-  changed();
-}
-
 void Grid::set_row(int row) {
   (void)cell(row, 0);
   row_ = row;

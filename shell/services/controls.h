@@ -299,8 +299,6 @@ class Grid : public Control {
   Grid(Window& window, std::string name, int rows, int columns);
   [[nodiscard]] int rows() const { return rows_; }
   [[nodiscard]] int columns() const { return columns_; }
-  void set_rows(int rows);
-  void set_columns(int columns);
   [[nodiscard]] int row() const { return row_; }
   [[nodiscard]] int column() const { return column_; }
   /// @throws RunFailure  a row or column beyond the table
@@ -333,11 +331,9 @@ class Grid : public Control {
 template <class Kind>
 class ControlArray {
  public:
-  ControlArray(Window& window, const std::string& name, int count, const std::vector<std::string>& captions = {}) {
+  ControlArray(Window& window, const std::string& name, int count) {
     for (int i = 0; i < count; ++i) {
-      const auto place = static_cast<std::size_t>(i);
-      members_.push_back(std::make_unique<Kind>(window, name + "(" + std::to_string(i) + ")",
-                                                place < captions.size() ? captions[place] : std::string()));
+      members_.push_back(std::make_unique<Kind>(window, name + "(" + std::to_string(i) + ")"));
     }
   }
   [[nodiscard]] Kind& operator()(int index) const { return *members_.at(static_cast<std::size_t>(index)); }

@@ -116,8 +116,7 @@ class FileDialog {
   /// Runs an action in which the first question is answered in advance, as a file dropped on the window does.
   void answering(std::string path, const std::function<void()>& action);
 
-  [[nodiscard]] const std::string& file_name() const { return file_name_; }  ///< full path of the last answer
-  [[nodiscard]] std::string file_title() const;                              ///< the name without folder
+  [[nodiscard]] std::string file_title() const;  ///< the last answer without its folder
 
  private:
   const std::string& ask(FileKind kind, bool save, const NameEnding& ending);

@@ -14,10 +14,7 @@ struct Workbench {
   Services& services;
   const DataRoot& data;
 
-  /// Shows a window of that name if the program has one.
-  void show_window(const std::string& name) const {
-    if (windows.knows(name)) windows.use(name).show();
-  }
+  void show_window(const std::string& name) const { windows.use(name).show(); }
 };
 
 /// Shows the progress of a calculation in a bar.
