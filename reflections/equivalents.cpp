@@ -7,27 +7,48 @@
 namespace zol {
 namespace {
 
-// Equivalent indices as the tables of point groups write them, i = h + k (with the sign of -i as in hkil).
-// "+-h" stands for both signs of h, so that one row of three such gives eight triples.
+/// One place of a row: which of h, k, l, i, and its sign; 0 stands for both signs.
+struct Term {
+  char index = 'h';
+  int sign = 1;
+};
 
-constexpr std::string_view rows_t[] = {"h k l", "-h -k -l"};
-constexpr std::string_view rows_m[] = {"h k l", "-h -k -l", "h -k l", "-h k -l"};
-constexpr std::string_view rows_o[] = {"+-h +-k +-l"};
-constexpr std::string_view rows_q[] = {"h k l",    "-h -k l", "-k h l",  "k -h l",
-                                       "-h -k -l", "h k -l",  "k -h -l", "-k h -l"};
-constexpr std::string_view rows_r[] = {"+-h +-k +-l", "+-k +-h +-l"};
-constexpr std::string_view rows_s[] = {"h k l", "-h -k -l", "k -i l", "-k i -l", "-i h l", "i -h -l"};
-constexpr std::string_view rows_u[] = {"h k l",  "-h -k -l", "k -i l",  "-k i -l", "-i h l",  "i -h -l",
-                                       "k h -l", "-k -h l",  "-i k -l", "i -k l",  "h -i -l", "-h i l"};
-constexpr std::string_view rows_w[] = {"h k l",  "-h -k -l", "k -i l",  "-k i -l", "-i h l",  "i -h -l",
-                                       "h k -l", "-h -k l",  "k -i -l", "-k i l",  "-i h -l", "i -h l"};
-constexpr std::string_view rows_x[] = {"h k l",  "-h -k -l", "k -i l",  "-k i -l", "-i h l",  "i -h -l",
-                                       "h k -l", "-h -k l",  "k -i -l", "-k i l",  "-i h -l", "i -h l",
-                                       "k h l",  "-k -h -l", "-i k l",  "i -k -l", "h -i l",  "-h i -l",
-                                       "k h -l", "-k -h l",  "-i k -l", "i -k l",  "h -i -l", "-h i l"};
-constexpr std::string_view rows_y[] = {"+-h +-k +-l", "+-k +-l +-h", "+-l +-h +-k"};
-constexpr std::string_view rows_z[] = {"+-h +-k +-l", "+-k +-l +-h", "+-l +-h +-k",
-                                       "+-l +-k +-h", "+-h +-l +-k", "+-k +-h +-l"};
+/// Equivalent indices as the tables of point groups write them, i = h + k (with the sign of -i as in hkil). "+-h"
+/// stands for both signs of h, so that one row of three such gives eight triples.
+struct Row {
+  // NOLINTNEXTLINE(google-explicit-constructor,hicpp-explicit-conversions): the tables are lists of texts
+  consteval Row(const char* text) {
+    std::size_t place = 0;
+    for (; *text != '\0'; ++text) {
+      if (*text == ' ') {
+        ++place;
+      } else if (*text == '-') {
+        terms.at(place).sign = terms.at(place).sign == 0 ? 0 : -1;  // the second half of "+-"
+      } else if (*text == '+') {
+        terms.at(place).sign = 0;
+      } else {
+        terms.at(place).index = *text;
+      }
+    }
+  }
+  std::array<Term, 3> terms;
+};
+
+constexpr Row rows_t[] = {"h k l", "-h -k -l"};
+constexpr Row rows_m[] = {"h k l", "-h -k -l", "h -k l", "-h k -l"};
+constexpr Row rows_o[] = {"+-h +-k +-l"};
+constexpr Row rows_q[] = {"h k l", "-h -k l", "-k h l", "k -h l", "-h -k -l", "h k -l", "k -h -l", "-k h -l"};
+constexpr Row rows_r[] = {"+-h +-k +-l", "+-k +-h +-l"};
+constexpr Row rows_s[] = {"h k l", "-h -k -l", "k -i l", "-k i -l", "-i h l", "i -h -l"};
+constexpr Row rows_u[] = {"h k l",  "-h -k -l", "k -i l",  "-k i -l", "-i h l",  "i -h -l",
+                          "k h -l", "-k -h l",  "-i k -l", "i -k l",  "h -i -l", "-h i l"};
+constexpr Row rows_w[] = {"h k l",  "-h -k -l", "k -i l",  "-k i -l", "-i h l",  "i -h -l",
+                          "h k -l", "-h -k l",  "k -i -l", "-k i l",  "-i h -l", "i -h l"};
+constexpr Row rows_x[] = {"h k l",   "-h -k -l", "k -i l",  "-k i -l", "-i h l",  "i -h -l",  "h k -l",  "-h -k l",
+                          "k -i -l", "-k i l",   "-i h -l", "i -h l",  "k h l",   "-k -h -l", "-i k l",  "i -k -l",
+                          "h -i l",  "-h i -l",  "k h -l",  "-k -h l", "-i k -l", "i -k l",   "h -i -l", "-h i l"};
+constexpr Row rows_y[] = {"+-h +-k +-l", "+-k +-l +-h", "+-l +-h +-k"};
+constexpr Row rows_z[] = {"+-h +-k +-l", "+-k +-l +-h", "+-l +-h +-k", "+-l +-k +-h", "+-h +-l +-k", "+-k +-h +-l"};
 
 /// A factor that a row of observed indices earns.
 struct Weight {
@@ -61,7 +82,7 @@ constexpr Weight weights_cubic_high[] = {{h_zero, 2},   {k_zero, 2},   {l_zero, 
 struct LaueClass {
   int last;
   std::span<const Weight> weights;
-  std::span<const std::string_view> equivalents;
+  std::span<const Row> equivalents;
 };
 
 constexpr LaueClass laue_classes[] = {
@@ -86,29 +107,6 @@ const LaueClass* find_class(Integer space_group_number) {
   return nullptr;
 }
 
-/// One place of a row: which of h, k, l, i, and its sign; 0 stands for both signs.
-struct Term {
-  char index = 'h';
-  int sign = 1;
-};
-
-std::array<Term, 3> parse_row(std::string_view row) {
-  std::array<Term, 3> terms;
-  std::size_t place = 0;
-  for (const char c : row) {
-    if (c == ' ') {
-      ++place;
-    } else if (c == '-') {
-      terms.at(place).sign = terms.at(place).sign == 0 ? 0 : -1;  // the second half of "+-"
-    } else if (c == '+') {
-      terms.at(place).sign = 0;
-    } else {
-      terms.at(place).index = c;
-    }
-  }
-  return terms;
-}
-
 Single term_value(const Term& term, const IndexTriple& hkl) {
   switch (term.index) {
     case 'h':
@@ -122,8 +120,8 @@ Single term_value(const Term& term, const IndexTriple& hkl) {
   }
 }
 
-void add_row(std::string_view row, const IndexTriple& hkl, std::vector<IndexTriple>& triples) {
-  const auto terms = parse_row(row);
+void add_row(const Row& row, const IndexTriple& hkl, std::vector<IndexTriple>& triples) {
+  const auto& terms = row.terms;
   const auto signs = [](const Term& term) {
     return term.sign == 0 ? std::vector<Single>{1, -1} : std::vector<Single>{static_cast<Single>(term.sign)};
   };
@@ -146,7 +144,7 @@ bool is_index(Single x) { return x == std::trunc(x) && std::abs(x) <= 32768; }
 std::vector<IndexTriple> equivalent_indices(Integer space_group_number, const IndexTriple& hkl) {
   std::vector<IndexTriple> triples;
   if (const LaueClass* laue = find_class(space_group_number)) {
-    for (const auto row : laue->equivalents) add_row(row, hkl, triples);
+    for (const auto& row : laue->equivalents) add_row(row, hkl, triples);
   }
   return triples;
 }
