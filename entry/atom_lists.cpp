@@ -1,14 +1,13 @@
 #include "entry/atom_lists.h"
 
-#include "core/run_failure.h"
 #include "core/read_file.h"
+#include "core/run_failure.h"
 #include "entry/word_lines.h"
 
 namespace zol {
 namespace {
 
 constexpr std::size_t most_lines = 200;
-constexpr std::size_t most_words = 100;
 
 /// Words of each line of a file.
 std::vector<std::vector<std::string>> word_lines(const std::string& path, bool skip_empty) {
@@ -16,13 +15,11 @@ std::vector<std::vector<std::string>> word_lines(const std::string& path, bool s
   int number = 0;
   for (const auto& line : split_lines(read_file(path))) {
     ++number;
-    auto words = cut_words(line);
+    auto words = cut_words(line, path, number);
     if (words.empty() && skip_empty) continue;
-    const std::string where = path + ", line " + std::to_string(number) + ": ";
-    if (words.size() > most_words) {
-      throw RunFailure(where + std::to_string(words.size()) + " words, at most 100 are read");
+    if (table.size() == most_lines) {
+      throw RunFailure(path + ", line " + std::to_string(number) + ": the table holds 200 lines of atoms at most");
     }
-    if (table.size() == most_lines) throw RunFailure(where + "the table holds 200 lines of atoms at most");
     table.push_back(std::move(words));
   }
   return table;

@@ -22,18 +22,18 @@ constexpr std::array cell_tags{
 
 }  // namespace
 
-std::vector<BoxText> CifReader::take(std::string_view line) {
+LineContents CifReader::take(std::string_view line) {
   words_.take(line);
-  std::vector<BoxText> texts;
+  LineContents found;
   for (const auto& [tag, box] : cell_tags) {
     if (words_(1) != tag) continue;
     if (box != BoxText::Box::space_group_number) words_.strip(2);
-    texts.push_back({box, words_(2)});
+    found.texts.push_back({box, words_(2)});
   }
   follow_loop();
   const bool atom_row = in_atom_loop_ && words_(1).find("atom") == std::string::npos;
-  if (atom_row) take_atom();
-  return texts;
+  if (atom_row) found.site = take_atom();
+  return found;
 }
 
 /// Switches the atom loop on and off, counts its lines and notes the columns of its tags.
@@ -55,52 +55,44 @@ void CifReader::follow_loop() {
   }
 }
 
-void CifReader::take_atom() {
-  atoms_ += 1;
-  const int n = atoms_.value();
+AtomSite CifReader::take_atom() {
   for (int i = 1; i <= words_.count(); ++i) words_.strip(i);
   words_.cut_before_digits(element_.value());  // in its place: a column of the same number reads what is left
-  state_.AtomLabel(n) = words_(label_.value());
-  state_.AtomElement(n) = words_(element_.value());
-  state_.AtomOcc(n) = occupancy_ == 0 ? 1.0F : words_.number(occupancy_.value(), "an occupancy");
-  state_.AtomPos(n, 1) = words_.number(x_.value(), "a coordinate x");
-  state_.AtomPos(n, 2) = words_.number(y_.value(), "a coordinate y");
-  state_.AtomPos(n, 3) = words_.number(z_.value(), "a coordinate z");
-  // Without a column the value of the crystal before stays.
-  if (b_iso_ >= 1) state_.AtomB(n) = words_.number(b_iso_.value(), "a temperature factor B");
+  AtomSite site{words_(label_.value()), words_(element_.value())};
+  if (occupancy_ != 0) site.occupancy = words_.number(occupancy_.value(), "an occupancy");
+  site.position = {words_.number(x_.value(), "a coordinate x"), words_.number(y_.value(), "a coordinate y"),
+                   words_.number(z_.value(), "a coordinate z")};
+  if (b_iso_ >= 1) site.b = words_.number(b_iso_.value(), "a temperature factor B");
+  return site;
 }
 
-std::vector<BoxText> IcsdReader::take(std::string_view line) {
+LineContents IcsdReader::take(std::string_view line) {
   using enum BoxText::Box;
   words_.take(line);
-  std::vector<BoxText> texts;
+  LineContents found;
   const std::string& word = words_(1);
   if (word == "Unit" && words_(2) == "Cell") {
     int place = 3;
     for (const auto box : {a, b, c, alpha, beta, gamma}) {
       words_.strip(place);
-      texts.push_back({box, words_(place++)});
+      found.texts.push_back({box, words_(place++)});
     }
   }
-  if (word == "SG") texts.push_back({space_group_number, words_(3)});
+  if (word == "SG") found.texts.push_back({space_group_number, words_(3)});
   if (word == "Atom") block_ = words_(10) == "ITF(B)" ? AtomBlock::WithB : AtomBlock::WithoutB;
   if (word == "*end" || word == "Lbl") block_ = AtomBlock::Outside;
-  if (word != "Atom" && block_ != AtomBlock::Outside) take_atom();
-  return texts;
+  if (word != "Atom" && block_ != AtomBlock::Outside) found.site = take_atom();
+  return found;
 }
 
 /// Words of a row: element, number of the site, three that are not read, x, y, z, occupancy, one not read, B.
-void IcsdReader::take_atom() {
-  atoms_ += 1;
-  const int n = atoms_.value();
+AtomSite IcsdReader::take_atom() {
   for (int i = 6; i <= 11; ++i) words_.strip(i);
-  state_.AtomLabel(n) = words_(1) + words_(2);
-  state_.AtomElement(n) = words_(1);
-  state_.AtomOcc(n) = words_.number(9, "an occupancy");
-  state_.AtomPos(n, 1) = words_.number(6, "a coordinate x");
-  state_.AtomPos(n, 2) = words_.number(7, "a coordinate y");
-  state_.AtomPos(n, 3) = words_.number(8, "a coordinate z");
-  if (block_ == AtomBlock::WithB) state_.AtomB(n) = words_.number(11, "a temperature factor B");
+  AtomSite site{words_(1) + words_(2), words_(1), words_.number(9, "an occupancy")};
+  site.position = {words_.number(6, "a coordinate x"), words_.number(7, "a coordinate y"),
+                   words_.number(8, "a coordinate z")};
+  if (block_ == AtomBlock::WithB) site.b = words_.number(11, "a temperature factor B");
+  return site;
 }
 
 }  // namespace zol

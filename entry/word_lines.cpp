@@ -7,7 +7,7 @@
 
 namespace zol {
 
-std::vector<std::string> cut_words(std::string_view line) {
+std::vector<std::string> cut_words(std::string_view line, const std::string& path, int number) {
   std::vector<std::string> words;
   std::string token;
   for (const char c : line) {
@@ -18,6 +18,10 @@ std::vector<std::string> cut_words(std::string_view line) {
     }
   }
   if (!token.empty()) words.push_back(token);
+  if (words.size() > most_words) {
+    throw RunFailure(path + ", line " + std::to_string(number) + ": " + std::to_string(words.size()) +
+                     " words, at most " + std::to_string(most_words) + " are read");
+  }
   return words;
 }
 
@@ -37,11 +41,7 @@ std::string without_uncertainty(std::string_view word) { return std::string(word
 
 void WordTable::take(std::string_view line) {
   ++line_;
-  const auto words = cut_words(line);
-  if (static_cast<int>(words.size()) > words_.upper()) {
-    throw RunFailure(path_ + ", line " + std::to_string(line_) + ": " + std::to_string(words.size()) +
-                     " words, at most " + std::to_string(words_.upper()) + " are read");
-  }
+  const auto words = cut_words(line, path_, line_);
   count_ = static_cast<int>(words.size());
   for (int i = 1; i <= count_; ++i) words_(i) = words[static_cast<std::size_t>(i - 1)];
 }

@@ -11,8 +11,12 @@
 
 namespace zol {
 
+inline constexpr int most_words = 100;  ///< in a line
+
 /// Words of a line: only the blank separates; a tab, a comma or a quote belongs to the word.
-[[nodiscard]] std::vector<std::string> cut_words(std::string_view line);
+/// @param path, number  the line, for the message
+/// @throws RunFailure   it has more than 100 words
+[[nodiscard]] std::vector<std::string> cut_words(std::string_view line, const std::string& path, int number);
 
 /// Lines of a text; CR LF, LF or CR ends one, and an end at the end of the text makes no further line.
 [[nodiscard]] std::vector<std::string> split_lines(std::string_view text);
@@ -46,7 +50,7 @@ class WordTable {
 
  private:
   std::string path_;
-  BoundedArray<String> words_{"words", 100};
+  BoundedArray<String> words_{"words", most_words};
   int count_ = 0;
   int line_ = 0;
 };

@@ -119,8 +119,11 @@ void scatter_table(const std::string& input) {
 template <class Reader>
 void structure_file(const std::string& input) {
   Module1State state;
-  Reader reader("input", state);
-  for (const auto& line : split_lines(input)) (void)reader.take(line);
+  Reader reader("input");
+  Integer atoms;
+  for (const auto& line : split_lines(input)) {
+    if (const auto found = reader.take(line); found.site) store_site(state, (atoms += 1).value(), *found.site);
+  }
 }
 
 void atom_lists(const std::string& input) {

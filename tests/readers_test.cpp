@@ -11,8 +11,8 @@ using Box = BoxText::Box;
 using Words = std::vector<std::string>;
 
 TEST(Words, AreCutAtBlanksAlone) {
-  EXPECT_EQ(cut_words("  a\tb,c 'd e' "), (Words{"a\tb,c", "'d", "e'"}));
-  EXPECT_EQ(cut_words("   "), Words{});
+  EXPECT_EQ(cut_words("  a\tb,c 'd e' ", "x", 1), (Words{"a\tb,c", "'d", "e'"}));
+  EXPECT_EQ(cut_words("   ", "x", 1), Words{});
   EXPECT_EQ(split_lines("a\r\nb\rc\n\rd\n\n"), (Words{"a", "b", "c", "", "d", ""}));
   EXPECT_EQ(without_uncertainty("5.4310(2)"), "5.4310");
   EXPECT_EQ(without_uncertainty("(x)"), "");
@@ -36,11 +36,12 @@ template <class Reader>
 Scan scan(const std::string& text) {
   Scan result;
   result.state.AtomB(1) = 7;
-  Reader reader("my.cif", result.state);
+  Reader reader("my.cif");
   for (const auto& line : split_lines(text)) {
-    for (const auto& entry : reader.take(line)) result.texts.push_back(entry);
+    const auto found = reader.take(line);
+    if (found.site) store_site(result.state, (result.atoms += 1).value(), *found.site);
+    for (const auto& entry : found.texts) result.texts.push_back(entry);
   }
-  result.atoms = reader.atoms();
   return result;
 }
 

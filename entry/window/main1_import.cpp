@@ -21,11 +21,14 @@ void import(Workbench& bench, Main1Form& form, FileKind kind, const char* filter
   const std::string path = form.CommonDialog1.open(kind);
   if (path.empty()) return;
   CrystalState& state = form.state;
-  Reader reader(path, state);
+  Reader reader(path);
+  Integer atoms;
   for (const auto& line : split_lines(read_file(path))) {
-    for (const auto& entry : reader.take(line)) write_box(form, entry);
+    const auto found = reader.take(line);
+    if (found.site) store_site(state, (atoms += 1).value(), *found.site);
+    for (const auto& entry : found.texts) write_box(form, entry);
   }
-  state.NAtom = reader.atoms();
+  state.NAtom = atoms;
   form.Label19.set_caption(Str(state.NAtom));
   AtomCcalc(bench);
 }
