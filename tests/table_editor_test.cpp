@@ -3,6 +3,7 @@
 
 #include "entry/window/input_atom_form.h"
 #include "entry/window/input_jcpds_form.h"
+#include "entry/window/table_editor.h"
 #include "reflections/window/main1_form.h"
 #include "shell/program/program.h"
 #include "tests/fake_services.h"
