@@ -23,14 +23,8 @@ std::string name_field(std::string_view name, std::string_view pattern, std::siz
   return text.size() > width ? text.substr(text.size() - width) : text;
 }
 
-}  // namespace
-
-DistanceCell distance_cell(const Main1State& state) {
-  return {state.CellA, state.CellB, state.CellC, state.CosAlpha, state.CosBeta, state.CosGamma};
-}
-
-std::vector<AtomDistance> distances_from(const Module1State& crystal, const DistanceCell& cell, int site,
-                                         Single limit) {
+std::vector<AtomDistance> distances_from(const Module1State& crystal, const DistanceCell& cell, int site, Single limit,
+                                         Task& task) {
   const double x = crystal.AtomPos(site, 1);
   const double y = crystal.AtomPos(site, 2);
   const double z = crystal.AtomPos(site, 3);
@@ -38,6 +32,7 @@ std::vector<AtomDistance> distances_from(const Module1State& crystal, const Dist
   for (int p = -1; p <= 1; ++p) {
     for (int q = -1; q <= 1; ++q) {
       for (int r = -1; r <= 1; ++r) {
+        task.check();
         for (int j = 1; j <= crystal.NCell.value(); ++j) {
           const Single dx = to_single(p + double{crystal.UCPos(j, 1)} - x);
           const Single dy = to_single(q + double{crystal.UCPos(j, 2)} - y);
@@ -49,6 +44,23 @@ std::vector<AtomDistance> distances_from(const Module1State& crystal, const Dist
     }
   }
   return found;
+}
+
+}  // namespace
+
+DistanceCell distance_cell(const Main1State& state) {
+  return {state.CellA, state.CellB, state.CellC, state.CosAlpha, state.CosBeta, state.CosGamma};
+}
+
+std::vector<std::vector<AtomDistance>> atom_distances(const Module1State& crystal, const DistanceCell& cell,
+                                                      Single limit, Task& task) {
+  std::vector<std::vector<AtomDistance>> of_sites;
+  const int sites = crystal.NAtom.value();
+  for (int site = 1; site <= sites; ++site) {
+    of_sites.push_back(distances_from(crystal, cell, site, limit, task));
+    task.report(site, sites);
+  }
+  return of_sites;
 }
 
 std::string distance_line(const Module1State& crystal, int site, const AtomDistance& distance) {

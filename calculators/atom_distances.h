@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "core/crystal_state.h"
+#include "core/task.h"
 
 namespace zol {
 
@@ -20,10 +21,12 @@ struct AtomDistance {
   Single distance = 0;  ///< above 0.01
 };
 
-/// All distances of a site up to the limit, in the order of the cells (along a slowest) and of the atoms in them.
+/// For each site of the crystal all distances up to the limit, in the order of the cells (along a slowest) and of the
+/// atoms in them. Reports the sites.
 /// @throws RunFailure  an index beyond the arrays of the crystal, or the metric gives a negative square
-[[nodiscard]] std::vector<AtomDistance> distances_from(const Module1State& crystal, const DistanceCell& cell, int site,
-                                                       Single limit);
+/// @throws Cancelled   by the task
+[[nodiscard]] std::vector<std::vector<AtomDistance>> atom_distances(const Module1State& crystal,
+                                                                    const DistanceCell& cell, Single limit, Task& task);
 
 /// Labels and elements of both atoms, right-aligned, and the distance.
 [[nodiscard]] std::string distance_line(const Module1State& crystal, int site, const AtomDistance& distance);

@@ -76,23 +76,30 @@ class Pass {
 };
 
 /// The first two passes take polar angles inside azimuths, which decides between equal trials.
-DirectionTrial coarse_pass(const PhotographPair& wanted) {
+DirectionTrial coarse_pass(const PhotographPair& wanted, Task& task) {
   Pass pass(wanted);
-  trials(0, 350, 10, [&](Single a) { trials(0, 90, 10, [&](Single p) { pass.try_direction(a, p); }); });
+  trials(0, 350, 10, [&](Single a) {
+    task.check();
+    trials(0, 90, 10, [&](Single p) { pass.try_direction(a, p); });
+  });
   return pass.best();
 }
 
-DirectionTrial degree_pass(const PhotographPair& wanted, double azimuth, double polar) {
+DirectionTrial degree_pass(const PhotographPair& wanted, double azimuth, double polar, Task& task) {
   Pass pass(wanted);
-  trials(azimuth - 10, azimuth + 10, 1,
-         [&](Single a) { trials(polar - 10, polar + 10, 1, [&](Single p) { pass.try_direction(a, p); }); });
+  trials(azimuth - 10, azimuth + 10, 1, [&](Single a) {
+    task.check();
+    trials(polar - 10, polar + 10, 1, [&](Single p) { pass.try_direction(a, p); });
+  });
   return pass.best();
 }
 
 /// The last two take azimuths inside polar angles.
-DirectionTrial fine_pass(const PhotographPair& wanted, double azimuth, double polar, double reach, double step) {
+DirectionTrial fine_pass(const PhotographPair& wanted, double azimuth, double polar, double reach, double step,
+                         Task& task) {
   Pass pass(wanted);
   trials(polar - reach, polar + reach, step, [&](Single p) {
+    task.check();
     trials(azimuth - reach, azimuth + reach, step, [&](Single a) { pass.try_direction(a, p); });
   });
   return pass.best();
@@ -112,16 +119,21 @@ Single folded_azimuth(Single azimuth_deg) {
   return to_single(std::atan(std::tan(double{azimuth_deg} * search_degree)) / search_degree);
 }
 
-DirectionSearch search_direction(const PhotographPair& photographs) {
+DirectionSearch search_direction(const PhotographPair& photographs, Task& task) {
+  constexpr int all_passes = 4;
   DirectionSearch search;
   auto& [first, second, third, fourth] = search.passes;
-  first = coarse_pass(photographs);
+  first = coarse_pass(photographs, task);
+  task.report(1, all_passes);
   first.polar = std::clamp(first.polar, 10.0F, 80.0F);
-  second = degree_pass(photographs, first.azimuth, first.polar);
+  second = degree_pass(photographs, first.azimuth, first.polar, task);
+  task.report(2, all_passes);
   second.polar = std::clamp(second.polar, 1.0F, 89.0F);
-  third = fine_pass(photographs, second.azimuth, second.polar, 1, 0.1);
+  third = fine_pass(photographs, second.azimuth, second.polar, 1, 0.1, task);
+  task.report(3, all_passes);
   second.polar = std::clamp(second.polar, 0.1F, 89.9F);
-  fourth = fine_pass(photographs, second.azimuth, second.polar, 0.1, 0.01);
+  fourth = fine_pass(photographs, second.azimuth, second.polar, 0.1, 0.01, task);
+  task.report(4, all_passes);
   return search;
 }
 

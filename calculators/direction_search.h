@@ -6,6 +6,7 @@
 #include <array>
 
 #include "core/numbers.h"
+#include "core/task.h"
 
 namespace zol::utility {
 
@@ -36,8 +37,11 @@ struct DirectionSearch {
   [[nodiscard]] const DirectionTrial& answer() const { return passes[3]; }
 };
 
-/// Searches the half sphere in steps of 10, 1, 0.1 and 0.01 degrees; the first of equal trials wins.
-[[nodiscard]] DirectionSearch search_direction(const PhotographPair& photographs);
+/// Searches the half sphere in steps of 10, 1, 0.1 and 0.01 degrees; the first of equal trials wins. Reports the
+/// passes.
+/// @throws RunFailure  the steps of a pass lead nowhere
+/// @throws Cancelled   by the task
+[[nodiscard]] DirectionSearch search_direction(const PhotographPair& photographs, Task& task);
 
 /// Lengths of one line in two photographs, in any unit.
 struct LengthPair {
@@ -52,7 +56,7 @@ struct PlaneDirection {
 };
 
 /// The angle whose cosines against the two rotations have the ratio of the lengths, in steps of 0.1.
-/// @throws RunFailure  Length1 is 0, or a cosine is
+/// @throws RunFailure  Length1 is 0, or the cosine against the first rotation is
 [[nodiscard]] PlaneDirection direction_from_lengths(const LengthPair& lengths);
 
 }  // namespace zol::utility

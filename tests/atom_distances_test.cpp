@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/crystals.h"
+#include "tests/recorded_task.h"
 
 namespace zol {
 namespace {
@@ -20,7 +21,11 @@ std::vector<AtomDistance> distances(const CellNumbers& cell, const Position& sit
     state.AtomPos(1, i + 1) = site[axis];
     for (std::size_t j = 0; j < atoms.size(); ++j) state.UCPos(static_cast<int>(j) + 1, i + 1) = atoms[j][axis];
   }
-  return distances_from(state, distance_cell(state), 1, limit);
+  RecordedTask task;
+  const auto found = atom_distances(state, distance_cell(state), limit, task);
+  EXPECT_EQ(task.steps.back(), std::pair(1, 1));
+  EXPECT_EQ(task.checks, 27) << "one for each cell";
+  return found.front();
 }
 
 TEST(AtomDistances, StandInTheOrderOfTheCells) {

@@ -6,6 +6,7 @@
 #include <numbers>
 
 #include "core/number_text.h"
+#include "tests/recorded_task.h"
 
 namespace zol::utility {
 namespace {
@@ -26,6 +27,14 @@ PhotographPair photographs(double azimuth, double polar, double rotation_1, doub
           to_single(rotation_2)};
 }
 
+DirectionSearch search(const PhotographPair& wanted) {
+  RecordedTask task;
+  const auto found = search_direction(wanted, task);
+  EXPECT_EQ(task.steps.back(), std::pair(4, 4));
+  EXPECT_GT(task.checks, 36 + 20 + 20 + 19) << "one for each row of trials";
+  return found;
+}
+
 TEST(DirectionSearch, FindsAProjectedDirectionAgain) {
   struct Row {
     double azimuth, polar, rotation_1, rotation_2;
@@ -34,7 +43,7 @@ TEST(DirectionSearch, FindsAProjectedDirectionAgain) {
                           Row{75, 20, -40, -10}, Row{145, 84, -30, 30}}) {
     SCOPED_TRACE(row.azimuth);
     const auto wanted = photographs(row.azimuth, row.polar, row.rotation_1, row.rotation_2);
-    const auto found = search_direction(wanted).answer();
+    const auto found = search(wanted).answer();
     EXPECT_NEAR(found.azimuth, row.azimuth, 0.015) << "the finest step is 0.01";
     EXPECT_NEAR(found.polar, row.polar, 0.015);
     EXPECT_NEAR(found.phi_1, wanted.Phi1, 0.02);
@@ -44,32 +53,32 @@ TEST(DirectionSearch, FindsAProjectedDirectionAgain) {
 
 TEST(DirectionPasses, FourthIsCentredOnTheSecond) {
   // Half way between the steps of the second pass: the third comes near, the fourth can move by 0.1 only.
-  const auto search = search_direction(photographs(33.5, 47.4, 0, 35));
-  const auto& [first, second, third, fourth] = search.passes;
+  const auto found = search(photographs(33.5, 47.4, 0, 35));
+  const auto& [first, second, third, fourth] = found.passes;
   EXPECT_NEAR(third.azimuth, 33.5, 0.051);
   EXPECT_NEAR(third.polar, 47.4, 0.051);
   EXPECT_NEAR(fourth.azimuth, second.azimuth, 0.1001);
   EXPECT_NEAR(fourth.polar, second.polar, 0.1001);
   EXPECT_GT(std::abs(double{fourth.azimuth} - 33.5), 0.3);
-  EXPECT_EQ(search.answer(), fourth);
+  EXPECT_EQ(found.answer(), fourth);
 }
 
 TEST(DirectionPasses, FirstOfEqualTrialsWinsAndTheEdgesAreClamped) {
   // Without rotation and with both azimuths 0, any polar angle fits azimuth 0, and polar angle 0 fits any azimuth.
-  const auto& [first, second, third, fourth] = search_direction({}).passes;
+  const auto& [first, second, third, fourth] = search({}).passes;
   EXPECT_EQ(first, (DirectionTrial{0, 10, 0, 0})) << "polar angle 0, clamped to 10";
   EXPECT_EQ(second, (DirectionTrial{-10, 1, 0, 0})) << "polar angle 0 of the first azimuth, clamped to 1";
   EXPECT_NEAR(third.polar, 0, 1e-6) << "1 - 1";
   EXPECT_NEAR(fourth.azimuth, -9.91, 1e-4) << "nearest to 0; the sums of steps pass the limit of -9.9 by a last bit";
 
   // In the plane of the first photograph: 90 is clamped to 80, and the second pass reaches 90, clamped to 89.
-  const auto upper = search_direction(photographs(40, 90, 0, 30)).passes;
+  const auto upper = search(photographs(40, 90, 0, 30)).passes;
   EXPECT_EQ(upper[0].polar, 80);
   EXPECT_EQ(upper[1].azimuth, 40);
   EXPECT_EQ(upper[1].polar, 89);
   EXPECT_NEAR(upper[3].polar, 89.1, 0.011);
 
-  EXPECT_EQ(search_direction({300, 0, 300, 0}).answer(), DirectionTrial()) << "nothing comes within 100 of both";
+  EXPECT_EQ(search({300, 0, 300, 0}).answer(), DirectionTrial()) << "nothing comes within 100 of both";
 }
 
 TEST(UtilityArcCos, IsInRadiansButForItsLowerEdge) {

@@ -18,12 +18,15 @@ void Text1_KeyPress(Workbench& bench, AtomDistanceForm& form, int& key) {
 
 void Command1_Click(Workbench& bench, AtomDistanceForm& form) {
   const CrystalState& state = main1_state(bench);
-  form.cell = distance_cell(state);
+  QuietTask task;
+  const DistanceCell cell = distance_cell(state);
+  const auto of_sites = atom_distances(state, cell, form.DistanceMax, task);
+  form.cell = cell;
   form.List1.clear();
-  for (int i = 1; i <= state.NAtom.value(); ++i) {
-    for (const auto& found : distances_from(state, form.cell, i, form.DistanceMax)) {
-      form.List1.add_item(distance_line(state, i, found));
-    }
+  int site = 0;
+  for (const auto& distances : of_sites) {
+    ++site;
+    for (const auto& found : distances) form.List1.add_item(distance_line(state, site, found));
     form.List1.add_item("------------------------");
   }
 }

@@ -65,7 +65,8 @@ void Text4_KeyPress(UtilityForm& form, int& key) {
 void Command1_Click(UtilityForm& form) {
   fold(form.Text1, form.Phi1);
   fold(form.Text3, form.Phi2);
-  const auto found = search_direction({form.Phi1, form.Rotate1, form.Phi2, form.Rotate2}).answer();
+  QuietTask task;
+  const auto found = search_direction({form.Phi1, form.Rotate1, form.Phi2, form.Rotate2}, task).answer();
   form.Label5.set_caption("Phi_0=" + Format(found.azimuth, "##0.00"));
   form.Label6.set_caption("Theta_0=" + Format(90.0 - double{found.polar}, "##0.00"));
   form.Label9.set_caption("Phi-1 calc=" + Format(found.phi_1, "##0.00"));
