@@ -3,10 +3,11 @@
 #include <cmath>
 
 #include "core/cell_geometry.h"
+#include "spots/zone_geometry.h"
 
 namespace zol {
 
-Single zone_azimuth(const Main1State& cell, const PlaneIndices& plane, const Direction& direction) {
+Single zone_azimuth(const Main1State& cell, const Indices<Integer>& plane, const SingleTriple& direction) {
   const auto [h, k, l] = plane;
   const auto [u, v, w] = direction;
   const auto reference = plane_in_zone<Integer>(u, v, w);
@@ -25,9 +26,8 @@ Single zone_azimuth(const Main1State& cell, const PlaneIndices& plane, const Dir
   const Single cosine =
       to_single(divide(projected, std::cos(double{latitude} * degree), "the cosine of a plane's latitude"));
 
-  const auto single = [](Integer whole) { return to_single(whole.value()); };
-  const auto across = cross_vector(plane, reference);
-  const Single side = ProductTS(cell, u, v, w, single(across.h), single(across.k), single(across.l));
+  const auto [across_u, across_v, across_w] = as_singles(cross_vector(plane, reference));
+  const Single side = ProductTS(cell, u, v, w, across_u, across_v, across_w);
   return side <= 0 ? ArcCos(cosine) : to_single(-double{ArcCos(cosine)});
 }
 

@@ -30,7 +30,7 @@ void sort_by(CrystalState& state) {
 
 inline constexpr ListSort list_sorts[] = {
     {"length", sort_by_s, 1, 1000},
-    {"weighted_intensity", sort_by_weighted_intensity, 1, 0, true, false, true},
+    {"weighted_intensity", sort_by<order_by_weighted_intensity>, 1, 0, true, false, true},
     {"fiber_texture", sort_by<order_by_intensity>, 2, 1000000, false, false, false, 2},
     {"kikuchi_pattern", sort_by<order_for_kikuchi>, 1, 10000, false, true, false, 1}};
 
