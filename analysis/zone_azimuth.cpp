@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "core/cell_geometry.h"
+#include "core/metric_forms.h"
 #include "spots/zone_geometry.h"
 
 namespace zol {
@@ -14,12 +14,7 @@ Single zone_azimuth(const Main1State& cell, const Indices<Integer>& plane, const
   const auto& [p, q, r] = reference;
   const Single length = DHKL(cell, h, k, l);
   const Single reference_length = DHKL(cell, p, q, r);
-  const Single direction_length = DHKLT(cell, u, v, w);
-
-  const double along = h.value() * double{u} + k.value() * double{v} + l.value() * double{w};
-  const Single inclination = to_single(
-      divide(divide(along, length, "the length of a reflection"), direction_length, "the length of a direction"));
-  const Single latitude = to_single(90.0 - double{ArcCos(inclination)});
+  const Single latitude = latitude_deg(cell, plane, length, direction, "the length of a direction");
   const Single projected =
       to_single(divide(divide(Product(cell, h, k, l, p, q, r), length, "the length of a reflection"), reference_length,
                        "the length of the reference vector of a direction"));

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <optional>
 
-#include "core/cell_geometry.h"
+#include "core/metric_forms.h"
 #include "core/run_failure.h"
 #include "reflections/reflection_list.h"
 #include "spots/zone_geometry.h"
@@ -24,12 +24,8 @@ struct Inclination {
 Inclination inclination(const CrystalState& state, const Indices<Integer>& hkl) {
   Inclination result;
   result.length = DHKL(state, hkl.h, hkl.k, hkl.l);
-  const Single axis_length = DHKLT(state, state.ZoneU, state.ZoneV, state.ZoneW);
-  const double product =
-      hkl.h.value() * double{state.ZoneU} + hkl.k.value() * double{state.ZoneV} + hkl.l.value() * double{state.ZoneW};
-  const Single cosine = to_single(
-      divide(divide(product, result.length, "the length of a reflection"), axis_length, "the length of the zone axis"));
-  result.latitude_deg = to_single(90.0 - ArcCos(cosine));
+  result.latitude_deg =
+      latitude_deg(state, hkl, result.length, {state.ZoneU, state.ZoneV, state.ZoneW}, "the length of the zone axis");
   return result;
 }
 

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "core/cell_geometry.h"
+#include "core/metric_forms.h"
 
 namespace zol {
 namespace {
@@ -38,19 +38,6 @@ void clip(Long& first, Long& second, Long& third) {
 }
 
 }  // namespace
-
-SingleTriple reciprocal_metric_times(const Main1State& cell, const SingleTriple& indices) {
-  const double a = cell.AStar;
-  const double b = cell.BStar;
-  const double c = cell.CStar;
-  const double cos_alpha = cell.CosAlphaStar;
-  const double cos_beta = cell.CosBetaStar;
-  const double cos_gamma = cell.CosGammaStar;
-  const auto [h, k, l] = indices;
-  return {to_single(a * h * a + a * k * b * cos_gamma + c * l * a * cos_beta),
-          to_single(a * h * b * cos_gamma + b * k * b + b * l * c * cos_alpha),
-          to_single(c * h * a * cos_beta + b * k * c * cos_alpha + c * l * c)};
-}
 
 Orientation orientation(const Main1State& state) {
   const SingleTriple a = reciprocal_metric_times(state, as_singles({state.OriginH, state.OriginK, state.OriginL}));
@@ -99,18 +86,7 @@ Indices<Integer> zone_axis_of(const Orientation& frame, const TiltAngles& direct
 }
 
 SingleTriple normal_plane_percent(const Main1State& cell, const Indices<Integer>& direction) {
-  const double u = direction.h.value();
-  const double v = direction.k.value();
-  const double w = direction.l.value();
-  const double a = cell.CellA;
-  const double b = cell.CellB;
-  const double c = cell.CellC;
-  const double cos_alpha = cell.CosAlpha;
-  const double cos_beta = cell.CosBeta;
-  const double cos_gamma = cell.CosGamma;
-  const Single t1 = to_single(v * a * b * cos_gamma + u * a * a + w * a * c * cos_beta);
-  const Single t2 = to_single(u * b * a * cos_gamma + v * b * b + w * b * c * cos_alpha);
-  const Single t3 = to_single(u * c * a * cos_beta + v * c * b * cos_alpha + w * c * c);
+  const auto [t1, t2, t3] = direct_metric_times(cell, direction);
   const Single sum = to_single(std::abs(double{t1}) + std::abs(double{t2}) + std::abs(double{t3}));
   const auto percent = [sum](Single t) {
     return to_single(std::floor(divide(t, sum, "the sum of the indices of the normal plane") * 100));

@@ -12,9 +12,6 @@
 
 namespace zol {
 
-/// G* v: the reciprocal metric times a triple of indices. Gives the direct components of h a* + k b* + l c*.
-[[nodiscard]] SingleTriple reciprocal_metric_times(const Main1State& cell, const SingleTriple& indices);
-
 /// Unit vectors X, Y, Z of the pattern frame in components of the direct lattice.
 struct Orientation {
   SingleTriple x{}, y{}, z{};
