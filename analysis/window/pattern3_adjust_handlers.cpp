@@ -34,16 +34,17 @@ void go_to(const Pattern3Form& form, const CameraStart& start, const GridPoint& 
 
 /// Measures at every grid point. Each measurement takes the parameters from the boxes, which stand still, so that the
 /// first point stays the best one.
-GridPoint best_grid_point(Workbench& bench, Pattern3Form& form, const CameraStart& start) {
+GridPoint best_grid_point(Workbench& bench, Pattern3Form& form, const CameraStart& start, Task& task) {
   Module1State& camera = main1_state(bench);
   const int steps = form.AdjustSteps.value();
   form.BestError = 10000;
   GridPoint best;
   for (int i = -steps; i <= steps; ++i) {
-    form.ProgressBar2.set_value(to_single(steps + i));
+    task.report(steps + i, 2 * steps);
     for (int idle = -steps; idle <= steps; ++idle) {
       for (int j = -steps; j <= steps; ++j) {
         for (int k = -steps; k <= steps; ++k) {
+          task.check();
           go_to(form, start, {i, j, k}, camera);
           Command1_Click(bench, form);
           if (!(form.solutions.AngleError < form.BestError)) continue;
@@ -106,7 +107,8 @@ void Command15_Click(Workbench& bench, Pattern3Form& form) {
   const CameraStart start{camera.CamAcquisition, camera.CamXShift, camera.CamYShift};
   form.ProgressBar2.set_range(0, to_single(2 * form.AdjustSteps.value()));
   const Hourglass hourglass(form);
-  go_to(form, start, best_grid_point(bench, form, start), camera);
+  BarTask task(form.ProgressBar2);
+  go_to(form, start, best_grid_point(bench, form, start, task), camera);
   before.keep();
   form.Text3.set_text(plain_text(camera.CamAcquisition));
   form.Text14.set_text(plain_text(camera.CamXShift));

@@ -53,14 +53,27 @@ std::string band_text(int number, const KikuchiLine& line, int level) {
          right_field(Format(level, "##0"), 4);
 }
 
-/// Draws and lists the lines above the lowest grey level.
-void draw_bands(CrystalState& state, Pattern2Form& form, const GnomonicView& view,
-                const std::vector<KikuchiLine>& lines, Integer lowest_level) {
+struct ShownLine {
+  KikuchiLine line;
+  int grey_level = 0;
+};
+
+/// The lines above the lowest grey level.
+std::vector<ShownLine> shown_lines(const CrystalState& state, const Pattern2Form& form,
+                                   const std::vector<KikuchiLine>& lines, Integer lowest_level) {
   const GreyScale scale{form.Option2.on(), exponent_in(form.Text10)};
-  int count = 0;
+  std::vector<ShownLine> shown;
   for (const auto& line : lines) {
     const int level = grey_level(state, line.intensity, scale);
-    if (level <= lowest_level.value()) continue;
+    if (level > lowest_level.value()) shown.push_back({line, level});
+  }
+  return shown;
+}
+
+void draw_bands(CrystalState& state, Pattern2Form& form, const GnomonicView& view,
+                const std::vector<ShownLine>& lines) {
+  int count = 0;
+  for (const auto& [line, level] : lines) {
     draw_line(form.Picture1, line, view.reach, line_colour(level, !form.ImageMark.empty()));
     ++count;
     form.List1.add_item(band_text(count, line, level));
@@ -116,8 +129,8 @@ void settle_opening(CrystalState& state, Pattern2Form& form) {
   form.Text1.set_text(plain_text(state.CamAcquisition));
 }
 
-/// The order of the list, the reference, the rotation and the grey scale, which stand when all lines are found.
-std::vector<KikuchiLine> find_lines(CrystalState& state, Pattern2Form& form, Task& task) {
+/// The lines to draw. The order of the list, the reference, the rotation and the grey scale stand when all are found.
+std::vector<ShownLine> find_lines(CrystalState& state, Pattern2Form& form, Integer lowest_level, Task& task) {
   ReorderedList sorted(state, order_for_kikuchi(state, task));
   settle_opening(state, form);
   const auto view = gnomonic_view(state);
@@ -127,10 +140,11 @@ std::vector<KikuchiLine> find_lines(CrystalState& state, Pattern2Form& form, Tas
     state.PatternAngle = to_single(double{state.PatternAngle} + double{state.PatternAngleStep} * degree);
   }
   if (!form.Check4.checked() || state.DisplayScale == 0) state.DisplayScale = strongest_in_view(state, view, task);
-  auto lines = kikuchi_lines(state, view, form.Check3.checked(), task);
+  const auto lines = kikuchi_lines(state, view, form.Check3.checked(), task);
+  auto shown = shown_lines(state, form, lines, lowest_level);
   before.keep();
   sorted.keep();
-  return lines;
+  return shown;
 }
 
 }  // namespace
@@ -144,14 +158,14 @@ void PatternDisp2(Workbench& bench) {
   if (state.KikuchiRefLimit == 0) state.KikuchiRefLimit = state.RefCount;
   QuietTask task;
   const Hourglass hourglass(form);
-  const auto lines = find_lines(state, form, task);
+  const auto lines = find_lines(state, form, lowest_level, task);
   const auto view = gnomonic_view(state);
   form.List1.clear();
   picture.set_back_colour(white);
   picture.set_fore_colour(black);
   picture.clear();
   set_scale(picture, view);
-  draw_bands(state, form, view, lines, lowest_level);
+  draw_bands(state, form, view, lines);
   draw_marks(state, form, view);
   if (form.Check2.checked()) {
     bench.windows.use<ZaxisForm>().show();
