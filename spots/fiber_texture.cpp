@@ -38,6 +38,7 @@ class ArcWalk {
   /// From the centre outwards to two dispersions, clockwise (rising) or anticlockwise. Angles in degrees.
   void walk(Single centre, LoopSense sense) {
     const Single limit = to_single(double{centre} + (sense == LoopSense::Rising ? 2.0 : -2.0) * dispersion_);
+    task_.check();  // a first turn takes less than a millisecond
     last_column_ = last_row_ = 0;
     next_look_deg_ = first_look_deg;
     points_on_.reset();
@@ -56,7 +57,6 @@ class ArcWalk {
  private:
   /// Adds the point at an angle, unless it falls on the pixel of the last one.
   double add(double off, double t, std::vector<ArcPoint>& points) {
-    check();
     const auto [x, y] = ring_.position(t * degree);
     const double spread =
         to_single(std::exp(divide(divide(-(off * off), dispersion_, "the dispersion"), dispersion_, "the dispersion")));
@@ -73,6 +73,7 @@ class ArcWalk {
 
   /// The same from the second turn on. @returns the angle that can be skipped
   double walk_on(double off, double t) {
+    check();
     new_point_.clear();
     (void)add(off, t, new_point_);
     if (darkness_ == 0) return HUGE_VAL;  // and less from here on
