@@ -28,14 +28,13 @@ enum class Verdict { Rejected, Omitted, Listed };
 class Matcher {
  public:
   Matcher(const CrystalState& state, const TripleTable& table, const MeasuredBands& bands,
-          const MatchSettings& settings, SolutionTable& solutions)
+          const MatchSettings& settings)
       : state_(state),
         table_(table),
         bands_(bands),
         measured_deg_{bands.BandAngle(0), bands.BandAngle(1), bands.BandAngle(2)},
         settings_(settings),
-        tolerance_deg_(settings.angle_tolerance),
-        solutions_(solutions) {}
+        tolerance_deg_(settings.angle_tolerance) {}
 
   /// The first row from here to the last one whose angles fit, last + 1 when there is none.
   template <class Passed>
@@ -76,20 +75,19 @@ class Matcher {
   bool solve(int row) {
     const auto planes = row_planes(table_, row);
     TwoDirections roots;
-    const Direction inverted = invert(planes);
-    if (solutions_.MatchStatus == match_status::singular) {
-      solutions_.MatchStatus = SolveTwoPlanes(state_, planes, band_cosines(), roots);
-    }
-    if (solutions_.MatchStatus < match_status::one_root) {
+    const SingleTriple inverted = invert(planes);
+    if (status_ == match_status::singular) status_ = SolveTwoPlanes(state_, planes, band_cosines(), roots);
+    matching_.status = status_;
+    if (status_ < match_status::one_root) {
       const Verdict verdict = check(row, planes, inverted, SolvedBy::Inversion);
-      return verdict != Verdict::Rejected && solutions_.SolutionCount == 1 && settings_.stop_at_first_solution;
+      return verdict != Verdict::Rejected && matching_.solutions.size() == 1 && settings_.stop_at_first_solution;
     }
     check(row, planes, roots.A1, SolvedBy::FirstRoot);
-    if (solutions_.MatchStatus >= match_status::two_roots) check(row, planes, roots.A2, SolvedBy::SecondRoot);
+    if (status_ >= match_status::two_roots) check(row, planes, roots.A2, SolvedBy::SecondRoot);
     return false;
   }
 
-  [[nodiscard]] std::vector<Solution> take_found() { return std::move(found_); }
+  [[nodiscard]] Matching take_found() { return std::move(matching_); }
 
  private:
   [[nodiscard]] bool angle_fits(std::size_t c, Single angle_deg) const {
@@ -104,8 +102,8 @@ class Matcher {
     return divide(bands_.BandS(c), table_.TripleS(row, c), "RefS of a reflection of the triple table");
   }
 
-  [[nodiscard]] std::array<Single, 3> band_cosines() const {
-    std::array<Single, 3> cosines{};
+  [[nodiscard]] SingleTriple band_cosines() const {
+    SingleTriple cosines{};
     for (int c = 0; c < 3; ++c) {
       cosines[static_cast<std::size_t>(c)] = to_single(std::cos(double{bands_.BandTheta(c)}));
     }
@@ -114,7 +112,7 @@ class Matcher {
 
   /// The direction whose components along the three normals are those of the bands; of a singular matrix whatever the
   /// half worked inverse gives.
-  Direction invert(const std::array<PlaneIndices, 3>& planes) {
+  SingleTriple invert(const std::array<Indices<Integer>, 3>& planes) {
     BoundedTable<Single> matrix("M", 3, 3);
     std::array<double, 3> along{};
     for (int i = 1; i <= 3; ++i) {
@@ -125,8 +123,8 @@ class Matcher {
       along[static_cast<std::size_t>(i - 1)] =
           to_single(std::cos(double{bands_.BandTheta(i - 1)}) * double{DHKL(state_, h, k, l)});
     }
-    solutions_.MatchStatus = InvertMatrix(3, matrix);
-    Direction direction{};
+    status_ = InvertMatrix(3, matrix);
+    SingleTriple direction{};
     for (int i = 1; i <= 3; ++i) {
       direction[static_cast<std::size_t>(i - 1)] =
           to_single(matrix(i, 1) * along[0] + matrix(i, 2) * along[1] + matrix(i, 3) * along[2]);
@@ -134,20 +132,21 @@ class Matcher {
     return direction;
   }
 
-  Verdict check(int row, const std::array<PlaneIndices, 3>& planes, const Direction& solved, SolvedBy solved_by) {
-    const Direction direction = in_whole_numbers(solved);
+  Verdict check(int row, const std::array<Indices<Integer>, 3>& planes, const SingleTriple& solved,
+                SolvedBy solved_by) {
+    const SingleTriple direction = in_whole_numbers(solved);
     if (!sense_of_rotation_fits(planes, direction)) return Verdict::Rejected;
     if (settings_.omit_equivalents && has_equivalent(row)) return Verdict::Omitted;
     record(row, direction, solved_by);
     return Verdict::Listed;
   }
 
-  [[nodiscard]] static Direction in_whole_numbers(const Direction& solved) {
+  [[nodiscard]] static SingleTriple in_whole_numbers(const SingleTriple& solved) {
     double largest = 0;
     for (const Single component : solved) {
       if (std::abs(component) > largest) largest = std::abs(component);
     }
-    Direction direction{};
+    SingleTriple direction{};
     for (std::size_t i = 0; i < 3; ++i) {
       const double part = divide(solved[i], largest, "the largest component of a direction");
       direction[i] = to_single(std::floor(part * largest_component));
@@ -155,9 +154,9 @@ class Matcher {
     return direction;
   }
 
-  [[nodiscard]] bool sense_of_rotation_fits(const std::array<PlaneIndices, 3>& planes,
-                                            const Direction& direction) const {
-    std::array<Single, 3> azimuth{};
+  [[nodiscard]] bool sense_of_rotation_fits(const std::array<Indices<Integer>, 3>& planes,
+                                            const SingleTriple& direction) const {
+    SingleTriple azimuth{};
     for (std::size_t i = 0; i < 3; ++i) azimuth[i] = zone_azimuth(state_, planes[i], direction);
     const auto forward = [](Single turn_deg) { return turn_deg < 0 ? to_single(turn_deg + full_turn_deg) : turn_deg; };
     bool fits = true;
@@ -172,10 +171,8 @@ class Matcher {
 
   /// The indices do not count, nor does the direction.
   [[nodiscard]] bool has_equivalent(int row) const {
-    for (int n = 1; n <= solutions_.SolutionCount.value(); ++n) {
-      if (is_equivalent(row, solutions_.SolutionTriple(n).value())) return true;
-    }
-    return false;
+    return std::any_of(matching_.solutions.begin(), matching_.solutions.end(),
+                       [this, row](const Solution& former) { return is_equivalent(row, former.row); });
   }
 
   [[nodiscard]] bool is_equivalent(int row, int former) const {
@@ -193,29 +190,26 @@ class Matcher {
     return differences == 0;
   }
 
-  void record(int row, const Direction& direction, SolvedBy solved_by) {
-    solutions_.SolutionCount += 1;
+  void record(int row, const SingleTriple& direction, SolvedBy solved_by) {
     Solution solution;
-    solution.number = solutions_.SolutionCount.value();
+    solution.number = static_cast<int>(matching_.solutions.size()) + 1;
+    if (solution.number > most_solutions) detail::fail_index("SolutionTriple", solution.number, most_solutions);
     solution.row = row;
     solution.direction = direction;
     solution.solved_by = solved_by;
-    solution.status = solutions_.MatchStatus.value();
-    solutions_.SolutionTriple(solution.number) = row;
-    for (int i = 1; i <= 3; ++i) {
-      solutions_.SolutionDir(solution.number, i) = direction[static_cast<std::size_t>(i - 1)];
-    }
-    solutions_.AngleError = 0;
+    solution.status = status_.value();
+    Single sum = 0;
     for (int c = 0; c < 3; ++c) {
       const Single error = to_single(double{table_.TripleAngle(row, c)} - double{bands_.BandAngle(c)});
-      solutions_.AngleError = to_single(double{solutions_.AngleError} + double{error} * double{error});
+      sum = to_single(double{sum} + double{error} * double{error});
       solution.angle_error_deg[static_cast<std::size_t>(c)] = error;
     }
     if (settings_.width_tolerance_percent) {
       auto& errors = solution.width_error_percent.emplace();
       for (int c = 0; c < 3; ++c) errors[static_cast<std::size_t>(c)] = (width_ratio(row, c) - 1.0) * 100.0;
     }
-    found_.push_back(solution);
+    matching_.angle_error = sum;
+    matching_.solutions.push_back(solution);
   }
 
   const CrystalState& state_;
@@ -224,8 +218,8 @@ class Matcher {
   std::array<double, 3> measured_deg_;
   const MatchSettings& settings_;
   double tolerance_deg_;
-  SolutionTable& solutions_;
-  std::vector<Solution> found_;
+  Integer status_;
+  Matching matching_;
 };
 
 /// Words behind a line. Of status 1 nothing is left when a line is made, so that its two words never show; statuses 3
@@ -238,25 +232,37 @@ std::string_view status_words(int status) {
 
 }  // namespace
 
-std::vector<Solution> match_bands(const CrystalState& state, const TripleTable& table, Single used,
-                                  const MeasuredBands& bands, const MatchSettings& settings, SolutionTable& solutions,
-                                  Task& task) {
+Matching match_bands(const CrystalState& state, const TripleTable& table, Single used, const MeasuredBands& bands,
+                     const MatchSettings& settings, Task& task) {
   const int rows = triple_rows(used);
-  solutions.SolutionCount = 0;
-  Matcher matcher(state, table, bands, settings, solutions);
+  Matcher matcher(state, table, bands, settings);
   long long next_report = 0;
   const auto passed = [&](long long row) {
     if (row < next_report) return;
     task.report(static_cast<int>(row), rows);
+    task.check();
     next_report = row + report_step;
   };
   long long row = matcher.next_fitting(settings.first_row, rows, passed);
   for (; row <= rows; row = matcher.next_fitting(row + 1, rows, passed)) {
+    task.check();
     const int candidate = static_cast<int>(row);
     if (matcher.widths_fit(candidate) && matcher.solve(candidate)) break;
   }
   if (settings.first_row <= rows) task.report(static_cast<int>(std::min<long long>(row, rows)), rows);
   return matcher.take_found();
+}
+
+void take_solutions(const Matching& matching, SolutionTable& table) {
+  table.SolutionCount = static_cast<int>(matching.solutions.size());
+  for (const Solution& solution : matching.solutions) {
+    table.SolutionTriple(solution.number) = solution.row;
+    for (int i = 1; i <= 3; ++i) {
+      table.SolutionDir(solution.number, i) = solution.direction[static_cast<std::size_t>(i - 1)];
+    }
+  }
+  table.MatchStatus = matching.status.value_or(table.MatchStatus);
+  table.AngleError = matching.angle_error.value_or(table.AngleError);
 }
 
 std::string solution_line(const TripleTable& table, const Solution& solution) {
@@ -287,8 +293,8 @@ std::string solution_heading(int solutions, bool with_widths) {
   return line;
 }
 
-std::array<PlaneIndices, 3> row_planes(const TripleTable& table, int row) {
-  std::array<PlaneIndices, 3> planes;
+std::array<Indices<Integer>, 3> row_planes(const TripleTable& table, int row) {
+  std::array<Indices<Integer>, 3> planes;
   for (int i = 0; i < 3; ++i) {
     planes[static_cast<std::size_t>(i)] = {table.TripleHKL(row, 3 * i), table.TripleHKL(row, 3 * i + 1),
                                            table.TripleHKL(row, 3 * i + 2)};
@@ -297,7 +303,7 @@ std::array<PlaneIndices, 3> row_planes(const TripleTable& table, int row) {
 }
 
 PlaneRotations in_plane_rotations(const CrystalState& state, const TripleTable& table, const MeasuredBands& bands,
-                                  int row, const Direction& direction) {
+                                  int row, const SingleTriple& direction) {
   constexpr double near_full_turn = 6.2;
   const auto planes = row_planes(table, row);
   PlaneRotations result;

@@ -23,13 +23,16 @@ struct MatchSettings {
   bool stop_at_first_solution = false;
 };
 
+inline constexpr int most_solutions = 10000;
+
 /// What a run of matching leaves, and the next one finds.
 struct SolutionTable {
   Integer SolutionCount;
-  BoundedArray<Long> SolutionTriple{"SolutionTriple", 10000};  ///< row of the table; solutions count from 1
-  BoundedTable<Single> SolutionDir{"SolutionDir", 10000, 3};   ///< u, v, w in columns 1 to 3, the largest near 1000
-  Integer MatchStatus;                                         ///< left by the solvers
-  Single AngleError = 0;                                       ///< squared degrees, of the solution found last
+  BoundedArray<Long> SolutionTriple{"SolutionTriple", most_solutions};  ///< row of the table; solutions count from 1
+  BoundedTable<Single> SolutionDir{"SolutionDir", most_solutions,
+                                   3};  ///< u, v, w in columns 1 to 3, the largest near 1000
+  Integer MatchStatus;                  ///< left by the solvers
+  Single AngleError = 0;                ///< squared degrees, of the solution found last
 };
 
 /// How the direction of a solution was found.
@@ -38,18 +41,27 @@ enum class SolvedBy { Inversion, FirstRoot, SecondRoot };
 struct Solution {
   int number = 0;  ///< from 1
   int row = 0;     ///< of the triple table
-  Direction direction{};
-  std::array<Single, 3> angle_error_deg{};  ///< table less measurement
+  SingleTriple direction{};
+  SingleTriple angle_error_deg{};  ///< table less measurement
   std::optional<std::array<double, 3>> width_error_percent;
   SolvedBy solved_by = SolvedBy::Inversion;
   int status = 0;  ///< MatchStatus
 };
 
+struct Matching {
+  std::vector<Solution> solutions;
+  std::optional<Integer> status;      ///< left by the solvers for the last row that fitted
+  std::optional<Single> angle_error;  ///< of the last solution, squared degrees
+};
+
 /// Matches the bands with the rows of the table from the first one on. Progress goes by rows.
 /// @throws RunFailure  more than 10000 solutions, or a vector of length 0
-[[nodiscard]] std::vector<Solution> match_bands(const CrystalState& state, const TripleTable& table, Single used,
-                                                const MeasuredBands& bands, const MatchSettings& settings,
-                                                SolutionTable& solutions, Task& task);
+[[nodiscard]] Matching match_bands(const CrystalState& state, const TripleTable& table, Single used,
+                                   const MeasuredBands& bands, const MatchSettings& settings, Task& task);
+
+/// Puts the solutions into the table. Rows of a former run stay behind them, as do status and error when none was
+/// found.
+void take_solutions(const Matching& matching, SolutionTable& table);
 
 /// One line of the list: number, indices, direction, angle and width errors, words on how it was solved.
 [[nodiscard]] std::string solution_line(const TripleTable& table, const Solution& solution);
@@ -58,15 +70,15 @@ struct Solution {
 [[nodiscard]] std::string solution_heading(int solutions, bool with_widths);
 
 /// The three planes of a row.
-[[nodiscard]] std::array<PlaneIndices, 3> row_planes(const TripleTable& table, int row);
+[[nodiscard]] std::array<Indices<Integer>, 3> row_planes(const TripleTable& table, int row);
 
 /// In-plane rotation that each of three planes asks for, so that it lies on its band, radians from 0; values near a
 /// full turn are brought to the other side when the three straddle it.
 struct PlaneRotations {
-  std::array<Single, 3> rotation{};
+  SingleTriple rotation{};
   [[nodiscard]] Single mean() const;
 };
 [[nodiscard]] PlaneRotations in_plane_rotations(const CrystalState& state, const TripleTable& table,
-                                                const MeasuredBands& bands, int row, const Direction& direction);
+                                                const MeasuredBands& bands, int row, const SingleTriple& direction);
 
 }  // namespace zol

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "core/cell_geometry.h"
 #include "core/number_text.h"
@@ -91,7 +92,8 @@ void measure_angle_to_next(MeasuredBands& bands, int band) {
 
 }  // namespace
 
-void measure_bands(const CrystalState& state, const PickedLines& lines, bool two_edges, MeasuredBands& bands) {
+MeasuredBands measure_bands(const CrystalState& state, const PickedLines& lines, bool two_edges, MeasuredBands before) {
+  MeasuredBands bands = std::move(before);
   auto& range = bands.ViewRange;
   set_view_range(state, range);
   for (int line = 0; line <= lines.LastLine.value(); ++line) {
@@ -106,6 +108,7 @@ void measure_bands(const CrystalState& state, const PickedLines& lines, bool two
   }
   for (int band = 0; band < bands_measured; ++band) measure_normal(bands, band);
   for (int band = 0; band < bands_measured; ++band) measure_angle_to_next(bands, band);
+  return bands;
 }
 
 std::string band_text(const MeasuredBands& bands, int band, bool with_width) {

@@ -27,11 +27,13 @@ struct MeasuredBands {
   BoundedArray<Single> BandAngle{"BandAngle", 2};  ///< acute angle in degrees between normals 0 and 1, 1 and 2, 2 and 0
 };
 
-/// Measures three bands with the acquisition angle, shifts and ratio of the state. A line that was not picked counts
+/// Three bands, measured with the acquisition angle, shifts and ratio of the state. A line that was not picked counts
 /// with its stored ends.
+/// @param before     what was measured before, which stands for lines not in use, and for widths without two edges
 /// @param two_edges  lines 2i and 2i + 1 are the edges of band i, and the widths are measured too
 /// @throws RunFailure  a wavelength of 0
-void measure_bands(const CrystalState& state, const PickedLines& lines, bool two_edges, MeasuredBands& bands);
+[[nodiscard]] MeasuredBands measure_bands(const CrystalState& state, const PickedLines& lines, bool two_edges,
+                                          MeasuredBands before);
 
 /// Direction of a band's normal in words, with the d-spacing where the width was measured, and the angle to the next.
 /// @throws RunFailure  a width of 0

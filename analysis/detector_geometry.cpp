@@ -41,12 +41,13 @@ Single centre_shift_deg(const Module1State& camera, Single picture) {
   return to_single(in_degrees((double{picture} - half_picture) / half_picture * tangent(camera.CamAcquisition)));
 }
 
-void calibrate(const SiMarkers& markers, SiCalibration& result, Module1State& camera) {
+CalibratedCamera calibrate(const SiMarkers& markers, Single normal_deg) {
+  SiCalibration result;
   const double x1 = markers.SiMarkX1;
   const double y1 = markers.SiMarkY1;
   const double x2 = markers.SiMarkX2;
   const double y2 = markers.SiMarkY2;
-  const double normal = double{camera.CamNormal} * degree;
+  const double normal = double{normal_deg} * degree;
   const double t1 = to_single(std::tan(normal));
   const double t2 = to_single(std::tan(double{markers.SiAngle} * degree - normal));
   constexpr auto both = "the distance of the two poles";
@@ -67,9 +68,8 @@ void calibrate(const SiMarkers& markers, SiCalibration& result, Module1State& ca
   const auto angle = [&result](double length) {
     return to_single(in_degrees(divide(length, result.SiLength, "the distance of the picture from the source")));
   };
-  camera.CamAcquisition = angle(half_picture);
-  camera.CamXShift = angle(double{result.SiCentreX} - half_picture);
-  camera.CamYShift = angle(double{result.SiCentreY} - half_picture);
+  return {result, angle(half_picture), angle(double{result.SiCentreX} - half_picture),
+          angle(double{result.SiCentreY} - half_picture)};
 }
 
 }  // namespace zol

@@ -47,8 +47,13 @@ struct SiCalibration {
   Single SiLength = 0;  ///< from the source to the picture, in pixels
 };
 
-/// Writes acquisition angle and shifts of the camera.
+struct CalibratedCamera {
+  SiCalibration pattern;
+  Single acquisition_deg = 0, x_shift_deg = 0, y_shift_deg = 0;
+};
+
+/// @param normal_deg  of the substrate against the screen normal
 /// @throws RunFailure  markers at the same height, or poles on one another
-void calibrate(const SiMarkers& markers, SiCalibration& result, Module1State& camera);
+[[nodiscard]] CalibratedCamera calibrate(const SiMarkers& markers, Single normal_deg);
 
 }  // namespace zol

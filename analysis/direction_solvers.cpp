@@ -82,7 +82,7 @@ Single on_line(Single slope, Single x, Single offset) { return to_single(double{
 
 /// In the order second, x, first of case 2 and first, second, x of case 3 the components are turned by one place; the
 /// solutions of those cases are listed that way.
-Direction in_order(const Case& by, Single x, Single first, Single second) {
+SingleTriple in_order(const Case& by, Single x, Single first, Single second) {
   if (by.number == 1) return {x, first, second};
   if (by.number == 2) return {second, x, first};
   return {first, second, x};
@@ -94,8 +94,8 @@ Integer InvertMatrix(Integer n, BoundedTable<Single>& a) {
   return Matrix(n, a) ? match_status::inverted : match_status::singular;
 }
 
-Integer SolveTwoPlanes(const Main1State& cell, const std::array<PlaneIndices, 3>& planes,
-                       const std::array<Single, 3>& cosines, TwoDirections& directions) {
+Integer SolveTwoPlanes(const Main1State& cell, const std::array<Indices<Integer>, 3>& planes,
+                       const SingleTriple& cosines, TwoDirections& directions) {
   const auto length = [&cell, &planes](std::size_t i) { return DHKL(cell, planes[i].h, planes[i].k, planes[i].l); };
   const double r1 = to_single(double{length(0)} * double{cosines[0]});
   const double r2 = to_single(double{length(1)} * double{cosines[1]});

@@ -8,15 +8,9 @@
 
 #include "core/bounded_array.h"
 #include "core/crystal_state.h"
-#include "core/numbers.h"
-#include "spots/zone_geometry.h"
+#include "core/triples.h"
 
 namespace zol {
-
-using PlaneIndices = Indices<Integer>;
-
-/// u, v, w.
-using Direction = std::array<Single, 3>;
 
 /// Values of MatchStatus. One root in case 1, 2, 3 is 11, 12, 13; two roots are 21, 22, 23.
 namespace match_status {
@@ -35,15 +29,15 @@ inline constexpr int two_roots = 20;  ///< and the case
 
 /// The two roots. Only in case 1 the components stand as u, v, w; case 2 gives v, w, u and case 3 gives w, u, v.
 struct TwoDirections {
-  Direction A1{};
-  Direction A2{};
+  SingleTriple A1{};
+  SingleTriple A2{};
 };
 
 /// Directions of unit length that make the angles of the given cosines with the first two planes; the third plane has
 /// no part in them. The case is that of the first minor different from 0, of u, w and v.
 /// @returns MatchStatus: 2, 3 without a real root, 4 for parallel planes (the directions stay), else one or two roots
 /// @throws RunFailure  a minor beyond 16 bits, or a quadratic without its square term
-[[nodiscard]] Integer SolveTwoPlanes(const Main1State& cell, const std::array<PlaneIndices, 3>& planes,
-                                     const std::array<Single, 3>& cosines, TwoDirections& directions);
+[[nodiscard]] Integer SolveTwoPlanes(const Main1State& cell, const std::array<Indices<Integer>, 3>& planes,
+                                     const SingleTriple& cosines, TwoDirections& directions);
 
 }  // namespace zol

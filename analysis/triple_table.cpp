@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "core/cell_geometry.h"
-#include "core/exchange_sort.h"
 #include "core/run_failure.h"
 
 namespace zol {
@@ -80,25 +79,24 @@ void TripleTable::empty_indices_and_angles(int rows) {
   indices_and_angles_ = {rows, false};
 }
 
-void TripleTable::set(int rows, std::vector<Plane> planes, std::vector<Single> angles) {
+TripleTable::TripleTable(int rows, std::vector<Plane> planes, std::vector<Single> angles)
+    : planes_(std::move(planes)),
+      angles_(std::move(angles)),
+      indices_and_angles_{rows, true},
+      lengths_and_intensities_{rows, true} {
   if (rows < 0) detail::fail_bound("TripleHKL", rows);
-  const std::size_t count = planes.size();
+  const std::size_t count = planes_.size();
   if (count * count * count > static_cast<std::size_t>(rows)) detail::fail_index("TripleHKL", rows + 1LL, rows);
-  planes_ = std::move(planes);
-  angles_ = std::move(angles);
-  indices_and_angles_ = lengths_and_intensities_ = {rows, true};
 }
 
-void sort_by_weighted_intensity(CrystalState& state) {
+ListOrder order_by_weighted_intensity(const CrystalState& state, Task& task) {
   std::vector<double> keys;
   for (int i = 0; i <= state.RefCount.value(); ++i) {
     keys.push_back(
         -to_single(double{state.RefS(i)} * double{state.RefI(i)}));  // the largest product is the smallest key
   }
   // Without atoms and observed reflections nothing has an intensity: the list then stays as it is.
-  const auto order = exchange_order(keys, 1, first_smallest_below(0), true);
-  for (auto* array : {&state.RefS, &state.RefI}) reorder(*array, order);
-  for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) reorder(*array, order);
+  return {exchange_order(keys, 1, with_checks(first_smallest_below(0), task), true)};
 }
 
 Single extend_over_ties(const CrystalState& state, Single wanted) {
@@ -113,15 +111,16 @@ Single extend_over_ties(const CrystalState& state, Single wanted) {
 
 int triple_rows(Single reflections) { return Long::rounded(triples_of(reflections)).value(); }
 
-void fill_triple_table(const CrystalState& state, Single used, TripleTable& table, Task& task) {
+TripleTable make_triple_table(const CrystalState& state, Single used, Task& task) {
   const int rows = triple_rows(used);
   const int count = Long::rounded(used).value();
   std::vector<Single> angles;
   for (int a = 1; a <= count; ++a) {
     task.report(a, count);
+    task.check();
     for (int b = 1; b <= count; ++b) angles.push_back(folded_angle(state, a, b));
   }
-  table.set(rows, first_planes(state, count), std::move(angles));
+  return {rows, first_planes(state, count), std::move(angles)};
 }
 
 }  // namespace zol

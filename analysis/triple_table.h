@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/crystal_state.h"
+#include "core/list_order.h"
 #include "core/task.h"
 
 namespace zol {
@@ -48,10 +49,11 @@ class TripleTable {
     Single s = 0;
     Single intensity = 0;
   };
-  /// All four tables anew.
+  TripleTable() = default;
+  /// All four tables.
   /// @param angles  degrees between reflections a and b at a N + b, both from 0
   /// @throws RunFailure  the triples don't fit so many rows
-  void set(int rows, std::vector<Plane> planes, std::vector<Single> angles);
+  TripleTable(int rows, std::vector<Plane> planes, std::vector<Single> angles);
 
  private:
   /// Rows of two of the tables.
@@ -68,17 +70,16 @@ class TripleTable {
   Rows lengths_and_intensities_;
 };
 
-/// Sorts the reflection list by RefS * RefI, descending, by exchanges of RefS, RefI, RefH, RefK and RefL alone; among
-/// equal products the order is that of a selection sort.
-void sort_by_weighted_intensity(CrystalState& state);
+/// The reflection list by RefS * RefI, descending; among equal products the order is that of a selection sort.
+[[nodiscard]] ListOrder order_by_weighted_intensity(const CrystalState& state, Task& task);
 
 /// The wanted number of reflections extended so that no two of equal RefI (within 0.1 per cent) are cut apart.
 [[nodiscard]] Single extend_over_ties(const CrystalState& state, Single wanted);
 
-/// Fills the table with the first `used` reflections of the list, of which there are N = used rounded half to even.
+/// The table of the first `used` reflections of the list, of which there are N = used rounded half to even.
 /// Progress goes by reflections.
 /// @throws RunFailure  a reflection of zero length, or more rows than a Long can count
-void fill_triple_table(const CrystalState& state, Single used, TripleTable& table, Task& task);
+[[nodiscard]] TripleTable make_triple_table(const CrystalState& state, Single used, Task& task);
 
 /// Third power of a number of reflections: the size of their table before it is rounded.
 [[nodiscard]] inline double triples_of(Single reflections) {

@@ -2,14 +2,14 @@
 // pattern follow each other.
 #pragma once
 
-#include "analysis/direction_solvers.h"
 #include "core/crystal_state.h"
+#include "core/triples.h"
 
 namespace zol {
 
 /// Azimuth of the normal of a plane around the direction, degrees, -180 to 180.
 /// @throws RunFailure  a vector of length 0 (the reference vector has none for [n -n 0]), or a cross product beyond 16
 /// bits
-[[nodiscard]] Single zone_azimuth(const Main1State& cell, const PlaneIndices& plane, const Direction& direction);
+[[nodiscard]] Single zone_azimuth(const Main1State& cell, const Indices<Integer>& plane, const SingleTriple& direction);
 
 }  // namespace zol

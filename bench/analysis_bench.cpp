@@ -11,7 +11,8 @@ namespace {
 std::unique_ptr<CrystalState> quartz_list() {
   auto state = shipped_crystal("Quartz.cry");
   make_list(*state, 1, {false, true});
-  sort_by_weighted_intensity(*state);
+  QuietTask task;
+  reorder(*state, order_by_weighted_intensity(*state, task));
   return state;
 }
 
@@ -21,8 +22,8 @@ void TripleTableOf(benchmark::State& run) {
   TripleTable table;
   QuietTask task;
   for (auto _ : run) {
-    sort_by_weighted_intensity(*state);
-    fill_triple_table(*state, static_cast<Single>(run.range(0)), table, task);
+    reorder(*state, order_by_weighted_intensity(*state, task));
+    table = make_triple_table(*state, static_cast<Single>(run.range(0)), task);
     benchmark::DoNotOptimize(table.TripleAngle(1, 0));
   }
   run.counters["rows"] = table.upper_row();
@@ -32,10 +33,9 @@ BENCHMARK(TripleTableOf)->Arg(50)->Arg(100)->Unit(benchmark::kMillisecond);
 /// What MatchAngle does behind its boxes: the bands of reflections 1, 8 and 15, some way off the screen normal.
 void Matching(benchmark::State& run) {
   const auto state = quartz_list();
-  TripleTable table;
   QuietTask task;
   const auto used = static_cast<Single>(run.range(0));
-  fill_triple_table(*state, used, table, task);
+  const TripleTable table = make_triple_table(*state, used, task);
   const auto count = static_cast<int>(run.range(0));
   const int row = ((1 - 1) * count + (8 - 1)) * count + 15;
   MeasuredBands bands;
@@ -45,9 +45,12 @@ void Matching(benchmark::State& run) {
     bands.BandPhi(i) = static_cast<Single>(100 * i * degree);
   }
   const MatchSettings settings{2.0F, true, false, {}, 1, false};
-  SolutionTable solutions;
-  for (auto _ : run) benchmark::DoNotOptimize(match_bands(*state, table, used, bands, settings, solutions, task));
-  run.counters["solutions"] = solutions.SolutionCount.value();
+  std::size_t solutions = 0;
+  for (auto _ : run) {
+    const auto found = match_bands(*state, table, used, bands, settings, task);
+    solutions = found.solutions.size();
+  }
+  run.counters["solutions"] = static_cast<double>(solutions);
 }
 BENCHMARK(Matching)->Arg(50)->Arg(100)->Unit(benchmark::kMillisecond);
 

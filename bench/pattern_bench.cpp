@@ -26,11 +26,12 @@ void KikuchiPattern(benchmark::State& run) {
   state->OriginH = state->OriginK = 3;
   state->OriginL = -2;
   state->KikuchiRefLimit = state->RefCount;
+  QuietTask task;
   for (auto _ : run) {
-    sort_for_kikuchi(*state);
+    reorder(*state, order_for_kikuchi(*state, task));
     const auto view = gnomonic_view(*state);
-    state->DisplayScale = strongest_in_view(*state, view);
-    benchmark::DoNotOptimize(kikuchi_lines(*state, view, false));
+    state->DisplayScale = strongest_in_view(*state, view, task);
+    benchmark::DoNotOptimize(kikuchi_lines(*state, view, false, task));
   }
 }
 
@@ -40,10 +41,11 @@ void FiberTexture(benchmark::State& run) {
   state->CamAcquisition = 0.8F;
   state->Dispersion = 4;
   state->OriginL = 1;
+  QuietTask task;
   for (auto _ : run) {
-    sort_by_intensity(*state);
+    reorder(*state, order_by_intensity(*state, task));
     for (int i = 1; i <= state->RefCount.value(); ++i) {
-      benchmark::DoNotOptimize(fiber_arcs(*state, i, {800, 800, 0.5}));
+      benchmark::DoNotOptimize(fiber_arcs(*state, i, {800, 800, 0.5}, task));
     }
   }
 }
@@ -54,7 +56,8 @@ void SpotsOfAWideZone(benchmark::State& run) {
   state->ZoneU = 1;
   state->ZoneV = -2;
   state->CamAcquisition = 37;
-  for (auto _ : run) benchmark::DoNotOptimize(diffraction_spots(*state, {false, true}));
+  QuietTask task;
+  for (auto _ : run) benchmark::DoNotOptimize(diffraction_spots(*state, {false, true}, task));
 }
 
 BENCHMARK(SpotsOfAWideZone)->Unit(benchmark::kMillisecond);

@@ -39,9 +39,9 @@ void sort_plainly(benchmark::State& run, const ListSort& rule) {
   fill(state, static_cast<int>(run.range(0)));
   std::vector<Single> keys;
   for (int i = 0; i <= state.RefCount.value(); ++i) {
-    keys.push_back(rule.sort == sort_by_s           ? state.RefS(i)
-                   : rule.sort == sort_by_intensity ? state.RefI(i)
-                                                    : state.RefS(i) * state.RefI(i));
+    keys.push_back(rule.sort == sort_by_s                     ? state.RefS(i)
+                   : rule.sort == sort_by<order_by_intensity> ? state.RefI(i)
+                                                              : state.RefS(i) * state.RefI(i));
   }
   for (auto _ : run) benchmark::DoNotOptimize(plain_order(keys, rule));
 }

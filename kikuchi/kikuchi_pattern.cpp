@@ -4,10 +4,10 @@
 #include <cmath>
 #include <optional>
 
-#include "core/cell_geometry.h"
-#include "core/exchange_sort.h"
+#include "core/metric_forms.h"
 #include "core/run_failure.h"
 #include "reflections/reflection_list.h"
+#include "spots/zone_geometry.h"
 
 namespace zol {
 namespace {
@@ -24,12 +24,8 @@ struct Inclination {
 Inclination inclination(const CrystalState& state, const Indices<Integer>& hkl) {
   Inclination result;
   result.length = DHKL(state, hkl.h, hkl.k, hkl.l);
-  const Single axis_length = DHKLT(state, state.ZoneU, state.ZoneV, state.ZoneW);
-  const double product =
-      hkl.h.value() * double{state.ZoneU} + hkl.k.value() * double{state.ZoneV} + hkl.l.value() * double{state.ZoneW};
-  const Single cosine = to_single(
-      divide(divide(product, result.length, "the length of a reflection"), axis_length, "the length of the zone axis"));
-  result.latitude_deg = to_single(90.0 - ArcCos(cosine));
+  result.latitude_deg =
+      latitude_deg(state, hkl, result.length, {state.ZoneU, state.ZoneV, state.ZoneW}, "the length of the zone axis");
   return result;
 }
 
@@ -49,10 +45,8 @@ void set_direction(const CrystalState& state, const Inclination& place, bool cli
                                           reference_length, "the length of the reference reflection"),
                                    std::cos(double{place.latitude_deg} * degree), "the cosine of a latitude"));
   if (clip) cosine = std::clamp(cosine, -1.0, 1.0);
-  const auto cross = cross_vector(line.hkl, reference);
-  const auto single = [](Integer index) { return to_single(index.value()); };
-  const Single side =
-      ProductTS(state, state.ZoneU, state.ZoneV, state.ZoneW, single(cross.h), single(cross.k), single(cross.l));
+  const auto [u, v, w] = as_singles(cross_vector(line.hkl, reference));
+  const Single side = ProductTS(state, state.ZoneU, state.ZoneV, state.ZoneW, u, v, w);
   const double sign = side <= 0 ? 1.0 : -1.0;
   const double sine = to_single(sign * std::sqrt(std::abs(1.0 - cosine * cosine)));
   const double rotation = state.PatternAngle;
@@ -112,21 +106,20 @@ GnomonicView gnomonic_view(const Module1State& camera) {
   return view;
 }
 
-void sort_for_kikuchi(CrystalState& state) {
+ListOrder order_for_kikuchi(const CrystalState& state, Task& task) {
   const int count = state.RefCount.value();
   if (count == 0) throw RunFailure("index 1 of the reflection list, which is empty (\"Calc\" makes it)");
   std::vector<double> keys;
   for (int i = 0; i <= count; ++i) keys.push_back(double{state.RefS(i)} * double{state.RefI(i)});
-  const auto order = exchange_order(keys, 1, last_under_rounded_bound);
-  for (auto* array : {&state.RefS, &state.RefI}) reorder(*array, order);
-  for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) reorder(*array, order);
+  return {exchange_order(keys, 1, with_checks(last_under_rounded_bound, task))};
 }
 
-Single strongest_in_view(const CrystalState& state, const GnomonicView& view) {
+Single strongest_in_view(const CrystalState& state, const GnomonicView& view, Task& task) {
   const char letter = state.LatticeLetter.empty() ? 'P' : state.LatticeLetter.front();
   const double limit = 2.0 * view.reach;
   Single strongest = 0;
   for (int i = 1; i <= state.RefCount.value(); ++i) {
+    task.check();
     const auto hkl = reflection(state, i);
     if (!centring_allows(letter, hkl.h.value(), hkl.k.value(), hkl.l.value()) || is_zero(hkl)) continue;
     const auto place = inclination(state, hkl);
@@ -137,10 +130,12 @@ Single strongest_in_view(const CrystalState& state, const GnomonicView& view) {
   return strongest;
 }
 
-std::vector<KikuchiLine> kikuchi_lines(const CrystalState& state, const GnomonicView& view, bool trace_only) {
+std::vector<KikuchiLine> kikuchi_lines(const CrystalState& state, const GnomonicView& view, bool trace_only,
+                                       Task& task) {
   std::vector<KikuchiLine> lines;
   const int first = (state.RefCount - state.KikuchiRefLimit + 1).value();
   for (int i = first; i <= state.RefCount.value(); ++i) {
+    task.check();
     KikuchiLine line;
     line.hkl = reflection(state, i);
     if (is_zero(line.hkl)) continue;

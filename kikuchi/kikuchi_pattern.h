@@ -11,7 +11,9 @@
 #include <vector>
 
 #include "core/crystal_state.h"
-#include "spots/zone_geometry.h"
+#include "core/list_order.h"
+#include "core/task.h"
+#include "core/triples.h"
 
 namespace zol {
 
@@ -24,14 +26,14 @@ struct GnomonicView {
 /// From half opening, shifts and xy ratio of the camera.
 [[nodiscard]] GnomonicView gnomonic_view(const Module1State& camera);
 
-/// Sorts the list by RefS * RefI, ascending, by exchanges of RefS, RefI, RefH, RefK and RefL. The bound of each round
-/// is the smallest key so far rounded to 16 bits, so that keys nearer than 1 are not told apart.
+/// The list by RefS * RefI, ascending. The bound of each round is the smallest key so far rounded to 16 bits, so that
+/// keys nearer than 1 are not told apart.
 /// @throws RunFailure  an empty list
-void sort_for_kikuchi(CrystalState& state);
+[[nodiscard]] ListOrder order_for_kikuchi(const CrystalState& state, Task& task);
 
 /// Intensity that maps to full grey: the largest 2 RefS RefI of a reflection that the lattice letter allows and whose
 /// line lies within twice the reach.
-[[nodiscard]] Single strongest_in_view(const CrystalState& state, const GnomonicView& view);
+[[nodiscard]] Single strongest_in_view(const CrystalState& state, const GnomonicView& view, Task& task);
 
 /// One line of the pattern.
 struct KikuchiLine {
@@ -50,7 +52,7 @@ struct KikuchiLine {
 /// @param trace_only  the trace of the plane in place of the line at the Bragg angle
 /// @throws RunFailure  a zero axis or reference, an index below 0, or products beyond 16 bits
 [[nodiscard]] std::vector<KikuchiLine> kikuchi_lines(const CrystalState& state, const GnomonicView& view,
-                                                     bool trace_only);
+                                                     bool trace_only, Task& task);
 
 /// The line of the reflection MarkH, MarkK, MarkL, wherever it lies.
 [[nodiscard]] KikuchiLine marked_line(const CrystalState& state, bool trace_only);

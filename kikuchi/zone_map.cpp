@@ -50,9 +50,22 @@ std::optional<DirectionPlace> place_of_direction(const CrystalState& state, Sing
   return place;
 }
 
-std::optional<DirectionPlace> place_in_sweep(const CrystalState& state, Single u, Single v, Single w) {
-  if (DHKLT(state, state.ZoneU, state.ZoneV, state.ZoneW) == 0 || DHKLT(state, u, v, w) == 0) return std::nullopt;
-  return place_of_direction(state, u, v, w);
+std::vector<PlacedDirection> places_in_sweep(const CrystalState& state, const SweepLimits& limits, Task& task) {
+  std::vector<PlacedDirection> placed;
+  const auto visit = [&](Single u, Single v, Single w) {
+    task.check();
+    if (DHKLT(state, state.ZoneU, state.ZoneV, state.ZoneW) == 0 || DHKLT(state, u, v, w) == 0) return;
+    if (const auto place = place_of_direction(state, u, v, w)) placed.push_back({u, v, w, *place});
+  };
+  for (int u = -limits.u; u <= limits.u; ++u) {
+    for (int v = -limits.v; v <= limits.v; ++v) {
+      for (int w = -limits.w; w <= limits.w; ++w) {
+        if (u % 2 == 0 && v % 2 == 0 && w % 2 == 0) continue;
+        visit(static_cast<Single>(u), static_cast<Single>(v), static_cast<Single>(w));
+      }
+    }
+  }
+  return placed;
 }
 
 DirectionPlace from_substrate_normal(const CrystalState& state, const DirectionPlace& place) {

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
 #include "core/crystal_state.h"
+#include "core/task.h"
 
 namespace zol {
 
@@ -20,8 +22,18 @@ struct DirectionPlace {
 /// @throws RunFailure  a zero axis or direction
 [[nodiscard]] std::optional<DirectionPlace> place_of_direction(const CrystalState& state, Single u, Single v, Single w);
 
-/// The same; none for a zero axis or direction.
-[[nodiscard]] std::optional<DirectionPlace> place_in_sweep(const CrystalState& state, Single u, Single v, Single w);
+/// Largest indices of a sweep.
+struct SweepLimits {
+  int u = 1, v = 1, w = 1;
+};
+struct PlacedDirection {
+  Single u = 0, v = 0, w = 0;
+  DirectionPlace place;
+};
+/// All directions up to the limits that have a place, w fastest, but those with three even indices. For a zero axis
+/// there are none.
+[[nodiscard]] std::vector<PlacedDirection> places_in_sweep(const CrystalState& state, const SweepLimits& limits,
+                                                           Task& task);
 
 /// Turned by CamNormal about the x axis: the place as seen from the substrate normal.
 [[nodiscard]] DirectionPlace from_substrate_normal(const CrystalState& state, const DirectionPlace& place);

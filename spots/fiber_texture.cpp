@@ -7,7 +7,6 @@
 #include <utility>
 
 #include "core/cell_geometry.h"
-#include "core/exchange_sort.h"
 #include "core/float_loop.h"
 #include "core/number_text.h"
 #include "core/run_failure.h"
@@ -28,16 +27,18 @@ constexpr int black = 255;
 /// the ring is black are skipped.
 class ArcWalk {
  public:
-  ArcWalk(const CrystalState& state, const FiberPicture& picture, double radius, double strength)
+  ArcWalk(const CrystalState& state, const FiberPicture& picture, double radius, double strength, Task& task)
       : picture_(picture),
         ring_{radius, state.PatternAngle, state.CamAcquisition, picture.width_px, picture.height_px},
         strength_(strength),
         dispersion_(state.Dispersion),
-        step_(to_single(double{state.CamAcquisition} / radius / 10.0)) {}
+        step_(to_single(double{state.CamAcquisition} / radius / 10.0)),
+        task_(task) {}
 
   /// From the centre outwards to two dispersions, clockwise (rising) or anticlockwise. Angles in degrees.
   void walk(Single centre, LoopSense sense) {
     const Single limit = to_single(double{centre} + (sense == LoopSense::Rising ? 2.0 : -2.0) * dispersion_);
+    task_.check();  // a first turn takes less than a millisecond
     last_column_ = last_row_ = 0;
     next_look_deg_ = first_look_deg;
     points_on_.reset();
@@ -72,6 +73,7 @@ class ArcWalk {
 
   /// The same from the second turn on. @returns the angle that can be skipped
   double walk_on(double off, double t) {
+    check();
     new_point_.clear();
     (void)add(off, t, new_point_);
     if (darkness_ == 0) return HUGE_VAL;  // and less from here on
@@ -101,8 +103,16 @@ class ArcWalk {
   /// Looks which parts of the ring are black, after some turns and whenever the arc has doubled since.
   void look(double off, LoopSense sense) {
     if (!sectors_) sectors_.emplace(ring_);
-    sectors_->look(sense == LoopSense::Rising ? 1 : -1, [this](const PicturePixel& pixel) { return is_black(pixel); });
+    sectors_->look(sense == LoopSense::Rising ? 1 : -1, [this](const PicturePixel& pixel) {
+      check();
+      return is_black(pixel);
+    });
     next_look_deg_ = 2 * off;
+  }
+
+  void check() {
+    constexpr unsigned points_between = 64;  // some microseconds
+    if (++visits_ % points_between == 0) task_.check();
   }
 
   [[nodiscard]] std::optional<PicturePixel> pixel_of(const ArcPoint& point) const {
@@ -124,6 +134,8 @@ class ArcWalk {
   double strength_;
   double dispersion_;
   Single step_;
+  Task& task_;
+  unsigned visits_ = 0;
   double last_column_ = 0, last_row_ = 0;
   Integer darkness_;
   std::vector<ArcPoint> points_;
@@ -146,19 +158,17 @@ Single relative_strength(const CrystalState& state, int i, const std::optional<d
 
 }  // namespace
 
-void sort_by_intensity(CrystalState& state) {
+ListOrder order_by_intensity(const CrystalState& state, Task& task) {
   const int count = state.RefCount.value();
   if (count < 2) {
     throw RunFailure("a fiber texture needs two reflections or more, the list has " + plain_text(state.RefCount));
   }
   std::vector<double> keys;
   for (int i = 0; i <= count; ++i) keys.push_back(state.RefI(i));
-  const auto order = exchange_order(keys, first_sorted, first_smallest_below(never_taken));
-  for (auto* array : {&state.RefI, &state.RefA, &state.RefB, &state.RefS}) reorder(*array, order);
-  for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) reorder(*array, order);
+  return {exchange_order(keys, first_sorted, with_checks(first_smallest_below(never_taken), task)), true};
 }
 
-std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const FiberPicture& picture) {
+std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const FiberPicture& picture, Task& task) {
   if (!(state.RefI(i) > 0)) return std::nullopt;
   const Integer h = state.RefH(i);
   const Integer k = state.RefK(i);
@@ -173,7 +183,7 @@ std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const Fibe
       divide(divide(product, g, "the length of a reflection"), axis_length, "the length of the fiber direction"));
   const Single angle = ArcCos(cosine);  // to the fiber axis, degrees
 
-  ArcWalk arcs(state, picture, g, relative_strength(state, i, picture.exponent));
+  ArcWalk arcs(state, picture, g, relative_strength(state, i, picture.exponent), task);
   for (const Single centre : {angle, -angle}) {
     arcs.walk(centre, LoopSense::Falling);
     arcs.walk(centre, LoopSense::Rising);

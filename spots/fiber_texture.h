@@ -9,14 +9,16 @@
 #include <vector>
 
 #include "core/crystal_state.h"
+#include "core/list_order.h"
+#include "core/task.h"
 #include "spots/texture_ring.h"
 
 namespace zol {
 
-/// Sorts the reflection list by RefI from entry 2 on, ascending, for every window; entry 1 and RefTwoTheta stay. Equal
-/// intensities end in the order that a selection sort with exchanges gives, reached in n log n steps.
+/// The reflection list by RefI from entry 2 on, ascending; entry 1 and RefTwoTheta stay. Equal intensities end in the
+/// order that a selection sort with exchanges gives, reached in n log n steps.
 /// @throws RunFailure  fewer than two reflections
-void sort_by_intensity(CrystalState& state);
+[[nodiscard]] ListOrder order_by_intensity(const CrystalState& state, Task& task);
 
 /// The picture that the arcs are for.
 struct FiberPicture {
@@ -42,7 +44,8 @@ struct FiberArcs {
 /// that fall on the pixel of the point before them are left out. An arc of more than one turn has all that its further
 /// turns add to a pixel in one point there, up to black.
 /// @throws RunFailure  the fiber direction is zero, a darkness does not fit 16 bits, the dispersion is too large
-[[nodiscard]] std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const FiberPicture& picture);
+[[nodiscard]] std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const FiberPicture& picture,
+                                                  Task& task);
 
 /// Grey level of a pixel after a point has been added, 0 (black) to 255 (white).
 /// @param colour  what the pixel shows, packed as r + 256 g + 65536 b, of which the blue part counts; -1 outside the

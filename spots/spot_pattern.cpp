@@ -91,21 +91,32 @@ std::optional<DiffractionSpot> spot_in_picture(const CrystalState& state, const 
   return spot;
 }
 
-/// |F|^2 of a spot, worked out in the scratch row of the list.
-Single spot_intensity(CrystalState& state, const DiffractionSpot& spot, ScatteringCell& atoms) {
-  state.RefH(0) = spot.h;
-  state.RefK(0) = spot.k;
-  state.RefL(0) = spot.l;
-  state.RefS(0) = to_single(double{DHKL(state, spot.h, spot.k, spot.l)} / 2.0);
-  atoms.StructureFactor(state, 0);
-  const double a = state.RefA(0);
-  const double b = state.RefB(0);
+/// A list of entry 0 alone, in which structure factors are worked out.
+CrystalState scratch_list(const CrystalState& state) {
+  CrystalState scratch;
+  static_cast<Main1State&>(scratch) = state;
+  scratch.ScatterMissing = 0;
+  for (auto* array : {&scratch.RefH, &scratch.RefK, &scratch.RefL}) array->allocate(0);
+  for (auto* array : {&scratch.RefS, &scratch.RefA, &scratch.RefB}) array->allocate(0);
+  return scratch;
+}
+
+/// |F|^2 of a spot.
+Single spot_intensity(CrystalState& scratch, const DiffractionSpot& spot, ScatteringCell& atoms) {
+  scratch.RefH(0) = spot.h;
+  scratch.RefK(0) = spot.k;
+  scratch.RefL(0) = spot.l;
+  scratch.RefS(0) = to_single(double{DHKL(scratch, spot.h, spot.k, spot.l)} / 2.0);
+  atoms.StructureFactor(scratch, 0);
+  const double a = scratch.RefA(0);
+  const double b = scratch.RefB(0);
   return to_single(a * a + b * b);
 }
 
 }  // namespace
 
-void visit_reflections_on_level(const CrystalState& state, const std::function<void(const Indices<Integer>&)>& visit) {
+void visit_reflections_on_level(const CrystalState& state, const std::function<void(const Indices<Integer>&)>& visit,
+                                Task& task) {
   const ZoneFrame frame = zone_frame(state);
   const int h_limit = index_limit(frame.half_width, state.AStar, "a*");
   const int k_limit = index_limit(frame.half_width, state.BStar, "b*");
@@ -114,6 +125,7 @@ void visit_reflections_on_level(const CrystalState& state, const std::function<v
   for (int h = -h_limit; h <= h_limit; ++h) {
     for (int k = -k_limit; k <= k_limit; ++k) {
       if (frame.w == 0.0 && !on_level(frame, h, k, 0)) continue;  // then l does not count
+      task.check();
       const Range range = level_range(frame, h, k, l_limit);
       for (int l = range.first; l <= range.last; ++l) {
         if (!on_level(frame, h, k, l) || (h == 0 && k == 0 && l == 0)) continue;
@@ -123,19 +135,39 @@ void visit_reflections_on_level(const CrystalState& state, const std::function<v
   }
 }
 
-std::vector<DiffractionSpot> diffraction_spots(CrystalState& state, const Radiation& radiation) {
+SpotPattern diffraction_spots(const CrystalState& state, const Radiation& radiation, Task& task) {
   const ZoneFrame frame = zone_frame(state);
   ScatteringCell atoms(state, radiation);
-  std::vector<DiffractionSpot> spots;
+  CrystalState scratch = scratch_list(state);
+  SpotPattern pattern;
   std::optional<double> axis_length;  // worked out for the first spot: it may fail
-  visit_reflections_on_level(state, [&](const Indices<Integer>& hkl) {
+  const auto visit = [&](const Indices<Integer>& hkl) {
+    task.check();
     if (!axis_length) axis_length = DHKLT(state, state.ZoneU, state.ZoneV, state.ZoneW);
     auto spot = spot_in_picture(state, frame, *axis_length, hkl);
     if (!spot) return;
-    spot->intensity = spot_intensity(state, *spot, atoms);
-    spots.push_back(*spot);
-  });
-  return spots;
+    (void)state.RefH(0);  // without a list there is no place for a spot
+    spot->intensity = spot_intensity(scratch, *spot, atoms);
+    pattern.spots.push_back(*spot);
+  };
+  visit_reflections_on_level(state, visit, task);
+  pattern.last_s = scratch.RefS(0);
+  pattern.last_a = scratch.RefA(0);
+  pattern.last_b = scratch.RefB(0);
+  pattern.scatter_missing = scratch.ScatterMissing == 1;
+  return pattern;
+}
+
+void leave_last_spot(const SpotPattern& pattern, CrystalState& state) {
+  if (pattern.spots.empty()) return;
+  const DiffractionSpot& last = pattern.spots.back();
+  state.RefH(0) = last.h;
+  state.RefK(0) = last.k;
+  state.RefL(0) = last.l;
+  state.RefS(0) = pattern.last_s;
+  state.RefA(0) = pattern.last_a;
+  state.RefB(0) = pattern.last_b;
+  if (pattern.scatter_missing) state.ScatterMissing = 1;
 }
 
 Single strongest_intensity(const std::vector<DiffractionSpot>& spots) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/crystal_state.h"
+#include "core/task.h"
 #include "reflections/scattering.h"
 #include "spots/grey_scale.h"
 #include "spots/zone_geometry.h"
@@ -27,14 +28,24 @@ struct DiffractionSpot {
 /// not exceed 2 CamAcquisition / a* and so on; h outermost, l innermost, all rising. Where w is not 0 only those l are
 /// tried that can lie on the level.
 /// @throws RunFailure  no cell, limits or reference reflection beyond 16 bits
-void visit_reflections_on_level(const CrystalState& state, const std::function<void(const Indices<Integer>&)>& visit);
+void visit_reflections_on_level(const CrystalState& state, const std::function<void(const Indices<Integer>&)>& visit,
+                                Task& task);
+
+struct SpotPattern {
+  std::vector<DiffractionSpot> spots;
+  Single last_s = 0, last_a = 0, last_b = 0;  ///< RefS, RefA and RefB of the last spot
+  bool scatter_missing = false;               ///< an element of a spot has no scattering factor
+};
 
 /// All of them whose projection lies inside the square of half width CamAcquisition, in that order, those of intensity
-/// 0 included. Entry 0 of the reflection arrays is the scratch row and keeps the last spot.
+/// 0 included.
 /// @throws RunFailure  zero axis or zero reference reflection, indices beyond 16 bits, no reflection arrays, a spot
-/// whose
-///                     direction cosine to the reference squares to more than 1.0001
-[[nodiscard]] std::vector<DiffractionSpot> diffraction_spots(CrystalState& state, const Radiation& radiation);
+///                     whose direction cosine to the reference squares to more than 1.0001
+[[nodiscard]] SpotPattern diffraction_spots(const CrystalState& state, const Radiation& radiation, Task& task);
+
+/// Leaves the last spot in entry 0 of the reflection arrays, where spots have always been worked out, and
+/// ScatterMissing at 1 when a scattering factor was missing.
+void leave_last_spot(const SpotPattern& pattern, CrystalState& state);
 
 /// The intensity of the strongest spot; 0 when there is none.
 [[nodiscard]] Single strongest_intensity(const std::vector<DiffractionSpot>& spots);

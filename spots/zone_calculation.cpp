@@ -1,10 +1,11 @@
 #include "spots/zone_calculation.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdlib>
 
-#include "core/cell_geometry.h"
+#include "core/metric_forms.h"
 
 namespace zol {
 namespace {
@@ -12,7 +13,7 @@ namespace {
 constexpr double right_angle = program_pi / 2;
 constexpr double upward_azimuth = 3.14149 / 2;  // its own constant, a digit off
 
-Vector3 scaled_down(const Vector3& v, Single length, std::string_view what) {
+SingleTriple scaled_down(const SingleTriple& v, Single length, std::string_view what) {
   const auto component = [length, what](Single x) { return to_single(divide(x, length, what)); };
   return {component(v[0]), component(v[1]), component(v[2])};
 }
@@ -38,28 +39,13 @@ void clip(Long& first, Long& second, Long& third) {
 
 }  // namespace
 
-Vector3 reciprocal_metric_times(const Main1State& cell, const Vector3& indices) {
-  const double a = cell.AStar;
-  const double b = cell.BStar;
-  const double c = cell.CStar;
-  const double cos_alpha = cell.CosAlphaStar;
-  const double cos_beta = cell.CosBetaStar;
-  const double cos_gamma = cell.CosGammaStar;
-  const auto [h, k, l] = indices;
-  return {to_single(a * h * a + a * k * b * cos_gamma + c * l * a * cos_beta),
-          to_single(a * h * b * cos_gamma + b * k * b + b * l * c * cos_alpha),
-          to_single(c * h * a * cos_beta + b * k * c * cos_alpha + c * l * c)};
-}
-
 Orientation orientation(const Main1State& state) {
-  const auto single = [](Integer index) { return to_single(index.value()); };
-  const Vector3 a =
-      reciprocal_metric_times(state, {single(state.OriginH), single(state.OriginK), single(state.OriginL)});
-  const Vector3 zone{state.ZoneU, state.ZoneV, state.ZoneW};
-  const Vector3 cross{to_single(double{a[2]} * zone[1] - double{a[1]} * zone[2]),
-                      to_single(double{a[0]} * zone[2] - double{a[2]} * zone[0]),
-                      to_single(double{a[1]} * zone[0] - double{a[0]} * zone[1])};
-  const Vector3 d = reciprocal_metric_times(state, cross);
+  const SingleTriple a = reciprocal_metric_times(state, as_singles({state.OriginH, state.OriginK, state.OriginL}));
+  const SingleTriple zone{state.ZoneU, state.ZoneV, state.ZoneW};
+  const SingleTriple cross{to_single(double{a[2]} * zone[1] - double{a[1]} * zone[2]),
+                           to_single(double{a[0]} * zone[2] - double{a[2]} * zone[0]),
+                           to_single(double{a[1]} * zone[0] - double{a[0]} * zone[1])};
+  const SingleTriple d = reciprocal_metric_times(state, cross);
   return {scaled_down(a, DHKLT(state, a[0], a[1], a[2]), "the length of the reference reflection"),
           scaled_down(d, DHKLT(state, d[0], d[1], d[2]), "the product of zone axis and reference reflection"),
           scaled_down(zone, DHKLT(state, zone[0], zone[1], zone[2]), "the length of the zone axis")};
@@ -84,7 +70,7 @@ Indices<Integer> zone_axis_of(const Orientation& frame, const TiltAngles& direct
   const double ex = to_single(std::cos(theta) * std::cos(phi));
   const double ey = to_single(std::cos(theta) * std::sin(phi));
   const double ez = to_single(std::sin(theta));
-  Vector3 w{};
+  SingleTriple w{};
   Single largest = 0;
   for (std::size_t i = 0; i < 3; ++i) {
     w[i] = to_single(ex * frame.x[i] + ey * frame.y[i] + ez * frame.z[i]);
@@ -99,19 +85,8 @@ Indices<Integer> zone_axis_of(const Orientation& frame, const TiltAngles& direct
   return {axis[0], axis[1], axis[2]};
 }
 
-std::array<Single, 3> normal_plane_percent(const Main1State& cell, const Indices<Integer>& direction) {
-  const double u = direction.h.value();
-  const double v = direction.k.value();
-  const double w = direction.l.value();
-  const double a = cell.CellA;
-  const double b = cell.CellB;
-  const double c = cell.CellC;
-  const double cos_alpha = cell.CosAlpha;
-  const double cos_beta = cell.CosBeta;
-  const double cos_gamma = cell.CosGamma;
-  const Single t1 = to_single(v * a * b * cos_gamma + u * a * a + w * a * c * cos_beta);
-  const Single t2 = to_single(u * b * a * cos_gamma + v * b * b + w * b * c * cos_alpha);
-  const Single t3 = to_single(u * c * a * cos_beta + v * c * b * cos_alpha + w * c * c);
+SingleTriple normal_plane_percent(const Main1State& cell, const Indices<Integer>& direction) {
+  const auto [t1, t2, t3] = direct_metric_times(cell, direction);
   const Single sum = to_single(std::abs(double{t1}) + std::abs(double{t2}) + std::abs(double{t3}));
   const auto percent = [sum](Single t) {
     return to_single(std::floor(divide(t, sum, "the sum of the indices of the normal plane") * 100));

@@ -5,22 +5,16 @@
 // axis and Y at right angles to both. Angles are radians, except where a name says degrees.
 #pragma once
 
-#include <array>
 #include <optional>
 
 #include "core/crystal_state.h"
-#include "spots/zone_geometry.h"
+#include "core/triples.h"
 
 namespace zol {
 
-using Vector3 = std::array<Single, 3>;
-
-/// G* v: the reciprocal metric times a triple of indices. Gives the direct components of h a* + k b* + l c*.
-[[nodiscard]] Vector3 reciprocal_metric_times(const Main1State& cell, const Vector3& indices);
-
 /// Unit vectors X, Y, Z of the pattern frame in components of the direct lattice.
 struct Orientation {
-  Vector3 x{}, y{}, z{};
+  SingleTriple x{}, y{}, z{};
 };
 
 /// From the zone axis ZoneU..W and the reference reflection OriginH..L:
@@ -45,7 +39,7 @@ struct TiltAngles {
 
 /// Indices of the plane whose normal is the direction [u v w], in percent of the sum of their sizes, floors.
 /// @throws RunFailure  a zero direction
-[[nodiscard]] std::array<Single, 3> normal_plane_percent(const Main1State& cell, const Indices<Integer>& direction);
+[[nodiscard]] SingleTriple normal_plane_percent(const Main1State& cell, const Indices<Integer>& direction);
 
 /// What goes with a new zone axis.
 struct NewReference {

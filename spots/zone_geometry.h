@@ -2,16 +2,9 @@
 // right angles to two reflections, which tells on which side of it a reflection lies. Bare indices, no metric.
 #pragma once
 
-#include "core/numbers.h"
+#include "core/triples.h"
 
 namespace zol {
-
-/// Three indices of a reflection or of a direction, 16 or 32 bits wide.
-template <class Whole>
-struct Indices {
-  Whole h, k, l;
-  bool operator==(const Indices&) const = default;
-};
 
 /// The reflection (w, w, -u-v), floors of the components + 0.5. It lies in the zone of any whole [u v w], since
 /// w u + w v - (u + v) w = 0, and is not reduced. (0, 0, 0) for [n -n 0].

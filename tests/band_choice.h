@@ -49,7 +49,7 @@ inline int solution_with(const Pattern3Form& form, const std::vector<Vector>& pl
     bool same = true;
     for (std::size_t i = 0; i < 3; ++i) {
       const auto& [h, k, l] = planes[i];
-      same = same && found[i] == PlaneIndices{static_cast<int>(h), static_cast<int>(k), static_cast<int>(l)};
+      same = same && found[i] == Indices<Integer>{static_cast<int>(h), static_cast<int>(k), static_cast<int>(l)};
     }
     if (same) return n;
   }

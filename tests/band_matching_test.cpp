@@ -31,8 +31,8 @@ class Matching : public testing::Test {
     }
     set_list(state, entries);
     used = static_cast<Single>(planes.size());
-    RecordedTask unseen;
-    fill_triple_table(state, used, table, unseen);
+    QuietTask unseen;
+    table = make_triple_table(state, used, unseen);
 
     const ProjectedPattern pattern(CartesianCell(state), uvw, 30, {40, 0, 0, 1});
     for (int band = 0; band < 3; ++band) {
@@ -46,8 +46,13 @@ class Matching : public testing::Test {
     }
   }
 
-  std::vector<Solution> match() { return match_bands(state, table, used, bands, settings, solutions, task); }
-  static void expect_direction(const Solution& solution, const Direction& uvw) {
+  std::vector<Solution> match() {
+    task.steps.clear();
+    auto found = match_bands(state, table, used, bands, settings, task);
+    take_solutions(found, solutions);
+    return std::move(found.solutions);
+  }
+  static void expect_direction(const Solution& solution, const SingleTriple& uvw) {
     for (std::size_t i = 0; i < 3; ++i) EXPECT_NEAR(solution.direction[i], uvw[i], 1.1) << i;  // they are truncated
   }
 
@@ -144,12 +149,13 @@ TEST_F(Matching, ThreeBandsOfOneZoneHaveTwoRoots) {
 TEST_F(Matching, Failures) {
   look_at(three);
   used = 3.1F;  // of 30 rows, three reflections fill 27
-  fill_triple_table(state, used, table, task);
+  QuietTask unseen;
+  table = make_triple_table(state, used, unseen);
   settings.first_row = 28;
   for (int i = 0; i < 3; ++i) bands.BandAngle(i) = 0;
   EXPECT_EQ(failure_of([this] { (void)match(); }), "division by zero: RefS of a reflection of the triple table is 0")
       << "empty rows have angles of 0, like bands that were never measured";
-  const auto azimuth_failure = [this](const PlaneIndices& plane, const Direction& direction) {
+  const auto azimuth_failure = [this](const Indices<Integer>& plane, const SingleTriple& direction) {
     return failure_of([&] { (void)zone_azimuth(state, plane, direction); });
   };
   EXPECT_EQ(azimuth_failure({1, 0, 0}, {1000, -1000, 0}),

@@ -46,28 +46,22 @@ TEST(SiliconCalibration, GivesTheCameraBack) {
     markers.SiMarkY1 = static_cast<Single>(y + length * std::tan(radians(row.normal)));
     markers.SiMarkY2 = static_cast<Single>(y - length * std::tan(radians(row.pole - row.normal)));
     markers.SiAngle = static_cast<Single>(row.pole);
-    Module1State camera;
-    camera.CamNormal = static_cast<Single>(row.normal);
-    SiCalibration result;
-    calibrate(markers, result, camera);
-    EXPECT_NEAR(camera.CamAcquisition, row.acquisition, 1e-3);
-    EXPECT_NEAR(camera.CamXShift, row.x_shift, 1e-3);
-    EXPECT_NEAR(camera.CamYShift, row.y_shift, 1e-3);
-    EXPECT_NEAR(result.SiLength, length, 1e-2);
+    const auto camera = calibrate(markers, static_cast<Single>(row.normal));
+    EXPECT_NEAR(camera.acquisition_deg, row.acquisition, 1e-3);
+    EXPECT_NEAR(camera.x_shift_deg, row.x_shift, 1e-3);
+    EXPECT_NEAR(camera.y_shift_deg, row.y_shift, 1e-3);
+    EXPECT_NEAR(camera.pattern.SiLength, length, 1e-2);
   }
 }
 
 // Hand calculation: T1 = tan 20 = 0.36397, T2 = tan 15.264 = 0.27291; markers 3 pixels apart in x over 240 in y.
 TEST(SiliconCalibration, TurnsTheMarkersUpright) {
   SiMarkers markers{260, 330, 257, 90, 35.264F};
-  Module1State camera;
-  camera.CamNormal = 20;
-  SiCalibration result;
-  calibrate(markers, result, camera);
+  const auto result = calibrate(markers, 20).pattern;
   EXPECT_NEAR(result.SiLength, 240.0 / 0.63688 * std::sqrt(1 + 0.0125 * 0.0125), 0.05);
   EXPECT_NEAR(result.SiCentreX, (260 * 0.36397 + 257 * 0.27291) / 0.63688, 1e-2);
   markers.SiMarkY2 = 330;
-  EXPECT_EQ(failure_of([&] { calibrate(markers, result, camera); }),
+  EXPECT_EQ(failure_of([&] { (void)calibrate(markers, 20); }),
             "division by zero: the height between the two markers is 0");
 }
 

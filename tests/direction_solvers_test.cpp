@@ -48,12 +48,12 @@ Main1State exact_cell() {
 
 TEST(SolveTwoPlanes, GivesDirectionsOfUnitLength) {
   struct Case {
-    PlaneIndices plane1, plane2;
+    Indices<Integer> plane1, plane2;
     Single cosine1, cosine2;
     int status;
-    Direction A1, A2;
+    SingleTriple A1, A2;
   };
-  constexpr PlaneIndices third{7, 7, 7};  // of no account, like its cosine
+  constexpr Indices<Integer> third{7, 7, 7};  // of no account, like its cosine
   for (const auto& row : {
            // Case 2 gives v, w, u and case 3 w, u, v.
            Case{{0, 1, 0}, {0, 0, 1}, 0.6F, 0, 21, {0.8F, 0.6F, 0}, {-0.8F, 0.6F, 0}},

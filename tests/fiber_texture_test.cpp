@@ -12,6 +12,8 @@
 namespace zol {
 namespace {
 
+QuietTask quiet;
+
 // The orders by hand: each place from 2 to the last but one is exchanged with the first smallest intensity below a
 // million that stands at or behind it, or with the one found before when there is none.
 TEST(IntensitySort, ExchangesAllButTwoTheta) {
@@ -33,7 +35,7 @@ TEST(IntensitySort, ExchangesAllButTwoTheta) {
       state.RefA(i) = state.RefB(i) = state.RefS(i) = state.RefTwoTheta(i) = to_single(i);
       state.RefI(i) = row.intensities[static_cast<std::size_t>(i)];
     }
-    sort_by_intensity(state);
+    reorder(state, order_by_intensity(state, quiet));
     for (int i = 0; i <= count; ++i) {
       const int from = row.order[static_cast<std::size_t>(i)];
       for (const auto* array : {&state.RefH, &state.RefK, &state.RefL}) EXPECT_EQ((*array)(i), from) << i;
@@ -45,7 +47,7 @@ TEST(IntensitySort, ExchangesAllButTwoTheta) {
   EXPECT_EQ(failure_of([] {
               CrystalState state;
               state.RefCount = 1;
-              sort_by_intensity(state);
+              (void)order_by_intensity(state, quiet);
             }),
             "a fiber texture needs two reflections or more, the list has 1");
 }
@@ -80,7 +82,7 @@ TEST(FiberArcs, LieAtTheAngleToTheAxisAndMirrored) {
     SCOPED_TRACE(testing::PrintToString(hkl));
     auto state = textured(hkl[0], hkl[1], hkl[2]);
     state.PatternAngle = to_single(rotation);
-    const auto arcs = fiber_arcs(state, 3, fine);
+    const auto arcs = fiber_arcs(state, 3, fine, quiet);
     ASSERT_TRUE(arcs);
     const double radius = std::sqrt(hkl[0] * hkl[0] + hkl[1] * hkl[1] + hkl[2] * hkl[2]) / 4.0;
     const double step = 0.8 / radius / 10.0;  // degrees
@@ -107,8 +109,8 @@ TEST(FiberArcs, LieAtTheAngleToTheAxisAndMirrored) {
 
 TEST(FiberArcs, TakeEachPixelOnceInARow) {
   const auto state = textured(2, 0, 0);
-  const auto points = fiber_arcs(state, 3, coarse)->points;
-  const auto all = fiber_arcs(state, 3, fine)->points;
+  const auto points = fiber_arcs(state, 3, coarse, quiet)->points;
+  const auto all = fiber_arcs(state, 3, fine, quiet)->points;
   EXPECT_LT(points.size(), all.size());
   EXPECT_EQ(points.front(), all.front());
   const auto pixel = [](Single length) { return std::nearbyint(length * 384.0 / 1.6); };
@@ -117,20 +119,20 @@ TEST(FiberArcs, TakeEachPixelOnceInARow) {
         << "an arc starts anew at its centre, which the one before has left";
   }
   // In a picture of one pixel all falls on (0, 0), where every arc starts as if it had been there.
-  EXPECT_TRUE(fiber_arcs(state, 3, {1, 1, {}})->points.empty());
+  EXPECT_TRUE(fiber_arcs(state, 3, {1, 1, {}}, quiet)->points.empty());
 }
 
 TEST(FiberArcs, AreForWhatIsSeenRelatedToTheStrongestOrItsPower) {
   auto state = textured(2, 0, 0);  // intensities 10 and 100
-  EXPECT_EQ(fiber_arcs(state, 2, coarse)->points.front().darkness, 25);
-  EXPECT_EQ(fiber_arcs(state, 3, {384, 384, 0.5})->points.front().darkness, 2550);  // 100 / sqrt(100)
-  EXPECT_EQ(fiber_arcs(state, 3, {384, 384, 2.0})->points.front().darkness, 2);     // 100 / 10000
+  EXPECT_EQ(fiber_arcs(state, 2, coarse, quiet)->points.front().darkness, 25);
+  EXPECT_EQ(fiber_arcs(state, 3, {384, 384, 0.5}, quiet)->points.front().darkness, 2550);  // 100 / sqrt(100)
+  EXPECT_EQ(fiber_arcs(state, 3, {384, 384, 2.0}, quiet)->points.front().darkness, 2);     // 100 / 10000
   state.RefI(3) = 0;
-  EXPECT_FALSE(fiber_arcs(state, 3, fine));
+  EXPECT_FALSE(fiber_arcs(state, 3, fine, quiet));
   state = textured(4, 2, 0);  // 1.118 of 0.8 * 1.4142 = 1.1314
-  EXPECT_TRUE(fiber_arcs(state, 3, fine));
+  EXPECT_TRUE(fiber_arcs(state, 3, fine, quiet));
   state.CamAcquisition = 0.79F;
-  EXPECT_FALSE(fiber_arcs(state, 3, fine));
+  EXPECT_FALSE(fiber_arcs(state, 3, fine, quiet));
 }
 
 /// A picture of greys, row by row.
@@ -189,11 +191,11 @@ TEST(FiberArcs, OfManyTurnsGiveThePictureOfAllTheirSteps) {
         Greys arcs(width);
         const FiberPicture picture{
             width, width, {}, [&arcs](const PicturePixel& pixel) { return arcs.at(pixel.column, pixel.row) == 0; }};
-        const auto found = fiber_arcs(state, 2, picture);
+        const auto found = fiber_arcs(state, 2, picture, quiet);
         for (const auto& point : found->points) arcs.darken(state, point.x, point.y, point.darkness);
         EXPECT_EQ(arcs.grey, plain.grey);
         EXPECT_LT(found->points.size(), 4U * 4U * static_cast<std::size_t>(width));
-        EXPECT_TRUE(dispersion < 180 || fiber_arcs(state, 2, picture)->points.size() <= found->points.size());
+        EXPECT_TRUE(dispersion < 180 || fiber_arcs(state, 2, picture, quiet)->points.size() <= found->points.size());
       }
     }
   }
@@ -202,7 +204,7 @@ TEST(FiberArcs, OfManyTurnsGiveThePictureOfAllTheirSteps) {
 TEST(FiberArcs, FailWithTheReason) {
   auto state = textured(2, 0, 0);
   const auto failure = [&state](std::optional<double> exponent) {
-    return failure_of([&] { (void)fiber_arcs(state, 3, {384, 384, exponent}); });
+    return failure_of([&] { (void)fiber_arcs(state, 3, {384, 384, exponent}, quiet); });
   };
   EXPECT_EQ(failure(-1), "overflow: 2550000 does not fit an Integer (-32768 to 32767)");
   state.Dispersion = 1e20F;

@@ -22,10 +22,17 @@ struct ListSort {
   int smallest_list = 0;
 };
 
-inline constexpr ListSort list_sorts[] = {{"length", sort_by_s, 1, 1000},
-                                          {"weighted_intensity", sort_by_weighted_intensity, 1, 0, true, false, true},
-                                          {"fiber_texture", sort_by_intensity, 2, 1000000, false, false, false, 2},
-                                          {"kikuchi_pattern", sort_for_kikuchi, 1, 10000, false, true, false, 1}};
+template <ListOrder (*order)(const CrystalState&, Task&)>
+void sort_by(CrystalState& state) {
+  QuietTask task;
+  reorder(state, order(state, task));
+}
+
+inline constexpr ListSort list_sorts[] = {
+    {"length", sort_by_s, 1, 1000},
+    {"weighted_intensity", sort_by<order_by_weighted_intensity>, 1, 0, true, false, true},
+    {"fiber_texture", sort_by<order_by_intensity>, 2, 1000000, false, false, false, 2},
+    {"kikuchi_pattern", sort_by<order_for_kikuchi>, 1, 10000, false, true, false, 1}};
 
 /// Which entry stands at each place of the sorted list.
 inline std::vector<int> plain_order(std::vector<Single> keys, const ListSort& rule) {

@@ -17,6 +17,7 @@ namespace {
 using Triple = std::array<int, 3>;
 using ZoneAxis = std::array<Single, 3>;
 
+QuietTask quiet;
 constexpr Radiation electrons{false, true};
 constexpr EnumerationSettings full_sphere{{true, true, true}, {}};
 
@@ -71,7 +72,7 @@ TEST(RockSalt, HasItsSpotsInPlace) {
     state->OriginL = row.reference[2];
     const CartesianCell cell(*state);
     const PatternFrame frame(*state);
-    const auto spots = diffraction_spots(*state, electrons);
+    const auto spots = diffraction_spots(*state, electrons, quiet).spots;
     EXPECT_EQ(spots.size(), row.spots);
     for (const auto& spot : spots) {
       const auto [h, k, l] = triple(spot.h, spot.k, spot.l);
@@ -100,7 +101,9 @@ TEST(SpotIntensity, IsTheSquareOfTheStructureFactor) {
     square = std::pow(double{state->RefA(i)}, 2) + std::pow(double{state->RefB(i)}, 2);
   }
   set_axis(*state, {1, 1, 0});
-  EXPECT_FLOAT_EQ(strongest_intensity(diffraction_spots(*state, electrons)), to_single(square));
+  const auto pattern = diffraction_spots(*state, electrons, quiet);
+  EXPECT_FLOAT_EQ(strongest_intensity(pattern.spots), to_single(square));
+  leave_last_spot(pattern, *state);
   EXPECT_EQ(state->RefH(0), 3) << "the scratch row keeps the last spot";
 }
 
@@ -130,7 +133,7 @@ TEST(SpotPattern, LooksAtTheSameReflectionsAsAPlainRun) {
       }
       std::vector<Triple> visited;
       visit_reflections_on_level(
-          state, [&visited](const Indices<Integer>& hkl) { visited.push_back(triple(hkl.h, hkl.k, hkl.l)); });
+          state, [&visited](const Indices<Integer>& hkl) { visited.push_back(triple(hkl.h, hkl.k, hkl.l)); }, quiet);
       EXPECT_EQ(visited, plain) << testing::PrintToString(axis) << letter;
     }
   }
@@ -149,7 +152,7 @@ TEST(SpotPattern, FailsWithTheReason) {
                           Row{{0, 0, 40000}, 0.5, "overflow: 40000" + too_wide},   // reference
                           Row{{0, 0, 1}, 10000, "overflow: 80000" + too_wide}}) {  // index limit
     auto state = lattice(4, "P", row.half_width, row.axis);
-    EXPECT_EQ(failure_of([&state] { (void)diffraction_spots(state, electrons); }), row.message);
+    EXPECT_EQ(failure_of([&state] { (void)diffraction_spots(state, electrons, quiet); }), row.message);
   }
 }
 
@@ -157,10 +160,10 @@ TEST(SpotPattern, FailsOnASpotBesideTheAxisBelow) {
   // (1 1 -50) lies 1.6 degrees from -[001] on the reference line. The two quarter turns differ by 5e-6, so that its
   // cosine comes out as 1 + 5e-6 / tan(1.6 deg) = 1.00018, whose square is above 1.0001.
   auto state = lattice(1, "P", 26, {0, 0, 1}, -50);
-  const std::string message = failure_of([&state] { (void)diffraction_spots(state, electrons); });
+  const std::string message = failure_of([&state] { (void)diffraction_spots(state, electrons, quiet); });
   EXPECT_NE(message.find("square root of a negative number"), std::string::npos) << message;
   state.Level = 50;
-  EXPECT_FALSE(diffraction_spots(state, electrons).empty()) << "above, the cosine comes out below 1";
+  EXPECT_FALSE(diffraction_spots(state, electrons, quiet).spots.empty()) << "above, the cosine comes out below 1";
 }
 
 TEST(SpotGrey, FollowsThePower) {

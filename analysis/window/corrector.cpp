@@ -8,12 +8,17 @@ namespace {
 constexpr int row_length = 512;
 constexpr Colour grey = RGB(128, 128, 128);
 
-void shift_row(Surface& image, int y, int shift) {
+struct NewPixel {
+  int x, y;
+  Colour colour;
+};
+
+void shift_row(const Surface& image, int y, int shift, std::vector<NewPixel>& pixels) {
   const int last = row_length - 1 - shift;
   for (int x = 0; x < last; ++x) {
-    if (const auto colour = image.pixel(x + shift, y)) image.set_pixel(x, y, *colour);
+    if (const auto colour = image.pixel(x + shift, y)) pixels.push_back({x, y, *colour});
   }
-  for (int x = last; x < row_length; ++x) image.set_pixel(x, y, grey);
+  for (int x = last; x < row_length; ++x) pixels.push_back({x, y, grey});
 }
 
 }  // namespace
@@ -31,12 +36,15 @@ std::vector<int> read_corrector(const std::string& path) {
 }
 
 void shift_rows(Surface& image, const std::vector<int>& shifts, Task& task) {
+  std::vector<NewPixel> pixels;
   int y = 0;
   for (const int shift : shifts) {
     task.report(y, corrector_rows - 1);
-    if (shift != 0) shift_row(image, y, shift);
+    task.check();
+    if (shift != 0) shift_row(image, y, shift, pixels);
     ++y;
   }
+  for (const NewPixel& pixel : pixels) image.set_pixel(pixel.x, pixel.y, pixel.colour);
 }
 
 }  // namespace zol

@@ -1,6 +1,7 @@
 #include "analysis/window/hkl3make.h"
 
 #include "analysis/window/pattern3_form.h"
+#include "core/put_back.h"
 #include "reflections/window/main1_form.h"
 
 namespace zol {
@@ -14,14 +15,17 @@ void Hkl3make(Workbench& bench) {
     form.NhklWanted = count;
     form.Text2.set_text(plain_text(form.NhklWanted));
   }
-  sort_by_weighted_intensity(state);
+  BarTask task(form.ProgressBar1);
+  ReorderedList sorted(state, order_by_weighted_intensity(state, task));
+  PutBack used(form.NhklUsed);
   form.NhklUsed = extend_over_ties(state, form.NhklWanted);
-  form.Label8.set_caption(plain_text(form.NhklUsed));
 
   const Hourglass hourglass(form);
   form.ProgressBar1.set_range(0, form.NhklUsed);
-  BarTask task(form.ProgressBar1);
-  fill_triple_table(state, form.NhklUsed, form.triples, task);
+  form.triples = make_triple_table(state, form.NhklUsed, task);
+  form.Label8.set_caption(plain_text(form.NhklUsed));
+  used.keep();
+  sorted.keep();
 }
 
 }  // namespace zol

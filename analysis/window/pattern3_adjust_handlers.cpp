@@ -1,6 +1,7 @@
 #include "analysis/window/pattern3_handlers.h"
 // PATTERN3: adjustment of the detector parameters for one solution.
 
+#include "core/put_back.h"
 #include "reflections/window/main1_form.h"
 #include "shell/services/wiring.h"
 
@@ -33,16 +34,17 @@ void go_to(const Pattern3Form& form, const CameraStart& start, const GridPoint& 
 
 /// Measures at every grid point. Each measurement takes the parameters from the boxes, which stand still, so that the
 /// first point stays the best one.
-GridPoint best_grid_point(Workbench& bench, Pattern3Form& form, const CameraStart& start) {
+GridPoint best_grid_point(Workbench& bench, Pattern3Form& form, const CameraStart& start, Task& task) {
   Module1State& camera = main1_state(bench);
   const int steps = form.AdjustSteps.value();
   form.BestError = 10000;
   GridPoint best;
   for (int i = -steps; i <= steps; ++i) {
-    form.ProgressBar2.set_value(to_single(steps + i));
+    task.report(steps + i, 2 * steps);
     for (int idle = -steps; idle <= steps; ++idle) {
       for (int j = -steps; j <= steps; ++j) {
         for (int k = -steps; k <= steps; ++k) {
+          task.check();
           go_to(form, start, {i, j, k}, camera);
           Command1_Click(bench, form);
           if (!(form.solutions.AngleError < form.BestError)) continue;
@@ -99,19 +101,19 @@ void Command14_Click(Workbench& bench, Pattern3Form& form) {
 void Command15_Click(Workbench& bench, Pattern3Form& form) {
   Module1State& camera = main1_state(bench);
   constexpr double wide = 1000.0;  // the chosen row passes all tests of angles
-  const Single tolerance = form.AngleTol;
-  form.AngleTol = to_single(double{tolerance} * wide);
+  const PutBack tolerance(form.AngleTol);
+  form.AngleTol = to_single(double{form.AngleTol} * wide);
+  PutBack before(camera.CamAcquisition, camera.CamXShift, camera.CamYShift, form.BestError);
   const CameraStart start{camera.CamAcquisition, camera.CamXShift, camera.CamYShift};
   form.ProgressBar2.set_range(0, to_single(2 * form.AdjustSteps.value()));
-  {
-    const Hourglass hourglass(form);
-    go_to(form, start, best_grid_point(bench, form, start), camera);
-    form.Text3.set_text(plain_text(camera.CamAcquisition));
-    form.Text14.set_text(plain_text(camera.CamXShift));
-    form.Text15.set_text(plain_text(camera.CamYShift));
-    Command1_Click(bench, form);
-  }
-  form.AngleTol = tolerance;
+  const Hourglass hourglass(form);
+  BarTask task(form.ProgressBar2);
+  go_to(form, start, best_grid_point(bench, form, start, task), camera);
+  before.keep();
+  form.Text3.set_text(plain_text(camera.CamAcquisition));
+  form.Text14.set_text(plain_text(camera.CamXShift));
+  form.Text15.set_text(plain_text(camera.CamYShift));
+  Command1_Click(bench, form);
 }
 
 }  // namespace

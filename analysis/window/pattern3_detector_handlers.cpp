@@ -102,7 +102,11 @@ void Text7_Change(Workbench& bench, Pattern3Form& form) { change_working_distanc
 
 void Command9_Click(Workbench& bench, Pattern3Form& form) {
   Module1State& camera = main1_state(bench);
-  calibrate(form.markers, form.calibration, camera);
+  const auto calibrated = calibrate(form.markers, camera.CamNormal);
+  form.calibration = calibrated.pattern;
+  camera.CamAcquisition = calibrated.acquisition_deg;
+  camera.CamXShift = calibrated.x_shift_deg;
+  camera.CamYShift = calibrated.y_shift_deg;
   form.Text3.set_text(Format(camera.CamAcquisition, two_decimals));
   form.Text14.set_text(Format(camera.CamXShift, two_decimals));
   form.Text15.set_text(Format(camera.CamYShift, two_decimals));

@@ -35,7 +35,7 @@ void list_solution(Pattern3Form& form, const Solution& solution) {
 }
 
 /// Hands the axis over to the simulation, over the measured picture if one is wanted there.
-void show_in_simulation(Workbench& bench, Pattern3Form& form, const Direction& direction) {
+void show_in_simulation(Workbench& bench, Pattern3Form& form, const SingleTriple& direction) {
   const CrystalState& state = main1_state(bench);
   auto& pattern2 = bench.windows.use<Pattern2Form>();
   pattern2.show();
@@ -119,7 +119,7 @@ void List1_Click(Workbench& bench, Pattern3Form& form) {
   const int number = form.List1.list_index() + 1;
   const int row = form.solutions.SolutionTriple(number).value();
   const auto& directions = form.solutions.SolutionDir;
-  const Direction direction{directions(number, 1), directions(number, 2), directions(number, 3)};
+  const SingleTriple direction{directions(number, 1), directions(number, 2), directions(number, 3)};
   const auto rotations = in_plane_rotations(state, form.triples, form.bands, row, direction);
   for (int i = 0; i < form.Label1.count(); ++i) {
     form.Label1(i).set_caption(plain_text(double{rotations.rotation[static_cast<std::size_t>(i)]} / degree));
@@ -140,7 +140,7 @@ void Command1_Click(Workbench& bench, Pattern3Form& form) {
   state.CamAcquisition = single_in(form.Text3);
   state.CamXShift = single_in(form.Text14);
   state.CamYShift = single_in(form.Text15);
-  measure_bands(state, form.lines, form.Check2.checked(), form.bands);
+  form.bands = measure_bands(state, form.lines, form.Check2.checked(), form.bands);
   for (int band = 0; band < form.Label1.count(); ++band) {
     form.Label1(band).set_caption(band_text(form.bands, band, form.Check2.checked()));
   }
@@ -151,10 +151,11 @@ void Command1_Click(Workbench& bench, Pattern3Form& form) {
 void MatchAngle(Workbench& bench, Pattern3Form& form) {
   form.ProgressBar1.set_range(0, to_single(triples_of(form.NhklUsed)));
   BarTask task(form.ProgressBar1);
-  const auto found = match_bands(main1_state(bench), form.triples, form.NhklUsed, form.bands, match_settings(form),
-                                 form.solutions, task);
+  const auto found =
+      match_bands(main1_state(bench), form.triples, form.NhklUsed, form.bands, match_settings(form), task);
+  take_solutions(found, form.solutions);
   form.Heading.set_caption(solution_heading(form.solutions.SolutionCount.value(), form.Check2.checked()));
-  for (const Solution& solution : found) list_solution(form, solution);
+  for (const Solution& solution : found.solutions) list_solution(form, solution);
   form.List1.add_item("    No. of solution = " + plain_text(form.solutions.SolutionCount));
 }
 

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/put_back.h"
 #include "kikuchi/kikuchi_pattern.h"
 #include "kikuchi/window/kikuchi_operations.h"
 #include "kikuchi/window/pattern2_form.h"
@@ -8,6 +9,7 @@
 #include "reflections/window/main1_form.h"
 #include "spots/grey_scale.h"
 #include "spots/window/picture_controls.h"
+#include "spots/zone_geometry.h"
 
 namespace zol {
 namespace {
@@ -51,13 +53,27 @@ std::string band_text(int number, const KikuchiLine& line, int level) {
          right_field(Format(level, "##0"), 4);
 }
 
-/// Draws and lists the lines above the lowest grey level.
-void draw_bands(CrystalState& state, Pattern2Form& form, const GnomonicView& view, Integer lowest_level) {
+struct ShownLine {
+  KikuchiLine line;
+  int grey_level = 0;
+};
+
+/// The lines above the lowest grey level.
+std::vector<ShownLine> shown_lines(const CrystalState& state, const Pattern2Form& form,
+                                   const std::vector<KikuchiLine>& lines, Integer lowest_level) {
   const GreyScale scale{form.Option2.on(), exponent_in(form.Text10)};
-  int count = 0;
-  for (const auto& line : kikuchi_lines(state, view, form.Check3.checked())) {
+  std::vector<ShownLine> shown;
+  for (const auto& line : lines) {
     const int level = grey_level(state, line.intensity, scale);
-    if (level <= lowest_level.value()) continue;
+    if (level > lowest_level.value()) shown.push_back({line, level});
+  }
+  return shown;
+}
+
+void draw_bands(CrystalState& state, Pattern2Form& form, const GnomonicView& view,
+                const std::vector<ShownLine>& lines) {
+  int count = 0;
+  for (const auto& [line, level] : lines) {
     draw_line(form.Picture1, line, view.reach, line_colour(level, !form.ImageMark.empty()));
     ++count;
     form.List1.add_item(band_text(count, line, level));
@@ -98,6 +114,39 @@ void draw_marks(const CrystalState& state, Pattern2Form& form, const GnomonicVie
   picture.set_solid_fill(true);
 }
 
+void take_reference(CrystalState& state) {
+  const auto reference = reference_reflection(state.ZoneU, state.ZoneV, state.ZoneW);
+  state.OriginH = reference.h;
+  state.OriginK = reference.k;
+  state.OriginL = reference.l;
+}
+
+void settle_opening(CrystalState& state, Pattern2Form& form) {
+  constexpr Single smallest_opening = 3;
+  constexpr Single default_opening = 37;
+  if (!(state.CamAcquisition < smallest_opening)) return;
+  state.CamAcquisition = default_opening;
+  form.Text1.set_text(plain_text(state.CamAcquisition));
+}
+
+/// The lines to draw. The order of the list, the reference, the rotation and the grey scale stand when all are found.
+std::vector<ShownLine> find_lines(CrystalState& state, Pattern2Form& form, Integer lowest_level, Task& task) {
+  ReorderedList sorted(state, order_for_kikuchi(state, task));
+  settle_opening(state, form);
+  const auto view = gnomonic_view(state);
+  PutBack before(state.OriginH, state.OriginK, state.OriginL, state.PatternAngle, state.DisplayScale);
+  take_reference(state);
+  if (state.PatternFlag == 1) {
+    state.PatternAngle = to_single(double{state.PatternAngle} + double{state.PatternAngleStep} * degree);
+  }
+  if (!form.Check4.checked() || state.DisplayScale == 0) state.DisplayScale = strongest_in_view(state, view, task);
+  const auto lines = kikuchi_lines(state, view, form.Check3.checked(), task);
+  auto shown = shown_lines(state, form, lines, lowest_level);
+  before.keep();
+  sorted.keep();
+  return shown;
+}
+
 }  // namespace
 
 void PatternDisp2(Workbench& bench) {
@@ -107,35 +156,20 @@ void PatternDisp2(Workbench& bench) {
   const Integer lowest_level = integer_in(form.Text2);
   state.KikuchiRefLimit = long_in(form.Text19);
   if (state.KikuchiRefLimit == 0) state.KikuchiRefLimit = state.RefCount;
+  QuietTask task;
+  const Hourglass hourglass(form);
+  const auto lines = find_lines(state, form, lowest_level, task);
+  const auto view = gnomonic_view(state);
   form.List1.clear();
   picture.set_back_colour(white);
   picture.set_fore_colour(black);
-  sort_for_kikuchi(state);
-  constexpr Single smallest_opening = 3;
-  constexpr Single default_opening = 37;
-  if (state.CamAcquisition < smallest_opening) {
-    state.CamAcquisition = default_opening;
-    form.Text1.set_text(plain_text(state.CamAcquisition));
-  }
-  const auto view = gnomonic_view(state);
-  {
-    const Hourglass hourglass(form);
-    picture.clear();
-    set_scale(picture, view);
-    const auto reference = reference_reflection(state.ZoneU, state.ZoneV, state.ZoneW);
-    state.OriginH = reference.h;
-    state.OriginK = reference.k;
-    state.OriginL = reference.l;
-    if (state.PatternFlag == 1) {
-      state.PatternAngle = to_single(double{state.PatternAngle} + double{state.PatternAngleStep} * degree);
-    }
-    if (!form.Check4.checked() || state.DisplayScale == 0) state.DisplayScale = strongest_in_view(state, view);
-    draw_bands(state, form, view, lowest_level);
-    draw_marks(state, form, view);
-    if (form.Check2.checked()) {
-      bench.windows.use<ZaxisForm>().show();
-      Calc(bench);
-    }
+  picture.clear();
+  set_scale(picture, view);
+  draw_bands(state, form, view, lines);
+  draw_marks(state, form, view);
+  if (form.Check2.checked()) {
+    bench.windows.use<ZaxisForm>().show();
+    Calc(bench);
   }
 }
 

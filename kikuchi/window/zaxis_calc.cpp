@@ -1,6 +1,5 @@
 #include <array>
 #include <cmath>
-#include <functional>
 
 #include "kikuchi/window/kikuchi_operations.h"
 #include "kikuchi/window/pattern2_form.h"
@@ -32,47 +31,40 @@ void draw_net(Canvas& picture, bool equidistant) {
 }
 
 /// Place of a direction as the map shows it: from the screen normal or from the substrate normal.
-std::optional<DirectionPlace> on_map(const CrystalState& state, const ZaxisForm& form,
-                                     const std::optional<DirectionPlace>& place) {
-  return place && form.Option2.on() ? from_substrate_normal(state, *place) : place;
+DirectionPlace on_map(const CrystalState& state, const ZaxisForm& form, const DirectionPlace& place) {
+  return form.Option2.on() ? from_substrate_normal(state, place) : place;
 }
 
-/// Calls for each direction up to the limits of the boxes, w fastest, but those with three even indices.
-void sweep(const ZaxisForm& form, const std::function<void(Single u, Single v, Single w)>& visit) {
-  const int u_max = index_limit(form.Text1).value();
-  const int v_max = index_limit(form.Text2).value();
-  const int w_max = index_limit(form.Text3).value();
-  for (int u = -u_max; u <= u_max; ++u) {
-    for (int v = -v_max; v <= v_max; ++v) {
-      for (int w = -w_max; w <= w_max; ++w) {
-        if (u % 2 == 0 && v % 2 == 0 && w % 2 == 0) continue;
-        visit(static_cast<Single>(u), static_cast<Single>(v), static_cast<Single>(w));
-      }
-    }
-  }
+SweepLimits sweep_limits(const ZaxisForm& form) {
+  return {index_limit(form.Text1).value(), index_limit(form.Text2).value(), index_limit(form.Text3).value()};
 }
 
-void draw_directions(const CrystalState& state, ZaxisForm& form) {
+void draw_directions(const CrystalState& state, const std::vector<PlacedDirection>& directions, ZaxisForm& form) {
   constexpr double northern = 1.571;
   constexpr double disc = 0.01;
   Canvas& picture = form.Picture1;
   picture.set_fore_colour(black);
-  sweep(form, [&](Single u, Single v, Single w) {
-    const auto place = on_map(state, form, place_in_sweep(state, u, v, w));
-    if (!place) return;
-    const bool is_northern = place->theta <= northern;
-    if (!is_northern && !form.Check1.checked()) return;
-    const double radius = map_radius(place->theta, form.Check2.checked());
+  for (const auto& direction : directions) {
+    const DirectionPlace place = on_map(state, form, direction.place);
+    const bool is_northern = place.theta <= northern;
+    if (!is_northern && !form.Check1.checked()) continue;
+    const double radius = map_radius(place.theta, form.Check2.checked());
     const Colour colour = is_northern ? black : cyan;
     picture.set_fill_colour(colour);
-    picture.circle(radius * std::cos(double{place->phi}), radius * std::sin(double{place->phi}), form.MapScale * disc,
+    picture.circle(radius * std::cos(double{place.phi}), radius * std::sin(double{place.phi}), form.MapScale * disc,
                    colour);
-    picture.print(numbers(u, v, w));
-  });
+    picture.print(numbers(direction.u, direction.v, direction.w));
+  }
 }
 
 /// Degrees with one place, rounded down.
 double tenth_of_degree(Single angle) { return std::floor(angle / degree * 10) / 10; }
+
+std::optional<DirectionPlace> place_on_map(const CrystalState& state, const ZaxisForm& form, Single u, Single v,
+                                           Single w) {
+  const auto place = place_of_direction(state, u, v, w);
+  return place ? std::optional(on_map(state, form, *place)) : std::nullopt;
+}
 
 std::string phi_text(const DirectionPlace& place) { return plain_text(Val(plain_text(tenth_of_degree(place.phi)))); }
 
@@ -85,7 +77,7 @@ void show_axes(const CrystalState& state, ZaxisForm& form) {
       {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {1, 1, 0}, {1, 0, 1}, {0, 1, 1}}};
   int row = 0;
   for (const auto& [u, v, w] : axes) {
-    if (const auto place = on_map(state, form, place_of_direction(state, u, v, w))) {
+    if (const auto place = place_on_map(state, form, u, v, w)) {
       form.Label_phi(row).set_caption(phi_text(*place));
       form.Label_theta(row).set_caption(theta_text(*place));
     }
@@ -98,28 +90,27 @@ void show_typed_direction(const CrystalState& state, ZaxisForm& form) {
   const Single v = single_in(form.Text5);
   const Single w = single_in(form.Text6);
   if (u == 0 && v == 0 && w == 0) return;
-  if (const auto place = on_map(state, form, place_of_direction(state, u, v, w))) {
+  if (const auto place = place_on_map(state, form, u, v, w)) {
     form.Text7.set_text(phi_text(*place));
     form.Text8.set_text(theta_text(*place));
   }
 }
 
 /// Labels the directions near the pattern on the Kikuchi picture, in its scale.
-void label_pattern(const CrystalState& state, const ZaxisForm& form, Canvas& picture) {
+void label_pattern(const CrystalState& state, const std::vector<PlacedDirection>& directions, Canvas& picture) {
   const double reach_deg =
       std::abs(double{state.CamXShift}) + std::abs(double{state.CamAcquisition}) + std::abs(double{state.CamYShift});
   const Single limit = to_single(std::tan(reach_deg * degree));
-  sweep(form, [&](Single u, Single v, Single w) {
-    const auto place = place_in_sweep(state, u, v, w);
-    if (!place || !(program_pi / 2 > place->theta)) return;
-    const double distance = std::tan(double{place->theta});
-    if (!(distance <= limit * 1.5)) return;
-    picture.set_point(distance * std::cos(double{place->phi}), distance * std::sin(double{place->phi}), white);
+  for (const auto& [u, v, w, place] : directions) {
+    if (!(program_pi / 2 > place.theta)) continue;
+    const double distance = std::tan(double{place.theta});
+    if (!(distance <= limit * 1.5)) continue;
+    picture.set_point(distance * std::cos(double{place.phi}), distance * std::sin(double{place.phi}), white);
     const Colour before = picture.fore_colour();
     picture.set_fore_colour(red);
     picture.print("[" + numbers(u, v, w) + "]");
     picture.set_fore_colour(before);
-  });
+  }
 }
 
 }  // namespace
@@ -128,16 +119,18 @@ void Calc(Workbench& bench) {
   const CrystalState& state = main1_state(bench);
   auto& form = bench.windows.use<ZaxisForm>();
   Canvas& picture = form.Picture1;
+  QuietTask task;
+  const auto directions = places_in_sweep(state, sweep_limits(form), task);
   if (form.KeepMap == 0) picture.clear();
   constexpr double label_size = 8;
   picture.set_font_size(label_size);
   picture.scale(-form.MapScale, form.MapScale, form.MapScale, -form.MapScale);
   draw_net(picture, form.Check2.checked());
-  draw_directions(state, form);
+  draw_directions(state, directions, form);
   picture.set_solid_fill(false);
   show_axes(state, form);
   show_typed_direction(state, form);
-  if (form.Check3.checked()) label_pattern(state, form, bench.windows.use<Pattern2Form>().Picture1);
+  if (form.Check3.checked()) label_pattern(state, directions, bench.windows.use<Pattern2Form>().Picture1);
 }
 
 }  // namespace zol

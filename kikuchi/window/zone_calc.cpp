@@ -9,10 +9,10 @@ namespace {
 /// From the angles on: takes the rotation of the pattern off the azimuth, leaves axis and reference in the state.
 void find_axis(CrystalState& state, Pattern2Form& form) {
   const auto axis = zone_axis_of(orientation(state), {state.TiltTheta, state.TiltPhi});
+  const auto reference = new_reference(state, axis);
   state.NewZoneU = axis.h;
   state.NewZoneV = axis.k;
   state.NewZoneW = axis.l;
-  const auto reference = new_reference(state, axis);
   if (reference.turn_degrees) {
     state.PatternAngleStep = *reference.turn_degrees;
     form.Label9.set_caption(plain_text(state.PatternAngleStep));

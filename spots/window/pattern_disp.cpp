@@ -43,6 +43,8 @@ void PatternDisp(Workbench& bench) {
   settle_values(form, state);
 
   const Hourglass hourglass(form);
+  QuietTask task;
+  const auto pattern = diffraction_spots(state, {main1.Option1.on(), main1.Option2.on()}, task);
   const double half_width = state.CamAcquisition;
   form.Picture1.clear();
   form.Picture1.scale(-half_width, half_width, half_width, -half_width);
@@ -50,9 +52,9 @@ void PatternDisp(Workbench& bench) {
   form.Picture1.set_solid_fill(true);
   if (state.Level == 0) draw_direct_beam(form, state);
 
-  const auto spots = diffraction_spots(state, {main1.Option1.on(), main1.Option2.on()});
-  if (state.DisplayScale == 0) state.DisplayScale = strongest_intensity(spots);
-  for (const auto& spot : spots) draw_spot(form, state, spot);
+  leave_last_spot(pattern, state);
+  if (state.DisplayScale == 0) state.DisplayScale = strongest_intensity(pattern.spots);
+  for (const auto& spot : pattern.spots) draw_spot(form, state, spot);
 }
 
 }  // namespace zol

@@ -43,6 +43,8 @@ void PatternDisp3(Workbench& bench) {
   settle_values(form, state);
 
   const Hourglass hourglass(form);
+  QuietTask task;
+  ReorderedList sorted(state, order_by_intensity(state, task));
   const double half_width = state.CamAcquisition;
   picture.clear();
   picture.scale(-half_width, half_width, half_width, -half_width);
@@ -50,19 +52,19 @@ void PatternDisp3(Workbench& bench) {
   picture.set_solid_fill(true);
   draw_direct_beam(form, state);
 
-  sort_by_intensity(state);
   FiberPicture settings{picture.pixel_width(), picture.pixel_height(), exponent_in(form.Text6)};
   settings.is_black = [&picture](const PicturePixel& pixel) {
     return picture.stored_image().pixel(pixel.column, pixel.row) == colours::black;
   };
   for (int i = 2; i <= state.RefCount.value(); ++i) {
-    const auto arcs = fiber_arcs(state, i, settings);
+    const auto arcs = fiber_arcs(state, i, settings, task);
     if (!arcs) continue;
     draw_arcs(picture, *arcs);
     if (!form.Check3.checked()) continue;
     picture.move_to(arcs->label_x, arcs->label_y);
     picture.print(index_label(state.RefH(i), state.RefK(i), state.RefL(i)));
   }
+  sorted.keep();
 }
 
 }  // namespace zol

@@ -1,0 +1,24 @@
+// Three numbers that belong together. Which space they are of, the name that bears them tells.
+#pragma once
+
+#include <array>
+
+#include "core/numbers.h"
+
+namespace zol {
+
+/// Whole indices of a reflection h k l, or of a direction u v w, 16 or 32 bits wide.
+template <class Whole>
+struct Indices {
+  Whole h, k, l;
+  bool operator==(const Indices&) const = default;
+};
+
+/// Components in the direct or the reciprocal lattice, whole or not.
+using SingleTriple = std::array<Single, 3>;
+
+[[nodiscard]] inline SingleTriple as_singles(const Indices<Integer>& indices) {
+  return {to_single(indices.h.value()), to_single(indices.k.value()), to_single(indices.l.value())};
+}
+
+}  // namespace zol
