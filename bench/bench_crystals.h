@@ -11,8 +11,8 @@
 #include "core/number_text.h"
 #include "core/space_group.h"
 #include "core/unit_cell.h"
-#include "reflections/reflection_list.h"
 #include "reflections/scattering.h"
+#include "tests/lists.h"
 
 namespace zol {
 
@@ -23,7 +23,8 @@ inline void complete(CrystalState& state) {
       read_space_group(ZOL_SOURCE_DIR "/data/ZOL/SpaceGr/No" + Format(state.SGNumber.value(), "000") + ".dat");
   state.SGName = group.symbol;
   state.LatticeLetter = group.symbol.substr(0, 1);
-  expand_unit_cell(state, group);
+  QuietTask task;
+  commit(state, expand_unit_cell(state, group, task));
   state.AsfXCount = read_scatter_table(ZOL_SOURCE_DIR "/data/ZOL/Asf/ASF-X.csv", state.AsfX);
   state.WaveLength = 1.542F;
   state.MassRatio = 1;
@@ -67,9 +68,8 @@ inline std::unique_ptr<CrystalState> p1_crystal(int atoms) {
 /// Lists all reflections of the cell down to dmin, in full sphere.
 inline void make_list(CrystalState& state, Single dmin, const Radiation& radiation) {
   state.Dmin = dmin;
-  enumerate_reflections(state, {{true, true, true}, {}});
-  sort_by_s(state);
-  (void)compute_list(state, radiation);
+  QuietTask task;
+  commit(state, reflection_list(state, {{true, true, true}, {}}, radiation, task));
 }
 
 /// Down to where the made-up cell has about so many reflections: 19180 to 0.8 angstroms.

@@ -10,6 +10,7 @@ namespace zol {
 namespace {
 
 constexpr double out_of_play = std::numeric_limits<double>::infinity();
+constexpr int rounds_between_checks = 1024;  // some 0.5 ms
 
 }  // namespace
 
@@ -49,13 +50,15 @@ FindEntry first_smallest_below(double limit) {
   };
 }
 
-std::vector<int> exchange_order(std::span<const double> keys, int first, const FindEntry& find, bool skip_without) {
+std::vector<int> exchange_order(std::span<const double> keys, int first, const FindEntry& find, bool skip_without,
+                                Task& task) {
   std::vector<int> order(keys.size());
   std::iota(order.begin(), order.end(), 0);
   TournamentTree left(keys);
   for (int position = 0; position < std::min(first, static_cast<int>(keys.size())); ++position) left.remove(position);
   int found = 0;
   for (int place = first; place < static_cast<int>(keys.size()) - 1; ++place) {
+    if ((place - first) % rounds_between_checks == 0) task.check();
     found = find(left).value_or(found);
     if (found == 0 && skip_without) continue;
     std::swap(order[static_cast<std::size_t>(place)], order[static_cast<std::size_t>(found)]);

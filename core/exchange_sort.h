@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "core/bounded_array.h"
+#include "core/task.h"
 
 namespace zol {
 
@@ -50,7 +51,14 @@ using FindEntry = std::function<std::optional<int>(const TournamentTree& left)>;
 /// exchanged.
 /// @param keys  of positions 0 to n; entry 0 takes part only as that position
 [[nodiscard]] std::vector<int> exchange_order(std::span<const double> keys, int first, const FindEntry& find,
-                                              bool skip_without = false);
+                                              bool skip_without, Task& task);
+
+/// The same for lists that nobody waits for.
+[[nodiscard]] inline std::vector<int> exchange_order(std::span<const double> keys, int first, const FindEntry& find,
+                                                     bool skip_without = false) {
+  QuietTask task;
+  return exchange_order(keys, first, find, skip_without, task);
+}
 
 /// Puts entry order[i] at position i.
 template <class Value>

@@ -1,8 +1,7 @@
 #include "core/unit_cell.h"
 
-#include <array>
+#include <algorithm>
 #include <cmath>
-#include <vector>
 
 #include "core/number_text.h"
 
@@ -28,41 +27,48 @@ bool coincide(Single a, Single b) {
   return distance < tolerance || distance > wrapped;
 }
 
-bool is_duplicate(const CrystalState& state, int site, const Position& position) {
-  for (int m = 1; m <= state.NCell.value(); ++m) {
-    if (coincide(state.UCPos(m, 1), position[0]) && coincide(state.UCPos(m, 2), position[1]) &&
-        coincide(state.UCPos(m, 3), position[2]) && state.AtomLabel(site) == state.UCLabel(m) &&
-        state.AtomElement(site) == state.UCElement(m)) {
-      return true;
-    }
-  }
-  return false;
+bool is_duplicate(const CrystalState& state, const UnitCell& cell, const CellAtom& image) {
+  return std::any_of(cell.begin(), cell.end(), [&state, &image](const CellAtom& atom) {
+    return coincide(atom.position[0], image.position[0]) && coincide(atom.position[1], image.position[1]) &&
+           coincide(atom.position[2], image.position[2]) && state.AtomLabel(atom.site) == state.AtomLabel(image.site) &&
+           state.AtomElement(atom.site) == state.AtomElement(image.site);
+  });
 }
 
-void add_atom(CrystalState& state, int site, const Position& position) {
-  state.NCell += 1;
-  const int m = state.NCell.value();
-  state.UCLabel(m) = state.AtomLabel(site);
-  state.UCElement(m) = state.AtomElement(site);
-  state.UCOcc(m) = state.AtomOcc(site);
-  state.UCB(m) = state.AtomB(site);
-  for (int axis = 1; axis <= 3; ++axis) state.UCPos(m, axis) = position[static_cast<std::size_t>(axis - 1)];
+void add_atom(const CrystalState& state, UnitCell& cell, const CellAtom& atom) {
+  cell.push_back(atom);
+  (void)state.UCLabel(static_cast<int>(cell.size()));  // fails where the arrays have no room for it
 }
 
 }  // namespace
 
-void expand_unit_cell(CrystalState& state, const SpaceGroup& group) {
+UnitCell expand_unit_cell(const CrystalState& state, const SpaceGroup& group, Task& task) {
   std::vector<SymmetryOperator> operators;
   operators.reserve(group.operators.size());
   for (const auto& op : group.operators) operators.push_back(permute_axes(op, state.AxisSetting));
 
-  state.NCell = 0;
+  UnitCell cell;
   for (int site = 1; site <= state.NAtom.value(); ++site) {
     const Position given{state.AtomPos(site, 1), state.AtomPos(site, 2), state.AtomPos(site, 3)};
     for (const auto& op : operators) {
-      const Position image{folded_image(op, 0, given), folded_image(op, 1, given), folded_image(op, 2, given)};
-      if (!is_duplicate(state, site, image)) add_atom(state, site, image);
+      task.check();
+      const CellAtom image{site, {folded_image(op, 0, given), folded_image(op, 1, given), folded_image(op, 2, given)}};
+      if (!is_duplicate(state, cell, image)) add_atom(state, cell, image);
     }
+  }
+  return cell;
+}
+
+void commit(CrystalState& state, const UnitCell& cell) {
+  state.NCell = static_cast<int>(cell.size());
+  int m = 0;
+  for (const auto& [site, position] : cell) {
+    ++m;
+    state.UCLabel(m) = state.AtomLabel(site);
+    state.UCElement(m) = state.AtomElement(site);
+    state.UCOcc(m) = state.AtomOcc(site);
+    state.UCB(m) = state.AtomB(site);
+    for (int axis = 1; axis <= 3; ++axis) state.UCPos(m, axis) = position[static_cast<std::size_t>(axis - 1)];
   }
 }
 

@@ -1,18 +1,32 @@
 // From the asymmetric unit to the full content of the unit cell.
 #pragma once
 
+#include <array>
 #include <string>
+#include <vector>
 
 #include "core/crystal_state.h"
 #include "core/space_group.h"
+#include "core/task.h"
 
 namespace zol {
 
+/// An atom of the cell: the number of its site, from 1, and where this image of it lies, 0 <= x < 1.
+struct CellAtom {
+  int site = 0;
+  std::array<Single, 3> position{};
+};
+
+using UnitCell = std::vector<CellAtom>;
+
 /// Applies every operator to every site, folds the positions into the cell and drops what coincides with an atom of the
 /// same label and element (each axis nearer than 0.01, modulo 1). The first image of a site is kept.
-/// Reads the sites and AxisSetting; writes NCell and the UC arrays.
+/// Reads the sites and AxisSetting. Checks the task, reports nothing.
 /// @throws RunFailure  more than 2000 atoms
-void expand_unit_cell(CrystalState& state, const SpaceGroup& group);
+[[nodiscard]] UnitCell expand_unit_cell(const CrystalState& state, const SpaceGroup& group, Task& task);
+
+/// Sets NCell and entries 1 to NCell of the UC arrays from the sites of the state; those behind keep what they hold.
+void commit(CrystalState& state, const UnitCell& cell);
 
 /// "N(S)": the number of atoms in the cell and the sum of their occupancies.
 [[nodiscard]] std::string unit_cell_summary(const CrystalState& state);

@@ -99,9 +99,10 @@ void space_group(const std::string& input) {
   state.NAtom = 2;
   state.AtomPos(2, 1) = 0.25F;
   state.AtomLabel(2) = "A";
+  QuietTask task;
   for (const auto* setting : {"abc", "cab", "c-ba"}) {
     state.AxisSetting = setting;
-    expand_unit_cell(state, group);
+    commit(state, expand_unit_cell(state, group, task));
     (void)unit_cell_summary(state);
     for (int m = 1; m <= state.NCell.value(); ++m) (void)unit_cell_line(state, m);
   }

@@ -59,15 +59,15 @@ std::vector<double> mixed(const std::vector<double>& xs, const std::vector<doubl
 /// the bit.
 class Spreader {
  public:
-  Spreader(const Main1State& cell, const InterferenceGrid& grid, const InterferenceTable& table, Integer count,
-           BoundedArray<Single>& bins)
+  Spreader(const Main1State& cell, const InterferenceTable& table, Integer count, Histogram& bins, Task& task)
       : cell_(cell),
         table_(table),
+        task_(task),
         dmin_(cell.Dmin),
         count_(count.value()),
         bins_(bins),
         beyond_(bins.upper() + 1.0),
-        points_{points_of(grid, 0), points_of(grid, 1), points_of(grid, 2)},
+        points_{points_of(table.grid(), 0), points_of(table.grid(), 1), points_of(table.grid(), 2)},
         square_(points_[2].size()),
         position_(points_[2].size()) {}
 
@@ -81,6 +81,7 @@ class Spreader {
     const auto hk = mixed(hs, ks, cell_.AStar, cell_.BStar, cell_.CosGammaStar);
     const auto kl = mixed(ks, ls, cell_.BStar, cell_.CStar, cell_.CosAlphaStar);
     for (std::size_t i = 0; i < hs.size(); ++i) {
+      task_.check();
       const auto lh = mixed(ls, {hs[i]}, cell_.CStar, cell_.AStar, cell_.CosBetaStar);
       for (std::size_t j = 0; j < ks.size(); ++j) {
         place_row(hh[i] + kk[j], ll, hk[i * ks.size() + j], kl.data() + j * ls.size(), lh);
@@ -115,9 +116,10 @@ class Spreader {
 
   const Main1State& cell_;
   const InterferenceTable& table_;
+  Task& task_;
   double dmin_;
   double count_;
-  BoundedArray<Single>& bins_;
+  Histogram& bins_;
   double beyond_;  // the first position that has no bin
   std::array<std::vector<GridPoint>, 3> points_;
   std::vector<double> square_, position_;
@@ -155,15 +157,16 @@ int highest_bin(Integer count, int beyond) {
   return (count + beyond).value();
 }
 
-void fill_histogram(const CrystalState& state, const InterferenceGrid& grid, const InterferenceTable& table,
-                    Integer count, BoundedArray<Single>& bins, Task& task) {
-  for (int n = 0; n <= count.value(); ++n) bins(n) = 0;
-  Spreader spreader(state, grid, table, count, bins);
+Histogram fill_histogram(const CrystalState& state, const InterferenceTable& table, Integer count, int last,
+                         Task& task) {
+  Histogram bins("Bins", last);
+  Spreader spreader(state, table, count, bins, task);
   const int reflections = state.RefCount.value();
   for (int r = 1; r <= reflections; ++r) {
     task.report(r, reflections);
     spreader.add(state.RefH(r), state.RefK(r), state.RefL(r), state.RefI(r));
   }
+  return bins;
 }
 
 }  // namespace zol

@@ -20,10 +20,13 @@ namespace zol {
 /// @throws RunFailure  it does not, because dmin is too small
 [[nodiscard]] int highest_bin(Integer count, int beyond);
 
-/// Empties bins 0 to count and adds the reflections of the list, as it stands, with their intensities. The array has
-/// bins beyond count for what the spread carries there. Progress goes by reflections.
-/// @throws RunFailure  a point falls beyond the array, or a bin passes the range of a Single
-void fill_histogram(const CrystalState& state, const InterferenceGrid& grid, const InterferenceTable& table,
-                    Integer count, BoundedArray<Single>& bins, Task& task);
+/// Content of each bin. It has bins beyond that of the smallest spacing for what the spread carries there.
+using Histogram = BoundedArray<Single>;
+
+/// The reflections of the list, as it stands, with their intensities, in bins 0 to last. Reports by reflections.
+/// @param count  the bin of the smallest spacing
+/// @throws RunFailure  a point falls beyond the last bin, or a bin passes the range of a Single
+[[nodiscard]] Histogram fill_histogram(const CrystalState& state, const InterferenceTable& table, Integer count,
+                                       int last, Task& task);
 
 }  // namespace zol

@@ -68,7 +68,8 @@ Integer grid_points(const InterferenceGrid& grid) {
 }
 
 // The entry is rounded after each factor and once more after the divisions.
-InterferenceTable::InterferenceTable(const InterferenceGrid& grid, const CrystalliteSize& size) {
+InterferenceTable::InterferenceTable(const InterferenceGrid& grid, const CrystalliteSize& size, Task& task)
+    : grid_(grid) {
   const double p = size.CellsP;
   const double q = size.CellsQ;
   const double r = size.CellsR;
@@ -78,6 +79,7 @@ InterferenceTable::InterferenceTable(const InterferenceGrid& grid, const Crystal
   points_ = {along_a.size(), along_b.size(), along_c.size()};
   values_.reserve(points_[0] * points_[1] * points_[2]);
   for (const double of_a : along_a) {
+    task.check();
     const Single first = to_single(of_a);
     for (const double of_b : along_b) {
       const Single second = to_single(of_b * double{first});

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "core/crystal_state.h"
+#include "core/task.h"
 
 namespace zol {
 
@@ -41,8 +42,11 @@ struct InterferenceGrid {
 /// Values of the interference function at the points of one octant of a grid, 1 at the lattice point.
 class InterferenceTable {
  public:
+  /// Checks the task, reports nothing.
   /// @throws RunFailure  a number of steps is negative, a size is 0, or a value does not fit a Single
-  InterferenceTable(const InterferenceGrid& grid, const CrystalliteSize& size);
+  InterferenceTable(const InterferenceGrid& grid, const CrystalliteSize& size, Task& task);
+
+  [[nodiscard]] const InterferenceGrid& grid() const { return grid_; }
 
   /// Value at (i, j, k) steps, each from 0 to the number of steps of its axis.
   [[nodiscard]] Single operator()(int i, int j, int k) const { return row(i, j)[k]; }
@@ -52,6 +56,7 @@ class InterferenceTable {
   }
 
  private:
+  InterferenceGrid grid_;
   std::array<std::size_t, 3> points_{};
   std::vector<Single> values_;
 };

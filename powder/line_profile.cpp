@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 
 #include "core/cell_geometry.h"
 #include "core/number_text.h"
@@ -12,6 +13,7 @@ namespace {
 
 // Samples are worked on in blocks, so that what hangs on the bin alone is computed once for many of them.
 constexpr int block_size = 64;
+constexpr std::size_t lines_between_checks = 64;  // some 0.1 ms
 
 // Below zero_exponent exp() is 0. Below far_exponent a Gaussian is at most far_value, and is left out where that is
 // less than 2^-27 of what the sample holds: a Single does not change by less than 2^-26 of itself.
@@ -48,19 +50,24 @@ void add_lorentzian(Block& block, double centre, double height, double width) {
   }
 }
 
-/// Runs over the samples block by block. A sum that left the range of a Single stays infinite and fails at the end of
-/// its block.
-template <class Position, class AddLines>
-void sum_lines(BoundedArray<Single>& profile, Task& task, Position position, AddLines add_lines) {
+/// Runs over the samples block by block, in each over the lines. A sum that left the range of a Single stays infinite
+/// and fails at the end of its block.
+template <class Line, class Position, class AddLines>
+PowderProfile sum_lines(std::span<const Line> lines, Task& task, Position position, AddLines add_lines) {
+  PowderProfile profile("Profile", last_sample);
   for (int first = 0; first <= last_sample; first += block_size) {
     Block block;
     block.first = first;
     block.size = static_cast<std::size_t>(std::min(block_size, last_sample - first + 1));
     for (std::size_t m = 0; m < block.size; ++m) block.position[m] = position(first + static_cast<int>(m));
-    add_lines(block);
+    for (std::size_t n = 0; n < lines.size(); n += lines_between_checks) {
+      task.check();
+      add_lines(block, lines.subspan(n, std::min(lines_between_checks, lines.size() - n)));
+    }
     for (std::size_t m = 0; m < block.size; ++m) profile(first + static_cast<int>(m)) = to_single(block.sum[m]);
     task.report(first + static_cast<int>(block.size) - 1, last_sample);
   }
+  return profile;
 }
 
 }  // namespace
@@ -92,7 +99,7 @@ double spacing_at_point(Single x, Single y) {
   return divide(1.0, std::sqrt(double{y} * double{y} + double{x} * double{x}), "the distance from the beam");
 }
 
-std::vector<FilledBin> filled_bins(const BoundedArray<Single>& bins, int first, Integer count, Single dmin) {
+std::vector<FilledBin> filled_bins(const Histogram& bins, int first, Integer count, Single dmin) {
   std::vector<FilledBin> filled;
   for (int n = first; n <= count.value(); ++n) {
     const Single d_star = to_single(divide(divide(n, dmin, "Dmin"), count.value(), "the number of bins, 5000 / Dmin"));
@@ -101,8 +108,8 @@ std::vector<FilledBin> filled_bins(const BoundedArray<Single>& bins, int first, 
   return filled;
 }
 
-void sum_pseudo_voigt_lines(const std::vector<FilledBin>& bins, Single wavelength, const TwoThetaRange& range,
-                            const PseudoVoigt& line, BoundedArray<Single>& profile, Task& task) {
+PowderProfile sum_pseudo_voigt_lines(const std::vector<FilledBin>& bins, Single wavelength, const TwoThetaRange& range,
+                                     const PseudoVoigt& line, Task& task) {
   struct Line {
     double two_theta, gaussian, lorentzian;
   };
@@ -117,48 +124,53 @@ void sum_pseudo_voigt_lines(const std::vector<FilledBin>& bins, Single wavelengt
                      divide((g + g) * std::sqrt(ln_2) * content, w, "the line width") / std::sqrt(program_pi),
                      divide(((1.0 - g) + (1.0 - g)) * content / program_pi, w, "the line width")});
   }
-  sum_lines(
-      profile, task, [&range](int m) { return double{range.at(m)}; },
-      [&lines, w](Block& block) {
-        for (const auto& [two_theta, gaussian, lorentzian] : lines) {
+  return sum_lines(
+      std::span<const Line>(lines), task, [&range](int m) { return double{range.at(m)}; },
+      [w](Block& block, std::span<const Line> some) {
+        for (const auto& [two_theta, gaussian, lorentzian] : some) {
           add_gaussian(block, two_theta, gaussian, w);
           add_lorentzian(block, two_theta, lorentzian, w);
         }
       });
 }
 
-void sum_gaussian_lines(const std::vector<FilledBin>& bins, Single d_star_max, Single half_width,
-                        BoundedArray<Single>& profile, Task& task) {
+PowderProfile sum_gaussian_lines(const std::vector<FilledBin>& bins, Single d_star_max, Single half_width, Task& task) {
   const double w = half_width;
-  std::vector<double> heights;
-  heights.reserve(bins.size());
+  struct Line {
+    double d_star, height;
+  };
+  std::vector<Line> lines;
+  lines.reserve(bins.size());
   for (const auto& bin : bins) {
-    heights.push_back(divide(double{bin.content} * std::sqrt(ln_2), w, "the line width") / std::sqrt(program_pi));
+    lines.push_back(
+        {bin.d_star, divide(double{bin.content} * std::sqrt(ln_2), w, "the line width") / std::sqrt(program_pi)});
   }
-  sum_lines(
-      profile, task, [d_star_max](int m) { return double{d_star_at(d_star_max, m)}; },
-      [&bins, &heights, w](Block& block) {
-        for (std::size_t n = 0; n < bins.size(); ++n) add_gaussian(block, bins[n].d_star, heights[n], w);
+  return sum_lines(
+      std::span<const Line>(lines), task, [d_star_max](int m) { return double{d_star_at(d_star_max, m)}; },
+      [w](Block& block, std::span<const Line> some) {
+        for (const auto& [d_star, height] : some) add_gaussian(block, d_star, height, w);
       });
 }
 
-void divide_samples(BoundedArray<Single>& profile, Integer grid_points) {
+PowderProfile divided_samples(PowderProfile profile, Integer grid_points) {
   for (int m = 0; m <= last_sample; ++m) {
     profile(m) = to_single(divide(profile(m), grid_points.value(), "the number of points of the interference grid"));
   }
+  return profile;
 }
 
-void take_square_roots(BoundedArray<Single>& profile) {
+PowderProfile square_roots(PowderProfile profile) {
   for (int m = 0; m <= last_sample; ++m) profile(m) = to_single(square_root(profile(m), "an intensity"));
+  return profile;
 }
 
-Single largest_sample(const BoundedArray<Single>& profile) {
+Single largest_sample(const PowderProfile& profile) {
   Single largest = profile(0);
   for (int m = 1; m <= last_sample; ++m) largest = std::max(largest, profile(m));
   return largest;
 }
 
-std::vector<int> maxima(const BoundedArray<Single>& profile, Single reference) {
+std::vector<int> maxima(const PowderProfile& profile, Single reference) {
   constexpr Single threshold = 0.01F;
   std::vector<int> found;
   for (int m = 2; m < last_sample; ++m) {

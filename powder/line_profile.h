@@ -11,12 +11,16 @@
 #include "core/bounded_array.h"
 #include "core/numbers.h"
 #include "core/task.h"
+#include "powder/histogram.h"
 
 namespace zol {
 
 inline constexpr int last_sample = 1000;  ///< samples 0 to 1000
 inline constexpr double ln_2 = 0.693147;  ///< truncated, as is four times it
 inline constexpr double four_ln_2 = 2.772588;
+
+/// A pattern: samples 0 to 1000.
+using PowderProfile = BoundedArray<Single>;
 
 /// A bin that holds something.
 struct FilledBin {
@@ -26,8 +30,7 @@ struct FilledBin {
 };
 
 /// The bins from first to count with a content above 0. @throws RunFailure  count is 0 and first is not above it
-[[nodiscard]] std::vector<FilledBin> filled_bins(const BoundedArray<Single>& bins, int first, Integer count,
-                                                 Single dmin);
+[[nodiscard]] std::vector<FilledBin> filled_bins(const Histogram& bins, int first, Integer count, Single dmin);
 
 /// Part of the pattern that is sampled, in degrees.
 struct TwoThetaRange {
@@ -66,29 +69,29 @@ struct PseudoVoigt {
   Single gaussian_ratio = 0;  ///< share of the Gaussian, per cent
 };
 
-/// Sums the lines of all bins at each sample of the range. profile has samples 0 to 1000; progress goes by samples.
+/// Sums the lines of all bins at each sample of the range. Reports by samples.
 /// @throws RunFailure  the width is 0, or a sum passes the range of a Single
-void sum_pseudo_voigt_lines(const std::vector<FilledBin>& bins, Single wavelength, const TwoThetaRange& range,
-                            const PseudoVoigt& line, BoundedArray<Single>& profile, Task& task);
+[[nodiscard]] PowderProfile sum_pseudo_voigt_lines(const std::vector<FilledBin>& bins, Single wavelength,
+                                                   const TwoThetaRange& range, const PseudoVoigt& line, Task& task);
 
-/// Sums Gaussians in 1/d; each has half the height of one of unit area.
+/// Sums Gaussians in 1/d; each has half the height of one of unit area. Reports by samples.
 /// @param half_width  full width at half maximum, 1/angstrom
 /// @throws RunFailure  the width is 0, or a sum passes the range of a Single
-void sum_gaussian_lines(const std::vector<FilledBin>& bins, Single d_star_max, Single half_width,
-                        BoundedArray<Single>& profile, Task& task);
+[[nodiscard]] PowderProfile sum_gaussian_lines(const std::vector<FilledBin>& bins, Single d_star_max, Single half_width,
+                                               Task& task);
 
-/// Divides each sample by the number of points of the interference grid. @throws RunFailure  it is 0
-void divide_samples(BoundedArray<Single>& profile, Integer grid_points);
+/// Each sample divided by the number of points of the interference grid. @throws RunFailure  it is 0
+[[nodiscard]] PowderProfile divided_samples(PowderProfile profile, Integer grid_points);
 
-/// Replaces each sample by its square root. @throws RunFailure  one is negative
-void take_square_roots(BoundedArray<Single>& profile);
+/// The square root of each sample. @throws RunFailure  one is negative
+[[nodiscard]] PowderProfile square_roots(PowderProfile profile);
 
 /// The largest sample, below 0 when all are.
-[[nodiscard]] Single largest_sample(const BoundedArray<Single>& profile);
+[[nodiscard]] Single largest_sample(const PowderProfile& profile);
 
 /// Samples 2 to 999 above both neighbours and at least 0.01 of the reference. A flat top of two samples is none.
 /// @throws RunFailure  the reference is 0 and there is a maximum
-[[nodiscard]] std::vector<int> maxima(const BoundedArray<Single>& profile, Single reference);
+[[nodiscard]] std::vector<int> maxima(const PowderProfile& profile, Single reference);
 
 /// For messages: what both windows draw at full height.
 inline constexpr std::string_view display_max = "the intensity at full height (DisplayMax)";

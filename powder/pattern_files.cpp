@@ -5,7 +5,7 @@
 namespace zol {
 
 void write_xdp(const std::string& path, const TwoThetaRange& range, const PseudoVoigt& line,
-               const CrystalliteSize& size, const BoundedArray<Single>& profile) {
+               const CrystalliteSize& size, const PowderProfile& profile) {
   RecordWriter file(path);
   file.field("2-theta min").field(range.minimum).end_line();
   file.field("2-theta max").field(range.maximum).end_line();
@@ -18,7 +18,7 @@ void write_xdp(const std::string& path, const TwoThetaRange& range, const Pseudo
   file.commit();
 }
 
-void write_edp(const std::string& path, Single d_star_max, const BoundedArray<Single>& profile) {
+void write_edp(const std::string& path, Single d_star_max, const PowderProfile& profile) {
   RecordWriter file(path);
   for (int m = 0; m <= last_sample; ++m) file.field(d_star_at(d_star_max, m)).field(profile(m)).end_line();
   file.commit();

@@ -12,9 +12,9 @@ namespace zol {
 /// ".XDP": seven settings by name, then 2-theta and intensity of each sample.
 /// @throws RunFailure  the file can't be written
 void write_xdp(const std::string& path, const TwoThetaRange& range, const PseudoVoigt& line,
-               const CrystalliteSize& size, const BoundedArray<Single>& profile);
+               const CrystalliteSize& size, const PowderProfile& profile);
 
 /// ".EDP": 1/d and intensity of each sample. @throws RunFailure  the file can't be written
-void write_edp(const std::string& path, Single d_star_max, const BoundedArray<Single>& profile);
+void write_edp(const std::string& path, Single d_star_max, const PowderProfile& profile);
 
 }  // namespace zol

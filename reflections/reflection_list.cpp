@@ -53,17 +53,13 @@ void check_bound(const CrystalState& state, const std::array<Integer, 3>& limits
   throw RunFailure(message.str());
 }
 
-void create_arrays(Module1State& state, Long bound) {
+ReflectionList empty_list(Long bound) {
   const int upper = bound.value();
-  state.RefH.allocate(upper);
-  state.RefK.allocate(upper);
-  state.RefL.allocate(upper);
-  state.RefS.allocate(upper);
-  state.RefA.allocate(upper);
-  state.RefB.allocate(upper);
-  state.RefI.allocate(upper);
-  state.RefTwoTheta.allocate(upper);
-  state.BandHKL.allocate(upper, 2);
+  ReflectionList list;
+  for (auto* array : {&list.h, &list.k, &list.l}) array->allocate(upper);
+  for (auto* array : {&list.s, &list.a, &list.b, &list.i, &list.two_theta}) array->allocate(upper);
+  list.bands.allocate(upper, 2);
+  return list;
 }
 
 struct IndexRange {
@@ -104,37 +100,33 @@ bool selection_allows(const EnumerationSettings& settings, Integer h, Integer k)
          keeps(settings.h_mod_3_zero, settings.h_mod_3_not_zero, h);
 }
 
-void append_reflection(CrystalState& state, int h, int k, int l, Single length) {
-  state.RefCount += 1;
-  const int i = state.RefCount.value();
-  state.RefH(i) = h;
-  state.RefK(i) = k;
-  state.RefL(i) = l;
-  state.RefS(i) = to_single(double{length} / 2.0);
+void append_reflection(ReflectionList& list, int h, int k, int l, Single length) {
+  list.count += 1;
+  const int i = list.count.value();
+  list.h(i) = h;
+  list.k(i) = k;
+  list.l(i) = l;
+  list.s(i) = to_single(double{length} / 2.0);
 }
 
-/// Sets RefTwoTheta(i). @returns the Bragg angle in radians, none when there is none
-std::optional<Single> set_angle(CrystalState& state, int i) {
-  const Single sine = to_single(double{state.RefS(i)} * double{state.WaveLength});
-  if (state.WaveLength == 0 || std::abs(sine) >= 1) {
-    state.RefTwoTheta(i) = 0;
-    return std::nullopt;
-  }
+/// 2-theta in degrees, none when there is no angle.
+std::optional<Single> angle_of(Single wavelength, Single s) {
+  const Single sine = to_single(double{s} * double{wavelength});
+  if (wavelength == 0 || std::abs(sine) >= 1) return std::nullopt;
   const double theta_deg = ArcSin(sine);
-  state.RefTwoTheta(i) = to_single(theta_deg + theta_deg);
-  return to_single(double{state.RefTwoTheta(i)} / 2.0 * degree);
+  return to_single(theta_deg + theta_deg);
 }
 
 /// The columns h, k, l, k/2, d and 2-theta.
-std::string geometry_columns(const CrystalState& state, int i, bool has_angle) {
+std::string geometry_columns(const ListEntry& entry, std::optional<Single> two_theta_deg) {
   constexpr std::string_view index_pattern = "##0";
-  const double s = state.RefS(i);
-  std::string line = right_field(Format(state.RefH(i).value(), index_pattern), 4);
-  line += right_field(Format(state.RefK(i).value(), index_pattern), 4);
-  line += right_field(Format(state.RefL(i).value(), index_pattern), 4);
+  const double s = entry.s;
+  std::string line = right_field(Format(entry.h.value(), index_pattern), 4);
+  line += right_field(Format(entry.k.value(), index_pattern), 4);
+  line += right_field(Format(entry.l.value(), index_pattern), 4);
   line += right_field(Format(s, "##0.000"), 8);
   line += right_field(s > 0.0 ? Format(1.0 / s / 2.0, "#0.0000") : "", 9);
-  line += right_field(has_angle ? Format(state.RefTwoTheta(i), " ##0.000") : "", 8);
+  line += right_field(two_theta_deg ? Format(*two_theta_deg, " ##0.000") : "", 8);
   return line;
 }
 
@@ -161,54 +153,83 @@ bool centring_allows(char lattice_letter, Integer h, Integer k, Integer l) {
   }
 }
 
-void enumerate_reflections(CrystalState& state, const EnumerationSettings& settings) {
+ReflectionList enumerate_reflections(const CrystalState& state, const EnumerationSettings& settings, Task& task) {
   const std::array limits{index_limit(state.Dmin, state.AStar, "a*"), index_limit(state.Dmin, state.BStar, "b*"),
                           index_limit(state.Dmin, state.CStar, "c*")};
   const Long bound = array_bound(limits, state.LatticeLetter);
   check_bound(state, limits, bound);
   const auto ranges = index_ranges(limits, settings);
   check_memory_for_list(bound, ranges);
-  create_arrays(state, bound);
+  ReflectionList list = empty_list(bound);
   const auto& [h_range, k_range, l_range] = ranges;
   const Single sphere = to_single(divide(1.0, state.Dmin, "Dmin"));
   const char letter = state.LatticeLetter.empty() ? 'P' : state.LatticeLetter.front();
 
-  state.RefCount = 0;
   for (int h = h_range.lowest; h <= h_range.highest; ++h) {
     for (int k = k_range.lowest; k <= k_range.highest; ++k) {
+      task.check();
       if (!selection_allows(settings, h, k)) continue;
       for (int l = l_range.lowest; l <= l_range.highest; ++l) {
         if ((h == 0 && k == 0 && l == 0) || !centring_allows(letter, h, k, l)) continue;
         const Single length = DHKL(state, h, k, l);
-        if (sphere >= length) append_reflection(state, h, k, l, length);
+        if (sphere >= length) append_reflection(list, h, k, l, length);
       }
     }
   }
-  if (state.KikuchiRefLimit == 0 || state.KikuchiRefLimit > state.RefCount) state.KikuchiRefLimit = state.RefCount;
+  return list;
 }
 
-void sort_by_s(CrystalState& state) {
+void sort_list(ReflectionList& list, Task& task) {
   constexpr double never_taken = 1000;  // a key from here on is passed over
   std::vector<double> keys;
-  for (int i = 0; i <= state.RefCount.value(); ++i) keys.push_back(state.RefS(i));
-  const auto order = exchange_order(keys, 1, first_smallest_below(never_taken));
-  reorder(state.RefS, order);
-  for (auto* array : {&state.RefH, &state.RefK, &state.RefL}) reorder(*array, order);
+  for (int i = 0; i <= list.count.value(); ++i) keys.push_back(list.s(i));
+  const auto order = exchange_order(keys, 1, first_smallest_below(never_taken), false, task);
+  reorder(list.s, order);
+  for (auto* array : {&list.h, &list.k, &list.l}) reorder(*array, order);
 }
 
-std::vector<std::string> compute_list(CrystalState& state, const Radiation& radiation) {
+void compute_list(const CrystalState& state, const Radiation& radiation, ReflectionList& list, Task& task) {
   // Observed reflections left from another crystal don't count beside atoms, however absurd they are.
-  const bool observed_count = state.NAtom <= 0 && state.RefCount > 0;
+  const bool observed_count = state.NAtom <= 0 && list.count > 0;
   const auto observed = observed_count ? ObservedReflections(state) : ObservedReflections();
-  ScatteringCell atoms(state, radiation);
-  std::vector<std::string> lines;
-  for (int i = 1; i <= state.RefCount.value(); ++i) {
-    const auto theta = set_angle(state, i);
-    std::string line = geometry_columns(state, i, theta.has_value());
-    ReflectionIntensity(state, i, theta.value_or(0.0F), radiation, observed, atoms, line);
-    if (state.RefI(i) > 0 || state.NAtom >= 1) lines.push_back(std::move(line));
+  const ScatteringCell atoms(state, radiation);
+  for (int i = 1; i <= list.count.value(); ++i) {
+    task.check();
+    const auto two_theta_deg = angle_of(state.WaveLength, list.s(i));
+    list.two_theta(i) = two_theta_deg.value_or(0.0F);
+    const Single theta = to_single(double{list.two_theta(i)} / 2.0 * degree);
+    const ListEntry entry{list.h(i), list.k(i), list.l(i), list.s(i), theta};
+    const auto intensity = ReflectionIntensity(state, entry, observed, atoms);
+    list.a(i) = intensity.f.a;
+    list.b(i) = intensity.f.b;
+    list.i(i) = intensity.value;
+    if (list.i(i) > 0 || state.NAtom >= 1)
+      list.lines.push_back(geometry_columns(entry, two_theta_deg) + intensity.columns);
   }
-  return lines;
+  list.scatter_missing = state.NAtom > 0 && list.count > 0 && atoms.scatter_missing();
+}
+
+ReflectionList reflection_list(const CrystalState& state, const EnumerationSettings& settings,
+                               const Radiation& radiation, Task& task) {
+  auto list = enumerate_reflections(state, settings, task);
+  sort_list(list, task);
+  compute_list(state, radiation, list, task);
+  return list;
+}
+
+void commit(CrystalState& state, ReflectionList list) {
+  state.RefCount = list.count;
+  state.RefH = std::move(list.h);
+  state.RefK = std::move(list.k);
+  state.RefL = std::move(list.l);
+  state.RefS = std::move(list.s);
+  state.RefA = std::move(list.a);
+  state.RefB = std::move(list.b);
+  state.RefI = std::move(list.i);
+  state.RefTwoTheta = std::move(list.two_theta);
+  state.BandHKL = std::move(list.bands);
+  if (state.KikuchiRefLimit == 0 || state.KikuchiRefLimit > list.count) state.KikuchiRefLimit = list.count;
+  if (list.scatter_missing) state.ScatterMissing = 1;
 }
 
 }  // namespace zol

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/crystal_state.h"
+#include "core/task.h"
 #include "reflections/scattering.h"
 
 namespace zol {
@@ -28,19 +29,39 @@ struct EnumerationSettings {
 /// @throws RunFailure  a sum of indices in the rule of the letter leaves 16 bits
 [[nodiscard]] bool centring_allows(char lattice_letter, Integer h, Integer k, Integer l);
 
-/// Creates the Ref arrays and fills RefCount, RefH, RefK, RefL and RefS with the reflections of d >= Dmin that the
-/// lattice letter and the settings allow; h outermost, l innermost, all rising. No further absences are applied. Then
-/// limits KikuchiRefLimit to the count.
+/// The list of a crystal, entries from 1. The arrays have the bounds and names of those that they are to become.
+struct ReflectionList {
+  Long count;
+  BoundedArray<Integer> h{"RefH"}, k{"RefK"}, l{"RefL"};
+  BoundedArray<Single> s{"RefS"};                 ///< sin(theta)/lambda
+  BoundedArray<Single> a{"RefA"}, b{"RefB"};      ///< structure factor
+  BoundedArray<Single> i{"RefI"};                 ///< intensity
+  BoundedArray<Single> two_theta{"RefTwoTheta"};  ///< degrees, 0 when there is no angle
+  BoundedTable<Integer> bands{"BandHKL"};         ///< empty, for the Kikuchi band list
+  bool scatter_missing = false;                   ///< an element had no scattering factor
+  std::vector<std::string> lines;  ///< what to show: with atoms every reflection, else those of positive intensity
+};
+
+/// The reflections of d >= Dmin that the lattice letter and the settings allow, with their indices and s; h outermost,
+/// l innermost, all rising. No further absences are applied.
 /// @throws RunFailure  no cell (division by zero), a negative one, indices or their sums beyond 16 bits, not enough
 /// memory
-void enumerate_reflections(CrystalState& state, const EnumerationSettings& settings);
+[[nodiscard]] ReflectionList enumerate_reflections(const CrystalState& state, const EnumerationSettings& settings,
+                                                   Task& task);
 
-/// Sorts the list by RefS, ascending, by exchanges: among equal values the order is that of a selection sort.
-void sort_by_s(CrystalState& state);
+/// Sorts indices and s by s, ascending, by exchanges: among equal values the order is that of a selection sort.
+void sort_list(ReflectionList& list, Task& task);
 
-/// Computes the sorted list: angle, structure factor and intensity of each reflection.
-/// @returns the lines to show. With atoms that is every reflection, else those of positive intensity
+/// Adds angle, structure factor, intensity and line of each reflection, in the order of the list.
 /// @throws RunFailure  the cell volume is 0
-[[nodiscard]] std::vector<std::string> compute_list(CrystalState& state, const Radiation& radiation);
+void compute_list(const CrystalState& state, const Radiation& radiation, ReflectionList& list, Task& task);
+
+/// All three: the list as the main window shows it. They check the task and report nothing.
+[[nodiscard]] ReflectionList reflection_list(const CrystalState& state, const EnumerationSettings& settings,
+                                             const Radiation& radiation, Task& task);
+
+/// Puts a list in place of the present one, its lines aside: RefCount, the Ref arrays, BandHKL and, where an element
+/// had no scattering factor, ScatterMissing. Limits KikuchiRefLimit to the count.
+void commit(CrystalState& state, ReflectionList list);
 
 }  // namespace zol

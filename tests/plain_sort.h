@@ -7,8 +7,8 @@
 
 #include "analysis/triple_table.h"
 #include "kikuchi/kikuchi_pattern.h"
-#include "reflections/reflection_list.h"
 #include "spots/fiber_texture.h"
+#include "tests/lists.h"
 
 namespace zol {
 

@@ -44,14 +44,13 @@ CrystalState computed(const std::string& crystal, Single dmin) {
   file.read_contents(state);
   EXPECT_TRUE(calc_cell(state));
   const auto group = read_space_group(file_of(state.SGNumber.value()));
-  expand_unit_cell(state, group);
+  QuietTask task;
+  commit(state, expand_unit_cell(state, group, task));
   state.LatticeLetter = group.symbol.substr(0, 1);
   state.AsfXCount = read_scatter_table(ZOL_SOURCE_DIR "/data/ZOL/Asf/ASF-X.csv", state.AsfX);
   state.WaveLength = 1.542F;
   state.Dmin = dmin;
-  enumerate_reflections(state, {{true, true, true}, {}});
-  sort_by_s(state);
-  EXPECT_FALSE(compute_list(state, {true, false}).empty());
+  commit(state, reflection_list(state, {{true, true, true}, {}}, {true, false}, task));
   EXPECT_EQ(state.ScatterMissing, 0);
   return state;
 }

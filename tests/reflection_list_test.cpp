@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "tests/crystals.h"
+#include "tests/lists.h"
 #include "tests/test_files.h"
 
 namespace zol {

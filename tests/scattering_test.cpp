@@ -111,7 +111,7 @@ TEST(StructureFactor, AgreesWithThePlainLoopToTheBit) {
       for (int axis = 1; axis <= 3; ++axis) state.UCPos(m, axis) = cell.position(uniform(random), m);
     }
     for (const auto& radiation : {xrays, electrons}) {
-      ScatteringCell atoms(state, radiation);
+      const ScatteringCell atoms(state, radiation);
       for (int n = 0; n < 1000; ++n) {
         set_list(state, {{n % 17 - 8, n % 11 - 5, n % 7, 0, uniform(random)}});
         state.RefB.allocate(1);
@@ -135,25 +135,22 @@ TEST(Intensity, OfOneAtomIsTheOneByHand) {
   state.UCPos(1, 1) = 0.125F;
   state.UCOcc(1) = 0.5F;
   state.UCB(1) = 2;
-  set_list(state, {{2, 0, 0, 0}});
-  state.RefB.allocate(1);
-  const auto line = [&state](double theta, const Radiation& radiation) {
-    std::string columns;
-    ScatteringCell atoms(state, radiation);
-    ReflectionIntensity(state, 1, to_single(theta), radiation, ObservedReflections(state), atoms, columns);
-    return columns;
+  Intensity intensity;
+  const auto line = [&state, &intensity](double theta, const Radiation& radiation) {
+    intensity = ReflectionIntensity(state, {2, 0, 0, 0.25F, to_single(theta)}, {}, ScatteringCell(state, radiation));
+    return intensity.columns;
   };
   const double share = 0.5 * std::exp(-2 * 0.0625);
   EXPECT_EQ(line(0, xrays).size(), 24U) << "no angle, no column I";
-  EXPECT_EQ(state.RefI(1), 0);
+  EXPECT_EQ(intensity.value, 0);
   EXPECT_EQ(line(std::asin(0.25 * 1.542), xrays).size(), 24U + 11);
-  EXPECT_NEAR(state.RefA(1), 0, 1e-5);
-  EXPECT_NEAR(state.RefB(1), share * na_xrays, 1e-5);
-  EXPECT_NEAR(state.RefI(1), std::pow(share * na_xrays, 2) * 10.8945 / 64 / 64 * 100, 1e-4);
+  EXPECT_NEAR(intensity.f.a, 0, 1e-5);
+  EXPECT_NEAR(intensity.f.b, share * na_xrays, 1e-5);
+  EXPECT_NEAR(intensity.value, std::pow(share * na_xrays, 2) * 10.8945 / 64 / 64 * 100, 1e-4);
 
   const double shown = std::pow(share * na_electrons, 2) / 64 / 64 * 1e5;
   EXPECT_NEAR(Val(line(0, electrons).substr(24)), shown, 6e-4);
-  EXPECT_NEAR(state.RefI(1), shown / 0.25 / 2, 1e-4) << "what is stored is divided by 2 s";
+  EXPECT_NEAR(intensity.value, shown / 0.25 / 2, 1e-4) << "what is stored is divided by 2 s";
   state.CellVolume = 0;
   EXPECT_EQ(failure_of([&] { (void)line(0, electrons); }), "division by zero: the cell volume is 0");
 }

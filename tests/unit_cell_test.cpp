@@ -35,7 +35,8 @@ CrystalState expanded(const std::vector<Site>& sites, const SpaceGroup& group, c
     for (int axis = 1; axis <= 3; ++axis) state.AtomPos(i, axis) = site.at[static_cast<std::size_t>(axis - 1)];
     state.AtomB(i) = 0.5F;
   }
-  expand_unit_cell(state, group);
+  QuietTask task;
+  commit(state, expand_unit_cell(state, group, task));
   return state;
 }
 

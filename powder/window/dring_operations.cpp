@@ -1,4 +1,5 @@
 #include <cmath>
+#include <utility>
 
 #include "powder/histogram.h"
 #include "powder/line_profile.h"
@@ -75,15 +76,15 @@ void DRCalc(Workbench& bench) {
   form.allocate(state.Dmin, 10000);
   const auto grid = interference_grid(state, form.size());
   form.Label6.set_caption(grid_text(grid));
-  const InterferenceTable table(grid, form.size());
-
   BarTask task(form.ProgressBar1);
+  const InterferenceTable table(grid, form.size(), task);
+
   form.ProgressBar1.set_range(0, to_single(state.RefCount.value()));
-  fill_histogram(state, grid, table, form.BinCount, form.Bins, task);
+  form.Bins = fill_histogram(state, table, form.BinCount, form.Bins.upper(), task);
   form.ProgressBar1.set_range(0, last_sample);
   const auto bins = filled_bins(form.Bins, 1, form.BinCount, state.Dmin);
-  sum_gaussian_lines(bins, form.DStarMax, form.HalfWidth, form.Profile, task);
-  if (form.Check1.checked()) take_square_roots(form.Profile);
+  auto profile = sum_gaussian_lines(bins, form.DStarMax, form.HalfWidth, task);
+  form.Profile = form.Check1.checked() ? square_roots(std::move(profile)) : std::move(profile);
 
   if (form.DisplayMax == 0) form.DisplayMax = largest_sample(form.Profile);
   set_scales(form);

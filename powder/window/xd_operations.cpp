@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "powder/histogram.h"
 #include "powder/window/open_xd.h"
@@ -79,14 +80,14 @@ void XDCalc(Workbench& bench) {
   write_settings(form);
 
   const Hourglass hourglass(form);
-  const InterferenceTable table(grid, form.size());
   BarTask task(form.ProgressBar1);
+  const InterferenceTable table(grid, form.size(), task);
   form.ProgressBar1.set_range(1, to_single(state.RefCount.value()));
-  fill_histogram(state, grid, table, form.BinCount, form.Bins, task);
+  form.Bins = fill_histogram(state, table, form.BinCount, form.Bins.upper(), task);
   form.ProgressBar1.set_range(0, last_sample);
   const auto bins = filled_bins(form.Bins, 0, form.BinCount, state.Dmin);
-  sum_pseudo_voigt_lines(bins, state.WaveLength, form.range(), form.line(), form.Profile, task);
-  divide_samples(form.Profile, points);
+  auto profile = sum_pseudo_voigt_lines(bins, state.WaveLength, form.range(), form.line(), task);
+  form.Profile = divided_samples(std::move(profile), points);
   form.PeakMax = std::max(0.0F, largest_sample(form.Profile));
   form.DisplayMax = form.PeakMax;
   xd::draw(form, form.PeakMax, xd::peak_max);

@@ -1,5 +1,7 @@
 #include "reflections/window/main1_operations.h"
 
+#include <utility>
+
 #include "analysis/window/hkl3make.h"
 #include "core/cell_geometry.h"
 #include "core/number_text.h"
@@ -64,7 +66,8 @@ void AtomCcalc(Workbench& bench) {
   CrystalState& state = form.state;
   form.List1.clear();
   if (state.SGFile.empty()) throw RunFailure("the unit cell needs a space group, none has been chosen");
-  expand_unit_cell(state, read_space_group(state.SGFile));
+  QuietTask task;
+  commit(state, expand_unit_cell(state, read_space_group(state.SGFile), task));
   form.Label20.set_caption(unit_cell_summary(state));
   for (int m = 1; m <= state.NCell.value(); ++m) form.List1.add_item(unit_cell_line(state, m));
 }
@@ -86,9 +89,11 @@ void CalcReflections(Workbench& bench) {
   state.LatticeLetter = state.SGName.substr(0, 1);
 
   const Hourglass hourglass(form);
-  enumerate_reflections(state, enumeration_settings(form));
-  sort_by_s(state);
-  for (const auto& line : compute_list(state, {form.Option1.on(), form.Option2.on()})) form.List2.add_item(line);
+  QuietTask task;
+  auto list = reflection_list(state, enumeration_settings(form), {form.Option1.on(), form.Option2.on()}, task);
+  const auto lines = std::move(list.lines);
+  commit(state, std::move(list));
+  for (const auto& line : lines) form.List2.add_item(line);
   if (state.ScatterMissing == 1) {
     bench.services.message("No Scattering factor table", "Error");
     form.List2.clear();
