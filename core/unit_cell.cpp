@@ -27,15 +27,15 @@ bool coincide(Single a, Single b) {
   return distance < tolerance || distance > wrapped;
 }
 
-bool is_duplicate(const CrystalState& state, const UnitCell& cell, const CellAtom& image) {
-  return std::any_of(cell.begin(), cell.end(), [&state, &image](const CellAtom& atom) {
+bool is_duplicate(const CrystalState& state, const UnitCell& cell, const SiteImage& image) {
+  return std::any_of(cell.begin(), cell.end(), [&state, &image](const SiteImage& atom) {
     return coincide(atom.position[0], image.position[0]) && coincide(atom.position[1], image.position[1]) &&
            coincide(atom.position[2], image.position[2]) && state.AtomLabel(atom.site) == state.AtomLabel(image.site) &&
            state.AtomElement(atom.site) == state.AtomElement(image.site);
   });
 }
 
-void add_atom(const CrystalState& state, UnitCell& cell, const CellAtom& atom) {
+void add_atom(const CrystalState& state, UnitCell& cell, const SiteImage& atom) {
   cell.push_back(atom);
   (void)state.UCLabel(static_cast<int>(cell.size()));  // fails where the arrays have no room for it
 }
@@ -52,7 +52,7 @@ UnitCell expand_unit_cell(const CrystalState& state, const SpaceGroup& group, Ta
     const Position given{state.AtomPos(site, 1), state.AtomPos(site, 2), state.AtomPos(site, 3)};
     for (const auto& op : operators) {
       task.check();
-      const CellAtom image{site, {folded_image(op, 0, given), folded_image(op, 1, given), folded_image(op, 2, given)}};
+      const SiteImage image{site, {folded_image(op, 0, given), folded_image(op, 1, given), folded_image(op, 2, given)}};
       if (!is_duplicate(state, cell, image)) add_atom(state, cell, image);
     }
   }

@@ -11,13 +11,13 @@
 
 namespace zol {
 
-/// An atom of the cell: the number of its site, from 1, and where this image of it lies, 0 <= x < 1.
-struct CellAtom {
+/// An atom of the cell as the image of a site: its number, from 1, and where this image of it lies, 0 <= x < 1.
+struct SiteImage {
   int site = 0;
   std::array<Single, 3> position{};
 };
 
-using UnitCell = std::vector<CellAtom>;
+using UnitCell = std::vector<SiteImage>;
 
 /// Applies every operator to every site, folds the positions into the cell and drops what coincides with an atom of the
 /// same label and element (each axis nearer than 0.01, modulo 1). The first image of a site is kept.
