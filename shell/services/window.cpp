@@ -6,20 +6,6 @@
 
 namespace zol {
 
-int NamedValues::dimensions(const std::string& name) const {
-  const auto entry = entries_.find(name);
-  return entry == entries_.end() ? -1 : entry->second.dimensions;
-}
-
-std::string NamedValues::text(const std::string& name, std::span<const int> indices) const {
-  const auto entry = entries_.find(name);
-  if (entry == entries_.end()) throw RunFailure("there is no field " + name);
-  if (indices.size() != static_cast<std::size_t>(entry->second.dimensions)) {
-    throw RunFailure(name + " takes " + std::to_string(entry->second.dimensions) + " indices");
-  }
-  return entry->second.text(indices);
-}
-
 void Window::set_caption(std::string_view caption) {
   caption_ = caption;
   if (view_ != nullptr) view_->window_changed(*this);

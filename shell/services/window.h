@@ -4,64 +4,16 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "core/bounded_array.h"
-#include "core/number_text.h"
 #include "shell/services/controls.h"
-#include "shell/services/latin1.h"
+#include "shell/services/named_values.h"
 #include "shell/services/services.h"
 
 namespace zol {
-
-/// Plain text of a value in UTF-8, as a view or a script shows it.
-[[nodiscard]] inline std::string shown_text(const String& value) { return utf8_of_latin1(value); }
-template <class Number>
-[[nodiscard]] std::string shown_text(Number value) {
-  return plain_text(value);
-}
-
-/// Public fields and arrays under their names, to be read as text. The values are looked at when asked, not copied.
-class NamedValues {
- public:
-  template <class Value>
-  void add(const std::string& name, const Value& value) {
-    entries_[name] = {0, [&value](std::span<const int>) { return shown_text(value); }};
-  }
-  template <class Value>
-  void add(const std::string& name, const BoundedArray<Value>& array) {
-    entries_[name] = {1, [&array](std::span<const int> index) { return shown_text(array(index[0])); }};
-  }
-  template <class Value>
-  void add(const std::string& name, const BoundedTable<Value>& table) {
-    entries_[name] = {2, [&table](std::span<const int> index) { return shown_text(table(index[0], index[1])); }};
-  }
-
-  /// A name of a file is shown as it stands.
-  void add_file_name(const std::string& name, const String& path) {
-    entries_[name] = {0, [&path](std::span<const int>) { return path; }};
-  }
-  /// A value that is put together when asked.
-  void add_computed(const std::string& name, int dimensions, std::function<std::string(std::span<const int>)> text) {
-    entries_[name] = {dimensions, std::move(text)};
-  }
-
-  /// Number of indices that a name takes; -1 when there is no such name.
-  [[nodiscard]] int dimensions(const std::string& name) const;
-  /// @throws RunFailure  an index out of bounds, or an array that has not been allocated
-  [[nodiscard]] std::string text(const std::string& name, std::span<const int> indices) const;
-
- private:
-  struct Entry {
-    int dimensions = 0;
-    std::function<std::string(std::span<const int>)> text;
-  };
-  std::map<std::string, Entry> entries_;
-};
 
 /// What shows windows on a screen. Told after each change; a headless program has none.
 class WindowView {
