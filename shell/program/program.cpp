@@ -6,8 +6,8 @@
 namespace zol {
 
 Program::Program(DataRoot data, Services& services)
-    : data_(std::move(data)), bench_{state_, windows_, services, data_} {
-  module1_.add_fields<Module1State>(state_);
+    : data_(std::move(data)), bench_(state_, windows_, services, data_) {
+  module1_.add_fields(bench_.state);
   add_windows(bench_);
 }
 
