@@ -26,6 +26,12 @@ std::string NamedValues::text(const std::string& name, std::span<const int> indi
   return printed->second.text(indices);
 }
 
+std::vector<std::string> NamedValues::names() const {
+  std::vector<std::string> names;
+  for (const auto& [name, printed] : printed_) names.push_back(name);
+  return names;
+}
+
 NamedValues::Copies NamedValues::copies() const {
   Copies copies;
   for (const auto& [name, kept] : kept_) copies[name] = kept.copy();

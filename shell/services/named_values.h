@@ -8,6 +8,7 @@
 #include <string>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "core/bounded_array.h"
 #include "core/number_text.h"
@@ -70,6 +71,9 @@ class NamedValues {
   [[nodiscard]] int dimensions(const std::string& name) const;
   /// @throws RunFailure  an index out of bounds, or an array that has not been allocated
   [[nodiscard]] std::string text(const std::string& name, std::span<const int> indices) const;
+
+  /// Of all that has a text.
+  [[nodiscard]] std::vector<std::string> names() const;
 
   using Copies = std::map<std::string, std::any>;
   [[nodiscard]] Copies copies() const;

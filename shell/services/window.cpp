@@ -29,6 +29,29 @@ void Window::hide() {
   if (view_ != nullptr) view_->window_changed(*this);
 }
 
+Window::Copy Window::copy() const {
+  Copy copy{caption_, mouse_pointer_, visible_, fields_.copies(), {}};
+  for (const Control* control : controls_) copy.controls[control->name()] = {control->shown(), control->copy()};
+  return copy;
+}
+
+void Window::put_back(const Copy& copy) {
+  fields_.put_back(copy.fields);
+  for (const auto& [name, held] : copy.controls) {
+    Control* control = find(name);
+    if (control == nullptr) continue;
+    control->set_shown(held.shown);
+    control->put_back(held.contents);
+  }
+  caption_ = copy.caption;
+  mouse_pointer_ = copy.mouse_pointer;
+  const bool comes_up = copy.visible && !visible_;
+  visible_ = copy.visible;
+  if (view_ == nullptr) return;
+  if (comes_up) view_->window_shown(*this);
+  view_->window_changed(*this);
+}
+
 Control* Window::find(std::string_view control_name) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(),
                                   [control_name](const Control* control) { return control->name() == control_name; });
@@ -74,6 +97,18 @@ std::vector<std::string> Windows::names() const {
   std::vector<std::string> names;
   for (const auto& [name, type] : types_) names.push_back(name);
   return names;
+}
+
+Windows::Copies Windows::copies() const {
+  Copies copies;
+  for (const auto& [name, window] : windows_) copies[name] = window->copy();
+  return copies;
+}
+
+void Windows::put_back(const Copies& copies) {
+  for (const auto& [name, copy] : copies) {
+    if (Window* window = find(name)) window->put_back(copy);
+  }
 }
 
 void Windows::unload(const std::string& name) {

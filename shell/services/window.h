@@ -1,6 +1,7 @@
 // A window: a caption, its controls by name, its public fields and operations by name, and the set of all windows.
 #pragma once
 
+#include <any>
 #include <functional>
 #include <map>
 #include <memory>
@@ -58,6 +59,22 @@ class Window {
   [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
   [[nodiscard]] Control* find(std::string_view control_name) const;  ///< nullptr when there is none
   [[nodiscard]] NamedValues& fields() { return fields_; }
+
+  /// All that can change about a window, its fields and its controls.
+  struct Copy {
+    struct Held {
+      Control::Shown shown;
+      std::any contents;
+    };
+    std::string caption;
+    MousePointer mouse_pointer = MousePointer::Default;
+    bool visible = false;
+    NamedValues::Copies fields;
+    std::map<std::string, Held> controls;  ///< by name
+  };
+  [[nodiscard]] Copy copy() const;
+  /// Takes a copy of this window; no handler runs, the view is told.
+  void put_back(const Copy& copy);
 
   void add_operation(const std::string& name, std::function<void()> operation) {
     operations_[name] = std::move(operation);
@@ -130,6 +147,12 @@ class Windows {
   [[nodiscard]] Window* find(const std::string& name) const;
   /// Names of all windows, existing or not.
   [[nodiscard]] std::vector<std::string> names() const;
+
+  /// Of the windows that exist, by name.
+  using Copies = std::map<std::string, Window::Copy>;
+  [[nodiscard]] Copies copies() const;
+  /// Those that exist still or again take theirs; no handler runs.
+  void put_back(const Copies& copies);
 
   /// Ends a window; its next use makes a new one. Its handlers may still be running, so that its memory goes later.
   void unload(const std::string& name);
