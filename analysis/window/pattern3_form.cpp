@@ -8,7 +8,7 @@ namespace {
 constexpr int picture_twips = 7680;  // 512 pixels
 
 template <class... Arrays>
-void add_arrays(NamedValues& fields, const Arrays&... arrays) {
+void add_arrays(NamedValues& fields, Arrays&... arrays) {
   (fields.add(arrays.name(), arrays), ...);
 }
 
@@ -17,7 +17,7 @@ void add_arrays(NamedValues& fields, const Arrays&... arrays) {
 Pattern3Form::Pattern3Form(Workbench& bench)
     : Window(window_name, "KIKUCHI PATTERN ANALYSIS"),
       Picture1(*this, bench.services, "Picture1", picture_twips, picture_twips),
-      CommonDialog1(bench.services) {
+      CommonDialog1(*this, bench.services, "CommonDialog1") {
   Picture1.describe_place = [](double x, double y) {
     return value_text("x", x, "0.0", "") + value_text("   y", y, "0.0", " pixels");
   };
@@ -29,6 +29,7 @@ Pattern3Form::Pattern3Form(Workbench& bench)
   add_triples<&TripleTable::TripleS>("TripleS");
   add_triples<&TripleTable::TripleI>("TripleI");
   add_triples<&TripleTable::TripleAngle>("TripleAngle");
+  fields().keep("triples", triples);
   fields().add("NhklWanted", NhklWanted);
   fields().add("NhklUsed", NhklUsed);
   fields().add("LastLine", lines.LastLine);

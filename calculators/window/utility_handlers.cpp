@@ -9,16 +9,16 @@
 namespace zol {
 
 UtilityForm::UtilityForm(Workbench& /*bench*/) : Window(window_name, "Utility") {
-  const std::pair<const char*, const Single*> singles[] = {{"Phi1", &Phi1},       {"Rotate1", &Rotate1},
-                                                           {"Phi2", &Phi2},       {"Rotate2", &Rotate2},
-                                                           {"Length1", &Length1}, {"LengthRotate1", &LengthRotate1},
-                                                           {"Length2", &Length2}, {"LengthRotate2", &LengthRotate2},
-                                                           {"VectorU", &VectorU}, {"VectorV", &VectorV},
-                                                           {"VectorW", &VectorW}, {"VectorH", &VectorH},
-                                                           {"VectorK", &VectorK}, {"VectorL", &VectorL},
-                                                           {"Angle1", &Angle1},   {"Angle2", &Angle2},
-                                                           {"Angle3", &Angle3},   {"Angle4", &Angle4},
-                                                           {"Angle5", &Angle5},   {"Angle6", &Angle6}};
+  const std::pair<const char*, Single*> singles[] = {{"Phi1", &Phi1},       {"Rotate1", &Rotate1},
+                                                     {"Phi2", &Phi2},       {"Rotate2", &Rotate2},
+                                                     {"Length1", &Length1}, {"LengthRotate1", &LengthRotate1},
+                                                     {"Length2", &Length2}, {"LengthRotate2", &LengthRotate2},
+                                                     {"VectorU", &VectorU}, {"VectorV", &VectorV},
+                                                     {"VectorW", &VectorW}, {"VectorH", &VectorH},
+                                                     {"VectorK", &VectorK}, {"VectorL", &VectorL},
+                                                     {"Angle1", &Angle1},   {"Angle2", &Angle2},
+                                                     {"Angle3", &Angle3},   {"Angle4", &Angle4},
+                                                     {"Angle5", &Angle5},   {"Angle6", &Angle6}};
   for (const auto& [name, field] : singles) fields().add(name, *field);
   fields().add("MatrixCells", MatrixCells);
 }

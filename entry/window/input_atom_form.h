@@ -11,7 +11,7 @@ struct InputAtomForm : TableForm {
   static constexpr auto window_name = "InputAtom";
 
   explicit InputAtomForm(Workbench& bench)
-      : TableForm(window_name, "Atomic Coodinates", 7), CommonDialog1(bench.services) {}
+      : TableForm(window_name, "Atomic Coodinates", 7), CommonDialog1(*this, bench.services, "CommonDialog1") {}
 
   TextBox Text2{*this, "Text2", "origin shift ="};  // in x; the caption stands for all three
   TextBox Text3{*this, "Text3"};                    // in y

@@ -10,7 +10,7 @@ struct CameraParametersForm : Window {
   static constexpr auto window_name = "CameraParameters";
 
   explicit CameraParametersForm(Workbench& bench)
-      : Window(window_name, "Camera Parameters"), CommonDialog1(bench.services) {}
+      : Window(window_name, "Camera Parameters"), CommonDialog1(*this, bench.services, "CommonDialog1") {}
 
   TextBox Text1{*this, "Text1", "Acquisition angle (deg.) ="};
   TextBox Text2{*this, "Text2", "X-shift (deg.) ="};

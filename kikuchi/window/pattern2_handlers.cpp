@@ -18,9 +18,10 @@ void Command4_Click(Workbench& bench, Pattern2Form& form);
 void Command8_Click(Workbench& bench, Pattern2Form& form);
 
 /// A typed component of the axis. The flag tells that the pattern is not that of the axis.
-void take_axis(Workbench& bench, const TextBox& box, Single& component) {
-  main1_state(bench).PatternFlag = 2;
-  component = single_in(box);
+void take_axis(Workbench& bench, const TextBox& box, Single Main1State::*component) {
+  CrystalState& state = main1_state(bench);
+  state.PatternFlag = 2;
+  state.*component = single_in(box);
 }
 
 bool has_axis(const CrystalState& state) { return state.ZoneU != 0 || state.ZoneV != 0 || state.ZoneW != 0; }
@@ -127,9 +128,9 @@ void Text1_Change(Workbench& bench, Pattern2Form& form) {
   if (double{camera.CamYShift} + camera.CamAcquisition > widest) limit(widest - camera.CamYShift);
 }
 
-void Text3_Change(Workbench& bench, Pattern2Form& form) { take_axis(bench, form.Text3, bench.state.ZoneU); }
-void Text4_Change(Workbench& bench, Pattern2Form& form) { take_axis(bench, form.Text4, bench.state.ZoneV); }
-void Text5_Change(Workbench& bench, Pattern2Form& form) { take_axis(bench, form.Text5, bench.state.ZoneW); }
+void Text3_Change(Workbench& bench, Pattern2Form& form) { take_axis(bench, form.Text3, &Main1State::ZoneU); }
+void Text4_Change(Workbench& bench, Pattern2Form& form) { take_axis(bench, form.Text4, &Main1State::ZoneV); }
+void Text5_Change(Workbench& bench, Pattern2Form& form) { take_axis(bench, form.Text5, &Main1State::ZoneW); }
 
 void Text11_Change(Workbench& bench, Pattern2Form& form) { main1_state(bench).MarkH = integer_in(form.Text11); }
 void Text12_Change(Workbench& bench, Pattern2Form& form) { main1_state(bench).MarkK = integer_in(form.Text12); }

@@ -15,7 +15,7 @@ struct ZaxisForm : Window {
   explicit ZaxisForm(Workbench& bench)
       : Window(window_name, "Zone Axis"),
         Picture1(*this, bench.services, "Picture1", 6360, 6360),
-        CommonDialog1(bench.services) {
+        CommonDialog1(*this, bench.services, "CommonDialog1") {
     Picture1.describe_place = [this](double x, double y) {
       const double radius = std::hypot(x, y);
       if (radius > 1) return std::string("beyond the half sphere");

@@ -56,7 +56,7 @@ DringForm::DringForm(Workbench& bench)
     : Window(window_name, "DS-ring"),
       Picture1(*this, bench.services, "Picture1", 9000, 3600),
       Picture2(*this, bench.services, "Picture2", 8400, 8400),
-      CommonDialog1(bench.services) {
+      CommonDialog1(*this, bench.services, "CommonDialog1") {
   Picture1.x_axis = Axis{"1/d", "Å⁻¹"};
   Picture1.y_axis = Axis{"I", "% of full height", 100};
   Picture1.describe_place = [](double x, double y) {

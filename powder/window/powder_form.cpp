@@ -5,7 +5,7 @@
 
 namespace zol {
 
-void PowderPattern::show_fields(NamedValues& fields) const {
+void PowderPattern::show_fields(NamedValues& fields) {
   fields.add("HalfWidth", HalfWidth);
   fields.add("DisplayMax", DisplayMax);
   fields.add("CellsP", CellsP);

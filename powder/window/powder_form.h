@@ -17,7 +17,7 @@ struct PowderPattern {
 
   [[nodiscard]] CrystalliteSize size() const { return {CellsP, CellsQ, CellsR}; }
 
-  void show_fields(NamedValues& fields) const;
+  void show_fields(NamedValues& fields);
   /// Empty arrays for a list down to a spacing in angstroms, with a number of bins at least.
   void allocate(Single dmin, int least_bins);
 };

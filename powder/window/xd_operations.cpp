@@ -40,12 +40,13 @@ void list_peaks(XdForm& form, Single wavelength) {
 XdForm::XdForm(Workbench& bench)
     : Window(window_name, "X-ray Powder Diffraction"),
       Picture1(*this, bench.services, "Picture1", 12000, 8400),
-      CommonDialog1(bench.services) {
+      CommonDialog1(*this, bench.services, "CommonDialog1") {
   Picture1.x_axis = Axis{"2θ", "°"};
   Picture1.y_axis = Axis{"I", "% of full height", 100};
-  Picture1.describe_place = [&state = bench.state](double x, double y) {
+  Picture1.describe_place = [&bench](double x, double y) {
     std::string text = value_text("2θ", x, "0.00", "°");
-    if (x > 0 && x < 180) text += value_text("   d", state.WaveLength / (2 * std::sin(x / 2 * degree)), "0.000", " Å");
+    if (x > 0 && x < 180)
+      text += value_text("   d", main1_state(bench).WaveLength / (2 * std::sin(x / 2 * degree)), "0.000", " Å");
     return text + value_text("   I", y * 100, "0.0", " %");
   };
   fields().add("TwoThetaMin", TwoThetaMin);

@@ -2,13 +2,12 @@
 
 #include "shell/program/main_menu_form.h"
 #include "shell/program/window_list.h"
-#include "shell/services/state_names.h"
 
 namespace zol {
 
 Program::Program(DataRoot data, Services& services)
-    : data_(std::move(data)), bench_{state_, windows_, services, data_} {
-  register_module1_fields(module1_, state_);
+    : data_(std::move(data)), bench_(state_, windows_, services, data_) {
+  module1_.add_fields(bench_.state);
   add_windows(bench_);
 }
 

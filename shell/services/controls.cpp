@@ -13,16 +13,17 @@ namespace {
 }  // namespace
 
 Control::Control(Window& window, std::string name, ControlKind kind, std::string caption)
-    : window_(window), name_(std::move(name)), kind_(kind), caption_(std::move(caption)) {
+    : window_(window), name_(std::move(name)), kind_(kind), shown_{std::move(caption)} {
   window_.add(*this);
 }
 
 std::string Control::path() const { return window_.name() + "." + name_; }
 
 std::string Control::described() const {
-  const std::size_t first = caption_.find_first_not_of(' ');
+  const std::string& caption = shown_.caption;
+  const std::size_t first = caption.find_first_not_of(' ');
   if (first == std::string::npos) return path();
-  return '"' + caption_.substr(first, caption_.find_last_not_of(' ') + 1 - first) + "\" (" + path() + ')';
+  return '"' + caption.substr(first, caption.find_last_not_of(' ') + 1 - first) + "\" (" + path() + ')';
 }
 
 void Control::changed() {
@@ -30,18 +31,23 @@ void Control::changed() {
 }
 
 void Control::set_caption(std::string_view caption) {
-  caption_ = caption;
+  shown_.caption = caption;
   changed();
 }
 
 void Control::set_visible(bool visible) {
-  visible_ = visible;
+  shown_.visible = visible;
+  changed();
+}
+
+void Control::set_shown(Shown shown) {
+  shown_ = std::move(shown);
   changed();
 }
 
 void TextBox::set_text(std::string_view text) {
-  if (text == text_) return;
-  text_ = text;
+  if (text == contents_.text) return;
+  contents_.text = text;
   changed();
   on_change.fire(described() + " changed");
 }
@@ -58,7 +64,7 @@ int TextBox::press_key(int key) {
 void TextBox::type(char character) {
   const int key = press_key(static_cast<unsigned char>(character));
   if (key == 0 || key == key_enter || key == '\n') return;
-  std::string typed = text_;
+  std::string typed = contents_.text;
   if (key != key_backspace) {
     typed += static_cast<char>(key);
   } else if (!typed.empty()) {
@@ -70,7 +76,7 @@ void TextBox::type(char character) {
 void TextBox::leave() { on_lost_focus.fire(described() + " lost the focus"); }
 
 void CheckBox::set_value(int value) {
-  value_ = value;
+  contents_.value = value;
   changed();
 }
 
@@ -83,10 +89,10 @@ void OptionButton::set_on(bool on) {
   if (on) {
     for (Control* control : window().controls()) {
       auto* other = dynamic_cast<OptionButton*>(control);
-      if (other != nullptr && other != this && other->group_ == group_ && other->on_) other->set_on(false);
+      if (other != nullptr && other != this && other->group_ == group_ && other->contents_.on) other->set_on(false);
     }
   }
-  on_ = on;
+  contents_.on = on;
   changed();
 }
 
@@ -96,110 +102,113 @@ void OptionButton::click() {
 }
 
 void ComboBox::add_item(std::string_view item) {
-  items_.emplace_back(item);
+  contents_.items.emplace_back(item);
   changed();
 }
 
 void ComboBox::set_text(std::string_view text) {
-  text_ = text;
+  contents_.text = text;
   changed();
 }
 
 void ComboBox::pick(int index) {
-  if (index < 0 || static_cast<std::size_t>(index) >= items_.size()) fail_item(*this, index, items_.size());
-  set_text(items_[static_cast<std::size_t>(index)]);
+  if (index < 0 || static_cast<std::size_t>(index) >= contents_.items.size())
+    fail_item(*this, index, contents_.items.size());
+  set_text(contents_.items[static_cast<std::size_t>(index)]);
   on_click.fire(described() + " was clicked");
 }
 
 void ListBox::clear() {
   ++revision_;
-  items_.clear();
-  colours_.clear();
-  list_index_ = -1;
+  contents_.items.clear();
+  contents_.colours.clear();
+  contents_.list_index = -1;
   changed();
 }
 
 void ListBox::add_item(std::string_view item) {
   ++revision_;
-  items_.emplace_back(item);
-  colours_.push_back(fore_colour_);
+  contents_.items.emplace_back(item);
+  contents_.colours.push_back(contents_.fore_colour);
   changed();
 }
 
 void ListBox::set_list_index(int index) {
-  if (index < -1 || index >= list_count()) fail_item(*this, index, items_.size());
-  list_index_ = index;
+  if (index < -1 || index >= list_count()) fail_item(*this, index, contents_.items.size());
+  contents_.list_index = index;
   changed();
 }
 
 void ListBox::pick(int index) {
-  if (index < 0 || index >= list_count()) fail_item(*this, index, items_.size());
+  if (index < 0 || index >= list_count()) fail_item(*this, index, contents_.items.size());
   set_list_index(index);
   on_click.fire(described() + " was clicked");
 }
 
 void ProgressBar::set_range(Single minimum, Single maximum) {
-  minimum_ = minimum;
-  maximum_ = maximum;
+  contents_.minimum = minimum;
+  contents_.maximum = maximum;
   changed();
 }
 
 void ProgressBar::set_value(Single value) {
-  value_ = value;
+  contents_.value = value;
   changed();
 }
 
 Grid::Grid(Window& window, std::string name, int rows, int columns)
-    : Control(window, std::move(name), ControlKind::Grid, ""),
-      rows_(rows),
-      columns_(columns),
-      cells_(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns)),
-      widths_(static_cast<std::size_t>(columns), 1000) {}
+    : ControlWith(window, std::move(name), ControlKind::Grid, "") {
+  constexpr int usual_width = 1000;
+  contents_.rows = rows;
+  contents_.columns = columns;
+  contents_.cells.resize(static_cast<std::size_t>(rows) * static_cast<std::size_t>(columns));
+  contents_.widths.resize(static_cast<std::size_t>(columns), usual_width);
+}
 
 std::size_t Grid::cell(int row, int column) const {
-  if (row < 0 || row >= rows_) {
+  if (row < 0 || row >= contents_.rows) {
     throw RunFailure("row " + std::to_string(row) + " of the table " + path() + " is outside 0 to " +
-                     std::to_string(rows_ - 1));
+                     std::to_string(contents_.rows - 1));
   }
-  if (column < 0 || column >= columns_) {
+  if (column < 0 || column >= contents_.columns) {
     throw RunFailure("column " + std::to_string(column) + " of the table " + path() + " is outside 0 to " +
-                     std::to_string(columns_ - 1));
+                     std::to_string(contents_.columns - 1));
   }
-  return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) + static_cast<std::size_t>(column);
+  return static_cast<std::size_t>(row) * static_cast<std::size_t>(contents_.columns) + static_cast<std::size_t>(column);
 }
 
 void Grid::set_row(int row) {
   (void)cell(row, 0);
-  row_ = row;
+  contents_.row = row;
   changed();
 }
 
 void Grid::set_column(int column) {
   (void)cell(0, column);
-  column_ = column;
+  contents_.column = column;
   changed();
 }
 
 void Grid::set_text(std::string_view text) {
-  cells_[cell(row_, column_)] = text;
+  contents_.cells[cell(contents_.row, contents_.column)] = text;
   changed();
 }
 
-const std::string& Grid::text(int row, int column) const { return cells_[cell(row, column)]; }
+const std::string& Grid::text(int row, int column) const { return contents_.cells[cell(row, column)]; }
 
 int Grid::column_width(int column) const {
   (void)cell(0, column);
-  return widths_[static_cast<std::size_t>(column)];
+  return contents_.widths[static_cast<std::size_t>(column)];
 }
 
 void Grid::set_column_width(int column, int twips) {
   (void)cell(0, column);
-  widths_[static_cast<std::size_t>(column)] = twips;
+  contents_.widths[static_cast<std::size_t>(column)] = twips;
   changed();
 }
 
 void Grid::clear() {
-  cells_.assign(cells_.size(), "");
+  contents_.cells.assign(contents_.cells.size(), "");
   changed();
 }
 

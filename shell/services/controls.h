@@ -6,6 +6,7 @@
 #pragma once
 
 #include <algorithm>
+#include <any>
 #include <functional>
 #include <memory>
 #include <string>
@@ -94,10 +95,24 @@ class Control {
   [[nodiscard]] ControlKind kind() const { return kind_; }
   [[nodiscard]] Window& window() const { return window_; }
 
-  [[nodiscard]] const std::string& caption() const { return caption_; }
+  [[nodiscard]] const std::string& caption() const { return shown_.caption; }
   void set_caption(std::string_view caption);
-  [[nodiscard]] bool visible() const { return visible_; }
+  [[nodiscard]] bool visible() const { return shown_.visible; }
   void set_visible(bool visible);
+
+  /// What all kinds have.
+  struct Shown {
+    std::string caption;
+    bool visible = true;
+    bool operator==(const Shown&) const = default;
+  };
+  [[nodiscard]] const Shown& shown() const { return shown_; }
+  /// Fires nothing; the view is told. So do set_contents and put_back.
+  void set_shown(Shown shown);
+  /// The contents of its kind as a value; nothing where a kind has none.
+  [[nodiscard]] virtual std::any copy() const { return {}; }
+  /// Takes a copy of the same kind. @throws std::bad_any_cast  it is of another kind
+  virtual void put_back(const std::any& /*copy*/) {}
 
  protected:
   void changed();  ///< tells the view
@@ -106,16 +121,73 @@ class Control {
   Window& window_;
   std::string name_;
   ControlKind kind_;
-  std::string caption_;
-  bool visible_ = true;
+  Shown shown_;
 };
 
-class TextBox : public Control {
+/// A control of a kind that has more than caption and visibility.
+template <class Value>
+class ControlWith : public Control {
+ public:
+  using Contents = Value;
+  using Control::Control;
+
+  [[nodiscard]] const Contents& contents() const { return contents_; }
+  void set_contents(Contents contents) {
+    contents_ = std::move(contents);
+    contents_replaced();
+    changed();
+  }
+  [[nodiscard]] std::any copy() const override { return contents_; }
+  void put_back(const std::any& copy) override { set_contents(std::any_cast<const Contents&>(copy)); }
+
+ protected:
+  virtual void contents_replaced() {}
+  Contents contents_;
+};
+
+// What each kind of control holds.
+struct TextBoxContents {
+  std::string text;
+  bool operator==(const TextBoxContents&) const = default;
+};
+struct CheckBoxContents {
+  int value = 0;
+  bool operator==(const CheckBoxContents&) const = default;
+};
+struct OptionButtonContents {
+  bool on = false;
+  bool operator==(const OptionButtonContents&) const = default;
+};
+struct ComboBoxContents {
+  std::string text;
+  std::vector<std::string> items;
+  bool operator==(const ComboBoxContents&) const = default;
+};
+struct ListBoxContents {
+  std::vector<std::string> items;
+  std::vector<Colour> colours;  ///< of the items, one each
+  int list_index = -1;
+  Colour fore_colour = colours::black;
+  bool operator==(const ListBoxContents&) const = default;
+};
+struct ProgressBarContents {
+  Single minimum = 0, maximum = 100, value = 0;
+  bool operator==(const ProgressBarContents&) const = default;
+};
+struct GridContents {
+  int rows = 0, columns = 0;
+  int row = 1, column = 1;         ///< of the current cell
+  std::vector<std::string> cells;  ///< row by row
+  std::vector<int> widths;         ///< of the columns, twips
+  bool operator==(const GridContents&) const = default;
+};
+
+class TextBox : public ControlWith<TextBoxContents> {
  public:
   TextBox(Window& window, std::string name, std::string caption = "")
-      : Control(window, std::move(name), ControlKind::TextBox, std::move(caption)) {}
+      : ControlWith(window, std::move(name), ControlKind::TextBox, std::move(caption)) {}
 
-  [[nodiscard]] const std::string& text() const { return text_; }
+  [[nodiscard]] const std::string& text() const { return contents_.text; }
   /// Fires on_change, inside the write, if the text differs.
   void set_text(std::string_view text);
   void set_focus();
@@ -131,9 +203,6 @@ class TextBox : public Control {
   Event<int&> on_key_press;
   Event<> on_lost_focus;
   bool holds_file_name = false;  ///< bytes of the file system, where other boxes hold Latin-1
-
- private:
-  std::string text_;
 };
 
 /// Converts what Val makes of a typed text. @throws RunFailure  it does not fit; the message tells what the text is
@@ -185,26 +254,23 @@ class CommandButton : public Control {
   Event<> on_click;
 };
 
-class CheckBox : public Control {
+class CheckBox : public ControlWith<CheckBoxContents> {
  public:
   CheckBox(Window& window, std::string name, std::string caption = "")
-      : Control(window, std::move(name), ControlKind::CheckBox, std::move(caption)) {}
-  [[nodiscard]] int value() const { return value_; }  ///< 0 off, 1 on
-  [[nodiscard]] bool checked() const { return value_ == 1; }
+      : ControlWith(window, std::move(name), ControlKind::CheckBox, std::move(caption)) {}
+  [[nodiscard]] int value() const { return contents_.value; }  ///< 0 off, 1 on
+  [[nodiscard]] bool checked() const { return contents_.value == 1; }
   void set_value(int value);
   void click();  ///< turns the value over, then fires
   Event<> on_click;
-
- private:
-  int value_ = 0;
 };
 
 /// Option buttons of one group of a window exclude each other.
-class OptionButton : public Control {
+class OptionButton : public ControlWith<OptionButtonContents> {
  public:
   OptionButton(Window& window, std::string name, std::string caption = "", std::string group = "")
-      : Control(window, std::move(name), ControlKind::OptionButton, std::move(caption)), group_(std::move(group)) {}
-  [[nodiscard]] bool on() const { return on_; }
+      : ControlWith(window, std::move(name), ControlKind::OptionButton, std::move(caption)), group_(std::move(group)) {}
+  [[nodiscard]] bool on() const { return contents_.on; }
   [[nodiscard]] const std::string& group() const { return group_; }
   void set_on(bool on);
   void click();  ///< switches on, then fires
@@ -212,51 +278,44 @@ class OptionButton : public Control {
 
  private:
   std::string group_;
-  bool on_ = false;
 };
 
-class ComboBox : public Control {
+class ComboBox : public ControlWith<ComboBoxContents> {
  public:
   ComboBox(Window& window, std::string name, std::string caption = "")
-      : Control(window, std::move(name), ControlKind::ComboBox, std::move(caption)) {}
-  [[nodiscard]] const std::string& text() const { return text_; }
-  [[nodiscard]] const std::vector<std::string>& items() const { return items_; }
+      : ControlWith(window, std::move(name), ControlKind::ComboBox, std::move(caption)) {}
+  [[nodiscard]] const std::string& text() const { return contents_.text; }
+  [[nodiscard]] const std::vector<std::string>& items() const { return contents_.items; }
   void add_item(std::string_view item);
   void set_text(std::string_view text);  ///< from the program; fires nothing
   /// The user picks an item; fires. @throws RunFailure  no such item
   void pick(int index);
   Event<> on_click;
-
- private:
-  std::string text_;
-  std::vector<std::string> items_;
 };
 
-class ListBox : public Control {
+class ListBox : public ControlWith<ListBoxContents> {
  public:
   ListBox(Window& window, std::string name, std::string caption = "")
-      : Control(window, std::move(name), ControlKind::ListBox, std::move(caption)) {}
+      : ControlWith(window, std::move(name), ControlKind::ListBox, std::move(caption)) {}
   void clear();
   void add_item(std::string_view item);
-  [[nodiscard]] int list_count() const { return static_cast<int>(items_.size()); }
-  [[nodiscard]] const std::vector<std::string>& items() const { return items_; }
-  [[nodiscard]] int list_index() const { return list_index_; }  ///< -1 when nothing is selected
+  [[nodiscard]] int list_count() const { return static_cast<int>(contents_.items.size()); }
+  [[nodiscard]] const std::vector<std::string>& items() const { return contents_.items; }
+  [[nodiscard]] int list_index() const { return contents_.list_index; }  ///< -1 when nothing is selected
   void set_list_index(int index);
-  [[nodiscard]] bool selected(int index) const { return index == list_index_; }
+  [[nodiscard]] bool selected(int index) const { return index == contents_.list_index; }
   [[nodiscard]] int revision() const { return revision_; }  ///< another one when the lines have changed
-  [[nodiscard]] Colour colour_of(int index) const { return colours_[static_cast<std::size_t>(index)]; }
+  [[nodiscard]] Colour colour_of(int index) const { return contents_.colours[static_cast<std::size_t>(index)]; }
   /// Colour of the lines that are added from now on; those that stand keep theirs.
-  void set_fore_colour(Colour colour) { fore_colour_ = colour; }
+  void set_fore_colour(Colour colour) { contents_.fore_colour = colour; }
   /// The user picks a line; fires. @throws RunFailure  no such line
   void pick(int index);
   Event<> on_click;
 
  private:
-  std::vector<std::string> items_;
-  std::vector<Colour> colours_;  // of the items
-  int list_index_ = -1;
+  void contents_replaced() override { ++revision_; }
+
   int revision_ = 0;
-  Colour fore_colour_ = 0;
 };
 
 class Frame : public Control {
@@ -278,33 +337,28 @@ class MenuItem : public Control {
   std::string menu_;
 };
 
-class ProgressBar : public Control {
+class ProgressBar : public ControlWith<ProgressBarContents> {
  public:
-  ProgressBar(Window& window, std::string name) : Control(window, std::move(name), ControlKind::ProgressBar, "") {}
-  [[nodiscard]] Single minimum() const { return minimum_; }
-  [[nodiscard]] Single maximum() const { return maximum_; }
-  [[nodiscard]] Single value() const { return value_; }
+  ProgressBar(Window& window, std::string name) : ControlWith(window, std::move(name), ControlKind::ProgressBar, "") {}
+  [[nodiscard]] Single minimum() const { return contents_.minimum; }
+  [[nodiscard]] Single maximum() const { return contents_.maximum; }
+  [[nodiscard]] Single value() const { return contents_.value; }
   void set_range(Single minimum, Single maximum);
   void set_value(Single value);
-
- private:
-  Single minimum_ = 0;
-  Single maximum_ = 100;
-  Single value_ = 0;
 };
 
 /// A table of text cells; row 0 and column 0 are fixed headers. One cell is the current one.
-class Grid : public Control {
+class Grid : public ControlWith<GridContents> {
  public:
   Grid(Window& window, std::string name, int rows, int columns);
-  [[nodiscard]] int rows() const { return rows_; }
-  [[nodiscard]] int columns() const { return columns_; }
-  [[nodiscard]] int row() const { return row_; }
-  [[nodiscard]] int column() const { return column_; }
+  [[nodiscard]] int rows() const { return contents_.rows; }
+  [[nodiscard]] int columns() const { return contents_.columns; }
+  [[nodiscard]] int row() const { return contents_.row; }
+  [[nodiscard]] int column() const { return contents_.column; }
   /// @throws RunFailure  a row or column beyond the table
   void set_row(int row);
   void set_column(int column);
-  [[nodiscard]] const std::string& text() const { return text(row_, column_); }
+  [[nodiscard]] const std::string& text() const { return text(contents_.row, contents_.column); }
   void set_text(std::string_view text);  ///< of the current cell
   [[nodiscard]] const std::string& text(int row, int column) const;
   [[nodiscard]] int column_width(int column) const;  ///< twips
@@ -318,13 +372,6 @@ class Grid : public Control {
 
  private:
   [[nodiscard]] std::size_t cell(int row, int column) const;
-
-  int rows_;
-  int columns_;
-  int row_ = 1;
-  int column_ = 1;
-  std::vector<std::string> cells_;
-  std::vector<int> widths_;
 };
 
 /// Members of a control array are named "Name(0)", "Name(1)", ...

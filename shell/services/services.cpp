@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "core/number_text.h"
+#include "shell/services/window.h"
 
 namespace zol {
 
@@ -12,9 +13,14 @@ std::string NameEnding::added_to(const std::string& path) const {
   return unless_dotted && dotted ? path : path + text;
 }
 
+FileDialog::FileDialog(Window& window, Services& services, const std::string& name) : services_(services) {
+  window.fields().keep(name, memory_);
+}
+
 std::string FileDialog::file_title() const {
-  const std::size_t slash = file_name_.find_last_of("/\\");
-  return slash == std::string::npos ? file_name_ : file_name_.substr(slash + 1);
+  const std::string& path = memory_.file_name;
+  const std::size_t slash = path.find_last_of("/\\");
+  return slash == std::string::npos ? path : path.substr(slash + 1);
 }
 
 void FileDialog::answering(std::string path, const std::function<void()>& action) {
@@ -28,18 +34,19 @@ void FileDialog::answering(std::string path, const std::function<void()>& action
 }
 
 const std::string& FileDialog::ask(FileKind kind, bool save, const NameEnding& ending) {
-  std::string& last_name = last_names_[kind];
-  if (preset_) last_name = *std::exchange(preset_, std::nullopt);
-  const auto folder = folders_.find(kind);
-  const FileQuestion question{.kind = kind,
-                              .save = save,
-                              .initial_folder = folder == folders_.end() ? initial_folder_ : folder->second,
-                              .file_name = last_name,
-                              .filter = filter_,
-                              .ending = ending};
-  file_name_ = answered_ ? *std::exchange(answered_, std::nullopt) : services_.ask_file(question);
-  if (!file_name_.empty()) last_name = file_name_;
-  return file_name_;
+  std::string& last_name = memory_.last_names[kind];
+  if (memory_.preset) last_name = *std::exchange(memory_.preset, std::nullopt);
+  const auto folder = memory_.folders.find(kind);
+  const FileQuestion question{
+      .kind = kind,
+      .save = save,
+      .initial_folder = folder == memory_.folders.end() ? memory_.initial_folder : folder->second,
+      .file_name = last_name,
+      .filter = memory_.filter,
+      .ending = ending};
+  memory_.file_name = answered_ ? *std::exchange(answered_, std::nullopt) : services_.ask_file(question);
+  if (!memory_.file_name.empty()) last_name = memory_.file_name;
+  return memory_.file_name;
 }
 
 PrintLine& PrintLine::add(std::string_view text) {

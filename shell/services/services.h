@@ -95,13 +95,15 @@ class Services {
 class FileDialog {
  public:
   explicit FileDialog(Services& services) : services_(services) {}
+  /// The dialog of a window: what it remembers is kept with the window's fields.
+  FileDialog(Window& window, Services& services, const std::string& name);
 
-  void set_initial_folder(std::string folder) { initial_folder_ = std::move(folder); }
+  void set_initial_folder(std::string folder) { memory_.initial_folder = std::move(folder); }
   /// Of files of one kind, in the place of the common one.
-  void set_initial_folder(FileKind kind, std::string folder) { folders_[kind] = std::move(folder); }
+  void set_initial_folder(FileKind kind, std::string folder) { memory_.folders[kind] = std::move(folder); }
   /// Of the next question.
-  void set_file_name(std::string name) { preset_ = std::move(name); }
-  void set_filter(std::string filter) { filter_ = std::move(filter); }
+  void set_file_name(std::string name) { memory_.preset = std::move(name); }
+  void set_filter(std::string filter) { memory_.filter = std::move(filter); }
 
   /// Each returns the full path, empty when the user cancelled.
   const std::string& open(FileKind kind) { return ask(kind, false, {}); }
@@ -119,16 +121,20 @@ class FileDialog {
   [[nodiscard]] std::string file_title() const;  ///< the last answer without its folder
 
  private:
+  struct Memory {
+    std::string initial_folder;
+    std::string filter;
+    std::map<FileKind, std::string> folders;
+    std::map<FileKind, std::string> last_names;
+    std::optional<std::string> preset;
+    std::string file_name;
+  };
+
   const std::string& ask(FileKind kind, bool save, const NameEnding& ending);
 
   Services& services_;
-  std::string initial_folder_;
-  std::string filter_;
-  std::map<FileKind, std::string> folders_;
-  std::map<FileKind, std::string> last_names_;
-  std::optional<std::string> preset_;
-  std::optional<std::string> answered_;
-  std::string file_name_;
+  Memory memory_;
+  std::optional<std::string> answered_;  // within answering() alone
 };
 
 /// Collects a printed line: print zones of 14 columns, each value starts at the next zone; a number is its Str and a

@@ -6,20 +6,6 @@
 
 namespace zol {
 
-int NamedValues::dimensions(const std::string& name) const {
-  const auto entry = entries_.find(name);
-  return entry == entries_.end() ? -1 : entry->second.dimensions;
-}
-
-std::string NamedValues::text(const std::string& name, std::span<const int> indices) const {
-  const auto entry = entries_.find(name);
-  if (entry == entries_.end()) throw RunFailure("there is no field " + name);
-  if (indices.size() != static_cast<std::size_t>(entry->second.dimensions)) {
-    throw RunFailure(name + " takes " + std::to_string(entry->second.dimensions) + " indices");
-  }
-  return entry->second.text(indices);
-}
-
 void Window::set_caption(std::string_view caption) {
   caption_ = caption;
   if (view_ != nullptr) view_->window_changed(*this);
@@ -41,6 +27,29 @@ void Window::activate() { on_activate.fire(name_ + " was activated"); }
 void Window::hide() {
   visible_ = false;
   if (view_ != nullptr) view_->window_changed(*this);
+}
+
+Window::Copy Window::copy() const {
+  Copy copy{caption_, mouse_pointer_, visible_, fields_.copies(), {}};
+  for (const Control* control : controls_) copy.controls[control->name()] = {control->shown(), control->copy()};
+  return copy;
+}
+
+void Window::put_back(const Copy& copy) {
+  fields_.put_back(copy.fields);
+  for (const auto& [name, held] : copy.controls) {
+    Control* control = find(name);
+    if (control == nullptr) continue;
+    control->set_shown(held.shown);
+    control->put_back(held.contents);
+  }
+  caption_ = copy.caption;
+  mouse_pointer_ = copy.mouse_pointer;
+  const bool comes_up = copy.visible && !visible_;
+  visible_ = copy.visible;
+  if (view_ == nullptr) return;
+  if (comes_up) view_->window_shown(*this);
+  view_->window_changed(*this);
 }
 
 Control* Window::find(std::string_view control_name) const {
@@ -88,6 +97,18 @@ std::vector<std::string> Windows::names() const {
   std::vector<std::string> names;
   for (const auto& [name, type] : types_) names.push_back(name);
   return names;
+}
+
+Windows::Copies Windows::copies() const {
+  Copies copies;
+  for (const auto& [name, window] : windows_) copies[name] = window->copy();
+  return copies;
+}
+
+void Windows::put_back(const Copies& copies) {
+  for (const auto& [name, copy] : copies) {
+    if (Window* window = find(name)) window->put_back(copy);
+  }
 }
 
 void Windows::unload(const std::string& name) {

@@ -1,67 +1,20 @@
 // A window: a caption, its controls by name, its public fields and operations by name, and the set of all windows.
 #pragma once
 
+#include <any>
 #include <functional>
 #include <map>
 #include <memory>
-#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
-#include "core/bounded_array.h"
-#include "core/number_text.h"
 #include "shell/services/controls.h"
-#include "shell/services/latin1.h"
+#include "shell/services/named_values.h"
 #include "shell/services/services.h"
 
 namespace zol {
-
-/// Plain text of a value in UTF-8, as a view or a script shows it.
-[[nodiscard]] inline std::string shown_text(const String& value) { return utf8_of_latin1(value); }
-template <class Number>
-[[nodiscard]] std::string shown_text(Number value) {
-  return plain_text(value);
-}
-
-/// Public fields and arrays under their names, to be read as text. The values are looked at when asked, not copied.
-class NamedValues {
- public:
-  template <class Value>
-  void add(const std::string& name, const Value& value) {
-    entries_[name] = {0, [&value](std::span<const int>) { return shown_text(value); }};
-  }
-  template <class Value>
-  void add(const std::string& name, const BoundedArray<Value>& array) {
-    entries_[name] = {1, [&array](std::span<const int> index) { return shown_text(array(index[0])); }};
-  }
-  template <class Value>
-  void add(const std::string& name, const BoundedTable<Value>& table) {
-    entries_[name] = {2, [&table](std::span<const int> index) { return shown_text(table(index[0], index[1])); }};
-  }
-
-  /// A name of a file is shown as it stands.
-  void add_file_name(const std::string& name, const String& path) {
-    entries_[name] = {0, [&path](std::span<const int>) { return path; }};
-  }
-  /// A value that is put together when asked.
-  void add_computed(const std::string& name, int dimensions, std::function<std::string(std::span<const int>)> text) {
-    entries_[name] = {dimensions, std::move(text)};
-  }
-
-  /// Number of indices that a name takes; -1 when there is no such name.
-  [[nodiscard]] int dimensions(const std::string& name) const;
-  /// @throws RunFailure  an index out of bounds, or an array that has not been allocated
-  [[nodiscard]] std::string text(const std::string& name, std::span<const int> indices) const;
-
- private:
-  struct Entry {
-    int dimensions = 0;
-    std::function<std::string(std::span<const int>)> text;
-  };
-  std::map<std::string, Entry> entries_;
-};
 
 /// What shows windows on a screen. Told after each change; a headless program has none.
 class WindowView {
@@ -106,6 +59,22 @@ class Window {
   [[nodiscard]] const std::vector<Control*>& controls() const { return controls_; }
   [[nodiscard]] Control* find(std::string_view control_name) const;  ///< nullptr when there is none
   [[nodiscard]] NamedValues& fields() { return fields_; }
+
+  /// All that can change about a window, its fields and its controls.
+  struct Copy {
+    struct Held {
+      Control::Shown shown;
+      std::any contents;
+    };
+    std::string caption;
+    MousePointer mouse_pointer = MousePointer::Default;
+    bool visible = false;
+    NamedValues::Copies fields;
+    std::map<std::string, Held> controls;  ///< by name
+  };
+  [[nodiscard]] Copy copy() const;
+  /// Takes a copy of this window; no handler runs, the view is told.
+  void put_back(const Copy& copy);
 
   void add_operation(const std::string& name, std::function<void()> operation) {
     operations_[name] = std::move(operation);
@@ -178,6 +147,12 @@ class Windows {
   [[nodiscard]] Window* find(const std::string& name) const;
   /// Names of all windows, existing or not.
   [[nodiscard]] std::vector<std::string> names() const;
+
+  /// Of the windows that exist, by name.
+  using Copies = std::map<std::string, Window::Copy>;
+  [[nodiscard]] Copies copies() const;
+  /// Those that exist still or again take theirs; no handler runs.
+  void put_back(const Copies& copies);
 
   /// Ends a window; its next use makes a new one. Its handlers may still be running, so that its memory goes later.
   void unload(const std::string& name);

@@ -9,12 +9,19 @@
 namespace zol {
 
 struct Workbench {
-  CrystalState& state;
+  Workbench(CrystalState& crystal, Windows& all_windows, Services& surroundings, const DataRoot& data_root)
+      : state(crystal), windows(all_windows), services(surroundings), data(data_root), crystal_(crystal) {}
+
+  Module1State& state;  ///< what lives on Main1 comes through main1_state
   Windows& windows;
   Services& services;
   const DataRoot& data;
 
   void show_window(const std::string& name) const { windows.use(name).show(); }
+
+ private:
+  friend struct Main1Form;  // touching a field that lives on it is a use of that window
+  CrystalState& crystal_;
 };
 
 /// Shows the progress of a calculation in a bar.

@@ -14,7 +14,7 @@ struct FiberTextureForm : Window {
 
   explicit FiberTextureForm(Workbench& bench)
       : Window(window_name, "Fiber Texture Pattern"),
-        CommonDialog1(bench.services),
+        CommonDialog1(*this, bench.services, "CommonDialog1"),
         Picture1(*this, bench.services, "Picture1", 5760, 5760) {
     fields().add("RotationPitch", RotationPitch);
     Picture1.describe_place = [](double x, double y) { return spacing_text(std::hypot(x, y)); };

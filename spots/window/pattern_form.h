@@ -14,7 +14,7 @@ struct PatternForm : Window {
 
   explicit PatternForm(Workbench& bench)
       : Window(window_name, "ED PATTERN"),
-        CommonDialog1(bench.services),
+        CommonDialog1(*this, bench.services, "CommonDialog1"),
         Picture1(*this, bench.services, "Picture1", 8500, 8500) {
     fields().add("RotationPitch", RotationPitch);
     Picture1.describe_place = [](double x, double y) { return spacing_text(2 * std::hypot(x, y)); };

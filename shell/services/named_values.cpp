@@ -1,0 +1,48 @@
+#include "shell/services/named_values.h"
+
+#include "core/run_failure.h"
+
+namespace zol {
+
+std::string shown_text(const AsfRow& row) {
+  std::string text = row.Element;
+  for (const Single value : {row.A1, row.B1, row.A2, row.B2, row.A3, row.B3, row.A4, row.B4, row.C}) {
+    text += ',' + plain_text(value);
+  }
+  return utf8_of_latin1(text + ',' + plain_text(row.Z));
+}
+
+int NamedValues::dimensions(const std::string& name) const {
+  const auto printed = printed_.find(name);
+  return printed == printed_.end() ? -1 : printed->second.dimensions;
+}
+
+std::string NamedValues::text(const std::string& name, std::span<const int> indices) const {
+  const auto printed = printed_.find(name);
+  if (printed == printed_.end()) throw RunFailure("there is no field " + name);
+  if (indices.size() != static_cast<std::size_t>(printed->second.dimensions)) {
+    throw RunFailure(name + " takes " + std::to_string(printed->second.dimensions) + " indices");
+  }
+  return printed->second.text(indices);
+}
+
+std::vector<std::string> NamedValues::names() const {
+  std::vector<std::string> names;
+  for (const auto& [name, printed] : printed_) names.push_back(name);
+  return names;
+}
+
+NamedValues::Copies NamedValues::copies() const {
+  Copies copies;
+  for (const auto& [name, kept] : kept_) copies[name] = kept.copy();
+  return copies;
+}
+
+void NamedValues::put_back(const Copies& copies) const {
+  for (const auto& [name, copy] : copies) {
+    const auto kept = kept_.find(name);
+    if (kept != kept_.end()) kept->second.put_back(copy);
+  }
+}
+
+}  // namespace zol

@@ -1,0 +1,103 @@
+// Fields of a window or of the crystal state under their names: read as text, copied out and put back.
+#pragma once
+
+#include <any>
+#include <functional>
+#include <map>
+#include <span>
+#include <string>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+#include "core/bounded_array.h"
+#include "core/number_text.h"
+#include "core/state_fields.h"
+#include "shell/services/latin1.h"
+
+namespace zol {
+
+/// Plain text of a value in UTF-8, as a view or a script shows it.
+[[nodiscard]] inline std::string shown_text(const String& value) { return utf8_of_latin1(value); }
+/// A row of a scattering factor table as its record stands in the file.
+[[nodiscard]] std::string shown_text(const AsfRow& row);
+template <class Number>
+[[nodiscard]] std::string shown_text(Number value) {
+  return plain_text(value);
+}
+
+/// Fields and arrays under their names. The values are looked at when asked; they outlive this.
+class NamedValues {
+ public:
+  template <class Value>
+  void add(const std::string& name, Value& value) {
+    add(name, 0, value, [&value](Indices) { return shown_text(value); });
+  }
+  template <class Value>
+  void add(const std::string& name, BoundedArray<Value>& array) {
+    add(name, 1, array, [&array](Indices index) { return shown_text(std::as_const(array)(index[0])); });
+  }
+  template <class Value>
+  void add(const std::string& name, BoundedTable<Value>& table) {
+    add(name, 2, table, [&table](Indices index) { return shown_text(std::as_const(table)(index[0], index[1])); });
+  }
+  /// A name of a file is shown as it stands.
+  void add_file_name(const std::string& name, String& path) {
+    add(name, 0, path, [&path](Indices) { return path; });
+  }
+  /// All fields of a part of the crystal state.
+  template <class State>
+  void add_fields(State& state) {
+    for_each_field(state, [this](const FieldName& name, auto& field) {
+      if constexpr (std::is_same_v<decltype(field), String&>) {
+        if (name.of_file) return add_file_name(name.text, field);
+      }
+      add(name.text, field);
+    });
+  }
+  /// A value that is put together when asked. It can't be put back: what it comes from is kept beside it.
+  void add_computed(const std::string& name, int dimensions, std::function<std::string(std::span<const int>)> text) {
+    printed_[name] = {dimensions, std::move(text)};
+  }
+  /// A value that is copied and put back but has no text.
+  template <class Value>
+  void keep(const std::string& name, Value& value) {
+    static_assert(std::is_copy_assignable_v<Value>);
+    kept_[name] = {[&value] { return std::any(value); },
+                   [&value](const std::any& copy) { value = std::any_cast<const Value&>(copy); }};
+  }
+
+  /// Number of indices that a name takes; -1 when there is no such name.
+  [[nodiscard]] int dimensions(const std::string& name) const;
+  /// @throws RunFailure  an index out of bounds, or an array that has not been allocated
+  [[nodiscard]] std::string text(const std::string& name, std::span<const int> indices) const;
+
+  /// Of all that has a text.
+  [[nodiscard]] std::vector<std::string> names() const;
+
+  using Copies = std::map<std::string, std::any>;
+  [[nodiscard]] Copies copies() const;
+  /// Takes copies back that these names gave; others are left alone. @throws std::bad_any_cast  a copy of another type
+  void put_back(const Copies& copies) const;
+
+ private:
+  using Indices = std::span<const int>;
+  struct Printed {
+    int dimensions = 0;
+    std::function<std::string(Indices)> text;
+  };
+  struct Kept {
+    std::function<std::any()> copy;
+    std::function<void(const std::any&)> put_back;
+  };
+  template <class Value>
+  void add(const std::string& name, int dimensions, Value& value, std::function<std::string(Indices)> text) {
+    printed_[name] = {dimensions, std::move(text)};
+    keep(name, value);
+  }
+
+  std::map<std::string, Printed> printed_;
+  std::map<std::string, Kept> kept_;
+};
+
+}  // namespace zol

@@ -1,0 +1,95 @@
+#include "shell/services/raster.h"
+
+#include <cmath>
+#include <variant>
+
+#include "shell/services/services.h"
+
+namespace zol {
+namespace {
+
+void paint(Surface& surface, const UserScale& scale, const Primitive& primitive) {
+  if (!scale.has_area()) return;
+  const PixelMap map(scale, surface.width(), surface.height());
+  if (const auto* line = std::get_if<DrawnLine>(&primitive.what)) {
+    surface.line(map.x(line->x1), map.y(line->y1), map.x(line->x2), map.y(line->y2), line->colour);
+  } else if (const auto* circle = std::get_if<DrawnCircle>(&primitive.what)) {
+    surface.circle(map.x(circle->x), map.y(circle->y), std::abs(circle->radius * map.per_x), circle->colour,
+                   circle->fill);
+  } else if (const auto* point = std::get_if<DrawnPoint>(&primitive.what)) {
+    const auto column = pixel_index(map.x(point->x));
+    const auto row = pixel_index(map.y(point->y));
+    if (column && row && *column < surface.width() && *row < surface.height()) {
+      surface.set_pixel(*column, *row, point->colour);
+    }
+  } else if (const auto* text = std::get_if<DrawnText>(&primitive.what)) {
+    surface.text(map.x(text->x), map.y(text->y), text->text, text->colour, text->font_size_pt);
+  }
+}
+
+void replay(Surface& surface, const Drawing& drawing, bool stored) {
+  UserScale scale = drawing.list_scale;
+  for (const Primitive& primitive : drawing.list) {
+    if (const auto* change = std::get_if<UserScale>(&primitive.what)) {
+      scale = *change;
+    } else if (primitive.stored == stored) {
+      paint(surface, scale, primitive);
+    }
+  }
+}
+
+}  // namespace
+
+PixelMap::PixelMap(const UserScale& scale, int width, int height)
+    : left(scale.left),
+      top(scale.top),
+      per_x(width / (scale.right - scale.left)),
+      per_y(height / (scale.bottom - scale.top)) {}
+
+std::optional<int> pixel_index(double coordinate) {
+  const double index = round_half_even(coordinate);
+  if (!(index >= 0.0 && index < 1e6)) return std::nullopt;
+  return static_cast<int>(index);
+}
+
+std::unique_ptr<Surface> Raster::copy_of(const Surface& image) const {
+  auto copy = services_.make_surface(image.width(), image.height());
+  copy->draw(image, false);
+  return copy;
+}
+
+bool Raster::make(const Drawing& drawing) {
+  if (made()) return true;
+  auto stored = services_.make_surface(drawing.pixel_width(), drawing.pixel_height());
+  auto overlay = services_.make_surface(drawing.pixel_width(), drawing.pixel_height());
+  if (!stored || !overlay) return false;
+  stored_ = std::move(stored);
+  overlay_ = std::move(overlay);
+  repaint_stored(drawing);
+  overlay_->make_transparent();
+  replay(*overlay_, drawing, false);
+  return true;
+}
+
+void Raster::drop() {
+  stored_.reset();
+  overlay_.reset();
+}
+
+void Raster::repaint_stored(const Drawing& drawing) {
+  if (!stored_) return;
+  stored_->fill(drawing.pens.back);
+  if (picture_) stored_->draw(*picture_, false);
+  replay(*stored_, drawing, true);
+}
+
+void Raster::clear_overlay() {
+  if (overlay_) overlay_->make_transparent();
+}
+
+void Raster::paint_last(const Drawing& drawing) {
+  const Primitive& primitive = drawing.list.back();
+  paint(primitive.stored ? *stored_ : *overlay_, drawing.scale, primitive);
+}
+
+}  // namespace zol

@@ -1,0 +1,90 @@
+// The pixels of a picture: its background, the stored image and the overlay above it.
+//
+// The images are made when they are first looked at and then kept up to date; until then only the drawing list grows.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "shell/services/drawing.h"
+
+namespace zol {
+
+class Services;
+
+/// A pixel image. Coordinates are pixels, x right, y down; nothing outside it is set.
+class Surface {
+ public:
+  Surface() = default;
+  Surface(const Surface&) = delete;
+  Surface& operator=(const Surface&) = delete;
+  virtual ~Surface() = default;
+
+  [[nodiscard]] virtual int width() const = 0;
+  [[nodiscard]] virtual int height() const = 0;
+  virtual void fill(Colour colour) = 0;
+  virtual void make_transparent() = 0;
+  virtual void line(double x1, double y1, double x2, double y2, Colour colour) = 0;
+  virtual void circle(double x, double y, double radius, Colour outline, std::optional<Colour> fill) = 0;
+  virtual void set_pixel(int x, int y, Colour colour) = 0;
+  [[nodiscard]] virtual std::optional<Colour> pixel(int x, int y) const = 0;  ///< none where transparent
+  virtual void text(double x, double y, const std::string& text, Colour colour, double font_size_pt) = 0;
+  /// Draws another image over this one, scaled to fill it, each direction by itself.
+  virtual void draw(const Surface& other, bool upside_down) = 0;
+  /// Turns the image over, left to right or upside down.
+  virtual void mirror(bool left_to_right, bool upside_down) = 0;
+  /// Takes an image from a bitmap file, with its size. @throws RunFailure  it can't be read
+  virtual void load_bitmap(const std::string& path) = 0;
+  /// @throws RunFailure  it can't be written
+  virtual void save_bitmap(const std::string& path) const = 0;
+};
+
+/// User coordinates onto the pixels of a surface.
+struct PixelMap {
+  PixelMap(const UserScale& scale, int width, int height);
+  [[nodiscard]] double x(double user) const { return (user - left) * per_x; }
+  [[nodiscard]] double y(double user) const { return (user - top) * per_y; }
+  double left, top, per_x, per_y;
+};
+
+/// Index of the pixel that a pixel coordinate falls on; none outside any image.
+[[nodiscard]] std::optional<int> pixel_index(double coordinate);
+
+class Raster {
+ public:
+  explicit Raster(Services& services) : services_(services) {}
+
+  /// The background picture, none where there is none. It is never changed, only replaced.
+  [[nodiscard]] const std::shared_ptr<const Surface>& picture() const { return picture_; }
+  void set_picture(std::shared_ptr<const Surface> picture) { picture_ = std::move(picture); }
+  /// A new image of the same pixels.
+  [[nodiscard]] std::unique_ptr<Surface> copy_of(const Surface& image) const;
+
+  /// True when the stored image holds more than picture and list tell.
+  [[nodiscard]] bool has_base() const { return base_; }
+  void set_base(bool base) { base_ = base; }
+
+  [[nodiscard]] bool made() const { return stored_ != nullptr; }
+  /// Makes the images where there are none. @returns false when there are no pixels here
+  [[nodiscard]] bool make(const Drawing& drawing);
+  /// The images are to be made anew.
+  void drop();
+  void repaint_stored(const Drawing& drawing);
+  void clear_overlay();
+  /// Paints the last entry of the list.
+  void paint_last(const Drawing& drawing);
+
+  // Where they are made
+  [[nodiscard]] Surface& stored() const { return *stored_; }
+  [[nodiscard]] Surface& overlay() const { return *overlay_; }
+
+ private:
+  Services& services_;
+  bool base_ = false;
+  std::shared_ptr<const Surface> picture_;
+  std::unique_ptr<Surface> stored_;  // both or none
+  std::unique_ptr<Surface> overlay_;
+};
+
+}  // namespace zol
