@@ -3,8 +3,8 @@
 
 #include <filesystem>
 
-#include "core/run_failure.h"
 #include "core/read_file.h"
+#include "core/run_failure.h"
 #include "fuzz/fuzz_targets.h"
 
 namespace zol::fuzz {

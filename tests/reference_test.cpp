@@ -10,8 +10,8 @@
 
 #include "core/cell_geometry.h"
 #include "core/crystal_file.h"
-#include "core/space_group.h"
 #include "core/record_reader.h"
+#include "core/space_group.h"
 #include "core/unit_cell.h"
 #include "reflections/reflection_list.h"
 #include "tests/cell_metric.h"

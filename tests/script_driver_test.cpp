@@ -7,8 +7,8 @@
 #include <filesystem>
 #include <sstream>
 
-#include "core/run_failure.h"
 #include "core/read_file.h"
+#include "core/run_failure.h"
 #include "tests/test_files.h"
 
 namespace zol {

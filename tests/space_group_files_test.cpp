@@ -13,8 +13,8 @@
 #include <tuple>
 #include <vector>
 
-#include "core/space_group.h"
 #include "core/record_reader.h"
+#include "core/space_group.h"
 #include "tests/cell_metric.h"
 
 namespace zol {

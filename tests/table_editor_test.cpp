@@ -1,9 +1,10 @@
 // The two table editors on control objects.
+#include "entry/window/table_editor.h"
+
 #include <gtest/gtest.h>
 
 #include "entry/window/input_atom_form.h"
 #include "entry/window/input_jcpds_form.h"
-#include "entry/window/table_editor.h"
 #include "reflections/window/main1_form.h"
 #include "shell/program/program.h"
 #include "tests/fake_services.h"

@@ -2,8 +2,8 @@
 #include <cstdio>
 #include <filesystem>
 
-#include "core/run_failure.h"
 #include "core/record_writer.h"
+#include "core/run_failure.h"
 #include "tools/make_data/electron_table.h"
 #include "tools/make_data/scattering_tables.h"
 #include "tools/make_data/space_group_files.h"
