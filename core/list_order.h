@@ -27,7 +27,7 @@ inline void reorder(Module1State& list, const ListOrder& order) {
 /// Has the list in an order, and puts it back at its end unless the order is to be kept.
 class ReorderedList {
  public:
-  ReorderedList(Module1State& list, ListOrder order) : list_(list), back_{{}, order.with_structure_factors} {
+  ReorderedList(Module1State& list, const ListOrder& order) : list_(list), back_{{}, order.with_structure_factors} {
     back_.from.resize(order.from.size());
     int place = 0;
     for (const int from : order.from) back_.from[static_cast<std::size_t>(from)] = place++;
