@@ -137,7 +137,7 @@ TEST(FiberArcs, AreForWhatIsSeenRelatedToTheStrongestOrItsPower) {
 
 /// A picture of greys, row by row.
 struct Greys {
-  explicit Greys(int width_px) : width(width_px), grey(static_cast<std::size_t>(width) * width, 255) {}
+  explicit Greys(int width_px) : width(width_px), grey(static_cast<std::size_t>(width_px * width_px), 255) {}
   [[nodiscard]] int& at(int column, int row) { return grey[static_cast<std::size_t>(row * width + column)]; }
   void darken(const CrystalState& state, Single x, Single y, Integer darkness) {
     const double half = state.CamAcquisition;
