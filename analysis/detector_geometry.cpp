@@ -65,8 +65,8 @@ CalibratedCamera calibrate(const SiMarkers& markers, Single normal_deg) {
   result.SiCentreY = to_single(turned_y1 - double{result.SiLength} * t1);
 
   constexpr double half_picture = 255.5;
-  const auto angle = [&result](double length) {
-    return to_single(in_degrees(divide(length, result.SiLength, "the distance of the picture from the source")));
+  const auto angle = [length_px = result.SiLength](double length) {
+    return to_single(in_degrees(divide(length, length_px, "the distance of the picture from the source")));
   };
   return {result, angle(half_picture), angle(double{result.SiCentreX} - half_picture),
           angle(double{result.SiCentreY} - half_picture)};

@@ -137,8 +137,11 @@ TEST(FiberArcs, AreForWhatIsSeenRelatedToTheStrongestOrItsPower) {
 
 /// A picture of greys, row by row.
 struct Greys {
-  explicit Greys(int width_px) : width(width_px), grey(static_cast<std::size_t>(width_px * width_px), 255) {}
-  [[nodiscard]] int& at(int column, int row) { return grey[static_cast<std::size_t>(row * width + column)]; }
+  explicit Greys(int width_px)
+      : width(width_px), grey(static_cast<std::size_t>(width_px) * static_cast<std::size_t>(width_px), 255) {}
+  [[nodiscard]] int& at(int column, int row) {
+    return grey[static_cast<std::size_t>(row) * static_cast<std::size_t>(width) + static_cast<std::size_t>(column)];
+  }
   void darken(const CrystalState& state, Single x, Single y, Integer darkness) {
     const double half = state.CamAcquisition;
     const double column = std::nearbyint((x + half) * (width / (2 * half)));
@@ -194,7 +197,7 @@ TEST(FiberArcs, OfManyTurnsGiveThePictureOfAllTheirSteps) {
         const auto found = fiber_arcs(state, 2, picture, quiet);
         for (const auto& point : found->points) arcs.darken(state, point.x, point.y, point.darkness);
         EXPECT_EQ(arcs.grey, plain.grey);
-        EXPECT_LT(found->points.size(), 4U * 4U * static_cast<std::size_t>(width));
+        EXPECT_LT(found->points.size(), std::size_t{16} * static_cast<std::size_t>(width));
         EXPECT_TRUE(dispersion < 180 || fiber_arcs(state, 2, picture, quiet)->points.size() <= found->points.size());
       }
     }

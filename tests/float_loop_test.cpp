@@ -56,7 +56,7 @@ TEST(SkippingLoop, MeetsTheValuesOfTheLoopThatVisitsThemAll) {
   // The last but one have steps that end half-way between two Singles.
   for (const Row& row :
        {Row{-3.7F, 1e5F, 0.2173F, rising}, Row{3.7F, -1e5F, 0.2173F, falling}, Row{8388600, 8396000, 1.5, rising},
-        Row{16777200, 16787200, 3, rising}, Row{-54, 60, 0.01F, rising}}) {
+        Row{16777200.0F, 16787200.0F, 3, rising}, Row{-54, 60, 0.01F, rising}}) {
     const auto all = values(row.from, row.limit, row.step, row.sense);
     for (const double distance : {2.0, 777.0, 1e9}) {
       std::vector<Single> some;

@@ -103,7 +103,7 @@ class WindowCopies : public testing::Test {
         operation = "select " + path + " 1";
         break;
       case ControlKind::Grid:
-        operation = "type " + path + " \"7\\r\"";
+        operation = "type " + path + R"( "7\r")";
         break;
       case ControlKind::Canvas:
         operation = "press " + path + " 1 1";

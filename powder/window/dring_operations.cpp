@@ -84,7 +84,8 @@ void DRCalc(Workbench& bench) {
   form.ProgressBar1.set_range(0, last_sample);
   const auto bins = filled_bins(form.Bins, 1, form.BinCount, state.Dmin);
   auto profile = sum_gaussian_lines(bins, form.DStarMax, form.HalfWidth, task);
-  form.Profile = form.Check1.checked() ? square_roots(std::move(profile)) : std::move(profile);
+  if (form.Check1.checked()) profile = square_roots(std::move(profile));
+  form.Profile = std::move(profile);
 
   if (form.DisplayMax == 0) form.DisplayMax = largest_sample(form.Profile);
   set_scales(form);
