@@ -5,6 +5,8 @@
 
 namespace zol {
 
+const char* const program_version = ZOL_VERSION;
+
 Program::Program(DataRoot data, Services& services)
     : data_(std::move(data)), bench_(state_, windows_, services, data_) {
   module1_.add_fields(bench_.state);

@@ -11,7 +11,7 @@
 
 namespace zol {
 
-inline constexpr auto program_version = "6.37";
+extern const char* const program_version;  ///< as "6.37"
 
 class Program {
  public:
