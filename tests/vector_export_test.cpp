@@ -6,10 +6,10 @@
 #include <fstream>
 #include <regex>
 
-#include <QLineF>
 #include <QRectF>
 
 #include "core/read_file.h"
+#include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/program/program.h"
@@ -41,21 +41,12 @@ Elements in_list(const Canvas& canvas) {
     return QPointF((x - scale.left) / (scale.right - scale.left) * picture.width(),
                    (y - scale.top) / (scale.bottom - scale.top) * picture.height());
   };
-  const auto is_seen = [&picture](const QLineF& line) {
-    if (picture.contains(line.p1()) || picture.contains(line.p2())) return true;
-    const QPointF corners[] = {picture.topLeft(), picture.topRight(), picture.bottomRight(), picture.bottomLeft()};
-    for (int i = 0; i < 4; ++i) {
-      if (line.intersects(QLineF(corners[i], corners[(i + 1) % 4]), nullptr) == QLineF::BoundedIntersection)
-        return true;
-    }
-    return false;
-  };
   Elements count;
   const DrawnLine* last = nullptr;  // unless another element stands between
   for (const Primitive& primitive : canvas.drawing()) {
     if (const auto* changed = std::get_if<UserScale>(&primitive.what)) scale = *changed;
     if (const auto* line = std::get_if<DrawnLine>(&primitive.what)) {
-      if (!is_seen({place(line->x1, line->y1), place(line->x2, line->y2)})) continue;
+      if (!clipped({place(line->x1, line->y1), place(line->x2, line->y2)}, picture)) continue;
       ++count.lines;
       const bool joint =
           last != nullptr && last->colour == line->colour && last->x2 == line->x1 && last->y2 == line->y1;
