@@ -53,13 +53,6 @@ using FindEntry = std::function<std::optional<int>(const TournamentTree& left)>;
 [[nodiscard]] std::vector<int> exchange_order(std::span<const double> keys, int first, const FindEntry& find,
                                               bool skip_without, Task& task);
 
-/// The same for lists that nobody waits for.
-[[nodiscard]] inline std::vector<int> exchange_order(std::span<const double> keys, int first, const FindEntry& find,
-                                                     bool skip_without = false) {
-  QuietTask task;
-  return exchange_order(keys, first, find, skip_without, task);
-}
-
 /// Puts entry order[i] at position i.
 template <class Value>
 void reorder(BoundedArray<Value>& array, std::span<const int> order) {

@@ -1,7 +1,6 @@
 // Another order of the reflection list: found first, then taken over by all arrays at once.
 #pragma once
 
-#include <utility>
 #include <vector>
 
 #include "core/crystal_state.h"
@@ -45,13 +44,5 @@ class ReorderedList {
   ListOrder back_;
   bool kept_ = false;
 };
-
-/// The same search, which asks at each round whether to go on.
-[[nodiscard]] inline FindEntry with_checks(FindEntry find, Task& task) {
-  return [find = std::move(find), &task](const TournamentTree& left) {
-    task.check();
-    return find(left);
-  };
-}
 
 }  // namespace zol

@@ -84,8 +84,8 @@ void match(CrystalState& state, Task& task) {
   (void)match_bands(state, table, used, bands, all_rows, task);
 }
 
-constexpr Calculation calculations[]{{"spots", 100, spots}, {"arcs", 400, arcs},       {"lines", 1000, lines},
-                                     {"map", 300, map},     {"triples", 100, triples}, {"matching", 1000, match}};
+constexpr Calculation calculations[]{{"spots", 100, spots}, {"arcs", 250, arcs},      {"lines", 900, lines},
+                                     {"map", 300, map},     {"triples", 11, triples}, {"matching", 1000, match}};
 
 class Cancelling : public testing::TestWithParam<Calculation> {};
 TEST_P(Cancelling, LeavesTheStateAsItWas) {
