@@ -1,20 +1,20 @@
 // From the asymmetric unit to the full content of the unit cell.
 #pragma once
 
-#include <array>
 #include <string>
 #include <vector>
 
 #include "core/crystal_state.h"
 #include "core/space_group.h"
 #include "core/task.h"
+#include "core/triples.h"
 
 namespace zol {
 
 /// An atom of the cell as the image of a site: its number, from 1, and where this image of it lies, 0 <= x < 1.
 struct SiteImage {
   int site = 0;
-  std::array<Single, 3> position{};
+  SingleTriple position{};
 };
 
 using UnitCell = std::vector<SiteImage>;

@@ -1,11 +1,11 @@
 // One row of the atom sites, as a table or a structure file gives it.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 
 #include "core/crystal_state.h"
+#include "core/triples.h"
 
 namespace zol {
 
@@ -13,8 +13,8 @@ struct AtomSite {
   std::string label;
   std::string element;
   Single occupancy = 1;
-  std::array<Single, 3> position{};  ///< fractional
-  std::optional<Single> b = {};      ///< square angstroms; none: what stands in the crystal's row stays
+  SingleTriple position{};       ///< fractional
+  std::optional<Single> b = {};  ///< square angstroms; none: what stands in the crystal's row stays
 };
 
 /// @param row  from 1
