@@ -113,7 +113,7 @@ void scatter_table(const std::string& input) {
   state.AsfXCount = read_scatter_table(MemoryFile(input).path(), state.AsfX);
   state.MassRatio = 1;
   for (int row = 1; row <= state.AsfXCount.value(); ++row) {
-    (void)AtomicScatter(state, state.AsfX(row).Element, 0.3F, {false, true});
+    (void)AtomicScatter(state, &state.AsfX(row), 0.3F, {false, true});
   }
 }
 

@@ -27,16 +27,12 @@ class ScatteringCell {
   /// The structure factor of (h, k, l) at s = sin(theta)/lambda in 1/angstrom. Sums are rounded to Single after each
   /// atom; 2 pi is 6.28318. An element without a scattering factor counts as 0.
   /// @throws RunFailure  a sum passes the range of a Single
-  [[nodiscard]] Amplitude amplitude(Integer h, Integer k, Integer l, Single s) const;
+  [[nodiscard]] Amplitude StructureFactor(Integer h, Integer k, Integer l, Single s) const;
 
   /// An element of the cell has no row in the table of scattering factors.
   [[nodiscard]] bool scatter_missing() const {
     return std::any_of(elements_.begin(), elements_.end(), [](const AsfRow* row) { return row == nullptr; });
   }
-
-  /// Sets RefA(i) and RefB(i) to the structure factor of entry i, which must hold h, k, l and RefS(i). An element
-  /// without a scattering factor sets ScatterMissing.
-  void StructureFactor(CrystalState& state, int i) const;
 
   [[nodiscard]] const Radiation& radiation() const { return radiation_; }
 

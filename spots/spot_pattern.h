@@ -10,7 +10,7 @@
 
 #include "core/crystal_state.h"
 #include "core/task.h"
-#include "reflections/scattering.h"
+#include "reflections/structure_factor.h"
 #include "spots/grey_scale.h"
 #include "spots/zone_geometry.h"
 
@@ -33,8 +33,9 @@ void visit_reflections_on_level(const CrystalState& state, const std::function<v
 
 struct SpotPattern {
   std::vector<DiffractionSpot> spots;
-  Single last_s = 0, last_a = 0, last_b = 0;  ///< RefS, RefA and RefB of the last spot
-  bool scatter_missing = false;               ///< an element of a spot has no scattering factor
+  Single last_s = 0;             ///< RefS of the last spot
+  Amplitude last_f;              ///< RefA and RefB of it
+  bool scatter_missing = false;  ///< an element of a spot has no scattering factor
 };
 
 /// All of them whose projection lies inside the square of half width CamAcquisition, in that order, those of intensity

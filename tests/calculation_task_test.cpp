@@ -130,7 +130,7 @@ TEST(TwoThreads, GiveTheBytesOfSingleRuns) {
   const auto factors = [&quartz = std::as_const(*quartz), &cell] {
     std::string bytes;
     for (int i = 1; i <= quartz.RefCount.value(); ++i) {
-      append(bytes, cell.amplitude(quartz.RefH(i), quartz.RefK(i), quartz.RefL(i), quartz.RefS(i)));
+      append(bytes, cell.StructureFactor(quartz.RefH(i), quartz.RefK(i), quartz.RefL(i), quartz.RefS(i)));
     }
     return bytes;
   };
