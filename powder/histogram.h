@@ -8,10 +8,6 @@
 
 namespace zol {
 
-/// Length of h a* + k b* + l c* in inverse angstroms, for indices that need not be whole.
-/// @throws RunFailure  the metric gives a negative square
-[[nodiscard]] Single reciprocal_length(const Main1State& cell, Single h, Single k, Single l);
-
 /// Number of the bin that 1/d of the smallest spacing falls into: bin n stands for n / dmin / bins.
 /// @throws RunFailure  dmin is 0, or the number passes 16 bits
 [[nodiscard]] Integer bin_count(Single dmin);

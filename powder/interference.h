@@ -48,9 +48,7 @@ class InterferenceTable {
 
   [[nodiscard]] const InterferenceGrid& grid() const { return grid_; }
 
-  /// Value at (i, j, k) steps, each from 0 to the number of steps of its axis.
-  [[nodiscard]] Single operator()(int i, int j, int k) const { return row(i, j)[k]; }
-  /// The values along c* at i, j.
+  /// The values along c* at (i, j) steps along a* and b*: entries 0 to the number of steps along c*.
   [[nodiscard]] const Single* row(int i, int j) const {
     return values_.data() + (static_cast<std::size_t>(i) * points_[1] + static_cast<std::size_t>(j)) * points_[2];
   }
