@@ -7,11 +7,6 @@
 namespace zol::utility {
 namespace {
 
-struct Axes {
-  double a, b, c;
-  double cos_alpha, cos_beta, cos_gamma;
-};
-
 /// The metric times the vector gives its components in the other space.
 SingleTriple equivalent(const Axes& axes, const SingleTriple& vector) {
   const auto& [a, b, c, cos_alpha, cos_beta, cos_gamma] = axes;
@@ -32,11 +27,11 @@ SingleTriple equivalent(const Axes& axes, const SingleTriple& vector) {
 }  // namespace
 
 SingleTriple reciprocal_equivalent(const Main1State& cell, const SingleTriple& uvw) {
-  return equivalent({cell.CellA, cell.CellB, cell.CellC, cell.CosAlpha, cell.CosBeta, cell.CosGamma}, uvw);
+  return equivalent(direct_axes(cell), uvw);
 }
 
 SingleTriple direct_equivalent(const Main1State& cell, const SingleTriple& hkl) {
-  return equivalent({cell.AStar, cell.BStar, cell.CStar, cell.CosAlphaStar, cell.CosBetaStar, cell.CosGammaStar}, hkl);
+  return equivalent(reciprocal_axes(cell), hkl);
 }
 
 std::optional<double> vector_angle(const Main1State& cell, AngleOf kind, const SingleTriple& first,

@@ -15,6 +15,14 @@ namespace zol {
 /// @throws RunFailure  a division by zero
 bool calc_cell(Main1State& cell);
 
+/// One basis of the cell as all forms of its metric take it: three lengths and the cosines of the angles between them.
+struct Axes {
+  double a, b, c;
+  double cos_alpha, cos_beta, cos_gamma;
+};
+[[nodiscard]] Axes direct_axes(const Main1State& cell);
+[[nodiscard]] Axes reciprocal_axes(const Main1State& cell);
+
 /// Length of h a* + k b* + l c*, that is 1/d. (0, 0, 0) gives 0.
 /// @throws RunFailure  the metric gives a negative square
 [[nodiscard]] Single DHKL(const Main1State& cell, Integer h, Integer k, Integer l);

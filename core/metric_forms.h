@@ -11,12 +11,7 @@ namespace zol {
 
 /// G* v: gives the direct components of h a* + k b* + l c*.
 [[nodiscard]] inline SingleTriple reciprocal_metric_times(const Main1State& cell, const SingleTriple& indices) {
-  const double a = cell.AStar;
-  const double b = cell.BStar;
-  const double c = cell.CStar;
-  const double cos_alpha = cell.CosAlphaStar;
-  const double cos_beta = cell.CosBetaStar;
-  const double cos_gamma = cell.CosGammaStar;
+  const auto [a, b, c, cos_alpha, cos_beta, cos_gamma] = reciprocal_axes(cell);
   const auto [h, k, l] = indices;
   return {to_single(a * h * a + a * k * b * cos_gamma + c * l * a * cos_beta),
           to_single(a * h * b * cos_gamma + b * k * b + b * l * c * cos_alpha),
@@ -28,12 +23,7 @@ namespace zol {
   const double u = direction.h.value();
   const double v = direction.k.value();
   const double w = direction.l.value();
-  const double a = cell.CellA;
-  const double b = cell.CellB;
-  const double c = cell.CellC;
-  const double cos_alpha = cell.CosAlpha;
-  const double cos_beta = cell.CosBeta;
-  const double cos_gamma = cell.CosGamma;
+  const auto [a, b, c, cos_alpha, cos_beta, cos_gamma] = direct_axes(cell);
   return {to_single(v * a * b * cos_gamma + u * a * a + w * a * c * cos_beta),
           to_single(u * b * a * cos_gamma + v * b * b + w * b * c * cos_alpha),
           to_single(u * c * a * cos_beta + v * c * b * cos_alpha + w * c * c)};
