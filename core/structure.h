@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/lattice.h"
+#include "core/task.h"
 
 namespace zol {
 
@@ -59,7 +60,8 @@ struct CellAtom {
 /// All atoms of the unit cell, by site, then by operator; without operators the sites as they stand. Images of one site
 /// that lie close together are one atom, at the place of the first: the site lies on a symmetry element.
 /// @param merge_angstrom  largest distance between images that are one, also across the faces of the cell
-/// @throws RunFailure     the cell is none, or a position no finite number
-[[nodiscard]] std::vector<CellAtom> cell_atoms(const Structure& structure, double merge_angstrom);
+/// Checks the task at each operator, reports nothing.
+/// @throws RunFailure     the cell constants make no cell, or a position is not a finite number
+[[nodiscard]] std::vector<CellAtom> cell_atoms(const Structure& structure, double merge_angstrom, Task& task);
 
 }  // namespace zol

@@ -2,12 +2,14 @@
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/bounded_array.h"
 #include "core/numbers.h"
+#include "core/task.h"
 
 namespace zol {
 
@@ -18,8 +20,9 @@ inline constexpr int most_words = 100;  ///< in a line
 /// @throws RunFailure   it has more than 100 words
 [[nodiscard]] std::vector<std::string> cut_words(std::string_view line, const std::string& path, int number);
 
-/// Lines of a text; CR LF, LF or CR ends one, and an end at the end of the text makes no further line.
-[[nodiscard]] std::vector<std::string> split_lines(std::string_view text);
+/// Visits the lines of a text in turn; CR LF, LF or CR ends one, and an end at the end of the text makes no further
+/// line. Checks the task before each line.
+void for_each_line(std::string_view text, Task& task, const std::function<void(std::string_view line)>& visit);
 
 /// A value without its standard uncertainty: what stands before the first "(".
 [[nodiscard]] std::string without_uncertainty(std::string_view word);

@@ -100,6 +100,7 @@ void visit_reflections_on_level(const CrystalState& state, const std::function<v
   const int l_limit = index_limit(frame.half_width, state.CStar, "c*");
   const char letter = state.LatticeLetter.empty() ? 'P' : state.LatticeLetter.front();
   for (int h = -h_limit; h <= h_limit; ++h) {
+    task.check();
     for (int k = -k_limit; k <= k_limit; ++k) {
       if (frame.w == 0.0 && !on_level(frame, h, k, 0)) continue;  // then l does not count
       task.check();
