@@ -24,8 +24,8 @@ enum class AngleOf {
   Planes       ///< the planes of two reciprocal vectors: 180 less the angle of their normals
 };
 
-/// Angle in degrees; none when a vector has no length. The arctangent is taken as it comes: an obtuse angle between
-/// vectors is negative (less by 180), a right one 0, of planes 180.
+/// Angle in degrees; none when a vector has no length. It is a plain arctangent: an obtuse angle between vectors
+/// is negative (less by 180), a right one is 0, or 180 between planes.
 /// @throws RunFailure  the cosine of reciprocal vectors lies beyond 1
 [[nodiscard]] std::optional<double> vector_angle(const Main1State& cell, AngleOf kind, const SingleTriple& first,
                                                  const SingleTriple& second);

@@ -16,10 +16,10 @@ namespace zol {
 /// @throws RunFailure  it does not, because dmin is too small
 [[nodiscard]] int highest_bin(Integer count, int beyond);
 
-/// Content of each bin. It has bins beyond that of the smallest spacing for what the spread carries there.
+/// Content of each bin. It has bins beyond that of the smallest spacing, since reflections are spread.
 using Histogram = BoundedArray<Single>;
 
-/// The reflections of the list, as it stands, with their intensities, in bins 0 to last. Reports by reflections.
+/// The intensities of the reflections of the list in bins 0 to last. Reports reflections.
 /// @param count  the bin of the smallest spacing
 /// @throws RunFailure  a point falls beyond the last bin, or a bin passes the range of a Single
 [[nodiscard]] Histogram fill_histogram(const CrystalState& state, const InterferenceTable& table, Integer count,

@@ -1,4 +1,4 @@
-// The interference function of a crystallite of P x Q x R unit cells, tabulated once per pattern.
+// The interference function of a crystallite of P x Q x R unit cells, tabulated once for each pattern.
 //
 // Offsets from a reciprocal lattice point are in units of the reciprocal axes. The table holds one octant: offsets of
 // both signs share an entry. Source: M. von Laue, see Warren, X-ray Diffraction (1969), section 3.4.
@@ -21,7 +21,7 @@ struct CrystalliteSize {
   Single CellsP = 0, CellsQ = 0, CellsR = 0;
 };
 
-/// Points at which a reflection is looked at, axis by axis: offsets -steps * width to steps * width.
+/// Points at which a reflection is sampled, axis by axis: offsets -steps * width to steps * width.
 struct InterferenceGrid {
   std::array<Integer, 3> steps;
   std::array<Single, 3> width{};

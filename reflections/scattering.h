@@ -12,7 +12,7 @@
 
 namespace zol {
 
-/// What the structure factors are made for: the two option buttons of the main window.
+/// Radiation of the structure factors and intensities, as chosen in the main window.
 struct Radiation {
   bool xray = false;      ///< X-ray intensity
   bool electron = false;  ///< electron intensity and electron scattering factors
@@ -23,7 +23,8 @@ struct Radiation {
 /// @throws RunFailure  the file is missing, a record is broken, or there are more than 300 rows
 Integer read_scatter_table(const std::string& path, BoundedArray<AsfRow>& table);
 
-/// Row of an element in AsfX, the first of two with one key; nullptr when there is none.
+/// Row of an element in AsfX, compared exactly; the first one if there are several, nullptr if there is none. The
+/// pointer is valid as long as the table of the state.
 [[nodiscard]] const AsfRow* find_scatter_row(const Main1State& state, std::string_view element);
 
 /// Scattering factor of the element of a row at s: for electrons in angstroms times MassRatio, for X-rays (and for

@@ -12,14 +12,14 @@
 
 namespace zol {
 
-/// Real and imaginary part of a structure factor.
+/// Real and imaginary part of a structure factor: electrons, or angstroms times MassRatio for electron scattering.
 struct Amplitude {
   Single a = 0, b = 0;
 };
 
-/// The unit cell laid out for the structure factors of many reflections. What atoms share is worked out once: the row
-/// of the table and the scattering factor of an element, weight and damping of a kind, which is an element with an
-/// occupancy and a B. It looks into the state that it was made from, and several threads may ask it.
+/// The unit cell prepared for the structure factors of many reflections. What atoms share is computed once: the row and
+/// the scattering factor of an element, weight and damping of a kind, which is an element with an occupancy and a B. It
+/// refers to the state that it was made from, which must outlive it. Several threads may use it.
 class ScatteringCell {
  public:
   ScatteringCell(const CrystalState& state, const Radiation& radiation);
@@ -52,12 +52,12 @@ class ScatteringCell {
   std::vector<const AsfRow*> elements_;  ///< null where the table has no row
   std::vector<Kind> kinds_;
 
-  // One entry an atom.
+  // One entry per atom.
   std::vector<double> x_, y_, z_;
   std::vector<std::size_t> kind_;
 };
 
-/// A reflection of the list, with what its intensity hangs on.
+/// A reflection of the list, with what its intensity depends on.
 struct ListEntry {
   Integer h, k, l;
   Single s = 0;      ///< sin(theta)/lambda
