@@ -121,17 +121,17 @@ void Text14_KeyPress(UtilityForm& form, int& key) { enter_moves_to(form.Text15, 
 void Text15_KeyPress(UtilityForm& /*form*/, int& key) { swallow_enter(key); }
 
 void Command4_Click(Workbench& bench, UtilityForm& form) {
-  const Vector hkl = reciprocal_equivalent(main1_state(bench), {form.VectorU, form.VectorV, form.VectorW});
-  form.Text13.set_text(Str(hkl.x));
-  form.Text14.set_text(Str(hkl.y));
-  form.Text15.set_text(Str(hkl.z));
+  const auto [h, k, l] = reciprocal_equivalent(main1_state(bench), {form.VectorU, form.VectorV, form.VectorW});
+  form.Text13.set_text(Str(h));
+  form.Text14.set_text(Str(k));
+  form.Text15.set_text(Str(l));
 }
 
 void Command5_Click(Workbench& bench, UtilityForm& form) {
-  const Vector uvw = direct_equivalent(main1_state(bench), {form.VectorH, form.VectorK, form.VectorL});
-  form.Text10.set_text(Str(uvw.x));
-  form.Text11.set_text(Str(uvw.y));
-  form.Text12.set_text(Str(uvw.z));
+  const auto [u, v, w] = direct_equivalent(main1_state(bench), {form.VectorH, form.VectorK, form.VectorL});
+  form.Text10.set_text(Str(u));
+  form.Text11.set_text(Str(v));
+  form.Text12.set_text(Str(w));
 }
 
 void Option1_Click(Workbench& bench, UtilityForm& form) { show_angle(bench, form); }
