@@ -106,9 +106,11 @@ Windows::Copies Windows::copies() const {
 }
 
 void Windows::put_back(const Copies& copies) {
-  for (const auto& [name, copy] : copies) {
-    if (Window* window = find(name)) window->put_back(copy);
+  for (const auto& [name, copy] : copies) use(name);
+  for (const auto& name : names()) {
+    if (!copies.contains(name)) unload(name);
   }
+  for (const auto& [name, copy] : copies) use(name).put_back(copy);
 }
 
 void Windows::unload(const std::string& name) {

@@ -151,7 +151,8 @@ class Windows {
   /// Of the windows that exist, by name.
   using Copies = std::map<std::string, Window::Copy>;
   [[nodiscard]] Copies copies() const;
-  /// Those that exist still or again take theirs; no handler runs.
+  /// Windows that have come since go, one that has been unloaded is loaded anew, and all take their copies. No other
+  /// handler runs.
   void put_back(const Copies& copies);
 
   /// Ends a window; its next use makes a new one. Its handlers may still be running, so that its memory goes later.
