@@ -15,6 +15,7 @@ struct ListOrder {
   bool with_structure_factors = false;  ///< RefA and RefB go with RefH, RefK, RefL, RefS and RefI; otherwise they stay
 };
 
+/// Brings the list into the order.
 inline void reorder(Module1State& list, const ListOrder& order) {
   for (auto* array : {&list.RefS, &list.RefI}) reorder(*array, order.from);
   if (order.with_structure_factors) {
@@ -23,26 +24,5 @@ inline void reorder(Module1State& list, const ListOrder& order) {
   for (auto* array : {&list.RefH, &list.RefK, &list.RefL}) reorder(*array, order.from);
 }
 
-/// Puts the list in an order, and restores it at the end of the scope unless keep() was called.
-class ReorderedList {
- public:
-  ReorderedList(Module1State& list, const ListOrder& order) : list_(list), back_{{}, order.with_structure_factors} {
-    back_.from.resize(order.from.size());
-    int place = 0;
-    for (const int from : order.from) back_.from[static_cast<std::size_t>(from)] = place++;
-    reorder(list_, order);
-  }
-  ReorderedList(const ReorderedList&) = delete;
-  ReorderedList& operator=(const ReorderedList&) = delete;
-  ~ReorderedList() {
-    if (!kept_) reorder(list_, back_);
-  }
-  void keep() { kept_ = true; }
-
- private:
-  Module1State& list_;
-  ListOrder back_;
-  bool kept_ = false;
-};
 
 }  // namespace zol

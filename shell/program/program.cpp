@@ -13,6 +13,13 @@ Program::Program(DataRoot data, Services& services)
   add_windows(bench_);
 }
 
+std::function<void()> Program::keep() {
+  return [this, windows = windows_.copies(), state = state_] {
+    windows_.put_back(windows);
+    state_ = state;
+  };
+}
+
 void Program::start() { windows_.use(MainMenuForm::window_name).show(); }
 
 }  // namespace zol

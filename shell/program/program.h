@@ -25,6 +25,9 @@ class Program {
   [[nodiscard]] Windows& windows() { return windows_; }
   [[nodiscard]] CrystalState& state() { return state_; }
   [[nodiscard]] Workbench& bench() { return bench_; }
+  /// Copies windows and state. @returns what makes them as they are now
+  [[nodiscard]] std::function<void()> keep();
+
   /// The arrays and scalars that belong to no window.
   [[nodiscard]] const NamedValues& module1() const { return module1_; }
 
