@@ -24,5 +24,4 @@ inline void reorder(Module1State& list, const ListOrder& order) {
   for (auto* array : {&list.RefH, &list.RefK, &list.RefL}) reorder(*array, order.from);
 }
 
-
 }  // namespace zol
