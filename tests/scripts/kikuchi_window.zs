@@ -152,15 +152,11 @@ leave Pattern2.Text21
 print Main1.Combo1
 print Main1.WaveLength
 print PATTERN3.Text5
-echo the measured picture below: strong lines are yellow
+echo how many bands; none is all
 set Pattern2.Text2 0
 set Pattern2.Text19 9
 print Main1.KikuchiRefLimit
-click Pattern2.ImageLoad
-print Pattern2.ImageMark
-print Pattern2.Picture1
-click Pattern2.ImageClear
-print Pattern2.ImageMark
+click Pattern2.Command8
 set Pattern2.Text19 ""
 print Main1.KikuchiRefLimit
 echo walking by 10 degrees: right, up, left, down, and where the reference (1 1 0) stays
