@@ -96,7 +96,8 @@ set Main1.Text3 6
 set Main1.Text4 95
 set Main1.Text5 100
 set Main1.Text6 105
-set Utility.Text51 "1 "
+type Utility.Text51 " \r"
+print Utility.Text51
 print Utility.Text52
 click Utility.Option2
 print Utility.Text52
@@ -121,6 +122,8 @@ type Utility.Text12 "3\r"
 click Utility.Command4
 print Utility.Text13
 print Utility.Text14
+print Utility.Text15
+type Utility.Text15 "\r"
 print Utility.Text15
 click Utility.Command5
 print Utility.Text10

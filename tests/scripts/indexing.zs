@@ -18,7 +18,12 @@ print PATTERN3.Text2
 set PATTERN3.Text2 500
 leave PATTERN3.Text2
 print PATTERN3.Text2
+echo a tie is not cut, and a part of a reflection counts
 set PATTERN3.Text2 7
+leave PATTERN3.Text2
+print PATTERN3.Label8
+print PATTERN3.ProgressBar1
+set PATTERN3.Text2 6.4
 leave PATTERN3.Text2
 print PATTERN3.Label8
 print PATTERN3.ProgressBar1
@@ -38,6 +43,7 @@ move PATTERN3.Picture1 428.5 511
 release PATTERN3.Picture1 428.5 511
 print PATTERN3.Picture1
 click PATTERN3.Command1
+print PATTERN3.ProgressBar1
 print PATTERN3.Label1(0)
 print PATTERN3.Label1(1)
 print PATTERN3.Label1(2)
