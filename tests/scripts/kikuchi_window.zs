@@ -51,6 +51,10 @@ click Pattern2.Option1
 set Pattern2.Text2 114
 click Pattern2.Command8
 print Pattern2.List1
+select Pattern2.List1 0
+print Main1.MarkH
+print Main1.MarkK
+print Main1.MarkL
 set Pattern2.Text2 115
 echo only {100}, as traces, with centre, normal and circle of 10 degrees
 click Pattern2.Check3
