@@ -338,11 +338,15 @@ answer ""
 click Main1.DATA_LOAD
 print Main1.CrystalFile
 print Main1.Text17
-echo rock salt from a text of the structure database; cancelled, nothing changes
-set Main1.Text7 1
-answer tests/scripts/halite.icsd
+echo two tables of a structure database, of which an empty line repeats a row; cancelled, nothing changes
+set Main1.Text7 2
+answer tests/scripts/sites.icsd
 click Main1.ImportFromICSD
 print Main1.Text1
+print Main1.Text2
+print Main1.Text3
+print Main1.Text4
+print Main1.Text5
 print Main1.Text6
 print Main1.Label16
 print Main1.Label20
