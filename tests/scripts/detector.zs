@@ -88,3 +88,32 @@ print Module1.CamYShift
 print Module1.CamDetector
 print Module1.CamXYRatio
 print Module1.CamNormal
+echo markers: crosses of 5 pixels to each side, nudged by half a pixel down, left, right, up
+click PATTERN3.CPS_Si001
+click PATTERN3.Option1
+press PATTERN3.Picture1 100 200
+click PATTERN3.Command10(0)
+click PATTERN3.Command10(0)
+click PATTERN3.Command10(1)
+print PATTERN3.SiMarkX1
+print PATTERN3.SiMarkY1
+click PATTERN3.Option2
+press PATTERN3.Picture1 300 150
+print PATTERN3.SiAngle
+click PATTERN3.Command10(2)
+click PATTERN3.Command10(3)
+click PATTERN3.Option3
+click PATTERN3.Command10(3)
+print PATTERN3.SiMarkX2
+print PATTERN3.SiMarkY2
+print PATTERN3.Picture1
+press PATTERN3.Picture1 310 150
+print PATTERN3.SiAngle
+print PATTERN3.SiMarkX1
+print PATTERN3.Picture1
+echo a click on the pattern centre, off by (300 - 255)/255 tan 31 and so on, and its cross
+click PATTERN3.CenterPosition
+press PATTERN3.Picture1 300 200
+print PATTERN3.Text14
+print PATTERN3.Text15
+print PATTERN3.Picture1

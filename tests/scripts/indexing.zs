@@ -127,6 +127,10 @@ leave PATTERN3.Text2
 click PATTERN3.Command1
 print PATTERN3.List1
 print PATTERN3.MatchStatus
+select PATTERN3.List1 0
+print PATTERN3.Label1(0)
+print PATTERN3.Label1(1)
+print PATTERN3.Label1(2)
 select PATTERN3.List1 3
 print PATTERN3.Label1(0)
 print PATTERN3.Label1(1)

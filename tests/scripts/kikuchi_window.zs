@@ -108,6 +108,30 @@ click Pattern2.Rpitch
 click Pattern2.Command7
 print Main1.PatternAngle
 print Pattern2.List1
+echo forty half turns later, and before: the list adds the radians of the turn to its azimuths, within 0 and 360
+answer 180
+click Pattern2.Rpitch
+set Pattern2.Text19 6
+click Pattern2.Command10
+click Pattern2.Command10
+click Pattern2.Command10
+click Pattern2.Command10
+print Main1.PatternAngle
+print Pattern2.List1
+click Pattern2.Command9
+click Pattern2.Command9
+click Pattern2.Command9
+click Pattern2.Command9
+click Pattern2.Command9
+click Pattern2.Command9
+click Pattern2.Command9
+click Pattern2.Command9
+print Pattern2.List1
+set Pattern2.Text19 3
+click Pattern2.Command10
+click Pattern2.Command10
+click Pattern2.Command10
+click Pattern2.Command10
 echo zoom, by 1.4142 and by 2, shifts and ratio
 click Pattern2.Command2
 print Pattern2.Text1
