@@ -2,6 +2,7 @@
 // show: failures, prompts, pictures, files, and which windows stand on the screen.
 #include <gtest/gtest.h>
 
+#include "analysis/window/pattern3_form.h"
 #include "kikuchi/window/camera_parameters_form.h"
 #include "kikuchi/window/pattern2_form.h"
 #include "kikuchi/window/zaxis_form.h"
@@ -61,13 +62,22 @@ TEST_F(KikuchiWindows, SuperposedImageTurnsStrongLinesYellow) {
 }
 
 TEST_F(KikuchiWindows, PromptsShowThePresentValue) {
-  services.answers = {"7.5", "", "2", "1.5"};
+  auto& main1 = program.windows().use<Main1Form>();
+  auto& pattern3 = program.windows().use<Pattern3Form>();
+  main1.Text15.set_text("-1");
+  services.answers = {"7.5", "", "2", "1.5", "1", "1", "1", "x", "3"};
   for (MenuItem* item : {&form().Rpitch, &form().Rpitch, &form().Spitch, &form().Zpitch}) item->click();
+  for (int i = 0; i < 2; ++i) pattern3.Imatch.click();
+  (*pattern3.operation("EquivSet"))();
+  main1.Command6.click();
+  const std::string rotation = "] Input Rotation Angle Minimum (deg.)|Rotation Angle Pitch";
+  const std::string matching = "] Input matching method (0:triangle and direction 1:only triangle)|Matching Method";
+  const std::string dmin = "Input D-value Minimum|D-value Minimum";
   EXPECT_EQ(services.prompts,
-            (std::vector<std::string>{"[5] Input Rotation Angle Minimum (deg.)|Rotation Angle Pitch",
-                                      "[7.5] Input Rotation Angle Minimum (deg.)|Rotation Angle Pitch",
-                                      "[3.7] Input Shift Angle  (deg.)|Shift Angle Pitch",
-                                      "[1.4142] Input Zoom increment (ratio)|Zoom increment"}));
+            (std::vector<std::string>{
+                "[5" + rotation, "[7.5" + rotation, "[3.7] Input Shift Angle  (deg.)|Shift Angle Pitch",
+                "[1.4142] Input Zoom increment (ratio)|Zoom increment", "[0" + matching, "[1" + matching,
+                "[0] Equivalent solution (0:Display 1:Omitt)|Equivale solution", dmin, dmin}));
 }
 
 TEST_F(KikuchiWindows, OpenAndClose) {

@@ -1,5 +1,5 @@
-// What the script of the main window (scripts/main_window.zs) can't show: failures, prompts, report files, and where
-// Enter leads.
+// What the script of the main window (scripts/main_window.zs) can't show: failures, report files, and where Enter
+// leads.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -71,14 +71,6 @@ TEST_F(Main1Test, FailuresTellTheBoxAndTheFile) {
       << message;
   form().Text15.set_text("");
   EXPECT_NE(failure_of([&] { form().Command9.click(); }).find("division by zero"), std::string::npos);
-}
-
-TEST_F(Main1Test, DminIsAskedForUntilItIsPositive) {
-  form().Text15.set_text("0");
-  services.answers = {"-1", "", "x", "3"};
-  form().Command6.click();
-  EXPECT_EQ(services.prompts, std::vector<std::string>(4, "Input D-value Minimum|D-value Minimum"));
-  EXPECT_EQ(form().Text15.text(), "3");
 }
 
 TEST_F(Main1Test, ReportsHaveNoHeader) {

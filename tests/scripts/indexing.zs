@@ -97,6 +97,9 @@ print PATTERN3.List1
 click PATTERN3.Check1
 click PATTERN3.Command1
 print PATTERN3.List1
+echo the line of the count takes the second solution of the run before
+select PATTERN3.List1 1
+print Pattern2.Text3
 click PATTERN3.Check1
 answer 0
 click PATTERN3.Imatch
