@@ -1,6 +1,7 @@
 # The five calculators of Utility, and distances in quartz and rutile. Checked by projecting the directions (y' = sin p sin a
 # cos r - cos p sin r, x = sin p cos a), by multiplying out, and with vectors and distances of the cells in double.
 show Utility
+print Utility.Option1
 echo direction from azimuths, folded into -90 to 90: 30 and 50 from the axis; then 200 and 35
 set Utility.Text1 210
 set Utility.Text2 0

@@ -1,6 +1,29 @@
 # The detector in degrees and mm, of 40 mm: position 20/tan(acquisition), shifts position * tan(shift), all rounded down to
 # 0.01 mm (x shift 0.001), angles from mm to 0.01 (acquisition 0.001) degree; worked out at a desk calculator.
 click MAIN_MENU.Command3
+echo as they start
+print PATTERN3.Text1
+print PATTERN3.AngleTol
+print PATTERN3.Text2
+print PATTERN3.NhklWanted
+print PATTERN3.Text5
+print PATTERN3.Text17
+print PATTERN3.Text3
+print PATTERN3.Text14
+print PATTERN3.Text15
+print PATTERN3.LastLine
+print CameraParameters.Text1
+print CameraParameters.Text2
+print CameraParameters.Text3
+print CameraParameters.Text5
+print CameraParameters.Text6
+print CameraParameters.Text7
+visible PATTERN3.Text17
+visible PATTERN3.Label16
+visible PATTERN3.Text6
+visible PATTERN3.Command14
+visible PATTERN3.Frame1
+visible PATTERN3.Command10(0)
 echo degrees to mm, and to the camera parameters
 set PATTERN3.Text3 35
 print PATTERN3.Text12

@@ -13,9 +13,17 @@ print Main1.Label26
 echo nothing without an axis; the camera starts anew
 set PATTERN3.Text14 3
 set PATTERN3.Text15 4
+set CameraParameters.Text6 2
 click Pattern2.Command8
 print Pattern2.Picture1
+print Pattern2.Option1
+click Pattern2.Option2
+click Pattern2.Check2
 click Main1.Command10
+print Pattern2.Option1
+print Pattern2.Check2
+print Module1.CamXShift
+print Module1.CamXYRatio
 print Pattern2.Text1
 print Pattern2.Text14
 print Pattern2.Text15
@@ -267,6 +275,21 @@ type Pattern2.Text22 "\r"
 print Pattern2.Text22
 print Pattern2.Text23
 print Pattern2.Text18
+print Pattern2.Picture1
+echo sizes of picture, font and spots: drawn anew, without the discs
+answer 0
+click Pattern2.Imagesize
+answer 5000
+click Pattern2.Imagesize
+print Pattern2.Picture1
+click Pattern2.Command18
+answer 9
+call Pattern2.Fsize
+print Pattern2.Picture1
+click Pattern2.Command18
+answer 2
+call Pattern2.Spotsize
+print Main1.SpotScale
 print Pattern2.Picture1
 echo another crystal
 click Pattern2.Command14

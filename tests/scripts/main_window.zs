@@ -1,7 +1,15 @@
 # Main1: radiation, space group, cell and lists. Wavelengths are sqrt(150/V) or tabulated; the reciprocal cell is worked
 # out apart with vectors; the reflections of the cubic cell lie at d = a/sqrt(hh+kk+ll).
 print Main1.Combo1
+print Main1.Text15
 print Main1.Text16
+print Main1.Option1
+print Main1.Option2
+print Main1.Check1
+print Main1.Check2
+print Main1.Check3
+print Main1.Combo2
+print Main1.AxisSetting
 choose Main1.Combo1 CuKa
 print Main1.WaveLength
 print Main1.Option1
@@ -66,6 +74,10 @@ select Main1.List3 61
 print Main1.Text7
 print Main1.Label17
 choose Main1.Combo2 bca
+print Main1.AxisSetting
+select Main1.Combo2 5
+print Main1.AxisSetting
+select Main1.Combo2 1
 print Main1.AxisSetting
 choose Main1.Combo2 abc
 echo a triclinic cell, and its reciprocal one once it is complete
