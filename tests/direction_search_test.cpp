@@ -1,4 +1,4 @@
-// The edges of the searches, and directions projected apart from the program. Plain runs: scripts/calculators.zs.
+// The passes of the search, and the edges of both. Directions found again: scripts/calculators.zs.
 #include "calculators/direction_search.h"
 
 #include <gtest/gtest.h>
@@ -34,21 +34,6 @@ DirectionSearch search(const PhotographPair& wanted) {
   EXPECT_EQ(task.steps.back(), std::pair(4, 4));
   EXPECT_GT(task.checks, 36 + 20 + 20 + 19) << "one for each row of trials";
   return found;
-}
-
-TEST(DirectionSearch, FindsAProjectedDirectionAgain) {
-  struct Row {
-    double azimuth, polar, rotation_1, rotation_2;
-  };
-  for (const auto& row : {Row{120, 45, 0, 45}, Row{310, 70, 10, 40}, Row{145, 84, -30, 30}}) {
-    SCOPED_TRACE(row.azimuth);
-    const auto wanted = photographs(row.azimuth, row.polar, row.rotation_1, row.rotation_2);
-    const auto found = search(wanted).answer();
-    EXPECT_NEAR(found.azimuth, row.azimuth, 0.015) << "the finest step is 0.01";
-    EXPECT_NEAR(found.polar, row.polar, 0.015);
-    EXPECT_NEAR(found.phi_1, wanted.Phi1, 0.02);
-    EXPECT_NEAR(found.phi_2, wanted.Phi2, 0.02);
-  }
 }
 
 TEST(DirectionPasses, FourthIsCentredOnTheSecond) {

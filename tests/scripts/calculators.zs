@@ -24,6 +24,34 @@ print Utility.Label6
 print Utility.Label9
 print Utility.Label11
 print Utility.Text3
+echo more of them: 120 and 45, 145 and 84, 310 and 70 from the axis
+set Utility.Text1 -60
+set Utility.Text2 0
+set Utility.Text3 10.7285831
+set Utility.Text4 45
+click Utility.Command1
+print Utility.Label5
+print Utility.Label6
+print Utility.Label9
+print Utility.Label11
+set Utility.Text1 -33.8439004
+set Utility.Text2 -30
+set Utility.Text3 -28.4684632
+set Utility.Text4 30
+click Utility.Command1
+print Utility.Label5
+print Utility.Label6
+print Utility.Label9
+print Utility.Label11
+set Utility.Text1 -51.8262983
+set Utility.Text2 10
+set Utility.Text3 -51.9339868
+set Utility.Text4 40
+click Utility.Command1
+print Utility.Label5
+print Utility.Label6
+print Utility.Label9
+print Utility.Label11
 echo direction from lengths, 35 and then -24.1, whose boxes are read at the calculation
 set Utility.Text9 10
 set Utility.Text8 -20
@@ -104,7 +132,7 @@ click Utility.Option2
 print Utility.Text52
 click Utility.Option3
 print Utility.Text52
-echo directions again, and [1 0 2] with [0 -3 -1]: an obtuse one less 180; a vector of no length leaves it
+echo directions again, and [1 0 2] with [0 -3 -1]: an obtuse one less 180, for planes 180 less that; a vector of no length leaves it
 click Utility.Option1
 print Utility.Text52
 set Utility.Text47 0
@@ -113,6 +141,11 @@ set Utility.Text49 0
 set Utility.Text50 -3
 set Utility.Text51 -1
 print Utility.Text52
+click Utility.Option2
+print Utility.Text52
+click Utility.Option3
+print Utility.Text52
+click Utility.Option1
 set Utility.Text46 0
 set Utility.Text48 0
 print Utility.Text52

@@ -226,3 +226,13 @@ visible PATTERN3.Command15
 click PATTERN3.Check2
 visible PATTERN3.Text17
 print PATTERN3.LastLine
+echo operations by name: the solutions are listed behind the ones that stand there, the table is made anew
+set PATTERN3.Text1 3
+call PATTERN3.MatchAngle
+print PATTERN3.List1
+set Main1.Text15 3.9
+call Main1.CalcReflections
+print PATTERN3.Label8
+call PATTERN3.Hkl3make
+print PATTERN3.Label8
+print PATTERN3.Text2
