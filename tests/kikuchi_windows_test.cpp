@@ -90,6 +90,8 @@ TEST_F(KikuchiWindows, OpenAndClose) {
   services.answers = {folder.path("camera")};
   camera.Text7.set_text("70");
   camera.Command2.click();
+  EXPECT_EQ(services.questions.back().initial_folder, ZOL_SOURCE_DIR "/data/ZOL");
+  EXPECT_EQ(services.questions.back().file_name, ZOL_SOURCE_DIR "/data/ZOL/Camera_Parameters_New");
   EXPECT_EQ(folder.read("camera"), "37,0,0,40,1,70\r\n");
   EXPECT_EQ(state.CameraFile, folder.path("camera"));
   camera.show();

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "entry/window/input_atom_form.h"
 #include "reflections/window/main1_form.h"
 #include "shell/program/program.h"
 #include "tests/fake_services.h"
@@ -71,6 +72,21 @@ TEST_F(Main1Test, FailuresTellTheBoxAndTheFile) {
       << message;
   form().Text15.set_text("");
   EXPECT_NE(failure_of([&] { form().Command9.click(); }).find("division by zero"), std::string::npos);
+}
+
+TEST_F(Main1Test, FilesAreAskedForWithTheirFilters) {
+  services.questions.clear();
+  services.answers.assign(6, "");
+  for (MenuItem* item : {&form().DATA_LOAD, &form().DATA_SAVE, &form().ImportFromICSD, &form().ImportfromCIF}) {
+    item->click();
+  }
+  form().Command2.click();
+  program.windows().use<InputAtomForm>().Import_CIF.click();
+  std::vector<std::string> asked;
+  for (const auto& question : services.questions) asked.push_back(question.filter + (question.save ? " saves" : ""));
+  EXPECT_EQ(asked, (std::vector<std::string>{"Crystal files|*.cry|", "Crystal files|*.cry| saves", "Text files|*.txt|",
+                                             "CIF|*.cif|", "Text files|*.txt| saves", "Lists of atoms|*.txt;*.cif|"}));
+  EXPECT_EQ(services.questions[1].initial_folder, ZOL_SOURCE_DIR "/data/ZOLDATA");
 }
 
 TEST_F(Main1Test, ReportsHaveNoHeader) {
