@@ -47,6 +47,9 @@ press PATTERN3.Picture1 362.94 0
 move PATTERN3.Picture1 413.99 511
 release PATTERN3.Picture1 413.99 511
 print PATTERN3.Picture1
+set CameraParameters.Text1 20
+set CameraParameters.Text2 5
+set CameraParameters.Text3 6
 click PATTERN3.Command1
 print PATTERN3.ProgressBar1
 print PATTERN3.Label1(0)

@@ -33,8 +33,12 @@ echo the whole pattern
 set Pattern2.Text3 0
 set Pattern2.Text4 0
 print Main1.PatternFlag
+set CameraParameters.Text1 20
+set CameraParameters.Text2 5
+set CameraParameters.Text3 6
 type Pattern2.Text5 "1\r"
 print Main1.PatternFlag
+print Module1.CamYShift
 print Main1.DisplayScale
 print Main1.OriginH
 print Main1.OriginK

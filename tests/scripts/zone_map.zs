@@ -1,4 +1,4 @@
-# The map of zone axes of a triclinic cell down [112], turned by 5 degrees. Places, azimuths and latitudes (rounded down to
+# The map of zone axes of a triclinic cell down [234], turned by 5 degrees. Places, azimuths and latitudes (rounded down to
 # 0.1) agree to 0.1 degree with vectors in a Cartesian frame; the net is that of sine and of equal steps.
 set Main1.Text7 2
 set Main1.Text1 4
@@ -13,9 +13,9 @@ click InputJCPDS.Command1
 set Main1.Text15 3
 click Main1.Command6
 click Main1.Command10
-set Pattern2.Text3 1
-set Pattern2.Text4 1
-set Pattern2.Text5 2
+set Pattern2.Text3 2
+set Pattern2.Text4 3
+set Pattern2.Text5 4
 click Pattern2.Check2
 set Zaxis.Text1 1
 set Zaxis.Text2 0
@@ -81,15 +81,19 @@ print Zaxis.Text7
 print Zaxis.Text6
 echo the axis itself has no azimuth: the boxes stay
 click Zaxis.Option1
-set Zaxis.Text6 1
+set Zaxis.Text4 2
+set Zaxis.Text5 3
+set Zaxis.Text6 3
 print Zaxis.Text7
 print Zaxis.Text8
-set Zaxis.Text6 2
+set Zaxis.Text6 4
 print Zaxis.Text7
 print Zaxis.Text8
 echo the tilt is a Single; the angles of the reach add up in double, below 90 degrees, where a Single would lie above
 answer data/ZOLDATA/NaCl.cry
 click Main1.DATA_LOAD
+set Pattern2.Text3 1
+set Pattern2.Text4 1
 set Pattern2.Text5 0
 set Pattern2.Text19 1
 click Pattern2.Check2
