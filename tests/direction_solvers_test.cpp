@@ -72,15 +72,6 @@ TEST(SolveTwoPlanes, GivesDirectionsOfUnitLength) {
   }
 }
 
-// u = v = 0.5 and w from u^2 + v^2 + w^2 - 0.5 u v = 1, where the length has the cross term -u v.
-TEST(SolveTwoPlanes, CountsTheLastCrossTermOnce) {
-  Main1State cell = exact_cell();
-  cell.CosGamma = -0.5F;
-  TwoDirections directions;
-  ASSERT_EQ(SolveTwoPlanes(cell, {{{1, 0, 0}, {0, 1, 0}, {1, 1, 0}}}, {0.5F, 0.5F, 0}, directions), 22);
-  EXPECT_NEAR(directions.A1[1], 0.790569, 1e-6);
-}
-
 TEST(SolveTwoPlanes, FailsBeyondSixteenBits) {
   TwoDirections directions;
   EXPECT_NE(failure_of([&] {

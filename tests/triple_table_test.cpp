@@ -18,17 +18,6 @@ CrystalState with_list(const std::vector<ListedReflection>& entries) {
   return state;
 }
 
-// The order itself: tests/exchange_sort_test.cpp.
-TEST(SortByWeightedIntensity, ExchangesAllButTheStructureFactor) {
-  auto state = with_list({{1, 2, 3, 1, 1}, {4, 5, 6, 3, 1}, {7, 8, 9, 2, 2}});
-  for (int i = 1; i <= 3; ++i) state.RefA(i) = static_cast<Single>(i);
-  QuietTask task;
-  reorder(state, order_by_weighted_intensity(state, task));
-  EXPECT_EQ(std::tuple(state.RefH(1), state.RefK(1), state.RefL(1), state.RefS(1), state.RefI(1), state.RefA(1)),
-            std::tuple(7, 8, 9, 2, 2, 1));
-  EXPECT_EQ(std::tuple(state.RefH(3), state.RefA(3)), std::tuple(1, 3));
-}
-
 TEST(ExtendOverTies, CutsNoEquivalentsApart) {
   struct Row {
     Single second, third, fourth, wanted, used;  // the first is 9
