@@ -185,13 +185,23 @@ set Pattern2.Text1 2.9
 click Pattern2.Command8
 print Pattern2.Text1
 print Module1.CamAcquisition
-echo the voltage counts when its box is left
+echo the voltage counts when its box is left, and brings the electrons back; 0 leaves the wavelength
+choose Main1.Combo1 200
+choose Main1.Combo1 CuKa
 set Pattern2.Text21 15
 print Main1.AccVoltage
 leave Pattern2.Text21
 print Main1.Combo1
+print Main1.Option2
+print Main1.MassRatio
 print Main1.WaveLength
+print Main1.Text16
 print PATTERN3.Text5
+set Pattern2.Text21 0
+leave Pattern2.Text21
+print Main1.AccVoltage
+print Main1.Combo1
+print Main1.WaveLength
 echo how many bands; none is all
 set Pattern2.Text2 0
 set Pattern2.Text19 9
