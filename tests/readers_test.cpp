@@ -1,3 +1,4 @@
+// Odd files, and where they stop. Plain ones: scripts/main_window.zs, scripts/tables.zs, examples/cif.
 #include <gtest/gtest.h>
 
 #include "entry/atom_lists.h"
@@ -54,7 +55,6 @@ TEST(CifTags, GoToTheirBoxes) {
     std::vector<BoxText> texts;
   };
   const std::vector<Row> rows{
-      {"_cell_length_a 5.64(1)", {{Box::a, "5.64"}}},
       {"_symmetry_Int_Tables_number 14(x)", {{Box::space_group_number, "14(x)"}}},  // not stripped
       {"_Cell_length_a 5\n_cell_length_a_su 5", {}},
       {"_cell_length_b\n4.2", {{Box::b, ""}}},                    // value on the next line
@@ -107,40 +107,6 @@ TEST(CifAtoms, ThatAreNoNumbersAreToldWithLineWordAndMeaning) {
   std::string many = loop_tags;
   for (int i = 0; i < 1001; ++i) many += atom_line;
   EXPECT_NE(failure_of([&] { (void)scan<CifReader>(many); }).find("index 1001 of AtomLabel"), std::string::npos);
-}
-
-TEST(Icsd, ReadsCellGroupAndTable) {
-  const auto result = scan<IcsdReader>(
-      "Unit Cell 4.594(1) 4.594(1) 2.959(2) 90. 91. 92.(0)\nSG P42/mnm 136\n"
-      "Atom # OX SITE x y z SOF H ITF(B)\nTi 1 +4 2 a 0 0 0 0.98(1) 0 0.61(2)\n\nLbl Type U11\nTi1 Ti 0.1\n"
-      "Atom # OX SITE x y z SOF H\nO 2 -2 4 f 0.25 0.125 -0.0625 1. 0\n*end\nO 3 -2 4 f ? ? ? ? 0\n");
-  Words texts;
-  for (const auto& entry : result.texts) texts.push_back(entry.text);
-  EXPECT_EQ(texts, (Words{"4.594", "4.594", "2.959", "90.", "91.", "92.", "136"}));
-  EXPECT_EQ(result.texts[4].box, Box::beta);
-  EXPECT_EQ(result.texts[6].box, Box::space_group_number);
-  ASSERT_EQ(result.atoms, 3) << "the empty line repeats the titanium";
-  EXPECT_EQ(result.state.AtomLabel(1), "Ti1");
-  EXPECT_EQ(result.state.AtomElement(2), "Ti");
-  EXPECT_EQ(result.state.AtomB(2), 0.61F);
-  EXPECT_EQ(result.state.AtomLabel(3), "O2");
-  EXPECT_EQ(result.state.AtomOcc(3), 1);
-  EXPECT_EQ(result.state.AtomPos(3, 3), -0.0625F);
-  EXPECT_EQ(result.state.AtomB(3), 0) << "without the column ITF(B) the former value stays";
-}
-
-TEST(AtomLists, TakeTheirColumns) {
-  const ScratchFolder folder;
-  const auto bare =
-      read_bare_atom_list(folder.write("list", "Fe1 0.1250(3) 0 .5\n\n   \nOs1 1 2 3 9\nC12 -0.1\nSi a b c\n"), quiet);
-  EXPECT_EQ(bare, (std::vector<AtomRow>{{"Fe1", "Fe", "1.0", "0.1250(3)", "0", ".5", "0.0"},
-                                        {"Os1", "O", "1.0", "1", "2", "3", "0.0"},
-                                        {"C12", "C1", "1.0", "-0.1", "", "", "0.0"},
-                                        {"Si", "Si", "1.0", "a", "b", "c", "0.0"}}));
-  const auto mincryst = read_mincryst_list(folder.write("list", "1 .1 .2 .3 .5 Si x 1.0\n\n2 0 0 0 .4 O y\n"), quiet);
-  EXPECT_EQ(mincryst, (std::vector<AtomRow>{{"Si", "Si", "1.0", ".1", ".2", ".3", ".5"},
-                                            {"", "", "", "", "", "", ""},
-                                            {"O", "O", "", "0", "0", "0", ".4"}}));
 }
 
 TEST(AtomLists, HoldTwoHundredLines) {
