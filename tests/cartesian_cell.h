@@ -6,6 +6,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "core/lattice.h"
 #include "tests/crystals.h"
 
 namespace zol {
@@ -27,36 +28,21 @@ inline double angle_deg(const Cartesian& a, const Cartesian& b) {
 /// a along x, b in the xy plane.
 class CartesianCell {
  public:
-  explicit CartesianCell(const Main1State& cell) {
-    const auto radians = [](double deg) { return deg * std::numbers::pi / 180; };
-    const double cos_a = std::cos(radians(cell.CellAlpha));
-    const double cos_b = std::cos(radians(cell.CellBeta));
-    const double cos_g = std::cos(radians(cell.CellGamma));
-    const double sin_g = std::sin(radians(cell.CellGamma));
-    a_ = {cell.CellA, 0, 0};
-    b_ = {cell.CellB * cos_g, cell.CellB * sin_g, 0};
-    const double c_y = (cos_a - cos_b * cos_g) / sin_g;
-    c_ = {cell.CellC * cos_b, cell.CellC * c_y, cell.CellC * std::sqrt(1 - cos_b * cos_b - c_y * c_y)};
-  }
+  explicit CartesianCell(const Main1State& cell)
+      : lattice_({cell.CellA, cell.CellB, cell.CellC, cell.CellAlpha, cell.CellBeta, cell.CellGamma}) {}
   [[nodiscard]] Cartesian direction(const Cartesian& uvw) const { return direction(uvw[0], uvw[1], uvw[2]); }
   [[nodiscard]] Cartesian normal(const Cartesian& hkl) const { return normal(hkl[0], hkl[1], hkl[2]); }
   [[nodiscard]] Cartesian direction(double u, double v, double w) const {
-    Cartesian sum{};
-    for (std::size_t i = 0; i < 3; ++i) sum[i] = u * a_[i] + v * b_[i] + w * c_[i];
-    return sum;
+    const auto [x, y, z] = lattice_.cartesian(DirectVector{u, v, w});
+    return {x, y, z};
   }
   [[nodiscard]] Cartesian normal(double h, double k, double l) const {
-    const double volume = dot(a_, cross(b_, c_));
-    const auto bc = cross(b_, c_);
-    const auto ca = cross(c_, a_);
-    const auto ab = cross(a_, b_);
-    Cartesian sum{};
-    for (std::size_t i = 0; i < 3; ++i) sum[i] = (h * bc[i] + k * ca[i] + l * ab[i]) / volume;
-    return sum;
+    const auto [x, y, z] = lattice_.cartesian(ReciprocalVector{h, k, l});
+    return {x, y, z};
   }
 
  private:
-  Cartesian a_{}, b_{}, c_{};
+  Lattice lattice_;
 };
 
 /// A crystal with a cell, an axis at the pattern centre and the reference reflection (w, w, -u-v) of it.

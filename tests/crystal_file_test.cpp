@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/camera_file.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -9,39 +10,30 @@ namespace {
 
 constexpr auto cell_line = "4.05,5,6,90,91.5,90,\"F\",225,\"abc\"\r\n";
 
-struct Loaded {
+CrystalState load(const ScratchFolder& folder, const std::string& rest, bool has_contents = true) {
   CrystalState state;
-  bool has_contents = false;
-};
-
-Loaded load(const ScratchFolder& folder, const std::string& rest) {
-  Loaded loaded;
   CrystalFileReader file(folder.write("x.cry", cell_line + rest));
-  file.read_cell(loaded.state);
-  loaded.has_contents = file.read_contents(loaded.state);
-  return loaded;
+  file.read_cell(state);
+  EXPECT_EQ(file.read_contents(state), has_contents) << rest;
+  return state;
 }
 
 TEST(CrystalFile, MayEndBehindTheCell) {
   const ScratchFolder folder;
-  const auto loaded = load(folder, " \r\n\r\n");
-  EXPECT_FALSE(loaded.has_contents);
-  EXPECT_EQ(loaded.state.NAtom, -1);
-  EXPECT_TRUE(load(folder, "-1\r\n").has_contents) << "of no atoms";
+  EXPECT_EQ(load(folder, " \r\n\r\n", false).NAtom, -1);
+  EXPECT_EQ(load(folder, "-1\r\n").NAtom, -1) << "of no atoms";
 }
 
 // Behind a count below -1 stand four numbers of an older layout, the last of which counts.
 TEST(CrystalFile, TakesTheAtomsThatTheCountTells) {
   const ScratchFolder folder;
   for (const std::string count : {"2", "-2,7,8,9,2", "-5\r\n7\r\n8\r\n9\r\n2"}) {
-    const auto loaded =
-        load(folder, count + "\r\n\"A,1\",\"Al\",1,0,.5,1E-1,0.5\r\nB,Fe3+,.5,0,0,0,1\r\nC,O,1,0,0,0,0");
-    EXPECT_TRUE(loaded.has_contents);
-    ASSERT_EQ(loaded.state.NAtom, 2) << count;
-    EXPECT_EQ(loaded.state.AtomLabel(1), "A,1");
-    EXPECT_EQ(loaded.state.AtomPos(1, 3), 0.1F);
-    EXPECT_EQ(loaded.state.AtomElement(2), "Fe3+");
-    EXPECT_EQ(loaded.state.AtomLabel(3), "");
+    const auto state = load(folder, count + "\r\n\"A,1\",\"Al\",1,0,.5,1E-1,0.5\r\nB,Fe3+,.5,0,0,0,1\r\nC,O,1,0,0,0,0");
+    ASSERT_EQ(state.NAtom, 2) << count;
+    EXPECT_EQ(state.AtomLabel(1), "A,1");
+    EXPECT_EQ(state.AtomPos(1, 3), 0.1F);
+    EXPECT_EQ(state.AtomElement(2), "Fe3+");
+    EXPECT_EQ(state.AtomLabel(3), "");
   }
 }
 
@@ -63,15 +55,18 @@ TEST(CrystalFile, ComesBackTheSameToTheBit) {
   for (const std::string contents :
        {"2\r\n\"A,1\",\"Al\",.33333334,.1,.7,.12345679,.5\r\n\"B\",\"O\",1,0,0,0,.000000000001\r\n",
         "0\r\n2\r\n1,1,1,100\r\n2,0,.5,46\r\n"}) {
-    auto state = load(folder, contents).state;
+    auto state = load(folder, contents);
     if (state.NAtom > 0) state.JcpdsCount = 1;  // not saved beside atoms
     write_crystal_file(folder.path("y.cry"), state);
     EXPECT_EQ(folder.read("y.cry"), cell_line + contents);
   }
-  auto state = load(folder, "0\r\n1\r\n1,1,1,100\r\n").state;
+  auto state = load(folder, "0\r\n1\r\n1,1,1,100\r\n");
   state.NAtom = -1;  // the table is written all the same
   write_crystal_file(folder.path("y.cry"), state);
   EXPECT_EQ(folder.read("y.cry"), std::string(cell_line) + "-1\r\n1\r\n1,1,1,100\r\n");
+  read_camera_file(folder.write("camera", "37,1.5,-2,40,1.25,.5\r\n"), state);
+  write_camera_file(folder.path("copy"), state);
+  EXPECT_EQ(folder.read("copy"), folder.read("camera"));
 }
 
 }  // namespace

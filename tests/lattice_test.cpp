@@ -5,8 +5,8 @@
 
 #include <cmath>
 
-#include "core/run_failure.h"
 #include "core/structure.h"
+#include "tests/test_files.h"
 
 namespace zol {
 namespace {
@@ -23,94 +23,80 @@ TEST(LatticeTest, SpacingsOfAllSystems) {
   };
   const Row rows[] = {{{4, 4, 4, 90, 90, 90}, {1, 1, 1}, 4 / std::sqrt(3.0)},
                       {{3, 3, 5, 90, 90, 120}, {1, 1, 0}, 1.5},
+                      {{3, 3, 3, 60, 60, 60}, {1, 1, 1}, std::sqrt(6.0)},  // primitive cell of a face-centred one
                       {{5, 6, 7, 90, 100, 90}, {1, 0, 1}, 3.713456},
                       {{5, 6, 7, 90, 100, 90}, {1, 0, -1}, 4.382970}};
   for (const Row& row : rows) EXPECT_NEAR(Lattice(row.cell).spacing(row.hkl), row.d, 1e-6);
 }
 
-TEST(LatticeTest, FrameHasAAlongE1AndCStarAlongE3) {
+TEST(LatticeTest, FrameHasAAlongE1AndCStarAlongE3ThereAndBack) {
   const Lattice lattice(triclinic);
-  const auto a = lattice.cartesian(DirectVector{1, 0, 0});
-  const auto b = lattice.cartesian(DirectVector{0, 1, 0});
-  const auto c = lattice.cartesian(DirectVector{0, 0, 1});
+  const auto [x, y, z] = lattice.cartesian(DirectVector{1, 0, 0});
+  EXPECT_EQ(CartesianVector({x, y, z}), CartesianVector({triclinic.a, 0, 0}));
+  EXPECT_GT(lattice.cartesian(DirectVector{0, 1, 0}).y, 0);
   const auto c_star = lattice.cartesian(ReciprocalVector{0, 0, 1});
-  EXPECT_NEAR(a.x, triclinic.a, exact);
-  EXPECT_EQ(a.y, 0);
-  EXPECT_NEAR(std::hypot(c_star.x, c_star.y), 0, exact);
-  EXPECT_GT(c_star.z, 0);
-  EXPECT_GT(b.y, 0);
-  EXPECT_NEAR(angle_deg(b, c), triclinic.alpha, 1e-10);
-  EXPECT_NEAR(angle_deg(c, a), triclinic.beta, 1e-10);
-  EXPECT_NEAR(angle_deg(a, b), triclinic.gamma, 1e-10);
-}
-
-TEST(LatticeTest, ThereAndBack) {
-  const Lattice lattice(triclinic);
+  EXPECT_NEAR(c_star.z, length(c_star), exact);
   const DirectVector uvw = lattice.direct(lattice.cartesian(DirectVector{1, -2, 3}));
-  EXPECT_NEAR(uvw.u, 1, exact);
-  EXPECT_NEAR(uvw.v, -2, exact);
-  EXPECT_NEAR(uvw.w, 3, exact);
+  EXPECT_NEAR(std::hypot(uvw.u - 1, uvw.v + 2, uvw.w - 3), 0, exact);
   const ReciprocalVector hkl = lattice.reciprocal(lattice.cartesian(ReciprocalVector{4, 0, -1}));
-  EXPECT_NEAR(hkl.h, 4, exact);
-  EXPECT_NEAR(hkl.k, 0, exact);
-  EXPECT_NEAR(hkl.l, -1, exact);
-  const CellConstants twice = Lattice(lattice.reciprocal_cell()).reciprocal_cell();
-  EXPECT_NEAR(twice.b, triclinic.b, 1e-10);
-  EXPECT_NEAR(twice.beta, triclinic.beta, 1e-10);
-  EXPECT_NEAR(Lattice(lattice.reciprocal_cell()).volume() * lattice.volume(), 1, exact);
+  EXPECT_NEAR(std::hypot(hkl.h - 4, hkl.k, hkl.l + 1), 0, exact);
+  const Lattice reciprocal(lattice.reciprocal_cell());
+  EXPECT_NEAR(reciprocal.volume() * lattice.volume(), 1, exact);
+  const CellConstants twice = reciprocal.reciprocal_cell();
+  for (const auto constant : {&CellConstants::a, &CellConstants::b, &CellConstants::c, &CellConstants::alpha,
+                              &CellConstants::beta, &CellConstants::gamma}) {
+    EXPECT_NEAR(twice.*constant, triclinic.*constant, 1e-10);
+  }
 }
 
 TEST(LatticeTest, RefusesWhatIsNoCell) {
-  const CellConstants cells[] = {{0, 1, 1, 90, 90, 90},  {1, 1, 1, 90, 90, 180},  {1, 1, 1, 120, 120, 120},
-                                 {1, 1, 1, 30, 60, 100}, {1, NAN, 1, 90, 90, 90}, {1e-200, 1e-200, 1, 90, 90, 90}};
-  for (const CellConstants& cell : cells) EXPECT_THROW(Lattice{cell}, RunFailure);
-  EXPECT_THROW((void)Lattice(triclinic).spacing({}), RunFailure);
+  for (const auto& [cell, words] : {std::pair{CellConstants{0, 1, 1, 90, 90, 90}, "edge a is 0"},
+                                    {{1, NAN, 1, 90, 90, 90}, "edge b is no finite number"},
+                                    {{1, 1, -2, 90, 90, 90}, "edge c is -2"},
+                                    {{1, 1, 1, 0, 90, 90}, "angle alpha is 0"},
+                                    {{1, 1, 1, 90, -1, 90}, "angle beta is -1"},
+                                    {{1, 1, 1, 90, 90, 180}, "angle gamma is 180"},
+                                    {{1, 1, 1, 120, 120, 120}, "no such cell"},
+                                    {{1, 1, 1, 30, 60, 100}, "no such cell"},
+                                    {{1e-200, 1e-200, 1, 90, 90, 90}, "a volume beyond all numbers"}}) {
+    EXPECT_TRUE(fails_with(words, [&cell = cell] { Lattice{cell}; }));
+  }
+  EXPECT_TRUE(fails_with("no spacing", [] { (void)Lattice(triclinic).spacing({}); }));
 }
 
-/// The four translations of an F lattice with the inversion.
-Structure rock_salt() {
+// The four translations of an F lattice with the inversion.
+TEST(StructureTest, CellAtomsMergeOnSymmetryElementsAndAcrossTheEdge) {
   Structure structure;
   structure.cell = {5.64, 5.64, 5.64, 90, 90, 90};
-  const int halves[4][3] = {{0, 0, 0}, {0, 12, 12}, {12, 0, 12}, {12, 12, 0}};
+  constexpr std::array<std::array<int, 3>, 4> halves{{{0, 0, 0}, {0, 12, 12}, {12, 0, 12}, {12, 12, 0}}};
   for (const auto& half : halves) {
-    ExactOperator op;
-    op.translation = {half[0], half[1], half[2]};
-    structure.operators.push_back(op);
-    for (auto& row : op.rotation) {
-      for (int& element : row) element = -element;
+    for (const int sign : {operator_unit, -operator_unit}) {
+      structure.operators.push_back({{{{sign, 0, 0}, {0, sign, 0}, {0, 0, sign}}}, half});
     }
-    structure.operators.push_back(op);
   }
-  structure.sites = {{"Na", "Na", 1, 1, {0, 0, 0}, 0.5}, {"Cl", "Cl", -1, 1, {0.5, 0.5, 0.5}, 0.5}};
-  return structure;
-}
-
-TEST(StructureTest, CellAtomsMergeOnSymmetryElementsAndAcrossTheEdge) {
   QuietTask quiet;
-  Structure structure = rock_salt();
-  for (const double merge : {0.0, 0.1}) EXPECT_EQ(cell_atoms(structure, merge, quiet).size(), 8U);
-  structure.sites[0].position = {0.999, 0, 0};  // 0.011 angstroms from its inverse image
-  EXPECT_EQ(cell_atoms(structure, 0.1, quiet).size(), 8U);
-  structure.sites[0].position = {0.25, 0.1, 0};
-  EXPECT_EQ(cell_atoms(structure, 0.1, quiet).size(), 12U);
+  structure.sites = {{"Na", "Na", 1, 1, {0, 0, 0}, 0.5}, {"Cl", "Cl", -1, 1, {0.5, 0.5, 0.5}, 0.5}};
+  EXPECT_EQ(cell_atoms(structure, 0, quiet).size(), 8U);
+  for (const auto& [position, atoms] : {std::pair{DirectVector{0.999, 0, 0}, 8U},  // 0.011 from its inverse image
+                                        {{0.25, 0.1, 0}, 12U}}) {
+    structure.sites[0].position = position;
+    EXPECT_EQ(cell_atoms(structure, 0.1, quiet).size(), atoms);
+  }
   structure.operators.clear();
   EXPECT_EQ(cell_atoms(structure, 0.1, quiet).size(), 2U);
   structure.sites[0].position.v = NAN;
-  EXPECT_THROW((void)cell_atoms(structure, 0.1, quiet), RunFailure);
+  EXPECT_TRUE(fails_with("\"Na\" is no finite number", [&] { (void)cell_atoms(structure, 0.1, quiet); }));
 }
 
 TEST(StructureTest, OperatorsMultiplyFromTheRight) {
-  ExactOperator screw;  // -x, -y, z + 1/2
-  screw.rotation[0][0] = screw.rotation[1][1] = -operator_unit;
-  screw.translation = {0, 0, 12};
+  const ExactOperator screw{{{{-operator_unit, 0, 0}, {0, -operator_unit, 0}, {0, 0, operator_unit}}}, {0, 0, 12}};
   ExactOperator shift;
   shift.translation = {6, 0, 18};
   EXPECT_EQ((screw * shift).translation, (std::array{18, 0, 6}));
   EXPECT_EQ((shift * screw).translation, (std::array{6, 0, 6}));
   EXPECT_EQ(screw * screw, ExactOperator{});
-  const DirectVector image = screw.apply({0.1, 0.2, 0.3});
-  EXPECT_EQ(image.u, -0.1);
-  EXPECT_NEAR(image.w, 0.8, exact);
+  const DirectVector image = screw.apply({0.1, 0.2, 0.3});  // -x, -y, z + 1/2
+  EXPECT_NEAR(std::hypot(image.u + 0.1, image.v + 0.2, image.w - 0.8), 0, exact);
 }
 
 }  // namespace

@@ -29,13 +29,10 @@ TEST(WholeNumbers, FailInsteadOfWrappingAround) {
   EXPECT_TRUE(Integer(5) < 40000);  // a comparison is no conversion
 }
 
-TEST(Singles, FailAboveTheirRange) {
+TEST(CheckedSteps, NameWhatFailed) {
   EXPECT_THROW((void)to_single(1e39), RunFailure);
   EXPECT_THROW((void)to_single(std::nan("")), RunFailure);
   EXPECT_EQ(to_single(1e-60), 0.0F);
-}
-
-TEST(CheckedSteps, NameWhatFailed) {
   EXPECT_EQ(failure_of([] { (void)divide(1.0, 0.0, "Dmin"); }), "division by zero: Dmin is 0");
   EXPECT_THROW((void)divide(1.0, std::nan(""), "x"), RunFailure);
   EXPECT_EQ(failure_of([] { (void)square_root(-0.5, "the radicand"); }),
@@ -59,13 +56,8 @@ TEST(BoundedArrays, CheckEveryIndex) {
     EXPECT_THROW((void)table(row, column), RunFailure) << row << ' ' << column;
   }
   EXPECT_EQ(failure_of([&] { table.allocate(-1, 2); }), "the last index of BandHKL would be -1, it must be 0 or more");
-}
-
-TEST(BoundedArrays, AreRefusedWhereTheMemoryIsNot) {
-  BoundedTable<Single> table("TripleS");
-  EXPECT_TRUE(failure_of([&] {
-                table.allocate(2147483646, 1023);
-              }).starts_with("not enough memory for TripleS(0 to 2147483646): it takes 8388607 MB, there are "));
+  EXPECT_TRUE(fails_with("not enough memory for BandHKL(0 to 2147483646): it takes 4194303 MB, there are ",
+                         [&] { table.allocate(2147483646, 1023); }));
   EXPECT_EQ(table.upper_row(), -1);
 }
 

@@ -22,9 +22,10 @@ TEST(Records, FieldsRunOverLinesOfAllKinds) {
 }
 
 TEST(Records, NumbersTakeWhatAFieldStartsWith) {
-  RecordReader file("x", "1 2,-.5E1,.333333343,12abc,2.5,\"7\"");
+  RecordReader file("x", "1 2,-.5E1,.333333343,12abc,2.5,\"7\",-32768.5");
   for (const Single number : {1.0F, -5.0F, 1.0F / 3.0F}) EXPECT_EQ(file.next_single("x"), number);
-  for (const int number : {12, 2, 7}) EXPECT_EQ(file.next_integer("n"), number) << "halves go to the even number";
+  for (const int number : {12, 2, 7, -32768})
+    EXPECT_EQ(file.next_integer("n"), number) << "halves go to the even number";
   // Just above the middle between 1 and the next Single: as a Double it is that middle, which goes to the even side.
   EXPECT_EQ(RecordReader("x", "1.000000059604644775390626").next_single("x"), 1.0F);
 }
@@ -35,7 +36,8 @@ TEST(Records, WhenBrokenAreToldWithFileLineAndField) {
         {"a\r\n1\r\n\r\n", "line 3: the file ends where the count is expected"},
         {"a\nb,2", "line 2: x is \"b\", a number is expected"},
         {"a,1\n\n\nq", "line 2: the count is \"\", a whole number is expected"},
-        {"a,1,40000", "line 1: the count is \"40000\", it must be within -32768 to 32767"},
+        {"a,1,32768", "line 1: the count is \"32768\", it must be within -32768 to 32767"},
+        {"a,1,-32769", "line 1: the count is \"-32769\", it must be within -32768 to 32767"},
         {"a,1e40,1", "line 1: x is \"1e40\", too large for a Single (below 3.4E+38)"},
         {"\"a\nb\r\nc\",x", "line 3: x is \"x\", a number is expected"},
         {"\"a,1\n2", "line 1: the quote before the label has no closing quote"}}) {

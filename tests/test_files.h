@@ -59,4 +59,12 @@ std::string failure_of(Action action) {
   return "";
 }
 
+/// Whether the action ends in a failure whose message holds the words.
+template <class Action>
+testing::AssertionResult fails_with(const std::string& words, Action action) {
+  const std::string message = failure_of(action);
+  return (message.find(words) == std::string::npos ? testing::AssertionFailure() : testing::AssertionSuccess())
+         << "the message is: " << message;
+}
+
 }  // namespace zol
