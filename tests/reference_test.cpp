@@ -8,13 +8,8 @@
 #include <string>
 #include <utility>
 
-#include "core/cell_geometry.h"
-#include "core/crystal_file.h"
+#include "bench/bench_crystals.h"
 #include "core/record_reader.h"
-#include "core/space_group.h"
-#include "core/unit_cell.h"
-#include "reflections/reflection_list.h"
-#include "tests/cell_metric.h"
 
 namespace zol {
 namespace {
@@ -36,32 +31,16 @@ std::map<std::array<int, 3>, Reference> read_reference(const std::string& table)
   return list;
 }
 
-/// The whole way from the file of a crystal to its X-ray list.
-CrystalState computed(const std::string& crystal, Single dmin) {
-  CrystalState state;
-  CrystalFileReader file(ZOL_SOURCE_DIR "/data/ZOLDATA/" + crystal + ".cry");
-  file.read_cell(state);
-  file.read_contents(state);
-  EXPECT_TRUE(calc_cell(state));
-  const auto group = read_space_group(file_of(state.SGNumber.value()));
-  QuietTask task;
-  commit(state, expand_unit_cell(state, group, task));
-  state.LatticeLetter = group.symbol.substr(0, 1);
-  state.AsfXCount = read_scatter_table(ZOL_SOURCE_DIR "/data/ZOL/Asf/ASF-X.csv", state.AsfX);
-  state.WaveLength = 1.542F;
-  state.Dmin = dmin;
-  commit(state, reflection_list(state, {{true, true, true}, {}}, {true, false}, task));
-  EXPECT_EQ(state.ScatterMissing, 0);
-  return state;
-}
-
 // The truncated 2 pi turns phases by 1e-6 of themselves and sums are kept in 32 bits; both stay far below the bounds.
 TEST(ReferenceComparison, AgreesInSpacingAndModulus) {
   for (const auto& [crystal, table] :
        {std::pair{"NaCl", "nacl"}, std::pair{"Quartz", "quartz"}, std::pair{"Kyanite", "kyanite"}}) {
     const auto reference = read_reference(table);
     ASSERT_GT(reference.size(), 600U);
-    const auto state = computed(crystal, 0.9001F);
+    const auto computed = shipped_crystal(std::string(crystal) + ".cry");
+    const CrystalState& state = *computed;
+    make_list(*computed, 0.9001F, {true, false});
+    EXPECT_EQ(state.ScatterMissing, 0);
     int strong = 0;
     for (int i = 1; i <= state.RefCount.value(); ++i) {
       const std::array hkl{state.RefH(i).value(), state.RefK(i).value(), state.RefL(i).value()};
