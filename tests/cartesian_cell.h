@@ -21,8 +21,10 @@ inline Cartesian unit(const Cartesian& v) {
   const double length = std::sqrt(dot(v, v));
   return {v[0] / length, v[1] / length, v[2] / length};
 }
+inline double radians(double deg) { return deg * std::numbers::pi / 180; }
+inline double degrees(double rad) { return rad / std::numbers::pi * 180; }
 inline double angle_deg(const Cartesian& a, const Cartesian& b) {
-  return std::acos(std::clamp(dot(unit(a), unit(b)), -1.0, 1.0)) * 180 / std::numbers::pi;
+  return degrees(std::acos(std::clamp(dot(unit(a), unit(b)), -1.0, 1.0)));
 }
 
 /// a along x, b in the xy plane.
@@ -58,18 +60,14 @@ inline CrystalState oriented_crystal(const CellNumbers& cell, const std::array<i
 
 /// The frame of the pattern: X along the part of the reference normal to the axis, Y to its left, Z along the axis.
 struct PatternFrame {
-  explicit PatternFrame(const CrystalState& state) {
-    const CartesianCell cell(state);
-    z = unit(cell.direction(state.ZoneU, state.ZoneV, state.ZoneW));
-    const auto reference = cell.normal(state.OriginH.value(), state.OriginK.value(), state.OriginL.value());
-    y = unit(cross(z, reference));
-    x = cross(y, z);
-  }
+  explicit PatternFrame(const CrystalState& state)
+      : PatternFrame(CartesianCell(state), {state.ZoneU, state.ZoneV, state.ZoneW},
+                     {1.0 * state.OriginH.value(), 1.0 * state.OriginK.value(), 1.0 * state.OriginL.value()}) {}
+  PatternFrame(const CartesianCell& cell, const Cartesian& axis, const Cartesian& reference)
+      : y(unit(cross(cell.direction(axis), cell.normal(reference)))), z(unit(cell.direction(axis))) {}
   /// Azimuth in degrees, -180 to 180.
-  [[nodiscard]] double azimuth(const Cartesian& v) const {
-    return std::atan2(dot(v, y), dot(v, x)) * 180 / std::numbers::pi;
-  }
-  Cartesian x{}, y{}, z{};
+  [[nodiscard]] double azimuth(const Cartesian& v) const { return degrees(std::atan2(dot(v, y), dot(v, x))); }
+  Cartesian y, z, x = cross(y, z);
 };
 
 inline constexpr std::array<CellNumbers, 7> cells_of_all_systems{{{5.43F, 5.43F, 5.43F, 90, 90, 90},

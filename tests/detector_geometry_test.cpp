@@ -5,7 +5,7 @@
 
 #include <cmath>
 
-#include "tests/projected_pattern.h"
+#include "tests/cartesian_cell.h"
 #include "tests/test_files.h"
 
 namespace zol {

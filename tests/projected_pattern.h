@@ -6,7 +6,6 @@
 
 #include <array>
 #include <cmath>
-#include <numbers>
 #include <optional>
 #include <vector>
 
@@ -15,10 +14,6 @@
 namespace zol {
 
 using Vector = Cartesian;
-
-inline Vector scaled(const Vector& a, double by) { return {a[0] * by, a[1] * by, a[2] * by}; }
-inline Vector sum(const Vector& a, const Vector& b) { return {a[0] + b[0], a[1] + b[1], a[2] + b[2]}; }
-inline double radians(double deg) { return deg * std::numbers::pi / 180; }
 
 struct Camera {
   double acquisition, x_shift, y_shift, ratio;
@@ -32,21 +27,16 @@ class ProjectedPattern {
  public:
   /// @param rotation_deg  of the reciprocal vector (w, w, -u - v) from x towards y
   ProjectedPattern(const CartesianCell& cell, const Vector& uvw, double rotation_deg, const Camera& camera)
-      : cell_(cell), camera_(camera), z_(unit(cell.direction(uvw))) {
-    const Vector start = unit(cell.normal({uvw[2], uvw[2], -uvw[0] - uvw[1]}));
-    const Vector side = cross(z_, start);
-    const double angle = radians(rotation_deg);
-    x_ = sum(scaled(start, std::cos(angle)), scaled(side, -std::sin(angle)));
-    y_ = cross(z_, x_);
-  }
+      : cell_(cell),
+        camera_(camera),
+        frame_(cell, uvw, {uvw[2], uvw[2], -uvw[0] - uvw[1]}),
+        rotation_deg_(rotation_deg) {}
 
   /// Angle of the normal above the plane of the picture.
-  [[nodiscard]] double latitude_deg(const Vector& hkl) const {
-    return std::asin(dot(unit(cell_.normal(hkl)), z_)) * 180 / std::numbers::pi;
-  }
+  [[nodiscard]] double latitude_deg(const Vector& hkl) const { return 90 - angle_deg(cell_.normal(hkl), frame_.z); }
+  /// From x towards y, -180 to 180.
   [[nodiscard]] double azimuth_deg(const Vector& hkl) const {
-    const Vector n = cell_.normal(hkl);
-    return std::atan2(dot(n, y_), dot(n, x_)) * 180 / std::numbers::pi;
+    return std::remainder(frame_.azimuth(cell_.normal(hkl)) + rotation_deg_, 360);
   }
 
   /// The trace of the plane, or of one turned towards the beam by an angle, cut by the picture; none outside it.
@@ -65,27 +55,29 @@ class ProjectedPattern {
     return PictureLine{ends[0][0], ends[0][1], ends[1][0], ends[1][1]};
   }
 
-  [[nodiscard]] double angle_to_deg(const Vector& uvw) const { return angle_deg(cell_.direction(uvw), z_); }
+  [[nodiscard]] double angle_to_deg(const Vector& uvw) const { return angle_deg(cell_.direction(uvw), frame_.z); }
 
  private:
-  [[nodiscard]] double half() const { return std::tan(radians(camera_.acquisition)); }
+  static double tangent(double deg) { return std::tan(radians(deg)); }
+  [[nodiscard]] double half() const { return tangent(camera_.acquisition); }
   [[nodiscard]] double plane_x(double picture) const {
-    return half() * (2 * picture / 511 - 1) - std::tan(radians(camera_.x_shift));
+    return half() * (2 * picture / 511 - 1) - tangent(camera_.x_shift);
   }
   [[nodiscard]] double plane_y(double picture) const {
-    return (half() * (2 * picture / 511 - 1) - std::tan(radians(camera_.y_shift))) * camera_.ratio;
+    return (half() * (2 * picture / 511 - 1) - tangent(camera_.y_shift)) * camera_.ratio;
   }
   [[nodiscard]] double picture_x(double plane) const {
-    return ((plane + std::tan(radians(camera_.x_shift))) / half() + 1) * 511 / 2;
+    return ((plane + tangent(camera_.x_shift)) / half() + 1) * 511 / 2;
   }
   [[nodiscard]] double picture_y(double plane) const {
-    return ((plane / camera_.ratio + std::tan(radians(camera_.y_shift))) / half() + 1) * 511 / 2;
+    return ((plane / camera_.ratio + tangent(camera_.y_shift)) / half() + 1) * 511 / 2;
   }
   static bool inside(double picture) { return picture >= 0 && picture <= 511; }
 
   CartesianCell cell_;
   Camera camera_;
-  Vector x_{}, y_{}, z_;
+  PatternFrame frame_;
+  double rotation_deg_;
 };
 
 }  // namespace zol
