@@ -1,81 +1,72 @@
-// Matching on a cubic lattice, on a table made without windows. Whole solutions: scripts/indexing.zs.
+// Which rows match, and how they are shown. Whole solutions, widths and senses of rotation: scripts/indexing.zs.
 #include "analysis/band_matching.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <utility>
 #include <vector>
 
 #include "analysis/zone_azimuth.h"
-#include "tests/projected_pattern.h"
+#include "tests/crystals.h"
 #include "tests/recorded_task.h"
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
 
-/// Primitive cubic, a = 4, seen along [3 1 5].
+/// Bands of (1 0 0), (1 1 0) and (-1 1 1) of a cubic crystal, their angles alone.
 class Matching : public testing::Test {
  protected:
-  using Planes = std::vector<Vector>;
-  static inline const Planes three{{1, 0, 0}, {1, 1, 0}, {-1, 1, 1}};
-
-  /// Puts the planes into the table; the bands are those of the first three, the first axis turned by 30 degrees.
-  void look_at(const Planes& planes) {
+  void make_table(const std::vector<ListedReflection>& entries, Single wanted) {
     set_cell(state, cubic_cell(4));
-    std::vector<ListedReflection> entries;
-    for (const auto& [h, k, l] : planes) {
-      const double intensity = 100 - h * h - k * k - l * l;
-      entries.push_back({static_cast<int>(h), static_cast<int>(k), static_cast<int>(l), to_single(intensity)});
-    }
     set_list(state, entries);
-    used = static_cast<Single>(planes.size());
-    make_table();
-    const ProjectedPattern pattern(CartesianCell(state), {3, 1, 5}, 30, {40, 0, 0, 1});
-    for (int band = 0; band < 3; ++band) {
-      const Vector& normal = planes[static_cast<std::size_t>(band)];
-      const double azimuth = pattern.azimuth_deg(normal);
-      bands.BandPhi(band) = to_single((azimuth < 0 ? azimuth + 360 : azimuth) * degree);
-      bands.BandTheta(band) = to_single((90 - pattern.latitude_deg(normal)) * degree);
-      const double angle = angle_deg(normal, planes[static_cast<std::size_t>((band + 1) % 3)]);
-      bands.BandAngle(band) = to_single(std::min(angle, 180 - angle));
-      bands.BandS(band) = state.RefS(band + 1);
-    }
-  }
-
-  void make_table() {
+    used = wanted;
     QuietTask unseen;
     table = make_triple_table(state, used, unseen);
+    const std::array angles{45.0F, 90.0F, 54.7356F};
+    for (int i = 0; i < 3; ++i) bands.BandAngle(i) = angles[static_cast<std::size_t>(i)];
   }
-
-  std::vector<Solution> match() {
+  /// The rows that are found; the last one is in `shown`.
+  std::vector<int> match() {
     task.steps.clear();
-    auto found = match_bands(state, table, used, bands, settings, task);
+    const auto found = match_bands(state, table, used, bands, settings, task);
     take_solutions(found, solutions);
-    return std::move(found.solutions);
+    std::vector<int> rows;
+    for (const Solution& solution : found.solutions) rows.push_back(solution.row);
+    if (!rows.empty()) shown = found.solutions.back();
+    return rows;
   }
 
   CrystalState state;
   TripleTable table;
   Single used = 0;
   MeasuredBands bands;
-  MatchSettings settings{2.0F, false, false, {}, 1, false};
+  MatchSettings settings{2.0F, true, false, {}, 1, false};
   SolutionTable solutions;
+  Solution shown;
   RecordedTask task;
 };
 
-TEST_F(Matching, FindsTheRowAndTheDirection) {
-  look_at(three);
-  const auto found = match();
-  ASSERT_EQ(found.size(), 1U);
-  EXPECT_EQ(found[0].row, ((1 - 1) * 3 + (2 - 1)) * 3 + 3);
-  EXPECT_NEAR(found[0].direction[0], 600, 1.1) << "they are truncated";
+TEST_F(Matching, OmitsEquivalentsAndStopsForAdjustment) {
+  // The fourth is equivalent to the first, the fifth differs in its spacing alone, the sixth in its intensity.
+  make_table({{1, 0, 0, 9}, {1, 1, 0, 8}, {-1, 1, 1, 7}, {0, 1, 0, 9.008F}, {2, 0, 0, 9}, {0, 1, 0, 9.01F}}, 6);
+  const auto row = [](int first) { return ((first - 1) * 6 + (2 - 1)) * 6 + 3; };
+  EXPECT_EQ(match(), (std::vector{row(1), row(4), row(5), row(6)}));
+  EXPECT_EQ(task.steps.back(), (std::pair{216, 216}));
   EXPECT_EQ(solutions.MatchStatus, 0);
-  EXPECT_EQ(solutions.SolutionTriple(1), found[0].row);
-  EXPECT_EQ(solutions.SolutionDir(1, 3), found[0].direction[2]);
-  EXPECT_EQ(task.steps.back(), (std::pair{27, 27}));
-  Solution shown = found[0];
+  EXPECT_EQ(solutions.SolutionDir(4, 3), shown.direction[2]);
+  settings.omit_equivalents = true;
+  EXPECT_EQ(match(), (std::vector{row(1), row(5), row(6)}));
+  EXPECT_EQ(solutions.SolutionTriple(2), row(5));
+  settings = {2.0F, true, false, {}, row(1) + 1, true};
+  EXPECT_EQ(match(), (std::vector{row(4)}));
+  EXPECT_EQ(task.steps.back().first, row(4));
+  EXPECT_EQ(solutions.SolutionTriple(2), row(5)) << "rows of the former run stay behind";
+}
+
+TEST_F(Matching, LinesAreAsLongAsTheirHeading) {
+  make_table({{1, 0, 0}, {1, 1, 0}, {-1, 1, 1}}, 3);
+  ASSERT_EQ(match().size(), 1U);
   for (const auto& [status, words] :
        {std::pair{0, ""}, {1, " Det Error Div. By Zero"}, {2, " No Real Ans."}, {3, ""}, {4, ""}}) {
     shown.status = status;
@@ -87,53 +78,21 @@ TEST_F(Matching, FindsTheRowAndTheDirection) {
       EXPECT_EQ(solution_heading(shown.number, with_widths).size(), solution_line(table, shown).size());
     }
   }
-  // The mirror image of the pattern has the same triangle with the other sense of rotation.
-  for (int i = 0; i < 3; ++i) bands.BandPhi(i) = to_single(program_two_pi - bands.BandPhi(i));
-  EXPECT_TRUE(match().empty());
-  settings.only_triangle = true;
-  EXPECT_EQ(match().size(), 1U);
 }
 
-TEST_F(Matching, OmitsEquivalentsAndStopsForAdjustment) {
-  // The second three planes are the first ones turned by 90 degrees about c.
-  look_at({{1, 0, 0}, {1, 1, 0}, {-1, 1, 1}, {0, 1, 0}, {-1, 1, 0}, {-1, -1, 1}});
-  const auto all = match();
-  ASSERT_EQ(all.size(), 2U);
-  for (const auto& [omit, first_row] : {std::pair{true, 1}, {false, all[1].row}}) {
-    settings = {2.0F, false, omit, {}, first_row, !omit};
-    const auto found = match();
-    ASSERT_EQ(found.size(), 1U);
-    EXPECT_EQ(found[0].row, all[omit ? 0 : 1].row);
-    EXPECT_EQ(solutions.SolutionTriple(1), found[0].row);
-    EXPECT_EQ(solutions.SolutionTriple(2), all[1].row) << "rows of the former run stay behind";
-  }
-  EXPECT_EQ(task.steps.back().first, all[1].row);
-}
-
-TEST_F(Matching, ComparesWidthsWhenAsked) {
-  look_at({{1, 0, 0}, {1, 1, 0}, {-1, 1, 1}, {2, 0, 0}});
-  EXPECT_EQ(match().size(), 2U) << "(1 0 0) and (2 0 0) have the same normal";
-  bands.BandS(0) = to_single(bands.BandS(0) * 1.1);
-  for (const auto& [percent, rows] : {std::pair{25.0F, 1U}, {5.0F, 0U}}) {
-    settings.width_tolerance_percent = percent;
-    EXPECT_EQ(match().size(), rows);
-  }
-}
-
-TEST_F(Matching, Failures) {
-  look_at(three);
-  used = 3.1F;  // of 30 rows, three reflections fill 27
-  make_table();
+TEST_F(Matching, FailsAtEmptyRowsAndBeyond16Bits) {
+  make_table({{1, 0, 0}, {1, 1, 0}, {-1, 1, 1}}, 3.1F);  // of 30 rows, three reflections fill 27
   settings.first_row = 28;
+  for (const int other : {0, 1, 2}) {  // an angle that is not 0, as those of empty rows and unmeasured bands are
+    for (int i = 0; i < 3; ++i) bands.BandAngle(i) = i == other ? 45.0F : 0.0F;
+    EXPECT_TRUE(match().empty());
+  }
   for (int i = 0; i < 3; ++i) bands.BandAngle(i) = 0;
-  EXPECT_TRUE(fails_with("RefS of a reflection of the triple table is 0", [this] { (void)match(); }))
-      << "empty rows have angles of 0, like bands that were never measured";
+  EXPECT_TRUE(fails_with("RefS of a reflection of the triple table is 0", [this] { (void)match(); }));
   EXPECT_TRUE(fails_with("the length of the reference vector of a direction is 0", [this] {
     (void)zone_azimuth(state, {1, 0, 0}, {1000, -1000, 0});
   }));
-  EXPECT_TRUE(fails_with("60000", [this] {
-    (void)zone_azimuth(state, {1, 40, 0}, {1000, 500, 1});
-  })) << "40 * 1500 over 16 bits";
+  EXPECT_TRUE(fails_with("60000", [this] { (void)zone_azimuth(state, {1, 40, 0}, {1000, 500, 1}); })) << "40 * 1500";
 }
 
 }  // namespace
