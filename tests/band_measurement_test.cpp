@@ -50,7 +50,7 @@ TEST_F(MeasureBands, NormalsPointAwayFromTheLineAndTheirAnglesAreFolded) {
        {Row{{0.5, -1, 0.5, 1}, 180, 63.4349}, Row{{-0.5, -1, -0.5, 1}, 359.999, 63.4349},
         Row{{-1, 0.5, 1, 0.5}, 270, 63.4349}, Row{{-1, -0.5, 1, -0.5}, 270, 63.4349},  // level, both to one side
         Row{{-1, -0.5, 0.5, 1}, 315, 70.5288}, Row{{-0.5, -1, 1, 0.5}, 135, 70.5288},
-        Row{{-1, 0.5, 0.5, -1}, 45, 70.5288}}) {
+        Row{{-1, 0.5, 0.5, -1}, 45, 70.5288}, Row{{-1, -1, 1, 1}, 315, 90}}) {
     measure({row.line, row.line, row.line});
     EXPECT_NEAR(bands.BandPhi(0) / degree, row.phi_deg, 2e-3);
     EXPECT_NEAR(bands.BandTheta(0) / degree, row.theta_deg, 2e-3) << row.phi_deg;

@@ -2,8 +2,17 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <random>
+#include <vector>
+
 #include "core/available_memory.h"
 #include "core/bounded_array.h"
+#include "core/float_loop.h"
+#include "core/sines.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -20,18 +29,16 @@ TEST(Rounding, GoesToTheEvenNumberAtAHalf) {
 
 TEST(WholeNumbers, FailInsteadOfWrappingAround) {
   EXPECT_EQ((Integer(300) * Integer(109)).value(), 32700);
-  EXPECT_THROW((void)(Integer(300) * Integer(110)), RunFailure);
-  EXPECT_THROW((void)(-Integer(-32768)), RunFailure);
-  EXPECT_THROW((void)Integer::rounded(32767.5), RunFailure);
-  EXPECT_THROW((void)Integer::rounded(std::nan("")), RunFailure);
-  EXPECT_THROW((void)Long::rounded(2147483648.0), RunFailure);
-  EXPECT_THROW((void)(Long(2147483647) + Long(1)), RunFailure);
+  EXPECT_TRUE(fails_with("33000 does not fit an Integer", [] { (void)(Integer(300) * Integer(110)); }));
+  EXPECT_TRUE(fails_with("32768 does not fit an Integer", [] { (void)-Integer(-32768); }));
+  EXPECT_TRUE(fails_with("32767.5 does not fit an Integer", [] { (void)Integer::rounded(32767.5); }));
+  EXPECT_TRUE(fails_with("does not fit an Integer", [] { (void)Integer::rounded(NAN); }));
+  EXPECT_TRUE(fails_with("does not fit a Long", [] { (void)(Long(2147483647) + Long(1)); }));
   EXPECT_TRUE(Integer(5) < 40000);  // a comparison is no conversion
 }
 
 TEST(CheckedSteps, NameWhatFailed) {
-  EXPECT_THROW((void)to_single(1e39), RunFailure);
-  EXPECT_THROW((void)to_single(std::nan("")), RunFailure);
+  for (const double none : {1e39, -1e39, std::nan("")}) EXPECT_THROW((void)to_single(none), RunFailure);
   EXPECT_EQ(to_single(1e-60), 0.0F);
   EXPECT_EQ(failure_of([] { (void)divide(1.0, 0.0, "Dmin"); }), "division by zero: Dmin is 0");
   EXPECT_THROW((void)divide(1.0, std::nan(""), "x"), RunFailure);
@@ -78,6 +85,87 @@ TEST(AvailableMemory, IsTheLeastOfMachineAndControlGroups) {
   root.write("sys/fs/cgroup/memory/memory.limit_in_bytes", std::to_string(gb));
   root.write("sys/fs/cgroup/memory/memory.usage_in_bytes", std::to_string(2 * gb));
   EXPECT_EQ(available_memory(root.path("")), 0U) << "version 1, mounted at the group itself";
+}
+
+constexpr auto falling = LoopSense::Falling;
+
+struct Loop {
+  Single from, limit;
+  double step;
+  LoopSense sense = LoopSense::Rising;
+};
+
+std::vector<Single> values(const Loop& loop, double distance = 0) {
+  std::vector<Single> visited;
+  skipping_loop("a loop", loop.from, loop.limit, loop.step, loop.sense, [&visited, distance](Single value) {
+    visited.push_back(value);
+    return distance;
+  });
+  return visited;
+}
+
+TEST(FloatLoop, RoundsAfterEachStepAndTestsTheLimitBeforeEachRound) {
+  EXPECT_EQ(values({0, 1, 0.5}), (std::vector<Single>{0, 0.5F, 1}));
+  EXPECT_EQ(values({1, -0.75F, 0.5, falling}), (std::vector<Single>{1, 0.5F, 0, -0.5F}));
+  EXPECT_TRUE(values({1, 0, 0.5}).empty());
+  // Ten roundings of 0.1F end above 1, so that 1 is not reached.
+  EXPECT_EQ(values({0, 1, 0.1F}).size(), 10U);
+  EXPECT_EQ(values({0, 1, 0.1F})[8], 0.8000001F);
+}
+
+TEST(FloatLoop, FailsWhenItsStepsLeadNowhere) {
+  // Half the spacing of Singles is rounded to even: 16777217 lies between two of them.
+  for (const Loop& loop :
+       {Loop{0, 1, 0}, Loop{0, 0, -0.1}, Loop{0, 1e20F, 1}, Loop{-1e20F, 0, 1}, Loop{16777210.0F, 16777220.0F, 1},
+        Loop{0, -1e20F, 1, falling}, Loop{1e20F, 0, 1, falling}}) {
+    EXPECT_TRUE(fails_with("which lead nowhere", [&loop] { (void)values(loop); })) << loop.from << ' ' << loop.step;
+  }
+  EXPECT_TRUE(fails_with("a loop goes from 0 to 1 by steps of -.5, which", [] { (void)values({0, 1, -0.5}); }));
+}
+
+TEST(SkippingLoop, MeetsTheValuesOfTheLoopThatVisitsThemAll) {
+  // The last but one have steps that end half-way between two Singles.
+  for (const Loop& loop : {Loop{-3.7F, 1e5F, 0.2173F}, Loop{3.7F, -1e5F, 0.2173F, falling}, Loop{8388600, 8396000, 1.5},
+                           Loop{16777200.0F, 16787200.0F, 3}, Loop{-54, 60, 0.01F}}) {
+    const auto all = values(loop);
+    const auto before = [&loop](Single a, Single b) { return loop.sense == falling ? a > b : a < b; };
+    for (const double distance : {2.0, 777.0, 1e9}) {
+      SCOPED_TRACE(testing::Message() << loop.from << ' ' << distance);
+      const auto some = values(loop, distance);
+      EXPECT_TRUE(std::includes(all.begin(), all.end(), some.begin(), some.end(), before));
+      EXPECT_LE(some.size(), distance > 2 ? all.size() / 2 : all.size());
+      for (std::size_t i = 1; i < some.size(); ++i) {
+        EXPECT_LE(std::abs(some[i] - some[i - 1]), std::max(distance, 2.0 * loop.step));
+      }
+    }
+  }
+}
+
+// Around the eighths of a turn, over the whole range, the smallest angles, and beyond the limit.
+TEST(Sines, KeepTheirBoundUpToTheLimit) {
+  constexpr double infinity = std::numeric_limits<double>::infinity();
+  const double beyond = std::nextafter(sine_limit, infinity);
+  std::vector<double> angles{0, -0.0, 5e-324, sine_limit, -sine_limit, beyond, -beyond, 1e300, -infinity, NAN};
+  std::mt19937 random(1);
+  std::uniform_real_distribution<double> within(-1, 1);
+  for (int eighth = -40; eighth <= 40; ++eighth) {
+    for (const double off : {0.0, 1e-12, -1e-7, 1e-3}) angles.push_back(eighth * M_PI / 4 + off);
+  }
+  for (int n = 0; n < 400000; ++n) angles.push_back(within(random) * std::array{1.0, 4.0, 1e3, sine_limit}[n % 4U]);
+  std::vector<double> sines(angles.size());
+  std::vector<double> cosines(angles.size());
+  approximate_sines(angles, sines, cosines);
+  double worst = 0;
+  for (std::size_t i = 0; i < angles.size(); ++i) {
+    if (std::abs(angles[i]) <= sine_limit) {
+      ASSERT_NEAR(sines[i], std::sin(angles[i]), sine_error) << angles[i];
+      ASSERT_NEAR(cosines[i], std::cos(angles[i]), sine_error) << angles[i];
+      worst = std::max(worst, std::abs(cosines[i] - std::cos(angles[i])));
+    } else {
+      EXPECT_TRUE(std::isnan(sines[i]) && std::isnan(cosines[i])) << angles[i];
+    }
+  }
+  EXPECT_GT(worst, sine_error / 10) << "the bound is not idle";
 }
 
 }  // namespace
