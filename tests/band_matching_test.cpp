@@ -58,7 +58,7 @@ TEST_F(Matching, OmitsEquivalentsAndStopsForAdjustment) {
   settings.omit_equivalents = true;
   EXPECT_EQ(match(), (std::vector{row(1), row(5), row(6)}));
   EXPECT_EQ(solutions.SolutionTriple(2), row(5));
-  settings = {2.0F, true, false, {}, row(1) + 1, true};
+  settings = {2.0F, true, false, {}, row(4) - 6, true};  // from within a pair that does not fit
   EXPECT_EQ(match(), (std::vector{row(4)}));
   EXPECT_EQ(task.steps.back().first, row(4));
   EXPECT_EQ(solutions.SolutionTriple(2), row(5)) << "rows of the former run stay behind";

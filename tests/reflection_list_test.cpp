@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "reflections/equivalents.h"
 #include "tests/crystals.h"
 #include "tests/lists.h"
 #include "tests/test_files.h"
@@ -15,6 +16,86 @@ namespace zol {
 namespace {
 
 using Hkl = std::array<int, 3>;
+
+// Generators on the indices (International Tables A 10.1.2): two-, three- and four-fold axes of each Laue class. In the
+// hexagonal ones the three-fold takes hkl to kil, i = -(h + k).
+constexpr auto centre = [](int h, int k, int l) { return Hkl{-h, -k, -l}; };
+constexpr auto two_b = [](int h, int k, int l) { return Hkl{-h, k, -l}; };
+constexpr auto two_c = [](int h, int k, int l) { return Hkl{-h, -k, l}; };
+constexpr auto four_c = [](int h, int k, int l) { return Hkl{-k, h, l}; };
+constexpr auto three_c = [](int h, int k, int l) { return Hkl{k, -h - k, l}; };
+constexpr auto two_ab = [](int h, int k, int l) { return Hkl{k, h, -l}; };
+constexpr auto three_111 = [](int h, int k, int l) { return Hkl{l, h, k}; };
+
+TEST(Equivalents, AreTheOrbitOfTheLaueClass) {
+  struct Row {
+    int first, last;  ///< space group numbers
+    std::size_t order;
+    std::vector<Hkl (*)(int h, int k, int l)> generators;
+  };
+  for (const auto& row :
+       {Row{1, 2, 2, {centre}}, Row{3, 15, 4, {centre, two_b}}, Row{16, 74, 8, {centre, two_b, two_c}},
+        Row{75, 88, 8, {centre, four_c}}, Row{89, 142, 16, {centre, four_c, two_b}},
+        Row{143, 148, 6, {centre, three_c}}, Row{149, 167, 12, {centre, three_c, two_ab}},
+        Row{168, 176, 12, {centre, three_c, two_c}}, Row{177, 194, 24, {centre, three_c, two_c, two_ab}},
+        Row{195, 206, 24, {centre, two_b, two_c, three_111}}, Row{207, 230, 48, {centre, four_c, two_b, three_111}}}) {
+    std::set<Hkl> orbit;
+    for (std::vector<Hkl> waiting{{1, 2, 5}}; !waiting.empty();) {
+      const auto [h, k, l] = waiting.back();
+      waiting.pop_back();
+      if (!orbit.insert({h, k, l}).second) continue;
+      for (const auto generator : row.generators) waiting.push_back(generator(h, k, l));
+    }
+    for (const int number : {row.first, row.last}) {
+      std::set<Hkl> found;
+      const auto triples = equivalent_indices(number, {1, 2, 5});
+      for (const auto& [h, k, l] : triples) {
+        found.insert({static_cast<int>(h), static_cast<int>(k), static_cast<int>(l)});
+      }
+      EXPECT_EQ(triples.size(), row.order) << number;
+      EXPECT_EQ(found, orbit) << number;
+    }
+  }
+}
+
+TEST(FormWeight, IsTheOneOfTheLaueClass) {
+  struct Row {
+    int number;
+    SingleTriple hkl;
+    int weight;
+  };
+  for (const auto& [number, hkl, weight] : {
+           Row{0, {1, 0, 0}, 1},   Row{2, {0, 0, 1}, 1},    Row{14, {1, 0, 2}, 2},    Row{14, {0, 1, 2}, 1},
+           Row{62, {0, 0, 2}, 4},  Row{75, {0, 1, 3}, 4},   Row{88, {1, 0, 3}, 1},     // only h = 0 counts
+           Row{88, {0, 0, 3}, 1},  Row{88, {1, 2, 0}, 2},   Row{88, {0, 0.5F, 3}, 1},  // 0.5 rounds to 0
+           Row{136, {0, 0, 1}, 8}, Row{136, {1, -1, 3}, 2}, Row{148, {0, 0, 1}, 3},   Row{167, {0, 0, 1}, 6},
+           Row{167, {1, 1, 0}, 1}, Row{186, {0, 0, 1}, 6},  Row{170, {1, 0, 0}, 2},   Row{205, {1, 1, 1}, 3},
+           Row{205, {1, 1, 0}, 2}, Row{225, {1, 0, 0}, 8},  Row{225, {1, 1, -1}, 8},  Row{231, {1, 0, 0}, 1},
+       }) {
+    EXPECT_EQ(form_weight(number, hkl), weight) << number << ": " << hkl[0] << ' ' << hkl[1] << ' ' << hkl[2];
+  }
+}
+
+TEST(Observed, GiveTheirWeightedValueToAllEquivalents) {
+  CrystalState state = with_cell(cubic_cell(4));
+  state.SGNumber = 225;
+  using Card = std::array<Single, 4>;
+  int r = 0;
+  for (const auto& [h, k, l, intensity] : {Card{1, 1, 1, 100}, {2, 0, 0, 46}, {1.5F, 0, 0, 7}, {0, 0, 2, 1}}) {
+    state.JcpdsCount = ++r;
+    state.JcpdsH(r) = h;
+    state.JcpdsK(r) = k;
+    state.JcpdsL(r) = l;
+    state.JcpdsI(r) = intensity;
+  }
+  const ObservedReflections observed(state);
+  EXPECT_EQ(observed.JcpdsFactor(-1, 1, -1), 800);
+  EXPECT_EQ(observed.JcpdsFactor(0, -2, 0), 8) << "the last row wins";
+  EXPECT_EQ(observed.JcpdsFactor(2, 2, 0), std::nullopt);
+  EXPECT_EQ(observed.JcpdsFactor(1, 0, 0), std::nullopt) << "a half index never matches";
+  state.SGNumber = 240;  // has no table of equivalents
+  EXPECT_EQ(ObservedReflections(state).JcpdsFactor(1, 1, 1), std::nullopt);
+}
 
 /// A cubic crystal of 4 angstroms.
 CrystalState cubic(const char* letter, Single dmin) {
