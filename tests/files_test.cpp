@@ -48,6 +48,7 @@ TEST(AtomicFiles, LeaveTheOldFileUnlessCommitted) {
     if (committed) file.commit();
     EXPECT_EQ(folder.read(name), committed ? "\"a, b\",.1,-3\r\n\"new\"\r\n" : "old");
   }
+  AtomicFile(folder.path("given up"));
   EXPECT_EQ(folder.entries(), 1U) << "a temporary file was left behind";
   EXPECT_TRUE(fails_with("too long", [&] { AtomicFile(folder.path(name + 'n')); }));
 }
@@ -75,6 +76,7 @@ TEST(AtomicFiles, KeepLinksPermissionsAndAttributes) {
   save(folder.path("twin"), "3");
   EXPECT_EQ(folder.read("real"), "3") << "both names are still the same file, and cut to the shorter text";
   fs::create_symlink("loop", folder.path("loop"));
+  EXPECT_TRUE(fails_with("it is a folder", [&] { AtomicFile(folder.path("other")); }));
   EXPECT_TRUE(fails_with("Too many levels", [&] { AtomicFile(folder.path("loop")); }));
 }
 

@@ -22,28 +22,16 @@ constexpr Radiation xrays{true, false};
 constexpr Radiation electrons{false, true};
 
 CrystalState with_table() {
-  const ScratchFolder folder;
   CrystalState state = with_cell(cubic_cell(4));
-  const auto path = folder.write("ASF-X.csv",
-                                 "\"Na\",4.7626,3.285,3.1736,8.8422,1.2674,0.3136,1.1128,129.424,0.676,11\r\n"
-                                 "\"Cl\",11.4604,0.0104,7.1964,1.1662,6.2556,18.5194,1.6455,47.7784,-9.5574,17\r\n"
-                                 "\"Na\",1,1,1,1,1,1,1,1,1,1\r\n");
-  state.AsfXCount = read_scatter_table(path, state.AsfX);
+  state.AsfXCount = read_scatter_table(ZOL_SOURCE_DIR "/data/ZOL/Asf/ASF-X.csv", state.AsfX);
   state.MassRatio = 1.5F;
   state.WaveLength = 1.542F;
   return state;
 }
 
-// At s = 0.25, from the coefficients by a desk calculator; for electrons Mott-Bethe, (11 - f) 0.023934 / s^2, times the
-// mass ratio.
-constexpr double na_xrays = 7.62395;
-constexpr double na_electrons = 1.9392546;
-TEST(ScatteringFactor, AgreesWithTheTabulatedCurve) {
+TEST(ScatteringFactor, NeedsARowOfItsElement) {
   const auto state = with_table();
   const AsfRow* const sodium = find_scatter_row(state, "Na");
-  EXPECT_NEAR(AtomicScatter(state, sodium, 0.25F, xrays), na_xrays, 1e-5);
-  EXPECT_NEAR(AtomicScatter(state, find_scatter_row(state, "Cl"), 0.5F, xrays), 7.31075, 1e-5);
-  EXPECT_NEAR(AtomicScatter(state, sodium, 0.25F, electrons), na_electrons, 1e-5);
   EXPECT_EQ(AtomicScatter(state, sodium, 0, electrons), AtomicScatter(state, sodium, 0, xrays));
   for (const auto* element : {"NA", " Na", "", "Xx"}) EXPECT_EQ(find_scatter_row(state, element), nullptr) << element;
   EXPECT_EQ(AtomicScatter(state, nullptr, 0.3F, electrons), 0);
@@ -115,9 +103,12 @@ TEST(StructureFactor, AgreesWithThePlainLoopToTheBit) {
   }
 }
 
-// Reflection 200, s = 0.25, of half an atom that turns it by a quarter. The Lorentz-polarisation factor at theta
-// = 22.675 degrees, (1 + cos^2 2theta) / (sin^2 theta cos theta), is 10.8945.
+// Reflection 200, s = 0.25, of half an atom that turns it by a quarter. Its factors from the coefficients by a desk
+// calculator; for electrons Mott-Bethe, (11 - f) 0.023934 / s^2, times the mass ratio. The Lorentz-polarisation factor
+// at theta = 22.675 degrees, (1 + cos^2 2theta) / (sin^2 theta cos theta), is 10.8945.
 TEST(Intensity, OfOneAtomIsTheOneByHand) {
+  constexpr double na_xrays = 7.62395;
+  constexpr double na_electrons = 1.9392546;
   auto state = with_table();
   state.NAtom = state.NCell = 1;
   state.UCElement(1) = "Na";
@@ -141,7 +132,7 @@ TEST(Intensity, OfOneAtomIsTheOneByHand) {
   EXPECT_NEAR(Val(line(0, electrons).substr(24)), shown, 6e-4);
   EXPECT_NEAR(intensity.value, shown / 0.25 / 2, 1e-4) << "what is stored is divided by 2 s";
   state.CellVolume = 0;
-  EXPECT_EQ(failure_of([&] { (void)line(0, electrons); }), "division by zero: the cell volume is 0");
+  EXPECT_TRUE(fails_with("the cell volume is 0", [&] { (void)line(0, electrons); }));
 }
 
 }  // namespace
