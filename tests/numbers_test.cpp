@@ -153,7 +153,9 @@ TEST(Sines, KeepTheirBoundUpToTheLimit) {
   for (int eighth = -40; eighth <= 40; ++eighth) {
     for (const double off : {0.0, 1e-12, -1e-7, 1e-3}) angles.push_back(eighth * M_PI / 4 + off);
   }
-  for (int n = 0; n < 400000; ++n) angles.push_back(within(random) * std::array{1.0, 4.0, 1e3, sine_limit}[n % 4U]);
+  for (std::size_t n = 0; n < 400000; ++n) {
+    angles.push_back(within(random) * std::array{1.0, 4.0, 1e3, sine_limit}[n % 4]);
+  }
   std::vector<double> sines(angles.size());
   std::vector<double> cosines(angles.size());
   approximate_sines(angles, sines, cosines);
