@@ -40,10 +40,11 @@ TEST(WholeNumbers, FailInsteadOfWrappingAround) {
 }
 
 TEST(CheckedSteps, NameWhatFailed) {
-  for (const double none : {1e39, -1e39, std::nan("")}) EXPECT_THROW((void)to_single(none), RunFailure);
+  EXPECT_TRUE(fails_with("too large for a Single", [] { (void)to_single(-1e39); }));
+  EXPECT_TRUE(fails_with("a calculation gave no number", [] { (void)to_single(NAN); }));
   EXPECT_EQ(to_single(1e-60), 0.0F);
   EXPECT_EQ(failure_of([] { (void)divide(1.0, 0.0, "Dmin"); }), "division by zero: Dmin is 0");
-  EXPECT_THROW((void)divide(1.0, std::nan(""), "x"), RunFailure);
+  EXPECT_TRUE(fails_with("x is 0", [] { (void)divide(1.0, NAN, "x"); }));
   EXPECT_EQ(failure_of([] { (void)square_root(-0.5, "the radicand"); }),
             "square root of a negative number: the radicand is -.5");
 }
