@@ -338,9 +338,11 @@ print Main1.Label26
 answer tests/scripts/observed.cry
 click Pattern2.Command16
 print Main1.Label31
+print Main1.Combo2
 print Main1.List2
 answer data/ZOLDATA/NaCl.cry
 click Pattern2.Command16
+print Main1.Combo2
 print Main1.Label31
 print Main1.Label20
 answer data/ZOLDATA/NaCl.cry
