@@ -1,4 +1,9 @@
 # Albite, h k 0 at 6.3 angstroms, in the window of fiber textures: (0 2 0) first, then (1 1 0) and (1 -1 0) with four arcs each, their angles to the fiber direction and their greys worked out from the metric
+set Pattern.Text1 1
+set Pattern.Text1 ""
+print Module1.CamAcquisition
+print FiberTexture.Text1
+print Module1.CamAcquisition
 set Main1.Text15 6.2
 answer "data/ZOLDATA/Albite.cry"
 click Main1.DATA_LOAD
@@ -7,8 +12,6 @@ set Main1.Text20 0
 click Main1.Command6
 click Main1.Command12
 caption FiberTexture
-print FiberTexture.Text1
-print Module1.CamAcquisition
 print FiberTexture.RotationPitch
 print FiberTexture.Picture1
 echo directions are whole numbers, halves go to the even one

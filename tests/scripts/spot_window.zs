@@ -1,5 +1,10 @@
 # Halite in the window of spot patterns: along c the four {200} at 1/(2d) = 0.1773, the diagonals along x; greys 255 - Int(255 (I / black)^n); angles are sums of 5 degrees
-echo the width comes from Dmin in any case
+echo a width of 0 when the window is loaded; Dmin gives another in any case
+set FiberTexture.Text1 1
+set FiberTexture.Text1 ""
+print Module1.CamAcquisition
+print Pattern.Text1
+print Module1.CamAcquisition
 set Main1.Text15 0.8
 click Main1.Command9
 print Pattern.Text1
