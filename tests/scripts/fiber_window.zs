@@ -35,12 +35,25 @@ click FiberTexture.Imagesize
 print FiberTexture.Picture1
 print Main1.SpotScale
 print Main1.Dispersion
-print Module1.RefH(1)
+echo from the second reflection on by intensity, all but 2-theta
 print Module1.RefK(1)
+print Module1.RefK(2)
+print Module1.RefK(3)
+print Module1.RefK(4)
 print Module1.RefI(1)
 print Module1.RefI(2)
 print Module1.RefI(3)
 print Module1.RefI(4)
+print Module1.RefH(2)
+print Module1.RefH(4)
+print Module1.RefL(2)
+print Module1.RefL(4)
+print Module1.RefS(2)
+print Module1.RefS(4)
+print Module1.RefA(2)
+print Module1.RefA(4)
+print Module1.RefTwoTheta(2)
+print Module1.RefTwoTheta(4)
 echo indices, the strongest to the power of 0.9
 answer ""
 click FiberTexture.Imagesize

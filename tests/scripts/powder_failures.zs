@@ -3,6 +3,7 @@ answer "data/ZOLDATA/NaCl.cry"
 click Main1.DATA_LOAD
 click Main1.Command7
 press Xd.Picture1 6 0.5
+press Xd.Picture1 -0.01 0.5
 click Xd.Command2
 press Xd.Picture1 3 0.5
 set Xd.Text5 0
@@ -56,6 +57,10 @@ set Dring.Text5 ""
 set Dring.Text3 -1
 click Dring.Command1
 print Dring.DisplayMax
+click Dring.Check1
+click Dring.Command1
+click Dring.Check1
+set Dring.Text3 0
 set Dring.Text3 0.003
 set Dring.Text6 10
 set Dring.Text7 10

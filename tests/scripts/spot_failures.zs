@@ -90,7 +90,11 @@ click FiberTexture.Command8
 set FiberTexture.Text5 1
 set FiberTexture.Text6 -1
 click FiberTexture.Command8
-set Main1.Text15 6
-click Main1.Command6
 set FiberTexture.Text6 ""
+set FiberTexture.Text2 1e20
+click FiberTexture.Command8
+set Main1.Text18 1
+set Main1.Text19 1
+set Main1.Text20 1
+click Main1.Command6
 click FiberTexture.Command8

@@ -30,6 +30,12 @@ print Main1.DisplayScale
 print Main1.SpotScale
 print Pattern.Text2
 print Pattern.Picture1
+echo the last spot stands in entry 0
+print Module1.RefH(0)
+print Module1.RefK(0)
+print Module1.RefL(0)
+print Module1.RefS(0)
+print Module1.RefA(0)
 echo indices, the next level, the one before
 click Pattern.Check3
 click Pattern.Command8
