@@ -21,7 +21,7 @@ TEST_F(SpotsWindows, OpenForAtomsAndForAnyList) {
   EXPECT_FALSE(pattern().visible());
   main1().Command12.click();
   EXPECT_EQ(program.windows().find("FiberTexture"), nullptr);
-  load("NaCl.cry");
+  load("NaCl.cry", "2.5");
   state.NAtom = 0;  // as with observed reflections only
   main1().Command9.click();
   EXPECT_FALSE(pattern().visible());
@@ -37,7 +37,7 @@ TEST_F(SpotsWindows, OpenForAtomsAndForAnyList) {
 }
 
 TEST_F(SpotsWindows, EnterMovesOnAndDraws) {
-  load("NaCl.cry");
+  load("NaCl.cry", "2.5");
   pattern().Text5.set_text("1");
   fiber().Text3.set_text("1");
   view.pointers.clear();
@@ -54,7 +54,7 @@ TEST_F(SpotsWindows, EnterMovesOnAndDraws) {
 }
 
 TEST_F(SpotsWindows, SizesBelongToOneWindowAndDrawItAnew) {
-  load("NaCl.cry");
+  load("NaCl.cry", "2.5");
   pattern().Text5.set_text("1");
   fiber().Text3.set_text("1");
   services.answers = {"10", "6000", "12", "4500"};
@@ -72,7 +72,7 @@ TEST_F(SpotsWindows, SizesBelongToOneWindowAndDrawItAnew) {
 }
 
 TEST_F(SpotsWindows, ThePlaceUnderThePointerIsToldInTheScaleOfEachPicture) {
-  load("NaCl.cry");
+  load("NaCl.cry", "2.5");
   pattern().Text5.set_text("1");
   pattern().Command8.click();
   for (TextBox* box : {&fiber().Text1, &fiber().Text3, &fiber().Text4, &fiber().Text5}) box->set_text("1");
