@@ -34,8 +34,6 @@ CrystalState lattice(Single edge, const char* letter, Single half_width, const Z
   return state;
 }
 
-Triple triple(const Integer& h, const Integer& k, const Integer& l) { return {h.value(), k.value(), l.value()}; }
-
 TEST(SpotPattern, LooksAtTheSameReflectionsAsAPlainRun) {
   struct Row {
     ZoneAxis axis;
@@ -61,7 +59,11 @@ TEST(SpotPattern, LooksAtTheSameReflectionsAsAPlainRun) {
       }
       std::vector<Triple> visited;
       visit_reflections_on_level(
-          state, [&visited](const Indices<Integer>& hkl) { visited.push_back(triple(hkl.h, hkl.k, hkl.l)); }, quiet);
+          state,
+          [&visited](const Indices<Integer>& hkl) {
+            visited.push_back({hkl.h.value(), hkl.k.value(), hkl.l.value()});
+          },
+          quiet);
       EXPECT_EQ(visited, plain) << testing::PrintToString(axis) << letter;
     }
   }

@@ -38,7 +38,7 @@ TEST_F(SpotsWindows, OpenForAtomsAndForAnyList) {
 
 TEST_F(SpotsWindows, EnterMovesOnAndDraws) {
   load("NaCl.cry", "2.5");
-  pattern().Text5.set_text("1");
+  for (TextBox* box : {&pattern().Text1, &pattern().Text5}) box->set_text("1");
   fiber().Text3.set_text("1");
   view.pointers.clear();
   for (TextBox* box : {&pattern().Text3, &pattern().Text4, &fiber().Text3, &fiber().Text4}) box->type('\r');
@@ -55,7 +55,7 @@ TEST_F(SpotsWindows, EnterMovesOnAndDraws) {
 
 TEST_F(SpotsWindows, SizesBelongToOneWindowAndDrawItAnew) {
   load("NaCl.cry", "2.5");
-  pattern().Text5.set_text("1");
+  for (TextBox* box : {&pattern().Text1, &pattern().Text5}) box->set_text("1");
   fiber().Text3.set_text("1");
   services.answers = {"10", "6000", "12", "4500"};
   pattern().Fsize.click();
@@ -73,7 +73,7 @@ TEST_F(SpotsWindows, SizesBelongToOneWindowAndDrawItAnew) {
 
 TEST_F(SpotsWindows, ThePlaceUnderThePointerIsToldInTheScaleOfEachPicture) {
   load("NaCl.cry", "2.5");
-  pattern().Text5.set_text("1");
+  for (TextBox* box : {&pattern().Text1, &pattern().Text5}) box->set_text("1");
   pattern().Command8.click();
   for (TextBox* box : {&fiber().Text1, &fiber().Text3, &fiber().Text4, &fiber().Text5}) box->set_text("1");
   fiber().Command8.click();
