@@ -46,6 +46,8 @@ TEST_F(PowderWindows, XdDrawsOverWhatIsThereUntilCleared) {
   form.Command2.click();
   form.Command6.click();
   EXPECT_EQ(drawn<DrawnLine>(form.Picture1).size(), 1000U) << "the old pattern";
+  EXPECT_EQ(form.Picture1.describe_place(3, 0.5), "2θ 3.00°   d 1.654 Å   I 50.0 %") << "20 kV: 0.0866 / 2 / sin 1.5°";
+  EXPECT_EQ(form.Picture1.describe_place(0, 0.5), "2θ 0.00°   I 50.0 %");
 }
 
 TEST_F(PowderWindows, DringDrawsRingsAsItsChecksSay) {
@@ -85,6 +87,8 @@ TEST_F(PowderWindows, DringDrawsRingsAsItsChecksSay) {
   form.Text5.set_text("-3000");
   form.Command1.click();
   EXPECT_EQ(drawn<DrawnCircle>(form.Picture2)[354].colour, 0) << "a level below 0 is cut";
+  EXPECT_EQ(form.Picture1.describe_place(0.4, 0.25), "d* 0.4000 Å⁻¹   d 2.500 Å   I 25.0 %");
+  EXPECT_EQ(form.Picture2.describe_place(-0.3, 0.4), "d* 0.5000 Å⁻¹   d 2.000 Å");
 }
 
 // The real program, whose pictures have pixels. An ending is added where the name has none.

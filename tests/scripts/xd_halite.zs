@@ -115,6 +115,9 @@ echo clear, print, open again
 click Xd.Command2
 print Xd.Picture1
 print Xd.PeakMax
+print Xd.Profile(456)
+set Xd.Text1 5
+print Xd.Profile(456)
 click Xd.Command5
 printer
 click Main1.Command7
