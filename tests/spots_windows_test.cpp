@@ -71,8 +71,9 @@ TEST_F(SpotsWindows, SizesBelongToOneWindowAndDrawItAnew) {
   EXPECT_TRUE(fiber().Picture1.width() == 4500 && fiber().Picture1.height() == 4500);
 }
 
-// The eight {111} start with 255 * 352.7 / 3278.9^1.2 = 5.43, 54.7 or 125.3 degrees from the top. At 180 degrees each has
-// two arcs that reach it within a turn, with 4 or 3: 255 - 4 * 2 * 4 - 4 * 2 * 3. At 1000 many turns add up to black.
+// The eight {111} start with 255 * 352.7 / 3278.9^1.2 = 5.43, 54.7 or 125.3 degrees from the top. At 180 degrees each
+// has two arcs that reach it within a turn, with 4 or 3: 255 - 4 * 2 * 4 - 4 * 2 * 3. At 1000 many turns add up to
+// black.
 TEST_F(SpotsWindows, WideArcsGoRoundUntilTheyAreBlack) {
   load("NaCl.cry", "2.5");
   for (TextBox* box : {&fiber().Text1, &fiber().Text3}) box->set_text("1");
