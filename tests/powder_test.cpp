@@ -217,7 +217,7 @@ TEST(Maxima, StandAboveBothNeighboursFromOnePercentOn) {
 TEST(GreyLevel, SaturatesAboveAndNotBelow) {
   EXPECT_EQ(grey_level(1, 2, false), 128) << "127.5 to even";
   EXPECT_EQ(grey_level(1, 2, true), 127);
-  EXPECT_EQ(grey_level(5, 2, true), 0);
+  EXPECT_EQ(grey_level(256, 255, true), 0);
   EXPECT_EQ(grey_level(-1, 255, false), -1);
   EXPECT_THROW((void)grey_level(3e9F, 1, false), RunFailure) << "beyond 32 bits before the clamp";
 }
