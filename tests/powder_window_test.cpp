@@ -107,16 +107,19 @@ TEST(PatternFiles, OfAllWindowsAreWritten) {
   ASSERT_EQ(std::system(command.c_str()), 0) << folder.read("out");  // NOLINT(cert-env33-c,concurrency-mt-unsafe)
   struct Row {
     const char* name;
-    int width_px;
+    int width_px, height_px;
   };
-  for (const auto& [name, width] : {Row{"x.BMP", 800},
-                                    {"rings.Bmp", 560},
-                                    {"spots.bmp", 567},
-                                    {".bmp", 567},  // cancelled
-                                    {"fiber.bmp.bmp", 384}}) {
+  for (const auto& [name, width, height] : {Row{"x.BMP", 800, 560},
+                                            {"rings.Bmp", 560, 560},
+                                            {"spots.bmp", 567, 567},
+                                            {".bmp", 567, 567},  // cancelled
+                                            {"fiber.bmp.bmp", 384, 384}}) {
     const std::string picture = folder.read(name);
     ASSERT_EQ(picture.substr(0, 2), "BM") << name;
-    EXPECT_EQ(static_cast<unsigned char>(picture[18]) + 256 * static_cast<unsigned char>(picture[19]), width) << name;
+    const auto number_at = [&picture](std::size_t at) {
+      return static_cast<unsigned char>(picture[at]) + 256 * static_cast<unsigned char>(picture[at + 1]);
+    };
+    EXPECT_TRUE(number_at(18) == width && number_at(22) == height) << name;
   }
   const std::string pattern = folder.read("x.XDP");
   EXPECT_NE(pattern.find("\"Gratio\",50\r\n"), std::string::npos);

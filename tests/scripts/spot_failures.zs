@@ -98,3 +98,10 @@ set Main1.Text19 1
 set Main1.Text20 1
 click Main1.Command6
 click FiberTexture.Command8
+echo two are enough
+set Main1.Text20 ""
+set Main1.Text15 3
+click Main1.Command6
+print Main1.Label26
+set FiberTexture.Text2 1
+click FiberTexture.Command8

@@ -143,3 +143,13 @@ echo another opening forgets the black
 click Main1.Command9
 print Main1.DisplayScale
 print Pattern.Text1
+echo an element without scattering factors is noted by the spots
+click Pattern.Command8
+print Main1.ScatterMissing
+click Main1.Command1
+cell InputAtom.G 1 2
+type InputAtom.G "\b\bXx\r"
+click InputAtom.Command1
+print Main1.ScatterMissing
+click Pattern.Command8
+print Main1.ScatterMissing
