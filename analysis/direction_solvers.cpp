@@ -44,12 +44,10 @@ struct Quadratic {
 /// Lengths of the cell edges and half cross terms of the squared length, by axis.
 struct Metric {
   explicit Metric(const Main1State& cell) : edge{cell.CellA, cell.CellB, cell.CellC} {
-    const double a = cell.CellA;
-    const double b = cell.CellB;
-    const double c = cell.CellC;
-    cross[axis_u + axis_v - 1] = to_single(a * b * cell.CosGamma);
-    cross[axis_u + axis_w - 1] = to_single(a * c * cell.CosBeta);
-    cross[axis_v + axis_w - 1] = to_single(b * c * cell.CosAlpha);
+    const auto [a, b, c, cos_alpha, cos_beta, cos_gamma] = direct_axes(cell);
+    cross[axis_u + axis_v - 1] = to_single(a * b * cos_gamma);
+    cross[axis_u + axis_w - 1] = to_single(a * c * cos_beta);
+    cross[axis_v + axis_w - 1] = to_single(b * c * cos_alpha);
   }
   [[nodiscard]] double length(int axis) const { return edge[static_cast<std::size_t>(axis)]; }
   [[nodiscard]] double q(int i, int j) const { return cross[static_cast<std::size_t>(i + j - 1)]; }

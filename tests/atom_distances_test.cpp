@@ -2,17 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include "core/triples.h"
 #include "tests/crystals.h"
 #include "tests/recorded_task.h"
 
 namespace zol {
 namespace {
 
-using Position = std::array<Single, 3>;
-
 /// Distances to the atoms of a unit cell, given as they stand, from one site.
-std::vector<AtomDistance> distances(const CellNumbers& cell, const Position& site, const std::vector<Position>& atoms,
-                                    Single limit) {
+std::vector<AtomDistance> distances(const CellNumbers& cell, const SingleTriple& site,
+                                    const std::vector<SingleTriple>& atoms, Single limit) {
   CrystalState state = with_cell(cell);
   state.NAtom = 1;
   state.NCell = static_cast<int>(atoms.size());
@@ -32,8 +31,8 @@ TEST(AtomDistances, StandInTheOrderOfTheCells) {
   struct Row {
     const char* name;
     CellNumbers cell;
-    Position site;
-    std::vector<Position> atoms;
+    SingleTriple site;
+    std::vector<SingleTriple> atoms;
     Single limit;
     std::vector<int> found;  ///< numbers of the atoms
     std::vector<double> at;  ///< their distances

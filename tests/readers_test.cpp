@@ -9,11 +9,14 @@ namespace {
 
 using Box = BoxText::Box;
 using Words = std::vector<std::string>;
+QuietTask quiet;
 
 TEST(Words, AreCutAtBlanksAlone) {
   EXPECT_EQ(cut_words("  a\tb,c 'd e' ", "x", 1), (Words{"a\tb,c", "'d", "e'"}));
   EXPECT_EQ(cut_words("   ", "x", 1), Words{});
-  EXPECT_EQ(split_lines("a\r\nb\rc\n\rd\n\n"), (Words{"a", "b", "c", "", "d", ""}));
+  Words lines;
+  for_each_line("a\r\nb\rc\n\rd\n\n", quiet, [&](std::string_view line) { lines.emplace_back(line); });
+  EXPECT_EQ(lines, (Words{"a", "b", "c", "", "d", ""}));
   EXPECT_EQ(without_uncertainty("5.4310(2)"), "5.4310");
   EXPECT_EQ(without_uncertainty("(x)"), "");
 }
@@ -37,11 +40,11 @@ Scan scan(const std::string& text) {
   Scan result;
   result.state.AtomB(1) = 7;
   Reader reader("my.cif");
-  for (const auto& line : split_lines(text)) {
+  for_each_line(text, quiet, [&](std::string_view line) {
     const auto found = reader.take(line);
     if (found.site) store_site(result.state, (result.atoms += 1).value(), *found.site);
     for (const auto& entry : found.texts) result.texts.push_back(entry);
-  }
+  });
   return result;
 }
 
@@ -129,12 +132,12 @@ TEST(Icsd, ReadsCellGroupAndTable) {
 TEST(AtomLists, TakeTheirColumns) {
   const ScratchFolder folder;
   const auto bare =
-      read_bare_atom_list(folder.write("list", "Fe1 0.1250(3) 0 .5\n\n   \nOs1 1 2 3 9\nC12 -0.1\nSi a b c\n"));
+      read_bare_atom_list(folder.write("list", "Fe1 0.1250(3) 0 .5\n\n   \nOs1 1 2 3 9\nC12 -0.1\nSi a b c\n"), quiet);
   EXPECT_EQ(bare, (std::vector<AtomRow>{{"Fe1", "Fe", "1.0", "0.1250(3)", "0", ".5", "0.0"},
                                         {"Os1", "O", "1.0", "1", "2", "3", "0.0"},
                                         {"C12", "C1", "1.0", "-0.1", "", "", "0.0"},
                                         {"Si", "Si", "1.0", "a", "b", "c", "0.0"}}));
-  const auto mincryst = read_mincryst_list(folder.write("list", "1 .1 .2 .3 .5 Si x 1.0\n\n2 0 0 0 .4 O y\n"));
+  const auto mincryst = read_mincryst_list(folder.write("list", "1 .1 .2 .3 .5 Si x 1.0\n\n2 0 0 0 .4 O y\n"), quiet);
   EXPECT_EQ(mincryst, (std::vector<AtomRow>{{"Si", "Si", "1.0", ".1", ".2", ".3", ".5"},
                                             {"", "", "", "", "", "", ""},
                                             {"O", "O", "", "0", "0", "0", ".4"}}));
@@ -144,10 +147,12 @@ TEST(AtomLists, HoldTwoHundredLines) {
   const ScratchFolder folder;
   std::string text;
   for (int i = 0; i < 200; ++i) text += "Na1 0 0 0\n\n";
-  EXPECT_EQ(read_bare_atom_list(folder.write("list", text)).size(), 200U);
-  EXPECT_NE(failure_of([&] { (void)read_mincryst_list(folder.path("list")); }).find("line 201"), std::string::npos);
-  EXPECT_NE(failure_of([&] { (void)read_bare_atom_list(folder.write("more", text + "Na1 0 0 0")); }).find("line 401"),
+  EXPECT_EQ(read_bare_atom_list(folder.write("list", text), quiet).size(), 200U);
+  EXPECT_NE(failure_of([&] { (void)read_mincryst_list(folder.path("list"), quiet); }).find("line 201"),
             std::string::npos);
+  EXPECT_NE(
+      failure_of([&] { (void)read_bare_atom_list(folder.write("more", text + "Na1 0 0 0"), quiet); }).find("line 401"),
+      std::string::npos);
 }
 
 }  // namespace

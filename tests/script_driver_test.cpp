@@ -9,6 +9,8 @@
 
 #include "core/read_file.h"
 #include "core/run_failure.h"
+#include "shell/script/control_text.h"
+#include "shell/script/script_words.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
 

@@ -1,7 +1,6 @@
 #include "analysis/window/pattern3_handlers.h"
 // PATTERN3: adjustment of the detector parameters for one solution.
 
-#include "core/put_back.h"
 #include "reflections/window/main1_form.h"
 #include "shell/services/wiring.h"
 
@@ -101,19 +100,18 @@ void Command14_Click(Workbench& bench, Pattern3Form& form) {
 void Command15_Click(Workbench& bench, Pattern3Form& form) {
   Module1State& camera = main1_state(bench);
   constexpr double wide = 1000.0;  // the chosen row passes all tests of angles
-  const PutBack tolerance(form.AngleTol);
-  form.AngleTol = to_single(double{form.AngleTol} * wide);
-  PutBack before(camera.CamAcquisition, camera.CamXShift, camera.CamYShift, form.BestError);
+  const Single tolerance = form.AngleTol;
+  form.AngleTol = to_single(double{tolerance} * wide);
   const CameraStart start{camera.CamAcquisition, camera.CamXShift, camera.CamYShift};
   form.ProgressBar2.set_range(0, to_single(2 * form.AdjustSteps.value()));
   const Hourglass hourglass(form);
-  BarTask task(form.ProgressBar2);
+  WindowTask task(bench.services, form.ProgressBar2);
   go_to(form, start, best_grid_point(bench, form, start, task), camera);
-  before.keep();
   form.Text3.set_text(plain_text(camera.CamAcquisition));
   form.Text14.set_text(plain_text(camera.CamXShift));
   form.Text15.set_text(plain_text(camera.CamYShift));
   Command1_Click(bench, form);
+  form.AngleTol = tolerance;
 }
 
 }  // namespace
