@@ -143,6 +143,17 @@ echo another opening forgets the black
 click Main1.Command9
 print Main1.DisplayScale
 print Pattern.Text1
+echo in quartz it has a phase: in the list (1 1 0) has -4.24 and -1.48
+answer "data/ZOLDATA/Quartz.cry"
+click Main1.DATA_LOAD
+click Main1.Command9
+set Pattern.Text1 .42
+click Pattern.Command8
+print Module1.RefH(0)
+print Module1.RefK(0)
+print Module1.RefL(0)
+print Module1.RefA(0)
+print Module1.RefB(0)
 echo an element without scattering factors is noted by the spots
 click Pattern.Command8
 print Main1.ScatterMissing
