@@ -11,7 +11,7 @@
 namespace zol {
 namespace {
 
-// Samples are worked on in blocks, so that what hangs on the bin alone is computed once for many of them.
+// Samples are worked on in blocks, so that what depends on the bin alone is computed once for many of them.
 constexpr int block_size = 64;
 constexpr std::size_t lines_between_checks = 64;  // some 0.1 ms
 
