@@ -11,12 +11,11 @@
 #include <string>
 
 #include "core/crystal_file.h"
-#include "core/number_text.h"
 #include "core/read_file.h"
 #include "core/record_reader.h"
 #include "core/space_group.h"
 #include "core/unit_cell.h"
-#include "tests/cartesian_cell.h"
+#include "tools/data_check/cell_metric.h"
 
 namespace zol {
 namespace {
@@ -40,22 +39,6 @@ Single shortest_distance(const CrystalState& crystal) {
   return shortest;
 }
 
-/// The largest difference in Å^2 that an operator makes in the scalar product of two edges of the cell.
-double metric_change(const SpaceGroup& group, const Main1State& state) {
-  const CartesianCell cell(state);
-  const std::array edges{cell.direction(1, 0, 0), cell.direction(0, 1, 0), cell.direction(0, 0, 1)};
-  double largest = 0;
-  for (const auto& [r, translation] : group.operators) {
-    for (std::size_t i = 0; i < 3; ++i) {
-      for (std::size_t j = 0; j < 3; ++j) {
-        const double turned = dot(cell.direction(r[0][i], r[1][i], r[2][i]), cell.direction(r[0][j], r[1][j], r[2][j]));
-        largest = std::max(largest, std::abs(turned - dot(edges[i], edges[j])));
-      }
-    }
-  }
-  return largest;
-}
-
 // Atoms in the cell by element key, occupancies counted, and the shortest bond, from the source of the crystal or a
 // calculation apart from the program.
 TEST(Samples, HaveTheFormulaAndTheBondsOfTheirSubstance) {
@@ -72,8 +55,7 @@ TEST(Samples, HaveTheFormulaAndTheBondsOfTheirSubstance) {
     file.read_cell(crystal);
     ASSERT_TRUE(file.read_contents(crystal));
     ASSERT_TRUE(calc_cell(crystal));
-    const auto group =
-        read_space_group(ZOL_SOURCE_DIR "/data/ZOL/SpaceGr/No" + Format(crystal.SGNumber.value(), "000") + ".dat");
+    const auto group = read_space_group(file_of(crystal.SGNumber.value()));
     EXPECT_EQ(crystal.LatticeLetter, group.symbol.substr(0, 1));
     EXPECT_LT(metric_change(group, crystal), 1e-4);
     for (int i = 1; i <= crystal.NAtom.value(); ++i) EXPECT_GT(crystal.AtomB(i), 0.0F);

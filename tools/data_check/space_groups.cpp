@@ -15,7 +15,7 @@
 
 #include "core/record_reader.h"
 #include "core/space_group.h"
-#include "tests/cell_metric.h"
+#include "tools/data_check/cell_metric.h"
 
 namespace zol {
 namespace {

@@ -16,7 +16,7 @@
 
 #include "core/read_file.h"
 #include "core/record_reader.h"
-#include "tests/cell_metric.h"
+#include "tools/data_check/cell_metric.h"
 
 namespace zol {
 namespace {
