@@ -199,11 +199,13 @@ TEST(AxisSettings, PermuteRotationAndTranslation) {
 
 TEST(SpaceGroupFile, NamesWhatIsBroken) {
   const ScratchFolder folder;
-  const auto path = folder.write("No001.dat", "\"TRICL\",\"P1\"\r\n2\r\n1,0,0,0,1,0,0,0,1,0,0,0\r\n1,0,0,0,q\r\n");
-  EXPECT_EQ(failure_of([&] { (void)read_space_group(path); }),
-            path + ", line 4: r22 of operator 2 is \"q\", a number is expected");
-  folder.write("No001.dat", "\"TRICL\",\"P-1\"\r\n1001\r\n");
-  EXPECT_TRUE(fails_with("at most 1000", [&path] { (void)read_space_group(path); }));
+  const std::string first = "\"TRICL\",\"P1\"\r\n2\r\n1,0,0,0,1,0,0,0,1,0,0,0\r\n";
+  for (const auto& [text, message] :
+       {std::pair{first + "1,0,0,0,q\r\n", "line 4: r22 of operator 2 is \"q\", a number is expected"},
+        {first + "1,0,0,0,1,0,0,0,1,0,q", "line 4: t2 of operator 2 is \"q\", a number is expected"},
+        {"\"TRICL\",\"P-1\"\r\n1001\r\n", "at most 1000"}}) {
+    EXPECT_TRUE(fails_with(message, [&, &text = text] { (void)read_space_group(folder.write("No001.dat", text)); }));
+  }
 }
 
 struct AnyValue {
