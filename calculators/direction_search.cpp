@@ -128,7 +128,6 @@ DirectionSearch search_direction(const PhotographPair& photographs, Task& task) 
   second.polar = std::clamp(second.polar, 1.0F, 89.0F);
   third = fine_pass(photographs, second.azimuth, second.polar, 1, 0.1, task);
   task.report(3, all_passes);
-  second.polar = std::clamp(second.polar, 0.1F, 89.9F);
   fourth = fine_pass(photographs, second.azimuth, second.polar, 0.1, 0.01, task);
   task.report(4, all_passes);
   return search;

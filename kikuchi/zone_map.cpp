@@ -38,9 +38,7 @@ std::optional<DirectionPlace> place_of_direction(const CrystalState& state, Sing
   if (plane == 0 || reference == 0) return std::nullopt;
   const Single difference = DHKLS(state, to_single(q1 - origin_h), to_single(q2 - origin_k), to_single(q3 - origin_l));
   place.phi = angle_between(plane, reference, difference, "the length of a plane");
-  if (difference == 0) place.phi = 0;
   if (difference >= double{plane} + double{reference} - 0.0001) place.phi = to_single(program_pi);
-  if (place.phi < 0) place.phi = to_single(place.phi + program_pi);
 
   const double t1 = to_single(origin_l * q2 - origin_k * q3);
   const double t2 = to_single(origin_h * q3 - origin_l * q1);

@@ -81,6 +81,7 @@ TEST(AvailableMemory, IsTheLeastOfMachineAndControlGroups) {
   EXPECT_EQ(available_memory(root.path("")), 8 * gb);
   root.write("proc/self/cgroup", "3:cpu,memory:/a\n0::/user/work\n");
   root.write("sys/fs/cgroup/user/work/memory.max", "max\n");
+  root.write("sys/fs/cgroup/user/work/memory.current", "1024\n");
   root.write("sys/fs/cgroup/user/memory.max", std::to_string(2 * gb));
   root.write("sys/fs/cgroup/user/memory.current", std::to_string(gb + 5 * kb));
   root.write("sys/fs/cgroup/user/memory.stat", "anon 1\ninactive_file 1024\n");
