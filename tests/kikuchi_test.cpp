@@ -65,8 +65,12 @@ TEST(GreyScale, LeavesOutWhatTheLatticeForbids) {
   state.CamAcquisition = 45;
   state.CamXYRatio = 1;
   state.LatticeLetter = "F";
-  set_list(state, {{1, 1, 1, 5}, {1, 0, 0, 100}, {2, 0, 0, 7}});
-  EXPECT_NEAR(strongest_in_view(state, gnomonic_view(state), quiet), 2 * 0.25 * 7, 1e-5);
+  std::vector<ListedReflection> list{{1, 1, 1, 5}, {1, 0, 0, 100}, {2, 0, 0, 7}};
+  for (int turned = 0; turned < 2; ++turned) {  // the strongest last, then first
+    set_list(state, list);
+    EXPECT_NEAR(strongest_in_view(state, gnomonic_view(state), quiet), 2 * 0.25 * 7, 1e-5);
+    std::swap(list.front(), list.back());
+  }
 }
 
 // Place of a direction against Cartesian geometry: angle from the axis and azimuth in the pattern frame.
@@ -90,6 +94,10 @@ TEST(ZoneMap, PutsDirectionsWhereTheyAre) {
 }
 
 TEST(ZoneMap, GivesUpOnTheAxisItself) {
+  const auto down_c = oriented_crystal(cubic_cell(4), {0, 0, 1});
+  const auto opposite = place_of_direction(down_c, 1.01F, -0.99F, 0);
+  EXPECT_NEAR(std::abs(opposite.value().phi - program_pi / 2), program_pi, 1e-5)
+      << "0.01 radians off count as opposite";
   auto state = oriented_crystal(cubic_cell(4), {1, 1, 2});
   EXPECT_FALSE(place_of_direction(state, 1, 1, 2));
   EXPECT_FALSE(place_of_direction(state, -2, -2, -4));
