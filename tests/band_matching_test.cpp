@@ -1,4 +1,5 @@
-// Which rows match, and how they are shown. Whole solutions, widths and senses of rotation: scripts/indexing.zs.
+// The table of triples, which of its rows match, and how they are shown. Whole solutions, widths and senses of
+// rotation: scripts/indexing.zs.
 #include "analysis/band_matching.h"
 
 #include <gtest/gtest.h>
@@ -94,8 +95,7 @@ TEST(TripleTable, RoundsRowsAndReflectionsEachForItself) {
 class Matching : public testing::Test {
  protected:
   void make_table(const std::vector<ListedReflection>& entries, Single wanted) {
-    set_cell(state, cubic_cell(4));
-    set_list(state, entries);
+    state = with_list(entries);
     used = wanted;
     QuietTask unseen;
     table = make_triple_table(state, used, unseen);
