@@ -48,7 +48,7 @@ TEST(AtomicFiles, LeaveTheOldFileUnlessCommitted) {
     if (committed) file.commit();
     EXPECT_EQ(folder.read(name), committed ? "\"a, b\",.1,-3\r\n\"new\"\r\n" : "old");
   }
-  AtomicFile(folder.path("given up"));
+  { const AtomicFile given_up(folder.path("given up")); }
   EXPECT_EQ(folder.entries(), 1U) << "a temporary file was left behind";
   EXPECT_TRUE(fails_with("too long", [&] { AtomicFile(folder.path(name + 'n')); }));
 }

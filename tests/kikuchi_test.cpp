@@ -38,6 +38,8 @@ TEST(Bands, StandOnTheSideOfTheirNormalAndTurnWithThePattern) {
         const double azimuth = radians(frame.azimuth(normal) + 180) + 0.3;
         EXPECT_NEAR(line.unit_x, std::cos(azimuth), 2e-3);
         EXPECT_NEAR(line.unit_y, std::sin(azimuth), 2e-3);
+        const double shown = degrees(std::atan2(line.unit_y, line.unit_x)) + 0.3;  // the turn is added in radians
+        EXPECT_NEAR(std::remainder(line.azimuth_deg - shown, 360), 0, 0.05);
         EXPECT_NEAR(line.latitude_deg, 90 - angle_deg(normal, frame.z), 2e-3);
         const double theta = trace_only ? 0 : std::asin(std::sqrt(dot(normal, normal)) * 0.0859 / 2);
         const double distance = std::tan(std::asin(dot(unit(normal), frame.z)) - theta);
