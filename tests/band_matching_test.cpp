@@ -128,6 +128,7 @@ TEST_F(Matching, OmitsEquivalentsAndStopsForAdjustment) {
   make_table({{1, 0, 0, 9}, {1, 1, 0, 8}, {-1, 1, 1, 7}, {0, 1, 0, 9.008F}, {2, 0, 0, 9}, {0, 1, 0, 9.01F}}, 6);
   const auto row = [](int first) { return ((first - 1) * 6 + (2 - 1)) * 6 + 3; };
   EXPECT_EQ(match(), (std::vector{row(1), row(4), row(5), row(6)}));
+  EXPECT_EQ(task.steps.front(), (std::pair{1, 216}));
   EXPECT_EQ(task.steps.back(), (std::pair{216, 216}));
   EXPECT_EQ(solutions.MatchStatus, 0);
   EXPECT_EQ(solutions.SolutionDir(4, 3), shown.direction[2]);

@@ -67,10 +67,10 @@ TEST(GreyScale, LeavesOutWhatTheLatticeForbids) {
   state.CamAcquisition = 45;
   state.CamXYRatio = 1;
   state.LatticeLetter = "F";
-  std::vector<ListedReflection> list{{1, 1, 1, 5}, {1, 0, 0, 100}, {2, 0, 0, 7}};
+  std::vector<ListedReflection> list{{1, 1, 1, 0.5F}, {1, 0, 0, 10}, {2, 0, 0, 0.7F}};
   for (int turned = 0; turned < 2; ++turned) {  // the strongest last, then first
     set_list(state, list);
-    EXPECT_NEAR(strongest_in_view(state, gnomonic_view(state), quiet), 2 * 0.25 * 7, 1e-5);
+    EXPECT_NEAR(strongest_in_view(state, gnomonic_view(state), quiet), 2 * 0.25 * 0.7, 1e-5);
     std::swap(list.front(), list.back());
   }
 }
