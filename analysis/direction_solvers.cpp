@@ -71,7 +71,7 @@ Quadratic squared_length(const Metric& metric, const Case& by, const Line& line)
                        2.0 * m1 * q_x1 + 2.0 * m2 * q_x2 + 2.0 * m1 * m2 * q_12);
   square.b = to_single(n2 * m2 * length_2 * length_2 + n1 * m1 * length_1 * length_1 + n1 * q_x1 + n2 * q_x2 +
                        (n1 * m2 + n2 * m1) * q_12);
-  // The cross term has the factor 1 on purpose, though the squared length has 2: results hang on it.
+  // The cross term has the factor 1 on purpose, though the squared length has 2: results depend on it.
   square.c = to_single(n2 * n2 * length_2 * length_2 + n1 * n1 * length_1 * length_1 + n2 * n1 * q_12 - 1.0);
   return square;
 }

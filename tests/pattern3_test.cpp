@@ -174,6 +174,7 @@ TEST_F(Pattern3Test, CorrectorMovesRowsToTheLeft) {
   form().ImageLoad.click();
   form().CorrectFile.click();
   EXPECT_EQ(services.questions.back().initial_folder, ZOL_SOURCE_DIR "/data/ZOL");
+  EXPECT_EQ(services.questions.back().filter, "");
   drag({100, 300, 110, 300});
   form().Command4.click();
   EXPECT_EQ(form().ProgressBar2.value(), 511);
@@ -190,6 +191,9 @@ TEST_F(Pattern3Test, CorrectorMovesRowsToTheLeft) {
     form().CorrectFile.click();
     EXPECT_NE(failure_of([this] { form().Command4.click(); }).find(words), std::string::npos) << words;
   }
+  services.answers = {"four.bmp"};
+  form().ImageLoad.click();
+  EXPECT_EQ(form().ProgressBar2.value(), 0);
 }
 
 TEST_F(Pattern3Test, FailuresLeaveTheParametersAsTheyWere) {

@@ -1,5 +1,6 @@
-# The five calculators of Utility, and distances in quartz and rutile. Checked by projecting the directions (y' = sin p sin a
-# cos r - cos p sin r, x = sin p cos a), by multiplying out, and with vectors and distances of the cells in double.
+# The five calculators of Utility, and distances in quartz and rutile. Checked by projecting the directions (y' = sin p
+# sin a cos r - cos p sin r, x = sin p cos a), by multiplying out, and with vectors and distances of the cells in
+# double.
 show Utility
 print Utility.Option1
 echo direction from azimuths, folded into -90 to 90: 30 and 50 from the axis; then 200 and 35
@@ -132,7 +133,7 @@ click Utility.Option2
 print Utility.Text52
 click Utility.Option3
 print Utility.Text52
-echo directions again, and [1 0 2] with [0 -3 -1]: an obtuse one less 180, for planes 180 less that; a vector of no length leaves it
+echo [1 0 2] with [0 -3 -1]: an obtuse angle less 180, for planes 180 less that; no length leaves it
 click Utility.Option1
 print Utility.Text52
 set Utility.Text47 0

@@ -1,5 +1,5 @@
-# The detector in degrees and mm, of 40 mm: position 20/tan(acquisition), shifts position * tan(shift), all rounded down to
-# 0.01 mm (x shift 0.001), angles from mm to 0.01 (acquisition 0.001) degree; worked out at a desk calculator.
+# The detector in degrees and mm, of 40 mm: position 20/tan(acquisition), shifts position * tan(shift), all rounded
+# down to 0.01 mm (x shift 0.001), angles from mm to 0.01 (acquisition 0.001) degree; worked out at a desk calculator.
 click MAIN_MENU.Command3
 echo as they start
 print PATTERN3.Text1

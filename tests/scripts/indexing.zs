@@ -1,6 +1,6 @@
-# A triclinic crystal along [.3 .25 .9], its reference turned by 25 degrees; camera 35, -4 and 2 degrees, ratio 1.04. The
-# traces of (1 1 0) (0 1 0) (-1 0 1) (1 -1 0) (0 -1 1) and the edges of their bands were projected apart with vectors: the
-# solution must give all of it back.
+# A triclinic crystal along [.3 .25 .9], its reference turned by 25 degrees; camera 35, -4 and 2 degrees, ratio 1.04.
+# The traces of (1 1 0) (0 1 0) (-1 0 1) (1 -1 0) (0 -1 1) and the edges of their bands were projected apart with
+# vectors: the solution must give all of it back.
 set Main1.Text7 2
 set Main1.Text1 4
 set Main1.Text2 5

@@ -1,6 +1,7 @@
-# Pattern2 on a primitive cubic lattice, a = 4, with observed {100} and {110}, at 20 kV. Each line agrees to 2e-5 with its
-# plane normal, Bragg angle asin(lambda/2d) and reference (w, w, -u-v) worked out apart with vectors; so do the axes of the
-# walk and of angles (rounded down), and the turns (as large as seen along the new axis, signed as along the old one).
+# Pattern2 on a primitive cubic lattice, a = 4, with observed {100} and {110}, at 20 kV. Each line agrees to 2e-5 with
+# its plane normal, Bragg angle asin(lambda/2d) and reference (w, w, -u-v) worked out apart with vectors; so do the
+# axes of the walk and of angles (rounded down), and the turns (as large as seen along the new axis, signed as along
+# the old one).
 set Main1.Text7 221
 set Main1.Text1 4
 leave Main1.Text1

@@ -1,5 +1,5 @@
-# Main1: radiation, space group, cell and lists. Wavelengths are sqrt(150/V) or tabulated; the reciprocal cell is worked
-# out apart with vectors; the reflections of the cubic cell lie at d = a/sqrt(hh+kk+ll).
+# Main1: radiation, space group, cell and lists. Wavelengths are sqrt(150/V) or tabulated; the reciprocal cell is
+# worked out apart with vectors; the reflections of the cubic cell lie at d = a/sqrt(hh+kk+ll).
 print Main1.Combo1
 print Main1.Text15
 print Main1.Text16
@@ -338,9 +338,11 @@ print Main1.Label26
 answer tests/scripts/observed.cry
 click Pattern2.Command16
 print Main1.Label31
+print Main1.Combo2
 print Main1.List2
 answer data/ZOLDATA/NaCl.cry
 click Pattern2.Command16
+print Main1.Combo2
 print Main1.Label31
 print Main1.Label20
 answer data/ZOLDATA/NaCl.cry

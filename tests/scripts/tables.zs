@@ -1,5 +1,5 @@
-# The two tables. By hand: Enter walks by rows and keeps a cell with nothing typed; backspace takes a character back, and
-# stays as a character in an empty buffer; the origin shift is added to each coordinate.
+# The two tables. By hand: Enter walks by rows and keeps a cell with nothing typed; backspace takes a character back,
+# and stays as a character in an empty buffer; the origin shift is added to each coordinate.
 set Main1.Text7 2
 set Main1.Text1 4
 set Main1.Text2 4

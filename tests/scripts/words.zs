@@ -1,4 +1,5 @@
-# The language itself: quotes, escapes and comments; what each kind of thing prints; answers in their order.
+# The language itself: quotes, escapes and comments; what each kind of thing prints; answers in their order, and
+# none; fields that are not there.
 echo "a b" # "x
 echo ""
 echo a  "b" c#d
@@ -23,6 +24,10 @@ caption Main1
 print PATTERN3.TripleHKL(125000,8)
 print Main1.AsfX(1)
 printer
+click Main1.DATA_LOAD
+call Main1.AtomCcalc
+print Module1.RefH(1)
+print Module1.UCPos(1,4)
 set Main1.Text1 4
 set Main1.Text7 221
 leave Main1.Text7

@@ -1,5 +1,5 @@
-# The map of zone axes of a triclinic cell down [234], turned by 5 degrees. Places, azimuths and latitudes (rounded down to
-# 0.1) agree to 0.1 degree with vectors in a Cartesian frame; the net is that of sine and of equal steps.
+# The map of zone axes of a triclinic cell down [234], turned by 5 degrees. Places, azimuths and latitudes (rounded
+# down to 0.1) agree to 0.1 degree with vectors in a Cartesian frame; the net is that of sine and of equal steps.
 set Main1.Text7 2
 set Main1.Text1 4
 set Main1.Text2 5
