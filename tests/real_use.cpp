@@ -33,8 +33,15 @@ void use_main_window(const User& user) {
   user.take_picture("InputAtom", "input-atom");
   user.click("InputAtom", "Command2");
   user.click("Main1", "Command15");
-  User::type_on(user.widget<QTableView>("InputJCPDS", "G"), "100\r1\r1\r1\r46\r2\r0\r0\r20");
+  auto& table = user.widget<QTableView>("InputJCPDS", "G");
+  User::type_on(table, "100\r1\r1\r1\r45\b6\r2\r0\r0\r20");
   user.take_picture("InputJCPDS", "input-jcpds");
+  QTest::keyClick(&table, Qt::Key_Up);
+  QTest::keyClick(&table, Qt::Key_Right);
+  const auto& cells = *table.model();
+  expect(table.currentIndex() == cells.index(1, 1) && cells.index(1, 0).data().toString() == QStringLiteral("46") &&
+             cells.headerData(3, Qt::Horizontal).toString() == QStringLiteral("L"),
+         "a table does not take its keys");
   user.click("InputJCPDS", "Command2");
   user.load_crystal("Quartz.cry");  // the table of observed lines has put its atoms aside
 }
