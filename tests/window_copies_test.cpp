@@ -98,6 +98,18 @@ class WindowCopies : public testing::Test {
     }
   }
 
+  /// A click, or a number in a box, which is left.
+  void act_on(const std::string& path) {
+    const auto dot = path.find('.');
+    Control* control = program.windows().use(path.substr(0, dot)).find(path.substr(dot + 1));
+    if (auto* button = dynamic_cast<CommandButton*>(control)) return button->click();
+    if (auto* item = dynamic_cast<MenuItem*>(control)) return item->click();
+    if (auto* check = dynamic_cast<CheckBox*>(control)) return check->click();
+    auto& box = dynamic_cast<TextBox&>(*control);
+    box.set_text("5");
+    box.leave();
+  }
+
   static void change_what_no_user_does(Control& control) {
     control.set_caption("another");
     control.set_visible(!control.visible());
@@ -167,78 +179,43 @@ TEST_F(WindowCopies, PutEverythingBack) {
   EXPECT_TRUE(drawings() == pictures);
 }
 
-struct LongClick {
-  const char* control;
-  int fewest_checks;
-  const char* answer = nullptr;
-};
-constexpr auto a_crystal = ZOL_SOURCE_DIR "/data/ZOLDATA/NaCl.cry";
-
-constexpr LongClick long_clicks[]{
-    {"Main1.DATA_LOAD", 200, a_crystal},
-    {"Main1.Command6", 100},
-    {"Main1.Command7", 100},
-    {"Main1.Command8", 100},
-    {"InputAtom.Command1", 6},
-    {"Xd.Command1", 100},
-    {"Dring.Command6", 100},
-    {"Pattern.Command2", 100},
-    {"FiberTexture.Command8", 400},
-    {"Pattern2.Command4", 400},
-    {"Pattern2.Command16", 200, a_crystal},
-    {"Zaxis.Text1", 90},
-    {"Zaxis.Check2", 40},
-    {"PATTERN3.Text2", 5},
-    {"PATTERN3.Command1", 2},
-    {"PATTERN3.Command4", 512},
-    {"PATTERN3.Command15", 200},
-    {"AtomDistance.Command1", 6},
+/// Controls whose events ask at least so often whether to stop.
+constexpr std::pair<const char*, int> long_events[]{
+    {"Main1.DATA_LOAD", 200},   {"Main1.Command6", 100},     {"Main1.Command7", 100},
+    {"Main1.Command8", 100},    {"InputAtom.Command1", 6},   {"Xd.Command1", 100},
+    {"Dring.Command6", 100},    {"Pattern.Command2", 100},   {"FiberTexture.Command8", 400},
+    {"Pattern2.Command4", 400}, {"Pattern2.Command16", 200}, {"Zaxis.Text1", 90},
+    {"Zaxis.Check2", 40},       {"PATTERN3.Text2", 5},       {"PATTERN3.Command1", 2},
+    {"PATTERN3.Command4", 512}, {"PATTERN3.Command15", 200}, {"AtomDistance.Command1", 6},
     {"Utility.Command1", 90},
 };
 
-class StoppedClicks : public WindowCopies {
- protected:
-  /// A number goes into a box, which is left.
-  static void use(Control* control) {
-    if (auto* button = dynamic_cast<CommandButton*>(control)) button->click();
-    if (auto* item = dynamic_cast<MenuItem*>(control)) item->click();
-    if (auto* box = dynamic_cast<CheckBox*>(control)) box->click();
-    if (auto* box = dynamic_cast<TextBox*>(control)) {
-      box->set_text("5");
-      box->leave();
-    }
-  }
-  /// @returns how often it was asked whether to stop
-  int click(const LongClick& what, int stop_at) {
-    services.checks = 0;
-    services.stop_at = stop_at;
-    if (what.answer != nullptr) services.queue_answer(what.answer);
-    const std::string path = what.control;
-    Window& window = program.windows().use(path.substr(0, path.find('.')));
-    gate.enter({path, "", [&] { use(window.find(path.substr(path.find('.') + 1))); }});
-    return services.checks;
-  }
-  EventGate gate{[] {}, [](const std::exception_ptr& failure) { FAIL() << failure_text(failure); }};
-};
-
-TEST_F(StoppedClicks, LeaveEverythingAsItWas) {
+TEST_F(WindowCopies, AreWhatAStoppedEventLeaves) {
+  EventGate gate([] {}, [](const std::exception_ptr& failure) { FAIL() << failure_text(failure); });
   gate.set_keep([this] { return program.keep(); });
   const auto put_back = program.keep();
-  for (const auto& what : long_clicks) {
-    SCOPED_TRACE(what.control);
+  for (const auto& [control, fewest_checks] : long_events) {
+    SCOPED_TRACE(control);
+    const auto checks_until = [&](int stop_at) {
+      services.checks = 0;
+      services.stop_at = stop_at;
+      services.queue_answer("data/ZOLDATA/NaCl.cry");
+      gate.enter({control, "", [&] { act_on(control); }});
+      return services.checks;
+    };
     put_back();
     const auto texts = everything();
     const auto pictures = drawings();
-    const int checks = click(what, 0);
-    EXPECT_GE(checks, what.fewest_checks);
+    const int checks = checks_until(0);
+    EXPECT_GE(checks, fewest_checks);
     const auto texts_after = everything();
     const auto pictures_after = drawings();
     put_back();
     for (const int at : {1, (checks + 1) / 2, checks}) {
-      EXPECT_EQ(click(what, at), at);
+      EXPECT_EQ(checks_until(at), at);
       EXPECT_TRUE(everything() == texts && drawings() == pictures) << at;
     }
-    click(what, 0);
+    checks_until(0);
     EXPECT_TRUE(everything() == texts_after && drawings() == pictures_after);
   }
 }
