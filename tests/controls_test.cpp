@@ -180,10 +180,8 @@ TEST(Rulers, TickRoundNumbers) {
 
 TEST(PrintedLines, HaveZonesOfFourteenColumns) {
   PrintLine line;
-  line.add("Na1").add(0.5F).add(Integer(-3)).add("").add("a text of more than a zone").add("exactly14chars").add("c");
-  EXPECT_EQ(line.text(),
-            "Na1            .5           -3                          "
-            "a text of more than a zone  exactly14charsc");
+  line.add("Na1").add(0.5F).add(Integer(-3)).add("a text of more than a zone").add("exactly14chars").add("c");
+  EXPECT_EQ(line.text(), "Na1            .5           -3            a text of more than a zone  exactly14charsc");
 }
 
 }  // namespace
