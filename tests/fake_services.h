@@ -103,7 +103,7 @@ class FakeServices : public Services {
  private:
   std::string next() {
     if (answers.empty()) throw RunFailure("a question without an answer");
-    const std::string answer = answers.front();
+    std::string answer = answers.front();
     answers.pop_front();
     return answer;
   }
