@@ -66,7 +66,7 @@ int kind_of(const std::string& file) {
 TEST(Includes, GoAsTheArrowsOfThePictureAndHaveNoCircle) {
   Arrows drawn;
   for (const auto& arrow :
-       caught(read_file(ZOL_SOURCE_DIR "/docs/images/architecture.svg"), "<path id=\"(\\w+-\\w+)")) {
+       caught(read_file(ZOL_SOURCE_DIR "/docs/images/architecture.svg"), R"(<path id="(\w+-\w+))")) {
     drawn[arrow.substr(0, arrow.find('-'))].insert(arrow.substr(arrow.find('-') + 1));
   }
   Arrows found;
