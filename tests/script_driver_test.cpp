@@ -75,7 +75,7 @@ TEST(Script, TellsWhatIsWrongWithItsLine) {
         {"print Module1.RefH", "line 2: Module1.RefH takes 1 indices, given are 0"},
         {"print Module1.RefH(1", "line 2: \"RefH(1\" has no closing bracket"},
         {"echo \"x", "line 2: a quote is not closed"},
-        {"echo \"\\q\"", "line 2: unknown \\q in a quoted word; known are \\\" \\\\ \\n \\r \\t \\b"},
+        {R"(echo "\q")", R"(line 2: unknown \q in a quoted word; known are \" \\ \n \r \t \b)"},
         {"set Main1.Text1 4α", "line 2: \"α\" (U+03B1) is outside Latin-1"},
         {"type Main1.Text1 \xC5", "line 2: \"Å\" is no UTF-8"},
         {"choose Main1.Combo1 😀", "line 2: \"😀\" (U+1F600) is outside Latin-1"},

@@ -194,7 +194,8 @@ TEST_F(WindowCopies, AreWhatAStoppedEventLeaves) {
   EventGate gate([] {}, [](const std::exception_ptr& failure) { FAIL() << failure_text(failure); });
   gate.set_keep([this] { return program.keep(); });
   const auto put_back = program.keep();
-  for (const auto& [control, fewest_checks] : long_events) {
+  for (const auto& [name, fewest_checks] : long_events) {
+    const std::string control = name;
     SCOPED_TRACE(control);
     const auto checks_until = [&](int stop_at) {
       services.checks = 0;
