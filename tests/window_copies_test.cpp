@@ -82,7 +82,7 @@ class WindowCopies : public testing::Test {
   void use(const Control& control) {
     static const std::map<ControlKind, std::string> operations{
         {ControlKind::TextBox, "type $ 3\nleave $"}, {ControlKind::ListBox, "select $ 1"},
-        {ControlKind::ComboBox, "select $ 1"},       {ControlKind::Grid, "type $ \"7\\r\""},
+        {ControlKind::ComboBox, "select $ 1"},       {ControlKind::Grid, R"(type $ "7\r")"},
         {ControlKind::Canvas, "press $ 1 1"},        {ControlKind::CommandButton, "click $"},
         {ControlKind::CheckBox, "click $"},          {ControlKind::OptionButton, "click $"},
         {ControlKind::MenuItem, "click $"}};
