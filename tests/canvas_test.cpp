@@ -51,15 +51,10 @@ TEST_F(CanvasTest, ListsWhatIsDrawnFromItsPosition) {
   canvas.print("text");
   canvas.set_solid_fill(false);
   canvas.circle(7, 8, 2);
-  const auto& list = canvas.drawing();
-  ASSERT_EQ(list.size(), 6U);
-  EXPECT_EQ(std::get<DrawnLine>(list[1].what).x1, 1);
-  EXPECT_EQ(std::get<DrawnLine>(list[2].what).x1, 3);
-  EXPECT_EQ(std::get<DrawnLine>(list[2].what).colour, 0) << "the fore colour";
-  EXPECT_EQ(std::get<DrawnCircle>(list[3].what).fill, red);
-  EXPECT_EQ(std::get<DrawnText>(list[4].what).x, 7) << "the centre";
-  EXPECT_EQ(std::get<DrawnText>(list[4].what).text, "text");
-  EXPECT_EQ(std::get<DrawnCircle>(list[5].what).fill, std::nullopt);
+  const std::vector<Primitive> wanted{{UserScale{0, 0, 50, 100}},         {DrawnLine{1, 2, 3, 4, red}},
+                                      {DrawnLine{3, 4, 5, 6, 0}},         {DrawnCircle{7, 8, 2, 0, red}},
+                                      {DrawnText{7, 8, 0, "text", 8.25}}, {DrawnCircle{7, 8, 2, 0, std::nullopt}}};
+  EXPECT_TRUE(canvas.drawing() == wanted);
   EXPECT_DOUBLE_EQ(dynamic_cast<FakeSurface&>(canvas.stored_image()).last_radius, 4) << "by the scale of x";
 }
 
@@ -75,9 +70,9 @@ TEST_P(CanvasLayers, AreStoredImageAndOverlay) {
   canvas.set_persistent(false);
   canvas.set_point(6, 6, 77);
   canvas.set_back_colour(12345);
-  EXPECT_EQ(canvas.stored_image().pixel(10, 10), red);
-  EXPECT_EQ(canvas.stored_image().pixel(50, 50), red);
-  EXPECT_EQ(canvas.stored_image().pixel(60, 60), 12345);
+  for (const auto& [place, colour] : {std::pair{10, red}, {50, red}, {60, 12345}}) {
+    EXPECT_EQ(canvas.stored_image().pixel(place, place), colour) << place;
+  }
   EXPECT_EQ(canvas.point(6, 6), 77);
   EXPECT_EQ(canvas.point(1, 2), 12345);
   canvas.clear();

@@ -1,7 +1,4 @@
 // Every window of the program: its layout shows all that the window declares, and can be used as it stands.
-#include <map>
-#include <sstream>
-
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
@@ -32,12 +29,6 @@ std::string menu_of(const QWidget& top, QAction* item) {
     if (menu->actions().contains(item)) return plain(menu->title());
   }
   return "";
-}
-
-/// A button without a given caption has a symbol.
-bool has_symbol(const QAbstractButton& button) {
-  const auto* tool = qobject_cast<const QToolButton*>(&button);
-  return !button.icon().isNull() || (tool != nullptr && tool->arrowType() != Qt::NoArrow);
 }
 
 /// Of every window of the program.
@@ -83,7 +74,9 @@ TEST_P(CompleteWindow, BearsTheGivenCaptions) {
       EXPECT_EQ(own, wanted);
     } else if (const auto* button = qobject_cast<QAbstractButton*>(shown)) {
       EXPECT_TRUE(own == wanted || wanted.empty()) << own;
-      EXPECT_TRUE(!own.empty() || has_symbol(*button));
+      const auto* tool = qobject_cast<QToolButton*>(shown);
+      const bool has_symbol = !button->icon().isNull() || (tool != nullptr && tool->arrowType() != Qt::NoArrow);
+      EXPECT_TRUE(!own.empty() || has_symbol);
     } else if (control->kind() == ControlKind::Frame) {
       EXPECT_EQ(own, wanted);
     } else {
@@ -94,15 +87,11 @@ TEST_P(CompleteWindow, BearsTheGivenCaptions) {
 
 TEST_P(CompleteWindow, UsesEachMnemonicOnce) {
   QWidget& top = widget(GetParam());
-  std::map<QChar, std::string> used;
-  const auto use = [&used](const QString& text) {
-    const qsizetype at = text.indexOf(u'&');
-    if (at < 0) return;
-    const auto [entry, added] = used.emplace(text[at + 1].toUpper(), text.toStdString());
-    EXPECT_TRUE(added) << text.toStdString() << " and " << entry->second;
-  };
+  QString used;
+  const auto use = [&used](const QString& text) { used += text.section(u'&', 1).left(1).toUpper(); };
   for (const auto* button : top.findChildren<QAbstractButton*>()) use(button->text());
   for (const auto* action : dynamic_cast<QMainWindow&>(top).menuBar()->actions()) use(action->text());
+  for (const QChar mnemonic : used) EXPECT_EQ(used.count(mnemonic), 1) << QString(mnemonic).toStdString();
 }
 
 // At their smallest size, where the layouts give the least.
@@ -128,11 +117,9 @@ TEST_P(CompleteWindow, WalksByTabAsOneReads) {
   for (auto* next = top.nextInFocusChain(); next != &top; next = next->nextInFocusChain()) {
     if (!(next->focusPolicy() & Qt::TabFocus) || !next->isVisible() || next->objectName().startsWith(u"qt_")) continue;
     if (last != nullptr && last->parentWidget() == next->parentWidget()) {
-      const int line = next->fontMetrics().height();
-      const bool below = next->y() > last->y() + line / 2;
+      const bool below = next->y() > last->y() + next->fontMetrics().height() / 2;
       const bool on_the_right = next->x() > last->x();  // the next in the line, or at the head of the next column
-      EXPECT_TRUE(below || on_the_right) << last->objectName().toStdString() << " before "
-                                         << next->objectName().toStdString();
+      EXPECT_TRUE(below || on_the_right) << plain(last->objectName()) << " before " << plain(next->objectName());
     }
     last = next;
   }
@@ -140,13 +127,9 @@ TEST_P(CompleteWindow, WalksByTabAsOneReads) {
 
 TEST_P(CompleteWindow, HasItsChapterInTheGuide) {
   const QString page = widget(GetParam()).property("guidePage").toString();
-  std::istringstream lines(read_file(ZOL_SOURCE_DIR "/docs/user-guide/" + page.section(u'#', 0, 0).toStdString()));
-  const std::string heading = page.section(u'#', 1).replace(u'-', u' ').toStdString();
-  bool found = false;
-  for (std::string line; std::getline(lines, line);) {
-    found = found || (line.starts_with('#') && QString::fromStdString(line).toLower().endsWith(to_qt("# " + heading)));
-  }
-  EXPECT_TRUE(found) << page.toStdString();
+  const QString guide = to_qt(read_file(ZOL_SOURCE_DIR "/docs/user-guide/" + page.section(u'#', 0, 0).toStdString()));
+  const QString heading = page.section(u'#', 1).replace(u'-', u' ');
+  EXPECT_TRUE(guide.toLower().contains(QStringLiteral("# %1\n").arg(heading))) << page.toStdString();
 }
 
 }  // namespace

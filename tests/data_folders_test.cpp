@@ -62,21 +62,16 @@ TEST(DataFolders, AreTheInstalledOnesWhereNoCopyCanBeMade) {
 
 TEST(DataFolders, SettingsNameTheLineThatIsWrong) {
   const ScratchFolder folder;
-  for (const auto* text : {"\ndata_rot = x\n", "\ndata_root x\n", "\ndata_root =\n"}) {
+  for (const auto& [text, words] : {std::pair{"\ndata_rot = x\n", "zol.conf, line 2: "},
+                                    {"\ndata_root x\n", "zol.conf, line 2: "},
+                                    {"\ndata_root =\n", "zol.conf, line 2: "},
+                                    {"crystal_folder = x\n", "is missing"}}) {
     const auto path = folder.write("zol.conf", text);
-    EXPECT_NE(failure_of([&] { (void)read_data_settings(path); }).find("zol.conf, line 2: "), std::string::npos)
-        << text;
+    EXPECT_NE(failure_of([&] { (void)read_data_settings(path); }).find(words), std::string::npos) << text;
   }
-  DataPlaces places;
-  places.user_settings = folder.path("");
-  EXPECT_NE(failure_of([&] { (void)find_data_root(places); }).find("it is a folder"), std::string::npos);
-  const auto path = folder.write("zol.conf", "crystal_folder = x\n");
-  EXPECT_NE(failure_of([&] { (void)read_data_settings(path); }).find("is missing"), std::string::npos);
-}
-
-TEST(DataFolders, GivenRootHasItsCrystalsBesideIt) {
+  EXPECT_NE(failure_of([&] { (void)read_data_settings(folder.path("")); }).find("it is a folder"), std::string::npos);
   EXPECT_EQ(data_root_at("/a/b/data/").root, "/a/b/data");
-  EXPECT_EQ(data_root_at("/a/b/data/").crystal_folder, "/a/b/ZOLDATA");
+  EXPECT_EQ(data_root_at("/a/b/data/").crystal_folder, "/a/b/ZOLDATA") << "beside a root that is given";
 }
 
 }  // namespace

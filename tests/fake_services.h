@@ -27,12 +27,12 @@ class FakeSurface : public Surface {
     background_.reset();
   }
   void line(double x1, double y1, double x2, double y2, Colour colour) override {
-    set_pixel(static_cast<int>(round_half_even(x1)), static_cast<int>(round_half_even(y1)), colour);
-    set_pixel(static_cast<int>(round_half_even(x2)), static_cast<int>(round_half_even(y2)), colour);
+    set_near(x1, y1, colour);
+    set_near(x2, y2, colour);
   }
   void circle(double x, double y, double radius, Colour outline, std::optional<Colour> fill) override {
     last_radius = radius;
-    set_pixel(static_cast<int>(round_half_even(x)), static_cast<int>(round_half_even(y)), fill.value_or(outline));
+    set_near(x, y, fill.value_or(outline));
   }
   void set_pixel(int x, int y, Colour colour) override { pixels_[{x, y}] = colour; }
   [[nodiscard]] std::optional<Colour> pixel(int x, int y) const override {
@@ -50,8 +50,7 @@ class FakeSurface : public Surface {
     }
   }
   void mirror(bool left_to_right, bool upside_down) override {
-    auto old = std::exchange(pixels_, {});
-    for (const auto& [place, colour] : old) {
+    for (const auto& [place, colour] : std::exchange(pixels_, {})) {
       const auto [x, y] = place;
       set_pixel(left_to_right ? width_ - 1 - x : x, upside_down ? height_ - 1 - y : y, colour);
     }
@@ -66,6 +65,10 @@ class FakeSurface : public Surface {
   double last_radius = 0;
 
  private:
+  void set_near(double x, double y, Colour colour) {
+    set_pixel(static_cast<int>(round_half_even(x)), static_cast<int>(round_half_even(y)), colour);
+  }
+
   int width_;
   int height_;
   std::optional<Colour> background_;
@@ -83,20 +86,19 @@ class FakeServices : public Services {
     prompts.push_back(text + "|" + title);
     return next();
   }
-  void message(const std::string& text, const std::string& title) override { messages.push_back(text + "|" + title); }
+  void message(const std::string& /*text*/, const std::string& /*title*/) override {}
   void print_line(const std::string& line) override { printed.push_back(line); }
   void end_document(const std::string& /*title*/) override { printed.emplace_back("end"); }
   void print_window(Window& window) override { printed.push_back("window " + window.caption()); }
   std::unique_ptr<Surface> make_surface(int width, int height) override {
     return std::make_unique<FakeSurface>(width, height);
   }
-  void export_picture(Canvas& /*canvas*/, const std::string& path) override { exported.push_back(path); }
-  void end_program() override { ended = true; }
+  void export_picture(Canvas& /*canvas*/, const std::string& /*path*/) override {}
+  void end_program() override {}
 
   std::deque<std::string> answers;
   std::vector<FileQuestion> questions;
-  std::vector<std::string> prompts, messages, printed, exported;
-  bool ended = false;
+  std::vector<std::string> prompts, printed;
 
  private:
   std::string next() {
