@@ -12,6 +12,7 @@
 #include "core/task.h"
 #include "structures/elements.h"
 #include "structures/notes.h"
+#include "structures/program_setting.h"
 
 namespace zol {
 
@@ -39,14 +40,16 @@ using Reading = std::variant<ReadStructure, Question>;
 
 /// Reads a file of any known format, told by its contents: CIF, SHELX (.res, .ins), VASP (POSCAR), crystal files of
 /// this program; each may be compressed by gzip.
-/// @param name  of the file, to tell crystal files that hold nothing but their cell
+/// @param name    of the file, which tells a POSCAR apart
+/// @param groups  hold the operators of crystal files
 /// @throws RunFailure  it is none of these, or holds no crystal; the message has line and tag
 [[nodiscard]] Reading read_structure(std::string_view bytes, const std::string& name, const ImportAnswers& answers,
-                                     Task& task);
+                                     const SpaceGroupLibrary& groups, Task& task);
 
 // The single formats
 [[nodiscard]] Reading read_cif(std::string_view bytes, const ImportAnswers& answers, Task& task);
 [[nodiscard]] Reading read_shelx(std::string_view bytes, Task& task);
 [[nodiscard]] Reading read_poscar(std::string_view bytes, const ImportAnswers& answers, Task& task);
+[[nodiscard]] Reading read_crystal(std::string_view bytes, const SpaceGroupLibrary& groups);
 
 }  // namespace zol
