@@ -96,9 +96,9 @@ class AnisotropicTable {
     for (std::size_t i = 0; i < 3; ++i) {
       for (std::size_t j = i; j < 3; ++j) {
         const std::string indices = std::to_string(i + 1) + std::to_string(j + 1);
-        const CifColumn* column = block_.find({"_atom_site_aniso_" + kind + "_" + indices,
-                                               "_atom_site_anisotrop_" + kind + "[" + std::to_string(i + 1) + "][" +
-                                                   std::to_string(j + 1) + "]"});
+        const CifColumn* column = block_.find(
+            {"_atom_site_aniso_" + kind + "_" + indices,
+             "_atom_site_anisotrop_" + kind + "[" + std::to_string(i + 1) + "][" + std::to_string(j + 1) + "]"});
         if (column == nullptr || column->loop != labels_->loop || !column->values[row]) return std::nullopt;
         const auto value = measured_number(*column->values[row]);
         if (!value) return std::nullopt;
@@ -174,8 +174,8 @@ class BlockReader {
     if (!text) return missing;
     const auto number = measured_number(*text);
     if (!number) {
-      throw RunFailure("line " + std::to_string(block_.find(tags)->line) + ": " + std::string(*tags.begin()) + " is \"" +
-                       *text + "\", a number is expected");
+      throw RunFailure("line " + std::to_string(block_.find(tags)->line) + ": " + std::string(*tags.begin()) +
+                       " is \"" + *text + "\", a number is expected");
     }
     return number->value;
   }
@@ -204,7 +204,8 @@ class BlockReader {
   void fill_angles(const SymmetryClaims& claims) {
     CellConstants& cell = read_.structure.cell;
     if (cell.alpha > 0 && cell.beta > 0 && cell.gamma > 0) return;
-    const std::string system = trimmed(block_.value({"_symmetry_cell_setting", "_space_group_crystal_system"}).value_or(""));
+    const std::string system =
+        trimmed(block_.value({"_symmetry_cell_setting", "_space_group_crystal_system"}).value_or(""));
     const auto groups = groups_of_symbol(claims.symbol, {1, 1, 1, 90, 90, 120});
     const int number = groups.empty() ? claims.number : groups.front().number;
     const bool hexagonal = is_symmetry_of(system, {'h', 'H'}) || (number >= 143 && number <= 194);
@@ -215,8 +216,8 @@ class BlockReader {
   }
 
   void read_formula() {
-    if (const auto text = block_.value({"_chemical_formula_sum", "_chemical_formula_structural",
-                                        "_chemical_formula_moiety"})) {
+    if (const auto text =
+            block_.value({"_chemical_formula_sum", "_chemical_formula_structural", "_chemical_formula_moiety"})) {
       read_.formula = parse_formula(*text);
     }
     const auto number = [this](Tags tags) -> std::optional<double> {
@@ -234,8 +235,8 @@ class BlockReader {
     std::vector<std::string> without_place, unknown;
     for (std::size_t row = 0; row < atoms_.rows(); ++row) {
       task.check();
-      const std::string label = trimmed(atoms_.text(row, {"_atom_site_label", "_atom_site_id",
-                                                          "_atom_site_label_atom_id"}).value_or(""));
+      const std::string label =
+          trimmed(atoms_.text(row, {"_atom_site_label", "_atom_site_id", "_atom_site_label_atom_id"}).value_or(""));
       const std::string type = trimmed(atoms_.text(row, {"_atom_site_type_symbol"}).value_or(""));
       const auto flag = atoms_.text(row, {"_atom_site_calc_flag"});
       if (flag && *flag == "dum") continue;
@@ -257,7 +258,8 @@ class BlockReader {
       read_.notes.assume("no displacement parameters for " + std::to_string(b_missing_) +
                          " sites; B = 0.5 square angstroms is taken");
     }
-    if (read_.structure.sites.empty()) throw RunFailure("line " + std::to_string(atoms_.line()) + ": no atom can be read");
+    if (read_.structure.sites.empty())
+      throw RunFailure("line " + std::to_string(atoms_.line()) + ": no atom can be read");
   }
 
   void tell_left_out(const std::vector<std::string>& names, const std::string& why) {

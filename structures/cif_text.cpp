@@ -243,7 +243,7 @@ class Mender {
       for (std::size_t i = 0; i < tags_; ++i) emit("?");
     }
     if (state_ == State::LoopValues && values_ % tags_ != 0) {
-      result_.notes.doubt(in_line(line_) + "the loop that ends here lacks values of its last row");
+      result_.notes.doubt(in_line(value_line_) + "the loop that ends here lacks values of its last row");
       for (; values_ % tags_ != 0; ++values_) emit("?");
     }
     if (state_ != State::BeforeBlock) state_ = State::Item;
@@ -270,7 +270,8 @@ class Mender {
 
   void take_value(const std::string& value, bool quoted) {
     if (!takes_value()) {
-      if (state_ != State::BeforeBlock) result_.notes.assume(in_line(line_) + "\"" + value.substr(0, 30) + "\" belongs to no tag");
+      if (state_ != State::BeforeBlock)
+        result_.notes.assume(in_line(line_) + "\"" + value.substr(0, 30) + "\" belongs to no tag");
       return;
     }
     emit_value(value, quoted);
@@ -278,12 +279,14 @@ class Mender {
       state_ = State::Item;
     } else {
       state_ = State::LoopValues;
+      value_line_ = line_;
       ++values_;
     }
   }
 
   void emit_value(const std::string& value, bool quoted) {
-    const bool bare = !quoted && !value.empty() && std::string_view("_$#[];").find(value[0]) == std::string_view::npos &&
+    const bool bare = !quoted && !value.empty() &&
+                      std::string_view("_$#[];").find(value[0]) == std::string_view::npos &&
                       std::all_of(value.begin(), value.end(), [](char c) { return c > ' ' && c <= '~'; });
     if (bare) return emit(value);
     const auto closes_inside = [&value](char quote) { return value.find(quote) != std::string::npos; };
@@ -301,6 +304,7 @@ class Mender {
   State state_ = State::BeforeBlock;
   std::size_t tags_ = 0;
   std::size_t values_ = 0;
+  std::size_t value_line_ = 0;  // of the last one
   MendedCif result_;
 };
 

@@ -1,8 +1,8 @@
 // Text of a crystallographic information file, brought into a form that a strict parser takes.
 //
 // Files that people have break the rules in a handful of ways, most of which leave no doubt about what is meant. These
-// are mended here: byte order marks, line ends, Latin-1, control characters, data before the first block, loops that are
-// cut short, tags without a value, values without a tag, quotes and text fields that are not closed.
+// are mended here: byte order marks, line ends, Latin-1, control characters, data before the first block, loops that
+// are cut short, tags without a value, values without a tag, quotes and text fields that are not closed.
 #pragma once
 
 #include <string>

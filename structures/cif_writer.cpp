@@ -73,8 +73,9 @@ std::string cif_text(const Structure& structure) {
   for (const auto& op : structure.operators) {
     text += std::to_string(++id) + " " + operator_text(op) + "\n";
   }
-  text += "loop_\n_atom_site_label\n_atom_site_type_symbol\n_atom_site_fract_x\n_atom_site_fract_y\n"
-          "_atom_site_fract_z\n_atom_site_occupancy\n_atom_site_adp_type\n_atom_site_B_iso_or_equiv\n";
+  text +=
+      "loop_\n_atom_site_label\n_atom_site_type_symbol\n_atom_site_fract_x\n_atom_site_fract_y\n"
+      "_atom_site_fract_z\n_atom_site_occupancy\n_atom_site_adp_type\n_atom_site_B_iso_or_equiv\n";
   std::set<std::string> used;
   for (const Site& site : structure.sites) {
     text += label_word(site.label, site.element, used) + " " + type_symbol(site) + " " + number(site.position.u) + " " +

@@ -52,11 +52,13 @@ class Neighbours {
 /// The middle of the images of a site that are one atom with it, and how many they are.
 struct Merged {
   DirectVector position;
-  int images = 0;
+  int images = 0;    ///< by operators, those that leave it in its place counted each
+  int in_place = 0;  ///< those alone
   double moved = 0;  ///< angstroms to the farthest image
 };
 
 Merged merged(const DirectVector& position, const std::vector<ExactOperator>& operators, const Neighbours& near) {
+  constexpr double in_place = 1e-3;  // angstroms
   DirectVector sum;
   Merged result;
   for (const auto& op : operators) {
@@ -64,6 +66,7 @@ Merged merged(const DirectVector& position, const std::vector<ExactOperator>& op
       sum = {sum.u + step.u, sum.v + step.v, sum.w + step.w};
       result.moved = std::max(result.moved, distance);
       ++result.images;
+      if (distance < in_place) ++result.in_place;
     });
   }
   const double n = std::max(1, result.images);
@@ -150,7 +153,7 @@ std::vector<std::string> settle_positions(Structure& structure, Task& task) {
     Merged first = merged(site.position, structure.operators, near);
     if (first.images < 2) continue;
     const bool apart = first.moved > rounding;
-    const int images = first.images;
+    const int images = first.images / std::max(1, first.in_place);
     if (apart && site.occupancy * images <= 1.02) {
       split.push_back(site.label);
       site.occupancy = std::min(1.0, site.occupancy * images);

@@ -40,7 +40,8 @@ std::string gunzip(std::string_view bytes, std::size_t most_bytes) {
     stream.avail_out = static_cast<uInt>(part.size());
     const int state = inflate(&stream, Z_NO_FLUSH);
     text.append(part.data(), part.size() - stream.avail_out);
-    if (text.size() > most_bytes) throw RunFailure("it unpacks to more than " + std::to_string(most_bytes >> 20U) + " MB");
+    if (text.size() > most_bytes)
+      throw RunFailure("it unpacks to more than " + std::to_string(most_bytes >> 20U) + " MB");
     if (state == Z_STREAM_END) {
       if (stream.avail_in == 0 || inflateReset(&stream) != Z_OK) return text;  // several parts may follow each other
       if (!is_gzip({reinterpret_cast<const char*>(stream.next_in), stream.avail_in})) return text;

@@ -50,7 +50,9 @@ std::vector<std::string> words_of(const std::string& line) {
   return words;
 }
 
-[[noreturn]] void fail(int line, const std::string& why) { throw RunFailure("line " + std::to_string(line) + ": " + why); }
+[[noreturn]] void fail(int line, const std::string& why) {
+  throw RunFailure("line " + std::to_string(line) + ": " + why);
+}
 
 double number_in(const std::string& word, int line, const std::string& what) {
   const auto number = measured_number(word);
@@ -197,8 +199,8 @@ class ShelxReader {
     if (m == 0 || m == 1) return p;
     const auto place = static_cast<std::size_t>(std::abs(m)) - 1;
     if (m == -1 || place >= variables_.size()) {
-      fail(line, "a value refers to free variable " + std::to_string(static_cast<int>(std::abs(m))) +
-                     ", which is not there");
+      fail(line,
+           "a value refers to free variable " + std::to_string(static_cast<int>(std::abs(m))) + ", which is not there");
     }
     return m > 0 ? p * variables_[place] : p * (variables_[place] - 1);
   }
@@ -263,9 +265,14 @@ class ShelxReader {
   /// count the images of a site that fall together, so that they are divided by the part of the images that do.
   void finish_symmetry() {
     constexpr int half = operator_unit / 2, third = operator_unit / 3;
-    static const std::array<std::vector<std::array<int, 3>>, 8> centrings{
-        {{}, {}, {{half, half, half}}, {{2 * third, third, third}}, {{0, half, half}, {half, 0, half}},
-         {{0, half, half}}, {{half, 0, half}}, {{half, half, 0}}}};
+    static const std::array<std::vector<std::array<int, 3>>, 8> centrings{{{},
+                                                                           {},
+                                                                           {{half, half, half}},
+                                                                           {{2 * third, third, third}},
+                                                                           {{0, half, half}, {half, 0, half}},
+                                                                           {{0, half, half}},
+                                                                           {{half, 0, half}},
+                                                                           {{half, half, 0}}}};
     for (const auto& t : centrings[static_cast<std::size_t>(std::abs(lattice_))]) {
       ExactOperator op;
       op.translation = t;
@@ -397,7 +404,9 @@ class PoscarReader {
   /// Names in the title, where it has as many elements as there are counts.
   [[nodiscard]] std::vector<std::string> names_from(std::size_t line, std::size_t count) const {
     auto words = words_of(lines_[line].text);
-    const auto known = [](const std::string& word) { return atomic_number(element_name(word)) > 0 && word.size() <= 2; };
+    const auto known = [](const std::string& word) {
+      return atomic_number(element_name(word)) > 0 && word.size() <= 2;
+    };
     if (words.size() != count || !std::all_of(words.begin(), words.end(), known)) return {};
     return words;
   }

@@ -54,7 +54,7 @@ std::string element_text(int twenty_fourths) {
   one.rotation = {};
   one.translation = {std::abs(twenty_fourths) % operator_unit, 0, 0};
   std::string text = twenty_fourths % operator_unit == 0 ? std::to_string(std::abs(twenty_fourths) / operator_unit)
-                                                        : operator_text(one);
+                                                         : operator_text(one);
   text = text.substr(0, text.find(','));
   return twenty_fourths < 0 ? "-" + text : text;
 }
@@ -87,8 +87,8 @@ PlacedStructure transformed_to(const Structure& structure, const SettingChange& 
   placed.structure.space_group_number = number;
   placed.structure.space_group_symbol = group.symbol;
   for (Site& site : placed.structure.sites) site.position = change.position(site.position);
-  placed.notes.assume("the setting is changed to " + group.symbol + " (number " + std::to_string(number) + "): " +
-                      change_text(change) + "; indices change with it");
+  placed.notes.assume("the setting is changed to " + group.symbol + " (number " + std::to_string(number) +
+                      "): " + change_text(change) + "; indices change with it");
   const double ratio = change.volume_ratio();
   if (std::abs(ratio - 1) > 1e-6) {
     const auto before = cell_atoms(structure, one_atom_angstrom).size();

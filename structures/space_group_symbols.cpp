@@ -65,8 +65,11 @@ Symbol parted(std::string_view given) {
   // Tails of the inorganic database: S and Z the origins, H and R the axes, HR hexagonal axes.
   if (symbol.words.size() > 1) {
     const std::string& tail = symbol.words.back();
-    const std::string meaning = tail == "s" ? "1" : tail == "z" ? "2" : tail == "h" || tail == "hr" ? "H"
-                                : tail == "r" ? "R" : "";
+    const std::string meaning = tail == "s"                   ? "1"
+                                : tail == "z"                 ? "2"
+                                : tail == "h" || tail == "hr" ? "H"
+                                : tail == "r"                 ? "R"
+                                                              : "";
     if (!meaning.empty()) {
       symbol.qualifier = meaning;
       symbol.words.pop_back();
@@ -158,9 +161,10 @@ std::vector<NamedGroup> narrowed(std::vector<const TabulatedSetting*> found, con
   }
   std::vector<NamedGroup> groups;
   for (const auto* setting : found) {
-    const bool other_origin = !groups.empty() && is_one_of(setting->qualifier.empty() ? ' ' : setting->qualifier[0], "12");
-    if (groups.empty() || (other_origin && setting->number == groups.front().number &&
-                           setting->symbol == groups.front().symbol)) {
+    const bool other_origin =
+        !groups.empty() && is_one_of(setting->qualifier.empty() ? ' ' : setting->qualifier[0], "12");
+    if (groups.empty() ||
+        (other_origin && setting->number == groups.front().number && setting->symbol == groups.front().symbol)) {
       groups.push_back(made(*setting));
     }
   }

@@ -37,9 +37,9 @@ struct NamedGroup {
 
 /// Settings that a Hermann-Mauguin symbol may mean, the likeliest first: with or without blanks, underscores and
 /// brackets, full or short, with an origin or axes behind a colon or as the tails S, Z, H, R, with the letter e of new
-/// symbols, cubic ones without the bar of -3, orthorhombic ones in any order of the axes. The cell tells the unique axis
-/// of a short monoclinic symbol, and the axes of a rhombohedral one. More than one only where the symbol leaves open
-/// which of two origins is meant.
+/// symbols, cubic ones without the bar of -3, orthorhombic ones in any order of the axes. The cell tells the unique
+/// axis of a short monoclinic symbol, and the axes of a rhombohedral one. More than one only where the symbol leaves
+/// open which of two origins is meant.
 /// @returns none where it is no symbol
 [[nodiscard]] std::vector<NamedGroup> groups_of_symbol(std::string_view symbol, const CellConstants& cell);
 

@@ -121,7 +121,8 @@ PlacedStructure placed_structure(const Structure& structure, const SpaceGroupLib
   make_labels_unique(placed.structure);
   if (atoms_of_program(placed, groups, task) == atoms) return placed;
   PlacedStructure listed = without_symmetry(structure);
-  listed.notes.doubt("the symmetric positions lie too close for the program to tell them apart; all atoms are taken in P1");
+  listed.notes.doubt(
+      "the symmetric positions lie too close for the program to tell them apart; all atoms are taken in P1");
   check_limits(listed.structure, listed.structure.sites.size());
   return listed;
 }
@@ -130,7 +131,8 @@ class Report {
  public:
   void add(const std::string& line) { facts_.push_back(line); }
   void add(const Notes& notes) {
-    for (const auto& note : notes.list()) (note.doubt ? doubts_ : facts_).push_back((note.doubt ? "Warning: " : "") + note.text);
+    for (const auto& note : notes.list())
+      (note.doubt ? doubts_ : facts_).push_back((note.doubt ? "Warning: " : "") + note.text);
   }
   [[nodiscard]] std::vector<std::string> lines() const {
     std::vector<std::string> all = doubts_;
@@ -154,12 +156,13 @@ double units_of(const Formula& contents) {
   return 1;
 }
 
-void compare_contents(const ReadStructure& read, const Formula& contents, const CellConstants& cell, double volume_ratio,
-                      Report& report) {
+void compare_contents(const ReadStructure& read, const Formula& contents, const CellConstants& cell,
+                      double volume_ratio, Report& report) {
   const double units = read.units ? *read.units * volume_ratio : units_of(contents);
   Formula formula;
   for (const auto& [element, count] : contents) formula[element] = count / units;
-  std::string line = "formula: " + formula_text(formula) + ", Z = " + rounded(units, units == std::floor(units) ? 0 : 2);
+  std::string line =
+      "formula: " + formula_text(formula) + ", Z = " + rounded(units, units == std::floor(units) ? 0 : 2);
   Notes notes;
   if (!read.formula.empty() && !formula_units(contents, read.formula)) {
     notes.doubt("the cell holds " + formula_text(contents) + ", the file's formula is " + formula_text(read.formula));

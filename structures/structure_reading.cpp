@@ -103,7 +103,10 @@ Reading read_crystal(std::string_view bytes, const SpaceGroupLibrary& groups) {
   structure.space_group_symbol = group->symbol;
   for (int i = 1; i <= contents.NAtom.value(); ++i) {
     const auto [element, charge] = parted_key(contents.AtomElement(i));
-    structure.sites.push_back({contents.AtomLabel(i), element, charge, contents.AtomOcc(i),
+    structure.sites.push_back({contents.AtomLabel(i),
+                               element,
+                               charge,
+                               contents.AtomOcc(i),
                                {contents.AtomPos(i, 1), contents.AtomPos(i, 2), contents.AtomPos(i, 3)},
                                contents.AtomB(i)});
   }
@@ -119,7 +122,8 @@ Reading read_structure(std::string_view bytes, const std::string& name, const Im
   }
   const auto lines = first_lines(bytes, 60);
   if (looks_like_crystal_file(lines)) return read_crystal(bytes, groups);
-  const bool named_poscar = small(name).find("poscar") != std::string::npos || small(name).find("contcar") != std::string::npos;
+  const bool named_poscar =
+      small(name).find("poscar") != std::string::npos || small(name).find("contcar") != std::string::npos;
   if (named_poscar || (looks_like_poscar(lines) && !looks_like_cif(bytes))) return read_poscar(bytes, answers, task);
   if (looks_like_cif(bytes)) return read_cif(bytes, answers, task);
   if (starts_shelx(lines)) return read_shelx(bytes, task);

@@ -215,7 +215,8 @@ class Choice {
     const auto all_listed = evidence_for(read_, identity, task_);
     std::vector<Evidence> by_symbol;
     for (const auto& candidate : named_) by_symbol.push_back(evidence_for(read_, candidate.operators, task_));
-    const bool symbol_fits = std::any_of(by_symbol.begin(), by_symbol.end(), [](const Evidence& e) { return e.formula_fits; });
+    const bool symbol_fits =
+        std::any_of(by_symbol.begin(), by_symbol.end(), [](const Evidence& e) { return e.formula_fits; });
     int decision = 0;
     if (all_listed.formula_fits != symbol_fits) {
       decision = symbol_fits ? 1 : 2;
@@ -248,8 +249,8 @@ class Choice {
 
 }  // namespace
 
-std::optional<Question> choose_symmetry(ReadStructure& read, const SymmetryClaims& claims,
-                                        const ImportAnswers& answers, Task& task) {
+std::optional<Question> choose_symmetry(ReadStructure& read, const SymmetryClaims& claims, const ImportAnswers& answers,
+                                        Task& task) {
   return Choice(read, claims, answers, task).choose();
 }
 

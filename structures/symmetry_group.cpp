@@ -160,7 +160,8 @@ ExactMatrix primitive_basis(const std::vector<std::array<int, 3>>& centrings, co
   std::vector<std::array<int, 3>> vectors;
   for (const auto& centring : centrings) {
     for (int shift = 0; shift < 27; ++shift) {
-      vectors.push_back({centring[0] + operator_unit * (shift % 3 - 1), centring[1] + operator_unit * (shift / 3 % 3 - 1),
+      vectors.push_back({centring[0] + operator_unit * (shift % 3 - 1),
+                         centring[1] + operator_unit * (shift / 3 % 3 - 1),
                          centring[2] + operator_unit * (shift / 9 - 1)});
     }
   }
@@ -481,17 +482,24 @@ std::optional<SettingChange> setting_change(const Operators& from, const CellCon
     }();
     if (auto change = best_change(turns, origins, cell)) return change;
   }
-  const ExactMatrix primitive = primitive_basis(old_centrings, Lattice(cell));
-  std::vector<ExactMatrix> bases;
-  for (const auto& whole : whole_matrices(2, static_cast<Wide>(new_centrings.size()))) {
-    const WideMatrix basis = product(primitive, whole);
-    ExactMatrix exact{};
-    for (std::size_t i = 0; i < 3; ++i) {
-      for (std::size_t j = 0; j < 3; ++j) exact[i][j] = static_cast<int>(basis[i][j]);
+  // Cells of the same lattice from its primitive one, as it stands or reduced.
+  const auto wholes = whole_matrices(2, static_cast<Wide>(new_centrings.size()));
+  std::vector<ExactMatrix> primitives;
+  if (old_centrings.size() == 1) primitives.push_back(unit_matrix);
+  primitives.push_back(primitive_basis(old_centrings, Lattice(cell)));
+  for (const auto& primitive : primitives) {
+    std::vector<ExactMatrix> bases;
+    for (const auto& whole : wholes) {
+      const WideMatrix basis = product(primitive, whole);
+      ExactMatrix exact{};
+      for (std::size_t i = 0; i < 3; ++i) {
+        for (std::size_t j = 0; j < 3; ++j) exact[i][j] = static_cast<int>(basis[i][j]);
+      }
+      bases.push_back(exact);
     }
-    bases.push_back(exact);
+    if (auto change = best_change(bases, origins, cell)) return change;
   }
-  return best_change(bases, origins, cell);
+  return std::nullopt;
 }
 
 }  // namespace zol

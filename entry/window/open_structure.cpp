@@ -16,9 +16,8 @@ constexpr auto import_title = "Open structure file";
 constexpr auto export_title = "Save as CIF";
 
 SpaceGroupLibrary library_of(const Workbench& bench) {
-  return SpaceGroupLibrary([&data = bench.data](int number) {
-    return data.path("SpaceGr/No" + Format(number, "000") + ".dat");
-  });
+  return SpaceGroupLibrary(
+      [&data = bench.data](int number) { return data.path("SpaceGr/No" + Format(number, "000") + ".dat"); });
 }
 
 std::set<std::string> factor_keys(const CrystalState& state) {
@@ -88,9 +87,14 @@ Structure present_structure(Workbench& bench, const CrystalState& state) {
   }
   for (int i = 1; i <= state.NAtom.value(); ++i) {
     const auto species = species_of(state.AtomElement(i), false, {});
-    if (species.empty()) throw RunFailure("\"" + state.AtomElement(i) + "\" of atom " + std::to_string(i) + " is no element");
-    structure.sites.push_back({state.AtomLabel(i), species.front().element, species.front().charge, state.AtomOcc(i),
-                               {state.AtomPos(i, 1), state.AtomPos(i, 2), state.AtomPos(i, 3)}, state.AtomB(i)});
+    if (species.empty())
+      throw RunFailure("\"" + state.AtomElement(i) + "\" of atom " + std::to_string(i) + " is no element");
+    structure.sites.push_back({state.AtomLabel(i),
+                               species.front().element,
+                               species.front().charge,
+                               state.AtomOcc(i),
+                               {state.AtomPos(i, 1), state.AtomPos(i, 2), state.AtomPos(i, 3)},
+                               state.AtomB(i)});
   }
   return structure;
 }
