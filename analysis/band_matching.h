@@ -17,7 +17,7 @@ namespace zol {
 struct MatchSettings {
   Single angle_tolerance = 0;                     ///< degrees; of an azimuth difference twice as much is allowed
   bool only_triangle = false;                     ///< the sense of rotation is not tested
-  bool omit_equivalents = false;                  ///< of solutions with equal spacings and intensities the first stays
+  bool omit_equivalents = false;                  ///< only the first of solutions with equal spacings and intensities
   std::optional<Single> width_tolerance_percent;  ///< none: widths are not compared
   int first_row = 1;
   bool stop_at_first_solution = false;
@@ -25,7 +25,7 @@ struct MatchSettings {
 
 inline constexpr int most_solutions = 10000;
 
-/// What a run of matching leaves, and the next one finds.
+/// What a run of matching leaves for the next one.
 struct SolutionTable {
   Integer SolutionCount;
   BoundedArray<Long> SolutionTriple{"SolutionTriple", most_solutions};  ///< row of the table; solutions count from 1
@@ -54,25 +54,25 @@ struct Matching {
   std::optional<Single> angle_error;  ///< of the last solution, squared degrees
 };
 
-/// Matches the bands with the rows of the table from the first one on. Progress goes by rows.
+/// Matches the bands with the rows of the table from the first one on. Reports rows.
 /// @throws RunFailure  more than 10000 solutions, or a vector of length 0
 [[nodiscard]] Matching match_bands(const CrystalState& state, const TripleTable& table, Single used,
                                    const MeasuredBands& bands, const MatchSettings& settings, Task& task);
 
-/// Puts the solutions into the table. Rows of a former run stay behind them, as do status and error when none was
-/// found.
+/// Writes the solutions to the table. Later rows keep those of an earlier run; status and error stay if there is no new
+/// one.
 void take_solutions(const Matching& matching, SolutionTable& table);
 
-/// One line of the list: number, indices, direction, angle and width errors, words on how it was solved.
+/// One line of the list: number, indices, direction, angle and width errors, and how it was solved.
 [[nodiscard]] std::string solution_line(const TripleTable& table, const Solution& solution);
 
-/// Names of the columns of so many lines, over the longest of them.
+/// Names of the columns, aligned with the longest of so many lines.
 [[nodiscard]] std::string solution_heading(int solutions, bool with_widths);
 
 /// The three planes of a row.
 [[nodiscard]] std::array<Indices<Integer>, 3> row_planes(const TripleTable& table, int row);
 
-/// In-plane rotation that each of three planes asks for, so that it lies on its band, radians from 0; values near a
+/// In-plane rotation that brings each of three planes onto its band, radians from 0; values near a
 /// full turn are brought to the other side when the three straddle it.
 struct PlaneRotations {
   SingleTriple rotation{};

@@ -2,7 +2,7 @@
 //
 // The picture is a window on a plane at distance 1 from the source, a gnomonic projection: the point (0, 0) of the
 // plane lies on the screen normal, x to the right, y downward as in the picture. A band is the trace of a lattice
-// plane. Angles are in radians where not told otherwise.
+// plane. Angles are in radians unless stated otherwise.
 #pragma once
 
 #include <string>
@@ -27,9 +27,9 @@ struct MeasuredBands {
   BoundedArray<Single> BandAngle{"BandAngle", 2};  ///< acute angle in degrees between normals 0 and 1, 1 and 2, 2 and 0
 };
 
-/// Three bands, measured with the acquisition angle, shifts and ratio of the state. A line that was not picked counts
-/// with its stored ends.
-/// @param before     what was measured before, which stands for lines not in use, and for widths without two edges
+/// Three bands, measured with the acquisition angle, shifts and ratio of the state. A line that was not picked
+/// is used with its stored ends.
+/// @param before     the earlier measurement, kept for lines not in use and for widths without two edges
 /// @param two_edges  lines 2i and 2i + 1 are the edges of band i, and the widths are measured too
 /// @throws RunFailure  a wavelength of 0
 [[nodiscard]] MeasuredBands measure_bands(const CrystalState& state, const PickedLines& lines, bool two_edges,

@@ -12,28 +12,30 @@ namespace zol {
 /// Floor(x * n)/n: the digits that a detector box shows.
 [[nodiscard]] double truncated(double x, double n);
 
-/// Distance from the source to the detector.
+/// Distance from the source to the detector, mm.
 /// @throws RunFailure  an acquisition angle of 0
 [[nodiscard]] double detector_position_mm(const Module1State& camera);
 
-/// Length of a shift on the detector.
+/// Length of a shift on the detector, mm.
 [[nodiscard]] double shift_mm(const Module1State& camera, Single shift_deg);
 
-/// Angle of a length on the detector. @throws RunFailure  a detector of no size
+/// Angle of a length on the detector, degrees. @throws RunFailure  a detector of no size
 [[nodiscard]] double shift_deg(const Module1State& camera, double mm);
 
-/// Acquisition angle of a detector at this distance. @throws RunFailure  a distance of 0
+/// Acquisition angle of a detector at this distance, degrees. @throws RunFailure  a distance of 0
 [[nodiscard]] double acquisition_deg(const Module1State& camera, Single position_mm);
 
-/// What a change of working distance along a tilted detector does to its position and to the y shift.
+/// A change of working distance in front of a tilted detector, which changes its position and the y shift.
 struct WorkingDistance {
   Single WdChange = 0;    ///< mm
   Single DetIncline = 0;  ///< degrees
 };
+/// The detector position after it, mm.
 [[nodiscard]] double position_after(const Module1State& camera, const WorkingDistance& change);
+/// The y shift after it, degrees.
 [[nodiscard]] double y_shift_after(const Module1State& camera, const WorkingDistance& change);
 
-/// Shift of a pattern whose centre lies at this coordinate of the picture, in x or in y.
+/// Shift in degrees of a pattern whose centre is at this coordinate of the picture, in x or in y.
 [[nodiscard]] Single centre_shift_deg(const Module1State& camera, Single picture);
 
 /// Poles that were marked on a pattern of Si(001): <001>, and <112> or <111> at SiAngle from it.

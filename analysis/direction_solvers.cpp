@@ -44,12 +44,10 @@ struct Quadratic {
 /// Lengths of the cell edges and half cross terms of the squared length, by axis.
 struct Metric {
   explicit Metric(const Main1State& cell) : edge{cell.CellA, cell.CellB, cell.CellC} {
-    const double a = cell.CellA;
-    const double b = cell.CellB;
-    const double c = cell.CellC;
-    cross[axis_u + axis_v - 1] = to_single(a * b * cell.CosGamma);
-    cross[axis_u + axis_w - 1] = to_single(a * c * cell.CosBeta);
-    cross[axis_v + axis_w - 1] = to_single(b * c * cell.CosAlpha);
+    const auto [a, b, c, cos_alpha, cos_beta, cos_gamma] = direct_axes(cell);
+    cross[axis_u + axis_v - 1] = to_single(a * b * cos_gamma);
+    cross[axis_u + axis_w - 1] = to_single(a * c * cos_beta);
+    cross[axis_v + axis_w - 1] = to_single(b * c * cos_alpha);
   }
   [[nodiscard]] double length(int axis) const { return edge[static_cast<std::size_t>(axis)]; }
   [[nodiscard]] double q(int i, int j) const { return cross[static_cast<std::size_t>(i + j - 1)]; }
@@ -73,7 +71,7 @@ Quadratic squared_length(const Metric& metric, const Case& by, const Line& line)
                        2.0 * m1 * q_x1 + 2.0 * m2 * q_x2 + 2.0 * m1 * m2 * q_12);
   square.b = to_single(n2 * m2 * length_2 * length_2 + n1 * m1 * length_1 * length_1 + n1 * q_x1 + n2 * q_x2 +
                        (n1 * m2 + n2 * m1) * q_12);
-  // The cross term has the factor 1 on purpose, though the squared length has 2: results hang on it.
+  // The cross term has the factor 1 on purpose, though the squared length has 2: results depend on it.
   square.c = to_single(n2 * n2 * length_2 * length_2 + n1 * n1 * length_1 * length_1 + n2 * n1 * q_12 - 1.0);
   return square;
 }

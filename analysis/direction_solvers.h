@@ -1,7 +1,7 @@
 // From lattice planes of known inclination to the direction of the beam.
 //
 // A plane (hkl) whose normal makes an angle with the beam gives one linear equation, h u + k v + l w = |g| cos(angle).
-// Three independent planes are solved by inversion; planes of one zone need the length of the direction besides.
+// Three independent planes are solved by inversion; planes of one zone need the length of the direction as well.
 #pragma once
 
 #include <array>
@@ -24,17 +24,17 @@ inline constexpr int two_roots = 20;  ///< and the case
 }  // namespace match_status
 
 /// Inverts a matrix in place, indices 1 to n, n <= 10. There is no tolerance: only a pivot of exactly 0 is singular.
-/// @returns 0 for an inverse, 1 for a singular matrix, which is left half worked
+/// @returns 0 for an inverse, 1 for a singular matrix, which is left partly eliminated
 [[nodiscard]] Integer InvertMatrix(Integer n, BoundedTable<Single>& a);
 
-/// The two roots. Only in case 1 the components stand as u, v, w; case 2 gives v, w, u and case 3 gives w, u, v.
+/// The two roots. The components are u, v, w only in case 1; case 2 gives v, w, u and case 3 gives w, u, v.
 struct TwoDirections {
   SingleTriple A1{};
   SingleTriple A2{};
 };
 
-/// Directions of unit length that make the angles of the given cosines with the first two planes; the third plane has
-/// no part in them. The case is that of the first minor different from 0, of u, w and v.
+/// Directions of unit length that make the angles of the given cosines with the first two planes; the third plane is
+/// not used. The case is that of the first minor different from 0, of u, w and v.
 /// @returns MatchStatus: 2, 3 without a real root, 4 for parallel planes (the directions stay), else one or two roots
 /// @throws RunFailure  a minor beyond 16 bits, or a quadratic without its square term
 [[nodiscard]] Integer SolveTwoPlanes(const Main1State& cell, const std::array<Indices<Integer>, 3>& planes,

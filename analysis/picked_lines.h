@@ -1,4 +1,4 @@
-// The straight lines that the user lays on a measured pattern: ends in picture coordinates, 0 to 511, y downward.
+// The straight lines that the user draws on a measured pattern: ends in picture coordinates, 0 to 511, y downward.
 #pragma once
 
 #include <optional>
@@ -11,7 +11,7 @@ namespace zol {
 struct PickedLines {
   BoundedTable<Single> LineX{"LineX", 5, 1};  ///< line, end
   BoundedTable<Single> LineY{"LineY", 5, 1};
-  BoundedArray<Integer> LineDone{"LineDone", 5};  ///< 1 when both ends stand
+  BoundedArray<Integer> LineDone{"LineDone", 5};  ///< 1 when both ends are set
   Integer LastLine = 2;                           ///< 5 when each band is picked by its two edges
 };
 
@@ -26,7 +26,7 @@ struct LineEnd {
 /// The end nearest to a point; among equals the later one.
 [[nodiscard]] LineEnd nearest_end(const PickedLines& lines, Single x, Single y);
 
-/// Takes all lines in use away.
+/// Removes all lines in use.
 void clear_lines(PickedLines& lines);
 
 }  // namespace zol

@@ -96,7 +96,7 @@ ListOrder order_by_weighted_intensity(const CrystalState& state, Task& task) {
         -to_single(double{state.RefS(i)} * double{state.RefI(i)}));  // the largest product is the smallest key
   }
   // Without atoms and observed reflections nothing has an intensity: the list then stays as it is.
-  return {exchange_order(keys, 1, with_checks(first_smallest_below(0), task), true)};
+  return {exchange_order(keys, 1, first_smallest_below(0), true, task)};
 }
 
 Single extend_over_ties(const CrystalState& state, Single wanted) {

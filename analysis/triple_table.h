@@ -15,8 +15,8 @@
 namespace zol {
 
 /// The tables of all triples of N reflections, N^3 rows from 1. Row ((i - 1) N + (j - 1)) N + k is that of reflections
-/// i, j, k, so that N reflections and the N x N angles between them are all that is kept. Row 0 and the rows behind the
-/// last triple hold zeros.
+/// i, j, k, so that N reflections and the N x N angles between them are all that is stored. Row 0 and the rows after
+/// the last triple hold zeros.
 class TripleTable {
  public:
   // Elements of the four tables. @throws RunFailure  a row or column that the table does not have
@@ -39,7 +39,7 @@ class TripleTable {
   /// Degrees between the normals of two reflections, from 0.
   [[nodiscard]] Single angle(std::size_t a, std::size_t b) const { return angles_[a * planes_.size() + b]; }
 
-  /// TripleHKL and TripleAngle made anew with zeros alone; the other two keep what they hold.
+  /// Fills TripleHKL and TripleAngle with zeros; the other two tables keep their values.
   /// @throws RunFailure  rows is negative
   void empty_indices_and_angles(int rows);
 
@@ -52,7 +52,7 @@ class TripleTable {
   TripleTable() = default;
   /// All four tables.
   /// @param angles  degrees between reflections a and b at a N + b, both from 0
-  /// @throws RunFailure  the triples don't fit so many rows
+  /// @throws RunFailure  the triples need more rows
   TripleTable(int rows, std::vector<Plane> planes, std::vector<Single> angles);
 
  private:
@@ -73,11 +73,11 @@ class TripleTable {
 /// The reflection list by RefS * RefI, descending; among equal products the order is that of a selection sort.
 [[nodiscard]] ListOrder order_by_weighted_intensity(const CrystalState& state, Task& task);
 
-/// The wanted number of reflections extended so that no two of equal RefI (within 0.1 per cent) are cut apart.
+/// The wanted number of reflections extended so that reflections of equal RefI (within 0.1 per cent) stay together.
 [[nodiscard]] Single extend_over_ties(const CrystalState& state, Single wanted);
 
 /// The table of the first `used` reflections of the list, of which there are N = used rounded half to even.
-/// Progress goes by reflections.
+/// Reports reflections.
 /// @throws RunFailure  a reflection of zero length, or more rows than a Long can count
 [[nodiscard]] TripleTable make_triple_table(const CrystalState& state, Single used, Task& task);
 

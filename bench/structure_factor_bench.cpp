@@ -33,16 +33,19 @@ void StructureFactors(benchmark::State& run) {
   const auto state = large_cell();
   for (auto _ : run) {
     ScatteringCell atoms(*state, xrays);
-    for (int i = 1; i <= state->RefCount.value(); ++i) atoms.StructureFactor(*state, i);
-    benchmark::DoNotOptimize(state->RefA(1));
+    for (int i = 1; i <= state->RefCount.value(); ++i) {
+      benchmark::DoNotOptimize(atoms.StructureFactor(state->RefH(i), state->RefK(i), state->RefL(i), state->RefS(i)));
+    }
   }
   run.counters["reflections"] = state->RefCount.value();
 }
 void StructureFactorsPlain(benchmark::State& run) {
   const auto state = large_cell();
   for (auto _ : run) {
-    for (int i = 1; i <= state->RefCount.value(); ++i) plain_structure_factor(*state, i, xrays);
-    benchmark::DoNotOptimize(state->RefA(1));
+    for (int i = 1; i <= state->RefCount.value(); ++i) {
+      benchmark::DoNotOptimize(
+          plain_structure_factor(*state, state->RefH(i), state->RefK(i), state->RefL(i), state->RefS(i), xrays));
+    }
   }
 }
 BENCHMARK(StructureFactorsPlain)->Unit(benchmark::kMillisecond);

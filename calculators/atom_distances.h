@@ -9,7 +9,7 @@
 
 namespace zol {
 
-/// The part of the cell that lengths need.
+/// The part of the cell that lengths depend on, angstroms and cosines.
 struct DistanceCell {
   Single CellA = 0, CellB = 0, CellC = 0;
   Single CosAlpha = 0, CosBeta = 0, CosGamma = 0;
@@ -18,7 +18,7 @@ struct DistanceCell {
 
 struct AtomDistance {
   int cell_atom = 0;    ///< index in the arrays of the unit cell
-  Single distance = 0;  ///< above 0.01
+  Single distance = 0;  ///< angstroms, above 0.01
 };
 
 /// For each site of the crystal all distances up to the limit, in the order of the cells (along a slowest) and of the

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "core/float_loop.h"
+#include "core/lattice.h"
 
 namespace zol::utility {
 namespace {
@@ -27,23 +28,19 @@ struct Rotation {
   double sine;
 };
 
-struct UnitVector {
-  Single x, y, z;
-};
-
-UnitVector unit_vector(double azimuth_deg, double polar_deg) {
+CartesianVector unit_vector(double azimuth_deg, double polar_deg) {
   const double a = azimuth_deg * search_degree;
   const double p = polar_deg * search_degree;
   return {to_single(std::sin(p) * std::cos(a)), to_single(std::sin(p) * std::sin(a)), to_single(std::cos(p))};
 }
 
-Single apparent_azimuth(const UnitVector& direction, const Rotation& rotation) {
+Single apparent_azimuth(const CartesianVector& direction, const Rotation& rotation) {
   const double y = direction.y;
   const double z = direction.z;
   const Single turned_z = to_single(z * rotation.cosine + y * rotation.sine);
   const Single turned_y = to_single(-z * rotation.sine + y * rotation.cosine);
   const double sine = std::sin(double{ArcCos(turned_z)});
-  Single azimuth = sine != 0 ? ArcCos(to_single(double{direction.x} / sine)) : 0.0F;
+  Single azimuth = sine != 0 ? ArcCos(to_single(direction.x / sine)) : 0.0F;
   if (turned_y < 0) azimuth = to_single(two_pi - double{azimuth});
   return to_single(std::atan(std::tan(double{azimuth})) / search_degree);
 }
@@ -55,7 +52,7 @@ class Pass {
       : wanted_(wanted), rotation_1_(wanted.Rotate1), rotation_2_(wanted.Rotate2) {}
 
   void try_direction(Single azimuth, Single polar) {
-    const UnitVector direction = unit_vector(azimuth, polar);
+    const CartesianVector direction = unit_vector(azimuth, polar);
     const Single phi_1 = apparent_azimuth(direction, rotation_1_);
     const Single phi_2 = apparent_azimuth(direction, rotation_2_);
     const double off_1 = double{phi_1} - double{wanted_.Phi1};

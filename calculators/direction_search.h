@@ -10,13 +10,13 @@
 
 namespace zol::utility {
 
-/// The own ArcCos of this window: in radians, but 180 for x <= -1, and 0 for x >= 1.
+/// Used in this window only: in radians, but 180 for x <= -1, and 0 for x >= 1.
 [[nodiscard]] Single ArcCos(Single x);
 
 /// An azimuth of a line, which has no head: folded into -90 to 90.
 [[nodiscard]] Single folded_azimuth(Single azimuth_deg);
 
-/// What two photographs show of one line.
+/// The azimuths of one line in two photographs.
 struct PhotographPair {
   Single Phi1 = 0, Rotate1 = 0;  ///< apparent azimuth, folded, and rotation of the specimen about x
   Single Phi2 = 0, Rotate2 = 0;
@@ -33,13 +33,13 @@ struct DirectionTrial {
 /// What each pass found; a pass in which no trial comes within 100 degrees of the azimuths leaves zeros.
 struct DirectionSearch {
   std::array<DirectionTrial, 4> passes;
-  /// The fourth pass is centred on what the second one found; the third has no part in it.
+  /// The fourth pass is centred on what the second one found; the third is not used.
   [[nodiscard]] const DirectionTrial& answer() const { return passes[3]; }
 };
 
 /// Searches the half sphere in steps of 10, 1, 0.1 and 0.01 degrees; the first of equal trials wins. Reports the
 /// passes.
-/// @throws RunFailure  the steps of a pass lead nowhere
+/// @throws RunFailure  a step of a pass is lost in rounding
 /// @throws Cancelled   by the task
 [[nodiscard]] DirectionSearch search_direction(const PhotographPair& photographs, Task& task);
 
@@ -55,7 +55,7 @@ struct PlaneDirection {
   Single theta = 0;
 };
 
-/// The angle whose cosines against the two rotations have the ratio of the lengths, in steps of 0.1.
+/// The angle whose cosines against the two rotations have the ratio of the lengths, in steps of 0.1 degrees.
 /// @throws RunFailure  Length1 is 0, or the cosine against the first rotation is
 [[nodiscard]] PlaneDirection direction_from_lengths(const LengthPair& lengths);
 

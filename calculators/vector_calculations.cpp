@@ -7,17 +7,12 @@
 namespace zol::utility {
 namespace {
 
-struct Axes {
-  double a, b, c;
-  double cos_alpha, cos_beta, cos_gamma;
-};
-
 /// The metric times the vector gives its components in the other space.
-Vector equivalent(const Axes& axes, const Vector& vector) {
+SingleTriple equivalent(const Axes& axes, const SingleTriple& vector) {
   const auto& [a, b, c, cos_alpha, cos_beta, cos_gamma] = axes;
-  const double x = vector.x;
-  const double y = vector.y;
-  const double z = vector.z;
+  const double x = vector[0];
+  const double y = vector[1];
+  const double z = vector[2];
   const double h = to_single(a * a * x + a * b * cos_gamma * y + a * c * cos_beta * z);
   const double k = to_single(b * b * y + a * b * cos_gamma * x + b * c * cos_alpha * z);
   const double l = to_single(c * c * z + a * c * cos_beta * x + b * c * cos_alpha * y);
@@ -31,23 +26,24 @@ Vector equivalent(const Axes& axes, const Vector& vector) {
 
 }  // namespace
 
-Vector reciprocal_equivalent(const Main1State& cell, const Vector& uvw) {
-  return equivalent({cell.CellA, cell.CellB, cell.CellC, cell.CosAlpha, cell.CosBeta, cell.CosGamma}, uvw);
+SingleTriple reciprocal_equivalent(const Main1State& cell, const SingleTriple& uvw) {
+  return equivalent(direct_axes(cell), uvw);
 }
 
-Vector direct_equivalent(const Main1State& cell, const Vector& hkl) {
-  return equivalent({cell.AStar, cell.BStar, cell.CStar, cell.CosAlphaStar, cell.CosBetaStar, cell.CosGammaStar}, hkl);
+SingleTriple direct_equivalent(const Main1State& cell, const SingleTriple& hkl) {
+  return equivalent(reciprocal_axes(cell), hkl);
 }
 
-std::optional<double> vector_angle(const Main1State& cell, AngleOf kind, const Vector& first, const Vector& second) {
+std::optional<double> vector_angle(const Main1State& cell, AngleOf kind, const SingleTriple& first,
+                                   const SingleTriple& second) {
   const auto length = [&cell, kind](double x, double y, double z) {
     const auto metric = kind == AngleOf::Directions ? DHKLT : DHKLS;
     return double{metric(cell, to_single(x), to_single(y), to_single(z))};
   };
-  const double length_1 = length(first.x, first.y, first.z);
-  const double length_2 = length(second.x, second.y, second.z);
-  const double length_3 = length(double{first.x} - double{second.x}, double{first.y} - double{second.y},
-                                 double{first.z} - double{second.z});
+  const double length_1 = length(first[0], first[1], first[2]);
+  const double length_2 = length(second[0], second[1], second[2]);
+  const double length_3 = length(double{first[0]} - double{second[0]}, double{first[1]} - double{second[1]},
+                                 double{first[2]} - double{second[2]});
   if (to_single(length_2 * length_1) == 0) return std::nullopt;
 
   const double cosine =

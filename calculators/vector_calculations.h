@@ -4,22 +4,18 @@
 #include <optional>
 
 #include "core/crystal_state.h"
+#include "core/triples.h"
 
 namespace zol::utility {
-
-struct Vector {
-  Single x = 0, y = 0, z = 0;
-  bool operator==(const Vector&) const = default;
-};
 
 /// h, k, l of the reciprocal vector that points along u a + v b + w c, scaled so that |h| + |k| + |l| is 1000 and then
 /// rounded down, each by itself.
 /// @throws RunFailure  no cell, or the vector is 0
-[[nodiscard]] Vector reciprocal_equivalent(const Main1State& cell, const Vector& uvw);
+[[nodiscard]] SingleTriple reciprocal_equivalent(const Main1State& cell, const SingleTriple& uvw);
 
 /// u, v, w of the direct vector that points along h a* + k b* + l c*, scaled in the same way.
 /// @throws RunFailure  no cell, or the vector is 0
-[[nodiscard]] Vector direct_equivalent(const Main1State& cell, const Vector& hkl);
+[[nodiscard]] SingleTriple direct_equivalent(const Main1State& cell, const SingleTriple& hkl);
 
 /// What the angle lies between.
 enum class AngleOf {
@@ -28,10 +24,10 @@ enum class AngleOf {
   Planes       ///< the planes of two reciprocal vectors: 180 less the angle of their normals
 };
 
-/// Angle in degrees; none when a vector has no length. The arctangent is taken as it comes: an obtuse angle between
-/// vectors is negative (less by 180), a right one 0, of planes 180.
+/// Angle in degrees; none when a vector has no length. It is a plain arctangent: an obtuse angle between vectors
+/// is negative (less by 180), a right one is 0, or 180 between planes.
 /// @throws RunFailure  the cosine of reciprocal vectors lies beyond 1
-[[nodiscard]] std::optional<double> vector_angle(const Main1State& cell, AngleOf kind, const Vector& first,
-                                                 const Vector& second);
+[[nodiscard]] std::optional<double> vector_angle(const Main1State& cell, AngleOf kind, const SingleTriple& first,
+                                                 const SingleTriple& second);
 
 }  // namespace zol::utility

@@ -11,24 +11,25 @@ struct stat;
 
 namespace zol {
 
-/// A file under way. Without commit, as when the run fails, nothing is left and an old file stays as it was.
+/// A file being written. Without commit, for example when the run fails, nothing of it remains and an old file keeps
+/// its contents.
 ///
-/// The new file takes over owner, permissions and extended attributes of the old one. Where that can't be done, where
-/// no file can be made beside the old one, and where that one has several names (hard links), it is written in place;
-/// when that fails, its old bytes are put back. Pipes and devices are written in place, too. Symbolic links are
-/// followed, also to a file that is not there yet. A file that is protected from all users is refused, also to root.
+/// The new file gets the owner, permissions and extended attributes of the old one. The old file is written in place
+/// when that is impossible, when no file can be made beside it, or when it has several names (hard links); if writing
+/// fails, its old bytes are restored. Pipes and devices are written in place, too. Symbolic links are followed, also to
+/// a file that does not exist yet. A file that is write-protected for all users is refused, also to root.
 class AtomicFile {
  public:
-  /// @throws RunFailure  the file can't be written; the message names the path
+  /// @throws RunFailure  the file cannot be written; the message names the path
   explicit AtomicFile(std::string path);
   AtomicFile(const AtomicFile&) = delete;
   AtomicFile& operator=(const AtomicFile&) = delete;
   ~AtomicFile();
 
   void write(std::string_view text) { text_ += text; }
-  /// Puts the file in its place once all of it is on the disk, so that even a machine that stops leaves the old file or
+  /// Renames the file once all of it is on the disk, so that even a crash of the machine leaves either the old file or
   /// the new one.
-  /// @throws RunFailure  the file can't be written or renamed
+  /// @throws RunFailure  the file cannot be written or renamed
   void commit();
 
  private:

@@ -62,7 +62,7 @@ class BoundedArray {
   explicit BoundedArray(std::string name) : name_(std::move(name)) {}
   BoundedArray(std::string name, int upper) : name_(std::move(name)) { allocate(upper); }
 
-  /// Makes the array anew with indices 0 to upper; former contents are gone.
+  /// Reallocates the array with indices 0 to upper; former contents are lost.
   /// @throws RunFailure  negative upper bound or not enough memory
   void allocate(int upper) {
     if (upper < 0) detail::fail_bound(name_, upper);
@@ -102,7 +102,7 @@ class BoundedTable {
     allocate(upper_row, upper_column);
   }
 
-  /// Makes the table anew; former contents are gone.
+  /// Reallocates the table; former contents are lost.
   /// @throws RunFailure  negative upper bound or not enough memory
   void allocate(int upper_row, int upper_column) {
     if (upper_row < 0) detail::fail_bound(name_, upper_row);

@@ -1,7 +1,7 @@
 // The orders that selection sorts by exchange leave, in n log n.
 //
-// The program's lists were always sorted by exchanging the place under work with the entry found behind it. What that
-// does to equal keys is no order by position: a stable sort gives other lists. Here a tournament tree over the
+// The program's lists were always sorted by exchanging the place under work with the entry found after it. That
+// leaves equal keys in an order of its own, so that a stable sort gives other lists. Here a tournament tree over the
 // positions finds the entry of each round.
 #pragma once
 
@@ -15,7 +15,7 @@
 
 namespace zol {
 
-/// Keys of positions 0 to n, with the smallest of any part at hand.
+/// Keys of positions 0 to n; the smallest key of each subtree is stored.
 class TournamentTree {
  public:
   explicit TournamentTree(std::span<const double> keys);
@@ -46,19 +46,13 @@ using FindEntry = std::function<std::optional<int>(const TournamentTree& left)>;
 [[nodiscard]] FindEntry first_smallest_below(double limit);
 
 /// Which entry comes to stand at each position when the places `first` to n - 1 are exchanged, one after the other,
-/// with the entry that the round finds at or behind its place. A round that finds nothing takes the position of the
+/// with the entry that the round finds at or after its place. A round that finds nothing takes the position of the
 /// round before; as long as none has found anything that is entry 0, or, when `skip_without` is set, nothing is
 /// exchanged.
 /// @param keys  of positions 0 to n; entry 0 takes part only as that position
+/// @param task  checked every 1024 rounds
 [[nodiscard]] std::vector<int> exchange_order(std::span<const double> keys, int first, const FindEntry& find,
                                               bool skip_without, Task& task);
-
-/// The same for lists that nobody waits for.
-[[nodiscard]] inline std::vector<int> exchange_order(std::span<const double> keys, int first, const FindEntry& find,
-                                                     bool skip_without = false) {
-  QuietTask task;
-  return exchange_order(keys, first, find, skip_without, task);
-}
 
 /// Puts entry order[i] at position i.
 template <class Value>

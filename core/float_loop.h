@@ -11,10 +11,10 @@ namespace zol {
 enum class LoopSense { Rising, Falling };
 
 namespace detail {
-/// True when steps are lost in the rounding at the limit for certain, or go the wrong way.
+/// True when a step is certainly lost in the rounding at the limit, or goes the wrong way.
 [[nodiscard]] bool loses_steps(double limit, double step);
 [[noreturn]] void fail_loop(std::string_view what, double from, double limit, double step);
-/// The value after as many of the steps up to a distance as lead away from 0 all alike, at least one.
+/// The value after several steps at once, at least one: up to a distance, as long as all are rounded alike.
 [[nodiscard]] Single after_steps(Single value, double signed_step, double distance);
 }  // namespace detail
 

@@ -42,7 +42,7 @@ struct CellConstants {
   bool operator==(const CellConstants&) const = default;
 };
 
-/// The two bases of a cell; it does not change once made.
+/// The two bases of a cell; immutable.
 class Lattice {
  public:
   /// @throws RunFailure  an edge that is not above 0, an angle not between 0 and 180, angles that span no volume (V/abc
@@ -53,13 +53,13 @@ class Lattice {
   [[nodiscard]] CellConstants reciprocal_cell() const;
   [[nodiscard]] double volume() const;  ///< cubic angstroms
 
-  /// There and back: a vector of a space in the frame, and what the frame gives in that space.
+  /// Conversions of a vector from one of both spaces to the frame, and back.
   [[nodiscard]] CartesianVector cartesian(const DirectVector& vector) const;
   [[nodiscard]] CartesianVector cartesian(const ReciprocalVector& vector) const;
   [[nodiscard]] DirectVector direct(const CartesianVector& vector) const;
   [[nodiscard]] ReciprocalVector reciprocal(const CartesianVector& vector) const;
 
-  /// Interplanar spacing in angstroms. @throws RunFailure  the indices are 0, or no numbers
+  /// Interplanar spacing in angstroms. @throws RunFailure  the indices are 0 or not numbers
   [[nodiscard]] double spacing(const ReciprocalVector& hkl) const;
 
  private:

@@ -1,7 +1,6 @@
-// Another order of the reflection list: found first, then taken over by all arrays at once.
+// Another order of the reflection list: found first, then applied to all arrays at once.
 #pragma once
 
-#include <utility>
 #include <vector>
 
 #include "core/crystal_state.h"
@@ -10,48 +9,19 @@
 
 namespace zol {
 
-/// Which entry comes to stand at each place, from 0 to RefCount.
+/// The entry that goes to each place, from 0 to RefCount.
 struct ListOrder {
   std::vector<int> from;
-  bool with_structure_factors = false;  ///< RefA and RefB go with RefH, RefK, RefL, RefS and RefI; else they stay
+  bool with_structure_factors = false;  ///< RefA and RefB go with RefH, RefK, RefL, RefS and RefI; otherwise they stay
 };
 
+/// Brings the list into the order.
 inline void reorder(Module1State& list, const ListOrder& order) {
   for (auto* array : {&list.RefS, &list.RefI}) reorder(*array, order.from);
   if (order.with_structure_factors) {
     for (auto* array : {&list.RefA, &list.RefB}) reorder(*array, order.from);
   }
   for (auto* array : {&list.RefH, &list.RefK, &list.RefL}) reorder(*array, order.from);
-}
-
-/// Has the list in an order, and puts it back at its end unless the order is to be kept.
-class ReorderedList {
- public:
-  ReorderedList(Module1State& list, const ListOrder& order) : list_(list), back_{{}, order.with_structure_factors} {
-    back_.from.resize(order.from.size());
-    int place = 0;
-    for (const int from : order.from) back_.from[static_cast<std::size_t>(from)] = place++;
-    reorder(list_, order);
-  }
-  ReorderedList(const ReorderedList&) = delete;
-  ReorderedList& operator=(const ReorderedList&) = delete;
-  ~ReorderedList() {
-    if (!kept_) reorder(list_, back_);
-  }
-  void keep() { kept_ = true; }
-
- private:
-  Module1State& list_;
-  ListOrder back_;
-  bool kept_ = false;
-};
-
-/// The same search, which asks at each round whether to go on.
-[[nodiscard]] inline FindEntry with_checks(FindEntry find, Task& task) {
-  return [find = std::move(find), &task](const TournamentTree& left) {
-    task.check();
-    return find(left);
-  };
 }
 
 }  // namespace zol

@@ -1,5 +1,5 @@
-// Forms of the metric of a cell, each in the order of terms that its results are known by: the last bit counts.
-// Direct components go with edges and angles, reciprocal ones with their starred values.
+// Forms of the metric of a cell, each with its own order of terms: the last bit of the results depends on it.
+// Direct components go with the direct axes, reciprocal ones with the reciprocal axes.
 #pragma once
 
 #include <string_view>
@@ -9,40 +9,30 @@
 
 namespace zol {
 
-/// G* v: gives the direct components of h a* + k b* + l c*.
+/// G* v, the components of h a* + k b* + l c* along a, b, c (inverse square angstroms).
 [[nodiscard]] inline SingleTriple reciprocal_metric_times(const Main1State& cell, const SingleTriple& indices) {
-  const double a = cell.AStar;
-  const double b = cell.BStar;
-  const double c = cell.CStar;
-  const double cos_alpha = cell.CosAlphaStar;
-  const double cos_beta = cell.CosBetaStar;
-  const double cos_gamma = cell.CosGammaStar;
+  const auto [a, b, c, cos_alpha, cos_beta, cos_gamma] = reciprocal_axes(cell);
   const auto [h, k, l] = indices;
   return {to_single(a * h * a + a * k * b * cos_gamma + c * l * a * cos_beta),
           to_single(a * h * b * cos_gamma + b * k * b + b * l * c * cos_alpha),
           to_single(c * h * a * cos_beta + b * k * c * cos_alpha + c * l * c)};
 }
 
-/// G v: gives the reciprocal components of u a + v b + w c, the indices of the plane normal to it.
+/// G v, the components of u a + v b + w c along a*, b*, c* (square angstroms): the indices of the plane normal to it.
 [[nodiscard]] inline SingleTriple direct_metric_times(const Main1State& cell, const Indices<Integer>& direction) {
   const double u = direction.h.value();
   const double v = direction.k.value();
   const double w = direction.l.value();
-  const double a = cell.CellA;
-  const double b = cell.CellB;
-  const double c = cell.CellC;
-  const double cos_alpha = cell.CosAlpha;
-  const double cos_beta = cell.CosBeta;
-  const double cos_gamma = cell.CosGamma;
+  const auto [a, b, c, cos_alpha, cos_beta, cos_gamma] = direct_axes(cell);
   return {to_single(v * a * b * cos_gamma + u * a * a + w * a * c * cos_beta),
           to_single(u * b * a * cos_gamma + v * b * b + w * b * c * cos_alpha),
           to_single(u * c * a * cos_beta + v * c * b * cos_alpha + w * c * c)};
 }
 
 /// Angle of a reciprocal vector above the plane at right angles to a direction, degrees.
-/// @param length  of the reciprocal vector
-/// @param what    names the direction's length in the message
-/// @throws RunFailure  one of both has no length
+/// @param length  of the reciprocal vector, inverse angstroms
+/// @param what    names the length of the direction in the message
+/// @throws RunFailure  one of them has no length
 [[nodiscard]] inline Single latitude_deg(const Main1State& cell, const Indices<Integer>& hkl, Single length,
                                          const SingleTriple& direction, std::string_view what) {
   const auto& [u, v, w] = direction;

@@ -151,6 +151,55 @@ void round_places(Parts& parts, std::size_t places) {
 
 bool is_placeholder(char c) { return c == '0' || c == '#'; }
 
+std::size_t placeholders(std::string_view pattern) {
+  return static_cast<std::size_t>(std::count_if(pattern.begin(), pattern.end(), is_placeholder));
+}
+
+/// The digits before the point in their pattern: set from the right, and the first placeholder takes all that are left
+/// over.
+std::string fill_whole(const std::string& digits, std::string_view pattern) {
+  std::size_t open = placeholders(pattern);
+  std::string text = open == 0 ? digits : "";
+  const std::size_t have = digits.size();
+  bool zeros = false;
+  bool first = true;
+  for (const char c : pattern) {
+    if (!is_placeholder(c)) {
+      text += c;
+      continue;
+    }
+    zeros = zeros || c == '0';
+    if (first && have >= open) {
+      text += digits.substr(0, have - open + 1);
+    } else if (have >= open) {
+      text += digits[have - open];
+    } else if (zeros) {
+      text += '0';
+    }
+    first = false;
+    --open;
+  }
+  return text;
+}
+
+/// The digits behind the point in their pattern: a "#" shows as long as a significant digit or a "0" of the pattern
+/// stands at it or behind it.
+std::string fill_fraction(const std::string& digits, std::string_view pattern) {
+  std::string text;
+  const std::size_t significant = digits.find_last_not_of('0') + 1;  // npos + 1 is 0
+  std::size_t place = 0;
+  for (std::size_t i = 0; i < pattern.size(); ++i) {
+    if (!is_placeholder(pattern[i])) {
+      text += pattern[i];
+      continue;
+    }
+    const bool wanted = place < significant || pattern.find('0', i) != std::string_view::npos;
+    if (wanted) text += place < digits.size() ? digits[place] : '0';
+    ++place;
+  }
+  return text;
+}
+
 }  // namespace
 
 std::optional<LeadingNumber> leading_number(std::string_view text) {
@@ -194,47 +243,11 @@ std::string Format(double value, std::string_view pattern) {
   const std::string_view behind = point == std::string_view::npos ? std::string_view() : pattern.substr(point + 1);
 
   Parts parts = split(to_decimal(value, 15));
-  round_places(parts, static_cast<std::size_t>(std::count_if(behind.begin(), behind.end(), is_placeholder)));
+  round_places(parts, placeholders(behind));
   parts.whole.erase(0, std::min(parts.whole.find_first_not_of('0'), parts.whole.size()));
 
-  std::string text = value < 0.0 ? "-" : "";
-  // Before the point: digits are set from the right, and the first placeholder takes all that are left over.
-  auto open = static_cast<std::size_t>(std::count_if(before.begin(), before.end(), is_placeholder));
-  if (open == 0) text += parts.whole;
-  bool zeros = false;
-  bool first = true;
-  for (const char c : before) {
-    if (!is_placeholder(c)) {
-      text += c;
-      continue;
-    }
-    zeros = zeros || c == '0';
-    const std::size_t have = parts.whole.size();
-    if (first && have >= open) {
-      text += parts.whole.substr(0, have - open + 1);
-    } else if (have >= open) {
-      text += parts.whole[have - open];
-    } else if (zeros) {
-      text += '0';
-    }
-    first = false;
-    --open;
-  }
-  if (point == std::string_view::npos) return text;
-
-  // Behind the point: a "#" shows as long as a significant digit or a "0" of the pattern stands at it or behind it.
-  text += '.';
-  const std::size_t significant = parts.fraction.find_last_not_of('0') + 1;  // npos + 1 is 0
-  std::size_t place = 0;
-  for (std::size_t i = 0; i < behind.size(); ++i) {
-    if (!is_placeholder(behind[i])) {
-      text += behind[i];
-      continue;
-    }
-    const bool wanted = place < significant || behind.find('0', i) != std::string_view::npos;
-    if (wanted) text += place < parts.fraction.size() ? parts.fraction[place] : '0';
-    ++place;
-  }
+  std::string text = (value < 0.0 ? "-" : "") + fill_whole(parts.whole, before);
+  if (point != std::string_view::npos) text += '.' + fill_fraction(parts.fraction, behind);
   return text;
 }
 

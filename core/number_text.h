@@ -1,4 +1,4 @@
-// Numbers to text and text to numbers, the same on every machine: the locale has no say.
+// Numbers to text and text to numbers, the same on every machine, whatever the locale.
 //
 // Plain text is decimal digits without an exponent, without trailing zeros, and without a zero before the point.
 #pragma once
@@ -11,12 +11,12 @@
 
 namespace zol {
 
-/// Lenient parse: blanks and tabs are dropped wherever they stand, then the longest leading number counts (sign,
+/// Lenient parse: blanks and tabs are dropped everywhere, then the longest leading number is taken (sign,
 /// digits, point, exponent with e, E, d or D). A text without one gives 0. Never fails; an exponent beyond a Double
 /// gives infinity.
 [[nodiscard]] double Val(std::string_view text);
 
-/// Strict parse: the same numbers with nothing before or behind them and no blanks inside.
+/// Strict parse: the same numbers with nothing before or after them and no blanks inside.
 [[nodiscard]] std::optional<double> strict_number(std::string_view text);
 
 /// A number at the head of a text.
@@ -46,18 +46,17 @@ template <class Number>
 [[nodiscard]] std::string shortest_text(Single value);
 
 /// Digit pattern: "0" is a digit that always shows, "#" one that shows only if it is significant, "." the point, which
-/// always shows; all else stands as it is. The value's text to 15 significant digits is rounded, halves away from zero.
-/// A minus sign stands in front of everything, also when the digits round to zero.
+/// always shows; everything else is copied. The value's text to 15 significant digits is rounded, halves away from
+/// zero. A minus sign comes before everything else, also when the digits round to zero.
 [[nodiscard]] std::string Format(double value, std::string_view pattern);
 
-/// Text pattern: the whole text stands where the pattern has its row of "&", the rest of the pattern stands as it is.
+/// Text pattern: the text replaces the row of "&" of the pattern; the rest of the pattern is copied.
 [[nodiscard]] std::string Format(std::string_view text, std::string_view pattern);
 
-/// The rightmost characters of a text with blanks put in front of it: a field of a fixed width, which loses the left
-/// end of a text that is too long.
+/// A text right-aligned in a field of fixed width; the left end of a text that is too long is cut off.
 [[nodiscard]] std::string right_field(std::string_view text, std::size_t width);
 
-/// The leftmost characters of a text with blanks put behind it.
+/// A text left-aligned in a field of fixed width; the right end of a text that is too long is cut off.
 [[nodiscard]] std::string left_field(std::string_view text, std::size_t width);
 
 }  // namespace zol

@@ -18,7 +18,7 @@ using Single = float;
 using Double = double;
 using String = std::string;
 
-/// Pi and the factors of the program are truncated on purpose; results hang on their digits.
+/// Pi and its multiples are truncated on purpose: the results depend on these digits.
 inline constexpr double program_pi = 3.14159;
 inline constexpr double program_two_pi = 6.28318;
 inline constexpr double degree = 0.017453277777777776;  ///< radians in a degree, program_pi / 180

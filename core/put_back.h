@@ -1,11 +1,11 @@
-// Values that a calculation changes for as long as it runs, or until it has come to its end.
+// Values that a calculation changes while it runs.
 #pragma once
 
 #include <tuple>
 
 namespace zol {
 
-/// Gives values back what they held, when it ends, however that comes about; unless they are to be kept.
+/// Restores the values at the end of its scope, also when an exception ends it, unless keep() was called.
 template <class... Values>
 class PutBack {
  public:

@@ -13,14 +13,14 @@ namespace zol {
 /// Writes records: fields separated by a comma without blanks, strings quoted, numbers in their shortest plain form.
 class RecordWriter {
  public:
-  /// @throws RunFailure  the file can't be created
+  /// @throws RunFailure  the file cannot be created
   explicit RecordWriter(std::string path) : file_(std::move(path)) {}
 
   RecordWriter& field(std::string_view text);
   RecordWriter& field(Single value);
   RecordWriter& field(Integer value);
   void end_line();
-  /// Puts the file in its place. @throws RunFailure  it can't be written
+  /// Puts the file in its place. @throws RunFailure  it cannot be written
   void commit() { file_.commit(); }
 
  private:

@@ -33,7 +33,8 @@ struct SpaceGroupName {
 /// The whole file. @throws RunFailure  it is missing, broken, or has more than 1000 operators
 [[nodiscard]] SpaceGroup read_space_group(const std::string& path);
 
-/// Cell constraint of a crystal system: what the boxes b, c, alpha, beta, gamma take; empty for "stays as it is".
+/// Cell constraint of a crystal system: the values of the boxes b, c, alpha, beta, gamma; an empty text leaves a box as
+/// it is.
 struct CellConstraint {
   bool b_as_a = false;
   bool c_as_a = false;
@@ -42,9 +43,8 @@ struct CellConstraint {
 /// The word is compared exactly; an unknown one constrains nothing.
 [[nodiscard]] CellConstraint cell_constraint(std::string_view system);
 
-/// Turns the operators to another choice of axes: element (i, j) becomes (p(i), p(j)), with p from the name of the
-/// setting
-/// ("abc", "cab", "bca", "a-cb", "ba-c", "c-ba"). No sign changes. Another name leaves zeros.
+/// The operator for another choice of axes: element (i, j) becomes (p(i), p(j)), with p from the name of the setting
+/// ("abc", "cab", "bca", "a-cb", "ba-c", "c-ba"). Signs do not change. Any other name gives zeros.
 [[nodiscard]] SymmetryOperator permute_axes(const SymmetryOperator& op, std::string_view axis_setting);
 
 }  // namespace zol

@@ -73,7 +73,7 @@ ExactOperator operator*(const ExactOperator& left, const ExactOperator& right) {
   return product;
 }
 
-std::vector<CellAtom> cell_atoms(const Structure& structure, double merge_angstrom) {
+std::vector<CellAtom> cell_atoms(const Structure& structure, double merge_angstrom, Task& task) {
   const Lattice lattice(structure.cell);
   const std::vector<ExactOperator> identity{ExactOperator{}};
   const auto& operators = structure.operators.empty() ? identity : structure.operators;
@@ -81,6 +81,7 @@ std::vector<CellAtom> cell_atoms(const Structure& structure, double merge_angstr
   for (std::size_t site = 0; site < structure.sites.size(); ++site) {
     const auto first = static_cast<std::ptrdiff_t>(atoms.size());
     for (const ExactOperator& op : operators) {
+      task.check();
       const DirectVector position = folded(op.apply(structure.sites[site].position), structure.sites[site].label);
       const bool there = std::any_of(atoms.begin() + first, atoms.end(), [&](const CellAtom& atom) {
         return distance(lattice, atom.position, position) <= merge_angstrom;

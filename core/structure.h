@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/lattice.h"
+#include "core/task.h"
 
 namespace zol {
 
@@ -25,7 +26,7 @@ struct ExactOperator {
 };
 
 /// First the right operator, then the left one, with the translation folded into the cell.
-/// @throws RunFailure  a product that is no whole number of 24ths
+/// @throws RunFailure  a product that is not a whole number of 24ths
 [[nodiscard]] ExactOperator operator*(const ExactOperator& left, const ExactOperator& right);
 
 /// One site of the asymmetric unit.
@@ -44,7 +45,7 @@ struct Structure {
   CellConstants cell;
   int space_group_number = 1;            ///< 1 to 230
   std::string space_group_symbol;        ///< Hermann-Mauguin, as "F m -3 m"
-  std::string axis_setting = "abc";      ///< how its axes stand to those of the standard setting
+  std::string axis_setting = "abc";      ///< how its axes are related to those of the standard setting
   std::vector<ExactOperator> operators;  ///< all general positions, centring included; empty: not known
   std::vector<Site> sites;
   bool operator==(const Structure&) const = default;
@@ -56,10 +57,11 @@ struct CellAtom {
   DirectVector position;
 };
 
-/// All atoms of the unit cell, by site, then by operator; without operators the sites as they stand. Images of one site
+/// All atoms of the unit cell, by site, then by operator; without operators the sites as given. Images of one site
 /// that lie close together are one atom, at the place of the first: the site lies on a symmetry element.
 /// @param merge_angstrom  largest distance between images that are one, also across the faces of the cell
-/// @throws RunFailure     the cell is none, or a position no finite number
-[[nodiscard]] std::vector<CellAtom> cell_atoms(const Structure& structure, double merge_angstrom);
+/// Checks the task at each operator, reports nothing.
+/// @throws RunFailure     the cell constants make no cell, or a position is not a finite number
+[[nodiscard]] std::vector<CellAtom> cell_atoms(const Structure& structure, double merge_angstrom, Task& task);
 
 }  // namespace zol

@@ -1,10 +1,10 @@
-// How a long calculation tells how far it is and asks whether to go on, without knowing what shows it or who stops it.
+// How a long calculation reports its progress and asks whether to go on, without knowing who shows or stops it.
 #pragma once
 
 namespace zol {
 
-/// Ends a calculation that the user wants to stop. No failure of the run: whoever started the calculation catches it,
-/// and nothing of its result has been committed.
+/// Ends a calculation that the user wants to stop. It is not a failure of the run: the caller of the calculation
+/// catches it, and nothing of the result has been committed.
 struct Cancelled {};
 
 struct Task {

@@ -1,12 +1,12 @@
-// Files and folders under way, beside the place that they are made for.
+// Files and folders that are being written, beside their final place.
 #pragma once
 
 #include <string>
 
 namespace zol {
 
-/// A temporary file or folder, gone with this object unless it was renamed. While its program lives it is locked;
-/// whoever makes the next one in the same folder removes those that killed programs of the same user have left.
+/// A temporary file or folder, gone with this object unless it was renamed. It is locked while its program
+/// runs; the next one made in the same folder removes those left by killed programs of the same user.
 class Temporary {
  public:
   enum class Kind { file, folder };
@@ -17,12 +17,12 @@ class Temporary {
   Temporary& operator=(const Temporary&) = delete;
   ~Temporary();
 
-  /// Why none could be made, as errno says it; 0 when there is one.
+  /// Why none could be made, as a value of errno; 0 when there is one.
   [[nodiscard]] int reason() const { return reason_; }
   [[nodiscard]] const std::string& path() const { return path_; }
   /// Open for writing, when it is a file.
   [[nodiscard]] int descriptor() const { return descriptor_; }
-  /// It has got its own name and stays.
+  /// It has been renamed and stays.
   void renamed() { path_.clear(); }
 
  private:

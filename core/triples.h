@@ -1,4 +1,5 @@
-// Three numbers that belong together. Which space they are of, the name that bears them tells.
+// Three numbers that belong together. The name of a variable says which space they belong to. Vectors in Doubles, with
+// a type for each space, are in core/lattice.h.
 #pragma once
 
 #include <array>

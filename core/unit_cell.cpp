@@ -8,10 +8,8 @@
 namespace zol {
 namespace {
 
-using Position = std::array<Single, 3>;
-
 /// Fraction of one coordinate of R x + t, 0 <= p < 1.
-Single folded_image(const SymmetryOperator& op, std::size_t axis, const Position& site) {
+Single folded_image(const SymmetryOperator& op, std::size_t axis, const SingleTriple& site) {
   const auto& r = op.rotation[axis];
   const Single p = to_single(double{r[0]} * site[0] + double{op.translation[axis]} + double{r[1]} * site[1] +
                              double{r[2]} * site[2]);
@@ -49,7 +47,7 @@ UnitCell expand_unit_cell(const CrystalState& state, const SpaceGroup& group, Ta
 
   UnitCell cell;
   for (int site = 1; site <= state.NAtom.value(); ++site) {
-    const Position given{state.AtomPos(site, 1), state.AtomPos(site, 2), state.AtomPos(site, 3)};
+    const SingleTriple given{state.AtomPos(site, 1), state.AtomPos(site, 2), state.AtomPos(site, 3)};
     for (const auto& op : operators) {
       task.check();
       const SiteImage image{site, {folded_image(op, 0, given), folded_image(op, 1, given), folded_image(op, 2, given)}};

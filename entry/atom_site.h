@@ -1,11 +1,11 @@
-// One row of the atom sites, as a table or a structure file gives it.
+// One row of the atom sites, from a table or a structure file.
 #pragma once
 
-#include <array>
 #include <optional>
 #include <string>
 
 #include "core/crystal_state.h"
+#include "core/triples.h"
 
 namespace zol {
 
@@ -13,10 +13,11 @@ struct AtomSite {
   std::string label;
   std::string element;
   Single occupancy = 1;
-  std::array<Single, 3> position{};  ///< fractional
-  std::optional<Single> b = {};      ///< square angstroms; none: what stands in the crystal's row stays
+  SingleTriple position{};       ///< fractional
+  std::optional<Single> b = {};  ///< square angstroms; none: the crystal's row keeps its value
 };
 
+/// Copies a site to a row of the asymmetric unit; NAtom stays.
 /// @param row  from 1
 /// @throws RunFailure  the crystal has no such row
 void store_site(Module1State& crystal, int row, const AtomSite& site);

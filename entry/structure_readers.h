@@ -1,7 +1,7 @@
 // Readers of structure files that replace the crystal: crystallographic information files and the text export of ICSD.
 //
-// Both scan line by line for a handful of words and are no parsers of the formats. What they find goes out line by
-// line, since writing a box sets off its handler.
+// Both scan line by line for a few words and do not parse the whole format. What they find is returned line by line,
+// since writing a box runs its handler.
 #pragma once
 
 #include <optional>
@@ -22,20 +22,20 @@ struct BoxText {
   bool operator==(const BoxText&) const = default;
 };
 
-/// What a line tells.
+/// What was found in a line.
 struct LineContents {
   std::optional<AtomSite> site;
-  std::vector<BoxText> texts;  ///< goes into the boxes after the site
+  std::vector<BoxText> texts;  ///< for the boxes, after the site
 };
 
-/// Crystallographic information files with one tag a line; see docs/user-guide/import.md.
+/// Crystallographic information files with one tag per line; see docs/user-guide/import.md.
 class CifReader {
  public:
   /// @param path  names the file in messages
   explicit CifReader(std::string path) : words_(std::move(path)) {}
 
   /// @returns at most one text
-  /// @throws RunFailure  too many words, or a word that is no number where one is needed
+  /// @throws RunFailure  too many words, or a word that is not a number where one is needed
   [[nodiscard]] LineContents take(std::string_view line);
 
  private:

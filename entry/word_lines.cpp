@@ -25,16 +25,15 @@ std::vector<std::string> cut_words(std::string_view line, const std::string& pat
   return words;
 }
 
-std::vector<std::string> split_lines(std::string_view text) {
-  std::vector<std::string> lines;
+void for_each_line(std::string_view text, Task& task, const std::function<void(std::string_view line)>& visit) {
   while (!text.empty()) {
+    task.check();
     const std::size_t end = text.find_first_of("\r\n");
-    lines.emplace_back(text.substr(0, end));
-    if (end == std::string_view::npos) break;
+    visit(text.substr(0, end));
+    if (end == std::string_view::npos) return;
     const bool crlf = text[end] == '\r' && end + 1 < text.size() && text[end + 1] == '\n';
     text.remove_prefix(end + (crlf ? 2 : 1));
   }
-  return lines;
 }
 
 std::string without_uncertainty(std::string_view word) { return std::string(word.substr(0, word.find('('))); }

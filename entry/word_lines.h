@@ -1,13 +1,15 @@
-// How all importers cut lines into words, and what they do to a word.
+// How all importers cut lines into words, and what they change in a word.
 #pragma once
 
 #include <algorithm>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/bounded_array.h"
 #include "core/numbers.h"
+#include "core/task.h"
 
 namespace zol {
 
@@ -18,14 +20,15 @@ inline constexpr int most_words = 100;  ///< in a line
 /// @throws RunFailure   it has more than 100 words
 [[nodiscard]] std::vector<std::string> cut_words(std::string_view line, const std::string& path, int number);
 
-/// Lines of a text; CR LF, LF or CR ends one, and an end at the end of the text makes no further line.
-[[nodiscard]] std::vector<std::string> split_lines(std::string_view text);
+/// Visits the lines of a text in turn; CR LF, LF or CR ends one, and an end at the end of the text makes no further
+/// line. Checks the task before each line.
+void for_each_line(std::string_view text, Task& task, const std::function<void(std::string_view line)>& visit);
 
-/// A value without its standard uncertainty: what stands before the first "(".
+/// A value without its standard uncertainty: the text before the first "(".
 [[nodiscard]] std::string without_uncertainty(std::string_view word);
 
-/// The words of the line under work, numbered from 1. Words of earlier lines stay where a later line has none, and word
-/// 0 is always empty: readers take whatever stands at a column.
+/// The words of the line under work, numbered from 1. Words of earlier lines remain where a later line has none, and
+/// word 0 is always empty: readers take whatever is at a column.
 class WordTable {
  public:
   /// @param path  names the file in messages

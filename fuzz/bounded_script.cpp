@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "core/number_text.h"
-#include "shell/script/script_driver.h"
+#include "shell/script/script_words.h"
 
 namespace zol::fuzz {
 namespace {

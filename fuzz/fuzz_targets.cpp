@@ -113,7 +113,7 @@ void scatter_table(const std::string& input) {
   state.AsfXCount = read_scatter_table(MemoryFile(input).path(), state.AsfX);
   state.MassRatio = 1;
   for (int row = 1; row <= state.AsfXCount.value(); ++row) {
-    (void)AtomicScatter(state, state.AsfX(row).Element, 0.3F, {false, true});
+    (void)AtomicScatter(state, &state.AsfX(row), 0.3F, {false, true});
   }
 }
 
@@ -122,15 +122,17 @@ void structure_file(const std::string& input) {
   Module1State state;
   Reader reader("input");
   Integer atoms;
-  for (const auto& line : split_lines(input)) {
+  QuietTask task;
+  for_each_line(input, task, [&](std::string_view line) {
     if (const auto found = reader.take(line); found.site) store_site(state, (atoms += 1).value(), *found.site);
-  }
+  });
 }
 
 void atom_lists(const std::string& input) {
   const MemoryFile file(input);
-  (void)read_bare_atom_list(file.path());
-  (void)read_mincryst_list(file.path());
+  QuietTask task;
+  (void)read_bare_atom_list(file.path(), task);
+  (void)read_mincryst_list(file.path(), task);
 }
 
 void bitmap(const std::string& input) {

@@ -111,7 +111,7 @@ ListOrder order_for_kikuchi(const CrystalState& state, Task& task) {
   if (count == 0) throw RunFailure("index 1 of the reflection list, which is empty (\"Calc\" makes it)");
   std::vector<double> keys;
   for (int i = 0; i <= count; ++i) keys.push_back(double{state.RefS(i)} * double{state.RefI(i)});
-  return {exchange_order(keys, 1, with_checks(last_under_rounded_bound, task))};
+  return {exchange_order(keys, 1, last_under_rounded_bound, false, task)};
 }
 
 Single strongest_in_view(const CrystalState& state, const GnomonicView& view, Task& task) {

@@ -17,7 +17,7 @@
 
 namespace zol {
 
-/// Bounds of the picture in gnomonic coordinates and its reach, the largest of them by size.
+/// Bounds of the picture in gnomonic coordinates and its reach, the largest of their magnitudes.
 struct GnomonicView {
   Single left = 0, right = 0, bottom = 0, top = 0;
   Single reach = 0;
@@ -27,7 +27,7 @@ struct GnomonicView {
 [[nodiscard]] GnomonicView gnomonic_view(const Module1State& camera);
 
 /// The list by RefS * RefI, ascending. The bound of each round is the smallest key so far rounded to 16 bits, so that
-/// keys nearer than 1 are not told apart.
+/// keys closer than 1 are not distinguished.
 /// @throws RunFailure  an empty list
 [[nodiscard]] ListOrder order_for_kikuchi(const CrystalState& state, Task& task);
 
@@ -47,14 +47,15 @@ struct KikuchiLine {
   Single foot_y = 0;
 };
 
-/// The lines of the strongest KikuchiRefLimit reflections, in the order of the list, those that lie far outside left
-/// out.
-/// @param trace_only  the trace of the plane in place of the line at the Bragg angle
+/// The lines of the strongest KikuchiRefLimit reflections, in the order of the list, without those far
+/// outside the picture.
+/// @param trace_only  the trace of the plane instead of the line at the Bragg angle
 /// @throws RunFailure  a zero axis or reference, an index below 0, or products beyond 16 bits
 [[nodiscard]] std::vector<KikuchiLine> kikuchi_lines(const CrystalState& state, const GnomonicView& view,
                                                      bool trace_only, Task& task);
 
-/// The line of the reflection MarkH, MarkK, MarkL, wherever it lies.
+/// The line of the reflection MarkH, MarkK, MarkL, also outside the picture.
+/// @throws RunFailure  a zero axis, reference or reflection
 [[nodiscard]] KikuchiLine marked_line(const CrystalState& state, bool trace_only);
 
 }  // namespace zol

@@ -9,8 +9,8 @@
 
 namespace zol {
 
-/// Place of a direction: angle from the zone axis (or from the substrate normal) and azimuth, radians, the rotation of
-/// the pattern in it.
+/// Place of a direction: angle from the zone axis (or from the substrate normal) and azimuth, radians, including the
+/// rotation of the pattern.
 struct DirectionPlace {
   Single theta = 0;
   Single phi = 0;
@@ -30,8 +30,8 @@ struct PlacedDirection {
   Single u = 0, v = 0, w = 0;
   DirectionPlace place;
 };
-/// All directions up to the limits that have a place, w fastest, but those with three even indices. For a zero axis
-/// there are none.
+/// All directions up to the limits that have a place, w fastest, except those with three even indices. None for a zero
+/// axis.
 [[nodiscard]] std::vector<PlacedDirection> places_in_sweep(const CrystalState& state, const SweepLimits& limits,
                                                            Task& task);
 

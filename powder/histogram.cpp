@@ -54,9 +54,8 @@ std::vector<double> mixed(const std::vector<double>& xs, const std::vector<doubl
   return result;
 }
 
-/// Spreads reflections over the points of a grid. The terms of the squared length that hang on one or two of the three
-/// indices alone are computed once; their sum is formed in the order of reciprocal_length, so that it is the same to
-/// the bit.
+/// Spreads reflections over the points of a grid. The terms of the squared length that depend on only one or two of
+/// the three indices are computed once; their sum is formed in the order of DHKLS, so that it is the same to the bit.
 class Spreader {
  public:
   Spreader(const Main1State& cell, const InterferenceTable& table, Integer count, Histogram& bins, Task& task)
@@ -133,18 +132,6 @@ void check_last_bin(double bin) {
 }
 
 }  // namespace
-
-Single reciprocal_length(const Main1State& cell, Single h, Single k, Single l) {
-  const double a = cell.AStar;
-  const double b = cell.BStar;
-  const double c = cell.CStar;
-  const double x = h;
-  const double y = k;
-  const double z = l;
-  const double square = x * x * a * a + y * y * b * b + z * z * c * c + 2.0 * x * y * a * b * cell.CosGammaStar +
-                        2.0 * y * z * b * c * cell.CosAlphaStar + 2.0 * z * x * c * a * cell.CosBetaStar;
-  return to_single(square_root(square, "the squared length of a reciprocal vector"));
-}
 
 Integer bin_count(Single dmin) {
   const double count = std::floor(divide(5000.0, dmin, "Dmin"));

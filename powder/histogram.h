@@ -8,10 +8,6 @@
 
 namespace zol {
 
-/// Length of h a* + k b* + l c* in inverse angstroms, for indices that need not be whole.
-/// @throws RunFailure  the metric gives a negative square
-[[nodiscard]] Single reciprocal_length(const Main1State& cell, Single h, Single k, Single l);
-
 /// Number of the bin that 1/d of the smallest spacing falls into: bin n stands for n / dmin / bins.
 /// @throws RunFailure  dmin is 0, or the number passes 16 bits
 [[nodiscard]] Integer bin_count(Single dmin);
@@ -20,10 +16,10 @@ namespace zol {
 /// @throws RunFailure  it does not, because dmin is too small
 [[nodiscard]] int highest_bin(Integer count, int beyond);
 
-/// Content of each bin. It has bins beyond that of the smallest spacing for what the spread carries there.
+/// Content of each bin. It has bins beyond that of the smallest spacing, since reflections are spread.
 using Histogram = BoundedArray<Single>;
 
-/// The reflections of the list, as it stands, with their intensities, in bins 0 to last. Reports by reflections.
+/// The intensities of the reflections of the list in bins 0 to last. Reports reflections.
 /// @param count  the bin of the smallest spacing
 /// @throws RunFailure  a point falls beyond the last bin, or a bin passes the range of a Single
 [[nodiscard]] Histogram fill_histogram(const CrystalState& state, const InterferenceTable& table, Integer count,

@@ -1,4 +1,4 @@
-// The interference function of a crystallite of P x Q x R unit cells, tabulated once per pattern.
+// The interference function of a crystallite of P x Q x R unit cells, tabulated once for each pattern.
 //
 // Offsets from a reciprocal lattice point are in units of the reciprocal axes. The table holds one octant: offsets of
 // both signs share an entry. Source: M. von Laue, see Warren, X-ray Diffraction (1969), section 3.4.
@@ -21,7 +21,7 @@ struct CrystalliteSize {
   Single CellsP = 0, CellsQ = 0, CellsR = 0;
 };
 
-/// Points at which a reflection is looked at, axis by axis: offsets -steps * width to steps * width.
+/// Points at which a reflection is sampled, axis by axis: offsets -steps * width to steps * width.
 struct InterferenceGrid {
   std::array<Integer, 3> steps;
   std::array<Single, 3> width{};
@@ -48,9 +48,7 @@ class InterferenceTable {
 
   [[nodiscard]] const InterferenceGrid& grid() const { return grid_; }
 
-  /// Value at (i, j, k) steps, each from 0 to the number of steps of its axis.
-  [[nodiscard]] Single operator()(int i, int j, int k) const { return row(i, j)[k]; }
-  /// The values along c* at i, j.
+  /// The values along c* at (i, j) steps along a* and b*: entries 0 to the number of steps along c*.
   [[nodiscard]] const Single* row(int i, int j) const {
     return values_.data() + (static_cast<std::size_t>(i) * points_[1] + static_cast<std::size_t>(j)) * points_[2];
   }

@@ -11,7 +11,7 @@
 namespace zol {
 namespace {
 
-// Samples are worked on in blocks, so that what hangs on the bin alone is computed once for many of them.
+// Samples are worked on in blocks, so that what depends on the bin alone is computed once for many of them.
 constexpr int block_size = 64;
 constexpr std::size_t lines_between_checks = 64;  // some 0.1 ms
 
@@ -24,8 +24,7 @@ constexpr double no_change = 1.0 / (1 << 27);
 
 /// A block of samples: where they lie and what they hold so far.
 struct Block {
-  int first = 0;
-  std::size_t size = 0;
+  std::size_t size;
   std::array<double, block_size> position{};
   std::array<Single, block_size> sum{};
 };
@@ -56,9 +55,7 @@ template <class Line, class Position, class AddLines>
 PowderProfile sum_lines(std::span<const Line> lines, Task& task, Position position, AddLines add_lines) {
   PowderProfile profile("Profile", last_sample);
   for (int first = 0; first <= last_sample; first += block_size) {
-    Block block;
-    block.first = first;
-    block.size = static_cast<std::size_t>(std::min(block_size, last_sample - first + 1));
+    Block block{static_cast<std::size_t>(std::min(block_size, last_sample - first + 1))};
     for (std::size_t m = 0; m < block.size; ++m) block.position[m] = position(first + static_cast<int>(m));
     for (std::size_t n = 0; n < lines.size(); n += lines_between_checks) {
       task.check();
@@ -165,9 +162,7 @@ PowderProfile square_roots(PowderProfile profile) {
 }
 
 Single largest_sample(const PowderProfile& profile) {
-  Single largest = profile(0);
-  for (int m = 1; m <= last_sample; ++m) largest = std::max(largest, profile(m));
-  return largest;
+  return *std::max_element(&profile(0), &profile(last_sample) + 1);
 }
 
 std::vector<int> maxima(const PowderProfile& profile, Single reference) {

@@ -1,7 +1,7 @@
 // From the histogram over 1/d to a pattern of 1001 samples: the line shapes of both powder windows, and the maxima.
 //
-// Only bins that hold something count; they are found once. Each sample adds them in ascending order, each step
-// rounded to a Single, so that the result is that of the plain loop over all bins.
+// Only bins that are not empty count; they are found once. Each sample adds them in ascending order and rounds each sum
+// to a Single, so that the result equals that of the plain loop over all bins.
 #pragma once
 
 #include <string>
@@ -22,7 +22,7 @@ inline constexpr double four_ln_2 = 2.772588;
 /// A pattern: samples 0 to 1000.
 using PowderProfile = BoundedArray<Single>;
 
-/// A bin that holds something.
+/// A bin that is not empty.
 struct FilledBin {
   Single d_star = 0;  ///< 1/angstrom
   Single content = 0;
@@ -69,12 +69,12 @@ struct PseudoVoigt {
   Single gaussian_ratio = 0;  ///< share of the Gaussian, per cent
 };
 
-/// Sums the lines of all bins at each sample of the range. Reports by samples.
+/// Sums the lines of all bins at each sample of the range. Reports samples.
 /// @throws RunFailure  the width is 0, or a sum passes the range of a Single
 [[nodiscard]] PowderProfile sum_pseudo_voigt_lines(const std::vector<FilledBin>& bins, Single wavelength,
                                                    const TwoThetaRange& range, const PseudoVoigt& line, Task& task);
 
-/// Sums Gaussians in 1/d; each has half the height of one of unit area. Reports by samples.
+/// Sums Gaussians in 1/d; each has half the height of one of unit area. Reports samples.
 /// @param half_width  full width at half maximum, 1/angstrom
 /// @throws RunFailure  the width is 0, or a sum passes the range of a Single
 [[nodiscard]] PowderProfile sum_gaussian_lines(const std::vector<FilledBin>& bins, Single d_star_max, Single half_width,
@@ -93,14 +93,15 @@ struct PseudoVoigt {
 /// @throws RunFailure  the reference is 0 and there is a maximum
 [[nodiscard]] std::vector<int> maxima(const PowderProfile& profile, Single reference);
 
-/// For messages: what both windows draw at full height.
+/// Name, for messages, of the intensity that both windows draw at full height.
 inline constexpr std::string_view display_max = "the intensity at full height (DisplayMax)";
 
-/// Height in units of the reference, the value that is drawn at full height. @throws RunFailure  the reference, which
-/// the message calls by the name, is 0
+/// Height in units of the reference, which is drawn at full height.
+/// @param name  of the reference, for the message
+/// @throws RunFailure  the reference is 0
 [[nodiscard]] double relative_height(Single height, Single reference, std::string_view name = display_max);
 
-/// Grey level of a ring, 255 at full height and above, the other way round when inverse. A negative one stays.
+/// Grey level of a ring: 255 at full height and above, 0 there when inverse. A negative level is not clamped.
 /// @throws RunFailure  the reference is 0, or the level before the clamp passes 32 bits
 [[nodiscard]] Long grey_level(Single height, Single reference, bool inverse);
 

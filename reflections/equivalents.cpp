@@ -52,19 +52,19 @@ constexpr Row rows_z[] = {"+-h +-k +-l", "+-k +-l +-h", "+-l +-h +-k", "+-l +-k 
 
 /// A factor that a row of observed indices earns.
 struct Weight {
-  bool (*applies)(const IndexTriple& hkl);
+  bool (*applies)(const SingleTriple& hkl);
   int factor;
 };
 
-constexpr auto h_zero = [](const IndexTriple& r) { return r.h == 0; };
-constexpr auto k_zero = [](const IndexTriple& r) { return r.k == 0; };
-constexpr auto l_zero = [](const IndexTriple& r) { return r.l == 0; };
-constexpr auto h_zero_k_not = [](const IndexTriple& r) { return r.h == 0 && round_half_even(r.k) != 0.0; };
-constexpr auto h_k_zero = [](const IndexTriple& r) { return r.h == 0 && r.k == 0; };
-constexpr auto h_k_same = [](const IndexTriple& r) { return std::abs(r.h) == std::abs(r.k); };
-constexpr auto k_l_same = [](const IndexTriple& r) { return std::abs(r.k) == std::abs(r.l); };
-constexpr auto l_h_same = [](const IndexTriple& r) { return std::abs(r.l) == std::abs(r.h); };
-constexpr auto all_same = [](const IndexTriple& r) { return h_k_same(r) && k_l_same(r); };
+constexpr auto h_zero = [](const SingleTriple& r) { return r[0] == 0; };
+constexpr auto k_zero = [](const SingleTriple& r) { return r[1] == 0; };
+constexpr auto l_zero = [](const SingleTriple& r) { return r[2] == 0; };
+constexpr auto h_zero_k_not = [](const SingleTriple& r) { return r[0] == 0 && round_half_even(r[1]) != 0.0; };
+constexpr auto h_k_zero = [](const SingleTriple& r) { return r[0] == 0 && r[1] == 0; };
+constexpr auto h_k_same = [](const SingleTriple& r) { return std::abs(r[0]) == std::abs(r[1]); };
+constexpr auto k_l_same = [](const SingleTriple& r) { return std::abs(r[1]) == std::abs(r[2]); };
+constexpr auto l_h_same = [](const SingleTriple& r) { return std::abs(r[2]) == std::abs(r[0]); };
+constexpr auto all_same = [](const SingleTriple& r) { return h_k_same(r) && k_l_same(r); };
 
 constexpr Weight weights_monoclinic[] = {{k_zero, 2}};
 constexpr Weight weights_orthorhombic[] = {{h_zero, 2}, {k_zero, 2}, {l_zero, 2}};
@@ -107,20 +107,20 @@ const LaueClass* find_class(Integer space_group_number) {
   return nullptr;
 }
 
-Single term_value(const Term& term, const IndexTriple& hkl) {
+Single term_value(const Term& term, const SingleTriple& hkl) {
   switch (term.index) {
     case 'h':
-      return hkl.h;
+      return hkl[0];
     case 'k':
-      return hkl.k;
+      return hkl[1];
     case 'l':
-      return hkl.l;
+      return hkl[2];
     default:
-      return to_single(double{hkl.h} + double{hkl.k});
+      return to_single(double{hkl[0]} + double{hkl[1]});
   }
 }
 
-void add_row(const Row& row, const IndexTriple& hkl, std::vector<IndexTriple>& triples) {
+void add_row(const Row& row, const SingleTriple& hkl, std::vector<SingleTriple>& triples) {
   const auto& terms = row.terms;
   const auto signs = [](const Term& term) {
     return term.sign == 0 ? std::vector<Single>{1, -1} : std::vector<Single>{static_cast<Single>(term.sign)};
@@ -141,15 +141,15 @@ bool is_index(Single x) { return x == std::trunc(x) && std::abs(x) <= 32768; }
 
 }  // namespace
 
-std::vector<IndexTriple> equivalent_indices(Integer space_group_number, const IndexTriple& hkl) {
-  std::vector<IndexTriple> triples;
+std::vector<SingleTriple> equivalent_indices(Integer space_group_number, const SingleTriple& hkl) {
+  std::vector<SingleTriple> triples;
   if (const LaueClass* laue = find_class(space_group_number)) {
     for (const auto& row : laue->equivalents) add_row(row, hkl, triples);
   }
   return triples;
 }
 
-int form_weight(Integer space_group_number, const IndexTriple& hkl) {
+int form_weight(Integer space_group_number, const SingleTriple& hkl) {
   int factor = 1;
   if (const LaueClass* laue = find_class(space_group_number)) {
     for (const auto& weight : laue->weights) {
@@ -161,7 +161,7 @@ int form_weight(Integer space_group_number, const IndexTriple& hkl) {
 
 ObservedReflections::ObservedReflections(const CrystalState& state) {
   for (int row = 1; row <= state.JcpdsCount.value(); ++row) {
-    const IndexTriple hkl{state.JcpdsH(row), state.JcpdsK(row), state.JcpdsL(row)};
+    const SingleTriple hkl{state.JcpdsH(row), state.JcpdsK(row), state.JcpdsL(row)};
     const Single value = to_single(double{state.JcpdsI(row)} * form_weight(state.SGNumber, hkl));
     for (const auto& [h, k, l] : equivalent_indices(state.SGNumber, hkl)) {
       if (!is_index(h) || !is_index(k) || !is_index(l)) continue;  // no reflection of the list has such indices
@@ -170,13 +170,9 @@ ObservedReflections::ObservedReflections(const CrystalState& state) {
   }
 }
 
-std::optional<Single> ObservedReflections::value(Integer h, Integer k, Integer l) const {
+std::optional<Single> ObservedReflections::JcpdsFactor(Integer h, Integer k, Integer l) const {
   const auto found = values_.find(key(h.value(), k.value(), l.value()));
   return found == values_.end() ? std::nullopt : std::optional(found->second);
-}
-
-void JcpdsFactor(CrystalState& state, const ObservedReflections& observed, int i) {
-  if (const auto value = observed.value(state.RefH(i), state.RefK(i), state.RefL(i))) state.RefA(i) = *value;
 }
 
 }  // namespace zol

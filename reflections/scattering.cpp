@@ -55,18 +55,12 @@ const AsfRow* find_scatter_row(const Main1State& state, std::string_view element
   return nullptr;
 }
 
-Single scattering_factor(const Main1State& state, const AsfRow* row, Single s, const Radiation& radiation) {
+Single AtomicScatter(const Main1State& state, const AsfRow* row, Single s, const Radiation& radiation) {
   const Single f = row == nullptr ? 0.0F : xray_factor(*row, s);
   if (!radiation.electron || s == 0) return f;
   const int atomic_number = row == nullptr ? 0 : row->Z.value();
   const double s_wide = s;
   return to_single((atomic_number - double{f}) * mott_constant / s_wide / s_wide * double{state.MassRatio});
-}
-
-Single AtomicScatter(Main1State& state, std::string_view element, Single s, const Radiation& radiation) {
-  const AsfRow* row = find_scatter_row(state, element);
-  if (row == nullptr) state.ScatterMissing = 1;
-  return scattering_factor(state, row, s, radiation);
 }
 
 }  // namespace zol

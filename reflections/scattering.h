@@ -12,7 +12,7 @@
 
 namespace zol {
 
-/// What the structure factors are made for: the two option buttons of the main window.
+/// Radiation of the structure factors and intensities, as chosen in the main window.
 struct Radiation {
   bool xray = false;      ///< X-ray intensity
   bool electron = false;  ///< electron intensity and electron scattering factors
@@ -23,15 +23,13 @@ struct Radiation {
 /// @throws RunFailure  the file is missing, a record is broken, or there are more than 300 rows
 Integer read_scatter_table(const std::string& path, BoundedArray<AsfRow>& table);
 
-/// Row of an element in AsfX, the first of two with one key; nullptr when there is none.
+/// Row of an element in AsfX, compared exactly; the first one if there are several, nullptr if there is none. The
+/// pointer is valid as long as the table of the state.
 [[nodiscard]] const AsfRow* find_scatter_row(const Main1State& state, std::string_view element);
 
-/// Scattering factor by a row, as AtomicScatter gives it; without a row that of a factor and an atomic number of 0.
-[[nodiscard]] Single scattering_factor(const Main1State& state, const AsfRow* row, Single s,
-                                       const Radiation& radiation);
-
-/// Scattering factor of an element: electrons in units of angstroms times MassRatio, X-rays (and electrons at s = 0) in
-/// electrons. An element without a row gives 0 and sets ScatterMissing.
-[[nodiscard]] Single AtomicScatter(Main1State& state, std::string_view element, Single s, const Radiation& radiation);
+/// Scattering factor of the element of a row at s: for electrons in angstroms times MassRatio, for X-rays (and for
+/// electrons at s = 0) in electrons. 0 without a row.
+/// @throws RunFailure  the factor passes the range of a Single
+[[nodiscard]] Single AtomicScatter(const Main1State& state, const AsfRow* row, Single s, const Radiation& radiation);
 
 }  // namespace zol

@@ -121,7 +121,7 @@ std::size_t ScatteringCell::kind_of(const AsfRow* row, double occupancy, double 
 void ScatteringCell::scatter_at(Single s, std::span<double> factors, std::span<double> weights,
                                 std::span<double> dampings) const {
   for (std::size_t e = 0; e < elements_.size(); ++e) {
-    factors[e] = scattering_factor(*state_, elements_[e], s, radiation_);
+    factors[e] = AtomicScatter(*state_, elements_[e], s, radiation_);
   }
   for (std::size_t n = 0; n < kinds_.size(); ++n) {
     weights[n] = to_single(factors[kinds_[n].element] * kinds_[n].occupancy);
@@ -135,7 +135,7 @@ void ScatteringCell::phases_at(double h, double k, double l, std::span<double> p
   }
 }
 
-Amplitude ScatteringCell::amplitude(Integer h, Integer k, Integer l, Single s) const {
+Amplitude ScatteringCell::StructureFactor(Integer h, Integer k, Integer l, Single s) const {
   const std::size_t atoms = kind_.size();
   Room room(elements_.size() + 2 * kinds_.size() + 3 * atoms);
   const auto factors = room.take(elements_.size());
@@ -157,23 +157,16 @@ Amplitude ScatteringCell::amplitude(Integer h, Integer k, Integer l, Single s) c
   return {to_single(a), to_single(b)};  // a sum that leaves the range never comes back into it
 }
 
-void ScatteringCell::StructureFactor(CrystalState& state, int i) const {
-  if (scatter_missing()) state.ScatterMissing = 1;
-  const auto [a, b] = amplitude(state.RefH(i), state.RefK(i), state.RefL(i), state.RefS(i));
-  state.RefA(i) = a;
-  state.RefB(i) = b;
-}
-
 Intensity ReflectionIntensity(const CrystalState& state, const ListEntry& entry, const ObservedReflections& observed,
                               const ScatteringCell& atoms) {
   Intensity intensity;
   if (state.NAtom > 0) {
-    intensity.f = atoms.amplitude(entry.h, entry.k, entry.l, entry.s);
+    intensity.f = atoms.StructureFactor(entry.h, entry.k, entry.l, entry.s);
     const Single f = append_structure_factor(intensity);
     if (atoms.radiation().xray) xray_intensity(state, entry.theta, f, intensity);
     if (atoms.radiation().electron) electron_intensity(state, entry.s, f, intensity);
   } else if (state.JcpdsCount > 0) {
-    intensity.f.a = observed.value(entry.h, entry.k, entry.l).value_or(0.0F);
+    intensity.f.a = observed.JcpdsFactor(entry.h, entry.k, entry.l).value_or(0.0F);
     intensity.value = append_structure_factor(intensity);
     append_intensity(intensity.columns, intensity.value);
   }

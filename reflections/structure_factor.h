@@ -12,14 +12,14 @@
 
 namespace zol {
 
-/// Real and imaginary part of a structure factor.
+/// Real and imaginary part of a structure factor: electrons, or angstroms times MassRatio for electron scattering.
 struct Amplitude {
   Single a = 0, b = 0;
 };
 
-/// The unit cell laid out for the structure factors of many reflections. What atoms share is worked out once: the row
-/// of the table and the scattering factor of an element, weight and damping of a kind, which is an element with an
-/// occupancy and a B. It looks into the state that it was made from, and several threads may ask it.
+/// The unit cell prepared for the structure factors of many reflections. What atoms share is computed once: the row and
+/// the scattering factor of an element, weight and damping of a kind, which is an element with an occupancy and a B. It
+/// refers to the state that it was made from, which must outlive it. Several threads may use it.
 class ScatteringCell {
  public:
   ScatteringCell(const CrystalState& state, const Radiation& radiation);
@@ -27,16 +27,12 @@ class ScatteringCell {
   /// The structure factor of (h, k, l) at s = sin(theta)/lambda in 1/angstrom. Sums are rounded to Single after each
   /// atom; 2 pi is 6.28318. An element without a scattering factor counts as 0.
   /// @throws RunFailure  a sum passes the range of a Single
-  [[nodiscard]] Amplitude amplitude(Integer h, Integer k, Integer l, Single s) const;
+  [[nodiscard]] Amplitude StructureFactor(Integer h, Integer k, Integer l, Single s) const;
 
   /// An element of the cell has no row in the table of scattering factors.
   [[nodiscard]] bool scatter_missing() const {
     return std::any_of(elements_.begin(), elements_.end(), [](const AsfRow* row) { return row == nullptr; });
   }
-
-  /// Sets RefA(i) and RefB(i) to the structure factor of entry i, which must hold h, k, l and RefS(i). An element
-  /// without a scattering factor sets ScatterMissing.
-  void StructureFactor(CrystalState& state, int i) const;
 
   [[nodiscard]] const Radiation& radiation() const { return radiation_; }
 
@@ -56,12 +52,12 @@ class ScatteringCell {
   std::vector<const AsfRow*> elements_;  ///< null where the table has no row
   std::vector<Kind> kinds_;
 
-  // One entry an atom.
+  // One entry per atom.
   std::vector<double> x_, y_, z_;
   std::vector<std::size_t> kind_;
 };
 
-/// A reflection of the list, with what its intensity hangs on.
+/// A reflection of the list, with what its intensity depends on.
 struct ListEntry {
   Integer h, k, l;
   Single s = 0;      ///< sin(theta)/lambda

@@ -165,7 +165,7 @@ ListOrder order_by_intensity(const CrystalState& state, Task& task) {
   }
   std::vector<double> keys;
   for (int i = 0; i <= count; ++i) keys.push_back(state.RefI(i));
-  return {exchange_order(keys, first_sorted, with_checks(first_smallest_below(never_taken), task)), true};
+  return {exchange_order(keys, first_sorted, first_smallest_below(never_taken), false, task), true};
 }
 
 std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const FiberPicture& picture, Task& task) {

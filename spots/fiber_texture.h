@@ -16,18 +16,18 @@
 namespace zol {
 
 /// The reflection list by RefI from entry 2 on, ascending; entry 1 and RefTwoTheta stay. Equal intensities end in the
-/// order that a selection sort with exchanges gives, reached in n log n steps.
+/// order that a selection sort with exchanges gives, found in n log n steps.
 /// @throws RunFailure  fewer than two reflections
 [[nodiscard]] ListOrder order_by_intensity(const CrystalState& state, Task& task);
 
 /// The picture that the arcs are for.
 struct FiberPicture {
   int width_px = 0, height_px = 0;  ///< pixels that span -CamAcquisition to CamAcquisition
-  std::optional<double> exponent;   ///< of the strongest intensity, to which others are related
-  IsBlack is_black = {};            ///< pixels of which no more is asked, for arcs of more than one turn; may be empty
+  std::optional<double> exponent;   ///< applied to the strongest intensity, to which the others are related
+  IsBlack is_black = {};            ///< pixels already black, which arcs of more than one turn may skip; may be empty
 };
 
-/// A pixel of an arc and what it adds to the darkness there.
+/// A pixel of an arc, in inverse angstroms, and what it adds to the darkness there.
 struct ArcPoint {
   Single x = 0, y = 0;
   Integer darkness;  ///< 0 to 255 for the strongest reflection, more with an exponent below 1
@@ -37,11 +37,11 @@ struct ArcPoint {
 /// What is drawn for one reflection: the points of its four arcs in turn, and its label.
 struct FiberArcs {
   std::vector<ArcPoint> points;
-  Single label_x = 0, label_y = 0;  ///< not at the arcs: its angle in degrees goes into the sine as it is
+  Single label_x = 0, label_y = 0;  ///< not at the arcs: the sine is taken of its angle in degrees
 };
 
-/// Arcs of reflection i of the sorted list; none for one without intensity or beyond the corner of the picture. Points
-/// that fall on the pixel of the point before them are left out. An arc of more than one turn has all that its further
+/// Arcs of reflection i of the sorted list; none if it has no intensity or lies beyond the corner of the picture.
+/// Points on the same pixel as the point before them are omitted. An arc of more than one turn has all that its further
 /// turns add to a pixel in one point there, up to black.
 /// @throws RunFailure  the fiber direction is zero, a darkness does not fit 16 bits, the dispersion is too large
 [[nodiscard]] std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const FiberPicture& picture,

@@ -7,7 +7,7 @@
 
 namespace zol {
 
-/// How a relative intensity shows: a power of it when one is given, else itself or its square root.
+/// How a relative intensity is shown: its power if an exponent is given, otherwise itself or its square root.
 struct GreyScale {
   bool square_root = false;
   std::optional<double> exponent;

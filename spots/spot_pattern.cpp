@@ -6,7 +6,6 @@
 
 #include "core/cell_geometry.h"
 #include "reflections/reflection_list.h"
-#include "reflections/structure_factor.h"
 
 namespace zol {
 namespace {
@@ -91,28 +90,6 @@ std::optional<DiffractionSpot> spot_in_picture(const CrystalState& state, const 
   return spot;
 }
 
-/// A list of entry 0 alone, in which structure factors are worked out.
-CrystalState scratch_list(const CrystalState& state) {
-  CrystalState scratch;
-  static_cast<Main1State&>(scratch) = state;
-  scratch.ScatterMissing = 0;
-  for (auto* array : {&scratch.RefH, &scratch.RefK, &scratch.RefL}) array->allocate(0);
-  for (auto* array : {&scratch.RefS, &scratch.RefA, &scratch.RefB}) array->allocate(0);
-  return scratch;
-}
-
-/// |F|^2 of a spot.
-Single spot_intensity(CrystalState& scratch, const DiffractionSpot& spot, ScatteringCell& atoms) {
-  scratch.RefH(0) = spot.h;
-  scratch.RefK(0) = spot.k;
-  scratch.RefL(0) = spot.l;
-  scratch.RefS(0) = to_single(double{DHKL(scratch, spot.h, spot.k, spot.l)} / 2.0);
-  atoms.StructureFactor(scratch, 0);
-  const double a = scratch.RefA(0);
-  const double b = scratch.RefB(0);
-  return to_single(a * a + b * b);
-}
-
 }  // namespace
 
 void visit_reflections_on_level(const CrystalState& state, const std::function<void(const Indices<Integer>&)>& visit,
@@ -123,6 +100,7 @@ void visit_reflections_on_level(const CrystalState& state, const std::function<v
   const int l_limit = index_limit(frame.half_width, state.CStar, "c*");
   const char letter = state.LatticeLetter.empty() ? 'P' : state.LatticeLetter.front();
   for (int h = -h_limit; h <= h_limit; ++h) {
+    task.check();
     for (int k = -k_limit; k <= k_limit; ++k) {
       if (frame.w == 0.0 && !on_level(frame, h, k, 0)) continue;  // then l does not count
       task.check();
@@ -137,8 +115,7 @@ void visit_reflections_on_level(const CrystalState& state, const std::function<v
 
 SpotPattern diffraction_spots(const CrystalState& state, const Radiation& radiation, Task& task) {
   const ZoneFrame frame = zone_frame(state);
-  ScatteringCell atoms(state, radiation);
-  CrystalState scratch = scratch_list(state);
+  const ScatteringCell atoms(state, radiation);
   SpotPattern pattern;
   std::optional<double> axis_length;  // worked out for the first spot: it may fail
   const auto visit = [&](const Indices<Integer>& hkl) {
@@ -147,14 +124,15 @@ SpotPattern diffraction_spots(const CrystalState& state, const Radiation& radiat
     auto spot = spot_in_picture(state, frame, *axis_length, hkl);
     if (!spot) return;
     (void)state.RefH(0);  // without a list there is no place for a spot
-    spot->intensity = spot_intensity(scratch, *spot, atoms);
+    pattern.last_s = to_single(double{DHKL(state, hkl.h, hkl.k, hkl.l)} / 2.0);
+    pattern.last_f = atoms.StructureFactor(hkl.h, hkl.k, hkl.l, pattern.last_s);
+    const double a = pattern.last_f.a;
+    const double b = pattern.last_f.b;
+    spot->intensity = to_single(a * a + b * b);
     pattern.spots.push_back(*spot);
   };
   visit_reflections_on_level(state, visit, task);
-  pattern.last_s = scratch.RefS(0);
-  pattern.last_a = scratch.RefA(0);
-  pattern.last_b = scratch.RefB(0);
-  pattern.scatter_missing = scratch.ScatterMissing == 1;
+  pattern.scatter_missing = !pattern.spots.empty() && atoms.scatter_missing();
   return pattern;
 }
 
@@ -165,8 +143,8 @@ void leave_last_spot(const SpotPattern& pattern, CrystalState& state) {
   state.RefK(0) = last.k;
   state.RefL(0) = last.l;
   state.RefS(0) = pattern.last_s;
-  state.RefA(0) = pattern.last_a;
-  state.RefB(0) = pattern.last_b;
+  state.RefA(0) = pattern.last_f.a;
+  state.RefB(0) = pattern.last_f.b;
   if (pattern.scatter_missing) state.ScatterMissing = 1;
 }
 

@@ -10,7 +10,7 @@
 
 #include "core/crystal_state.h"
 #include "core/task.h"
-#include "reflections/scattering.h"
+#include "reflections/structure_factor.h"
 #include "spots/grey_scale.h"
 #include "spots/zone_geometry.h"
 
@@ -25,7 +25,7 @@ struct DiffractionSpot {
 };
 
 /// Visits the reflections h u + k v + l w = Level, within 0.0001, that the lattice letter allows and whose indices do
-/// not exceed 2 CamAcquisition / a* and so on; h outermost, l innermost, all rising. Where w is not 0 only those l are
+/// not exceed 2 CamAcquisition / a* and so on; h outermost, l innermost, all rising. If w is not 0, only those l are
 /// tried that can lie on the level.
 /// @throws RunFailure  no cell, limits or reference reflection beyond 16 bits
 void visit_reflections_on_level(const CrystalState& state, const std::function<void(const Indices<Integer>&)>& visit,
@@ -33,18 +33,19 @@ void visit_reflections_on_level(const CrystalState& state, const std::function<v
 
 struct SpotPattern {
   std::vector<DiffractionSpot> spots;
-  Single last_s = 0, last_a = 0, last_b = 0;  ///< RefS, RefA and RefB of the last spot
-  bool scatter_missing = false;               ///< an element of a spot has no scattering factor
+  Single last_s = 0;             ///< RefS of the last spot
+  Amplitude last_f;              ///< RefA and RefB of it
+  bool scatter_missing = false;  ///< an element of a spot has no scattering factor
 };
 
-/// All of them whose projection lies inside the square of half width CamAcquisition, in that order, those of intensity
-/// 0 included.
+/// All reflections on the level whose projection lies inside the square of half width CamAcquisition, in that order,
+/// including those of intensity 0.
 /// @throws RunFailure  zero axis or zero reference reflection, indices beyond 16 bits, no reflection arrays, a spot
 ///                     whose direction cosine to the reference squares to more than 1.0001
 [[nodiscard]] SpotPattern diffraction_spots(const CrystalState& state, const Radiation& radiation, Task& task);
 
-/// Leaves the last spot in entry 0 of the reflection arrays, where spots have always been worked out, and
-/// ScatterMissing at 1 when a scattering factor was missing.
+/// Writes the last spot to entry 0 of the reflection arrays and sets ScatterMissing to 1 if a scattering factor was
+/// missing. Without spots nothing changes.
 void leave_last_spot(const SpotPattern& pattern, CrystalState& state);
 
 /// The intensity of the strongest spot; 0 when there is none.

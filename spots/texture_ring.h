@@ -23,11 +23,11 @@ struct TextureRing {
   int width_px = 0, height_px = 0;
 
   [[nodiscard]] std::pair<Single, Single> position(double angle) const;
-  // Where a position falls, as a canvas has it; beside the picture there are no pixels.
+  // The place of a position on the canvas, in pixels; none beside the picture.
   [[nodiscard]] double column(double x) const;
   [[nodiscard]] double row(double y) const;
   [[nodiscard]] std::optional<PicturePixel> pixel(double column, double row) const;
-  /// False when no position falls on a pixel for certain.
+  /// False only if certainly no position falls on the pixel.
   [[nodiscard]] bool meets(const PicturePixel& pixel) const;
 };
 
@@ -38,9 +38,9 @@ class RingSectors {
  public:
   explicit RingSectors(const TextureRing& ring);
 
-  /// Looks which are done. @param sense  1 or -1, the way in which the ring is walked
+  /// Finds out which sectors are done. @param sense  1 or -1, the way in which the ring is walked
   void look(int sense, const IsBlack& is_black);
-  /// Angle, from one on, that is done for certain; infinite when the whole ring is.
+  /// Angle in radians, from a given one on, that is certainly done; infinite if the whole ring is.
   [[nodiscard]] double done_from(double angle) const;
 
  private:

@@ -28,8 +28,8 @@ struct TiltAngles {
   Single phi = 0;    ///< azimuth
 };
 
-/// Direction of a point of the gnomonic plane (tangents of the angle from the centre), the rotation of the pattern
-/// still in its azimuth. On the y axis upward the azimuth is 3.14149/2; for x < 0, y = 0 it is 0.
+/// Direction of a point of the gnomonic plane (tangents of the angle from the centre), the azimuth still includes the
+/// rotation of the pattern. On the y axis upward the azimuth is 3.14149/2; for x < 0, y = 0 it is 0.
 [[nodiscard]] TiltAngles angles_of_point(Single x, Single y);
 
 /// Whole zone axis nearest below a direction: its largest component is 1000, floors, then reduced by common divisors
@@ -37,11 +37,11 @@ struct TiltAngles {
 /// @throws RunFailure  a zero direction
 [[nodiscard]] Indices<Integer> zone_axis_of(const Orientation& frame, const TiltAngles& direction);
 
-/// Indices of the plane whose normal is the direction [u v w], in percent of the sum of their sizes, floors.
+/// Indices of the plane whose normal is the direction [u v w], in percent of the sum of their magnitudes, rounded down.
 /// @throws RunFailure  a zero direction
 [[nodiscard]] SingleTriple normal_plane_percent(const Main1State& cell, const Indices<Integer>& direction);
 
-/// What goes with a new zone axis.
+/// Reference reflection and turn that belong to a new zone axis.
 struct NewReference {
   Indices<Integer> reflection{};       ///< its reference reflection, each index clipped to 1000 by itself
   std::optional<Single> turn_degrees;  ///< turn of the pattern that keeps the old reference; none for a zero reference

@@ -1,5 +1,5 @@
 // Index triples that belong to a zone axis [u v w]: the reflection from which azimuths are counted, and the vector at
-// right angles to two reflections, which tells on which side of it a reflection lies. Bare indices, no metric.
+// right angles to two reflections, which gives the side of it that a reflection lies on. Bare indices, no metric.
 #pragma once
 
 #include "core/triples.h"
@@ -8,7 +8,7 @@ namespace zol {
 
 /// The reflection (w, w, -u-v), floors of the components + 0.5. It lies in the zone of any whole [u v w], since
 /// w u + w v - (u + v) w = 0, and is not reduced. (0, 0, 0) for [n -n 0].
-/// @throws RunFailure  a component does not fit the width
+/// @throws RunFailure  a component does not fit the integer type
 template <class Whole>
 [[nodiscard]] Indices<Whole> plane_in_zone(double u, double v, double w) {
   return {Whole::floor(w + 0.5), Whole::floor(w + 0.5), Whole::floor(-u - v + 0.5)};
@@ -21,7 +21,7 @@ template <class Whole>
 }
 
 /// Vector product a x b of two reflections: the direction [u v w] of their common zone, with its sense.
-/// @throws RunFailure  a product or difference leaves the width, already at the products
+/// @throws RunFailure  a product or difference does not fit the integer type
 template <class Whole>
 [[nodiscard]] Indices<Whole> cross_vector(const Indices<Whole>& a, const Indices<Whole>& b) {
   return {a.k * b.l - b.k * a.l, b.h * a.l - a.h * b.l, a.h * b.k - b.h * a.k};

@@ -2,17 +2,16 @@
 
 #include <gtest/gtest.h>
 
+#include "core/triples.h"
 #include "tests/crystals.h"
 #include "tests/recorded_task.h"
 
 namespace zol {
 namespace {
 
-using Position = std::array<Single, 3>;
-
 /// Distances to the atoms of a unit cell, given as they stand, from one site.
-std::vector<AtomDistance> distances(const CellNumbers& cell, const Position& site, const std::vector<Position>& atoms,
-                                    Single limit) {
+std::vector<AtomDistance> distances(const CellNumbers& cell, const SingleTriple& site,
+                                    const std::vector<SingleTriple>& atoms, Single limit) {
   CrystalState state = with_cell(cell);
   state.NAtom = 1;
   state.NCell = static_cast<int>(atoms.size());
@@ -32,40 +31,31 @@ TEST(AtomDistances, StandInTheOrderOfTheCells) {
   struct Row {
     const char* name;
     CellNumbers cell;
-    Position site;
-    std::vector<Position> atoms;
+    SingleTriple site;
+    std::vector<SingleTriple> atoms;
     Single limit;
     std::vector<int> found;  ///< numbers of the atoms
     std::vector<double> at;  ///< their distances
   };
   constexpr CellNumbers long_b_and_c{4, 9, 9, 90, 90, 90};
-  const std::vector<Row> rows{
-      // By hand: differences -2.7, 0.3, 3.3 along a, -3.2, 0.8, 4.8 along b, -3.5, 1.5, 6.5 along c.
-      {"orthorhombic",
-       {3, 4, 5, 90, 90, 90},
-       {0, 0, 0},
-       {{0.1F, 0.2F, 0.3F}},
-       5,
-       {1, 1, 1, 1, 1, 1, 1, 1, 1, 1},
-       {4.4475, 4.4922, 3.1906, 4.7518, 3.5468, 3.6028, 1.7263, 4.8353, 4.8765, 3.7121}},
-      // With the orthogonalization of gemmi 0.5 (UnitCell::orthogonalize_difference).
-      {"triclinic",
-       {5.58F, 8.14F, 12.78F, 94.2F, 116.6F, 87.8F},
-       {0.1F, 0.2F, 0.7F},
-       {{0.1F, 0.2F, 0.7F}, {0.9F, 0.8F, 0.3F}},
-       8.5,
-       {2, 1, 2, 1, 2, 2, 1, 1},
-       {5.5418, 5.58, 7.0257, 8.14, 7.824, 8.2531, 8.14, 5.58}},
-      // Coordinates count as they stand: from 2.25 along a the nearest of three cells is at 1.
-      {"site outside the cell", long_b_and_c, {2.25F, 0, 0}, {{0, 0, 0}}, 8, {1}, {5}},
-      {"limit belongs to the list", long_b_and_c, {0, 0, 0}, {{0.5F, 0, 0}}, 2, {1, 1}, {2, 2}},
-      {"same place within 0.01",
-       {1, 9, 9, 90, 90, 90},
-       {0, 0, 0},
-       {{0.01F, 0, 0}, {0.0101F, 0, 0}},
-       0.5,
-       {2},
-       {0.0101}}};
+  const std::vector<Row> rows{// With the orthogonalization of gemmi 0.5 (UnitCell::orthogonalize_difference).
+                              {"triclinic",
+                               {5.58F, 8.14F, 12.78F, 94.2F, 116.6F, 87.8F},
+                               {0.1F, 0.2F, 0.7F},
+                               {{0.1F, 0.2F, 0.7F}, {0.9F, 0.8F, 0.3F}},
+                               8.5,
+                               {2, 1, 2, 1, 2, 2, 1, 1},
+                               {5.5418, 5.58, 7.0257, 8.14, 7.824, 8.2531, 8.14, 5.58}},
+                              // Coordinates count as they stand: from 2.25 along a the nearest of three cells is at 1.
+                              {"site outside the cell", long_b_and_c, {2.25F, 0, 0}, {{0, 0, 0}}, 8, {1}, {5}},
+                              {"limit belongs to the list", long_b_and_c, {0, 0, 0}, {{0.5F, 0, 0}}, 2, {1, 1}, {2, 2}},
+                              {"same place within 0.01",
+                               {1, 9, 9, 90, 90, 90},
+                               {0, 0, 0},
+                               {{0.01F, 0, 0}, {0.0101F, 0, 0}},
+                               0.5,
+                               {2},
+                               {0.0101}}};
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
     const auto found = distances(row.cell, row.site, row.atoms, row.limit);
@@ -77,20 +67,14 @@ TEST(AtomDistances, StandInTheOrderOfTheCells) {
   }
 }
 
-TEST(DistanceLine, IsMadeOfFivePieces) {
-  struct Row {
-    const char* label;
-    const char* element;
-    const char* line;
-  };
-  for (const auto& row : {Row{"Al12345", "Abcd", "Al12345    (Abcd) -Al12345   (Abcd)   1.9465"},
-                          Row{"LongLabel1", "VeryLongEl", "gLabel1eryLongEl) -gLabel1ryLongEl)   1.9465"},
-                          // Six blanks in front do not fill the field of an empty name.
-                          Row{"", "", "            () -            ()   1.9465"}}) {
-    CrystalState state;
-    state.AtomLabel(1) = state.UCLabel(2) = row.label;
-    state.AtomElement(1) = state.UCElement(2) = row.element;
-    EXPECT_EQ(distance_line(state, 1, {2, 1.94651F}), row.line);
+TEST(DistanceLine, CutsLongNamesAtTheirLeft) {
+  CrystalState state;
+  for (const auto& [label, element, line] :
+       {std::array{"LongLabel1", "VeryLongEl", "gLabel1eryLongEl) -gLabel1ryLongEl)   1.9465"},
+        {"", "", "            () -            ()   1.9465"}}) {  // six blanks in front do not fill an empty field
+    state.AtomLabel(1) = state.UCLabel(2) = label;
+    state.AtomElement(1) = state.UCElement(2) = element;
+    EXPECT_EQ(distance_line(state, 1, {2, 1.94651F}), line);
   }
 }
 

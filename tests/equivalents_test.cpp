@@ -74,7 +74,7 @@ TEST(Equivalents, AreTheOrbitOfTheLaueClass) {
 TEST(FormWeight, IsTheOneOfTheLaueClass) {
   struct Row {
     int number;
-    IndexTriple hkl;
+    SingleTriple hkl;
     int weight;
   };
   for (const auto& [number, hkl, weight] : {
@@ -86,7 +86,7 @@ TEST(FormWeight, IsTheOneOfTheLaueClass) {
            Row{205, {1, 1, 1}, 3}, Row{205, {1, 1, 0}, 2}, Row{225, {1, 0, 0}, 8},   Row{225, {1, 1, -1}, 8},
            Row{225, {1, 2, 3}, 1}, Row{231, {1, 0, 0}, 1},
        }) {
-    EXPECT_EQ(form_weight(number, hkl), weight) << number << ": " << hkl.h << ' ' << hkl.k << ' ' << hkl.l;
+    EXPECT_EQ(form_weight(number, hkl), weight) << number << ": " << hkl[0] << ' ' << hkl[1] << ' ' << hkl[2];
   }
 }
 
@@ -102,17 +102,13 @@ TEST(Observed, GiveTheirWeightedValueToAllEquivalents) {
     state.JcpdsL(r) = l;
     state.JcpdsI(r) = intensity;
   }
-  set_list(state, {{-1, 1, -1, 0}, {0, -2, 0, 0}, {2, 2, 0, 0}, {1, 0, 0, 0}});
-  constexpr std::array<Single, 4> expected{800, 8, 77, 77};  // the last row wins; a half index never matches
-  for (int i = 1; i <= 4; ++i) {
-    state.RefA(i) = 77;
-    JcpdsFactor(state, ObservedReflections(state), i);
-    EXPECT_EQ(state.RefA(i), expected[static_cast<std::size_t>(i - 1)]) << i;
-  }
+  const ObservedReflections observed(state);
+  EXPECT_EQ(observed.JcpdsFactor(-1, 1, -1), 800);
+  EXPECT_EQ(observed.JcpdsFactor(0, -2, 0), 8) << "the last row wins";
+  EXPECT_EQ(observed.JcpdsFactor(2, 2, 0), std::nullopt);
+  EXPECT_EQ(observed.JcpdsFactor(1, 0, 0), std::nullopt) << "a half index never matches";
   state.SGNumber = 240;  // has no table of equivalents
-  state.RefA(1) = 77;
-  JcpdsFactor(state, ObservedReflections(state), 1);
-  EXPECT_EQ(state.RefA(1), 77);
+  EXPECT_EQ(ObservedReflections(state).JcpdsFactor(1, 1, 1), std::nullopt);
 }
 
 }  // namespace

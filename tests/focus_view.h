@@ -1,4 +1,4 @@
-// A view that remembers where the focus was sent.
+// A view that remembers where the focus was sent, the pointers of the windows, and the bars.
 #pragma once
 
 #include <string>
@@ -12,12 +12,16 @@ class FocusView : public WindowView {
  public:
   void window_created(Window& window) override { window.set_view(this); }
   void window_shown(Window& /*window*/) override {}
-  void window_changed(Window& /*window*/) override {}
+  void window_changed(Window& window) override { pointers.push_back(window.mouse_pointer()); }
   void window_unloaded(Window& /*window*/) override {}
-  void control_changed(Control& /*control*/) override {}
+  void control_changed(Control& control) override {
+    if (const auto* bar = dynamic_cast<const ProgressBar*>(&control)) bars.push_back(bar->value());
+  }
   void focus_wanted(Control& control) override { wanted.push_back(control.name()); }
 
   std::vector<std::string> wanted;  ///< names of controls
+  std::vector<MousePointer> pointers;
+  std::vector<Single> bars;  ///< values
 };
 
 }  // namespace zol

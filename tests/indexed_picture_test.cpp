@@ -7,23 +7,15 @@
 #include "analysis/window/pattern3_form.h"
 #include "kikuchi/window/pattern2_form.h"
 #include "reflections/window/main1_form.h"
-#include "shell/desktop/qt_surface.h"
 #include "shell/program/main_menu_form.h"
 #include "shell/program/program.h"
 #include "tests/band_choice.h"
-#include "tests/fake_services.h"
+#include "tests/offscreen_desktop.h"
 #include "tests/projected_pattern.h"
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
-
-class PixelServices : public FakeServices {
- public:
-  std::unique_ptr<Surface> make_surface(int width, int height) override {
-    return std::make_unique<QtSurface>(width, height);
-  }
-};
 
 struct PictureCase {
   const char* name;

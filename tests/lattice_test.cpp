@@ -86,16 +86,17 @@ Structure rock_salt() {
 }
 
 TEST(StructureTest, CellAtomsMergeOnSymmetryElementsAndAcrossTheEdge) {
+  QuietTask quiet;
   Structure structure = rock_salt();
-  for (const double merge : {0.0, 0.1}) EXPECT_EQ(cell_atoms(structure, merge).size(), 8U);
+  for (const double merge : {0.0, 0.1}) EXPECT_EQ(cell_atoms(structure, merge, quiet).size(), 8U);
   structure.sites[0].position = {0.999, 0, 0};  // 0.011 angstroms from its inverse image
-  EXPECT_EQ(cell_atoms(structure, 0.1).size(), 8U);
+  EXPECT_EQ(cell_atoms(structure, 0.1, quiet).size(), 8U);
   structure.sites[0].position = {0.25, 0.1, 0};
-  EXPECT_EQ(cell_atoms(structure, 0.1).size(), 12U);
+  EXPECT_EQ(cell_atoms(structure, 0.1, quiet).size(), 12U);
   structure.operators.clear();
-  EXPECT_EQ(cell_atoms(structure, 0.1).size(), 2U);
+  EXPECT_EQ(cell_atoms(structure, 0.1, quiet).size(), 2U);
   structure.sites[0].position.v = NAN;
-  EXPECT_THROW((void)cell_atoms(structure, 0.1), RunFailure);
+  EXPECT_THROW((void)cell_atoms(structure, 0.1, quiet), RunFailure);
 }
 
 TEST(StructureTest, OperatorsMultiplyFromTheRight) {

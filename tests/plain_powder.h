@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "core/cell_geometry.h"
 #include "powder/histogram.h"
 #include "powder/interference.h"
 #include "powder/line_profile.h"
@@ -34,9 +35,9 @@ inline BoundedArray<Single> plain_histogram(const CrystalState& state, const Cry
           entry = static_cast<Single>(plain_interference(q, place(y, 1) * widths[1]) * entry);
           entry = static_cast<Single>(plain_interference(s, place(z, 2) * widths[2]) * entry);
           entry = static_cast<Single>(entry / p / p / q / q / s / s);
-          const double length = reciprocal_length(state, static_cast<Single>(state.RefH(r).value() + double{x}),
-                                                  static_cast<Single>(state.RefK(r).value() + double{y}),
-                                                  static_cast<Single>(state.RefL(r).value() + double{z}));
+          const double length = DHKLS(state, static_cast<Single>(state.RefH(r).value() + double{x}),
+                                      static_cast<Single>(state.RefK(r).value() + double{y}),
+                                      static_cast<Single>(state.RefL(r).value() + double{z}));
           const int bin = static_cast<int>(std::floor(double{state.Dmin} * length * count));
           bins(bin) = static_cast<Single>(double{bins(bin)} + double{state.RefI(r)} * double{entry});
         }

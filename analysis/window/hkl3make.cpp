@@ -1,7 +1,6 @@
 #include "analysis/window/hkl3make.h"
 
 #include "analysis/window/pattern3_form.h"
-#include "core/put_back.h"
 #include "reflections/window/main1_form.h"
 
 namespace zol {
@@ -15,17 +14,14 @@ void Hkl3make(Workbench& bench) {
     form.NhklWanted = count;
     form.Text2.set_text(plain_text(form.NhklWanted));
   }
-  BarTask task(form.ProgressBar1);
-  ReorderedList sorted(state, order_by_weighted_intensity(state, task));
-  PutBack used(form.NhklUsed);
+  WindowTask task(bench.services, form.ProgressBar1);
+  reorder(state, order_by_weighted_intensity(state, task));
   form.NhklUsed = extend_over_ties(state, form.NhklWanted);
 
   const Hourglass hourglass(form);
   form.ProgressBar1.set_range(0, form.NhklUsed);
   form.triples = make_triple_table(state, form.NhklUsed, task);
   form.Label8.set_caption(plain_text(form.NhklUsed));
-  used.keep();
-  sorted.keep();
 }
 
 }  // namespace zol

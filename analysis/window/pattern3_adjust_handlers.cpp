@@ -107,7 +107,7 @@ void Command15_Click(Workbench& bench, Pattern3Form& form) {
   const CameraStart start{camera.CamAcquisition, camera.CamXShift, camera.CamYShift};
   form.ProgressBar2.set_range(0, to_single(2 * form.AdjustSteps.value()));
   const Hourglass hourglass(form);
-  BarTask task(form.ProgressBar2);
+  WindowTask task(bench.services, form.ProgressBar2);
   go_to(form, start, best_grid_point(bench, form, start, task), camera);
   before.keep();
   form.Text3.set_text(plain_text(camera.CamAcquisition));

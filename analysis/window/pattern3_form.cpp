@@ -22,6 +22,10 @@ Pattern3Form::Pattern3Form(Workbench& bench)
     return value_text("x", x, "0.0", "") + value_text("   y", y, "0.0", " pixels");
   };
   file_drops = {{".bmp", &ImageLoad, &CommonDialog1}};
+  name_fields();
+}
+
+void Pattern3Form::name_fields() {
   add_arrays(fields(), lines.LineX, lines.LineY, lines.LineDone, LineLabel, LineColor, bands.ViewRange, bands.GnomX,
              bands.GnomY, bands.LineSlope, bands.LineIntercept, bands.LineDist, bands.BandS, bands.BandPhi,
              bands.BandTheta, bands.BandCos, bands.BandAngle, solutions.SolutionTriple, solutions.SolutionDir);

@@ -122,6 +122,7 @@ struct Pattern3Form : Window {
   SiCalibration calibration;
 
  private:
+  void name_fields();
   /// An element of a triple table under its name.
   template <auto element>
   void add_triples(const char* name) {

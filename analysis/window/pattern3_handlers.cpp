@@ -150,7 +150,7 @@ void Command1_Click(Workbench& bench, Pattern3Form& form) {
 
 void MatchAngle(Workbench& bench, Pattern3Form& form) {
   form.ProgressBar1.set_range(0, to_single(triples_of(form.NhklUsed)));
-  BarTask task(form.ProgressBar1);
+  WindowTask task(bench.services, form.ProgressBar1);
   const auto found =
       match_bands(main1_state(bench), form.triples, form.NhklUsed, form.bands, match_settings(form), task);
   take_solutions(found, form.solutions);

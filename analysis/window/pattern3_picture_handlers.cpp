@@ -147,11 +147,11 @@ void Command3_Click(Pattern3Form& form) {
   }
 }
 
-void Command4_Click(Pattern3Form& form) {
+void Command4_Click(Workbench& bench, Pattern3Form& form) {
   const auto shifts = read_corrector(form.CorrectorFile);
   const Hourglass hourglass(form);
   form.ProgressBar2.set_range(0, corrector_rows - 1);
-  BarTask task(form.ProgressBar2);
+  WindowTask task(bench.services, form.ProgressBar2);
   form.Picture1.edit_picture([&shifts, &task](Surface& image) { shift_rows(image, shifts, task); });
 }
 

@@ -18,7 +18,7 @@ void Text1_KeyPress(Workbench& bench, AtomDistanceForm& form, int& key) {
 
 void Command1_Click(Workbench& bench, AtomDistanceForm& form) {
   const CrystalState& state = main1_state(bench);
-  QuietTask task;
+  WindowTask task(bench.services);
   const DistanceCell cell = distance_cell(state);
   const auto of_sites = atom_distances(state, cell, form.DistanceMax, task);
   form.cell = cell;

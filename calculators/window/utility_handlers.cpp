@@ -26,7 +26,7 @@ UtilityForm::UtilityForm(Workbench& /*bench*/) : Window(window_name, "Utility") 
 namespace utility {
 namespace {
 
-void Command1_Click(UtilityForm& form);
+void Command1_Click(Workbench& bench, UtilityForm& form);
 void Command3_Click(UtilityForm& form);
 
 /// Writes an azimuth folded into its box. The field takes what stands there.
@@ -57,15 +57,15 @@ void Text4_Change(UtilityForm& form) { form.Rotate2 = single_in(form.Text4); }
 void Text1_KeyPress(UtilityForm& form, int& key) { enter_moves_to(form.Text2, key); }
 void Text2_KeyPress(UtilityForm& form, int& key) { enter_moves_to(form.Text3, key); }
 void Text3_KeyPress(UtilityForm& form, int& key) { enter_moves_to(form.Text4, key); }
-void Text4_KeyPress(UtilityForm& form, int& key) {
+void Text4_KeyPress(Workbench& bench, UtilityForm& form, int& key) {
   if (!swallow_enter(key)) return;
-  Command1_Click(form);
+  Command1_Click(bench, form);
 }
 
-void Command1_Click(UtilityForm& form) {
+void Command1_Click(Workbench& bench, UtilityForm& form) {
   fold(form.Text1, form.Phi1);
   fold(form.Text3, form.Phi2);
-  QuietTask task;
+  WindowTask task(bench.services);
   const auto found = search_direction({form.Phi1, form.Rotate1, form.Phi2, form.Rotate2}, task).answer();
   form.Label5.set_caption("Phi_0=" + Format(found.azimuth, "##0.00"));
   form.Label6.set_caption("Theta_0=" + Format(90.0 - double{found.polar}, "##0.00"));
@@ -121,17 +121,17 @@ void Text14_KeyPress(UtilityForm& form, int& key) { enter_moves_to(form.Text15, 
 void Text15_KeyPress(UtilityForm& /*form*/, int& key) { swallow_enter(key); }
 
 void Command4_Click(Workbench& bench, UtilityForm& form) {
-  const Vector hkl = reciprocal_equivalent(main1_state(bench), {form.VectorU, form.VectorV, form.VectorW});
-  form.Text13.set_text(Str(hkl.x));
-  form.Text14.set_text(Str(hkl.y));
-  form.Text15.set_text(Str(hkl.z));
+  const auto [h, k, l] = reciprocal_equivalent(main1_state(bench), {form.VectorU, form.VectorV, form.VectorW});
+  form.Text13.set_text(Str(h));
+  form.Text14.set_text(Str(k));
+  form.Text15.set_text(Str(l));
 }
 
 void Command5_Click(Workbench& bench, UtilityForm& form) {
-  const Vector uvw = direct_equivalent(main1_state(bench), {form.VectorH, form.VectorK, form.VectorL});
-  form.Text10.set_text(Str(uvw.x));
-  form.Text11.set_text(Str(uvw.y));
-  form.Text12.set_text(Str(uvw.z));
+  const auto [u, v, w] = direct_equivalent(main1_state(bench), {form.VectorH, form.VectorK, form.VectorL});
+  form.Text10.set_text(Str(u));
+  form.Text11.set_text(Str(v));
+  form.Text12.set_text(Str(w));
 }
 
 void Option1_Click(Workbench& bench, UtilityForm& form) { show_angle(bench, form); }

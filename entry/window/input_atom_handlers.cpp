@@ -32,14 +32,15 @@ std::vector<AtomSite> sites_in(const InputAtomForm& form) {
 }
 
 /// The dialog comes first, then the table is emptied, whether or not a file was chosen.
-void import(InputAtomForm& form, std::vector<AtomRow> (*read)(const std::string& path)) {
+void import(InputAtomForm& form, std::vector<AtomRow> (*read)(const std::string& path, Task& task)) {
   form.CommonDialog1.set_filter(file_filters::atom_lists);
   const std::string path = form.CommonDialog1.open(FileKind::AtomList);
   form.G.clear();
   write_frame(form.G, headers);
   if (path.empty()) return;
   int row = 0;
-  for (const auto& texts : read(path)) put_row(form.G, ++row, texts);
+  QuietTask task;
+  for (const auto& texts : read(path, task)) put_row(form.G, ++row, texts);
 }
 
 void Form_Load(Workbench& bench, InputAtomForm& form) {

@@ -23,11 +23,12 @@ void import(Workbench& bench, Main1Form& form, FileKind kind, const char* filter
   CrystalState& state = form.state;
   Reader reader(path);
   Integer atoms;
-  for (const auto& line : split_lines(read_file(path))) {
+  QuietTask task;
+  for_each_line(read_file(path), task, [&](std::string_view line) {
     const auto found = reader.take(line);
     if (found.site) store_site(state, (atoms += 1).value(), *found.site);
     for (const auto& entry : found.texts) write_box(form, entry);
-  }
+  });
   state.NAtom = atoms;
   form.Label19.set_caption(Str(state.NAtom));
   AtomCcalc(bench);

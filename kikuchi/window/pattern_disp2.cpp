@@ -1,7 +1,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "core/put_back.h"
 #include "kikuchi/kikuchi_pattern.h"
 #include "kikuchi/window/kikuchi_operations.h"
 #include "kikuchi/window/pattern2_form.h"
@@ -129,22 +128,18 @@ void settle_opening(CrystalState& state, Pattern2Form& form) {
   form.Text1.set_text(plain_text(state.CamAcquisition));
 }
 
-/// The lines to draw. The order of the list, the reference, the rotation and the grey scale stand when all are found.
+/// The lines to draw. Settles the order of the list, the reference, the rotation and the grey scale.
 std::vector<ShownLine> find_lines(CrystalState& state, Pattern2Form& form, Integer lowest_level, Task& task) {
-  ReorderedList sorted(state, order_for_kikuchi(state, task));
+  reorder(state, order_for_kikuchi(state, task));
   settle_opening(state, form);
   const auto view = gnomonic_view(state);
-  PutBack before(state.OriginH, state.OriginK, state.OriginL, state.PatternAngle, state.DisplayScale);
   take_reference(state);
   if (state.PatternFlag == 1) {
     state.PatternAngle = to_single(double{state.PatternAngle} + double{state.PatternAngleStep} * degree);
   }
   if (!form.Check4.checked() || state.DisplayScale == 0) state.DisplayScale = strongest_in_view(state, view, task);
   const auto lines = kikuchi_lines(state, view, form.Check3.checked(), task);
-  auto shown = shown_lines(state, form, lines, lowest_level);
-  before.keep();
-  sorted.keep();
-  return shown;
+  return shown_lines(state, form, lines, lowest_level);
 }
 
 }  // namespace
@@ -156,7 +151,7 @@ void PatternDisp2(Workbench& bench) {
   const Integer lowest_level = integer_in(form.Text2);
   state.KikuchiRefLimit = long_in(form.Text19);
   if (state.KikuchiRefLimit == 0) state.KikuchiRefLimit = state.RefCount;
-  QuietTask task;
+  WindowTask task(bench.services);
   const Hourglass hourglass(form);
   const auto lines = find_lines(state, form, lowest_level, task);
   const auto view = gnomonic_view(state);

@@ -119,7 +119,7 @@ void Calc(Workbench& bench) {
   const CrystalState& state = main1_state(bench);
   auto& form = bench.windows.use<ZaxisForm>();
   Canvas& picture = form.Picture1;
-  QuietTask task;
+  WindowTask task(bench.services);
   const auto directions = places_in_sweep(state, sweep_limits(form), task);
   if (form.KeepMap == 0) picture.clear();
   constexpr double label_size = 8;

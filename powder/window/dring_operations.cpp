@@ -76,7 +76,7 @@ void DRCalc(Workbench& bench) {
   form.allocate(state.Dmin, 10000);
   const auto grid = interference_grid(state, form.size());
   form.Label6.set_caption(grid_text(grid));
-  BarTask task(form.ProgressBar1);
+  WindowTask task(bench.services, form.ProgressBar1);
   const InterferenceTable table(grid, form.size(), task);
 
   form.ProgressBar1.set_range(0, to_single(state.RefCount.value()));

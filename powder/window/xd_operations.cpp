@@ -81,7 +81,7 @@ void XDCalc(Workbench& bench) {
   write_settings(form);
 
   const Hourglass hourglass(form);
-  BarTask task(form.ProgressBar1);
+  WindowTask task(bench.services, form.ProgressBar1);
   const InterferenceTable table(grid, form.size(), task);
   form.ProgressBar1.set_range(1, to_single(state.RefCount.value()));
   form.Bins = fill_histogram(state, table, form.BinCount, form.Bins.upper(), task);

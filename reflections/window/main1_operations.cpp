@@ -66,7 +66,7 @@ void AtomCcalc(Workbench& bench) {
   CrystalState& state = form.state;
   form.List1.clear();
   if (state.SGFile.empty()) throw RunFailure("the unit cell needs a space group, none has been chosen");
-  QuietTask task;
+  WindowTask task(bench.services);
   commit(state, expand_unit_cell(state, read_space_group(state.SGFile), task));
   form.Label20.set_caption(unit_cell_summary(state));
   for (int m = 1; m <= state.NCell.value(); ++m) form.List1.add_item(unit_cell_line(state, m));
@@ -89,7 +89,7 @@ void CalcReflections(Workbench& bench) {
   state.LatticeLetter = state.SGName.substr(0, 1);
 
   const Hourglass hourglass(form);
-  QuietTask task;
+  WindowTask task(bench.services);
   auto list = reflection_list(state, enumeration_settings(form), {form.Option1.on(), form.Option2.on()}, task);
   const auto lines = std::move(list.lines);
   commit(state, std::move(list));

@@ -63,6 +63,7 @@ int run_application(int argc, char** argv, const std::function<void(Desktop&)>& 
   Program program(data, services);
   Desktop desktop(program.windows(), show_failure);
   services.set_desktop(desktop);
+  desktop.gate().set_keep([&program] { return program.keep(); });
   QTimer::singleShot(0, &desktop, [&] {
     desktop.enter("the program started", [&program] { program.start(); });
     if (begun) begun(desktop);

@@ -4,15 +4,12 @@
 // the event is over, progress and the mouse pointer at once. A program write never comes back as a user's.
 #pragma once
 
-#include <functional>
 #include <memory>
 #include <set>
-#include <string>
 #include <utility>
 #include <vector>
 
 #include <QCursor>
-#include <QObject>
 #include <QPointer>
 
 #include "shell/desktop/user_events.h"
@@ -22,13 +19,16 @@ class QWidget;
 
 namespace zol {
 
-class Binder : public QObject {
-  Q_OBJECT
+class ControlTie;
 
+class Binder {
  public:
   /// @param widget  the top level of the window; its children bear the names of the controls
+  /// @throws std::logic_error  a control has no widget
   Binder(Window& window, QWidget& widget, UserEvents& events);
-  ~Binder() override;
+  Binder(const Binder&) = delete;
+  Binder& operator=(const Binder&) = delete;
+  ~Binder();
 
   [[nodiscard]] Window& window() const { return window_; }
   [[nodiscard]] QWidget& widget() const { return widget_; }
@@ -44,49 +44,20 @@ class Binder : public QObject {
   /// Shows all of it, as at the start.
   void show_everything();
 
-  /// Controls of the window that have no widget, and named widgets that no control stands for.
-  [[nodiscard]] const std::vector<std::string>& missing_widgets() const { return missing_widgets_; }
-
- protected:
-  bool eventFilter(QObject* watched, QEvent* event) override;
-
  private:
-  struct Tie;
-  class TextTie;
-  class LabelTie;
-  class ButtonTie;
-  class CheckTie;
-  class OptionTie;
-  class ComboTie;
-  class ListTie;
-  class FrameTie;
-  class MenuTie;
-  class ProgressTie;
-  class GridTie;
-  class CanvasTie;
-
-  std::unique_ptr<Tie> make_tie(Control& control);
-  template <class Widget>
-  [[nodiscard]] Widget* named(const Control& control) const;
-  [[nodiscard]] Tie* tie_of(const Control& control) const;
-  void enter(UserEvent event) { events_.enter(window_, std::move(event)); }
-  void act(std::initializer_list<std::string> words, std::function<void()> run) {
-    events_.act(window_, operation(words, std::move(run)));
-  }
+  [[nodiscard]] ControlTie* tie_of(const Control& control) const;
   void show_window();
   void show_hourglass();
 
   Window& window_;
   QWidget& widget_;
-  UserEvents& events_;
   QPointer<QWidget> neighbour_;
   std::vector<std::pair<QPointer<QWidget>, QCursor>> pointers_under_hourglass_;
-  std::vector<std::unique_ptr<Tie>> ties_;
+  std::vector<std::unique_ptr<ControlTie>> ties_;
   std::set<Control*> changed_;
   Control* wanted_focus_ = nullptr;
   bool window_changed_ = true;
   bool comes_to_front_ = false;
-  std::vector<std::string> missing_widgets_;
 };
 
 }  // namespace zol

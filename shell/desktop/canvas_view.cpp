@@ -198,7 +198,9 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event) {
     events_->guard([&] { emit pointed_at(tells ? to_qt(canvas_->describe_place(at.x(), at.y())) : QString()); });
   }
   if (!canvas_->on_mouse_move || !(inside || pressed_)) return;
-  events_->enter(canvas_->window(), mouse_event("move", event->position(), &Canvas::move));
+  UserEvent move = mouse_event("move", event->position(), &Canvas::move);
+  move.stoppable = false;
+  events_->enter(canvas_->window(), std::move(move));
 }
 
 void CanvasView::leaveEvent(QEvent* /*event*/) { emit pointed_at({}); }

@@ -1,7 +1,7 @@
 // Files dropped on a window.
 #pragma once
 
-#include "shell/desktop/binder.h"
+#include "shell/desktop/user_events.h"
 
 namespace zol {
 

@@ -11,7 +11,7 @@
 
 namespace zol {
 
-inline constexpr auto program_version = "6.37";
+extern const char* const program_version;  ///< as "6.37"
 
 class Program {
  public:
@@ -25,6 +25,9 @@ class Program {
   [[nodiscard]] Windows& windows() { return windows_; }
   [[nodiscard]] CrystalState& state() { return state_; }
   [[nodiscard]] Workbench& bench() { return bench_; }
+  /// Copies windows and state. @returns what makes them as they are now
+  [[nodiscard]] std::function<void()> keep();
+
   /// The arrays and scalars that belong to no window.
   [[nodiscard]] const NamedValues& module1() const { return module1_; }
 

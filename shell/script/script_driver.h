@@ -13,14 +13,6 @@
 
 namespace zol {
 
-/// Words of a line: separated by blanks; a word in double quotes may hold blanks, and in it \" \\ \n \r \t \b stand for
-/// the character; "#" outside quotes begins a comment.
-/// @throws ScriptError  an open quote or an unknown backslash
-[[nodiscard]] std::vector<std::string> split_words(const std::string& line);
-
-/// The drawing list of a picture as text in UTF-8, one primitive a line.
-[[nodiscard]] std::vector<std::string> drawing_text(const Canvas& canvas);
-
 class ScriptDriver {
  public:
   ScriptDriver(Program& program, ScriptServices& services, std::ostream& output);
@@ -45,7 +37,6 @@ class ScriptDriver {
   void select(const Words& words);
   void choose(const Words& words);
   void print(const Words& words);
-  void print_control(Control& shown);
   void print_value(const std::string& owner, const NamedValues& values, const std::string& name);
   void call(const Words& words);
   void print_pages();

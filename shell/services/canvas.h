@@ -67,7 +67,6 @@ class Canvas : public Control {
   void set_solid_fill(bool solid) { drawing_.pens.solid_fill = solid; }  ///< else transparent
   void set_font_size(double points) { drawing_.pens.font_size_pt = points; }
   void set_persistent(bool persistent) { drawing_.pens.persistent = persistent; }
-  [[nodiscard]] bool persistent() const { return drawing_.pens.persistent; }
 
   [[nodiscard]] int width() const { return drawing_.width_twips; }  ///< twips
   [[nodiscard]] int height() const { return drawing_.height_twips; }

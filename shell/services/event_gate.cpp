@@ -3,6 +3,7 @@
 #include <new>
 
 #include "core/run_failure.h"
+#include "core/task.h"
 
 namespace zol {
 namespace {
@@ -77,9 +78,19 @@ void EventGate::run(const UserEvent& event) {
   guard([this, &event] {
     if (event.still_wanted && !event.still_wanted()) return;
     if (journal_) journal_(event);
-    event.run();
+    run_or_put_back(event);
     if (!ended_) settle_();
   });
+}
+
+void EventGate::run_or_put_back(const UserEvent& event) {
+  std::function<void()> put_back;
+  if (keep_ && event.stoppable) put_back = keep_();
+  try {
+    event.run();
+  } catch (const Cancelled&) {
+    if (put_back) put_back();
+  }
 }
 
 void EventGate::guard(const std::function<void()>& action) noexcept {

@@ -1,7 +1,8 @@
 // The one place where events enter the program, whatever brings them: windows on a screen or the lines of a script.
 //
 // One event runs at a time. What comes in while one runs (from the loop of a dialog, from a repaint during a long
-// handler) waits until it is over and runs then, in order. No exception leaves the gate.
+// handler) waits until it is over and runs then, in order. No exception leaves the gate. An event that is stopped by
+// Cancelled is no failure: all is put back as it was before, and the program goes on.
 #pragma once
 
 #include <deque>
@@ -17,6 +18,7 @@ struct UserEvent {
   std::string script;                       ///< operations that repeat it, a line each; empty where none does
   std::function<void()> run;                ///< what it sets off
   std::function<bool()> still_wanted = {};  ///< asked when its turn has come; none: always
+  bool stoppable = true;                    ///< else it is always short, and nothing is kept to be put back
 };
 
 /// A line of a script from its words in UTF-8, quoted where they need it.
@@ -45,14 +47,18 @@ class EventGate {
   void end() noexcept { ended_ = true; }
   [[nodiscard]] bool ended() const noexcept { return ended_; }
 
+  /// Asked before each event that can be stopped. It keeps all that an event may change; its answer puts that back.
+  void set_keep(std::function<std::function<void()>()> keep) { keep_ = std::move(keep); }
   /// Told of each event before it runs.
   void set_journal(std::function<void(const UserEvent&)> journal) { journal_ = std::move(journal); }
 
  private:
   void run(const UserEvent& event);
+  void run_or_put_back(const UserEvent& event);
 
   std::function<void()> settle_;
   std::function<void(const std::exception_ptr&)> failed_;
+  std::function<std::function<void()>()> keep_;
   std::function<void(const UserEvent&)> journal_;
   std::deque<UserEvent> waiting_;
   bool running_ = false;

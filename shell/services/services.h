@@ -94,6 +94,9 @@ class Services {
   /// Writes a picture with its overlay to a file; the kind by the ending: .bmp, .png, .svg, .pdf.
   virtual void export_picture(Canvas& canvas, const std::string& path) = 0;
 
+  /// Asked often while something long runs: does the user want to stop it? Has to be quick.
+  [[nodiscard]] virtual bool stop_wanted() { return false; }
+
   /// Ends the program once the running handler has returned; no further event comes in.
   virtual void end_program() = 0;
 };

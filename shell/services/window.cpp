@@ -71,6 +71,10 @@ std::vector<std::string> Window::operation_names() const {
 
 Window& Windows::use(const std::string& name) {
   if (Window* existing = find(name)) return *existing;
+  return make(name, true);
+}
+
+Window& Windows::make(const std::string& name, bool opens) {
   const auto type = types_.find(name);
   if (type == types_.end()) throw RunFailure("there is no window " + name);
   auto made = type->second.make();
@@ -80,7 +84,7 @@ Window& Windows::use(const std::string& name) {
   try {
     if (view_ != nullptr) view_->window_created(window);
     type->second.load(window);
-    window.on_load.fire(name + " was opened");
+    if (opens) window.on_load.fire(name + " was opened");
   } catch (...) {
     unload(name);
     throw;
@@ -106,8 +110,12 @@ Windows::Copies Windows::copies() const {
 }
 
 void Windows::put_back(const Copies& copies) {
+  for (const auto& name : names()) {
+    if (!copies.contains(name)) unload(name);
+  }
   for (const auto& [name, copy] : copies) {
-    if (Window* window = find(name)) window->put_back(copy);
+    Window* existing = find(name);
+    (existing != nullptr ? *existing : make(name, false)).put_back(copy);
   }
 }
 

@@ -151,7 +151,8 @@ class Windows {
   /// Of the windows that exist, by name.
   using Copies = std::map<std::string, Window::Copy>;
   [[nodiscard]] Copies copies() const;
-  /// Those that exist still or again take theirs; no handler runs.
+  /// The windows are as when they were copied: those made since are unloaded, those unloaded since are made again. No
+  /// handler runs.
   void put_back(const Copies& copies);
 
   /// Ends a window; its next use makes a new one. Its handlers may still be running, so that its memory goes later.
@@ -163,6 +164,9 @@ class Windows {
   void set_view(WindowView* view);
 
  private:
+  /// @param opens  its Form_Load runs
+  Window& make(const std::string& name, bool opens);
+
   std::map<std::string, Type> types_;
   std::map<std::string, std::unique_ptr<Window>> windows_;
   std::vector<std::unique_ptr<Window>> unloaded_;

@@ -24,15 +24,21 @@ struct Workbench {
   CrystalState& crystal_;
 };
 
-/// Shows the progress of a calculation in a bar.
-class BarTask : public Task {
+/// A calculation that the user can stop and that shows its progress where there is a bar for it.
+class WindowTask : public Task {
  public:
-  explicit BarTask(ProgressBar& bar) : bar_(bar) {}
-  void report(int done, int /*total*/) override { bar_.set_value(static_cast<Single>(done)); }
-  void check() override {}
+  explicit WindowTask(Services& services) : services_(services) {}
+  WindowTask(Services& services, ProgressBar& bar) : services_(services), bar_(&bar) {}
+  void report(int done, int /*total*/) override {
+    if (bar_ != nullptr) bar_->set_value(static_cast<Single>(done));
+  }
+  void check() override {
+    if (services_.stop_wanted()) throw Cancelled();
+  }
 
  private:
-  ProgressBar& bar_;
+  Services& services_;
+  ProgressBar* bar_ = nullptr;
 };
 
 }  // namespace zol

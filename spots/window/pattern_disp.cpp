@@ -43,7 +43,7 @@ void PatternDisp(Workbench& bench) {
   settle_values(form, state);
 
   const Hourglass hourglass(form);
-  QuietTask task;
+  WindowTask task(bench.services);
   const auto pattern = diffraction_spots(state, {main1.Option1.on(), main1.Option2.on()}, task);
   const double half_width = state.CamAcquisition;
   form.Picture1.clear();

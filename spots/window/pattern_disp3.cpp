@@ -43,8 +43,8 @@ void PatternDisp3(Workbench& bench) {
   settle_values(form, state);
 
   const Hourglass hourglass(form);
-  QuietTask task;
-  ReorderedList sorted(state, order_by_intensity(state, task));
+  WindowTask task(bench.services);
+  reorder(state, order_by_intensity(state, task));
   const double half_width = state.CamAcquisition;
   picture.clear();
   picture.scale(-half_width, half_width, half_width, -half_width);
@@ -64,7 +64,6 @@ void PatternDisp3(Workbench& bench) {
     picture.move_to(arcs->label_x, arcs->label_y);
     picture.print(index_label(state.RefH(i), state.RefK(i), state.RefL(i)));
   }
-  sorted.keep();
 }
 
 }  // namespace zol

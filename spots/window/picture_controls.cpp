@@ -49,24 +49,6 @@ bool ask_image_size(Workbench& bench, Canvas& picture) {
   return true;
 }
 
-void set_half_width(Workbench& bench, TextBox& width, double half_width) {
-  bench.state.CamAcquisition = to_single(half_width);
-  width.set_text(Format(2.0 * bench.state.CamAcquisition, "##0.###"));
-}
-
-void set_first_width(Workbench& bench, TextBox& width) {
-  if (bench.state.CamAcquisition != 0) return;
-  bench.state.CamAcquisition = 1;
-  width.set_text(plain_text(2.0 * bench.state.CamAcquisition));
-}
-
-void turn_pattern(Workbench& bench, double angle_rad) {
-  CrystalState& state = main1_state(bench);
-  state.PatternAngle = to_single(state.PatternAngle + angle_rad);
-}
-
-double pitch_rad(Single pitch_deg) { return pitch_deg / 180.0 * program_pi; }
-
 std::optional<double> exponent_in(const TextBox& box) {
   if (box.text().empty()) return std::nullopt;
   return Val(box.text());

@@ -1,4 +1,4 @@
-// What both windows of this folder ask and set. Each prompt shows the present value in square brackets.
+// What windows with patterns ask and set. Each prompt shows the present value in square brackets.
 #pragma once
 
 #include "shell/services/workbench.h"
@@ -17,17 +17,7 @@ void ask_rotation_pitch(Workbench& bench, Single& pitch);
 /// Width and height of a square picture in twips. @returns false for 0 or an empty answer, which change nothing
 [[nodiscard]] bool ask_image_size(Workbench& bench, Canvas& picture);
 
-inline constexpr double zoom_factor = 1.4142;
 inline constexpr Single first_pitch_deg = 5;  ///< step of the rotation buttons when a window is loaded
-
-/// Half the width of the picture, in inverse angstroms; the box gets the whole width and rounds it.
-void set_half_width(Workbench& bench, TextBox& width, double half_width);
-
-/// The width of a picture that no window has set yet.
-void set_first_width(Workbench& bench, TextBox& width);
-
-void turn_pattern(Workbench& bench, double angle_rad);
-[[nodiscard]] double pitch_rad(Single pitch_deg);
 
 /// The exponent of a grey scale; none when the box is empty, 0 when it holds no number.
 [[nodiscard]] std::optional<double> exponent_in(const TextBox& box);

@@ -1,4 +1,4 @@
-// Scattering tables, parameter files and crystals under data/, held against electrons, formulas and bond lengths.
+// Scattering tables and the form of all files under data/, held against electrons, wave functions and another fit.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -6,7 +6,6 @@
 #include <cmath>
 #include <filesystem>
 #include <iterator>
-#include <map>
 #include <regex>
 #include <set>
 #include <sstream>
@@ -15,11 +14,8 @@
 #include <string_view>
 #include <vector>
 
-#include "core/crystal_file.h"
 #include "core/read_file.h"
 #include "core/record_reader.h"
-#include "core/space_group.h"
-#include "core/unit_cell.h"
 #include "tests/cell_metric.h"
 
 namespace zol {
@@ -130,69 +126,6 @@ TEST(ScatteringTables, ElectronFactorsFollowTheWaveFunctions) {
     EXPECT_NEAR(row_of(rows, key).factor(0.0), factor, 0.02 * factor) << key;
   }
   for (const auto& row : rows) EXPECT_EQ(row.coefficients[8], 0.0) << row.key;
-}
-
-/// Distance in Å of the two atoms of the crystal that lie closest.
-double shortest_distance(CrystalState& crystal) {
-  const CartesianCell cell(crystal);
-  double shortest = 100.0;
-  for (int m = 1; m <= crystal.NCell.value(); ++m) {
-    for (int n = 1; n <= crystal.NCell.value(); ++n) {
-      for (int shift = 0; shift < 27; ++shift) {
-        const std::array cell_of_n{shift % 3 - 1, shift / 3 % 3 - 1, shift / 9 - 1};
-        Cartesian v{};
-        for (int i = 1; i <= 3; ++i) {
-          const auto at = static_cast<std::size_t>(i - 1);
-          v[at] = double{crystal.UCPos(n, i)} + cell_of_n[at] - double{crystal.UCPos(m, i)};
-        }
-        const auto bond = cell.direction(v);
-        const double d = std::sqrt(dot(bond, bond));
-        if (d > 0.001) shortest = std::min(shortest, d);  // atoms that share a site lie at 0
-      }
-    }
-  }
-  return shortest;
-}
-
-// Atoms in the cell by element key, occupancies counted, and the shortest bond, from the source of the crystal or a
-// calculation apart from the program.
-TEST(Samples, HaveTheFormulaAndTheBondsOfTheirSubstance) {
-  std::set<std::string> known{"CopperLines"};  // has no atoms
-  const auto factors = read_factors("ASF-X.csv");
-  RecordReader reference(ZOL_SOURCE_DIR "/tests/reference/samples.csv");
-  for (int column = 0; column < 3; ++column) (void)reference.next_string("heading");
-  while (!reference.at_end()) {
-    const std::string name = reference.next_string("crystal");
-    SCOPED_TRACE(name);
-    known.insert(name);
-    CrystalState crystal;
-    CrystalFileReader file(crystal_folder + name + ".cry");
-    file.read_cell(crystal);
-    ASSERT_TRUE(file.read_contents(crystal));
-    const auto group = read_space_group(file_of(crystal.SGNumber.value()));
-    EXPECT_EQ(crystal.LatticeLetter, group.symbol.substr(0, 1));
-    EXPECT_LT(metric_change(group, crystal), 1e-4);
-    for (int i = 1; i <= crystal.NAtom.value(); ++i) EXPECT_GT(crystal.AtomB(i), 0.0F);
-
-    QuietTask task;
-    commit(crystal, expand_unit_cell(crystal, group, task));
-    EXPECT_NEAR(shortest_distance(crystal), double{reference.next_single("shortest")}, 0.002);
-    std::map<std::string, double> contents;
-    for (int m = 1; m <= crystal.NCell.value(); ++m) contents[crystal.UCElement(m)] += double{crystal.UCOcc(m)};
-    std::istringstream expected(reference.next_string("contents"));
-    std::string element;
-    for (double count = 0.0; expected >> element >> count; contents.erase(element)) {
-      EXPECT_NO_THROW((void)row_of(factors, element));
-      EXPECT_NEAR(contents[element], count, 1e-3) << element;
-    }
-    EXPECT_TRUE(contents.empty()) << "has " << contents.begin()->first;
-  }
-  std::set<std::string> found;
-  for (const auto& entry : std::filesystem::directory_iterator(crystal_folder)) {
-    EXPECT_EQ(entry.path().extension(), ".cry");
-    found.insert(entry.path().stem().string());
-  }
-  EXPECT_EQ(found, known);
 }
 
 TEST(CorrectorFile, MovesNoneOfThe512Rows) {
