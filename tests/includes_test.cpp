@@ -45,7 +45,7 @@ std::set<std::string> reached(const Arrows& arrows, const std::string& from) {
 Arrows includes_of_sources() {
   Arrows includes;
   for (const std::string room :
-       {"analysis", "calculators", "core", "entry", "kikuchi", "powder", "reflections", "shell", "spots"}) {
+       {"analysis", "calculators", "core", "entry", "kikuchi", "powder", "reflections", "shell", "spots", "structures"}) {
     for (const auto& entry : fs::recursive_directory_iterator(fs::path(ZOL_SOURCE_DIR) / room)) {
       const auto ending = entry.path().extension();
       if (ending != ".h" && ending != ".cpp") continue;
