@@ -63,7 +63,7 @@ Run run(const std::string& script, bool go_on = false) {
     } else if (!error.empty()) {
       output << error << '\n';
     }
-  } while (go_on && result.error.empty() && text);
+  } while (go_on && result.error.empty() && text && !services.ended());
   result.output = output.str();
   return result;
 }

@@ -9,6 +9,7 @@
 #include "bench/bench_crystals.h"
 #include "core/state_fields.h"
 #include "powder/line_profile.h"
+#include "reflections/structure_factor.h"
 
 namespace zol {
 namespace {
