@@ -84,7 +84,7 @@ Formula cell_contents(const Structure& structure, Task& task) {
     task.check();
     Structure one = structure;
     one.sites = {site};
-    contents[site.element] += site.occupancy * static_cast<double>(cell_atoms(one, one_atom_angstrom).size());
+    contents[site.element] += site.occupancy * static_cast<double>(cell_atoms(one, one_atom_angstrom, task).size());
   }
   return contents;
 }
@@ -124,7 +124,7 @@ std::optional<ShortestDistance> shortest_distance(const Structure& structure, bo
   constexpr double same_place = 0.02;
   const Lattice lattice(structure.cell);
   const Neighbours near(lattice, reach);
-  const auto atoms = cell_atoms(structure, one_atom_angstrom);
+  const auto atoms = cell_atoms(structure, one_atom_angstrom, task);
   std::optional<ShortestDistance> shortest;
   for (const Site& from : structure.sites) {
     task.check();

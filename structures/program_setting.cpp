@@ -80,7 +80,7 @@ std::string change_text(const SettingChange& change) {
 }
 
 PlacedStructure transformed_to(const Structure& structure, const SettingChange& change, int number,
-                               const SpaceGroupLibrary::Group& group) {
+                               const SpaceGroupLibrary::Group& group, Task& task) {
   PlacedStructure placed{structure, number, "abc", change, {}};
   placed.structure.cell = change.cell(structure.cell);
   placed.structure.operators = group.by_axes.at("abc");
@@ -91,7 +91,7 @@ PlacedStructure transformed_to(const Structure& structure, const SettingChange& 
                       "): " + change_text(change) + "; indices change with it");
   const double ratio = change.volume_ratio();
   if (std::abs(ratio - 1) > 1e-6) {
-    const auto before = cell_atoms(structure, one_atom_angstrom).size();
+    const auto before = cell_atoms(structure, one_atom_angstrom, task).size();
     placed.notes.assume("the cell has " + std::to_string(std::lround(static_cast<double>(before) * ratio)) +
                         " atoms where that of the file has " + std::to_string(before));
   }
@@ -112,7 +112,7 @@ std::optional<PlacedStructure> transformed_to_file(const Structure& structure, c
     const auto& operators = group->by_axes.at("abc");
     if (order(operators) != order(structure.operators)) continue;
     if (const auto change = setting_change(structure.operators, structure.cell, operators)) {
-      return transformed_to(structure, *change, number, *group);
+      return transformed_to(structure, *change, number, *group, task);
     }
   }
   return std::nullopt;
@@ -150,12 +150,12 @@ PlacedStructure in_program_setting(const Structure& structure, const SpaceGroupL
     return placed;
   }
   if (auto placed = transformed_to_file(sorted, groups, task)) return *placed;
-  PlacedStructure placed = without_symmetry(sorted);
+  PlacedStructure placed = without_symmetry(sorted, task);
   placed.notes.doubt("the symmetry fits none of the program's space groups; all atoms are taken in P1");
   return placed;
 }
 
-PlacedStructure without_symmetry(const Structure& structure) {
+PlacedStructure without_symmetry(const Structure& structure, Task& task) {
   PlacedStructure placed{structure, 1, "abc", std::nullopt, {}};
   placed.structure.operators = {ExactOperator{}};
   placed.structure.space_group_number = 1;
@@ -163,7 +163,7 @@ PlacedStructure without_symmetry(const Structure& structure) {
   placed.structure.axis_setting = "abc";
   placed.structure.sites.clear();
   int count = 0;
-  for (const auto& atom : cell_atoms(structure, one_atom_angstrom)) {
+  for (const auto& atom : cell_atoms(structure, one_atom_angstrom, task)) {
     Site site = structure.sites[static_cast<std::size_t>(atom.site)];
     site.position = atom.position;
     site.label = site.element + std::to_string(++count);

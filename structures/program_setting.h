@@ -50,6 +50,6 @@ struct PlacedStructure {
                                                  Task& task);
 
 /// With all atoms of the cell as sites, labels numbered, in P1.
-[[nodiscard]] PlacedStructure without_symmetry(const Structure& structure);
+[[nodiscard]] PlacedStructure without_symmetry(const Structure& structure, Task& task);
 
 }  // namespace zol

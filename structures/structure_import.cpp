@@ -116,11 +116,11 @@ std::size_t atoms_of_program(const PlacedStructure& placed, const SpaceGroupLibr
 /// In a setting of the program in which its own expansion finds the atoms of the crystal.
 PlacedStructure placed_structure(const Structure& structure, const SpaceGroupLibrary& groups, Task& task) {
   PlacedStructure placed = in_program_setting(structure, groups, task);
-  const std::size_t atoms = cell_atoms(placed.structure, one_atom_angstrom).size();
+  const std::size_t atoms = cell_atoms(placed.structure, one_atom_angstrom, task).size();
   check_limits(placed.structure, atoms);
   make_labels_unique(placed.structure);
   if (atoms_of_program(placed, groups, task) == atoms) return placed;
-  PlacedStructure listed = without_symmetry(structure);
+  PlacedStructure listed = without_symmetry(structure, task);
   listed.notes.doubt(
       "the symmetric positions lie too close for the program to tell them apart; all atoms are taken in P1");
   check_limits(listed.structure, listed.structure.sites.size());
@@ -215,7 +215,7 @@ Import import_structure(std::string_view bytes, const std::string& name, const I
   tell_crowded_sites(placed.structure, read.notes);
 
   const Formula contents = cell_contents(placed.structure, task);
-  const std::size_t atoms = cell_atoms(placed.structure, one_atom_angstrom).size();
+  const std::size_t atoms = cell_atoms(placed.structure, one_atom_angstrom, task).size();
   Report report;
   report.add(read.notes);
   report.add(placed.notes);

@@ -20,6 +20,9 @@ inline constexpr std::size_t most_operators = 1536;
 /// @throws RunFailure  they make more than most_operators
 [[nodiscard]] Operators generated_group(const Operators& generators);
 
+/// Few operators of a group that generate it with its lattice.
+[[nodiscard]] Operators few_generators(const Operators& group);
+
 /// Whether the operators, each once, are all products of themselves.
 [[nodiscard]] bool is_group(const Operators& operators);
 

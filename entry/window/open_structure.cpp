@@ -32,7 +32,7 @@ std::string without_folder(const std::string& path) { return path.substr(path.rf
 std::optional<ImportedCrystal> read(Workbench& bench, const CrystalState& state, const std::string& path) {
   const std::string bytes = read_file(path);
   const SpaceGroupLibrary groups = library_of(bench);
-  QuietTask task;
+  WindowTask task(bench.services);
   ImportAnswers answers;
   while (true) {
     auto result = import_structure(bytes, without_folder(path), answers, groups, factor_keys(state), task);

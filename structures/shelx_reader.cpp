@@ -1,16 +1,16 @@
-// SHELX instruction and result files, and POSCAR files of VASP.
+// Instruction and result files of SHELX.
 //
-// Sources: Sheldrick, Acta Cryst. C71 (2015) 3, and the SHELX-97 manual for the instructions; the POSCAR page of the
-// VASP manual.
+// Source: Sheldrick, Acta Cryst. C71 (2015) 3, and the manual of SHELX-97.
 #include <algorithm>
 #include <array>
 #include <cctype>
 #include <cmath>
 #include <numbers>
-#include <sstream>
 
 #include "core/run_failure.h"
+#include "structures/contents.h"
 #include "structures/field_numbers.h"
+#include "structures/line_format.h"
 #include "structures/operator_text.h"
 #include "structures/structure_reading.h"
 #include "structures/symmetry_group.h"
@@ -19,66 +19,16 @@ namespace zol {
 namespace {
 
 constexpr double b_of_u = 8 * std::numbers::pi * std::numbers::pi;
-constexpr double b_where_none = 0.5;  ///< square angstroms
-
-struct NumberedLine {
-  std::string text;
-  int number = 0;
-};
-
-std::vector<NumberedLine> lines_of(std::string_view bytes) {
-  std::vector<NumberedLine> lines;
-  std::string text;
-  int number = 1;
-  for (const char c : bytes) {
-    if (c == '\r') continue;
-    if (c == '\n') {
-      lines.push_back({text, number++});
-      text.clear();
-    } else {
-      text += c;
-    }
-  }
-  if (!text.empty()) lines.push_back({text, number});
-  return lines;
-}
-
-std::vector<std::string> words_of(const std::string& line) {
-  std::istringstream stream(line);
-  std::vector<std::string> words;
-  for (std::string word; stream >> word;) words.push_back(word);
-  return words;
-}
-
-[[noreturn]] void fail(int line, const std::string& why) {
-  throw RunFailure("line " + std::to_string(line) + ": " + why);
-}
-
-double number_in(const std::string& word, int line, const std::string& what) {
-  const auto number = measured_number(word);
-  if (!number) fail(line, what + " is \"" + word + "\", a number is expected");
-  return number->value;
-}
 
 std::string upper(std::string text) {
   std::transform(text.begin(), text.end(), text.begin(), [](unsigned char c) { return std::toupper(c); });
   return text;
 }
 
-std::string element_name(const std::string& word) {
-  std::string name;
-  for (const char c : word) {
-    if (std::isalpha(static_cast<unsigned char>(c)) == 0) break;
-    name += static_cast<char>(name.empty() ? std::toupper(static_cast<unsigned char>(c))
-                                           : std::tolower(static_cast<unsigned char>(c)));
-  }
-  return name == "D" ? "H" : name;
-}
-
 /// Reads the instructions in order; what is none of them is an atom.
 class ShelxReader {
  public:
-  explicit ShelxReader(std::string_view bytes) { lines_ = joined(lines_of(bytes)); }
+  explicit ShelxReader(std::string_view bytes) { lines_ = joined(numbered_lines(bytes)); }
 
   Reading read(Task& task) {
     read_.format = "SHELX";
@@ -87,7 +37,7 @@ class ShelxReader {
       if (!take(line)) break;
     }
     if (!has_cell_) throw RunFailure("no CELL instruction");
-    finish_symmetry();
+    finish_symmetry(task);
     if (read_.structure.sites.empty()) throw RunFailure("no atoms");
     return std::move(read_);
   }
@@ -148,7 +98,7 @@ class ShelxReader {
   }
 
   bool take_cell(const std::vector<std::string>& words, int line) {
-    if (words.size() < 8) fail(line, "CELL needs a wavelength, three edges and three angles");
+    if (words.size() < 8) fail_in_line(line, "CELL needs a wavelength, three edges and three angles");
     CellConstants& cell = read_.structure.cell;
     const std::array fields{&cell.a, &cell.b, &cell.c, &cell.alpha, &cell.beta, &cell.gamma};
     for (std::size_t i = 0; i < fields.size(); ++i) *fields[i] = number_in(words[i + 2], line, "a constant of CELL");
@@ -159,7 +109,7 @@ class ShelxReader {
 
   bool take_lattice(const std::vector<std::string>& words, int line) {
     lattice_ = words.size() > 1 ? static_cast<int>(number_in(words[1], line, "LATT")) : 1;
-    if (lattice_ == 0 || std::abs(lattice_) > 7) fail(line, "LATT is -7 to 7 and not 0");
+    if (lattice_ == 0 || std::abs(lattice_) > 7) fail_in_line(line, "LATT is -7 to 7 and not 0");
     return true;
   }
 
@@ -167,7 +117,7 @@ class ShelxReader {
     try {
       generators_.push_back(parse_operator(text));
     } catch (const RunFailure& failure) {
-      fail(line, failure.message());
+      fail_in_line(line, failure.message());
     }
     return true;
   }
@@ -199,17 +149,18 @@ class ShelxReader {
     if (m == 0 || m == 1) return p;
     const auto place = static_cast<std::size_t>(std::abs(m)) - 1;
     if (m == -1 || place >= variables_.size()) {
-      fail(line,
-           "a value refers to free variable " + std::to_string(static_cast<int>(std::abs(m))) + ", which is not there");
+      fail_in_line(line, "a value refers to free variable " + std::to_string(static_cast<int>(std::abs(m))) +
+                             ", which is not there");
     }
     return m > 0 ? p * variables_[place] : p * (variables_[place] - 1);
   }
 
   bool take_atom(const std::vector<std::string>& words, int line) {
-    if (words.size() < 5) fail(line, "\"" + words[0] + "\" is no instruction and has no coordinates");
+    if (words.size() < 5) fail_in_line(line, "\"" + words[0] + "\" is no instruction and has no coordinates");
     const auto kind = static_cast<int>(number_in(words[1], line, "the element of " + words[0]));
     if (kind < 1 || static_cast<std::size_t>(kind) > elements_.size()) {
-      fail(line, "the element of " + words[0] + " is " + words[1] + ", SFAC has " + std::to_string(elements_.size()));
+      fail_in_line(line,
+                   "the element of " + words[0] + " is " + words[1] + ", SFAC has " + std::to_string(elements_.size()));
     }
     if (words[0].starts_with('Q') && std::isdigit(static_cast<unsigned char>(words[0][1])) != 0 &&
         std::find(elements_.begin(), elements_.end(), "Q") == elements_.end()) {
@@ -219,7 +170,8 @@ class ShelxReader {
     std::array<double, 3> x{};
     for (std::size_t i = 0; i < 3; ++i) {
       const auto given = measured_number(words[i + 2]);
-      if (!given) fail(line, "a coordinate of " + words[0] + " is \"" + words[i + 2] + "\", a number is expected");
+      if (!given)
+        fail_in_line(line, "a coordinate of " + words[0] + " is \"" + words[i + 2] + "\", a number is expected");
       x[i] = special_coordinate({released(given->value, line), given->half_unit});
     }
     Site site{words[0], element, 0, 1, {x[0], x[1], x[2]}, b_where_none};
@@ -263,7 +215,7 @@ class ShelxReader {
 
   /// LATT 1 to 7 is P, I, R obverse, F, A, B, C, positive with a centre of inversion at the origin. The occupancies
   /// count the images of a site that fall together, so that they are divided by the part of the images that do.
-  void finish_symmetry() {
+  void finish_symmetry(Task& task) {
     constexpr int half = operator_unit / 2, third = operator_unit / 3;
     static const std::array<std::vector<std::array<int, 3>>, 8> centrings{{{},
                                                                            {},
@@ -289,7 +241,7 @@ class ShelxReader {
     for (Site& site : structure.sites) {
       Structure one = structure;
       one.sites = {site};
-      const auto images = static_cast<double>(cell_atoms(one, 0.45).size());
+      const auto images = static_cast<double>(cell_atoms(one, one_atom_angstrom, task).size());
       site.occupancy *= static_cast<double>(structure.operators.size()) / images;
       if (std::abs(site.occupancy - 1) < 0.005) site.occupancy = 1;
     }
@@ -305,159 +257,8 @@ class ShelxReader {
   double last_b_ = b_where_none;
 };
 
-/// Title, scale, three vectors, names, counts, kind of coordinates, positions.
-class PoscarReader {
- public:
-  explicit PoscarReader(std::string_view bytes) : lines_(lines_of(bytes)) {}
-
-  Reading read(const ImportAnswers& answers, Task& task) {
-    read_.format = "POSCAR";
-    read_.structure.title = words_joined(0).substr(0, 60);
-    read_cell();
-    std::size_t at = 5;
-    std::vector<std::string> names;
-    if (!is_number(words_at(at).front())) names = words_at(at++);
-    const auto counts = counts_at(at++);
-    if (names.empty()) {
-      names = names_from(0, counts.size());
-      if (names.empty()) {
-        const auto answer = answers.find("elements");
-        if (answer == answers.end()) {
-          return Question{"elements", "The file does not name its elements. Which are its " +
-                                          std::to_string(counts.size()) + ", in their order (as Na Cl)?"};
-        }
-        names = words_of(answer->second);
-      }
-    }
-    check_names(names, counts.size());
-    read_sites(at, names, counts, task);
-    read_.structure.operators = {ExactOperator{}};
-    read_.structure.space_group_symbol = "P 1";
-    read_.notes.assume("the file tells no symmetry and no displacement parameters; B = 0.5 square angstroms is taken");
-    return std::move(read_);
-  }
-
- private:
-  [[nodiscard]] std::vector<std::string> words_at(std::size_t line) const {
-    if (line >= lines_.size()) throw RunFailure("the file ends before line " + std::to_string(line + 1));
-    auto words = words_of(lines_[line].text);
-    if (words.empty()) fail(lines_[line].number, "it is empty");
-    return words;
-  }
-  [[nodiscard]] std::string words_joined(std::size_t line) const {
-    return line < lines_.size() ? lines_[line].text : "";
-  }
-  static bool is_number(const std::string& word) { return measured_number(word).has_value(); }
-
-  std::array<double, 3> vector_at(std::size_t line) const {
-    const auto words = words_at(line);
-    if (words.size() < 3) fail(lines_[line].number, "three numbers are expected");
-    std::array<double, 3> v{};
-    for (std::size_t i = 0; i < 3; ++i) v[i] = number_in(words[i], lines_[line].number, "a component");
-    return v;
-  }
-
-  /// A negative scale is the volume of the cell.
-  void read_cell() {
-    const auto scales = words_at(1);
-    std::array<CartesianVector, 3> edges{};
-    for (std::size_t i = 0; i < 3; ++i) {
-      const auto v = vector_at(i + 2);
-      edges[i] = {v[0], v[1], v[2]};
-    }
-    const double volume = dot(edges[0], cross(edges[1], edges[2]));
-    const double first = number_in(scales[0], lines_[1].number, "the scale");
-    if (first == 0 || volume == 0) fail(lines_[1].number, "the cell has no volume");
-    scale_ = {first, first, first};
-    if (first < 0) {
-      const double factor = std::cbrt(-first / std::abs(volume));
-      scale_ = {factor, factor, factor};
-    } else if (scales.size() >= 3) {
-      for (std::size_t i = 0; i < 3; ++i) scale_[i] = number_in(scales[i], lines_[1].number, "the scale");
-    }
-    for (auto& edge : edges) edge = {edge.x * scale_[0], edge.y * scale_[1], edge.z * scale_[2]};
-    edges_ = edges;
-    read_.structure.cell = {length(edges[0]),
-                            length(edges[1]),
-                            length(edges[2]),
-                            angle_deg(edges[1], edges[2]),
-                            angle_deg(edges[2], edges[0]),
-                            angle_deg(edges[0], edges[1])};
-    if (volume < 0) read_.notes.doubt("the cell vectors are left-handed; the crystal is mirrored");
-    (void)Lattice(read_.structure.cell);
-  }
-
-  [[nodiscard]] std::vector<int> counts_at(std::size_t line) const {
-    std::vector<int> counts;
-    for (const auto& word : words_at(line)) {
-      if (!is_number(word)) break;  // a comment may follow
-      const double count = number_in(word, lines_[line].number, "a count of atoms");
-      if (count < 0 || count != std::floor(count) || count > 1e6) {
-        fail(lines_[line].number, "\"" + word + "\" is no count of atoms");
-      }
-      counts.push_back(static_cast<int>(count));
-    }
-    if (counts.empty()) fail(lines_[line].number, "counts of atoms are expected");
-    return counts;
-  }
-
-  /// Names in the title, where it has as many elements as there are counts.
-  [[nodiscard]] std::vector<std::string> names_from(std::size_t line, std::size_t count) const {
-    auto words = words_of(lines_[line].text);
-    const auto known = [](const std::string& word) {
-      return atomic_number(element_name(word)) > 0 && word.size() <= 2;
-    };
-    if (words.size() != count || !std::all_of(words.begin(), words.end(), known)) return {};
-    return words;
-  }
-
-  void check_names(const std::vector<std::string>& names, std::size_t count) const {
-    if (names.size() < count) {
-      throw RunFailure("there are " + std::to_string(count) + " counts of atoms and " + std::to_string(names.size()) +
-                       " elements");
-    }
-    for (std::size_t i = 0; i < count; ++i) {
-      if (atomic_number(element_name(names[i])) == 0) throw RunFailure("\"" + names[i] + "\" is no element");
-    }
-  }
-
-  void read_sites(std::size_t at, const std::vector<std::string>& names, const std::vector<int>& counts, Task& task) {
-    std::string kind = words_at(at).front();
-    if (kind[0] == 's' || kind[0] == 'S') kind = words_at(++at).front();
-    const bool cartesian = std::string_view("cCkK").find(kind[0]) != std::string_view::npos;
-    ++at;
-    for (std::size_t i = 0; i < counts.size(); ++i) {
-      for (int n = 0; n < counts[i]; ++n, ++at) {
-        task.check();
-        const std::string element = element_name(names[i]);
-        read_.structure.sites.push_back(
-            {element + std::to_string(n + 1), element, 0, 1, position_at(at, cartesian), b_where_none});
-      }
-    }
-    if (read_.structure.sites.empty()) throw RunFailure("no atoms");
-  }
-
-  [[nodiscard]] DirectVector position_at(std::size_t line, bool cartesian) const {
-    const auto v = vector_at(line);
-    if (!cartesian) return {v[0], v[1], v[2]};
-    const CartesianVector x{v[0] * scale_[0], v[1] * scale_[1], v[2] * scale_[2]};
-    const double volume = dot(edges_[0], cross(edges_[1], edges_[2]));
-    return {dot(x, cross(edges_[1], edges_[2])) / volume, dot(x, cross(edges_[2], edges_[0])) / volume,
-            dot(x, cross(edges_[0], edges_[1])) / volume};
-  }
-
-  std::vector<NumberedLine> lines_;
-  ReadStructure read_;
-  std::array<double, 3> scale_{};
-  std::array<CartesianVector, 3> edges_{};
-};
-
 }  // namespace
 
 Reading read_shelx(std::string_view bytes, Task& task) { return ShelxReader(bytes).read(task); }
-
-Reading read_poscar(std::string_view bytes, const ImportAnswers& answers, Task& task) {
-  return PoscarReader(bytes).read(answers, task);
-}
 
 }  // namespace zol
