@@ -9,6 +9,7 @@
 
 #include "core/run_failure.h"
 #include "structures/cif_document.h"
+#include "structures/contents.h"
 #include "structures/field_numbers.h"
 #include "structures/space_group_symbols.h"
 #include "structures/symmetry_choice.h"
@@ -198,7 +199,7 @@ class BlockReader {
     cell.beta = cell_number({"_cell_angle_beta"}, 0);
     cell.gamma = cell_number({"_cell_angle_gamma"}, 0);
     fill_angles(claims);
-    (void)Lattice(cell);  // fails where it is none
+    check_cell(cell);  // fails where it is none
   }
 
   void fill_angles(const SymmetryClaims& claims) {

@@ -5,6 +5,8 @@
 #include <cmath>
 #include <vector>
 
+#include "core/run_failure.h"
+
 namespace zol {
 namespace {
 
@@ -77,6 +79,13 @@ Merged merged(const DirectVector& position, const std::vector<ExactOperator>& op
 bool is_hydrogen(const Site& site) { return site.element == "H"; }
 
 }  // namespace
+
+void check_cell(const CellConstants& cell) {
+  const CellConstants reciprocal = Lattice(cell).reciprocal_cell();
+  if (std::max({reciprocal.a, reciprocal.b, reciprocal.c}) > 1) {
+    throw RunFailure("the cell is too small or too flat to hold atoms");
+  }
+}
 
 Formula cell_contents(const Structure& structure, Task& task) {
   Formula contents;

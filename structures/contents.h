@@ -13,6 +13,10 @@ namespace zol {
 /// Images of a site that lie closer are one atom: no two atoms do, and positions are not known better in old work.
 inline constexpr double one_atom_angstrom = 0.45;
 
+/// A cell that atoms fit into: the planes of its faces lie 1 angstrom apart or more.
+/// @throws RunFailure  it is none
+void check_cell(const CellConstants& cell);
+
 /// Atoms of the cell by element, occupancies counted.
 [[nodiscard]] Formula cell_contents(const Structure& structure, Task& task);
 

@@ -6,6 +6,7 @@
 #include <cmath>
 
 #include "core/run_failure.h"
+#include "structures/contents.h"
 #include "structures/field_numbers.h"
 #include "structures/line_format.h"
 #include "structures/structure_reading.h"
@@ -91,7 +92,7 @@ class PoscarReader {
                             angle_deg(edges[2], edges[0]),
                             angle_deg(edges[0], edges[1])};
     if (volume < 0) read_.notes.doubt("the cell vectors are left-handed; the crystal is mirrored");
-    (void)Lattice(read_.structure.cell);
+    check_cell(read_.structure.cell);
   }
 
   [[nodiscard]] std::vector<int> counts_at(std::size_t line) const {

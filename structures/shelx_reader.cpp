@@ -102,7 +102,7 @@ class ShelxReader {
     CellConstants& cell = read_.structure.cell;
     const std::array fields{&cell.a, &cell.b, &cell.c, &cell.alpha, &cell.beta, &cell.gamma};
     for (std::size_t i = 0; i < fields.size(); ++i) *fields[i] = number_in(words[i + 2], line, "a constant of CELL");
-    (void)Lattice(cell);
+    check_cell(cell);
     has_cell_ = true;
     return true;
   }

@@ -8,6 +8,7 @@
 #include "core/crystal_state.h"
 #include "core/read_file.h"
 #include "core/run_failure.h"
+#include "structures/contents.h"
 #include "structures/field_numbers.h"
 #include "structures/gunzip.h"
 
@@ -91,7 +92,7 @@ Reading read_crystal(std::string_view bytes, const SpaceGroupLibrary& groups) {
   read.format = "crystal file";
   Structure& structure = read.structure;
   structure.cell = {cell.CellA, cell.CellB, cell.CellC, cell.CellAlpha, cell.CellBeta, cell.CellGamma};
-  (void)Lattice(structure.cell);
+  check_cell(structure.cell);
   structure.space_group_number = cell.SGNumber.value();
   const auto* group = groups.find(cell.SGNumber.value());
   const auto turned = group == nullptr ? decltype(group->by_axes.end()){} : group->by_axes.find(cell.AxisSetting);
