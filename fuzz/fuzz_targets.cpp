@@ -142,7 +142,7 @@ void structure(const std::string& input) {
   const Import import = import_structure(input, "input", answers, groups, keys, task);
   const auto& structure = std::get<ImportedCrystal>(import).structure;
   const Import again = import_structure(cif_text(structure), "input", answers, groups, keys, task);
-  const auto atoms = [&task](const Structure& s) { return cell_atoms(s, one_atom_angstrom, task).size(); };
+  const auto atoms = [&task](const Structure& s) { return cell_atoms(s, settled_angstrom, task).size(); };
   require(atoms(std::get<ImportedCrystal>(again).structure) == atoms(structure),
           "a saved structure has the same atoms");
 }

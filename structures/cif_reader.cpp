@@ -240,7 +240,7 @@ class BlockReader {
           trimmed(atoms_.text(row, {"_atom_site_label", "_atom_site_id", "_atom_site_label_atom_id"}).value_or(""));
       const std::string type = trimmed(atoms_.text(row, {"_atom_site_type_symbol"}).value_or(""));
       const auto flag = atoms_.text(row, {"_atom_site_calc_flag"});
-      if (flag && *flag == "dum") continue;
+      if (flag && *flag == "dum") read_.notes.doubt(label + " is a dummy atom, its place is not known");
       const auto position = position_of(row);
       if (!position) {
         without_place.push_back(label.empty() ? type : label);
@@ -257,7 +257,7 @@ class BlockReader {
     tell_left_out(unknown, "whose element is not known");
     if (b_missing_ > 0) {
       read_.notes.assume("no displacement parameters for " + std::to_string(b_missing_) +
-                         " sites; B = 0.5 square angstroms is taken");
+                         (b_missing_ == 1 ? " site" : " sites") + "; B = 0.5 square angstroms is taken");
     }
     if (read_.structure.sites.empty())
       throw RunFailure("line " + std::to_string(atoms_.line()) + ": no atom can be read");

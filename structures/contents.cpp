@@ -93,7 +93,7 @@ Formula cell_contents(const Structure& structure, Task& task) {
     task.check();
     Structure one = structure;
     one.sites = {site};
-    contents[site.element] += site.occupancy * static_cast<double>(cell_atoms(one, one_atom_angstrom, task).size());
+    contents[site.element] += site.occupancy * static_cast<double>(cell_atoms(one, settled_angstrom, task).size());
   }
   return contents;
 }
@@ -133,7 +133,7 @@ std::optional<ShortestDistance> shortest_distance(const Structure& structure, bo
   constexpr double same_place = 0.02;
   const Lattice lattice(structure.cell);
   const Neighbours near(lattice, reach);
-  const auto atoms = cell_atoms(structure, one_atom_angstrom, task);
+  const auto atoms = cell_atoms(structure, settled_angstrom, task);
   std::optional<ShortestDistance> shortest;
   for (const Site& from : structure.sites) {
     task.check();
@@ -165,7 +165,7 @@ std::vector<std::string> settle_positions(Structure& structure, Task& task) {
     const int images = first.images / std::max(1, first.in_place);
     if (apart && site.occupancy * images <= 1.02) {
       split.push_back(site.label);
-      site.occupancy = std::min(1.0, site.occupancy * images);
+      continue;
     }
     site.position = first.position;
     // The middle may lie on further elements.

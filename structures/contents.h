@@ -12,6 +12,8 @@ namespace zol {
 
 /// Images of a site that lie closer are one atom: no two atoms do, and positions are not known better in old work.
 inline constexpr double one_atom_angstrom = 0.45;
+/// Images that are one atom once positions are settled; those of split sites lie further apart.
+inline constexpr double settled_angstrom = 0.04;
 
 /// A cell that atoms fit into: the planes of its faces lie 1 angstrom apart or more.
 /// @throws RunFailure  it is none
@@ -39,8 +41,8 @@ struct ShortestDistance {
                                                                 Task& task);
 
 /// Puts each site onto the symmetry element that it lies within one_atom_angstrom of: in the middle of those of its
-/// images that are one atom. A site of which the images share one atom gets the sum of their occupancies.
-/// @returns labels of those sites
+/// images that are one atom. A site whose images share one atom by their occupancies is split, and stays as it is.
+/// @returns labels of the split sites
 [[nodiscard]] std::vector<std::string> settle_positions(Structure& structure, Task& task);
 
 }  // namespace zol

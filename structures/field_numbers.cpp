@@ -55,10 +55,10 @@ std::optional<MeasuredNumber> measured_number(std::string_view text) {
 double special_coordinate(const MeasuredNumber& number) {
   constexpr double parts = 24;
   constexpr double coarsest = 0.0051;  // two digits
-  constexpr double finest = 1e-9;
+  constexpr double below = 0.999;      // 0.38 is a rounding of 3/8, and of much else: half a unit is too far
   if (number.half_unit > coarsest) return number.value;
   const double near = std::round(number.value * parts) / parts;
-  return std::abs(number.value - near) <= number.half_unit * 1.0001 + finest ? near : number.value;
+  return std::abs(number.value - near) < number.half_unit * below ? near : number.value;
 }
 
 }  // namespace zol

@@ -91,7 +91,7 @@ PlacedStructure transformed_to(const Structure& structure, const SettingChange& 
                       "): " + change_text(change) + "; indices change with it");
   const double ratio = change.volume_ratio();
   if (std::abs(ratio - 1) > 1e-6) {
-    const auto before = cell_atoms(structure, one_atom_angstrom, task).size();
+    const auto before = cell_atoms(structure, settled_angstrom, task).size();
     placed.notes.assume("the cell has " + std::to_string(std::lround(static_cast<double>(before) * ratio)) +
                         " atoms where that of the file has " + std::to_string(before));
   }
@@ -163,7 +163,7 @@ PlacedStructure without_symmetry(const Structure& structure, Task& task) {
   placed.structure.axis_setting = "abc";
   placed.structure.sites.clear();
   int count = 0;
-  for (const auto& atom : cell_atoms(structure, one_atom_angstrom, task)) {
+  for (const auto& atom : cell_atoms(structure, settled_angstrom, task)) {
     Site site = structure.sites[static_cast<std::size_t>(atom.site)];
     site.position = atom.position;
     site.label = site.element + std::to_string(++count);

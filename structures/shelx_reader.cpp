@@ -241,7 +241,7 @@ class ShelxReader {
     for (Site& site : structure.sites) {
       Structure one = structure;
       one.sites = {site};
-      const auto images = static_cast<double>(cell_atoms(one, one_atom_angstrom, task).size());
+      const auto images = static_cast<double>(cell_atoms(one, settled_angstrom, task).size());
       site.occupancy *= static_cast<double>(structure.operators.size()) / images;
       if (std::abs(site.occupancy - 1) < 0.005) site.occupancy = 1;
     }

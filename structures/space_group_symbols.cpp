@@ -144,6 +144,7 @@ NamedGroup made(const TabulatedSetting& setting) {
 /// Settings of one symbol narrowed by qualifier and cell; two origins both stay where nothing tells.
 std::vector<NamedGroup> narrowed(std::vector<const TabulatedSetting*> found, const std::string& qualifier,
                                  const CellConstants& cell) {
+  const auto all = found;
   const auto keep_where = [&found](const auto& wanted) {
     std::vector<const TabulatedSetting*> kept;
     std::copy_if(found.begin(), found.end(), std::back_inserter(kept), wanted);
@@ -153,7 +154,8 @@ std::vector<NamedGroup> narrowed(std::vector<const TabulatedSetting*> found, con
   const auto has = [&found](std::string_view mark) {
     return std::any_of(found.begin(), found.end(), [mark](const auto* s) { return s->qualifier == mark; });
   };
-  if (has("H") && has("R")) {
+  if (has("H") || has("R")) {  // the cell counts, whatever the symbol says
+    found = all;
     keep_where([&](const auto* s) { return s->qualifier == (hexagonal_axes(cell) ? "H" : "R"); });
   }
   if (!found.empty() && found.front()->number >= 3 && found.front()->number <= 15) {

@@ -116,7 +116,7 @@ std::size_t atoms_of_program(const PlacedStructure& placed, const SpaceGroupLibr
 /// In a setting of the program in which its own expansion finds the atoms of the crystal.
 PlacedStructure placed_structure(const Structure& structure, const SpaceGroupLibrary& groups, Task& task) {
   PlacedStructure placed = in_program_setting(structure, groups, task);
-  const std::size_t atoms = cell_atoms(placed.structure, one_atom_angstrom, task).size();
+  const std::size_t atoms = cell_atoms(placed.structure, settled_angstrom, task).size();
   check_limits(placed.structure, atoms);
   make_labels_unique(placed.structure);
   if (atoms_of_program(placed, groups, task) == atoms) return placed;
@@ -144,12 +144,13 @@ class Report {
   std::vector<std::string> doubts_, facts_;
 };
 
-/// The largest number that all counts are whole multiples of, for the formula.
+/// The largest number that all whole counts are multiples of, for the formula.
 double units_of(const Formula& contents) {
   for (int units = 96; units > 1; --units) {
     const bool divides = std::all_of(contents.begin(), contents.end(), [units](const auto& entry) {
       const double count = entry.second / units;
-      return std::abs(count - std::round(count)) < 1e-3 && count > 0.5;
+      const bool whole = std::abs(entry.second - std::round(entry.second)) < 1e-3;
+      return !whole || (std::abs(count - std::round(count)) < 1e-3 && count > 0.5);
     });
     if (divides) return units;
   }
@@ -209,16 +210,14 @@ Import import_structure(std::string_view bytes, const std::string& name, const I
   if (read.structure.sites.size() > static_cast<std::size_t>(max_sites)) check_limits(read.structure, 0);
   for (const auto& label : settle_positions(read.structure, task)) {
     read.notes.doubt("images of " + label + " lie closer than " + rounded(one_atom_angstrom, 2) +
-                     " angstroms, meant as a split site; they are one atom with the sum of their occupancies");
+                     " angstroms; by their occupancies they are a split site, and stay apart");
   }
   PlacedStructure placed = placed_structure(read.structure, groups, task);
   tell_crowded_sites(placed.structure, read.notes);
 
   const Formula contents = cell_contents(placed.structure, task);
-  const std::size_t atoms = cell_atoms(placed.structure, one_atom_angstrom, task).size();
+  const std::size_t atoms = cell_atoms(placed.structure, settled_angstrom, task).size();
   Report report;
-  report.add(read.notes);
-  report.add(placed.notes);
   report.add(read.format + ": " + (read.structure.title.empty() ? name : read.structure.title));
   compare_contents(read, contents, placed.structure.cell, placed.change ? placed.change->volume_ratio() : 1, report);
   report.add("cell: " + cell_text(placed.structure.cell));
@@ -227,6 +226,8 @@ Import import_structure(std::string_view bytes, const std::string& name, const I
              std::to_string(placed.file_number) + ", axes " + placed.axis_setting + ")");
   report.add(counted(placed.structure.sites.size(), "site") + ", " + counted(atoms, "atom") + " in the cell");
   tell_distances(placed.structure, task, report);
+  report.add(read.notes);
+  report.add(placed.notes);
   return ImportedCrystal{placed.structure, placed.file_number, placed.axis_setting, report.lines()};
 }
 

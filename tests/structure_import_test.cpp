@@ -190,8 +190,8 @@ TEST(StructureImport, TakesElementsPositionsAndDisplacementsThatAreMeant) {
        {"thirds with four digits", hexagonal_sites + xyz + "Zn1 0.3333 0.6667 0.25\n", "Zn2 | 194 abc | 0.50"},
        {"near an axis, not by rounding", hexagonal_sites + xyz + "Zn1 0.335 0.665 0.25\n", "Zn2 | 194 abc | 0.50"},
        {"a split site", hexagonal_sites + typed + "Zn1 Zn 0 0 0.02 0.5\n",
-        "Zn2 | 194 abc | 0.50\nWarning: images of Zn1 lie closer than 0.45 angstroms, meant as a split site; they are "
-        "one atom with the sum of their occupancies"},
+        "Zn2 | 194 abc | 0.50\nWarning: images of Zn1 lie closer than 0.45 angstroms; by their occupancies they are a "
+        "split site, and stay apart"},
        {"the same label twice", p1 + xyz + "Na 0 0 0\nNa .5 .5 .5\n", "Na2 | 1 abc | 0.50"},
        {"U",
         p1 + "loop_\n_atom_site_label\n_atom_site_fract_x\n_atom_site_fract_y\n_atom_site_fract_z\n"
