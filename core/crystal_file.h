@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "core/crystal_state.h"
 #include "core/record_reader.h"
@@ -14,6 +15,8 @@ class CrystalFileReader {
  public:
   /// @throws RunFailure  the file is missing or cannot be read
   explicit CrystalFileReader(const std::string& path) : file_(path) {}
+  /// Reads from a text in memory; the path only names it in messages.
+  CrystalFileReader(std::string path, std::string text) : file_(std::move(path), std::move(text)) {}
 
   /// Line 1: cell constants, lattice letter, space group number, axis setting.
   /// @throws RunFailure  a field is missing or not a number

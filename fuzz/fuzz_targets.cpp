@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <set>
 #include <stdexcept>
 
 #include "core/camera_file.h"
@@ -20,6 +21,9 @@
 #include "fuzz/script_target.h"
 #include "reflections/scattering.h"
 #include "shell/desktop/qt_surface.h"
+#include "structures/cif_writer.h"
+#include "structures/contents.h"
+#include "structures/structure_import.h"
 
 namespace zol::fuzz {
 namespace {
@@ -128,6 +132,21 @@ void structure_file(const std::string& input) {
   });
 }
 
+/// Any structure file; what is written of it reads back with as many atoms.
+void structure(const std::string& input) {
+  static const SpaceGroupLibrary groups(
+      [](int number) { return ZOL_SOURCE_DIR "/data/ZOL/SpaceGr/No" + Format(number, "000") + ".dat"; });
+  static const std::set<std::string> keys{"H", "C", "O", "O2-", "Na", "Si", "Al", "Cl", "Fe", "Fe3+"};
+  const ImportAnswers answers{{"block", "1"}, {"origin", "2"}, {"symmetry", "1"}, {"elements", "Na Cl Si O"}};
+  QuietTask task;
+  const Import import = import_structure(input, "input", answers, groups, keys, task);
+  const auto& structure = std::get<ImportedCrystal>(import).structure;
+  const Import again = import_structure(cif_text(structure), "input", answers, groups, keys, task);
+  const auto atoms = [&task](const Structure& s) { return cell_atoms(s, settled_angstrom, task).size(); };
+  require(atoms(std::get<ImportedCrystal>(again).structure) == atoms(structure),
+          "a saved structure has the same atoms");
+}
+
 void atom_lists(const std::string& input) {
   const MemoryFile file(input);
   QuietTask task;
@@ -157,6 +176,7 @@ const std::vector<Target>& targets() {
       {"cif", structure_file<CifReader>},
       {"icsd", structure_file<IcsdReader>},
       {"atom_lists", atom_lists},
+      {"structure", structure},
       {"bitmap", bitmap},
       {"script", run_script},
   };

@@ -84,6 +84,8 @@ const std::map<std::string, Question, std::less<>> questions{
     {"Pattern2.Command16", {Asks::Crystal}},
     {"Main1.CRYSTAL_SELECT", {Asks::Crystal}},
     {"Main1.ImportfromCIF", {Asks::File, "kyanite.cif"}},
+    {"Main1.ImportStructure", {Asks::File, "kyanite.cif"}},
+    {"Main1.ExportStructure", {Asks::Save}},
     {"Main1.ImportFromICSD", {Asks::File, "rutile.txt"}},
     {"InputAtom.Import_CIF", {Asks::File, "rutile-list.txt"}},
     {"InputAtom.Import_MINCRYST", {Asks::File, "rutile-mincryst.txt"}},

@@ -28,6 +28,28 @@ class Main1Test : public testing::Test {
   ScratchFolder folder;
 };
 
+// Opening a structure never ends the run: a failure of the calculation behind it leaves everything as it was, too.
+TEST_F(Main1Test, StructuresAreSavedAndOpenedOrRefused) {
+  services.answers = {folder.path("salt")};
+  form().ExportStructure.click();
+  services.answers = {folder.path("salt.cif")};
+  form().Text1.set_text("9");
+  form().ImportStructure.click();
+  EXPECT_EQ(state.CellA, 5.6402F);
+  EXPECT_EQ(state.NCell, 8);
+  EXPECT_EQ(form().Text17.text(), folder.path("salt.cif"));
+  ASSERT_FALSE(services.messages.empty());
+  EXPECT_EQ(services.messages.front(), "CIF: salt|Open structure file");
+
+  form().Text18.set_text("99999");  // a fixed index that is no Integer
+  services.answers = {ZOL_SOURCE_DIR "/examples/cif/quartz.cif"};
+  EXPECT_EQ(failure_of([this] { form().ImportStructure.click(); }), "");
+  EXPECT_EQ(state.CellA, 5.6402F);
+  EXPECT_EQ(state.AtomElement(1), "Na");
+  EXPECT_EQ(form().Label16.caption(), "Fm3m");
+  EXPECT_TRUE(services.messages.back().starts_with("quartz.cif: ")) << services.messages.back();
+}
+
 // The last box of a row keeps the focus, or calculates, as the scripts show.
 TEST_F(Main1Test, EnterMovesOnInTheWindowsOfNumbers) {
   struct Row {

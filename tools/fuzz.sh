@@ -22,6 +22,7 @@ seeds() {
     space_group) echo data/ZOL/SpaceGr/No{001,014,152,167,225,227}.dat ;;
     scatter_table) echo data/ZOL/Asf/*.csv ;;
     cif) echo examples/cif/*.cif ;;
+    structure) echo examples/cif/*.cif fuzz/seeds/structure/* data/ZOLDATA/Quartz.cry ;;
     icsd | atom_lists) echo fuzz/seeds/"$1"/* ;;
     bitmap) echo fuzz/seeds/bitmap/* shell/desktop/images/* ;;
     script) echo examples/*.zs examples/cif/*.zs tests/scripts/*.zs ;;

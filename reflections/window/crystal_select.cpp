@@ -27,17 +27,6 @@ void show_cell(Main1Form& form) {
   form.Combo2.set_text(state.AxisSetting);
 }
 
-/// The title of the file goes to the windows that draw from the crystal.
-void show_title(Workbench& bench, const std::string& title) {
-  for (const auto* name : {"Pattern2", "Xd", "Zaxis", "Dring", "FiberTexture", "Pattern"}) {
-    bench.windows.use(name).set_caption(title);
-  }
-  auto& pattern2 = bench.windows.use<Pattern2Form>();
-  pattern2.Label18.set_caption(title);
-  bench.windows.use<Pattern3Form>().Label6.set_caption(title);
-  pattern2.Check4.set_value(0);
-}
-
 void rebuild(Workbench& bench, Main1Form& form, LoadBy by) {
   const CrystalState& state = form.state;
   form.Label19.set_caption(Str(state.NAtom));
@@ -78,6 +67,16 @@ void load_crystal(Workbench& bench, LoadBy by) {
 }
 
 }  // namespace
+
+void show_title(Workbench& bench, const std::string& title) {
+  for (const auto* name : {"Pattern2", "Xd", "Zaxis", "Dring", "FiberTexture", "Pattern"}) {
+    bench.windows.use(name).set_caption(title);
+  }
+  auto& pattern2 = bench.windows.use<Pattern2Form>();
+  pattern2.Label18.set_caption(title);
+  bench.windows.use<Pattern3Form>().Label6.set_caption(title);
+  pattern2.Check4.set_value(0);
+}
 
 void CRYSTAL_SELECT(Workbench& bench) { load_crystal(bench, LoadBy::OtherWindow); }
 

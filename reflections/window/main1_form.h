@@ -87,6 +87,8 @@ struct Main1Form : Window {
 
   MenuItem DATA_LOAD{*this, "DATA_LOAD", "LOAD", "Crystal_Data"};
   MenuItem DATA_SAVE{*this, "DATA_SAVE", "SAVE", "Crystal_Data"};
+  MenuItem ImportStructure{*this, "ImportStructure", "Open structure file...", "Crystal_Data"};
+  MenuItem ExportStructure{*this, "ExportStructure", "Save as CIF...", "Crystal_Data"};
   MenuItem ImportFromICSD{*this, "ImportFromICSD", "Import from icsd.txt", "Crystal_Data"};
   MenuItem ImportfromCIF{*this, "ImportfromCIF", "Import from CIF", "Crystal_Data"};
   MenuItem OWARI{*this, "OWARI", "END", "Crystal_Data"};

@@ -6,6 +6,7 @@
 #include "core/record_writer.h"
 #include "core/space_group.h"
 #include "entry/window/main1_import.h"
+#include "entry/window/open_structure.h"
 #include "kikuchi/window/kikuchi_operations.h"
 #include "kikuchi/window/pattern2_form.h"
 #include "powder/window/open_dring.h"
@@ -353,6 +354,8 @@ void wire(Workbench& bench, Main1Form& form) {
   form.Command15.on_click = on(Command15_Click);  // "JCPDS reflections"
   form.DATA_SAVE.on_click = on(DATA_SAVE_Click);
   form.DATA_LOAD.on_click = on(DATA_LOAD_Click);
+  form.ImportStructure.on_click = on(ImportStructure_Click);
+  form.ExportStructure.on_click = on(ExportStructure_Click);
   form.ImportFromICSD.on_click = on(ImportFromICSD_Click);
   form.ImportfromCIF.on_click = on(ImportfromCIF_Click);
   form.OWARI.on_click = on(OWARI_Click);

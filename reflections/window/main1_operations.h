@@ -22,6 +22,9 @@ void CalcReflections(Workbench& bench);
 /// "Calc": CalcReflections, then the triple table of PATTERN3, which reorders the list.
 void calculate(Workbench& bench);
 
+/// The title of the crystal's file goes to the windows that draw from it.
+void show_title(Workbench& bench, const std::string& title);
+
 /// Asks for a crystal file and loads it, as the menu of Main1 does.
 void load_crystal_file(Workbench& bench);
 

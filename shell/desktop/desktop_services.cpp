@@ -20,6 +20,7 @@
 #include "shell/desktop/latin1_input.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
+#include "shell/desktop/report_dialog.h"
 #include "shell/desktop/qt_text.h"
 
 namespace zol {
@@ -125,6 +126,10 @@ std::string DesktopServices::prompt(const std::string& text, const std::string& 
 
 void DesktopServices::message(const std::string& text, const std::string& title) {
   QMessageBox::warning(QApplication::activeWindow(), to_qt(title), to_qt(text));
+}
+
+void DesktopServices::report(const std::vector<std::string>& lines, const std::string& title) {
+  show_report(lines, title);
 }
 
 std::unique_ptr<QPrinter> DesktopServices::default_output(const std::string& title) {

@@ -28,6 +28,7 @@ struct NameEnding {
 /// Filters of file dialogs.
 namespace file_filters {
 inline constexpr auto crystals = "Crystal files|*.cry|";
+inline constexpr auto structures = "Structure files|*.cif;*.mcif;*.res;*.ins;*.vasp;*.cry;*.gz;POSCAR*;CONTCAR*|";
 inline constexpr auto cif = "CIF|*.cif|";
 inline constexpr auto texts = "Text files|*.txt|";
 inline constexpr auto atom_lists = "Lists of atoms|*.txt;*.cif|";
@@ -38,6 +39,7 @@ inline constexpr auto pages = "PDF|*.pdf|";
 /// What a file holds. Folders and names are proposed by it: a name of another kind never is.
 enum class FileKind {
   Crystal,
+  Structure,
   Cif,
   Icsd,
   AtomList,
@@ -75,6 +77,11 @@ class Services {
   virtual std::string prompt(const std::string& text, const std::string& title) = 0;
   /// Tells something, with an exclamation icon, modal.
   virtual void message(const std::string& text, const std::string& title) = 0;
+
+  /// Tells several lines at once, to be read and copied.
+  virtual void report(const std::vector<std::string>& lines, const std::string& title) {
+    for (const auto& line : lines) message(line, title);
+  }
 
   virtual void print_line(const std::string& line) = 0;  ///< one line of the document under way
   /// Sends the document. @param title  names it, also where it goes to a file
