@@ -86,7 +86,7 @@ class FakeServices : public Services {
     prompts.push_back(text + "|" + title);
     return next();
   }
-  void message(const std::string& /*text*/, const std::string& /*title*/) override {}
+  void message(const std::string& text, const std::string& /*title*/) override { messages.push_back(text); }
   void print_line(const std::string& line) override { printed.push_back(line); }
   void end_document(const std::string& /*title*/) override { printed.emplace_back("end"); }
   void print_window(Window& window) override { printed.push_back("window " + window.caption()); }
@@ -98,7 +98,7 @@ class FakeServices : public Services {
 
   std::deque<std::string> answers;
   std::vector<FileQuestion> questions;
-  std::vector<std::string> prompts, printed;
+  std::vector<std::string> prompts, messages, printed;
 
  private:
   std::string next() {

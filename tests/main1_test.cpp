@@ -39,11 +39,11 @@ TEST_F(Main1Test, StructuresAreSavedAndOpenedOrRefused) {
   EXPECT_EQ(state.NCell, 8);
   EXPECT_EQ(form().Text17.text(), folder.path("salt.cif"));
   ASSERT_FALSE(services.messages.empty());
-  EXPECT_EQ(services.messages.front(), "CIF: salt|Open structure file");
+  EXPECT_EQ(services.messages.front(), "CIF: NaCl");
 
   form().Text18.set_text("99999");  // a fixed index that is no Integer
   services.answers = {ZOL_SOURCE_DIR "/examples/cif/quartz.cif"};
-  EXPECT_EQ(failure_of([this] { form().ImportStructure.click(); }), "");
+  form().ImportStructure.click();
   EXPECT_EQ(state.CellA, 5.6402F);
   EXPECT_EQ(state.AtomElement(1), "Na");
   EXPECT_EQ(form().Label16.caption(), "Fm3m");

@@ -12,8 +12,8 @@
 #include "structures/contents.h"
 #include "structures/operator_text.h"
 #include "structures/space_group_symbols.h"
-#include "tools/data_check/cell_metric.h"
 #include "tests/test_files.h"
+#include "tools/data_check/cell_metric.h"
 
 namespace zol {
 namespace {
