@@ -1,6 +1,6 @@
 #include "entry/window/open_structure.h"
 
-#include <algorithm>
+#include <new>
 
 #include "core/atomic_file.h"
 #include "core/number_text.h"
@@ -107,16 +107,21 @@ void ImportStructure_Click(Workbench& bench, Main1Form& form) {
   if (path.empty()) return;
   const CrystalState state_before = form.state;
   const auto windows_before = bench.windows.copies();
+  std::string reason;
   try {
     const auto crystal = read(bench, form.state, path);
     if (!crystal) return;
     show(bench, form, *crystal, path);
     bench.services.report(crystal->report, import_title);
+    return;
   } catch (const RunFailure& failure) {
-    form.state = state_before;
-    bench.windows.put_back(windows_before);
-    bench.services.message(without_folder(path) + ": " + failure.message(), import_title);
+    reason = failure.message();
+  } catch (const std::bad_alloc&) {
+    reason = "not enough memory";
   }
+  form.state = state_before;
+  bench.windows.put_back(windows_before);
+  bench.services.message(without_folder(path) + ": " + reason, import_title);
 }
 
 void ExportStructure_Click(Workbench& bench, Main1Form& form) {
