@@ -20,8 +20,8 @@
 #include "shell/desktop/latin1_input.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
-#include "shell/desktop/report_dialog.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/desktop/report_dialog.h"
 
 namespace zol {
 namespace {
