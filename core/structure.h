@@ -7,6 +7,7 @@
 
 #include <array>
 #include <string>
+#include <tuple>
 #include <vector>
 
 #include "core/lattice.h"
@@ -20,7 +21,10 @@ inline constexpr int operator_unit = 24;  ///< 1 in the elements of an operator
 struct ExactOperator {
   std::array<std::array<int, 3>, 3> rotation{{{operator_unit, 0, 0}, {0, operator_unit, 0}, {0, 0, operator_unit}}};
   std::array<int, 3> translation{};  ///< 0 to 23 where folded
-  auto operator<=>(const ExactOperator&) const = default;
+  bool operator==(const ExactOperator&) const = default;
+  bool operator<(const ExactOperator& other) const {
+    return std::tie(rotation, translation) < std::tie(other.rotation, other.translation);
+  }
 
   [[nodiscard]] DirectVector apply(const DirectVector& position) const;
 };

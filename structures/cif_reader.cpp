@@ -144,7 +144,7 @@ class BlockReader {
   }
 
   /// Operators of a modulated or magnetic structure give the average or the nuclear one.
-  SymmetryClaims symmetry_claims() const {
+  [[nodiscard]] SymmetryClaims symmetry_claims() const {
     SymmetryClaims claims;
     const auto* operators =
         block_.find({"_space_group_symop_operation_xyz", "_symmetry_equiv_pos_as_xyz", "_space_group_symop_operation",

@@ -21,9 +21,7 @@ std::string latin1(std::string_view bytes) {
       }
       return true;
     };
-    if (byte < 0x80) {
-      text += bytes[i];
-    } else if (byte >= 0xC2 && byte <= 0xDF && follows(1)) {
+    if (byte >= 0xC2 && byte <= 0xDF && follows(1)) {
       const unsigned code = ((byte & 0x1FU) << 6U) | (static_cast<unsigned char>(bytes[i + 1]) & 0x3FU);
       text += code <= 0xFF ? static_cast<char>(code) : '?';
       i += 1;

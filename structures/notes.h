@@ -11,7 +11,7 @@ namespace zol {
 struct Note {
   bool doubt = false;  ///< the user should look at it: the crystal may be wrong
   std::string text;
-  bool operator==(const Note&) const = default;
+  friend bool operator==(const Note& a, const Note& b) { return a.doubt == b.doubt && a.text == b.text; }
 };
 
 class Notes {

@@ -57,7 +57,7 @@ class PoscarReader {
   }
   static bool is_number(const std::string& word) { return measured_number(word).has_value(); }
 
-  std::array<double, 3> vector_at(std::size_t line) const {
+  [[nodiscard]] std::array<double, 3> vector_at(std::size_t line) const {
     const auto words = words_at(line);
     if (words.size() < 3) fail_in_line(lines_[line].number, "three numbers are expected");
     std::array<double, 3> v{};

@@ -55,7 +55,7 @@ std::string element_text(int twenty_fourths) {
   one.translation = {std::abs(twenty_fourths) % operator_unit, 0, 0};
   std::string text = twenty_fourths % operator_unit == 0 ? std::to_string(std::abs(twenty_fourths) / operator_unit)
                                                          : operator_text(one);
-  text = text.substr(0, text.find(','));
+  text.resize(std::min(text.size(), text.find(',')));
   return twenty_fourths < 0 ? "-" + text : text;
 }
 

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <map>
 #include <set>
+#include <tuple>
 
 #include "core/run_failure.h"
 #include "structures/exact_matrix.h"
@@ -18,7 +19,10 @@ struct OperatorType {
   bool proper = true;
   int order = 1;
   int translation_order = 1;
-  auto operator<=>(const OperatorType&) const = default;
+  bool operator==(const OperatorType&) const = default;
+  bool operator<(const OperatorType& other) const {
+    return std::tie(proper, order, translation_order) < std::tie(other.proper, other.order, other.translation_order);
+  }
 };
 
 /// The translation of a power of an operator, not folded.

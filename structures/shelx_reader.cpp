@@ -28,7 +28,7 @@ std::string upper(std::string text) {
 /// Reads the instructions in order; what is none of them is an atom.
 class ShelxReader {
  public:
-  explicit ShelxReader(std::string_view bytes) { lines_ = joined(numbered_lines(bytes)); }
+  explicit ShelxReader(std::string_view bytes) : lines_(joined(numbered_lines(bytes))) {}
 
   Reading read(Task& task) {
     read_.format = "SHELX";

@@ -172,7 +172,7 @@ class Choice {
     const auto given = answers_.find(key);
     if (given == answers_.end()) return 0;
     if (given->second == "1" || given->second == "2") return given->second.front() - '0';
-    throw RunFailure("\"" + given->second + "\" answers \"1 or 2\"");
+    throw RunFailure("1 or 2 is expected as an answer, not \"" + given->second + "\"");
   }
 
   std::optional<Question> choose_named() {

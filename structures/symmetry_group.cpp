@@ -110,8 +110,8 @@ std::optional<ExactOperator> SettingChange::transformed(const ExactOperator& op)
   // P^-1 (t + (R - 1) s)
   std::array<Wide, 3> moved{};
   for (std::size_t i = 0; i < 3; ++i) {
-    moved[i] = Wide{operator_unit} * (op.translation[i] - shift[i]);
-    for (std::size_t k = 0; k < 3; ++k) moved[i] += Wide{op.rotation[i][k]} * shift[k];
+    moved[i] = static_cast<Wide>(operator_unit) * (op.translation[i] - shift[i]);
+    for (std::size_t k = 0; k < 3; ++k) moved[i] += static_cast<Wide>(op.rotation[i][k]) * shift[k];
   }
   ExactOperator result{*rotation, {}};
   for (std::size_t i = 0; i < 3; ++i) {
@@ -147,7 +147,8 @@ std::optional<Operators> transformed(const Operators& group, const SettingChange
     if (!moved) return std::nullopt;
     for (const auto& step : old_lattice) {
       ExactOperator shifted = *moved;
-      for (std::size_t i = 0; i < 3; ++i) shifted.translation[i] = folded(Wide{shifted.translation[i]} + step[i]);
+      for (std::size_t i = 0; i < 3; ++i)
+        shifted.translation[i] = folded(static_cast<Wide>(shifted.translation[i]) + step[i]);
       result.push_back(shifted);
     }
   }
