@@ -155,11 +155,11 @@ std::size_t placeholders(std::string_view pattern) {
   return static_cast<std::size_t>(std::count_if(pattern.begin(), pattern.end(), is_placeholder));
 }
 
-/// The digits before the point in their pattern: set from the right, and the first placeholder takes all that are left
-/// over.
-std::string fill_whole(const std::string& digits, std::string_view pattern) {
+/// Appends the digits before the point in their pattern: set from the right, and the first placeholder takes all that
+/// are left over.
+void append_whole(std::string& text, const std::string& digits, std::string_view pattern) {
   std::size_t open = placeholders(pattern);
-  std::string text = open == 0 ? digits : "";
+  if (open == 0) text += digits;
   const std::size_t have = digits.size();
   bool zeros = false;
   bool first = true;
@@ -170,7 +170,7 @@ std::string fill_whole(const std::string& digits, std::string_view pattern) {
     }
     zeros = zeros || c == '0';
     if (first && have >= open) {
-      text += digits.substr(0, have - open + 1);
+      text.append(digits, 0, have - open + 1);
     } else if (have >= open) {
       text += digits[have - open];
     } else if (zeros) {
@@ -179,13 +179,11 @@ std::string fill_whole(const std::string& digits, std::string_view pattern) {
     first = false;
     --open;
   }
-  return text;
 }
 
-/// The digits behind the point in their pattern: a "#" shows as long as a significant digit or a "0" of the pattern
-/// stands at it or behind it.
-std::string fill_fraction(const std::string& digits, std::string_view pattern) {
-  std::string text;
+/// Appends the digits behind the point in their pattern: a "#" shows as long as a significant digit or a "0" of the
+/// pattern stands at it or behind it.
+void append_fraction(std::string& text, const std::string& digits, std::string_view pattern) {
   const std::size_t significant = digits.find_last_not_of('0') + 1;  // npos + 1 is 0
   std::size_t place = 0;
   for (std::size_t i = 0; i < pattern.size(); ++i) {
@@ -197,7 +195,6 @@ std::string fill_fraction(const std::string& digits, std::string_view pattern) {
     if (wanted) text += place < digits.size() ? digits[place] : '0';
     ++place;
   }
-  return text;
 }
 
 }  // namespace
@@ -246,8 +243,11 @@ std::string Format(double value, std::string_view pattern) {
   round_places(parts, placeholders(behind));
   parts.whole.erase(0, std::min(parts.whole.find_first_not_of('0'), parts.whole.size()));
 
-  std::string text = (value < 0.0 ? "-" : "") + fill_whole(parts.whole, before);
-  if (point != std::string_view::npos) text += '.' + fill_fraction(parts.fraction, behind);
+  std::string text = value < 0.0 ? "-" : "";
+  append_whole(text, parts.whole, before);
+  if (point == std::string_view::npos) return text;
+  text += '.';
+  append_fraction(text, parts.fraction, behind);
   return text;
 }
 

@@ -120,8 +120,11 @@ std::optional<Single> angle_of(Single wavelength, Single s) {
 /// The columns h, k, l, k/2, d and 2-theta.
 std::string geometry_columns(const ListEntry& entry, std::optional<Single> two_theta_deg) {
   constexpr std::string_view index_pattern = "##0";
+  constexpr std::size_t whole_line = 80;  // those of the intensity behind them included
   const double s = entry.s;
-  std::string line = right_field(Format(entry.h.value(), index_pattern), 4);
+  std::string line;
+  line.reserve(whole_line);
+  line += right_field(Format(entry.h.value(), index_pattern), 4);
   line += right_field(Format(entry.k.value(), index_pattern), 4);
   line += right_field(Format(entry.l.value(), index_pattern), 4);
   line += right_field(Format(s, "##0.000"), 8);
@@ -207,7 +210,7 @@ void compute_list(const CrystalState& state, const Radiation& radiation, Reflect
     list.b(i) = intensity.f.b;
     list.i(i) = intensity.value;
     if (list.i(i) > 0 || state.NAtom >= 1)
-      list.lines.push_back(geometry_columns(entry, two_theta_deg) + intensity.columns);
+      list.lines.push_back(geometry_columns(entry, two_theta_deg).append(intensity.columns));
   }
   list.scatter_missing = state.NAtom > 0 && list.count > 0 && atoms.scatter_missing();
 }

@@ -29,6 +29,7 @@ void append_intensity(std::string& line, double value) {
 Single append_structure_factor(Intensity& intensity) {
   const double a = intensity.f.a;
   const double b = intensity.f.b;
+  intensity.columns.reserve(48);  // those that follow included
   append_amplitude(intensity.columns, a);
   append_amplitude(intensity.columns, b);
   const Single modulus = to_single(std::sqrt(a * a + b * b));
@@ -76,7 +77,7 @@ class Room {
   [[nodiscard]] std::span<double> take(std::size_t numbers) { return {std::exchange(next_, next_ + numbers), numbers}; }
 
  private:
-  std::array<double, 256> own_;
+  std::array<double, 1024> own_;
   std::unique_ptr<double[]> memory_;
   double* next_ = own_.data();
 };
