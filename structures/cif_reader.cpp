@@ -306,11 +306,7 @@ class BlockReader {
   void add_sites(std::size_t row, const std::string& label, const std::vector<Species>& species,
                  const DirectVector& position, const AnisotropicTable& anisotropic) {
     const auto occupancy = atoms_.number(row, {"_atom_site_occupancy"});
-    double share = occupancy ? occupancy->value : 1;
-    if (share <= 0) {
-      read_.notes.assume("sites with an occupancy of 0 are left out");
-      return;
-    }
+    const double share = occupancy ? occupancy->value : 1;
     if (share > 1.01) read_.notes.doubt("the occupancy of " + label + " is above 1");
     const double b = b_of(row, label, anisotropic);
     for (const auto& part : species) {

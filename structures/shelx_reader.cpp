@@ -179,7 +179,7 @@ class ShelxReader {
     site.b_iso = displacement(words, line);
     if (atomic_number(element) == 0) {
       read_.notes.doubt("the element " + element + " is not known; " + words[0] + " is left out");
-    } else if (site.occupancy > 0) {
+    } else {
       read_.structure.sites.push_back(site);
     }
     return true;

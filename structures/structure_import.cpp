@@ -43,10 +43,14 @@ void make_labels_unique(Structure& structure) {
   }
 }
 
-/// Ions that the table lacks become neutral atoms; what it lacks altogether is left out.
+/// Ions that the table lacks become neutral atoms; what it lacks altogether is left out, and so is what is nowhere.
 void resolve_elements(Structure& structure, const std::set<std::string>& keys, Notes& notes) {
   std::vector<Site> kept;
   for (Site& site : structure.sites) {
+    if (!(site.occupancy > 0)) {
+      notes.assume("sites with an occupancy of 0 are left out");
+      continue;
+    }
     if (site.charge != 0 && !keys.contains(species_key(site.element, site.charge))) {
       notes.assume("there are no scattering factors of " + species_key(site.element, site.charge) + "; those of " +
                    site.element + " are taken");
