@@ -179,7 +179,8 @@ Operators read_hall(std::string_view symbol) {
   if (bracket != std::string_view::npos) {
     std::istringstream numbers{std::string(symbol.substr(bracket + 1))};
     for (int& component : shift) {
-      if (!(numbers >> component)) throw RunFailure("three numbers are expected in its brackets");
+      if (!(numbers >> component) || std::abs(component) > 12)
+        throw RunFailure("three numbers are expected in its brackets");
       component *= twelfth;
     }
     symbol = symbol.substr(0, bracket);

@@ -1,6 +1,7 @@
 #include "structures/line_format.h"
 
 #include <cctype>
+#include <cmath>
 #include <sstream>
 
 #include "core/run_failure.h"
@@ -38,6 +39,15 @@ double number_in(const std::string& word, int line, const std::string& what) {
   const auto number = measured_number(word);
   if (!number) fail_in_line(line, what + " is \"" + word + "\", a number is expected");
   return number->value;
+}
+
+int whole_number_in(const std::string& word, int line, const std::string& what, int lowest, int highest) {
+  const double number = number_in(word, line, what);
+  if (!(number >= lowest && number <= highest) || number != std::trunc(number)) {
+    fail_in_line(line, what + " is \"" + word + "\", a whole number from " + std::to_string(lowest) + " to " +
+                           std::to_string(highest) + " is expected");
+  }
+  return static_cast<int>(number);
 }
 
 std::string element_name(const std::string& word) {

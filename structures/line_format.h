@@ -25,5 +25,7 @@ struct NumberedLine {
 [[noreturn]] void fail_in_line(int line, const std::string& why);
 /// @throws RunFailure  the word is no number
 [[nodiscard]] double number_in(const std::string& word, int line, const std::string& what);
+/// @throws RunFailure  the word is no whole number from lowest to highest
+[[nodiscard]] int whole_number_in(const std::string& word, int line, const std::string& what, int lowest, int highest);
 
 }  // namespace zol

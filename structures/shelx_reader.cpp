@@ -108,8 +108,8 @@ class ShelxReader {
   }
 
   bool take_lattice(const std::vector<std::string>& words, int line) {
-    lattice_ = words.size() > 1 ? static_cast<int>(number_in(words[1], line, "LATT")) : 1;
-    if (lattice_ == 0 || std::abs(lattice_) > 7) fail_in_line(line, "LATT is -7 to 7 and not 0");
+    lattice_ = words.size() > 1 ? whole_number_in(words[1], line, "LATT", -7, 7) : 1;
+    if (lattice_ == 0) fail_in_line(line, "LATT is 0");
     return true;
   }
 
@@ -144,6 +144,8 @@ class ShelxReader {
 
   /// 10 + x is x, held; 10 m + p is p times free variable m, -10 m - p is p times (that variable - 1) with a sign.
   [[nodiscard]] double released(double value, int line) const {
+    constexpr double farthest = 10000;  // of 999 free variables
+    if (!(std::abs(value) < farthest)) fail_in_line(line, "a value is too large");
     const double m = std::trunc((value + (value < 0 ? -5 : 5)) / 10);
     const double p = value - 10 * m;
     if (m == 0 || m == 1) return p;
@@ -157,11 +159,9 @@ class ShelxReader {
 
   bool take_atom(const std::vector<std::string>& words, int line) {
     if (words.size() < 5) fail_in_line(line, "\"" + words[0] + "\" is no instruction and has no coordinates");
-    const auto kind = static_cast<int>(number_in(words[1], line, "the element of " + words[0]));
-    if (kind < 1 || static_cast<std::size_t>(kind) > elements_.size()) {
-      fail_in_line(line,
-                   "the element of " + words[0] + " is " + words[1] + ", SFAC has " + std::to_string(elements_.size()));
-    }
+    if (elements_.empty()) fail_in_line(line, "an atom before SFAC");
+    const int kind =
+        whole_number_in(words[1], line, "the element of " + words[0], 1, static_cast<int>(elements_.size()));
     if (words[0].starts_with('Q') && std::isdigit(static_cast<unsigned char>(words[0][1])) != 0 &&
         std::find(elements_.begin(), elements_.end(), "Q") == elements_.end()) {
       return true;  // a peak of the difference map

@@ -14,8 +14,9 @@ namespace {
 
 std::string rounded(double value, int decimals) {
   std::array<char, 64> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals).ptr;
-  return {text.data(), end};
+  const auto fixed = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals);
+  if (fixed.ec == std::errc()) return {text.data(), fixed.ptr};
+  return {text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr};
 }
 
 std::string counted(std::size_t count, const std::string& thing) {

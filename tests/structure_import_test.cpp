@@ -228,7 +228,7 @@ TEST(StructureImport, ReadsOtherFormats) {
   check(
       {{"SHELX, occupancy on an axis, a free variable", shelx, "O6 Si3 | 152 abc | 0.79"},
        {"no elements", "TITL x\nCELL 1 5 5 5 90 90 90\nLATT 1\nNa1 1 0 0 0\nHKLF 4\n",
-        "failure: line 4: the element of Na1 is 1, SFAC has 0"},
+        "failure: line 4: an atom before SFAC"},
        {"POSCAR", poscar, "Cl Na | 1 abc | 0.50"},
        {"without names", "x\n1\n5 0 0\n0 5 0\n0 0 5\n1 1\nDirect\n0 0 0\n.5 .5 .5\n", "? elements", {}, "POSCAR"},
        {"names by hand",

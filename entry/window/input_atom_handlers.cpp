@@ -32,14 +32,14 @@ std::vector<AtomSite> sites_in(const InputAtomForm& form) {
 }
 
 /// The dialog comes first, then the table is emptied, whether or not a file was chosen.
-void import(InputAtomForm& form, std::vector<AtomRow> (*read)(const std::string& path, Task& task)) {
+void import(Workbench& bench, InputAtomForm& form, std::vector<AtomRow> (*read)(const std::string& path, Task& task)) {
   form.CommonDialog1.set_filter(file_filters::atom_lists);
   const std::string path = form.CommonDialog1.open(FileKind::AtomList);
   form.G.clear();
   write_frame(form.G, headers);
   if (path.empty()) return;
   int row = 0;
-  QuietTask task;
+  WindowTask task(bench.services);
   for (const auto& texts : read(path, task)) put_row(form.G, ++row, texts);
 }
 
@@ -67,9 +67,9 @@ void Command1_Click(Workbench& bench, InputAtomForm& form) {
   AtomCcalc(bench);
 }
 
-void Import_CIF_Click(InputAtomForm& form) { import(form, read_bare_atom_list); }
+void Import_CIF_Click(Workbench& bench, InputAtomForm& form) { import(bench, form, read_bare_atom_list); }
 
-void Import_MINCRYST_Click(InputAtomForm& form) { import(form, read_mincryst_list); }
+void Import_MINCRYST_Click(Workbench& bench, InputAtomForm& form) { import(bench, form, read_mincryst_list); }
 
 }  // namespace
 

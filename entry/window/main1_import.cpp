@@ -23,7 +23,7 @@ void import(Workbench& bench, Main1Form& form, FileKind kind, const char* filter
   CrystalState& state = form.state;
   Reader reader(path);
   Integer atoms;
-  QuietTask task;
+  WindowTask task(bench.services);
   for_each_line(read_file(path), task, [&](std::string_view line) {
     const auto found = reader.take(line);
     if (found.site) store_site(state, (atoms += 1).value(), *found.site);
