@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 
 #include "core/run_failure.h"
 
@@ -24,9 +25,11 @@ DirectVector folded(const DirectVector& position, const std::string& label) {
 int folded(int translation) { return ((translation % operator_unit) + operator_unit) % operator_unit; }
 
 /// A sum of products of two elements, back in 24ths.
-int in_units(int products) {
-  if (products % operator_unit != 0) throw RunFailure("the product of two symmetry operators has no exact form");
-  return products / operator_unit;
+int in_units(std::int64_t products) {
+  constexpr std::int64_t largest = 1 << 20;  // those of no finite group grow without end
+  if (products % operator_unit != 0 || std::abs(products) > largest)
+    throw RunFailure("the product of two symmetry operators has no exact form");
+  return static_cast<int>(products / operator_unit);
 }
 
 /// Shortest distance between two positions, over the lattice translations around them.
@@ -61,12 +64,12 @@ DirectVector ExactOperator::apply(const DirectVector& position) const {
 ExactOperator operator*(const ExactOperator& left, const ExactOperator& right) {
   ExactOperator product;
   for (std::size_t i = 0; i < 3; ++i) {
-    int translation = left.translation[i] * operator_unit;
+    std::int64_t translation = std::int64_t{left.translation[i]} * operator_unit;
     for (std::size_t j = 0; j < 3; ++j) {
-      int sum = 0;
-      for (std::size_t k = 0; k < 3; ++k) sum += left.rotation[i][k] * right.rotation[k][j];
+      std::int64_t sum = 0;
+      for (std::size_t k = 0; k < 3; ++k) sum += std::int64_t{left.rotation[i][k]} * right.rotation[k][j];
       product.rotation[i][j] = in_units(sum);
-      translation += left.rotation[i][j] * right.translation[j];
+      translation += std::int64_t{left.rotation[i][j]} * right.translation[j];
     }
     product.translation[i] = folded(in_units(translation));
   }

@@ -64,8 +64,10 @@ std::string cif_text(const Structure& structure) {
           number(cell.c) + "\n_cell_angle_alpha " + number(cell.alpha) + "\n_cell_angle_beta " + number(cell.beta) +
           "\n_cell_angle_gamma " + number(cell.gamma) + "\n";
   text += "_cell_volume " + number(Lattice(cell).volume()) + "\n";
-  if (structure.space_group_number > 0 && !structure.space_group_symbol.empty()) {
+  if (structure.space_group_number > 0) {
     text += "_space_group_IT_number " + std::to_string(structure.space_group_number) + "\n";
+  }
+  if (!structure.space_group_symbol.empty()) {
     text += "_space_group_name_H-M_alt " + quoted(structure.space_group_symbol) + "\n";
   }
   text += "loop_\n_space_group_symop_id\n_space_group_symop_operation_xyz\n";

@@ -213,6 +213,13 @@ std::vector<NamedGroup> with_exchanged_axes(const Symbol& symbol, const CellCons
 
 }  // namespace
 
+const TabulatedSetting* setting_of(const Operators& operators) {
+  for (const auto& setting : tabulated_settings()) {
+    if (hall_group(setting.hall) == operators) return &setting;
+  }
+  return nullptr;
+}
+
 std::vector<NamedGroup> groups_of_symbol(std::string_view given, const CellConstants& cell) {
   Symbol symbol = parted(given);
   std::string joined = symbol.joined();

@@ -22,6 +22,9 @@ struct TabulatedSetting {
 /// All of them; of each number the standard setting first.
 [[nodiscard]] std::span<const TabulatedSetting> tabulated_settings();
 
+/// The setting with these operators, sorted; a null pointer where no tabulated one has them.
+[[nodiscard]] const TabulatedSetting* setting_of(const Operators& operators);
+
 /// The group of a Hall symbol, sorted.
 /// Source: Hall, Acta Cryst. A37 (1981) 517; the origin shift in brackets as in the International Tables B A1.4.2.3.
 /// @throws RunFailure  it is no Hall symbol

@@ -7,6 +7,7 @@
 #include "core/read_file.h"
 #include "reflections/window/main1_operations.h"
 #include "structures/cif_writer.h"
+#include "structures/space_group_symbols.h"
 #include "structures/structure_import.h"
 
 namespace zol {
@@ -79,11 +80,11 @@ Structure present_structure(Workbench& bench, const CrystalState& state) {
   Structure structure;
   structure.cell = {state.CellA, state.CellB, state.CellC, state.CellAlpha, state.CellBeta, state.CellGamma};
   structure.operators = group->by_axes.at(state.AxisSetting);
-  if (state.SGNumber <= 230 && state.AxisSetting == "abc") {
-    structure.space_group_number = state.SGNumber.value();
-    structure.space_group_symbol = group->symbol;
-  } else {
-    structure.space_group_number = 0;
+  structure.space_group_number = state.SGNumber <= 230 ? state.SGNumber.value() : 0;
+  if (const auto* setting = setting_of(structure.operators)) {
+    structure.space_group_number = setting->number;
+    structure.space_group_symbol = setting->symbol;
+    if (!setting->qualifier.empty()) structure.space_group_symbol += ":" + std::string(setting->qualifier);
   }
   for (int i = 1; i <= state.NAtom.value(); ++i) {
     const auto species = species_of(state.AtomElement(i), false, {});
