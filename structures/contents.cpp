@@ -87,6 +87,27 @@ void check_cell(const CellConstants& cell) {
   }
 }
 
+double cell_misfit(const Structure& structure) {
+  const Lattice lattice(structure.cell);
+  const std::array edges{lattice.cartesian(DirectVector{1, 0, 0}), lattice.cartesian(DirectVector{0, 1, 0}),
+                         lattice.cartesian(DirectVector{0, 0, 1})};
+  const double longest = std::max({structure.cell.a, structure.cell.b, structure.cell.c});
+  double misfit = 0;
+  for (const auto& op : structure.operators) {
+    std::array<CartesianVector, 3> turned{};
+    for (std::size_t j = 0; j < 3; ++j) {
+      const ExactOperator rotation{op.rotation, {}};
+      turned[j] = lattice.cartesian(rotation.apply({j == 0 ? 1.0 : 0.0, j == 1 ? 1.0 : 0.0, j == 2 ? 1.0 : 0.0}));
+    }
+    for (std::size_t i = 0; i < 3; ++i) {
+      for (std::size_t j = i; j < 3; ++j) {
+        misfit = std::max(misfit, std::abs(dot(turned[i], turned[j]) - dot(edges[i], edges[j])));
+      }
+    }
+  }
+  return misfit / (longest * longest);
+}
+
 Formula cell_contents(const Structure& structure, Task& task) {
   Formula contents;
   for (const Site& site : structure.sites) {

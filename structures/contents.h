@@ -19,6 +19,10 @@ inline constexpr double settled_angstrom = 0.04;
 /// @throws RunFailure  it is none
 void check_cell(const CellConstants& cell);
 
+/// How far the operators are from leaving the cell as it is: the largest change of a scalar product of two edges, in
+/// parts of the square of the longest edge.
+[[nodiscard]] double cell_misfit(const Structure& structure);
+
 /// Atoms of the cell by element, occupancies counted.
 [[nodiscard]] Formula cell_contents(const Structure& structure, Task& task);
 

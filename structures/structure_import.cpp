@@ -67,6 +67,15 @@ void resolve_elements(Structure& structure, const std::set<std::string>& keys, N
   structure.sites = std::move(kept);
 }
 
+/// A cell that the operators change is that of another crystal; a slight change is one of the measurement.
+void check_cell_of_symmetry(const Structure& structure, Notes& notes) {
+  constexpr double slight = 0.002;
+  constexpr double most = 0.05;
+  const double misfit = cell_misfit(structure);
+  if (misfit > most) throw RunFailure("the cell does not fit the symmetry");
+  if (misfit > slight) notes.doubt("the cell does not fit the symmetry exactly");
+}
+
 /// Occupancies that sum up to above 1 on a place.
 void tell_crowded_sites(const Structure& structure, Notes& notes) {
   const Lattice lattice(structure.cell);
@@ -211,6 +220,7 @@ Import import_structure(std::string_view bytes, const std::string& name, const I
   Reading reading = read_structure(bytes, name, answers, groups, task);
   if (auto* question = std::get_if<Question>(&reading)) return *question;
   auto& read = std::get<ReadStructure>(reading);
+  check_cell_of_symmetry(read.structure, read.notes);
   resolve_elements(read.structure, factor_keys, read.notes);
   if (read.structure.sites.size() > static_cast<std::size_t>(max_sites)) check_limits(read.structure, 0);
   for (const auto& label : settle_positions(read.structure, task)) {

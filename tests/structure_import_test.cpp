@@ -110,6 +110,8 @@ TEST(StructureImport, MendsTheSyntaxOfCif) {
           halite + "data_second\n" + cubic + fm3m + xyz + "K1 0 0 0\n",
           "K4 | 225 abc | 0.50",
           {{"block", "2"}}},
+         {"a cell of another symmetry", "data_x\n" + hexagonal("5", "7") + fm3m + halite_atoms,
+          "failure: the cell does not fit the symmetry"},
          {"no atoms", "data_x\n" + cubic, "failure: no atoms: a loop with _atom_site_fract_x is expected"},
          {"no cell", "data_x\n" + halite_atoms, "failure: _cell_length_a is missing or no length"},
          {"a cell of words", "data_x\n_cell_length_a long\n" + halite_atoms,
