@@ -67,13 +67,11 @@ void resolve_elements(Structure& structure, const std::set<std::string>& keys, N
   structure.sites = std::move(kept);
 }
 
-/// A cell that the operators change is that of another crystal; a slight change is one of the measurement.
-void check_cell_of_symmetry(const Structure& structure, Notes& notes) {
+/// A cell that the operators change: slightly by the measurement, else since cell or symmetry is that of another
+/// crystal.
+void tell_misfit(const Structure& structure, Notes& notes) {
   constexpr double slight = 0.002;
-  constexpr double most = 0.05;
-  const double misfit = cell_misfit(structure);
-  if (misfit > most) throw RunFailure("the cell does not fit the symmetry");
-  if (misfit > slight) notes.doubt("the cell does not fit the symmetry exactly");
+  if (cell_misfit(structure) > slight) notes.doubt("the cell does not fit the symmetry");
 }
 
 /// Occupancies that sum up to above 1 on a place.
@@ -220,7 +218,7 @@ Import import_structure(std::string_view bytes, const std::string& name, const I
   Reading reading = read_structure(bytes, name, answers, groups, task);
   if (auto* question = std::get_if<Question>(&reading)) return *question;
   auto& read = std::get<ReadStructure>(reading);
-  check_cell_of_symmetry(read.structure, read.notes);
+  tell_misfit(read.structure, read.notes);
   resolve_elements(read.structure, factor_keys, read.notes);
   if (read.structure.sites.size() > static_cast<std::size_t>(max_sites)) check_limits(read.structure, 0);
   for (const auto& label : settle_positions(read.structure, task)) {
