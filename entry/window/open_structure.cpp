@@ -45,20 +45,14 @@ std::optional<ImportedCrystal> read(Workbench& bench, const CrystalState& state,
   }
 }
 
-/// Writing the boxes runs their handlers: the cell is computed, the space group looked up.
 void show(Workbench& bench, Main1Form& form, const ImportedCrystal& crystal, const std::string& path) {
   const CellConstants& cell = crystal.structure.cell;
   CrystalState& state = form.state;
-  const auto text = [](double value) { return Str(to_single(value)); };
-  form.Text1.set_text(text(cell.a));
-  form.Text2.set_text(text(cell.b));
-  form.Text3.set_text(text(cell.c));
-  form.Text4.set_text(text(cell.alpha));
-  form.Text5.set_text(text(cell.beta));
-  form.Text6.set_text(text(cell.gamma));
-  form.Text7.set_text(Str(crystal.file_number));
   state.AxisSetting = crystal.axis_setting;
-  form.Combo2.set_text(state.AxisSetting);
+  show_cell(form,
+            {to_single(cell.a), to_single(cell.b), to_single(cell.c), to_single(cell.alpha), to_single(cell.beta),
+             to_single(cell.gamma)},
+            crystal.file_number, state.AxisSetting);
   fill_sites(state, crystal.structure);
   form.Label19.set_caption(Str(state.NAtom));
   form.Label31.set_caption("");

@@ -14,19 +14,6 @@ namespace {
 /// The two loads differ in what a file that ends behind the cell leaves undone, and in Label31.
 enum class LoadBy { Menu, OtherWindow };
 
-/// Writing the boxes runs their handlers: the cell is computed, the space group looked up.
-void show_cell(Main1Form& form) {
-  const CrystalState& state = form.state;
-  form.Text1.set_text(Str(state.CellA));
-  form.Text2.set_text(Str(state.CellB));
-  form.Text3.set_text(Str(state.CellC));
-  form.Text4.set_text(Str(state.CellAlpha));
-  form.Text5.set_text(Str(state.CellBeta));
-  form.Text6.set_text(Str(state.CellGamma));
-  form.Text7.set_text(Str(state.SGNumber));
-  form.Combo2.set_text(state.AxisSetting);
-}
-
 void rebuild(Workbench& bench, Main1Form& form, LoadBy by) {
   const CrystalState& state = form.state;
   form.Label19.set_caption(Str(state.NAtom));
@@ -57,7 +44,8 @@ void load_crystal(Workbench& bench, LoadBy by) {
 
   CrystalFileReader file(state.CrystalFile);
   file.read_cell(state);
-  show_cell(form);
+  show_cell(form, {state.CellA, state.CellB, state.CellC, state.CellAlpha, state.CellBeta, state.CellGamma},
+            state.SGNumber, state.AxisSetting);
   const bool has_contents = file.read_contents(state);
   if (has_contents || by == LoadBy::Menu) {
     form.Text17.set_text(state.CrystalFile);
@@ -67,6 +55,15 @@ void load_crystal(Workbench& bench, LoadBy by) {
 }
 
 }  // namespace
+
+void show_cell(Main1Form& form, const std::array<Single, 6>& cell, Integer number, const String& axes) {
+  std::size_t constant = 0;
+  for (TextBox* box : {&form.Text1, &form.Text2, &form.Text3, &form.Text4, &form.Text5, &form.Text6}) {
+    box->set_text(Str(cell[constant++]));
+  }
+  form.Text7.set_text(Str(number));
+  form.Combo2.set_text(axes);
+}
 
 void show_title(Workbench& bench, const std::string& title) {
   for (const auto* name : {"Pattern2", "Xd", "Zaxis", "Dring", "FiberTexture", "Pattern"}) {

@@ -1,9 +1,13 @@
 // Public operations of Main1 that other windows call too.
 #pragma once
 
+#include <array>
+
 #include "shell/services/workbench.h"
 
 namespace zol {
+
+struct Main1Form;
 
 /// The cell constants give the derived fields and the boxes of the reciprocal cell; an impossible cell changes no box.
 void CalcCell(Workbench& bench);
@@ -21,6 +25,10 @@ void CalcReflections(Workbench& bench);
 
 /// "Calc": CalcReflections, then the triple table of PATTERN3, which reorders the list.
 void calculate(Workbench& bench);
+
+/// Writes the constants (angstroms, degrees), the number of the space group and the choice of axes into the boxes. That
+/// runs their handlers: the cell is computed, the space group looked up.
+void show_cell(Main1Form& form, const std::array<Single, 6>& cell, Integer number, const String& axes);
 
 /// The title of the crystal's file goes to the windows that draw from it.
 void show_title(Workbench& bench, const std::string& title);
