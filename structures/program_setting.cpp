@@ -155,6 +155,15 @@ PlacedStructure in_program_setting(const Structure& structure, const SpaceGroupL
   return placed;
 }
 
+Structure with_known_origin(const Structure& structure, const SpaceGroupLibrary& groups, Task& task) {
+  const auto placed = transformed_to_file(structure, groups, task);
+  if (!placed) return structure;
+  if (placed->change->matrix == SettingChange{}.matrix) return placed->structure;
+  Structure named = structure;
+  named.space_group_number = placed->file_number;
+  return named;
+}
+
 PlacedStructure without_symmetry(const Structure& structure, Task& task) {
   PlacedStructure placed{structure, 1, "abc", std::nullopt, {}};
   placed.structure.operators = {ExactOperator{}};

@@ -49,6 +49,10 @@ struct PlacedStructure {
 [[nodiscard]] PlacedStructure in_program_setting(const Structure& structure, const SpaceGroupLibrary& groups,
                                                  Task& task);
 
+/// For a setting that has no name in the tables: with the origin of the file of its space group where nothing else
+/// differs, since some programs read the symbol and number alone; with other axes its number is set.
+[[nodiscard]] Structure with_known_origin(const Structure& structure, const SpaceGroupLibrary& groups, Task& task);
+
 /// With all atoms of the cell as sites, labels numbered, in P1.
 [[nodiscard]] PlacedStructure without_symmetry(const Structure& structure, Task& task);
 

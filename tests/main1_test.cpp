@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "core/read_file.h"
 #include "entry/window/input_atom_form.h"
 #include "reflections/window/main1_form.h"
 #include "shell/program/program.h"
@@ -40,6 +41,18 @@ TEST_F(Main1Test, StructuresAreSavedAndOpenedOrRefused) {
   EXPECT_EQ(form().Text17.text(), folder.path("salt.cif"));
   ASSERT_FALSE(services.messages.empty());
   EXPECT_EQ(services.messages.front(), "CIF: NaCl");
+
+  // A setting of no table takes the origin of its group's table along, as some programs read the symbol alone.
+  services.answers = {ZOL_SOURCE_DIR "/data/ZOLDATA/Titanium.cry"};
+  form().DATA_LOAD.click();
+  services.answers = {folder.path("titanium.cif")};
+  form().ExportStructure.click();
+  const std::string text = read_file(folder.path("titanium.cif"));
+  for (const auto line : {"_name_H-M_alt 'P 63/m m c'\n", "_cell_length_a 2.95\n", "Ti .3333333 .6666667 -.25 1 "}) {
+    EXPECT_NE(text.find(line), std::string::npos) << line << text;
+  }
+  services.answers = {folder.path("salt.cif")};
+  form().ImportStructure.click();
 
   form().Text18.set_text("99999");  // a fixed index that is no Integer
   services.answers = {ZOL_SOURCE_DIR "/examples/cif/quartz.cif"};

@@ -62,6 +62,9 @@ void show(Workbench& bench, Main1Form& form, const ImportedCrystal& crystal, con
   calculate(bench);
 }
 
+/// The number that a Single is shown as: .2 is meant as .2, not as .200000003.
+double as_shown(Single value) { return Val(plain_text(value)); }
+
 /// A crystal as it is in the program. @throws RunFailure  there are no atoms, or no space group
 Structure present_structure(Workbench& bench, const CrystalState& state) {
   if (state.NAtom < 1) throw RunFailure("there are no atoms to save");
@@ -72,24 +75,30 @@ Structure present_structure(Workbench& bench, const CrystalState& state) {
                      state.AxisSetting + "\"");
   }
   Structure structure;
-  structure.cell = {state.CellA, state.CellB, state.CellC, state.CellAlpha, state.CellBeta, state.CellGamma};
+  structure.cell = {as_shown(state.CellA),     as_shown(state.CellB),    as_shown(state.CellC),
+                    as_shown(state.CellAlpha), as_shown(state.CellBeta), as_shown(state.CellGamma)};
   structure.operators = group->by_axes.at(state.AxisSetting);
-  structure.space_group_number = state.SGNumber <= 230 ? state.SGNumber.value() : 0;
-  if (const auto* setting = setting_of(structure.operators)) {
-    structure.space_group_number = setting->number;
-    structure.space_group_symbol = setting->symbol;
-    if (!setting->qualifier.empty()) structure.space_group_symbol += ":" + std::string(setting->qualifier);
-  }
+  structure.space_group_number = 0;
   for (int i = 1; i <= state.NAtom.value(); ++i) {
     const auto species = species_of(state.AtomElement(i), false, {});
     if (species.empty())
       throw RunFailure("\"" + state.AtomElement(i) + "\" of atom " + std::to_string(i) + " is no element");
-    structure.sites.push_back({state.AtomLabel(i),
-                               species.front().element,
-                               species.front().charge,
-                               state.AtomOcc(i),
-                               {state.AtomPos(i, 1), state.AtomPos(i, 2), state.AtomPos(i, 3)},
-                               state.AtomB(i)});
+    structure.sites.push_back(
+        {state.AtomLabel(i),
+         species.front().element,
+         species.front().charge,
+         as_shown(state.AtomOcc(i)),
+         {as_shown(state.AtomPos(i, 1)), as_shown(state.AtomPos(i, 2)), as_shown(state.AtomPos(i, 3))},
+         as_shown(state.AtomB(i))});
+  }
+  if (setting_of(structure.operators) == nullptr) {
+    WindowTask task(bench.services);
+    structure = with_known_origin(structure, groups, task);
+  }
+  if (const auto* setting = setting_of(structure.operators)) {
+    structure.space_group_number = setting->number;
+    structure.space_group_symbol = setting->symbol;
+    if (!setting->qualifier.empty()) structure.space_group_symbol += ":" + std::string(setting->qualifier);
   }
   return structure;
 }
