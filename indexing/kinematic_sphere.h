@@ -1,0 +1,40 @@
+// The bands of a crystal drawn once on the sphere of directions, so that any picture of them is a look-up.
+//
+// Each reflection is a soft strip of twice its Bragg angle about its plane, brighter inside, darker at its edges. The
+// sphere is its own image by inversion; it is kept in stereographic projection from the pole -z, a little beyond the
+// equator, so that every direction of either half finds its neighbours.
+#pragma once
+
+#include <vector>
+
+#include "indexing/reflectors.h"
+
+namespace zol {
+
+struct StripShape {
+  double softness = 0.1;      ///< width of the slope at the edge, in Bragg angles
+  double edge_depth = 1.6;    ///< of the dark line outside the edge, as a share of the strip's brightness
+  double edge_width = 0.2;    ///< of that line, in Bragg angles
+  double weight_power = 0.7;  ///< of the square of the structure factor
+};
+
+class KinematicSphere {
+ public:
+  /// @param reflectors  families whose strip is too faint to matter are left out
+  /// @param size        points of the grid along a diameter
+  KinematicSphere(const ReflectorSet& reflectors, int size, const StripShape& shape, Task& task);
+
+  [[nodiscard]] int size() const { return size_; }
+  [[nodiscard]] float scale() const { return scale_; }    ///< grid points per unit of the projection
+  [[nodiscard]] float middle() const { return middle_; }  ///< grid coordinate of the pole
+  [[nodiscard]] const std::vector<float>& values() const { return values_; }
+  /// Brightness in a direction of the crystal's frame, of any length but 0; mean 0 over the sphere.
+  [[nodiscard]] float at(const Vector3& direction) const;
+
+ private:
+  int size_;
+  float scale_, middle_;
+  std::vector<float> values_;  ///< row by row, x fastest
+};
+
+}  // namespace zol

@@ -1,0 +1,45 @@
+// A picture made ready for indexing: small enough, without background, of even contrast.
+#pragma once
+
+#include <vector>
+
+#include "indexing/picture.h"
+
+namespace zol {
+
+struct PreparationSettings {
+  int most_pixels = 128 * 128;  ///< pixels are gathered in squares until there are about as many
+  double background = 0.12;     ///< radius of the local mean that is taken off, in widths of the picture
+  bool circle = false;          ///< only the largest circle about the middle holds the pattern
+};
+
+/// Its storage is used again for the next picture of the same size.
+class PreparedPicture {
+ public:
+  /// @returns false where the picture has no contrast at all: it is blank
+  [[nodiscard]] bool prepare(const PictureView& picture, const PreparationSettings& settings);
+
+  [[nodiscard]] int width() const { return width_; }
+  [[nodiscard]] int height() const { return height_; }
+  /// Projection of this picture where that of the whole one has this centre.
+  [[nodiscard]] Projection projection(const PatternCentre& centre) const { return {centre, projection_width_}; }
+  /// Mean about 0, spread about 1; 0 where there is no pattern.
+  [[nodiscard]] const std::vector<float>& values() const { return values_; }
+  /// 1 where there is a pattern, else 0.
+  [[nodiscard]] const std::vector<float>& mask() const { return mask_; }
+  /// Changes with size and mask of the picture, for what depends on them alone.
+  [[nodiscard]] int shape_version() const { return shape_version_; }
+
+ private:
+  void shape(const PictureView& picture, const PreparationSettings& settings);
+  void gather(const PictureView& picture);
+  void blur(std::vector<float>& image, int radius);
+
+  int picture_width_ = 0, picture_height_ = 0;
+  bool circle_ = false;
+  int bin_ = 1, width_ = 0, height_ = 0, shape_version_ = 0;
+  double projection_width_ = 0;
+  std::vector<float> values_, mask_, mask_mean_, mean_, spread_, row_, column_;
+};
+
+}  // namespace zol
