@@ -157,11 +157,11 @@ void atom_lists(const std::string& input) {
 
 void bitmap(const std::string& input) {
   const auto picture = pictures().make_surface(1, 1);
-  picture->load_bitmap(MemoryFile(input).path());
+  picture->load(MemoryFile(input).path());
   const auto shown = pictures().make_surface(64, 64);
   shown->draw(*picture, true);
   (void)shown->pixel(0, 0);
-  picture->mirror(true, true);
+  (void)picture->mirrored(true, true)->grey();
 }
 
 }  // namespace

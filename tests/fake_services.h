@@ -49,13 +49,16 @@ class FakeSurface : public Surface {
       }
     }
   }
-  void mirror(bool left_to_right, bool upside_down) override {
-    for (const auto& [place, colour] : std::exchange(pixels_, {})) {
+  [[nodiscard]] std::unique_ptr<Surface> mirrored(bool left_to_right, bool upside_down) const override {
+    auto turned = std::make_unique<FakeSurface>(width_, height_);
+    for (const auto& [place, colour] : pixels_) {
       const auto [x, y] = place;
-      set_pixel(left_to_right ? width_ - 1 - x : x, upside_down ? height_ - 1 - y : y, colour);
+      turned->set_pixel(left_to_right ? width_ - 1 - x : x, upside_down ? height_ - 1 - y : y, colour);
     }
+    return turned;
   }
-  void load_bitmap(const std::string& path) override {
+  [[nodiscard]] GreyPicture grey() const override { return {width_, height_, {}}; }
+  void load(const std::string& path) override {
     if (path != "four.bmp") throw RunFailure("can't read " + path);
     width_ = height_ = 2;
     for (int i = 0; i < 4; ++i) set_pixel(i % 2, i / 2, 100 + i);

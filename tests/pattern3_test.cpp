@@ -143,7 +143,7 @@ TEST_F(Pattern3Test, LoadedPictureIsTakenOverUpsideDown) {
   EXPECT_EQ(form().ImageFile, "four.bmp");
   EXPECT_EQ(form().caption(), "four.bmp");
   EXPECT_EQ(form().lines.LineDone(0), 0);
-  EXPECT_EQ(services.questions.back().filter, "bmp|*.bmp|");
+  EXPECT_EQ(services.questions.back().filter, file_filters::pictures);
   drag({0, 0, 511, 511});
   auto& pattern2 = program.windows().use<Pattern2Form>();
   pattern2.ImageLoad.click();

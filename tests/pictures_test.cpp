@@ -132,6 +132,60 @@ TEST_F(Pictures, AreBitmapsWithAllTheirPixels) {
   refused("", "a bitmap (BMP) begins with the letters BM");
 }
 
+TEST_F(Pictures, HaveTheGreyValuesOfTheirFiles) {
+  EXPECT_EQ(canvas.grey_picture(), nullptr);
+  QImage image(3, 2, QImage::Format_Grayscale16);
+  const auto expected = [](int x, int y) { return 10.0 + 40 * x + 100 * y; };
+  for (const auto& [x, y] : std::vector<std::pair<int, int>>{{0, 0}, {1, 0}, {2, 0}, {0, 1}, {1, 1}, {2, 1}}) {
+    reinterpret_cast<quint16*>(image.scanLine(y))[x] = static_cast<quint16>(257 * expected(x, y) + 100);
+  }
+  struct Case {
+    const char* name;
+    QImage::Format format;
+    double fraction = 0, tolerance = 0;
+  };
+  constexpr double part = 100.0 / 257;
+  for (const auto& [name, format, fraction, tolerance] :
+       {Case{"24.bmp", QImage::Format_RGB32}, Case{"8.bmp", QImage::Format_Grayscale8},
+        Case{"8.png", QImage::Format_Grayscale8}, Case{"alpha.png", QImage::Format_ARGB32},
+        Case{"16.png", QImage::Format_Grayscale16, part, 1e-5}, Case{"64.png", QImage::Format_RGBA64, part, 1e-5},
+        Case{"8.jpg", QImage::Format_Grayscale8, 0, 3}, Case{"8.tiff", QImage::Format_Grayscale8},
+        Case{"32.tif", QImage::Format_RGB32}, Case{"16.tif", QImage::Format_Grayscale16, part, 1e-5}}) {
+    SCOPED_TRACE(name);
+    ASSERT_TRUE(image.convertToFormat(format).save(QString::fromStdString(folder.path(name)), nullptr, 100));
+    canvas.load_picture(folder.path(name));
+    const auto values_are = [&, shift = fraction, most = tolerance](int across, int down) {
+      const auto grey = canvas.grey_picture();
+      ASSERT_EQ(std::pair(grey->width, grey->height), std::pair(3, 2));
+      for (int i = 0; i < 6; ++i) {
+        EXPECT_NEAR(grey->values.at(static_cast<std::size_t>(i)),
+                    expected(std::abs(across - i % 3), std::abs(down - i / 3)) + shift, most);
+      }
+      EXPECT_EQ(canvas.grey_picture(), grey) << "is kept";
+    };
+    const auto loaded = canvas.contents();
+    canvas.line(-1, 0, 1, 0, red);
+    values_are(0, 0);
+    canvas.flip_picture();
+    values_are(0, 1);
+    canvas.mirror_picture();
+    values_are(2, 1);
+    canvas.edit_picture([](Surface& edited) { edited.set_pixel(99, 0, RGB(200, 100, 50)); });
+    const auto edited = canvas.grey_picture();
+    EXPECT_EQ(edited->width, 100);
+    EXPECT_EQ(edited->values.at(99), 126) << "(200 * 11 + 100 * 16 + 50 * 5) / 32";
+    EXPECT_NEAR(edited->values.back(), expected(0, 0), tolerance);
+    canvas.set_contents(loaded);
+    values_are(0, 0);
+    const std::string whole = folder.read(name);
+    const auto failure = failure_of([&] { canvas.load_picture(folder.write("cut", whole.substr(0, whole.size() * 3 / 4))); });
+    std::cerr << name << ' ' << whole.size() << ' ' << failure << '\n';
+    values_are(0, 0);
+  }
+  canvas.remove_picture();
+  EXPECT_EQ(canvas.grey_picture(), nullptr);
+}
+
 // Lines: a curve of two, two that lie outside, and two that cross the border. Discs: inside, cut, and outside.
 TEST_F(Pictures, VectorFilesHoldWhatIsInsideThePicture) {
   canvas.line(-0.5, 0.5, 0.5, 0.5, red);

@@ -21,7 +21,9 @@ Pattern3Form::Pattern3Form(Workbench& bench)
   Picture1.describe_place = [](double x, double y) {
     return value_text("x", x, "0.0", "") + value_text("   y", y, "0.0", " pixels");
   };
-  file_drops = {{".bmp", &ImageLoad, &CommonDialog1}};
+  for (const auto* ending : {".bmp", ".png", ".jpg", ".jpeg", ".tif", ".tiff"}) {
+    file_drops.push_back({ending, &ImageLoad, &CommonDialog1});
+  }
   name_fields();
 }
 

@@ -180,7 +180,7 @@ void Command10_Click(Pattern3Form& form, int index) {
 }
 
 void ImageLoad_Click(Pattern3Form& form) {
-  form.CommonDialog1.set_filter(file_filters::bitmaps);
+  form.CommonDialog1.set_filter(file_filters::pictures);
   const std::string path = form.CommonDialog1.open(FileKind::Picture);
   if (path.empty()) return;
   form.ImageFile = path;

@@ -1,6 +1,9 @@
 #include "shell/desktop/qt_surface.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <string_view>
 
 #include <QBuffer>
 #include <QFontMetricsF>
@@ -34,20 +37,88 @@ QImage new_image(int width, int height) {
   return image;
 }
 
+/// A kind of picture file: how it begins, Qt's name of it, and what messages call it.
+struct PictureKind {
+  std::string_view beginning;
+  const char* format;
+  const char* name;
+};
+
+/// What is of no other kind is to be a bitmap, and told where it isn't.
+PictureKind kind_of(std::string_view bytes) {
+  using namespace std::string_view_literals;
+  static constexpr PictureKind kinds[] = {{"\x89PNG\r\n\x1a\n"sv, "png", "a PNG picture"},
+                                          {"\xff\xd8\xff"sv, "jpeg", "a JPEG picture"},
+                                          {"II*\0"sv, "tiff", "a TIFF picture"},
+                                          {"MM\0*"sv, "tiff", "a TIFF picture"}};
+  for (const auto& kind : kinds) {
+    if (bytes.starts_with(kind.beginning)) return kind;
+  }
+  return {"BM", "bmp", "a bitmap"};
+}
+
+QImage read_picture(const std::string& path, const std::string& bytes) {
+  const PictureKind kind = kind_of(bytes);
+  const auto fail = [&](const std::string& why) {
+    throw RunFailure("can't read " + path + " as " + kind.name + ": " + why);
+  };
+  if (kind.beginning == "BM") check_bitmap(path, bytes);
+  auto raw = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  QBuffer buffer(&raw);
+  // What the bytes are is known: no other kind is tried, some of which take in further files.
+  QImageReader reader(&buffer, kind.format);
+  reader.setAutoDetectImageFormat(false);
+  const QSize size = reader.size();
+  if (std::max(size.width(), size.height()) > most_picture_side ||
+      qint64{size.width()} * size.height() > qint64{most_picture_pixels}) {
+    fail("it has " + std::to_string(size.width()) + " x " + std::to_string(size.height()) + " pixels; " +
+         possible_picture_sizes);
+  }
+  constexpr int most_megabytes = most_picture_pixels * sizeof(QRgba64) >> 20U;
+  QImageReader::setAllocationLimit(most_megabytes);  // Qt's own is below what is possible here
+  const QImage read = reader.read();
+  if (read.isNull()) fail(reader.errorString().toStdString());
+  return read;
+}
+
+// Grey values 0 to 255 over white, of premultiplied colours.
+float grey_of(QRgb pixel) { return static_cast<float>(qGray(pixel) + 0xff - qAlpha(pixel)); }
+float grey_of(quint16 grey) { return static_cast<float>(grey) / 257.0F; }
+float grey_of(QRgba64 pixel) {
+  return grey_of(static_cast<quint16>(qGray(pixel.red(), pixel.green(), pixel.blue()) + 0xffff - pixel.alpha()));
+}
+
+template <class Pixel>
+std::vector<float> grey_values(const QImage& image) {
+  const int width = image.width();
+  std::vector<float> values;
+  values.reserve(static_cast<std::size_t>(width) * static_cast<std::size_t>(image.height()));
+  for (int y = 0; y < image.height(); ++y) {
+    const auto* row = reinterpret_cast<const Pixel*>(image.constScanLine(y));
+    std::transform(row, row + width, std::back_inserter(values), [](Pixel pixel) { return grey_of(pixel); });
+  }
+  return values;
+}
+
 }  // namespace
 
 QtSurface::QtSurface(int width, int height) : image_(new_image(width, height)) {}
 
-void QtSurface::fill(Colour colour) { image_.fill(to_qt(colour)); }
+QImage& QtSurface::pixels() {
+  deep_ = {};
+  return image_;
+}
 
-void QtSurface::make_transparent() { image_.fill(Qt::transparent); }
+void QtSurface::fill(Colour colour) { pixels().fill(to_qt(colour)); }
+
+void QtSurface::make_transparent() { pixels().fill(Qt::transparent); }
 
 void QtSurface::line(double x1, double y1, double x2, double y2, Colour colour) {
   // A line may reach far beyond the picture; what is drawn has to fit whole pixels.
   constexpr double margin = 2.0;
   const auto inside = clipped({x1, y1, x2, y2}, QRectF(image_.rect()).adjusted(-margin, -margin, margin, margin));
   if (!inside) return;
-  QPainter painter(&image_);
+  QPainter painter(&pixels());
   painter.setPen(QPen(to_qt(colour), 1));
   painter.drawLine(to_pixel(inside->x1()), to_pixel(inside->y1()), to_pixel(inside->x2()), to_pixel(inside->y2()));
 }
@@ -56,7 +127,7 @@ void QtSurface::circle(double x, double y, double radius, Colour outline, std::o
   const QRectF box(x - radius, y - radius, 2 * radius, 2 * radius);
   constexpr double largest = 1e6;
   if (!(radius < largest) || !box.adjusted(-1, -1, 1, 1).intersects(QRectF(image_.rect()))) return;
-  QPainter painter(&image_);
+  QPainter painter(&pixels());
   painter.setPen(QPen(to_qt(outline), 1));
   painter.setBrush(fill ? QBrush(to_qt(*fill)) : QBrush(Qt::NoBrush));
   constexpr double one_pixel = 0.75;
@@ -68,7 +139,7 @@ void QtSurface::circle(double x, double y, double radius, Colour outline, std::o
 }
 
 void QtSurface::set_pixel(int x, int y, Colour colour) {
-  if (image_.valid(x, y)) image_.setPixelColor(x, y, to_qt(colour));
+  if (image_.valid(x, y)) pixels().setPixelColor(x, y, to_qt(colour));
 }
 
 std::optional<Colour> QtSurface::pixel(int x, int y) const {
@@ -83,7 +154,7 @@ void QtSurface::text(double x, double y, const std::string& text, Colour colour,
            .contains(x, y)) {
     return;
   }
-  QPainter painter(&image_);
+  QPainter painter(&pixels());
   const QFont font = picture_font(font_size_pt);
   painter.setFont(font);
   painter.setPen(to_qt(colour));
@@ -92,25 +163,31 @@ void QtSurface::text(double x, double y, const std::string& text, Colour colour,
 
 void QtSurface::draw(const Surface& other, bool upside_down) {
   const QImage& source = dynamic_cast<const QtSurface&>(other).image_;
-  QPainter painter(&image_);
+  QPainter painter(&pixels());
   painter.setRenderHint(QPainter::SmoothPixmapTransform, source.size() != image_.size());
   painter.drawImage(image_.rect(), upside_down ? source.mirrored(false, true) : source);
 }
 
-void QtSurface::mirror(bool left_to_right, bool upside_down) { image_ = image_.mirrored(left_to_right, upside_down); }
+std::unique_ptr<Surface> QtSurface::mirrored(bool left_to_right, bool upside_down) const {
+  return std::unique_ptr<Surface>(
+      new QtSurface(image_.mirrored(left_to_right, upside_down), deep_.mirrored(left_to_right, upside_down)));
+}
 
-void QtSurface::load_bitmap(const std::string& path) {
+void QtSurface::load(const std::string& path) {
   constexpr std::size_t most_bytes = most_picture_pixels * 4 + (std::size_t{1} << 20);
-  const std::string bytes = read_file(path, most_bytes);
-  check_bitmap(path, bytes);
-  auto raw = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
-  QBuffer buffer(&raw);
-  // What the bytes are is known: no other kind is tried, some of which take in further files.
-  QImageReader reader(&buffer, "bmp");
-  reader.setAutoDetectImageFormat(false);
-  const QImage read = reader.read();
-  if (read.isNull()) throw RunFailure("can't read " + path + " as a bitmap: " + reader.errorString().toStdString());
+  const QImage read = read_picture(path, read_file(path, most_bytes));
   image_ = read.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+  deep_ = {};
+  constexpr int depth_of_colours = 64;
+  if (read.format() == QImage::Format_Grayscale16) deep_ = read;
+  if (read.depth() >= depth_of_colours) deep_ = read.convertToFormat(QImage::Format_RGBA64_Premultiplied);
+}
+
+GreyPicture QtSurface::grey() const {
+  const auto values = deep_.isNull()                                   ? grey_values<QRgb>(image_)
+                      : deep_.format() == QImage::Format_Grayscale16 ? grey_values<quint16>(deep_)
+                                                                       : grey_values<QRgba64>(deep_);
+  return {width(), height(), values};
 }
 
 void QtSurface::save_bitmap(const std::string& path) const { write_image(image_, path, "BMP"); }

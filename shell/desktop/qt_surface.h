@@ -7,7 +7,7 @@
 
 namespace zol {
 
-class QtSurface : public Surface {
+class QtSurface final : public Surface {
  public:
   QtSurface(int width, int height);
 
@@ -21,14 +21,20 @@ class QtSurface : public Surface {
   [[nodiscard]] std::optional<Colour> pixel(int x, int y) const override;
   void text(double x, double y, const std::string& text, Colour colour, double font_size_pt) override;
   void draw(const Surface& other, bool upside_down) override;
-  void mirror(bool left_to_right, bool upside_down) override;
-  void load_bitmap(const std::string& path) override;
+  [[nodiscard]] std::unique_ptr<Surface> mirrored(bool left_to_right, bool upside_down) const override;
+  void load(const std::string& path) override;
+  [[nodiscard]] GreyPicture grey() const override;
   void save_bitmap(const std::string& path) const override;
 
   [[nodiscard]] const QImage& image() const { return image_; }
 
  private:
+  QtSurface(QImage image, QImage deep) : image_(std::move(image)), deep_(std::move(deep)) {}
+  /// To be changed.
+  [[nodiscard]] QImage& pixels();
+
   QImage image_;
+  QImage deep_;  ///< the same of 16 bits, where it was loaded so; else null
 };
 
 /// Writes an image to a file of a kind that Qt knows ("BMP", "PNG"), whole or not at all.

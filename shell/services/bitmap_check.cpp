@@ -89,12 +89,11 @@ class BitmapCheck {
   }
 
   void check_header() const {
-    constexpr std::int64_t most_of_a_side = 32767;
     const std::int64_t rows = std::abs(header_.height);
-    if (header_.width < 1 || rows < 1 || std::max(header_.width, rows) > most_of_a_side ||
+    if (header_.width < 1 || rows < 1 || std::max(header_.width, rows) > most_picture_side ||
         header_.width * rows > std::int64_t{most_picture_pixels}) {
       fail("its header tells " + std::to_string(header_.width) + " x " + std::to_string(header_.height) +
-           " pixels; a side has 1 to 32767, and 8192 x 8192 in all are possible");
+           " pixels; " + possible_picture_sizes);
     }
     const auto bits = header_.bits;
     const auto compression = header_.compression;

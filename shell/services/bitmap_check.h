@@ -7,6 +7,8 @@
 namespace zol {
 
 inline constexpr std::size_t most_picture_pixels = std::size_t{8192} * 8192;  // 256 MB at 4 bytes each
+inline constexpr int most_picture_side = 32767;
+inline constexpr auto possible_picture_sizes = "a side has 1 to 32767, and 8192 x 8192 in all are possible";
 
 /// Holds for bitmaps (BMP) of 1 to 32 bits a pixel, plain, with bit fields or run-length encoded, that have all of
 /// their pixels.

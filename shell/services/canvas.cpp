@@ -133,7 +133,7 @@ void Canvas::set_height(int twips) {
 void Canvas::load_picture(const std::string& path) {
   auto picture = services_.make_surface(1, 1);
   if (!picture) throw RunFailure("can't load " + path + ": there are no pixel images here");
-  picture->load_bitmap(path);
+  picture->load(path);
   raster_.set_picture(std::move(picture));
   show_picture();
 }
@@ -156,9 +156,7 @@ void Canvas::mirror_picture() { turn_picture(true, false); }
 
 void Canvas::turn_picture(bool left_to_right, bool upside_down) {
   if (!has_picture()) return;
-  auto picture = raster_.copy_of(*raster_.picture());
-  picture->mirror(left_to_right, upside_down);
-  raster_.set_picture(std::move(picture));
+  raster_.set_picture(raster_.picture()->mirrored(left_to_right, upside_down));
   show_picture();
 }
 

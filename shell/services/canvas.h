@@ -76,6 +76,7 @@ class Canvas : public Control {
   [[nodiscard]] int pixel_height() const { return drawing_.pixel_height(); }
 
   /// Background picture. Each replaces the stored image, so that what was drawn into it goes.
+  /// A file holds a bitmap, PNG, JPEG or TIFF, by its content. @throws RunFailure  it can't be read
   void load_picture(const std::string& path);
   void take_picture(Canvas& other, bool upside_down);  ///< the stored image of another canvas
   void remove_picture();
@@ -84,6 +85,9 @@ class Canvas : public Control {
   /// The stored image, changed pixel by pixel, becomes the picture.
   void edit_picture(const std::function<void(Surface&)>& edit);
   [[nodiscard]] bool has_picture() const { return raster_.picture() != nullptr; }
+  /// The pixels of the picture at its own size, without what is drawn over it: of the file as it was turned over, or
+  /// what an edit made of the stored image. Kept until there is another picture; null where there is none.
+  [[nodiscard]] std::shared_ptr<const GreyPicture> grey_picture() { return raster_.grey_picture(); }
 
   /// Writes the stored image, or the image with its overlay, as a bitmap.
   void save_stored_image(const std::string& path);

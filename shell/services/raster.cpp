@@ -58,6 +58,17 @@ std::unique_ptr<Surface> Raster::copy_of(const Surface& image) const {
   return copy;
 }
 
+void Raster::set_picture(std::shared_ptr<const Surface> picture) {
+  if (picture == picture_) return;
+  picture_ = std::move(picture);
+  grey_.reset();
+}
+
+std::shared_ptr<const GreyPicture> Raster::grey_picture() {
+  if (!grey_ && picture_) grey_ = std::make_shared<GreyPicture>(picture_->grey());
+  return grey_;
+}
+
 bool Raster::make(const Drawing& drawing) {
   if (made()) return true;
   auto stored = services_.make_surface(drawing.pixel_width(), drawing.pixel_height());

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "shell/services/drawing.h"
+#include "shell/services/grey_picture.h"
 
 namespace zol {
 
@@ -32,10 +33,14 @@ class Surface {
   virtual void text(double x, double y, const std::string& text, Colour colour, double font_size_pt) = 0;
   /// Draws another image over this one, scaled to fill it, each direction by itself.
   virtual void draw(const Surface& other, bool upside_down) = 0;
-  /// Turns the image over, left to right or upside down.
-  virtual void mirror(bool left_to_right, bool upside_down) = 0;
-  /// Takes an image from a bitmap file, with its size. @throws RunFailure  it can't be read
-  virtual void load_bitmap(const std::string& path) = 0;
+  /// A new image, turned over left to right or upside down.
+  [[nodiscard]] virtual std::unique_ptr<Surface> mirrored(bool left_to_right, bool upside_down) const = 0;
+  /// Takes an image from a file, with its size: a bitmap, or by its content PNG, JPEG or TIFF.
+  /// @throws RunFailure  it can't be read
+  virtual void load(const std::string& path) = 0;
+  /// Luminance of the pixels, over white where they are transparent; as fine as the file where it was loaded and not
+  /// changed since.
+  [[nodiscard]] virtual GreyPicture grey() const = 0;
   /// @throws RunFailure  it can't be written
   virtual void save_bitmap(const std::string& path) const = 0;
 };
@@ -57,7 +62,9 @@ class Raster {
 
   /// The background picture, none where there is none. It is never changed, only replaced.
   [[nodiscard]] const std::shared_ptr<const Surface>& picture() const { return picture_; }
-  void set_picture(std::shared_ptr<const Surface> picture) { picture_ = std::move(picture); }
+  void set_picture(std::shared_ptr<const Surface> picture);
+  /// The grey values of the picture, none where there is none; kept until the picture is replaced.
+  [[nodiscard]] std::shared_ptr<const GreyPicture> grey_picture();
   /// A new image of the same pixels.
   [[nodiscard]] std::unique_ptr<Surface> copy_of(const Surface& image) const;
 
@@ -83,6 +90,7 @@ class Raster {
   Services& services_;
   bool base_ = false;
   std::shared_ptr<const Surface> picture_;
+  std::shared_ptr<const GreyPicture> grey_;  // of the picture, where it has been asked for
   std::unique_ptr<Surface> stored_;  // both or none
   std::unique_ptr<Surface> overlay_;
 };

@@ -33,6 +33,7 @@ inline constexpr auto cif = "CIF|*.cif|";
 inline constexpr auto texts = "Text files|*.txt|";
 inline constexpr auto atom_lists = "Lists of atoms|*.txt;*.cif|";
 inline constexpr auto bitmaps = "bmp|*.bmp|";
+inline constexpr auto pictures = "Pictures|*.bmp;*.png;*.jpg;*.jpeg;*.tif;*.tiff|bmp|*.bmp|";
 inline constexpr auto pages = "PDF|*.pdf|";
 }  // namespace file_filters
 
