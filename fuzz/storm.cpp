@@ -247,6 +247,8 @@ class StormMaker::Storm {
         if (ends_program(place.path)) return;
         answer_questions_of(place.path);
         return line("click " + place.path);
+      case ControlKind::Slider:
+        return line("set " + place.path + ' ' + number());
       case ControlKind::Label:
       case ControlKind::Frame:
       case ControlKind::ProgressBar:

@@ -68,6 +68,7 @@ ReflectorSet make_reflectors(const Lattice& lattice, std::span<const Rotation> s
     if (reflection.hkl != Indices{0, 0, 0}) open.emplace(half_sphere(reflection.hkl), true);
   }
   ReflectorSet set;
+  set.cell = lattice.cell();
   set.symmetry.assign(symmetry.begin(), symmetry.end());
   std::vector<std::vector<Reflector>> members;
   for (const auto& reflection : reflections) {

@@ -34,6 +34,7 @@ struct Reflector {
 };
 
 struct ReflectorSet {
+  CellConstants cell;
   std::vector<ReflectorFamily> families;  ///< the strongest first
   std::vector<Reflector> members;         ///< family by family
   std::vector<Rotation> symmetry;         ///< rotations of the crystal's class with the inversion, the identity first

@@ -83,6 +83,7 @@ struct Pattern3Form : Window {
   MenuItem ImageMirror{*this, "ImageMirror", "MIRROR", "Image"};
   MenuItem Imatch{*this, "Imatch", "Matching Method", "Option"};
   MenuItem CorrectFile{*this, "CorrectFile", "Correct File", "Option"};
+  MenuItem AutomaticIndexing{*this, "AutomaticIndexing", "Automatic indexing", "Option"};
   MenuItem CPS_Si001{*this, "CPS_Si001", "Si(001)", "Camera_Parameters_Set"};
   MenuItem CP_Setting_Show{*this, "CP_Setting_Show", "Parameter_Adjust", "Camera_Parameters_Set"};
   MenuItem CenterPosition{*this, "CenterPosition", "Center Position ", "Camera_Parameters_Set"};

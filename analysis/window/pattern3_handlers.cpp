@@ -174,6 +174,7 @@ void wire(Workbench& bench, Pattern3Form& form) {
   form.Command5.on_click = on(Command5_Click);
   form.List1.on_click = on(List1_Click);
   form.Imatch.on_click = on(Imatch_Click);
+  form.AutomaticIndexing.on_click = [&bench] { bench.windows.use("AutoIndex").show(); };
   form.add_operation("Hkl3make", on(Hkl3make));
   form.add_operation("MatchAngle", on(MatchAngle));
   form.add_operation("EquivSet", on(EquivSet));

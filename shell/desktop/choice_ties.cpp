@@ -8,6 +8,7 @@
 #include <QListView>
 #include <QRadioButton>
 #include <QSignalBlocker>
+#include <QSlider>
 
 #include "shell/desktop/control_models.h"
 #include "shell/desktop/control_tie.h"
@@ -146,6 +147,27 @@ class MenuTie : public ControlTie {
   QAction& action_;
 };
 
+class SliderTie : public ControlTie {
+ public:
+  SliderTie(const TiedWindow& owner, Slider& slider, QSlider& view)
+      : ControlTie(owner, slider, &view), slider_(slider), shown_(view) {
+    connect(&view, &QSlider::valueChanged, this, [this](int value) {
+      if (!showing_) act({"set", slider_.path(), std::to_string(value)}, [this, value] { slider_.set_value(value); });
+    });
+  }
+  void show() override {
+    showing_ = true;
+    shown_.setRange(slider_.minimum(), slider_.maximum());
+    shown_.setValue(slider_.value());
+    showing_ = false;
+  }
+
+ private:
+  Slider& slider_;
+  QSlider& shown_;
+  bool showing_ = false;
+};
+
 }  // namespace
 
 std::unique_ptr<ControlTie> make_choice_tie(const TiedWindow& owner, Control& control) {
@@ -160,6 +182,8 @@ std::unique_ptr<ControlTie> make_choice_tie(const TiedWindow& owner, Control& co
       return tie_by_name<ComboTie, ComboBox, QComboBox>(owner, control);
     case ControlKind::ListBox:
       return tie_by_name<ListTie, ListBox, QListView>(owner, control);
+    case ControlKind::Slider:
+      return tie_by_name<SliderTie, Slider, QSlider>(owner, control);
     case ControlKind::MenuItem:
       return tie_by_name<MenuTie, MenuItem, QAction>(owner, control);
     default:

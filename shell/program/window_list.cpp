@@ -22,6 +22,7 @@ constexpr void (*window_list[])(Workbench&) = {
     add_window<struct FiberTextureForm>,
     add_window<struct XdForm>,
     add_window<struct DringForm>,
+    add_window<struct AutoIndexForm>,
 };
 // clang-format on
 

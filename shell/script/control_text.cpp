@@ -113,6 +113,9 @@ void print_control(Control& shown, std::ostream& output) {
       output << plain_text(bar.minimum()) << ' ' << plain_text(bar.maximum()) << ' ' << plain_text(bar.value()) << '\n';
       break;
     }
+    case ControlKind::Slider:
+      output << dynamic_cast<Slider&>(shown).value() << '\n';
+      break;
     case ControlKind::Grid:
       print_grid(dynamic_cast<Grid&>(shown), output);
       break;

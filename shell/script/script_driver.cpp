@@ -31,6 +31,9 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
        }},
       {"set", "set W.C TEXT", 2, 2,
        [](ScriptDriver& d, const Words& w) {
+         if (auto* slider = dynamic_cast<Slider*>(&d.any_control(w[1]))) {
+           return slider->set_value(whole_number(w[2], "TEXT"));
+         }
          auto& box = d.control<TextBox>(w[1]);
          box.set_text(box.holds_file_name ? w[2] : box_text(w[2]));
        }},

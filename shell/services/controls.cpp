@@ -1,5 +1,7 @@
 #include "shell/services/controls.h"
 
+#include <algorithm>
+
 #include "shell/services/window.h"
 
 namespace zol {
@@ -154,6 +156,21 @@ void ProgressBar::set_range(Single minimum, Single maximum) {
 void ProgressBar::set_value(Single value) {
   contents_.value = value;
   changed();
+}
+
+void Slider::set_range(int minimum, int maximum) {
+  contents_.minimum = minimum;
+  contents_.maximum = maximum;
+  set_value(contents_.value);
+  changed();
+}
+
+void Slider::set_value(int value) {
+  const int taken = std::clamp(value, contents_.minimum, contents_.maximum);
+  if (taken == contents_.value) return;
+  contents_.value = taken;
+  changed();
+  on_change.fire(described() + " was moved");
 }
 
 Grid::Grid(Window& window, std::string name, int rows, int columns)

@@ -76,6 +76,7 @@ enum class ControlKind {
   Frame,
   MenuItem,
   ProgressBar,
+  Slider,
   Grid,
   Canvas
 };
@@ -173,6 +174,10 @@ struct ListBoxContents {
 struct ProgressBarContents {
   Single minimum = 0, maximum = 100, value = 0;
   bool operator==(const ProgressBarContents&) const = default;
+};
+struct SliderContents {
+  int minimum = 0, maximum = 100, value = 0;
+  bool operator==(const SliderContents&) const = default;
 };
 struct GridContents {
   int rows = 0, columns = 0;
@@ -345,6 +350,20 @@ class ProgressBar : public ControlWith<ProgressBarContents> {
   [[nodiscard]] Single value() const { return contents_.value; }
   void set_range(Single minimum, Single maximum);
   void set_value(Single value);
+};
+
+/// A whole number that is set by dragging.
+class Slider : public ControlWith<SliderContents> {
+ public:
+  Slider(Window& window, std::string name, std::string caption = "")
+      : ControlWith(window, std::move(name), ControlKind::Slider, std::move(caption)) {}
+  [[nodiscard]] int minimum() const { return contents_.minimum; }
+  [[nodiscard]] int maximum() const { return contents_.maximum; }
+  [[nodiscard]] int value() const { return contents_.value; }
+  void set_range(int minimum, int maximum);
+  /// Brought into the range; fires on_change if the value differs.
+  void set_value(int value);
+  Event<> on_change;
 };
 
 /// A table of text cells; row 0 and column 0 are fixed headers. One cell is the current one.

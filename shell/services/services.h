@@ -84,6 +84,9 @@ class Services {
     for (const auto& line : lines) message(line, title);
   }
 
+  /// Puts a text where other programs paste it from; here it is told.
+  virtual void copy_text(const std::vector<std::string>& lines, const std::string& title) { report(lines, title); }
+
   virtual void print_line(const std::string& line) = 0;  ///< one line of the document under way
   /// Sends the document. @param title  names it, also where it goes to a file
   virtual void end_document(const std::string& title) = 0;

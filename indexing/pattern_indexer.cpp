@@ -1,0 +1,128 @@
+#include "indexing/pattern_indexer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "core/run_failure.h"
+#include "indexing/pattern_centre_fit.h"
+
+namespace zol {
+namespace {
+
+constexpr int sphere_size = 501;
+constexpr std::size_t least_planes = 20;  ///< that vote, where the crystal has them: fewer leave low symmetry open
+
+}  // namespace
+
+std::vector<bool> voting_families(const ReflectorSet& reflectors, int family_count) {
+  std::vector<bool> used;
+  std::size_t planes = 0;
+  for (const ReflectorFamily& family : reflectors.families) {
+    if (static_cast<int>(used.size()) >= family_count && planes >= least_planes) break;
+    used.push_back(true);
+    planes += static_cast<std::size_t>(family.count);
+  }
+  return used;
+}
+
+CrystalModel make_crystal_model(std::string title, ReflectorSet reflectors, std::vector<bool> families_used,
+                                std::shared_ptr<const KinematicSphere> sphere, Task& task) {
+  CrystalModel model{std::move(title), std::move(reflectors), std::move(families_used), nullptr, std::move(sphere)};
+  model.table = std::make_shared<const VoteTable>(model.reflectors, model.families_used);
+  if (!model.sphere) {
+    model.sphere = std::make_shared<const KinematicSphere>(model.reflectors, sphere_size, StripShape{}, task);
+  }
+  return model;
+}
+
+std::span<const IndexSolution> PatternIndexer::index(const PictureView& picture, const PatternCentre& centre,
+                                                     std::span<const CrystalModel* const> models,
+                                                     const IndexSettings& settings) {
+  solutions_.clear();
+  bands_.clear();
+  if (!prepared_.prepare(picture, settings.preparation)) {
+    throw RunFailure("the picture is blank: it has no contrast to find bands in");
+  }
+  DetectionSettings detection = settings.detection;
+  detection.most_bands = settings.band_count;
+  const auto found = detection_.detect(prepared_, centre, detection);
+  bands_.assign(found.begin(), found.end());
+  if (bands_.size() < 3) {
+    throw RunFailure("only " + std::to_string(bands_.size()) + " bands were found, three are needed");
+  }
+  if (settings.fit_picture) fitter_.take(prepared_);
+  double votes_of_others = 0;
+  for (const CrystalModel* model : models) {
+    const auto orientations = vote_.vote(*model->table, bands_, settings.vote);
+    int fitted = 0;
+    for (const Orientation& orientation : orientations) {
+      IndexSolution solution{model,
+                             orientation.crystal_from_picture,
+                             orientation.matched,
+                             orientation.mean_deviation_deg,
+                             orientation.votes,
+                             0,
+                             0};
+      if (settings.fit_picture && fitted < settings.candidates_fitted) {
+        const PictureFit fit = fitter_.fit(*model->sphere, orientation.crystal_from_picture, centre, settings.fit);
+        // A fit that runs away has left its bands behind; the bands' own orientation is the better one then.
+        if (misorientation_deg(fit.crystal_from_picture, orientation.crystal_from_picture) <
+            2 * settings.vote.tolerance_deg) {
+          solution.crystal_from_picture = fit.crystal_from_picture;
+        }
+        solution.correlation = fit.correlation;
+        ++fitted;
+      }
+      solutions_.push_back(solution);
+    }
+  }
+  std::stable_sort(solutions_.begin(), solutions_.end(), [](const IndexSolution& a, const IndexSolution& b) {
+    return a.correlation != b.correlation ? a.correlation > b.correlation : a.votes > b.votes;
+  });
+  std::vector<MatchedBand> matched;
+  for (IndexSolution& solution : solutions_) {
+    if (solution.correlation == 0) continue;
+    match_bands(*solution.model->table, bands_, solution.crystal_from_picture, settings.vote.tolerance_deg, matched);
+    solution.matched = 0;
+    solution.mean_deviation_deg = 0;
+    solution.votes = 0;
+    for (const MatchedBand& match : matched) {
+      if (match.plane < 0) continue;
+      const double part = match.deviation_deg / settings.vote.tolerance_deg;
+      ++solution.matched;
+      solution.mean_deviation_deg += match.deviation_deg;
+      solution.votes += 1 - part * part;
+    }
+    if (solution.matched > 0) solution.mean_deviation_deg /= solution.matched;
+  }
+  for (std::size_t i = 1; i < solutions_.size(); ++i) votes_of_others = std::max(votes_of_others, solutions_[i].votes);
+  if (!solutions_.empty() && solutions_.front().votes > 0) {
+    solutions_.front().confidence = std::clamp(1 - votes_of_others / solutions_.front().votes, 0.0, 1.0);
+  }
+  return solutions_;
+}
+
+PictureFit PatternIndexer::refine_centre(const IndexSolution& solution, const PatternCentre& centre,
+                                         const IndexSettings& settings) {
+  fitter_.take(prepared_);
+  const auto on_bands = fit_centre_on_bands(*solution.model->table, bands_, solution.crystal_from_picture, centre,
+                                            settings.vote.tolerance_deg);
+  FitSettings fit = settings.fit;
+  fit.centre = true;
+  fit.most_steps = 40;
+  PictureFit best = fitter_.fit(*solution.model->sphere, solution.crystal_from_picture, centre, fit);
+  if (on_bands) {
+    const PictureFit other =
+        fitter_.fit(*solution.model->sphere, on_bands->crystal_from_picture, on_bands->centre, fit);
+    if (other.correlation > best.correlation) best = other;
+  }
+  return best;
+}
+
+std::vector<MatchedBand> PatternIndexer::matches(const IndexSolution& solution, double tolerance_deg) const {
+  std::vector<MatchedBand> matched;
+  match_bands(*solution.model->table, bands_, solution.crystal_from_picture, tolerance_deg, matched);
+  return matched;
+}
+
+}  // namespace zol

@@ -1,0 +1,80 @@
+// From a picture to the orientation of the crystal in it: bands, votes, and the fit on the picture itself.
+#pragma once
+
+#include <array>
+#include <memory>
+#include <span>
+#include <string>
+#include <vector>
+
+#include "indexing/orientation_vote.h"
+#include "indexing/picture_fit.h"
+
+namespace zol {
+
+/// What indexing needs of a crystal, made once for many pictures. Several threads may use it.
+struct CrystalModel {
+  std::string title;
+  ReflectorSet reflectors;
+  std::vector<bool> families_used;  ///< of each family, whether it votes
+  std::shared_ptr<const VoteTable> table;
+  std::shared_ptr<const KinematicSphere> sphere;
+};
+
+/// The first families vote: as many as asked for and more, until there are planes enough to tell orientations apart.
+[[nodiscard]] std::vector<bool> voting_families(const ReflectorSet& reflectors, int family_count);
+
+/// @param sphere  of an earlier model of the same crystal, or none: it is drawn
+/// @throws RunFailure  the crystal has too few planes
+[[nodiscard]] CrystalModel make_crystal_model(std::string title, ReflectorSet reflectors,
+                                              std::vector<bool> families_used,
+                                              std::shared_ptr<const KinematicSphere> sphere, Task& task);
+
+struct IndexSettings {
+  int band_count = 9;
+  PreparationSettings preparation;
+  DetectionSettings detection;
+  VoteSettings vote;
+  FitSettings fit;
+  int candidates_fitted = 3;  ///< of each crystal, on the picture
+  bool fit_picture = true;    ///< else the bands alone decide
+};
+
+/// One orientation that may be that of the picture.
+struct IndexSolution {
+  const CrystalModel* model = nullptr;
+  Rotation crystal_from_picture = Rotation::Identity();
+  int matched = 0;                ///< bands
+  double mean_deviation_deg = 0;  ///< of those
+  double votes = 0;
+  double correlation = 0;  ///< of the picture with the drawn bands; 0 where it was not fitted
+  double confidence = 0;   ///< lead in votes over the best other orientation, 0 to 1; 0 for all but the first
+};
+
+/// Holds all storage of indexing one picture after the other. One thread at a time.
+class PatternIndexer {
+ public:
+  /// Solutions, the best first; valid until the next call.
+  /// @throws RunFailure  the picture is blank, or fewer than three bands were found; the message says so
+  std::span<const IndexSolution> index(const PictureView& picture, const PatternCentre& centre,
+                                       std::span<const CrystalModel* const> models, const IndexSettings& settings);
+
+  /// Pattern centre and orientation together on the picture of the last call, from one of its solutions: on the bands
+  /// first, on the picture then.
+  [[nodiscard]] PictureFit refine_centre(const IndexSolution& solution, const PatternCentre& centre,
+                                         const IndexSettings& settings);
+
+  [[nodiscard]] std::span<const DetectedBand> bands() const { return bands_; }
+  /// What each band is in a solution.
+  [[nodiscard]] std::vector<MatchedBand> matches(const IndexSolution& solution, double tolerance_deg) const;
+
+ private:
+  PreparedPicture prepared_;
+  BandDetection detection_;
+  std::vector<DetectedBand> bands_;
+  OrientationVote vote_;
+  PictureFitter fitter_;
+  std::vector<IndexSolution> solutions_;
+};
+
+}  // namespace zol

@@ -1,0 +1,89 @@
+// The window that indexes the measured pattern of PATTERN3 without a hand.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "indexing/detector.h"
+#include "indexing/pattern_indexer.h"
+#include "shell/services/window_services.h"
+#include "shell/services/workbench.h"
+
+namespace zol {
+
+/// A crystal that was made ready, and what it was made of.
+struct ReadyCrystal {
+  std::string key;  ///< cell, symmetry, atoms, voltage
+  std::shared_ptr<const CrystalModel> model;
+};
+
+/// What was found in a picture; a value, so that it is kept and put back with the window.
+struct IndexResult {
+  struct Solution {
+    std::shared_ptr<const CrystalModel> model;
+    IndexSolution found;
+    std::vector<MatchedBand> matches;
+  };
+  PictureSize size;
+  PatternCentre centre;  ///< of the picture as it stands in PATTERN3
+  std::vector<DetectedBand> bands;
+  std::vector<Solution> solutions;
+  std::size_t picked = 0;
+  [[nodiscard]] const Solution* solution() const { return picked < solutions.size() ? &solutions[picked] : nullptr; }
+};
+
+struct AutoIndexForm : Window {
+  static constexpr auto window_name = "AutoIndex";
+
+  explicit AutoIndexForm(Workbench& bench);
+
+  TextBox BandCount{*this, "BandCount", "Bands:"};
+  TextBox FamilyCount{*this, "FamilyCount", "Families:"};
+  TextBox SampleTilt{*this, "SampleTilt", "Sample tilt (deg):"};
+  CheckBox CircleMask{*this, "CircleMask", "Round picture"};
+  CommandButton Index{*this, "Index", "Index"};
+  CommandButton RefineCentre{*this, "RefineCentre", "Refine centre"};
+  CommandButton Show{*this, "Show", "Show in simulation"};
+  CommandButton TakeLines{*this, "TakeLines", "Take lines"};
+  CommandButton CopyReport{*this, "CopyReport", "Copy report"};
+  Label Status{*this, "Status"};  // what was found, or why not
+
+  ListBox Crystals{*this, "Crystals", "Crystals"};  // tried beside the present one
+  CommandButton AddCrystal{*this, "AddCrystal", "Add crystal..."};
+  CommandButton RemoveCrystal{*this, "RemoveCrystal", "Remove"};
+  Label FamiliesHeading{*this, "FamiliesHeading", "     h  k  l   n  d (A)   width  strength"};
+  ListBox Families{*this, "Families"};
+  CommandButton ToggleFamily{*this, "ToggleFamily", "Leave out / take in"};
+  Label BandsHeading{*this, "BandsHeading", " no  azimuth distance  width strength   h  k  l   off"};
+  ListBox Bands{*this, "Bands"};
+  Label SolutionsHeading{*this, "SolutionsHeading",
+                         "  bands    off  corr.  conf.      u      v      w   phi1    Phi   phi2"};
+  ListBox Solutions{*this, "Solutions"};
+
+  Canvas Simulated;
+  OptionButton Beside{*this, "Beside", "Beside", "view"};
+  OptionButton Over{*this, "Over", "Over", "view"};
+  OptionButton Alternating{*this, "Alternating", "Alternating", "view"};
+  Slider Blend{*this, "Blend", "Simulated (%):"};
+  MenuItem SaveSimulated{*this, "SaveSimulated", "Save picture...", "Picture"};
+
+  FileDialog CommonDialog1;
+
+  // Kept with the window
+  IndexResult result;
+  std::vector<std::string> crystal_files;
+  std::vector<bool> families_taken;  ///< by the user's marks, for the present crystal
+  std::string families_key;          ///< crystal and count that the marks belong to
+  bool measured_in_front = false;    ///< of the alternating view
+
+  // Made again where they are missing
+  std::vector<ReadyCrystal> ready;
+  PatternIndexer indexer;
+
+ private:
+  void name_fields();
+};
+
+}  // namespace zol

@@ -1,0 +1,20 @@
+// Crystals of the program made ready for indexing.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "indexing/window/auto_index_form.h"
+
+namespace zol {
+
+/// The present crystal and those of the list, in this order; what was made for an earlier picture is taken again. Sets
+/// the families of the form and their marks where crystal or count are new.
+/// @throws RunFailure  a crystal can't be read or has too few reflections; the message names it
+[[nodiscard]] std::vector<std::shared_ptr<const CrystalModel>> crystal_models(Workbench& bench, AutoIndexForm& form);
+
+/// The list of families with its marks.
+void show_families(AutoIndexForm& form);
+
+}  // namespace zol
