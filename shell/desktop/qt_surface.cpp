@@ -92,7 +92,7 @@ QImage read_picture(const std::string& path, const std::string& bytes) {
   }
   constexpr int most_megabytes = most_picture_pixels * sizeof(QRgba64) >> 20U;
   QImageReader::setAllocationLimit(most_megabytes);  // Qt's own is below what is possible here
-  const QImage read = reader.read();
+  QImage read = reader.read();
   if (read.isNull()) {
     constexpr auto reasons = "; it is cut short or damaged, or its pixels have not 8 or 16 bits a colour";
     fail(reader.errorString().toStdString() + (kind.format == bitmap ? "" : reasons));
