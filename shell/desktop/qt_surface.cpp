@@ -40,21 +40,31 @@ QImage new_image(int width, int height) {
 /// A kind of picture file: how it begins, Qt's name of it, and what messages call it.
 struct PictureKind {
   std::string_view beginning;
-  const char* format;
+  std::string_view format;
   const char* name;
 };
+constexpr std::string_view bitmap = "bmp";
+constexpr std::string_view jpeg = "jpeg";
 
 /// What is of no other kind is to be a bitmap, and told where it isn't.
 PictureKind kind_of(std::string_view bytes) {
   using namespace std::string_view_literals;
   static constexpr PictureKind kinds[] = {{"\x89PNG\r\n\x1a\n"sv, "png", "a PNG picture"},
-                                          {"\xff\xd8\xff"sv, "jpeg", "a JPEG picture"},
+                                          {"\xff\xd8\xff"sv, jpeg, "a JPEG picture"},
                                           {"II*\0"sv, "tiff", "a TIFF picture"},
                                           {"MM\0*"sv, "tiff", "a TIFF picture"}};
   for (const auto& kind : kinds) {
     if (bytes.starts_with(kind.beginning)) return kind;
   }
-  return {"BM", "bmp", "a bitmap"};
+  return {"BM", bitmap, "a bitmap"};
+}
+
+/// Qt fills up what is missing of a JPEG with grey and says nothing. A picture in small may stand before the scans.
+bool has_its_end(std::string_view bytes) {
+  constexpr auto end_of_image = "\xff\xd9";
+  constexpr auto start_of_scan = "\xff\xda";
+  const auto end = bytes.rfind(end_of_image);
+  return end != std::string_view::npos && end > bytes.rfind(start_of_scan);
 }
 
 QImage read_picture(const std::string& path, const std::string& bytes) {
@@ -62,12 +72,18 @@ QImage read_picture(const std::string& path, const std::string& bytes) {
   const auto fail = [&](const std::string& why) {
     throw RunFailure("can't read " + path + " as " + kind.name + ": " + why);
   };
-  if (kind.beginning == "BM") check_bitmap(path, bytes);
+  if (kind.format == bitmap) check_bitmap(path, bytes);
+  if (kind.format == jpeg && !has_its_end(bytes)) fail("it is cut short: its end is missing");
   auto raw = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
   QBuffer buffer(&raw);
   // What the bytes are is known: no other kind is tried, some of which take in further files.
-  QImageReader reader(&buffer, kind.format);
+  const QByteArray format(kind.format.data());
+  if (!QImageReader::supportedImageFormats().contains(format)) {
+    fail("Qt's plug-in for it is missing (in Debian's package qt6-image-formats-plugins)");
+  }
+  QImageReader reader(&buffer, format);
   reader.setAutoDetectImageFormat(false);
+  reader.setAutoTransform(true);  // the file may tell that it lies on its side
   const QSize size = reader.size();
   if (std::max(size.width(), size.height()) > most_picture_side ||
       qint64{size.width()} * size.height() > qint64{most_picture_pixels}) {
@@ -76,8 +92,11 @@ QImage read_picture(const std::string& path, const std::string& bytes) {
   }
   constexpr int most_megabytes = most_picture_pixels * sizeof(QRgba64) >> 20U;
   QImageReader::setAllocationLimit(most_megabytes);  // Qt's own is below what is possible here
-  const QImage read = reader.read();
-  if (read.isNull()) fail(reader.errorString().toStdString());
+  QImage read = reader.read();
+  if (read.isNull()) {
+    constexpr auto reasons = "; it is cut short or damaged, or its pixels have not 8 or 16 bits a colour";
+    fail(reader.errorString().toStdString() + (kind.format == bitmap ? "" : reasons));
+  }
   return read;
 }
 
@@ -184,9 +203,9 @@ void QtSurface::load(const std::string& path) {
 }
 
 GreyPicture QtSurface::grey() const {
-  const auto values = deep_.isNull()                                   ? grey_values<QRgb>(image_)
+  const auto values = deep_.isNull()                                 ? grey_values<QRgb>(image_)
                       : deep_.format() == QImage::Format_Grayscale16 ? grey_values<quint16>(deep_)
-                                                                       : grey_values<QRgba64>(deep_);
+                                                                     : grey_values<QRgba64>(deep_);
   return {width(), height(), values};
 }
 

@@ -92,8 +92,8 @@ class BitmapCheck {
     const std::int64_t rows = std::abs(header_.height);
     if (header_.width < 1 || rows < 1 || std::max(header_.width, rows) > most_picture_side ||
         header_.width * rows > std::int64_t{most_picture_pixels}) {
-      fail("its header tells " + std::to_string(header_.width) + " x " + std::to_string(header_.height) +
-           " pixels; " + possible_picture_sizes);
+      fail("its header tells " + std::to_string(header_.width) + " x " + std::to_string(header_.height) + " pixels; " +
+           possible_picture_sizes);
     }
     const auto bits = header_.bits;
     const auto compression = header_.compression;

@@ -91,7 +91,7 @@ class Raster {
   bool base_ = false;
   std::shared_ptr<const Surface> picture_;
   std::shared_ptr<const GreyPicture> grey_;  // of the picture, where it has been asked for
-  std::unique_ptr<Surface> stored_;  // both or none
+  std::unique_ptr<Surface> stored_;          // both or none
   std::unique_ptr<Surface> overlay_;
 };
 
