@@ -57,21 +57,38 @@ KinematicSphere::KinematicSphere(const ReflectorSet& reflectors, int size, const
     if (strips.size() < most_strips) strips.push_back({member.normal, std::sin(family.bragg_rad), brightness});
   }
   const StripProfile profile(shape);
-  for (int row = 0; row < size; ++row) {
-    task.check();
+  const auto direction = [this](double column, double row) -> Vector3 {
+    const double x = (column - static_cast<double>(middle_)) / static_cast<double>(scale_);
     const double y = (row - static_cast<double>(middle_)) / static_cast<double>(scale_);
-    for (int column = 0; column < size; ++column) {
-      const double x = (column - static_cast<double>(middle_)) / static_cast<double>(scale_);
-      const double square = x * x + y * y;
-      const Vector3 direction = Vector3(2 * x, 2 * y, 1 - square) / (1 + square);
-      double sum = 0;
+    const double square = x * x + y * y;
+    return Vector3(2 * x, 2 * y, 1 - square) / (1 + square);
+  };
+  // Strips are looked for tile by tile: few of them cross a tile.
+  constexpr int tile = 32;
+  std::vector<Strip> crossing;
+  for (int top = 0; top < size; top += tile) {
+    for (int left = 0; left < size; left += tile) {
+      task.check();
+      const Vector3 centre = direction(left + tile / 2.0, top + tile / 2.0);
+      // A step of the grid is at most 2 / scale radians, at the pole.
+      const double radius = std::sqrt(2.0) * (tile / 2.0) * 2 / static_cast<double>(scale_);
+      crossing.clear();
       for (const Strip& strip : strips) {
-        const double distance = std::abs(direction.dot(strip.normal));
-        if (distance >= StripProfile::reach * strip.sine) continue;
-        sum += strip.brightness * static_cast<double>(profile.at(distance / strip.sine));
+        if (std::abs(centre.dot(strip.normal)) < StripProfile::reach * strip.sine + radius) crossing.push_back(strip);
       }
-      values_[static_cast<std::size_t>(row) * static_cast<std::size_t>(size) + static_cast<std::size_t>(column)] =
-          static_cast<float>(sum);
+      for (int row = top; row < std::min(top + tile, size); ++row) {
+        for (int column = left; column < std::min(left + tile, size); ++column) {
+          const Vector3 here = direction(column, row);
+          double sum = 0;
+          for (const Strip& strip : crossing) {
+            const double distance = std::abs(here.dot(strip.normal));
+            if (distance >= StripProfile::reach * strip.sine) continue;
+            sum += strip.brightness * static_cast<double>(profile.at(distance / strip.sine));
+          }
+          values_[static_cast<std::size_t>(row) * static_cast<std::size_t>(size) + static_cast<std::size_t>(column)] =
+              static_cast<float>(sum);
+        }
+      }
     }
   }
 }

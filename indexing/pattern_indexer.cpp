@@ -9,7 +9,7 @@
 namespace zol {
 namespace {
 
-constexpr int sphere_size = 501;
+constexpr int sphere_size = 801;
 constexpr std::size_t least_planes = 20;  ///< that vote, where the crystal has them: fewer leave low symmetry open
 
 }  // namespace

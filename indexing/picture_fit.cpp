@@ -72,6 +72,8 @@ ZOL_VECTOR_CLONES void add_row(const float* measured, const float* computed, con
 }
 
 constexpr int most_parameters = 6;
+constexpr double least_distance = 0.05;  ///< of the specimen, in widths
+constexpr double most_damping = 1000;
 
 /// How the computed picture changes along a row, a line of values for each parameter.
 struct SlopeRow {
@@ -79,7 +81,7 @@ struct SlopeRow {
   float x, dx, y, distance;  ///< gnomonic coordinates of the first pixel, the step, and pixels per unit
 };
 
-ZOL_VECTOR_CLONES void slopes_of(const SlopeRow& row, int count, bool centre, float* slopes, int stride) {
+ZOL_VECTOR_CLONES void slopes_of(const SlopeRow& row, int count, float* slopes, int stride) {
   const float y = row.y;
   for (int i = 0; i < count; ++i) {
     const float x = row.x + static_cast<float>(i) * row.dx;
@@ -90,11 +92,6 @@ ZOL_VECTOR_CLONES void slopes_of(const SlopeRow& row, int count, bool centre, fl
     slopes[i] = -(gx * x * y + gy * (1 + y * y));
     slopes[i + stride] = gx * (1 + x * x) + gy * x * y;
     slopes[i + 2 * stride] = gy * x - gx * y;
-    if (centre) {
-      slopes[i + 3 * stride] = -sx;
-      slopes[i + 4 * stride] = -sy;
-      slopes[i + 5 * stride] = -(sx * x + sy * y);
-    }
   }
 }
 
@@ -132,7 +129,7 @@ void PictureFitter::take(const PreparedPicture& picture) {
     }
     places_.resize(index(w));
     parts_.resize(2 * index(w));
-    slopes_.resize(most_parameters * index(w));
+    slopes_.resize(most_parameters * size);
   }
   double sum = 0;
   count_ = 0;
@@ -172,14 +169,13 @@ void draw_bands(const KinematicSphere& sphere, const Rotation& crystal_from_pict
 
 double PictureFitter::correlation(const KinematicSphere& sphere, const Rotation& crystal_from_picture,
                                   const PatternCentre& centre) {
-  draw(sphere, crystal_from_picture, picture_->projection(centre));
+  draw(sphere, {crystal_from_picture, centre});
   return correlate();
 }
 
-void PictureFitter::draw(const KinematicSphere& sphere, const Rotation& crystal_from_picture,
-                         const Projection& projection) {
-  draw_bands(sphere, crystal_from_picture, projection, {computed_.data(), picture_->width(), picture_->height()},
-             places_.data(), parts_.data());
+void PictureFitter::draw(const KinematicSphere& sphere, const Place& place) {
+  draw_bands(sphere, place.crystal_from_picture, picture_->projection(place.centre),
+             {computed_.data(), picture_->width(), picture_->height()}, places_.data(), parts_.data());
 }
 
 double PictureFitter::correlate() {
@@ -197,14 +193,9 @@ double PictureFitter::correlate() {
   return variance > 0 && norm_ > 0 ? sums_.product / (norm_ * std::sqrt(variance)) : 0;
 }
 
-void PictureFitter::linearise(const Projection& projection, int parameters, Normal& normal, Parameters& right) {
+/// By the slopes of the computed picture itself: quick, and good enough where rotation alone is free.
+void PictureFitter::slopes_from_picture(const Projection& projection) {
   const int w = picture_->width();
-  normal.setZero();
-  right.setZero();
-  Parameters sum = Parameters::Zero();
-  Parameters along = Parameters::Zero();
-  const int count = w - 2;
-  const int stride = w;
   for (int y = 1; y + 1 < picture_->height(); ++y) {
     const std::size_t start = index(y) * index(w) + 1;
     const Vector3 first = projection.direction(1.5, y + 0.5);
@@ -212,14 +203,45 @@ void PictureFitter::linearise(const Projection& projection, int parameters, Norm
                        &computed_[start + index(w)], &mask_[start],
                        static_cast<float>(first[0]), static_cast<float>(1 / projection.distance()),
                        static_cast<float>(first[1]), static_cast<float>(projection.distance())};
-    slopes_of(row, count, parameters > 3, slopes_.data(), stride);
+    slopes_of(row, w - 2, &slopes_[start], static_cast<int>(computed_.size()));
+  }
+}
+
+/// By pictures to both sides: rotation and centre do nearly the same, so that their small difference must be exact.
+void PictureFitter::slopes_from_draws(const KinematicSphere& sphere, const Place& place) {
+  constexpr double turn = 0.1 * radians;
+  const std::vector<float> here = computed_;
+  const double shift = turn * picture_->projection(place.centre).distance();
+  for (int p = 0; p < most_parameters; ++p) {
+    Parameters step = Parameters::Zero();
+    const double size = p < 3 ? turn : shift;
+    step[p] = size;
+    draw(sphere, moved(place, step));
+    float* slope = &slopes_[index(p) * here.size()];
+    std::copy(computed_.begin(), computed_.end(), slope);
+    draw(sphere, moved(place, -step));
+    const auto per = static_cast<float>(0.5 / size);
+    for (std::size_t i = 0; i < here.size(); ++i) slope[i] = (slope[i] - computed_[i]) * per * mask_[i];
+  }
+  computed_ = here;
+}
+
+void PictureFitter::sum_up(int parameters, Normal& normal, Parameters& right) const {
+  const int w = picture_->width();
+  normal.setZero();
+  right.setZero();
+  Parameters sum = Parameters::Zero();
+  Parameters along = Parameters::Zero();
+  const int count = w - 2;
+  for (int y = 1; y + 1 < picture_->height(); ++y) {
+    const std::size_t start = index(y) * index(w) + 1;
     for (int p = 0; p < parameters; ++p) {
-      const float* slope = &slopes_[index(p * stride)];
+      const float* slope = &slopes_[index(p) * computed_.size() + start];
       sum[p] += static_cast<double>(total(slope, count));
       along[p] += static_cast<double>(dot(slope, &computed_[start], count));
       right[p] += static_cast<double>(dot(slope, &measured_[start], count));
       for (int q = p; q < parameters; ++q) {
-        normal(p, q) += static_cast<double>(dot(slope, &slopes_[index(q * stride)], count));
+        normal(p, q) += static_cast<double>(dot(slope, &slopes_[index(q) * computed_.size() + start], count));
       }
     }
   }
@@ -237,63 +259,69 @@ void PictureFitter::linearise(const Projection& projection, int parameters, Norm
   }
 }
 
+PictureFitter::Place PictureFitter::moved(const Place& place, const Parameters& step) const {
+  const double width = picture_->projection(place.centre).width;
+  return {place.crystal_from_picture * rotation_of(step.head(3)),
+          {place.centre.x + step[3] / width, place.centre.y + step[4] / width, place.centre.z + step[5] / width}};
+}
+
 PictureFit PictureFitter::fit(const KinematicSphere& sphere, const Rotation& start, const PatternCentre& centre,
                               const FitSettings& settings) {
-  const int parameters = settings.centre ? 6 : 3;
-  PictureFit best{start, centre, -1, 0, {}};
-  Rotation rotation = start;
-  PatternCentre at = centre;
-  Parameters step = Parameters::Zero();
+  const int parameters = settings.centre ? most_parameters : 3;
+  Place place{start, centre};
+  draw(sphere, place);
+  PictureFit best{start, centre, correlate(), 0, {}};
   Normal normal;
   Parameters right;
-  double damping = 1;
-  for (int round = 0; round <= settings.most_steps; ++round) {
-    const Projection projection = picture_->projection(at);
-    draw(sphere, rotation, projection);
-    const double found = correlate();
-    if (round > 0 && found <= best.correlation) {
-      damping *= 0.4;  // too far: back, and a shorter step
-      if (damping < 0.05) break;
-    } else {
-      const double gain = found - best.correlation;
-      best.crystal_from_picture = rotation;
-      best.centre = at;
-      best.correlation = found;
-      damping = std::min(1.0, damping * 2);
-      if (found <= 0 || (round > 0 && gain < 1e-7)) break;
-      if (round == settings.most_steps) break;
-      linearise(projection, parameters, normal, right);
-      step.setZero();
-      const auto block = normal.topLeftCorner(parameters, parameters);
-      step.head(parameters) = block.ldlt().solve(right.head(parameters));
-      if (!step.allFinite()) break;
-      const double turn = step.head(3).norm();
-      const double most = settings.most_turn_deg * radians;
-      if (turn > most) step *= most / turn;
-      const double spread = norm_ * norm_ * (1 - found * found) / count_;
-      const double contrast = sums_.product / (sums_.square - sums_.computed * sums_.computed / count_);
-      const auto inverse = block.inverse().eval();
-      for (int p = 0; p < parameters; ++p) {
-        best.errors[index(p)] =
-            std::sqrt(std::max(0.0, spread * inverse(p, p))) / contrast / (p < 3 ? radians : projection.width);
+  double damping = settings.centre ? 1e-3 : 0;
+  bool fresh = true;  // whether the sums are to be made anew
+  while (best.correlation > 0 && best.steps < settings.most_steps) {
+    if (fresh) {
+      if (settings.centre) {
+        slopes_from_draws(sphere, place);
+      } else {
+        slopes_from_picture(picture_->projection(place.centre));
       }
+      sum_up(parameters, normal, right);
+      note_errors(parameters, normal, best);
     }
-    const Parameters taken = damping * step;
-    rotation = best.crystal_from_picture * rotation_of(taken.head(3));
-    at = best.centre;
-    at.x += taken[3] / projection.width;
-    at.y += taken[4] / projection.width;
-    at.z += taken[5] / projection.width;
-    best.steps = round + 1;
-    if (damping == 1 && taken.head(3).norm() < settings.least_turn_deg * radians &&
-        taken.tail(3).norm() / projection.width < settings.least_turn_deg * radians) {
-      best.crystal_from_picture = rotation;
-      best.centre = at;
-      break;
+    Parameters step = Parameters::Zero();
+    Normal damped = normal;
+    damped.diagonal() *= 1 + damping;
+    step.head(parameters) = damped.topLeftCorner(parameters, parameters).ldlt().solve(right.head(parameters));
+    if (!step.allFinite()) break;
+    const double turn = step.head(3).norm() / radians;
+    if (turn > settings.most_turn_deg) step *= settings.most_turn_deg / turn;
+    const Place trial = moved(place, step);
+    if (!(trial.centre.z > least_distance)) break;
+    draw(sphere, trial);
+    const double found = correlate();
+    ++best.steps;
+    const double size = std::max(turn, step.tail(3).norm() / picture_->projection(place.centre).distance() / radians);
+    fresh = found > best.correlation;
+    if (fresh) {
+      place = trial;
+      best.crystal_from_picture = place.crystal_from_picture;
+      best.centre = place.centre;
+      best.correlation = found;
+      damping = damping > 1e-4 ? damping / 5 : 0;
+    } else {
+      damping = std::max(damping * 10, 1e-2);
     }
-    if (!(at.z > 0.05)) break;
+    if (size < settings.least_turn_deg || damping > most_damping) break;
   }
   return best;
+}
+
+/// Standard errors of the parameters from what the computed picture does not explain.
+void PictureFitter::note_errors(int parameters, const Normal& normal, PictureFit& fit) const {
+  const double spread = norm_ * norm_ * (1 - fit.correlation * fit.correlation) / count_;
+  const double contrast = sums_.product / (sums_.square - sums_.computed * sums_.computed / count_);
+  const auto inverse = normal.topLeftCorner(parameters, parameters).inverse().eval();
+  for (int p = 0; p < parameters; ++p) {
+    fit.errors[index(p)] = std::sqrt(std::max(0.0, spread * inverse(p, p))) / contrast /
+                           (p < 3 ? radians : picture_->projection(fit.centre).width);
+  }
 }
 
 }  // namespace zol

@@ -48,10 +48,19 @@ class PictureFitter {
  private:
   using Parameters = Eigen::Matrix<double, 6, 1>;
   using Normal = Eigen::Matrix<double, 6, 6>;
-  void draw(const KinematicSphere& sphere, const Rotation& crystal_from_picture, const Projection& projection);
+  struct Place {
+    Rotation crystal_from_picture;
+    PatternCentre centre;
+  };
+  /// Turned and shifted by a step: radians about x, y, z of the picture, pixels along x, y, z.
+  [[nodiscard]] Place moved(const Place& place, const Parameters& step) const;
+  void draw(const KinematicSphere& sphere, const Place& place);
   double correlate();
-  /// Sums for one step from the picture that was drawn and correlated.
-  void linearise(const Projection& projection, int parameters, Normal& normal, Parameters& right);
+  // How what was drawn changes with each parameter, and the sums for one step from it
+  void slopes_from_picture(const Projection& projection);
+  void slopes_from_draws(const KinematicSphere& sphere, const Place& place);
+  void sum_up(int parameters, Normal& normal, Parameters& right) const;
+  void note_errors(int parameters, const Normal& normal, PictureFit& fit) const;
 
   struct Sums {
     double computed = 0, square = 0, product = 0;
