@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <numbers>
+#include <tuple>
 
 #include "indexing/vector_clones.h"
 
@@ -218,8 +219,10 @@ void BandDetection::pick(const DetectionSettings& settings) {
       candidates_.push_back(band);
     }
   }
-  std::stable_sort(candidates_.begin(), candidates_.end(),
-                   [](const DetectedBand& a, const DetectedBand& b) { return a.strength > b.strength; });
+  // A stable sort would need memory; equal ones go by their place.
+  std::sort(candidates_.begin(), candidates_.end(), [](const DetectedBand& a, const DetectedBand& b) {
+    return std::tie(b.strength, a.azimuth_rad, a.distance_rad) < std::tie(a.strength, b.azimuth_rad, b.distance_rad);
+  });
   bands_.clear();
   const double nearest = std::cos(settings.least_separation_deg * radians);
   for (const DetectedBand& band : candidates_) {

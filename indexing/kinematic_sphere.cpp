@@ -1,8 +1,11 @@
 #include "indexing/kinematic_sphere.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
+
+#include "indexing/vector_clones.h"
 
 namespace zol {
 namespace {
@@ -11,30 +14,46 @@ constexpr double margin = 2.5;  // grid points beyond the equator
 constexpr double faintest = 0.01;
 constexpr std::size_t most_strips = 1200;
 
-/// Brightness across a strip at a distance from its plane, in Bragg angles.
+/// Brightness across a strip at a distance from its plane, in steps of a part of a Bragg angle.
 class StripProfile {
  public:
+  static constexpr float steps = 64;
+  static constexpr double reach = 2.5;
+
   explicit StripProfile(const StripShape& shape) {
     for (std::size_t i = 0; i < table_.size(); ++i) {
-      const double u = static_cast<double>(i) / steps;
+      const double u = static_cast<double>(i) / static_cast<double>(steps);
       const double inside = 1 / (1 + std::exp((u - 1) / shape.softness));
       const double from_edge = (u - 1 - shape.edge_width) / shape.edge_width;
       table_[i] = static_cast<float>(inside - shape.edge_depth * std::exp(-from_edge * from_edge));
     }
-    table_.back() = 0;
+    std::fill(table_.end() - 2, table_.end(), 0.0F);
   }
-  static constexpr double reach = 2.5;
-  [[nodiscard]] float at(double u) const {
-    const double place = u * steps;
-    const auto below = static_cast<std::size_t>(place);
-    const auto part = static_cast<float>(place - static_cast<double>(below));
-    return table_[below] + part * (table_[below + 1] - table_[below]);
-  }
+  [[nodiscard]] const float* table() const { return table_.data(); }
+  static constexpr int last = static_cast<int>(reach * static_cast<double>(steps));
 
  private:
-  static constexpr double steps = 64;
-  std::array<float, static_cast<std::size_t>(reach* steps) + 2> table_{};
+  std::array<float, last + 2> table_{};
 };
+
+struct Strip {
+  float x, y, z;  ///< normal over the sine of the Bragg angle, times the steps of the profile
+  float brightness;
+  double sine;
+  Vector3 normal;
+};
+
+/// Adds a strip to a row of directions.
+ZOL_VECTOR_CLONES void add_strip(const Strip& strip, const float* profile, const float* x, const float* y,
+                                 const float* z, int count, float* values) {
+  constexpr auto end = static_cast<float>(StripProfile::last);
+  for (int i = 0; i < count; ++i) {
+    const float place = std::min(end, std::abs(x[i] * strip.x + y[i] * strip.y + z[i] * strip.z));
+    const int below = static_cast<int>(place);
+    const float part = place - static_cast<float>(below);
+    values[i] += strip.brightness * (profile[below] + part * (profile[below + 1] - profile[below]));
+  }
+}
 
 }  // namespace
 
@@ -43,10 +62,6 @@ KinematicSphere::KinematicSphere(const ReflectorSet& reflectors, int size, const
       scale_(static_cast<float>((size - 1) / 2.0 - margin)),
       middle_(static_cast<float>((size - 1) / 2.0)),
       values_(static_cast<std::size_t>(size) * static_cast<std::size_t>(size)) {
-  struct Strip {
-    Vector3 normal;
-    double sine, brightness;
-  };
   std::vector<Strip> strips;
   double strongest = 0;
   for (const auto& family : reflectors.families) strongest = std::max(strongest, family.weight);
@@ -54,7 +69,10 @@ KinematicSphere::KinematicSphere(const ReflectorSet& reflectors, int size, const
     const auto& family = reflectors.families[static_cast<std::size_t>(member.family)];
     const double brightness = std::pow(family.weight / strongest, shape.weight_power);
     if (brightness < faintest) continue;
-    if (strips.size() < most_strips) strips.push_back({member.normal, std::sin(family.bragg_rad), brightness});
+    if (strips.size() >= most_strips) break;
+    const double sine = std::sin(family.bragg_rad);
+    const Eigen::Vector3f scaled = (member.normal * (static_cast<double>(StripProfile::steps) / sine)).cast<float>();
+    strips.push_back({scaled[0], scaled[1], scaled[2], static_cast<float>(brightness), sine, member.normal});
   }
   const StripProfile profile(shape);
   const auto direction = [this](double column, double row) -> Vector3 {
@@ -76,17 +94,21 @@ KinematicSphere::KinematicSphere(const ReflectorSet& reflectors, int size, const
       for (const Strip& strip : strips) {
         if (std::abs(centre.dot(strip.normal)) < StripProfile::reach * strip.sine + radius) crossing.push_back(strip);
       }
+      const int count = std::min(tile, size - left);
       for (int row = top; row < std::min(top + tile, size); ++row) {
-        for (int column = left; column < std::min(left + tile, size); ++column) {
-          const Vector3 here = direction(column, row);
-          double sum = 0;
-          for (const Strip& strip : crossing) {
-            const double distance = std::abs(here.dot(strip.normal));
-            if (distance >= StripProfile::reach * strip.sine) continue;
-            sum += strip.brightness * static_cast<double>(profile.at(distance / strip.sine));
-          }
-          values_[static_cast<std::size_t>(row) * static_cast<std::size_t>(size) + static_cast<std::size_t>(column)] =
-              static_cast<float>(sum);
+        std::array<float, tile> x{};
+        std::array<float, tile> y{};
+        std::array<float, tile> z{};
+        for (int i = 0; i < count; ++i) {
+          const Vector3 here = direction(left + i, row);
+          x[static_cast<std::size_t>(i)] = static_cast<float>(here[0]);
+          y[static_cast<std::size_t>(i)] = static_cast<float>(here[1]);
+          z[static_cast<std::size_t>(i)] = static_cast<float>(here[2]);
+        }
+        float* values =
+            &values_[static_cast<std::size_t>(row) * static_cast<std::size_t>(size) + static_cast<std::size_t>(left)];
+        for (const Strip& strip : crossing) {
+          add_strip(strip, profile.table(), x.data(), y.data(), z.data(), count, values);
         }
       }
     }

@@ -200,8 +200,9 @@ std::span<const Orientation> OrientationVote::vote(const VoteTable& table, std::
     }
     solutions_.push_back(solution);
   }
-  std::stable_sort(solutions_.begin(), solutions_.end(),
-                   [](const Orientation& a, const Orientation& b) { return a.votes > b.votes; });
+  std::sort(solutions_.begin(), solutions_.end(), [](const Orientation& a, const Orientation& b) {
+    return a.votes != b.votes ? a.votes > b.votes : a.mean_deviation_deg < b.mean_deviation_deg;
+  });
   return solutions_;
 }
 

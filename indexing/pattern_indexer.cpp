@@ -76,17 +76,16 @@ std::span<const IndexSolution> PatternIndexer::index(const PictureView& picture,
       solutions_.push_back(solution);
     }
   }
-  std::stable_sort(solutions_.begin(), solutions_.end(), [](const IndexSolution& a, const IndexSolution& b) {
+  std::sort(solutions_.begin(), solutions_.end(), [](const IndexSolution& a, const IndexSolution& b) {
     return a.correlation != b.correlation ? a.correlation > b.correlation : a.votes > b.votes;
   });
-  std::vector<MatchedBand> matched;
   for (IndexSolution& solution : solutions_) {
     if (solution.correlation == 0) continue;
-    match_bands(*solution.model->table, bands_, solution.crystal_from_picture, settings.vote.tolerance_deg, matched);
+    match_bands(*solution.model->table, bands_, solution.crystal_from_picture, settings.vote.tolerance_deg, matches_);
     solution.matched = 0;
     solution.mean_deviation_deg = 0;
     solution.votes = 0;
-    for (const MatchedBand& match : matched) {
+    for (const MatchedBand& match : matches_) {
       if (match.plane < 0) continue;
       const double part = match.deviation_deg / settings.vote.tolerance_deg;
       ++solution.matched;

@@ -74,6 +74,7 @@ class PatternIndexer {
   std::vector<DetectedBand> bands_;
   OrientationVote vote_;
   PictureFitter fitter_;
+  std::vector<MatchedBand> matches_;
   std::vector<IndexSolution> solutions_;
 };
 

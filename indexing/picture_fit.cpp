@@ -210,20 +210,20 @@ void PictureFitter::slopes_from_picture(const Projection& projection) {
 /// By pictures to both sides: rotation and centre do nearly the same, so that their small difference must be exact.
 void PictureFitter::slopes_from_draws(const KinematicSphere& sphere, const Place& place) {
   constexpr double turn = 0.1 * radians;
-  const std::vector<float> here = computed_;
+  kept_ = computed_;
   const double shift = turn * picture_->projection(place.centre).distance();
   for (int p = 0; p < most_parameters; ++p) {
     Parameters step = Parameters::Zero();
     const double size = p < 3 ? turn : shift;
     step[p] = size;
     draw(sphere, moved(place, step));
-    float* slope = &slopes_[index(p) * here.size()];
+    float* slope = &slopes_[index(p) * kept_.size()];
     std::copy(computed_.begin(), computed_.end(), slope);
     draw(sphere, moved(place, -step));
     const auto per = static_cast<float>(0.5 / size);
-    for (std::size_t i = 0; i < here.size(); ++i) slope[i] = (slope[i] - computed_[i]) * per * mask_[i];
+    for (std::size_t i = 0; i < kept_.size(); ++i) slope[i] = (slope[i] - computed_[i]) * per * mask_[i];
   }
-  computed_ = here;
+  std::swap(computed_, kept_);
 }
 
 void PictureFitter::sum_up(int parameters, Normal& normal, Parameters& right) const {

@@ -69,7 +69,7 @@ class PictureFitter {
   int shape_version_ = -1;
   double count_ = 0, norm_ = 0;
   Sums sums_;
-  std::vector<float> mask_, measured_, computed_, parts_, slopes_;
+  std::vector<float> mask_, measured_, computed_, kept_, parts_, slopes_;
   std::vector<int> places_;
 };
 

@@ -50,7 +50,7 @@ struct AutoIndexForm : Window {
   CommandButton CopyReport{*this, "CopyReport", "Copy report"};
   Label Status{*this, "Status"};  // what was found, or why not
 
-  ListBox Crystals{*this, "Crystals", "Crystals"};  // tried beside the present one
+  ListBox Crystals{*this, "Crystals"};  // tried beside the present one
   CommandButton AddCrystal{*this, "AddCrystal", "Add crystal..."};
   CommandButton RemoveCrystal{*this, "RemoveCrystal", "Remove"};
   Label FamiliesHeading{*this, "FamiliesHeading", "     h  k  l   n  d (A)   width  strength"};
@@ -67,6 +67,7 @@ struct AutoIndexForm : Window {
   OptionButton Over{*this, "Over", "Over", "view"};
   OptionButton Alternating{*this, "Alternating", "Alternating", "view"};
   Slider Blend{*this, "Blend", "Simulated (%):"};
+  MenuItem MakerCentre{*this, "MakerCentre", "Centre from numbers...", "Detector"};
   MenuItem SaveSimulated{*this, "SaveSimulated", "Save picture...", "Picture"};
 
   FileDialog CommonDialog1;

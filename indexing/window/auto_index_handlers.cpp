@@ -1,4 +1,5 @@
 #include <numbers>
+#include <utility>
 
 #include "indexing/index_report.h"
 #include "indexing/window/auto_index_form.h"
@@ -164,6 +165,15 @@ void Index_Click(Workbench& bench, AutoIndexForm& form) {
   });
 }
 
+/// Writes a centre into the boxes of PATTERN3, which go on as if they had been typed.
+void write_centre(Workbench& bench, const PatternCentre& centre, const PictureSize& size) {
+  const DetectorAngles angles = angles_of(centre, size);
+  Pattern3Form& pattern = pattern3(bench);
+  pattern.Text3.set_text(plain_text(to_single(angles.half_width_deg)));
+  pattern.Text14.set_text(plain_text(to_single(angles.x_shift_deg)));
+  pattern.Text15.set_text(plain_text(to_single(angles.y_shift_deg)));
+}
+
 /// The centre goes to the boxes of PATTERN3, and the picture is indexed again with what they make of it.
 void RefineCentre_Click(Workbench& bench, AutoIndexForm& form) {
   attempt(bench, form, [&] {
@@ -173,16 +183,57 @@ void RefineCentre_Click(Workbench& bench, AutoIndexForm& form) {
     const auto* best = form.result.solution();
     if (best == nullptr) throw RunFailure("no orientation was found to refine the centre with");
     const PictureFit fit = form.indexer.refine_centre(best->found, form.result.centre, settings_of(form));
-    const DetectorAngles angles = angles_of(fit.centre, form.result.size);
-    Pattern3Form& pattern = pattern3(bench);
-    pattern.Text3.set_text(plain_text(to_single(angles.half_width_deg)));
-    pattern.Text14.set_text(plain_text(to_single(angles.x_shift_deg)));
-    pattern.Text15.set_text(plain_text(to_single(angles.y_shift_deg)));
+    write_centre(bench, fit.centre, form.result.size);
     index_picture(bench, form, view_of(*picture));
     show_result(bench, form);
     form.Status.set_caption(form.Status.caption() + "; centre good to " + Format(100 * fit.errors[3], "0.00") + ", " +
                             Format(100 * fit.errors[4], "0.00") + ", " + Format(100 * fit.errors[5], "0.00") +
                             " % of the width");
+  });
+}
+
+/// "bruker 0.5 0.25 0.6", for emsoft with the pixel size in micrometres behind. @throws RunFailure  it is none
+PatternCentre typed_centre(const std::string& text, PictureSize size) {
+  constexpr auto form = R"(expected are a maker and its numbers, as "bruker 0.5 0.25 0.6", or )"
+                        R"("emsoft 10 -20 15000 70" with the size of a pixel in micrometres)";
+  std::string word;
+  std::vector<std::string> words;
+  for (const char c : text + " ") {
+    if (c != ' ' && c != ',' && c != '\t') {
+      word += c;
+    } else if (!word.empty()) {
+      words.push_back(std::exchange(word, {}));
+    }
+  }
+  const auto convention = words.empty() ? std::nullopt : centre_convention(words.front());
+  const bool has_pixel = convention == CentreConvention::Emsoft;
+  if (!convention || words.size() != (has_pixel ? 5U : 4U))
+    throw RunFailure("\"" + text + "\" is no pattern centre: " + form);
+  std::array<double, 4> numbers{0, 0, 0, 1};
+  for (std::size_t i = 1; i < words.size(); ++i) {
+    const auto number = strict_number(words[i]);
+    if (!number) throw RunFailure("\"" + words[i] + "\" is no number: " + form);
+    numbers[i - 1] = *number;
+  }
+  size.pixel_micrometre = numbers[3];
+  const PatternCentre centre = read_centre({numbers[0], numbers[1], numbers[2]}, *convention, size);
+  if (!(centre.z > 0.05 && centre.z < 20 && size.pixel_micrometre > 0)) {
+    throw RunFailure("the specimen would stand " + plain_text(centre.z) +
+                     " widths from the screen; expected are 0.05 to 20");
+  }
+  return upside_down(centre, size);
+}
+
+/// The numbers of the detector's software, of the picture before it is turned.
+void MakerCentre_Click(Workbench& bench, AutoIndexForm& form) {
+  attempt(bench, form, [&] {
+    const auto picture = measured_picture(bench);
+    const std::string answer = bench.services.prompt(
+        "Pattern centre as the detector's software tells it: bruker, edax, oxford or emsoft and its three numbers",
+        title);
+    if (answer.empty()) return;
+    const PictureSize size{picture->width, picture->height, 1};
+    write_centre(bench, typed_centre(answer, size), size);
   });
 }
 
@@ -319,6 +370,7 @@ void wire(Workbench& bench, AutoIndexForm& form) {
   form.Alternating.on_click = on(redraw_simulated);
   form.Blend.on_change = on(redraw_simulated);
   form.Simulated.on_mouse_down = on(Simulated_MouseDown);
+  form.MakerCentre.on_click = on(MakerCentre_Click);
   form.SaveSimulated.on_click = on(SaveSimulated_Click);
   form.on_load = on(Form_Load);
 }

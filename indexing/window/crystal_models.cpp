@@ -101,17 +101,21 @@ std::shared_ptr<const CrystalModel> ready_model(Workbench& bench, AutoIndexForm&
 
 }  // namespace
 
+std::shared_ptr<const CrystalModel> present_crystal_model(Workbench& bench, AutoIndexForm& form) {
+  const auto& main1 = bench.windows.use<Main1Form>();
+  if (!(main1.state.NCell > 0) && !(main1.state.JcpdsCount > 0)) return nullptr;
+  WindowTask task(bench.services);
+  const std::string title = without_folder(main1.Text17.text());
+  return ready_model(bench, form, main1.state, title.empty() ? "present crystal" : title, true, task);
+}
+
 std::vector<std::shared_ptr<const CrystalModel>> crystal_models(Workbench& bench, AutoIndexForm& form) {
   WindowTask task(bench.services);
-  auto& main1 = bench.windows.use<Main1Form>();
-  const bool present = main1.state.NCell > 0 || main1.state.JcpdsCount > 0;
-  if (!present && form.crystal_files.empty()) {
-    throw RunFailure("there is no crystal: load one in the main window, or add a crystal file");
-  }
+  const auto& main1 = bench.windows.use<Main1Form>();
   std::vector<std::shared_ptr<const CrystalModel>> models;
-  if (present) {
-    const std::string title = without_folder(main1.Text17.text());
-    models.push_back(ready_model(bench, form, main1.state, title.empty() ? "present crystal" : title, true, task));
+  if (auto present = present_crystal_model(bench, form)) models.push_back(std::move(present));
+  if (models.empty() && form.crystal_files.empty()) {
+    throw RunFailure("there is no crystal: load one in the main window, or add a crystal file");
   }
   for (const std::string& path : form.crystal_files) {
     try {

@@ -6,6 +6,8 @@
 #include <numbers>
 #include <numeric>
 
+#include "indexing/window/grey_range.h"
+
 namespace zol {
 namespace {
 
@@ -131,33 +133,6 @@ std::optional<std::array<Point, 2>> straight_line(const IndexResult& result, dou
   return ends_on_border(cosine * per_x, sine * per_y, -(cosine * projection.x0() + sine * projection.y0() + reach));
 }
 
-/// Grey values brought from their own spread to black and white.
-class GreyRange {
- public:
-  explicit GreyRange(std::span<const float> values) {
-    double sum = 0;
-    double square = 0;
-    for (const float value : values) {
-      sum += static_cast<double>(value);
-      square += static_cast<double>(value) * static_cast<double>(value);
-    }
-    const double count = std::max<double>(1, static_cast<double>(values.size()));
-    middle_ = sum / count;
-    spread_ = std::sqrt(std::max(1e-12, square / count - middle_ * middle_));
-  }
-  [[nodiscard]] double level(float value) const {
-    return std::clamp(127.5 + 127.5 * (static_cast<double>(value) - middle_) / (2.5 * spread_), 0.0, 255.0);
-  }
-
- private:
-  double middle_ = 0, spread_ = 1;
-};
-
-Colour grey(double level) {
-  const int value = static_cast<int>(std::lround(level));
-  return RGB(value, value, value);
-}
-
 }  // namespace
 
 void draw_solution(Pattern3Form& pattern, const IndexResult& result) {
@@ -249,12 +224,12 @@ void draw_simulated(AutoIndexForm& form, const PictureView& measured) {
         const double ours = simulated_range.level(drawn.at(column, row));
         const double theirs = measured_range.level(measured.at(column, row));
         if (panels == 2) {
-          image.set_pixel(left + x, y, grey(theirs));
-          image.set_pixel(left + width + x, y, grey(ours));
+          image.set_pixel(left + x, y, GreyRange::grey(theirs));
+          image.set_pixel(left + width + x, y, GreyRange::grey(ours));
         } else if (form.Over.on()) {
-          image.set_pixel(left + x, y, grey(share * ours + (1 - share) * theirs));
+          image.set_pixel(left + x, y, GreyRange::grey(share * ours + (1 - share) * theirs));
         } else {
-          image.set_pixel(left + x, y, grey(form.measured_in_front ? theirs : ours));
+          image.set_pixel(left + x, y, GreyRange::grey(form.measured_in_front ? theirs : ours));
         }
       }
     }

@@ -7,6 +7,9 @@
 #include "core/lattice.h"
 #include "core/number_text.h"
 #include "core/run_failure.h"
+#include "indexing/window/crystal_models.h"
+#include "indexing/window/grey_range.h"
+#include "kikuchi/kikuchi_pattern.h"
 #include "kikuchi/window/kikuchi_operations.h"
 #include "kikuchi/window/pattern2_form.h"
 #include "reflections/window/main1_form.h"
@@ -80,6 +83,38 @@ Rotation shown_orientation(const CrystalState& state) {
   Rotation orientation;
   orientation << x, z.cross(x), z;
   return orientation;
+}
+
+void draw_bands_as_picture(Workbench& bench) {
+  constexpr auto title = "Bands as a picture";
+  try {
+    const CrystalState& state = main1_state(bench);
+    const auto model = present_crystal_model(bench, bench.windows.use<AutoIndexForm>());
+    if (!model) throw RunFailure("there is no crystal: load one in the main window");
+    const Rotation orientation = shown_orientation(state);
+    const GnomonicView view = gnomonic_view(state);
+    auto& pattern2 = bench.windows.use<Pattern2Form>();
+    const Hourglass hourglass(pattern2);
+    pattern2.Picture1.edit_picture([&](Surface& image) {
+      const double width = image.width();
+      const double height = image.height();
+      std::vector<float> values;
+      for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+          const Vector3 place(view.left + (double{view.right} - double{view.left}) * (x + 0.5) / width,
+                              view.top + (double{view.bottom} - double{view.top}) * (y + 0.5) / height, 1);
+          values.push_back(model->sphere->at(orientation * place));
+        }
+      }
+      const GreyRange range(values);
+      std::size_t pixel = 0;
+      for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) image.set_pixel(x, y, range.colour(values[pixel++]));
+      }
+    });
+  } catch (const RunFailure& failure) {
+    bench.services.message(failure.message(), title);
+  }
 }
 
 }  // namespace zol

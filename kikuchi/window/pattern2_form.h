@@ -77,6 +77,7 @@ struct Pattern2Form : Window {
   CommandButton Command5{*this, "Command5", "Copy"};
 
   MenuItem ISAVE{*this, "ISAVE", "PATTERN SAVE", "Image"};
+  MenuItem BandsAsPicture{*this, "BandsAsPicture", "Bands as a picture", "Image"};
   MenuItem Imagesize{*this, "Imagesize", "Image size", "Image"};
   MenuItem ImageLoad{*this, "ImageLoad", "Superpose", "Image"};
   MenuItem ImageClear{*this, "ImageClear", "Clear", "Image"};

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "analysis/window/pattern3_form.h"
+#include "indexing/window/show_orientation.h"
 #include "kikuchi/window/electron_voltage.h"
 #include "kikuchi/window/kikuchi_operations.h"
 #include "kikuchi/window/pattern2_form.h"
@@ -357,6 +358,7 @@ void wire(Workbench& bench, Pattern2Form& form) {
   form.Picture1.on_mouse_down = on(Picture1_MouseDown);
   form.Picture1.on_double_click = on(Command4_Click);
   form.ISAVE.on_click = on(ISAVE_Click);
+  form.BandsAsPicture.on_click = [&bench] { draw_bands_as_picture(bench); };
   form.Imagesize.on_click = on(Imagesize_Click);
   form.ImageLoad.on_click = on(ImageLoad_Click);
   form.ImageClear.on_click = on(ImageClear_Click);

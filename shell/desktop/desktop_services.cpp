@@ -2,12 +2,14 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QClipboard>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QGuiApplication>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -126,6 +128,12 @@ std::string DesktopServices::prompt(const std::string& text, const std::string& 
 
 void DesktopServices::message(const std::string& text, const std::string& title) {
   QMessageBox::warning(QApplication::activeWindow(), to_qt(title), to_qt(text));
+}
+
+void DesktopServices::copy_text(const std::vector<std::string>& lines, const std::string& /*title*/) {
+  QString text;
+  for (const auto& line : lines) text += to_qt(line) + QLatin1Char('\n');
+  QGuiApplication::clipboard()->setText(text);
 }
 
 void DesktopServices::report(const std::vector<std::string>& lines, const std::string& title) {

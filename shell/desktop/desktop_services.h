@@ -20,6 +20,7 @@ class DesktopServices : public Services {
   std::string prompt(const std::string& text, const std::string& title) override;
   void message(const std::string& text, const std::string& title) override;
   void report(const std::vector<std::string>& lines, const std::string& title) override;
+  void copy_text(const std::vector<std::string>& lines, const std::string& title) override;
   void print_line(const std::string& line) override;
   void end_document(const std::string& title) override;
   void print_window(Window& window) override;
