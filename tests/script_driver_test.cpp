@@ -5,6 +5,8 @@
 
 #include <cstdlib>
 #include <filesystem>
+#include <regex>
+#include <set>
 #include <sstream>
 
 #include "core/read_file.h"
@@ -85,6 +87,27 @@ TEST(Script, TellsWhatIsWrongWithItsLine) {
     EXPECT_EQ(result.error, error);
     EXPECT_EQ(result.output, "before\n") << "what was printed stays, and nothing follows: " << script;
   }
+}
+
+TEST(Script, TakesTheWordsThatTheGuideTells) {
+  std::istringstream guide(read_file(ZOL_SOURCE_DIR "/docs/scripting.md"));
+  const std::regex form("`([a-z]+)((?: [A-Z.]+)*)`");
+  std::set<std::string> names;
+  for (std::string line; std::getline(guide, line);) {
+    if (!line.starts_with("| `")) continue;
+    for (std::smatch found; std::regex_search(line, found, form); line = found.suffix()) {
+      names.insert(found[1]);
+      const std::string words = found[2];
+      const auto count = std::count(words.begin(), words.end(), ' ');
+      for (const auto wrong : {count - 1, count + 1}) {
+        if (wrong < 0 || words == " WORDS") continue;
+        std::string script = found[1];
+        for (int i = 0; i < wrong; ++i) script += " x";
+        EXPECT_TRUE(run(script).error.starts_with("line 1: the form is: " + found[1].str())) << script;
+      }
+    }
+  }
+  EXPECT_EQ(names.size(), 21U);
 }
 
 // Å is one byte in a box and in a file, and two where the script meets them.

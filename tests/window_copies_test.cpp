@@ -122,7 +122,11 @@ class WindowCopies : public testing::Test {
     if (auto* canvas = dynamic_cast<Canvas*>(&control)) {
       canvas->set_width(300);
       canvas->set_fore_colour(colours::red);
+      if (control.window().name() == "PATTERN3") canvas->load_picture("four.bmp");
       canvas->line(1, 2, 3, 4);
+      canvas->set_persistent(false);
+      canvas->clear();  // what is stored goes off the list
+      canvas->set_mouse_pointer(MousePointer::Hourglass);
     }
   }
 
@@ -135,16 +139,22 @@ class WindowCopies : public testing::Test {
       }
     }
     for (const auto& name : program.windows().names()) {
-      for (Control* control : program.windows().find(name)->controls()) change_what_no_user_does(*control);
+      Window& window = *program.windows().find(name);
+      for (Control* control : window.controls()) change_what_no_user_does(*control);
+      window.set_caption("another");
+      window.set_mouse_pointer(MousePointer::CrossHair);
     }
   }
 
-  std::map<std::string, Drawing> drawings() {
-    std::map<std::string, Drawing> all;
+  using Picture = std::tuple<Drawing, bool, bool, MousePointer>;
+  std::map<std::string, Picture> drawings() {
+    std::map<std::string, Picture> all;
     for (const auto& [name, copy] : program.windows().copies()) {
       for (const Control* control : program.windows().find(name)->controls()) {
         const auto* canvas = dynamic_cast<const Canvas*>(control);
-        if (canvas != nullptr) all.emplace(canvas->path(), canvas->contents().drawing);
+        if (canvas == nullptr) continue;
+        const auto held = canvas->contents();
+        all.emplace(canvas->path(), Picture(held.drawing, canvas->has_picture(), held.raster_base, held.mouse_pointer));
       }
     }
     return all;
@@ -159,7 +169,7 @@ TEST_F(WindowCopies, PutEverythingBack) {
   program.windows().unload("InputAtom");
   const auto before = everything();
   const auto pictures = drawings();
-  EXPECT_GT(pictures.at("Pattern2.Picture1").list.size(), 10U);
+  EXPECT_GT(std::get<Drawing>(pictures.at("Pattern2.Picture1")).list.size(), 10U);
   const auto windows = program.windows().copies();
   const auto module1 = program.module1().copies();
 
