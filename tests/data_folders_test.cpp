@@ -24,6 +24,8 @@ TEST(DataFolders, AreTakenFromTheFirstPlaceThatHasThem) {
   folder.write("home/data/ZOLDATA/NaCl.cry", "mine");
   EXPECT_EQ(find_data_root(places).crystal_folder, folder.path("home/data/ZOLDATA"));
   EXPECT_EQ(folder.read("home/data/ZOLDATA/NaCl.cry"), "mine") << "later starts leave it alone";
+  places.installed_data = folder.path("moved away");
+  EXPECT_EQ(find_data_root(places).root, folder.path("home/data/ZOL")) << "the copy outlives the installation";
   places.installed_data = places.user_data;
   EXPECT_EQ(find_data_root(places).root, folder.path("home/data/ZOL")) << "an installation into the user's own folders";
   EXPECT_EQ(folder.read("home/data/ZOLDATA/NaCl.cry"), "mine");

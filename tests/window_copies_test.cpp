@@ -196,9 +196,22 @@ constexpr std::pair<const char*, int> long_events[]{
     {"Dring.Command6", 100},    {"Pattern.Command2", 100},   {"FiberTexture.Command8", 400},
     {"Pattern2.Command4", 400}, {"Pattern2.Command16", 200}, {"Zaxis.Text1", 90},
     {"Zaxis.Check2", 40},       {"PATTERN3.Text2", 5},       {"PATTERN3.Command1", 2},
-    {"PATTERN3.Command4", 512}, {"PATTERN3.Command15", 200}, {"AtomDistance.Command1", 6},
+    {"PATTERN3.Command4", 512}, {"PATTERN3.Command15", 243}, {"AtomDistance.Command1", 54},
     {"Utility.Command1", 90},
 };
+
+TEST_F(WindowCopies, AreTheSameAfterAnyKeyButEnter) {
+  const auto before = everything();
+  const auto pictures = drawings();
+  for (const auto& name : program.windows().names()) {
+    for (Control* control : program.windows().use(name).controls()) {
+      auto* box = dynamic_cast<TextBox*>(control);
+      if (box == nullptr) continue;
+      EXPECT_EQ(box->press_key('7'), '7');
+      EXPECT_TRUE(everything() == before && drawings() == pictures) << box->path();
+    }
+  }
+}
 
 TEST_F(WindowCopies, AreWhatAStoppedEventLeaves) {
   EventGate gate([] {}, [](const std::exception_ptr& failure) { FAIL() << failure_text(failure); });
