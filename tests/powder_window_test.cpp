@@ -37,12 +37,14 @@ TEST_F(PowderWindows, XdDrawsOverWhatIsThereUntilCleared) {
   }
   view.pointers.clear();
   view.bars.clear();
+  view.ranges.clear();
   form.Command1.click();
   EXPECT_EQ(drawn<DrawnLine>(form.Picture1).size(), 2000U);
   EXPECT_EQ(view.pointers, (std::vector{MousePointer::Hourglass, MousePointer::Default}));
   EXPECT_EQ(std::count(view.bars.begin(), view.bars.end(), 168), 2) << "the last reflection, then the new range";
   EXPECT_GT(view.bars.size(), 168U + 10U);
   EXPECT_EQ(view.bars.back(), 1000);
+  EXPECT_EQ(view.ranges, (std::vector<std::pair<Single, Single>>{{1, 168}, {0, 1000}}));
   form.Command2.click();
   form.Command6.click();
   EXPECT_EQ(drawn<DrawnLine>(form.Picture1).size(), 1000U) << "the old pattern";
@@ -58,8 +60,10 @@ TEST_F(PowderWindows, DringDrawsRingsAsItsChecksSay) {
   EXPECT_EQ(form.Picture1.mouse_pointer(), MousePointer::CrossHair);
   EXPECT_EQ(form.Picture2.mouse_pointer(), MousePointer::CrossHair);
   view.pointers.clear();
+  view.ranges.clear();
   form.Command1.click();
   EXPECT_EQ(view.pointers, (std::vector{MousePointer::Hourglass, MousePointer::Default}));
+  EXPECT_EQ(view.ranges, (std::vector<std::pair<Single, Single>>{{0, 168}, {0, 1000}}));
   const auto lines = drawn<DrawnLine>(form.Picture1);
   ASSERT_EQ(lines.size(), 2000U) << "the same text clears nothing";
   EXPECT_EQ(form.Picture1.user_scale(), (UserScale{0, 1.01, 1, -0.01}));

@@ -25,11 +25,7 @@ struct ScriptDriver::Operation {
 
 const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
   static const std::vector<Operation> table{
-      {"show WINDOW",
-       [](ScriptDriver& d, const Words& w) {
-         if (!d.program_.windows().knows(w[1])) fail_script("there is no window " + w[1]);
-         d.program_.windows().use(w[1]).show();
-       }},
+      {"show WINDOW", [](ScriptDriver& d, const Words& w) { d.window(w[1]).show(); }},
       {"set W.C TEXT",
        [](ScriptDriver& d, const Words& w) {
          auto& box = d.control<TextBox>(w[1]);
@@ -60,10 +56,7 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
       {"visible W.C",
        [](ScriptDriver& d, const Words& w) { d.output_ << (d.any_control(w[1]).visible() ? 1 : 0) << '\n'; }},
       {"caption WINDOW",
-       [](ScriptDriver& d, const Words& w) {
-         if (!d.program_.windows().knows(w[1])) fail_script("there is no window " + w[1]);
-         d.output_ << readable_utf8(d.program_.windows().use(w[1]).caption()) << '\n';
-       }},
+       [](ScriptDriver& d, const Words& w) { d.output_ << readable_utf8(d.window(w[1]).caption()) << '\n'; }},
       {"printer", [](ScriptDriver& d, const Words&) { d.print_pages(); }},
       {"export W.C FILE",
        [](ScriptDriver& d, const Words& w) { d.services_.export_picture(d.control<Canvas>(w[1]), w[2]); }},
@@ -120,11 +113,15 @@ void ScriptDriver::execute(const Words& words) {
   found->run(*this, words);
 }
 
+Window& ScriptDriver::window(const std::string& name) {
+  if (!program_.windows().knows(name)) fail_script("there is no window " + name);
+  return program_.windows().use(name);
+}
+
 Control& ScriptDriver::any_control(const std::string& name) {
-  const auto [window, rest] = split_name(name);
-  if (!program_.windows().knows(window)) fail_script("there is no window " + window);
-  Control* found = program_.windows().use(window).find(rest);
-  if (found == nullptr) fail_script("window " + window + " has no control " + rest);
+  const auto [owner, rest] = split_name(name);
+  Control* found = window(owner).find(rest);
+  if (found == nullptr) fail_script("window " + owner + " has no control " + rest);
   return *found;
 }
 
@@ -182,10 +179,9 @@ void ScriptDriver::choose(const Words& words) {
 void ScriptDriver::print(const Words& words) {
   const auto [owner, name] = split_name(words[1]);
   if (owner == "Module1") return print_value(owner, program_.module1(), name);
-  if (!program_.windows().knows(owner)) fail_script("there is no window " + owner);
-  Window& window = program_.windows().use(owner);
-  if (Control* shown = window.find(name)) return print_control(*shown, output_);
-  print_value(owner, window.fields(), name);
+  Window& shown = window(owner);
+  if (Control* control = shown.find(name)) return print_control(*control, output_);
+  print_value(owner, shown.fields(), name);
 }
 
 void ScriptDriver::print_value(const std::string& owner, const NamedValues& values, const std::string& name) {
@@ -201,8 +197,7 @@ void ScriptDriver::print_value(const std::string& owner, const NamedValues& valu
 
 void ScriptDriver::call(const Words& words) {
   const auto [owner, name] = split_name(words[1]);
-  if (!program_.windows().knows(owner)) fail_script("there is no window " + owner);
-  const auto* operation = program_.windows().use(owner).operation(name);
+  const auto* operation = window(owner).operation(name);
   if (operation == nullptr) fail_script("window " + owner + " has no operation " + name);
   (*operation)();
 }
