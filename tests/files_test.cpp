@@ -106,7 +106,10 @@ TEST(AtomicFiles, AreWrittenInPlaceWhereNoneCanBeMadeBeside) {
   const auto set_mode = [&](const char* name, int mode) {
     ASSERT_EQ(chmod(folder.path(name).c_str(), static_cast<mode_t>(mode)), 0);
   };
-  for (const auto* name : {"shared/open", "shared/closed", "shared/protected"}) folder.write(name, "old");
+  for (const auto* name : {"shared/open", "shared/closed", "shared/mine", "shared/protected"})
+    folder.write(name, "old");
+  ASSERT_TRUE(getuid() != 0 || chown(folder.path("shared/mine").c_str(), somebody, somebody) == 0);
+  set_mode("shared/mine", 0464);
   set_mode("shared/open", 0646);
   set_mode("shared/protected", 0404);
   EXPECT_TRUE(fails_with("write-protected", [&] { AtomicFile(folder.path("shared/protected")); }));
@@ -122,13 +125,14 @@ TEST(AtomicFiles, AreWrittenInPlaceWhereNoneCanBeMadeBeside) {
     set_mode("shared", folder_mode);
     const AsSomebody user;
     save(folder.path("shared/open"), "by somebody");
-    EXPECT_TRUE(fails_with("denied", [&] { AtomicFile(folder.path("shared/closed")); }));
+    for (const auto* name : {"shared/closed", "shared/mine"}) {
+      EXPECT_TRUE(fails_with("denied", [&] { AtomicFile(folder.path(name)); }));
+    }
   }
   EXPECT_EQ(folder.read("shared/open"), "by somebody");
   EXPECT_EQ(owner_of(folder.path("shared/open")), getuid());
 
-  folder.write("shared/mine", "old");
-  ASSERT_TRUE(getuid() != 0 || chown(folder.path("shared/mine").c_str(), somebody, somebody) == 0);
+  set_mode("shared/mine", 0644);
   std::optional<AtomicFile> file;
   for (const auto folder_mode : {0777, 0555}) {  // protected between the begin of a save and its end
     set_mode("shared", folder_mode);

@@ -12,7 +12,7 @@ namespace zol {
 class FocusView : public WindowView {
  public:
   void window_created(Window& window) override { window.set_view(this); }
-  void window_shown(Window& /*window*/) override {}
+  void window_shown(Window& /*window*/) override { ++shown; }
   void window_changed(Window& window) override { pointers.push_back(window.mouse_pointer()); }
   void window_unloaded(Window& /*window*/) override {}
   void control_changed(Control& control) override {
@@ -25,6 +25,7 @@ class FocusView : public WindowView {
   void focus_wanted(Control& control) override { wanted.push_back(control.name()); }
 
   std::vector<std::string> wanted;  ///< names of controls
+  int shown = 0;                    ///< how often a window came up
   std::vector<MousePointer> pointers;
   std::vector<Single> bars;                       ///< values
   std::vector<std::pair<Single, Single>> ranges;  ///< of bars, where they change

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <regex>
@@ -108,6 +109,26 @@ TEST(Script, TakesTheWordsThatTheGuideTells) {
     }
   }
   EXPECT_EQ(names.size(), 21U);
+}
+
+// What scripts of users may print and call, by given names.
+TEST(Script, ReachesAllPublicNames) {
+  std::ostringstream output;
+  ScriptServices services(output, nullptr);
+  Program program({ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services);
+  const auto list = [&output](const std::string& owner, const NamedValues& values) {
+    for (const auto& name : values.names()) {
+      output << "print " << owner << '.' << name
+             << std::array{"", "(i)", "(i,j)"}.at(std::size_t(values.dimensions(name))) << '\n';
+    }
+  };
+  list("Module1", program.module1());
+  for (const auto& name : program.windows().names()) {
+    Window& window = program.windows().use(name);
+    list(name, window.fields());
+    for (const auto& operation : window.operation_names()) output << "call " << name << '.' << operation << '\n';
+  }
+  EXPECT_EQ(output.str(), read_file(ZOL_SOURCE_DIR "/tests/public_names.txt"));
 }
 
 // Å is one byte in a box and in a file, and two where the script meets them.
