@@ -95,6 +95,39 @@ TEST_F(Main1Test, EnterMovesOnInTheWindowsOfNumbers) {
   }
 }
 
+TEST_F(Main1Test, ButtonsAnswer) {
+  form().Command6.click();
+  for (const auto& [owner, button, opened] : {std::array{"MAIN_MENU", "Command1", "Main1"},
+                                              {"MAIN_MENU", "Command2", "Pattern2"},
+                                              {"MAIN_MENU", "Command3", "PATTERN3"},
+                                              {"MAIN_MENU", "Camera_parameters", "CameraParameters"},
+                                              {"MAIN_MENU", "Show_Utility", "Utility"},
+                                              {"Main1", "Command1", "InputAtom"},
+                                              {"Main1", "Command7", "Xd"},
+                                              {"Main1", "Command8", "Dring"},
+                                              {"Main1", "Command9", "Pattern"},
+                                              {"Main1", "Command10", "Pattern2"},
+                                              {"Main1", "Command11", "AtomDistance"},
+                                              {"Main1", "Command12", "FiberTexture"},
+                                              {"Main1", "Command13", "PATTERN3"},
+                                              {"Main1", "Command15", "InputJCPDS"},
+                                              {"Main1", "Show_utility", "Utility"}}) {
+    program.windows().use(opened).hide();
+    Control* control = program.windows().use(owner).find(button);
+    if (auto* item = dynamic_cast<MenuItem*>(control)) item->click();
+    if (auto* command = dynamic_cast<CommandButton*>(control)) command->click();
+    EXPECT_TRUE(program.windows().use(opened).visible()) << owner << '.' << button;
+  }
+  for (const auto& name : program.windows().names()) {
+    for (const Control* control : program.windows().use(name).controls()) {
+      const auto* command = dynamic_cast<const CommandButton*>(control);
+      const auto* item = dynamic_cast<const MenuItem*>(control);
+      if ((command != nullptr && !command->on_click) || (item != nullptr && !item->on_click))
+        ADD_FAILURE() << control->path() << " does nothing";
+    }
+  }
+}
+
 TEST_F(Main1Test, FailuresTellTheBoxAndTheFile) {
   EXPECT_EQ(
       failure_of([&] { form().Text7.set_text("40000"); }),
