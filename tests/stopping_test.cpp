@@ -64,115 +64,74 @@ void lines(std::size_t bins, Task& task) {
   (void)sum_pseudo_voigt_lines(std::vector<FilledBin>(bins, {0.4F, 1}), 1.5F, {0, 100}, {0.1F, 50}, task);
 }
 
-struct Row {
-  const char* name;
-  std::function<void(Task&)> run;
-  int checks;  ///< the fewest, counted by hand
-};
-
-// NOLINTNEXTLINE(readability-function-size): a table
-TEST(Calculations, AskWhetherToGoOnAndStop) {
-  const InterferenceGrid grid{{2, 1, 1}, {0.0078125F, 0.0078125F, 0.0078125F}};
-  const SpaceGroupLibrary groups(file_of);
-  const CrystalState down_c = crystal();
-  const std::vector<Row> rows{
-      {"an exchange, every 1024 rounds",
-       [](Task& t) { (void)exchange_order(std::vector<double>(2051), 1, first_smallest_below(9), false, t); }, 3},
-      {"a unit cell, each image",
-       [&](Task& t) {
-         (void)expand_unit_cell(down_c, {"", "P", std::vector<SymmetryOperator>(2)}, t);
-       },
-       6},
-      {"a reflection list, each row of -2 to 2",
-       [&](Task& t) {
-         (void)enumerate_reflections(down_c, {{true, true, true}, {}}, t);
-       },
-       25},
-      {"a sort",
-       [&](Task& t) {
-         auto list = list_in(down_c);
-         sort_list(list, t);
-       },
-       1},
-      {"intensities, each reflection",
-       [&](Task& t) {
-         auto list = list_in(down_c);
-         for (auto* array : {&list.b, &list.two_theta}) array->allocate(4);
-         compute_list(down_c, {true, false}, list, t);
-       },
-       4},
-      {"spots, each h, h k and spot of -4 to 4",
-       [&](Task& t) {
-         (void)diffraction_spots(down_c, {false, true}, t);
-       },
-       9 + 81 + 80},
-      {"spots, all of them off the level: each h",
-       [](Task& t) {
-         visit_reflections_on_level(
-             crystal({0, 0, 0}, 1), [](const Indices<Integer>&) {}, t);
-       },
-       9},
-      {"fiber texture, each arc", [](Task& t) { arcs(4, t); }, 4},
-      {"arcs of a turn and a half, every 64 points", [](Task& t) { arcs(270, t); }, 4 + 4 * 1790 / 64},
-      // Before the look 1080 degrees; a ring of 61 pi / 2 pixels has four sectors for each pixel, looked at once or
-      // more.
-      {"looks at the ring", [](Task& t) { arcs(721, t); }, 4 + 4 * (10790 + 750) / 64},
-      {"greys of bands, each reflection", [&](Task& t) { (void)strongest_in_view(down_c, gnomonic_view(down_c), t); },
-       4},
-      {"bands, each reflection", [&](Task& t) { (void)kikuchi_lines(down_c, gnomonic_view(down_c), true, t); }, 4},
-      {"zones, each of 27 but the one of zeros",
-       [&](Task& t) {
-         (void)places_in_sweep(down_c, {1, 1, 1}, t);
-       },
-       26},
-      {"interference, points 0 to 2 along a",
-       [&](Task& t) {
-         (void)InterferenceTable(grid, {9, 9, 9}, t);
-       },
-       3},
-      {"a histogram, beside those 5 points along a for each reflection",
-       [&](Task& t) {
-         (void)fill_histogram(down_c, InterferenceTable(grid, {9, 9, 9}, t), 1250, 5000, t);
-       },
-       3 + 20},
-      {"lines, for 16 blocks of samples 64 at a time", [](Task& t) { lines(65, t); }, 32},
-      {"a text, each line", [](Task& t) { for_each_line("a\nb\nc", t, [](std::string_view) {}); }, 3},
-      {"contents of a cell, each image", [](Task& t) { (void)cell_contents(structure(), t); }, 6},
-      {"distances, each image and each site", [](Task& t) { (void)shortest_distance(structure(), true, t); }, 6 + 3},
-      {"special positions, each site",
-       [](Task& t) {
-         auto moved = structure();
-         (void)settle_positions(moved, t);
-       },
-       3},
-      {"a setting, each group up to number 2",
-       [&](Task& t) { EXPECT_EQ(in_program_setting(structure(), groups, t).file_number, 2); }, 2},
-      {"SHELX, each line",
-       [](Task& t) { (void)read_shelx("TITL a\nCELL 0.7 4 5 6 90 90 90\nLATT -1\nSFAC C\nC1 1 0.1 0.2 0.3\n", t); }, 5},
-      {"POSCAR, each atom",
-       [](Task& t) { (void)read_poscar("a\n1\n4 0 0\n0 4 0\n0 0 4\nC\n2\nDirect\n0 0 0\n.5 .5 .5\n", {}, t); }, 2},
-      {"CIF, each site",
-       [](Task& t) {
-         (void)read_cif(
-             "data_a\n_cell_length_a 4\n_cell_length_b 4\n_cell_length_c 4\n_cell_angle_alpha 90\n"
-             "_cell_angle_beta 90\n_cell_angle_gamma 90\n_space_group_symop_operation_xyz x,y,z\nloop_\n"
-             "_atom_site_label\n_atom_site_fract_x\n_atom_site_fract_y\n_atom_site_fract_z\nC1 0 0 0\nC2 .5 .5 .5\n",
-             {}, t);
-       },
-       2},
-  };
-  for (const auto& [name, run, fewest] : rows) {
-    SCOPED_TRACE(name);
-    RecordedTask whole;
-    run(whole);
-    EXPECT_GE(whole.checks, fewest);
-    for (const int at : {1, whole.checks}) {
-      RecordedTask stopped;
-      stopped.cancel_at = at;
-      EXPECT_THROW(run(stopped), Cancelled);
-      EXPECT_EQ(stopped.checks, at);
-    }
+/// @param fewest  checks, counted by hand
+void asks(const char* name, int fewest, const std::function<void(Task&)>& run) {
+  SCOPED_TRACE(name);
+  RecordedTask whole;
+  run(whole);
+  EXPECT_GE(whole.checks, fewest);
+  for (const int at : {1, whole.checks}) {
+    RecordedTask stopped;
+    stopped.cancel_at = at;
+    EXPECT_THROW(run(stopped), Cancelled);
+    EXPECT_EQ(stopped.checks, at);
   }
+}
+
+const CrystalState down_c = crystal();
+constexpr EnumerationSettings full_sphere{{true, true, true}, {}};
+constexpr Radiation electrons{false, true};
+
+TEST(Stopping, OfLists) {
+  const std::vector<SymmetryOperator> two(2);
+  const std::vector<double> keys(2051);
+  auto list = list_in(down_c);
+  for (auto* array : {&list.b, &list.two_theta}) array->allocate(4);
+  asks("images", 6, [&](Task& t) { (void)expand_unit_cell(down_c, {"", "P", two}, t); });
+  asks("rows of -2 to 2", 25, [](Task& t) { (void)enumerate_reflections(down_c, full_sphere, t); });
+  asks("a sort, 1024 rounds", 3, [&](Task& t) { (void)exchange_order(keys, 1, first_smallest_below(9), false, t); });
+  asks("a short sort", 1, [&](Task& t) { sort_list(list, t); });
+  asks("reflections", 4, [&](Task& t) { compute_list(down_c, electrons, list, t); });
+}
+
+TEST(Stopping, OfPatterns) {
+  const auto off_level = crystal({0, 0, 0}, 1);
+  const auto view = gnomonic_view(down_c);
+  const InterferenceGrid grid{{2, 1, 1}, {0.0078125F, 0.0078125F, 0.0078125F}};
+  const CrystalliteSize size{9, 9, 9};
+  const auto pass = [](const Indices<Integer>&) {};
+  asks("h, h k and spots of -4 to 4", 9 + 81 + 80, [](Task& t) { (void)diffraction_spots(down_c, electrons, t); });
+  asks("h of spots off the level", 9, [&](Task& t) { visit_reflections_on_level(off_level, pass, t); });
+  asks("arcs", 4, [](Task& t) { arcs(4, t); });
+  asks("64 points of arcs of a turn and a half", 4 + 4 * 1790 / 64, [](Task& t) { arcs(270, t); });
+  // Before the look 1080 degrees; a ring of 61 pi / 2 pixels has four sectors for each pixel, looked at once or more.
+  asks("looks at a ring", 4 + 4 * (10790 + 750) / 64, [](Task& t) { arcs(721, t); });
+  asks("greys of bands", 4, [&](Task& t) { (void)strongest_in_view(down_c, view, t); });
+  asks("bands", 4, [&](Task& t) { (void)kikuchi_lines(down_c, view, true, t); });
+  asks("27 zones but that of zeros", 26, [](Task& t) { (void)places_in_sweep(down_c, {1, 1, 1}, t); });
+  asks("points 0 to 2 along a", 3, [&](Task& t) { (void)InterferenceTable(grid, size, t); });
+  asks("5 points along a of each reflection", 3 + 20,
+       [&](Task& t) { (void)fill_histogram(down_c, InterferenceTable(grid, size, t), 1250, 5000, t); });
+  asks("64 lines in 16 blocks of samples", 32, [](Task& t) { lines(65, t); });
+}
+
+TEST(Stopping, OfStructures) {
+  const SpaceGroupLibrary groups(file_of);
+  const auto settle = [](Structure moved, Task& t) { (void)settle_positions(moved, t); };
+  const std::string cif =
+      "data_a\n_cell_length_a 4\n_cell_length_b 4\n_cell_length_c 4\n_cell_angle_alpha 90\n_cell_angle_beta 90\n"
+      "_cell_angle_gamma 90\n_space_group_symop_operation_xyz x,y,z\nloop_\n_atom_site_label\n_atom_site_fract_x\n"
+      "_atom_site_fract_y\n_atom_site_fract_z\nC1 0 0 0\nC2 .5 .5 .5\n";
+  const std::string shelx = "TITL a\nCELL 0.7 4 5 6 90 90 90\nLATT -1\nSFAC C\nC1 1 0.1 0.2 0.3\n";
+  const std::string poscar = "a\n1\n4 0 0\n0 4 0\n0 0 4\nC\n2\nDirect\n0 0 0\n.5 .5 .5\n";
+  asks("lines", 3, [](Task& t) { for_each_line("a\nb\nc", t, [](std::string_view) {}); });
+  asks("images in contents", 6, [](Task& t) { (void)cell_contents(structure(), t); });
+  asks("images and sites of distances", 6 + 3, [](Task& t) { (void)shortest_distance(structure(), true, t); });
+  asks("sites on symmetry elements", 3, [&](Task& t) { settle(structure(), t); });
+  asks("groups 1 and 2", 2, [&](Task& t) { (void)in_program_setting(structure(), groups, t); });
+  asks("lines of SHELX", 5, [&](Task& t) { (void)read_shelx(shelx, t); });
+  asks("atoms of a POSCAR", 2, [&](Task& t) { (void)read_poscar(poscar, {}, t); });
+  asks("sites of a CIF", 2, [&](Task& t) { (void)read_cif(cif, {}, t); });
 }
 
 }  // namespace
