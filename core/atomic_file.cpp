@@ -145,7 +145,6 @@ void AtomicFile::prepare_to_replace(const struct stat& old) {
     const int reason = temporary_->reason();
     if (reason == ENOSPC || reason == EDQUOT) fail(reason);
     if (reason == 0 && takes_over(old, target_, temporary_->descriptor())) return;
-    temporary_.reset();
   }
   open_in_place();
 }
@@ -184,7 +183,6 @@ void AtomicFile::commit_temporary() {
   if (const int reason = bring_to_disk(temporary_->descriptor()); reason != 0) fail(reason);
   if (std::rename(temporary_->path().c_str(), target_.c_str()) == 0) {
     temporary_->renamed();
-    temporary_.reset();
   } else if (const int reason = errno; replaces_ && (reason == EACCES || reason == EPERM || reason == EBUSY)) {
     open_in_place();  // the folder lets none but the owner take a name away, or something is mounted on the file
     commit_in_place();

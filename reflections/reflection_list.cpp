@@ -188,10 +188,7 @@ void sort_list(ReflectionList& list, Task& task) {
   for (int i = 0; i <= list.count.value(); ++i) keys.push_back(list.s(i));
   const auto order = exchange_order(keys, 1, first_smallest_below(never_taken), false, task);
   reorder(list.s, order);
-  for (auto* array : {&list.h, &list.k, &list.l}) {
-    task.check();
-    reorder(*array, order);
-  }
+  for (auto* array : {&list.h, &list.k, &list.l}) reorder(*array, order);
 }
 
 void compute_list(const CrystalState& state, const Radiation& radiation, ReflectionList& list, Task& task) {

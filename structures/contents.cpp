@@ -111,7 +111,6 @@ double cell_misfit(const Structure& structure) {
 Formula cell_contents(const Structure& structure, Task& task) {
   Formula contents;
   for (const Site& site : structure.sites) {
-    task.check();
     Structure one = structure;
     one.sites = {site};
     contents[site.element] += site.occupancy * static_cast<double>(cell_atoms(one, settled_angstrom, task).size());

@@ -43,6 +43,7 @@ TEST(TripleTable, HoldsEveryOrderedTriple) {
   const TripleTable table = make_triple_table(state, 4, task);
   ASSERT_EQ(table.upper_row(), 64) << "the fifth reflection is not used";
   EXPECT_EQ(task.steps, (std::vector<std::pair<int, int>>{{1, 4}, {2, 4}, {3, 4}, {4, 4}}));
+  EXPECT_EQ(task.checks, 4);
   EXPECT_EQ(table.TripleAngle(0, 0), 0);
   for (int row = 1; row <= 64; ++row) {
     const std::array places{(row - 1) / 16 + 1, (row - 1) / 4 % 4 + 1, (row - 1) % 4 + 1};
@@ -128,6 +129,7 @@ TEST_F(Matching, OmitsEquivalentsAndStopsForAdjustment) {
   make_table({{1, 0, 0, 9}, {1, 1, 0, 8}, {-1, 1, 1, 7}, {0, 1, 0, 9.008F}, {2, 0, 0, 9}, {0, 1, 0, 9.01F}}, 6);
   const auto row = [](int first) { return ((first - 1) * 6 + (2 - 1)) * 6 + 3; };
   EXPECT_EQ(match(), (std::vector{row(1), row(4), row(5), row(6)}));
+  EXPECT_EQ(task.checks, 1 + 4) << "at the first of 4096 rows, and at each that fits";
   EXPECT_EQ(task.steps.front(), (std::pair{1, 216}));
   EXPECT_EQ(task.steps.back(), (std::pair{216, 216}));
   EXPECT_EQ(solutions.MatchStatus, 0);

@@ -123,8 +123,9 @@ TEST(UtilityArcCos, IsInRadiansButForItsLowerEdge) {
 TEST(DirectionFromLengths, AtItsEdges) {
   const auto equal = direction_from_lengths({3, 15, 3, 15});
   EXPECT_EQ(std::pair(equal.phi.value(), equal.theta), std::pair(-90, 90.0F)) << "every angle fits; the first one wins";
-  const auto none = direction_from_lengths({1, 0, 1000, 0});
+  const auto none = direction_from_lengths({1, 0, 101.5, 0});
   EXPECT_EQ(std::pair(none.phi.value(), none.theta), std::pair(90, 0.0F)) << "nothing comes within 100: it stays 0";
+  EXPECT_EQ(direction_from_lengths({1, 0, 100.5, 0}).theta, 90);
   EXPECT_TRUE(fails_with("length_1 is 0", [] { (void)direction_from_lengths({}); }));
 }
 

@@ -90,10 +90,23 @@ TEST_P(CanvasLayers, AreStoredImageAndOverlay) {
   EXPECT_EQ(canvas.stored_image().pixel(30, 30), red) << "the scale outlives the clear";
 }
 
+TEST(CanvasWithoutPixels, DrawsAndTellsWhatItLacks) {
+  struct : FakeServices {
+    std::unique_ptr<Surface> make_surface(int, int) override { return nullptr; }
+  } services;
+  Window window{"Sample", "a sample"};
+  Canvas canvas{window, services, "Picture1", 1500, 1500};
+  canvas.line(1, 2, 3, 4);
+  canvas.clear();
+  EXPECT_EQ(failure_of([&] { (void)canvas.point(1, 1); }), "the picture Sample.Picture1 has no pixels here");
+  EXPECT_EQ(failure_of([&] { canvas.load_picture("x"); }), "can't load x: there are no pixel images here");
+}
+
 TEST_F(CanvasTest, KeepsItsBackgroundPictureUnderTheDrawing) {
   canvas.scale(0, 0, 100, 100);
+  canvas.set_point(1, 1, red);
   canvas.load_picture("four.bmp");
-  EXPECT_EQ(canvas.point(99, 99), 103) << "scaled to fill";
+  EXPECT_TRUE(canvas.point(99, 99) == 103 && canvas.point(1, 1) == 100) << "scaled to fill, over what was drawn";
   canvas.set_point(0, 0, red);
   canvas.clear();
   EXPECT_EQ(canvas.point(0, 0), 100);

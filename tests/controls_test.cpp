@@ -7,6 +7,7 @@
 #include "shell/services/ruler.h"
 #include "shell/services/window_services.h"
 #include "tests/fake_services.h"
+#include "tests/focus_view.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -80,6 +81,17 @@ TEST_F(Controls, ListsAndGridsKeepToTheirItems) {
   EXPECT_EQ(failure_of([&] { form.G.set_row(4); }), "row 4 of the table Sample.G is outside 0 to 3");
   EXPECT_THROW(form.G.set_column(3), RunFailure);
   EXPECT_EQ(form.G.text(), "x") << "a failure moves nothing";
+}
+
+TEST(WindowSet, ComesUpOnlyWhereItWasHidden) {
+  SampleForm form;
+  FocusView view;
+  form.set_view(&view);
+  const auto hidden = form.copy();
+  form.show();
+  const auto shown = form.copy();
+  for (const auto* copy : {&shown, &hidden, &hidden, &shown}) form.put_back(*copy);
+  EXPECT_EQ(view.shown, 1 + 1);
 }
 
 TEST(WindowSet, CreatesAtFirstUseAndUnloads) {

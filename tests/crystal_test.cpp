@@ -41,6 +41,7 @@ TEST(Records, NumbersTakeWhatAFieldStartsWith) {
 TEST(Records, WhenBrokenAreToldWithFileLineAndField) {
   for (const auto& [text, message] :
        {std::pair{"", "line 1: the file ends where the label is expected"},
+        {"a", "line 1: the file ends where x is expected"},
         {"a\r\n1\r\n\r\n", "line 3: the file ends where the count is expected"},
         {"a\nb,2", "line 2: x is \"b\", a number is expected"},
         {"a,1\n\n\nq", "line 2: the count is \"\", a whole number is expected"},

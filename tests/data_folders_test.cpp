@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "shell/program/program.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -24,6 +25,8 @@ TEST(DataFolders, AreTakenFromTheFirstPlaceThatHasThem) {
   folder.write("home/data/ZOLDATA/NaCl.cry", "mine");
   EXPECT_EQ(find_data_root(places).crystal_folder, folder.path("home/data/ZOLDATA"));
   EXPECT_EQ(folder.read("home/data/ZOLDATA/NaCl.cry"), "mine") << "later starts leave it alone";
+  places.installed_data = folder.path("moved away");
+  EXPECT_EQ(find_data_root(places).root, folder.path("home/data/ZOL")) << "the copy outlives the installation";
   places.installed_data = places.user_data;
   EXPECT_EQ(find_data_root(places).root, folder.path("home/data/ZOL")) << "an installation into the user's own folders";
   EXPECT_EQ(folder.read("home/data/ZOLDATA/NaCl.cry"), "mine");
@@ -58,6 +61,19 @@ TEST(DataFolders, AreTheInstalledOnesWhereNoCopyCanBeMade) {
   fs::create_directories(folder.path("home/zol/copied-version"));
   EXPECT_EQ(find_data_root(places).root, folder.path("home/zol/ZOL")) << "a copy that can't be renewed still serves";
   EXPECT_NE(find_data_root(places).read_only.find("it is a folder"), std::string::npos);
+}
+
+TEST(DataFolders, LieBesideTheProgramAndWithTheUser) {
+  const ScratchFolder home;
+  for (const auto* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"})
+    setenv(variable, home.path(variable).c_str(), 1);  // NOLINT(concurrency-mt-unsafe)
+  const auto places = data_places();
+  const fs::path folder = fs::read_symlink("/proc/self/exe").parent_path();
+  EXPECT_EQ(places.beside_executable, folder / "zol.conf");
+  EXPECT_EQ(places.installed_data, folder.parent_path() / "share/zol");
+  EXPECT_EQ(places.installed_version, program_version);
+  EXPECT_EQ(places.user_settings, home.path("XDG_CONFIG_HOME/zol/zol.conf"));
+  EXPECT_EQ(places.user_data, home.path("XDG_DATA_HOME/zol"));
 }
 
 TEST(DataFolders, SettingsNameTheLineThatIsWrong) {

@@ -40,7 +40,11 @@ constexpr Kind kinds[] = {
     [](int i, int, std::mt19937&) { return static_cast<Single>(i) * 0.25F; },
     [](int i, int n, std::mt19937&) { return static_cast<Single>(n - i) * 0.25F; },
     [](int, int, std::mt19937& random) { return few(random) > 2 ? 0.0F : -1.0F; },  // nothing positive
-    [](int, int, std::mt19937&) { return 20000.0F; },                               // nothing below most bounds
+    [](int, int, std::mt19937& random) {                                            // at the bounds
+      constexpr std::array bounds{1000.0F, 10000.0F, 1e6F};
+      return bounds[static_cast<std::size_t>(few(random)) % 3] + few(random) * 0.5F - 1;
+    },
+    [](int, int, std::mt19937&) { return 20000.0F; },  // nothing below most bounds
     [](int, int, std::mt19937& random) { return std::uniform_real_distribution<Single>(0, 50)(random); }};
 
 class SortedLists : public testing::TestWithParam<ListSort> {};

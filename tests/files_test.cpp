@@ -5,12 +5,27 @@
 #include <sys/xattr.h>
 
 #include <array>
+#include <cerrno>
+#include <cstring>
 #include <filesystem>
+#include <optional>
+#include <tuple>
 
 #include "core/atomic_file.h"
 #include "core/read_file.h"
 #include "core/record_writer.h"
 #include "tests/test_files.h"
+
+namespace {
+int refusal = 0;  ///< why no new file can be made beside another, as a value of errno
+}
+
+/// In place of the one of the system.
+extern "C" int mkostemp(char* name, int flags) {
+  if (refusal == 0) return mkostemps(name, 0, flags);
+  errno = refusal;
+  return -1;
+}
 
 namespace zol {
 namespace {
@@ -31,11 +46,13 @@ void save(const std::string& path, const std::string& text) {
   file.commit();
 }
 
-uid_t owner_of(const std::string& path) {
+struct stat status_of(const std::string& path) {
   struct stat file {};
   EXPECT_EQ(stat(path.c_str(), &file), 0);
-  return file.st_uid;
+  return file;
 }
+
+uid_t owner_of(const std::string& path) { return status_of(path).st_uid; }
 
 TEST(AtomicFiles, LeaveTheOldFileUnlessCommitted) {
   const ScratchFolder folder;
@@ -58,7 +75,9 @@ TEST(AtomicFiles, KeepLinksPermissionsAndAttributes) {
   folder.write("real", "old");
   const auto permissions = fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read;
   fs::permissions(folder.path("real"), permissions);
-  const bool attributes = setxattr(folder.path("real").c_str(), "user.note", "x", 1, 0) == 0;  // not on all disks
+  const bool attributes = setxattr(folder.path("real").c_str(), "user.note", "x", 1, 0) == 0 &&  // not on all disks
+                          setxattr(folder.path("real").c_str(), "user.other", "yy", 2, 0) == 0;
+  const auto old_file = status_of(folder.path("real")).st_ino;
   fs::create_directory(folder.path("other"));
   fs::create_symlink("../real", folder.path("other/link"));
   fs::create_symlink("other/link", folder.path("link"));
@@ -67,6 +86,8 @@ TEST(AtomicFiles, KeepLinksPermissionsAndAttributes) {
   EXPECT_TRUE(fs::is_symlink(folder.path("link")) && fs::is_symlink(folder.path("other/link")));
   EXPECT_EQ(fs::status(folder.path("real")).permissions(), permissions);
   EXPECT_EQ(getxattr(folder.path("real").c_str(), "user.note", nullptr, 0), attributes ? 1 : -1);
+  EXPECT_EQ(getxattr(folder.path("real").c_str(), "user.other", nullptr, 0), attributes ? 2 : -1);
+  EXPECT_NE(status_of(folder.path("real")).st_ino, old_file) << "a new file, so that the old one is there to the last";
 
   fs::create_symlink("../not-yet", folder.path("other/dangling"));
   save(folder.path("other/dangling"), "made");
@@ -85,7 +106,10 @@ TEST(AtomicFiles, AreWrittenInPlaceWhereNoneCanBeMadeBeside) {
   const auto set_mode = [&](const char* name, int mode) {
     ASSERT_EQ(chmod(folder.path(name).c_str(), static_cast<mode_t>(mode)), 0);
   };
-  for (const auto* name : {"shared/open", "shared/closed", "shared/protected"}) folder.write(name, "old");
+  for (const auto* name : {"shared/open", "shared/closed", "shared/mine", "shared/protected"})
+    folder.write(name, "old");
+  ASSERT_TRUE(getuid() != 0 || chown(folder.path("shared/mine").c_str(), somebody, somebody) == 0);
+  set_mode("shared/mine", 0464);
   set_mode("shared/open", 0646);
   set_mode("shared/protected", 0404);
   EXPECT_TRUE(fails_with("write-protected", [&] { AtomicFile(folder.path("shared/protected")); }));
@@ -101,10 +125,40 @@ TEST(AtomicFiles, AreWrittenInPlaceWhereNoneCanBeMadeBeside) {
     set_mode("shared", folder_mode);
     const AsSomebody user;
     save(folder.path("shared/open"), "by somebody");
-    EXPECT_TRUE(fails_with("denied", [&] { AtomicFile(folder.path("shared/closed")); }));
+    for (const auto* name : {"shared/closed", "shared/mine"}) {
+      EXPECT_TRUE(fails_with("denied", [&] { AtomicFile(folder.path(name)); }));
+    }
   }
   EXPECT_EQ(folder.read("shared/open"), "by somebody");
   EXPECT_EQ(owner_of(folder.path("shared/open")), getuid());
+
+  set_mode("shared/mine", 0644);
+  std::optional<AtomicFile> file;
+  for (const auto folder_mode : {0777, 0555}) {  // protected between the begin of a save and its end
+    set_mode("shared", folder_mode);
+    const AsSomebody user;
+    if (file) file->commit();
+    if (!file) file.emplace(folder.path("shared/mine")).write("new");
+  }
+  EXPECT_EQ(folder.read("shared/mine"), "new");
+  set_mode("shared", 0777);
+}
+
+TEST(AtomicFiles, AreNotWrittenInPlaceOnAFullDisk) {
+  const ScratchFolder folder;
+  const std::string path = folder.write("file", "old");
+  for (const auto& [reason, words, left] :
+       {std::tuple{ENOSPC, "No space", "old"}, {EDQUOT, "quota", "old"}, {EMFILE, "", "new"}}) {
+    refusal = reason;
+    if (reason == EMFILE) {
+      save(path, "new");
+    } else {
+      EXPECT_TRUE(fails_with(words, [&] { save(path, "new"); }));
+    }
+    EXPECT_TRUE(fails_with(std::strerror(reason), [&] { save(folder.path("none"), "new"); }));
+    refusal = 0;
+    EXPECT_EQ(folder.read("file"), left);
+  }
 }
 
 TEST(AtomicFiles, GoToPipesAndDevices) {

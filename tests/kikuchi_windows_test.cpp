@@ -86,6 +86,7 @@ TEST_F(KikuchiWindows, OpenAndClose) {
   form().Check2.set_value(1);
   form().Command8.click();
   EXPECT_TRUE(program.windows().find("Zaxis")->visible());
+  EXPECT_EQ(program.windows().use<ZaxisForm>().Picture1.font_size(), 8);
   auto& camera = program.windows().use<CameraParametersForm>();
   services.answers = {folder.path("camera")};
   camera.Text7.set_text("70");

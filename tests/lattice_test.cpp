@@ -141,6 +141,9 @@ TEST(ImpossibleCell, LeavesTheReciprocalCellAsItWas) {
   state.CellAlpha = state.CellBeta = state.CellGamma = 125;
   EXPECT_FALSE(calc_cell(state));
   EXPECT_NEAR(state.CosAlpha, -0.573576, 2e-6);
+  state.CellAlpha = state.CellBeta = 60.00005F;  // a cosine of just 0.5; with one of 1 they lie in a plane
+  state.CellGamma = 0.001F;
+  EXPECT_FALSE(calc_cell(state));
   EXPECT_EQ(state.AStar, a_star);
   EXPECT_NEAR(state.CellVolume, 120, 1e-3);
 }

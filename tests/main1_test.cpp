@@ -32,6 +32,7 @@ class Main1Test : public testing::Test {
 // Opening a structure never ends the run: a failure of the calculation behind it leaves everything as it was, too.
 TEST_F(Main1Test, StructuresAreSavedAndOpenedOrRefused) {
   services.answers = {folder.path("salt")};
+  state.AtomElement(1) = "Na1+";
   form().ExportStructure.click();
   services.answers = {folder.path("salt.cif")};
   form().Text1.set_text("9");
@@ -58,7 +59,7 @@ TEST_F(Main1Test, StructuresAreSavedAndOpenedOrRefused) {
   services.answers = {ZOL_SOURCE_DIR "/examples/cif/quartz.cif"};
   form().ImportStructure.click();
   EXPECT_EQ(state.CellA, 5.6402F);
-  EXPECT_EQ(state.AtomElement(1), "Na");
+  EXPECT_EQ(state.AtomElement(1), "Na1+");
   EXPECT_EQ(form().Label16.caption(), "Fm3m");
   EXPECT_TRUE(services.messages.back().starts_with("quartz.cif: ")) << services.messages.back();
 }
@@ -91,6 +92,39 @@ TEST_F(Main1Test, EnterMovesOnInTheWindowsOfNumbers) {
     }
     EXPECT_EQ(view.wanted, boxes) << window;
     shown.set_view(nullptr);
+  }
+}
+
+TEST_F(Main1Test, ButtonsAnswer) {
+  form().Command6.click();
+  for (const auto& [owner, button, opened] : {std::array{"MAIN_MENU", "Command1", "Main1"},
+                                              {"MAIN_MENU", "Command2", "Pattern2"},
+                                              {"MAIN_MENU", "Command3", "PATTERN3"},
+                                              {"MAIN_MENU", "Camera_parameters", "CameraParameters"},
+                                              {"MAIN_MENU", "Show_Utility", "Utility"},
+                                              {"Main1", "Command1", "InputAtom"},
+                                              {"Main1", "Command7", "Xd"},
+                                              {"Main1", "Command8", "Dring"},
+                                              {"Main1", "Command9", "Pattern"},
+                                              {"Main1", "Command10", "Pattern2"},
+                                              {"Main1", "Command11", "AtomDistance"},
+                                              {"Main1", "Command12", "FiberTexture"},
+                                              {"Main1", "Command13", "PATTERN3"},
+                                              {"Main1", "Command15", "InputJCPDS"},
+                                              {"Main1", "Show_utility", "Utility"}}) {
+    program.windows().use(opened).hide();
+    Control* control = program.windows().use(owner).find(button);
+    if (auto* item = dynamic_cast<MenuItem*>(control)) item->click();
+    if (auto* command = dynamic_cast<CommandButton*>(control)) command->click();
+    EXPECT_TRUE(program.windows().use(opened).visible()) << owner << '.' << button;
+  }
+  for (const auto& name : program.windows().names()) {
+    for (const Control* control : program.windows().use(name).controls()) {
+      const auto* command = dynamic_cast<const CommandButton*>(control);
+      const auto* item = dynamic_cast<const MenuItem*>(control);
+      if ((command != nullptr && !command->on_click) || (item != nullptr && !item->on_click))
+        ADD_FAILURE() << control->path() << " does nothing";
+    }
   }
 }
 

@@ -150,10 +150,12 @@ TEST_F(Pattern3Test, LoadedPictureIsTakenOverUpsideDown) {
   EXPECT_EQ(pattern2.Picture1.stored_image().pixel(0, 0), 102) << "lower left of the four, without the line";
 
   form().markers.SiMarkX1 = 100;
+  form().List1.add_item("of the other view");
   form().ImageFlip.click();
   EXPECT_EQ(pixel(0, 0), 102);
   EXPECT_EQ(form().lines.LineDone(0), 0) << "the lines belonged to the other view";
   EXPECT_EQ(form().markers.SiMarkX1, 0);
+  EXPECT_EQ(form().List1.list_count(), 0);
   form().ImageMirror.click();
   EXPECT_EQ(pixel(0, 0), 103);
   form().Imageclear.click();

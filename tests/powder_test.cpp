@@ -116,6 +116,8 @@ TEST(Histogram, FailsBeyondItsBinsAndOnAnImpossibleMetric) {
   auto state = listed(cubic_cell(4), {{5, 0, 0, 1}});  // 1.25 / angstrom, bin 6250
   EXPECT_EQ(failure_of([&] { (void)histogram(state, {10000, 10000, 10000}); }).substr(0, 18), "index 6248 of Bins");
   EXPECT_GT(histogram(state, {10000, 10000, 10000}, 10000)(6250), 0) << "rings have room for it";
+  auto far = listed(cubic_cell(0.01F), {{10000, 0, 0, 1}});  // a million / angstrom, 5000 bins each
+  EXPECT_TRUE(fails_with("does not fit a Long", [&] { (void)histogram(far, {10000, 10000, 10000}); }));
   state.RefK(1) = 5;
   state.CosGammaStar = -3;
   EXPECT_EQ(failure_of([&] { (void)histogram(state, {10000, 10000, 10000}); }).substr(0, 11), "square root");

@@ -37,12 +37,14 @@ TEST_F(PowderWindows, XdDrawsOverWhatIsThereUntilCleared) {
   }
   view.pointers.clear();
   view.bars.clear();
+  view.ranges.clear();
   form.Command1.click();
   EXPECT_EQ(drawn<DrawnLine>(form.Picture1).size(), 2000U);
   EXPECT_EQ(view.pointers, (std::vector{MousePointer::Hourglass, MousePointer::Default}));
   EXPECT_EQ(std::count(view.bars.begin(), view.bars.end(), 168), 2) << "the last reflection, then the new range";
   EXPECT_GT(view.bars.size(), 168U + 10U);
   EXPECT_EQ(view.bars.back(), 1000);
+  EXPECT_EQ(view.ranges, (std::vector<std::pair<Single, Single>>{{1, 168}, {0, 1000}}));
   form.Command2.click();
   form.Command6.click();
   EXPECT_EQ(drawn<DrawnLine>(form.Picture1).size(), 1000U) << "the old pattern";
@@ -58,8 +60,10 @@ TEST_F(PowderWindows, DringDrawsRingsAsItsChecksSay) {
   EXPECT_EQ(form.Picture1.mouse_pointer(), MousePointer::CrossHair);
   EXPECT_EQ(form.Picture2.mouse_pointer(), MousePointer::CrossHair);
   view.pointers.clear();
+  view.ranges.clear();
   form.Command1.click();
   EXPECT_EQ(view.pointers, (std::vector{MousePointer::Hourglass, MousePointer::Default}));
+  EXPECT_EQ(view.ranges, (std::vector<std::pair<Single, Single>>{{0, 168}, {0, 1000}}));
   const auto lines = drawn<DrawnLine>(form.Picture1);
   ASSERT_EQ(lines.size(), 2000U) << "the same text clears nothing";
   EXPECT_EQ(form.Picture1.user_scale(), (UserScale{0, 1.01, 1, -0.01}));
@@ -94,15 +98,17 @@ TEST_F(PowderWindows, DringDrawsRingsAsItsChecksSay) {
 // The real program, whose pictures have pixels. An ending is added where the name has none.
 TEST(PatternFiles, OfAllWindowsAreWritten) {
   const ScratchFolder folder;
-  folder.write("a.zs",
-               "set Main1.Text15 2.5\nanswer \"" ZOL_SOURCE_DIR
-               "/data/ZOLDATA/NaCl.cry\"\nclick Main1.DATA_LOAD\n"
-               "click Main1.Command7\nanswer x\nclick Xd.Command4\ncancel\nclick Xd.Command4\ncancel\n"
-               "click Xd.Command3\nanswer x\nclick Xd.Command3\nset Xd.Text4 20\nanswer x.txt\nclick Xd.Command3\n"
-               "click Main1.Command8\nanswer rings.Bmp\nclick Dring.Command3\ncancel\nclick Dring.Command3\n"
-               "answer rings\nclick Dring.Command4\ncancel\nclick Dring.Command4\n"
-               "answer spots\nclick Pattern.ISAVE\ncancel\nclick Pattern.ISAVE\n"
-               "answer fiber.bmp\nclick FiberTexture.Isave\n");
+  folder.write(
+      "a.zs",
+      "set Main1.Text15 2.5\nanswer \"" ZOL_SOURCE_DIR
+      "/data/ZOLDATA/NaCl.cry\"\nclick Main1.DATA_LOAD\n"
+      "click Main1.Command7\nanswer x\nclick Xd.Command4\nanswer x.pic\nclick Xd.Command4\ncancel\nclick "
+      "Xd.Command4\ncancel\n"
+      "click Xd.Command3\nanswer x\nclick Xd.Command3\nset Xd.Text4 20\nanswer x.txt\nclick Xd.Command3\n"
+      "click Main1.Command8\nanswer rings.Bmp\nclick Dring.Command3\ncancel\nclick Dring.Command3\n"
+      "answer rings\nclick Dring.Command4\nanswer rings.txt\nclick Dring.Command4\ncancel\nclick Dring.Command4\n"
+      "answer spots\nclick Pattern.ISAVE\ncancel\nclick Pattern.ISAVE\n"
+      "answer fiber.bmp\nclick FiberTexture.Isave\n");
   const std::string command = "cd " + folder.path("") + " && " ZOL_SCRIPT " a.zs >out 2>&1";
   ASSERT_EQ(std::system(command.c_str()), 0) << folder.read("out");  // NOLINT(cert-env33-c,concurrency-mt-unsafe)
   struct Row {
@@ -110,6 +116,7 @@ TEST(PatternFiles, OfAllWindowsAreWritten) {
     int width_px, height_px;
   };
   for (const auto& [name, width, height] : {Row{"x.BMP", 800, 560},
+                                            {"x.pic", 800, 560},
                                             {"rings.Bmp", 560, 560},
                                             {"spots.bmp", 567, 567},
                                             {".bmp", 567, 567},  // cancelled
@@ -126,7 +133,8 @@ TEST(PatternFiles, OfAllWindowsAreWritten) {
   EXPECT_NE(folder.read("x.txt").find("\"Gratio\",20\r\n"), std::string::npos) << "the field as it stands";
   EXPECT_EQ(folder.read("x.txt").substr(200), pattern.substr(200)) << "with the old curve";
   EXPECT_TRUE(folder.read("rings.EDP").starts_with("0,0\r\n.0004"));
-  EXPECT_EQ(folder.entries(), 10U) << "nothing else for a cancelled dialog";
+  EXPECT_EQ(folder.read("rings.EDP"), folder.read("rings.txt"));
+  EXPECT_EQ(folder.entries(), 12U) << "nothing else for a cancelled dialog";
 }
 
 }  // namespace

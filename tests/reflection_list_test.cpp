@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "core/available_memory.h"
 #include "reflections/equivalents.h"
 #include "tests/crystals.h"
 #include "tests/lists.h"
@@ -187,6 +188,12 @@ TEST(Enumeration, FailsWithoutACellAndBeyond16Bits) {
             "degrees)");
   auto fine = cubic("P", 1e-5F);
   EXPECT_TRUE(fails_with("does not fit an Integer", [&] { enumerate_reflections(fine, {}); }));
+  fine.Dmin = 0.014F;  // 571 to each side, 32 bytes each: 48 GB, of which an array takes 3 or 6
+  if (available_memory().value_or(0) < 40ULL << 30U) {
+    EXPECT_TRUE(fails_with("not enough memory for a list of up to 1493271168 reflections: it takes 45571 MB", [&] {
+      enumerate_reflections(fine, {{true, true, true}, {}});
+    }));
+  }
   struct Row {
     char letter;
     std::array<int, 3> hkl;
@@ -194,7 +201,8 @@ TEST(Enumeration, FailsWithoutACellAndBeyond16Bits) {
   };
   for (const auto& row : {Row{'A', {0, 30000, 30000}, "60000"}, Row{'B', {30000, 0, 30000}, "60000"},
                           Row{'C', {30000, 30000, 0}, "60000"}, Row{'I', {20000, 10000, 5000}, "35000"},
-                          Row{'F', {1, 20000, 20000}, "40000"}, Row{'R', {-32768, 0, 0}, "32768"},
+                          Row{'F', {1, 20000, 20000}, "40000"}, Row{'F', {20000, 20000, 0}, "40000"},
+                          Row{'F', {20000, 1, 20000}, "40000"}, Row{'R', {-32768, 0, 0}, "32768"},
                           Row{'P', {30000, -30000, 0}, "60000"}}) {  // its sum is the difference in (h - k) mod 3
     auto cell = cubic("P", 1);
     cell.LatticeLetter = row.letter;
@@ -233,6 +241,8 @@ TEST(List, LeavesOutAnglesThatDoNotExist) {
   EXPECT_EQ(state.RefTwoTheta(10), 0);
   state.WaveLength = 0;
   EXPECT_EQ(compute_list(state, {true, false}).front().substr(0, 37), "   0   0   1   0.125   4.0000        ");
+  state.RefS(1) = 0.0004F;
+  EXPECT_EQ(compute_list(state, {true, false}).front().substr(0, 37), "   0   0   1   0.0001250.0000        ");
 }
 
 }  // namespace

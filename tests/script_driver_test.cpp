@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 #include <sys/wait.h>
 
+#include <array>
 #include <cstdlib>
 #include <filesystem>
+#include <regex>
+#include <set>
 #include <sstream>
 
 #include "core/read_file.h"
@@ -85,6 +88,47 @@ TEST(Script, TellsWhatIsWrongWithItsLine) {
     EXPECT_EQ(result.error, error);
     EXPECT_EQ(result.output, "before\n") << "what was printed stays, and nothing follows: " << script;
   }
+}
+
+TEST(Script, TakesTheWordsThatTheGuideTells) {
+  std::istringstream guide(read_file(ZOL_SOURCE_DIR "/docs/scripting.md"));
+  const std::regex form("`([a-z]+)((?: [A-Z.]+)*)`");
+  std::set<std::string> names;
+  for (std::string line; std::getline(guide, line);) {
+    if (!line.starts_with("| `")) continue;
+    for (std::smatch found; std::regex_search(line, found, form); line = found.suffix()) {
+      names.insert(found[1]);
+      const std::string words = found[2];
+      const auto count = std::count(words.begin(), words.end(), ' ');
+      for (const auto wrong : {count - 1, count + 1}) {
+        if (wrong < 0 || words == " WORDS") continue;
+        std::string script = found[1];
+        for (int i = 0; i < wrong; ++i) script += " x";
+        EXPECT_TRUE(run(script).error.starts_with("line 1: the form is: " + found[1].str())) << script;
+      }
+    }
+  }
+  EXPECT_EQ(names.size(), 21U);
+}
+
+// What scripts of users may print and call, by given names.
+TEST(Script, ReachesAllPublicNames) {
+  std::ostringstream output;
+  ScriptServices services(output, nullptr);
+  Program program({ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services);
+  const auto list = [&output](const std::string& owner, const NamedValues& values) {
+    for (const auto& name : values.names()) {
+      output << "print " << owner << '.' << name
+             << std::array{"", "(i)", "(i,j)"}.at(std::size_t(values.dimensions(name))) << '\n';
+    }
+  };
+  list("Module1", program.module1());
+  for (const auto& name : program.windows().names()) {
+    Window& window = program.windows().use(name);
+    list(name, window.fields());
+    for (const auto& operation : window.operation_names()) output << "call " << name << '.' << operation << '\n';
+  }
+  EXPECT_EQ(output.str(), read_file(ZOL_SOURCE_DIR "/tests/public_names.txt"));
 }
 
 // Å is one byte in a box and in a file, and two where the script meets them.

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -77,6 +78,20 @@ TEST(SpotPattern, FailsOnASpotBesideTheAxisBelow) {
   EXPECT_NE(message.find("square root of a negative number"), std::string::npos) << message;
   state.Level = 50;
   EXPECT_FALSE(diffraction_spots(state, electrons, quiet).spots.empty()) << "above, the cosine comes out below 1";
+}
+
+TEST(SpotPattern, EndsShortOfTheEdges) {
+  auto state = lattice(4, "P", 1, {0, 0, 1});
+  for (const auto& spot : diffraction_spots(state, electrons, quiet).spots) {
+    if (spot.h != spot.k && spot.h != -spot.k) continue;  // limits of the indices come first
+    const Single reach = std::max(std::abs(spot.x), std::abs(spot.y));
+    const auto has_spot = [&](Single half_width) {
+      state.CamAcquisition = half_width;
+      const auto found = diffraction_spots(state, electrons, quiet).spots;
+      return std::find(found.begin(), found.end(), spot) != found.end();
+    };
+    EXPECT_TRUE(has_spot(std::nextafter(reach, 2.0F)) && !has_spot(reach)) << spot.x << ' ' << spot.y;
+  }
 }
 
 TEST(SpotGrey, FollowsThePower) {

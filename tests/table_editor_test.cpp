@@ -29,6 +29,7 @@ TEST(TableEditor, HasTwoHundredRows) {
   EXPECT_EQ(grid.row(), 200) << "nothing follows the last row";
   EXPECT_EQ(failure_of([&] { grid.press_key(key_enter); }),
             "row 201 of the table InputAtom.G is outside 0 to 200, while a key was pressed in InputAtom.G");
+  EXPECT_EQ(grid.press_key(key_backspace), 0) << "nothing else takes it";
   form.Command2.click();
   program.state().NAtom = 200;
   EXPECT_NE(failure_of([&] { program.windows().use<InputAtomForm>(); }).find("row 201 of the table InputAtom.G"),

@@ -122,7 +122,11 @@ class WindowCopies : public testing::Test {
     if (auto* canvas = dynamic_cast<Canvas*>(&control)) {
       canvas->set_width(300);
       canvas->set_fore_colour(colours::red);
+      if (control.window().name() == "PATTERN3") canvas->load_picture("four.bmp");
       canvas->line(1, 2, 3, 4);
+      canvas->set_persistent(false);
+      canvas->clear();  // what is stored goes off the list
+      canvas->set_mouse_pointer(MousePointer::Hourglass);
     }
   }
 
@@ -135,16 +139,22 @@ class WindowCopies : public testing::Test {
       }
     }
     for (const auto& name : program.windows().names()) {
-      for (Control* control : program.windows().find(name)->controls()) change_what_no_user_does(*control);
+      Window& window = *program.windows().find(name);
+      for (Control* control : window.controls()) change_what_no_user_does(*control);
+      window.set_caption("another");
+      window.set_mouse_pointer(MousePointer::CrossHair);
     }
   }
 
-  std::map<std::string, Drawing> drawings() {
-    std::map<std::string, Drawing> all;
+  using Picture = std::tuple<Drawing, bool, bool, MousePointer>;
+  std::map<std::string, Picture> drawings() {
+    std::map<std::string, Picture> all;
     for (const auto& [name, copy] : program.windows().copies()) {
       for (const Control* control : program.windows().find(name)->controls()) {
         const auto* canvas = dynamic_cast<const Canvas*>(control);
-        if (canvas != nullptr) all.emplace(canvas->path(), canvas->contents().drawing);
+        if (canvas == nullptr) continue;
+        const auto held = canvas->contents();
+        all.emplace(canvas->path(), Picture(held.drawing, canvas->has_picture(), held.raster_base, held.mouse_pointer));
       }
     }
     return all;
@@ -159,7 +169,7 @@ TEST_F(WindowCopies, PutEverythingBack) {
   program.windows().unload("InputAtom");
   const auto before = everything();
   const auto pictures = drawings();
-  EXPECT_GT(pictures.at("Pattern2.Picture1").list.size(), 10U);
+  EXPECT_GT(std::get<Drawing>(pictures.at("Pattern2.Picture1")).list.size(), 10U);
   const auto windows = program.windows().copies();
   const auto module1 = program.module1().copies();
 
@@ -186,9 +196,22 @@ constexpr std::pair<const char*, int> long_events[]{
     {"Dring.Command6", 100},    {"Pattern.Command2", 100},   {"FiberTexture.Command8", 400},
     {"Pattern2.Command4", 400}, {"Pattern2.Command16", 200}, {"Zaxis.Text1", 90},
     {"Zaxis.Check2", 40},       {"PATTERN3.Text2", 5},       {"PATTERN3.Command1", 2},
-    {"PATTERN3.Command4", 512}, {"PATTERN3.Command15", 200}, {"AtomDistance.Command1", 6},
+    {"PATTERN3.Command4", 512}, {"PATTERN3.Command15", 243}, {"AtomDistance.Command1", 54},
     {"Utility.Command1", 90},
 };
+
+TEST_F(WindowCopies, AreTheSameAfterAnyKeyButEnter) {
+  const auto before = everything();
+  const auto pictures = drawings();
+  for (const auto& name : program.windows().names()) {
+    for (Control* control : program.windows().use(name).controls()) {
+      auto* box = dynamic_cast<TextBox*>(control);
+      if (box == nullptr) continue;
+      EXPECT_EQ(box->press_key('7'), '7');
+      EXPECT_TRUE(everything() == before && drawings() == pictures) << box->path();
+    }
+  }
+}
 
 TEST_F(WindowCopies, AreWhatAStoppedEventLeaves) {
   EventGate gate([] {}, [](const std::exception_ptr& failure) { FAIL() << failure_text(failure); });

@@ -55,7 +55,8 @@ TEST(NewReference, LiesInThePlaneOfTheNewAxis) {
   using Two = std::pair<Indices<Integer>, Indices<Integer>>;
   for (const auto& [axis, reflection] :
        {Two{{1, 2, 3}, {3, 3, -3}}, Two{{1, 1, 0}, {0, 0, -2}}, Two{{1, -1, 0}, {0, 0, 0}},
-        Two{{1000, 999, 500}, {500, 500, -1000}}, Two{{-1000, -999, 5}, {5, 5, 1000}}}) {
+        Two{{1, 1, 2000}, {1000, 1000, -2}}, Two{{1000, 999, 500}, {500, 500, -1000}},
+        Two{{-1000, -999, 5}, {5, 5, 1000}}}) {
     EXPECT_EQ(new_reference(state, axis).reflection, reflection);
   }
   EXPECT_FALSE(new_reference(state, {1, -1, 0}).turn_degrees) << "a zero reference keeps the turn as it was";

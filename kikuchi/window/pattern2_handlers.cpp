@@ -79,7 +79,6 @@ void mark_angles(const CrystalState& state, Pattern2Form& form) {
   const double distance = std::tan(program_pi / 2 - state.TiltTheta);
   const Single x = to_single(distance * std::cos(double{state.TiltPhi}));
   const Single y = to_single(distance * std::sin(double{state.TiltPhi}));
-  form.Picture1.set_solid_fill(true);
   form.Picture1.set_fill_colour(red);
   form.Picture1.circle(x, y, std::atan(Val(form.Text1.text()) * degree) * 0.01, red);
 }

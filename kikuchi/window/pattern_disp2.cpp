@@ -101,7 +101,6 @@ void draw_grid(Canvas& picture, const GnomonicView& view) {
 
 void draw_marks(const CrystalState& state, Pattern2Form& form, const GnomonicView& view) {
   Canvas& picture = form.Picture1;
-  picture.set_solid_fill(true);
   if (form.Check5.checked()) draw_disc(picture, 0, 0, view.reach * mark_size, blue);
   if (form.Check6.checked()) draw_disc(picture, 0, std::tan(state.CamNormal * degree), view.reach * mark_size, blue);
   if (!form.Text9.text().empty()) {
@@ -110,7 +109,6 @@ void draw_marks(const CrystalState& state, Pattern2Form& form, const GnomonicVie
     picture.set_solid_fill(true);
   }
   if (form.Check1.checked()) draw_grid(picture, view);
-  picture.set_solid_fill(true);
 }
 
 void take_reference(CrystalState& state) {

@@ -16,10 +16,9 @@ namespace {
 constexpr std::string_view star_edge_pattern = "##0.####";
 constexpr std::string_view star_angle_pattern = "####.###";
 
-/// Asks for Dmin until the box holds a positive number.
+/// Asks for Dmin, which is what its box holds, until it is positive.
 void settle_dmin(Workbench& bench, Main1Form& form) {
   CrystalState& state = form.state;
-  state.Dmin = single_in(form.Text15);
   while (!(state.Dmin > 0)) {
     state.Dmin =
         typed_number("the smallest d", bench.services.prompt("Input D-value Minimum", "D-value Minimum"), to_single);

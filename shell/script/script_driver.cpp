@@ -12,24 +12,21 @@
 
 namespace zol {
 
-/// An operation, its form, how many words it takes behind its own, and what it does.
+/// An operation by its form, the name and one word for each that it takes, and what it does.
 struct ScriptDriver::Operation {
-  std::string_view name;
-  std::string_view usage;
-  std::size_t fewest;
-  std::size_t most;
+  std::string_view form;
   void (*run)(ScriptDriver& driver, const Words& words);
+
+  [[nodiscard]] bool has_name(std::string_view name) const { return form.substr(0, form.find(' ')) == name; }
+  [[nodiscard]] bool takes(const Words& words) const {
+    return form.ends_with(" WORDS") || std::count(form.begin(), form.end(), ' ') + 1 == std::ssize(words);
+  }
 };
 
 const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
-  static constexpr std::size_t any = 1000;
   static const std::vector<Operation> table{
-      {"show", "show WINDOW", 1, 1,
-       [](ScriptDriver& d, const Words& w) {
-         if (!d.program_.windows().knows(w[1])) fail_script("there is no window " + w[1]);
-         d.program_.windows().use(w[1]).show();
-       }},
-      {"set", "set W.C TEXT", 2, 2,
+      {"show WINDOW", [](ScriptDriver& d, const Words& w) { d.window(w[1]).show(); }},
+      {"set W.C TEXT",
        [](ScriptDriver& d, const Words& w) {
          if (auto* slider = dynamic_cast<Slider*>(&d.any_control(w[1]))) {
            return slider->set_value(whole_number(w[2], "TEXT"));
@@ -37,40 +34,36 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
          auto& box = d.control<TextBox>(w[1]);
          box.set_text(box.holds_file_name ? w[2] : box_text(w[2]));
        }},
-      {"type", "type W.C TEXT", 2, 2, [](ScriptDriver& d, const Words& w) { d.type(w); }},
-      {"leave", "leave W.C", 1, 1, [](ScriptDriver& d, const Words& w) { d.control<TextBox>(w[1]).leave(); }},
-      {"click", "click W.C", 1, 1, [](ScriptDriver& d, const Words& w) { d.click(w); }},
-      {"select", "select W.C INDEX", 2, 2, [](ScriptDriver& d, const Words& w) { d.select(w); }},
-      {"choose", "choose W.C TEXT", 2, 2, [](ScriptDriver& d, const Words& w) { d.choose(w); }},
-      {"cell", "cell W.C ROW COLUMN", 3, 3,
+      {"type W.C TEXT", [](ScriptDriver& d, const Words& w) { d.type(w); }},
+      {"leave W.C", [](ScriptDriver& d, const Words& w) { d.control<TextBox>(w[1]).leave(); }},
+      {"click W.C", [](ScriptDriver& d, const Words& w) { d.click(w); }},
+      {"select W.C INDEX", [](ScriptDriver& d, const Words& w) { d.select(w); }},
+      {"choose W.C TEXT", [](ScriptDriver& d, const Words& w) { d.choose(w); }},
+      {"cell W.C ROW COLUMN",
        [](ScriptDriver& d, const Words& w) {
          auto& grid = d.control<Grid>(w[1]);
          grid.set_row(whole_number(w[2], "ROW"));
          grid.set_column(whole_number(w[3], "COLUMN"));
        }},
-      {"press", "press W.C X Y", 3, 3,
+      {"press W.C X Y",
        [](ScriptDriver& d, const Words& w) { d.control<Canvas>(w[1]).press(number(w[2], "X"), number(w[3], "Y")); }},
-      {"move", "move W.C X Y", 3, 3,
+      {"move W.C X Y",
        [](ScriptDriver& d, const Words& w) { d.control<Canvas>(w[1]).move(number(w[2], "X"), number(w[3], "Y")); }},
-      {"release", "release W.C X Y", 3, 3,
+      {"release W.C X Y",
        [](ScriptDriver& d, const Words& w) { d.control<Canvas>(w[1]).release(number(w[2], "X"), number(w[3], "Y")); }},
-      {"doubleclick", "doubleclick W.C", 1, 1,
-       [](ScriptDriver& d, const Words& w) { d.control<Canvas>(w[1]).double_click(); }},
-      {"answer", "answer TEXT", 1, 1, [](ScriptDriver& d, const Words& w) { d.services_.queue_answer(w[1], d.line_); }},
-      {"cancel", "cancel", 0, 0, [](ScriptDriver& d, const Words&) { d.services_.queue_answer(""); }},
-      {"print", "print W.C", 1, 1, [](ScriptDriver& d, const Words& w) { d.print(w); }},
-      {"call", "call W.OPERATION", 1, 1, [](ScriptDriver& d, const Words& w) { d.call(w); }},
-      {"visible", "visible W.C", 1, 1,
+      {"doubleclick W.C", [](ScriptDriver& d, const Words& w) { d.control<Canvas>(w[1]).double_click(); }},
+      {"answer TEXT", [](ScriptDriver& d, const Words& w) { d.services_.queue_answer(w[1], d.line_); }},
+      {"cancel", [](ScriptDriver& d, const Words&) { d.services_.queue_answer(""); }},
+      {"print W.C", [](ScriptDriver& d, const Words& w) { d.print(w); }},
+      {"call W.OPERATION", [](ScriptDriver& d, const Words& w) { d.call(w); }},
+      {"visible W.C",
        [](ScriptDriver& d, const Words& w) { d.output_ << (d.any_control(w[1]).visible() ? 1 : 0) << '\n'; }},
-      {"caption", "caption WINDOW", 1, 1,
-       [](ScriptDriver& d, const Words& w) {
-         if (!d.program_.windows().knows(w[1])) fail_script("there is no window " + w[1]);
-         d.output_ << readable_utf8(d.program_.windows().use(w[1]).caption()) << '\n';
-       }},
-      {"printer", "printer", 0, 0, [](ScriptDriver& d, const Words&) { d.print_pages(); }},
-      {"export", "export W.C FILE", 2, 2,
+      {"caption WINDOW",
+       [](ScriptDriver& d, const Words& w) { d.output_ << readable_utf8(d.window(w[1]).caption()) << '\n'; }},
+      {"printer", [](ScriptDriver& d, const Words&) { d.print_pages(); }},
+      {"export W.C FILE",
        [](ScriptDriver& d, const Words& w) { d.services_.export_picture(d.control<Canvas>(w[1]), w[2]); }},
-      {"echo", "echo WORDS", 0, any,
+      {"echo WORDS",
        [](ScriptDriver& d, const Words& w) {
          for (std::size_t i = 1; i < w.size(); ++i) {
            if (const auto readable = readable_utf8(w[i]); readable != w[i])
@@ -117,18 +110,21 @@ void ScriptDriver::run(std::istream& script) {
 void ScriptDriver::execute(const Words& words) {
   const auto& table = operations();
   const auto found =
-      std::find_if(table.begin(), table.end(), [&words](const Operation& op) { return op.name == words.front(); });
+      std::find_if(table.begin(), table.end(), [&words](const Operation& op) { return op.has_name(words.front()); });
   if (found == table.end()) fail_script("unknown operation \"" + words.front() + "\"");
-  const std::size_t given = words.size() - 1;
-  if (given < found->fewest || given > found->most) fail_script("the form is: " + std::string(found->usage));
+  if (!found->takes(words)) fail_script("the form is: " + std::string(found->form));
   found->run(*this, words);
 }
 
+Window& ScriptDriver::window(const std::string& name) {
+  if (!program_.windows().knows(name)) fail_script("there is no window " + name);
+  return program_.windows().use(name);
+}
+
 Control& ScriptDriver::any_control(const std::string& name) {
-  const auto [window, rest] = split_name(name);
-  if (!program_.windows().knows(window)) fail_script("there is no window " + window);
-  Control* found = program_.windows().use(window).find(rest);
-  if (found == nullptr) fail_script("window " + window + " has no control " + rest);
+  const auto [owner, rest] = split_name(name);
+  Control* found = window(owner).find(rest);
+  if (found == nullptr) fail_script("window " + owner + " has no control " + rest);
   return *found;
 }
 
@@ -186,10 +182,9 @@ void ScriptDriver::choose(const Words& words) {
 void ScriptDriver::print(const Words& words) {
   const auto [owner, name] = split_name(words[1]);
   if (owner == "Module1") return print_value(owner, program_.module1(), name);
-  if (!program_.windows().knows(owner)) fail_script("there is no window " + owner);
-  Window& window = program_.windows().use(owner);
-  if (Control* shown = window.find(name)) return print_control(*shown, output_);
-  print_value(owner, window.fields(), name);
+  Window& shown = window(owner);
+  if (Control* control = shown.find(name)) return print_control(*control, output_);
+  print_value(owner, shown.fields(), name);
 }
 
 void ScriptDriver::print_value(const std::string& owner, const NamedValues& values, const std::string& name) {
@@ -205,8 +200,7 @@ void ScriptDriver::print_value(const std::string& owner, const NamedValues& valu
 
 void ScriptDriver::call(const Words& words) {
   const auto [owner, name] = split_name(words[1]);
-  if (!program_.windows().knows(owner)) fail_script("there is no window " + owner);
-  const auto* operation = program_.windows().use(owner).operation(name);
+  const auto* operation = window(owner).operation(name);
   if (operation == nullptr) fail_script("window " + owner + " has no operation " + name);
   (*operation)();
 }

@@ -29,6 +29,7 @@ class ScriptDriver {
   struct Operation;
   static const std::vector<Operation>& operations();
 
+  Window& window(const std::string& name);
   template <class Kind>
   Kind& control(const std::string& name);
   Control& any_control(const std::string& name);

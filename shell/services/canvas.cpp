@@ -170,10 +170,10 @@ void Canvas::edit_picture(const std::function<void(Surface&)>& edit) {
 void Canvas::save_stored_image(const std::string& path) { stored_image().save_bitmap(path); }
 
 void Canvas::save_image_with_overlay(const std::string& path) {
-  make_images();
+  const Surface& stored = stored_image();
   auto both = services_.make_surface(pixel_width(), pixel_height());
-  both->draw(raster_.stored(), false);
-  both->draw(raster_.overlay(), false);
+  both->draw(stored, false);
+  both->draw(overlay_image(), false);
   both->save_bitmap(path);
 }
 

@@ -49,7 +49,6 @@ void PatternDisp(Workbench& bench) {
   form.Picture1.clear();
   form.Picture1.scale(-half_width, half_width, half_width, -half_width);
   form.Picture1.set_fill_colour(RGB(0, 0, 0));
-  form.Picture1.set_solid_fill(true);
   if (state.Level == 0) draw_direct_beam(form, state);
 
   leave_last_spot(pattern, state);

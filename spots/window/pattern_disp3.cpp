@@ -49,7 +49,6 @@ void PatternDisp3(Workbench& bench) {
   picture.clear();
   picture.scale(-half_width, half_width, half_width, -half_width);
   picture.set_fill_colour(RGB(0, 0, 0));
-  picture.set_solid_fill(true);
   draw_direct_beam(form, state);
 
   FiberPicture settings{picture.pixel_width(), picture.pixel_height(), exponent_in(form.Text6)};

@@ -113,7 +113,9 @@ echo grid behind a clear, the lines are kept but not drawn; a redraw; clear
 click PATTERN3.Command6
 click PATTERN3.Command3
 print PATTERN3.Picture1
+press PATTERN3.Picture1 20 20
 click PATTERN3.Command2
+move PATTERN3.Picture1 9 9
 print PATTERN3.LineX(0,0)
 print PATTERN3.LineDone(2)
 click PATTERN3.Command3

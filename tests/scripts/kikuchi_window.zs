@@ -89,6 +89,15 @@ set Pattern2.Text11 0
 type Pattern2.Text13 "\r"
 print Pattern2.Text13
 print Pattern2.Picture1
+echo (-1 0 0) of the list, then again what the boxes hold
+select Pattern2.List1 0
+print Main1.MarkH
+print Main1.MarkK
+print Main1.MarkL
+click Pattern2.Command13
+print Main1.MarkH
+print Main1.MarkK
+print Main1.MarkL
 click Pattern2.Check5
 click Pattern2.Check6
 set Pattern2.Text9 ""
