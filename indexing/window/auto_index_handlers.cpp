@@ -52,7 +52,7 @@ ReportedSolution reported(const AutoIndexForm& form, const IndexResult::Solution
           form.result.size, form.result.centre, Val(form.SampleTilt.text())};
 }
 
-std::string signed_field(double value, int width, const char* format) {
+std::string signed_field(double value, std::size_t width, const char* format) {
   return right_field(Format(value, format), width);
 }
 
