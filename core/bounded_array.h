@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdlib>
+#include <cstring>
 #include <new>
 #include <string>
 #include <string_view>
@@ -43,6 +44,17 @@ struct ZeroedAllocator {
   friend bool operator==(const ZeroedAllocator&, const ZeroedAllocator&) { return true; }
 };
 
+/// Whether two stores hold the same, numbers bit by bit: quick, and a NaN is itself.
+template <class Store>
+[[nodiscard]] bool same_elements(const Store& a, const Store& b) {
+  using T = typename Store::value_type;
+  if constexpr (std::is_trivially_copyable_v<T>) {
+    return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0);
+  } else {
+    return a == b;
+  }
+}
+
 template <class T, bool zero_is_default = std::is_trivially_copyable_v<T>>
 struct ArrayStore {
   using Type = std::vector<T>;
@@ -79,6 +91,8 @@ class BoundedArray {
   [[nodiscard]] const T& operator()(int index) const { return store_[check(index)]; }
 
   [[nodiscard]] int upper() const { return static_cast<int>(store_.size()) - 1; }
+  /// The same bounds and elements, numbers bit by bit.
+  [[nodiscard]] bool operator==(const BoundedArray& other) const { return detail::same_elements(store_, other.store_); }
   [[nodiscard]] const std::string& name() const { return name_; }
 
  private:
@@ -124,6 +138,11 @@ class BoundedTable {
   [[nodiscard]] T& operator()(int row, int column) { return store_[check(row, column)]; }
   [[nodiscard]] const T& operator()(int row, int column) const { return store_[check(row, column)]; }
 
+  /// The same bounds and elements, numbers bit by bit.
+  [[nodiscard]] bool operator==(const BoundedTable& other) const {
+    return upper_row_ == other.upper_row_ && upper_column_ == other.upper_column_ &&
+           detail::same_elements(store_, other.store_);
+  }
   [[nodiscard]] int upper_row() const { return upper_row_; }
   [[nodiscard]] int upper_column() const { return upper_column_; }
   [[nodiscard]] const std::string& name() const { return name_; }

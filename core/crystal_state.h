@@ -20,6 +20,7 @@ inline constexpr int max_space_group_number = 299;  ///< highest number that is 
 /// Scattering factor of one element: sum of A * exp(-B * s^2) over four pairs, and C; s = sin(theta)/lambda in
 /// 1/angstrom.
 struct AsfRow {
+  bool operator==(const AsfRow&) const = default;
   Single A1 = 0;
   String Element;  ///< key, compared exactly with the element of an atom
   Single B1 = 0;

@@ -63,7 +63,8 @@ int run_application(int argc, char** argv, const std::function<void(Desktop&)>& 
   Program program(data, services);
   Desktop desktop(program.windows(), show_failure);
   services.set_desktop(desktop);
-  desktop.gate().set_keep([&program] { return program.keep(); });
+  program.watch(desktop.gate());
+  desktop.offer_undo(program);
   QTimer::singleShot(0, &desktop, [&] {
     desktop.enter("the program started", [&program] { program.start(); });
     if (begun) begun(desktop);

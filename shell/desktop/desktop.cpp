@@ -2,11 +2,15 @@
 
 #include <algorithm>
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QFile>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMainWindow>
+#include <QMenu>
+#include <QMenuBar>
 #include <QShortcut>
 #include <QStatusBar>
 #include <QUiLoader>
@@ -17,7 +21,9 @@
 #include "shell/desktop/file_drops.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/guide.h"
+#include "shell/desktop/qt_text.h"
 #include "shell/desktop/screen_fit.h"
+#include "shell/program/program.h"
 
 // Resources of a static library have to be asked for, outside any namespace.
 static void init_resources() { Q_INIT_RESOURCE(desktop); }
@@ -119,6 +125,7 @@ void Desktop::window_created(Window& window) {
   auto binder = std::make_unique<Binder>(window, *widget, events_);
   accept_file_drops(window, *widget, events_);
   offer_guide(*widget);
+  if (program_ != nullptr) add_undo(*widget);
   binder->show_everything();
   if (auto* top = qobject_cast<QMainWindow*>(widget.get())) fit_to_screen(*top);
   shown_[window.name()] = {std::move(widget), std::move(binder)};
@@ -135,6 +142,47 @@ void Desktop::offer_guide(QWidget& widget) {
   if (auto* top = qobject_cast<QMainWindow*>(&widget)) {
     top->statusBar()->addPermanentWidget(new QLabel(tr("F1: user guide")));
   }
+}
+
+void Desktop::offer_undo(Program& program) {
+  program_ = &program;
+  QCoreApplication::instance()->installEventFilter(this);  // boxes would keep these keys for themselves
+  for (const auto& [name, shown] : shown_) add_undo(*shown.widget);
+}
+
+/// The keys in every window; the menu, which names the step, where there is a menu bar.
+void Desktop::add_undo(QWidget& widget) {
+  auto* bar = widget.findChild<QMenuBar*>();
+  QMenu* menu = bar == nullptr ? nullptr : bar->addMenu(tr("Edit"));
+  struct Entry {
+    QString text;
+    QKeySequence keys;
+    bool back;
+  };
+  for (const Entry& entry : {Entry{tr("Undo"), QKeySequence(Qt::CTRL | Qt::Key_Z), true},
+                             Entry{tr("Redo"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z), false}}) {
+    auto* action = new QAction(entry.text, &widget);
+    action->setShortcut(entry.keys);
+    widget.addAction(action);
+    connect(action, &QAction::triggered, this, [this, back = entry.back] { go_in_history(back); });
+    if (menu == nullptr) continue;
+    menu->addAction(action);
+    connect(menu, &QMenu::aboutToShow, action, [this, action, entry] {
+      const auto& step = entry.back ? program_->history().undo_name() : program_->history().redo_name();
+      action->setText(step.empty() ? entry.text : entry.text + QLatin1Char(' ') + latin1_to_qt(step));
+      action->setEnabled(!step.empty());
+    });
+    connect(menu, &QMenu::aboutToHide, action, [action] { action->setEnabled(true); });
+  }
+}
+
+void Desktop::go_in_history(bool back) {
+  UserEvent event{back ? "undo" : "redo", "", [this, back] {
+                    History& history = program_->history();
+                    if (const auto step = back ? history.undo() : history.redo()) program_->put_back(*step);
+                  }};
+  event.stoppable = false;
+  gate_.enter(std::move(event));
 }
 
 void Desktop::window_shown(Window& window) {
@@ -182,7 +230,21 @@ void Desktop::breathe() {
   since_breath_.start();
 }
 
+/// A box of a window does not see the keys of undo and redo: they are the window's.
+bool Desktop::keeps_undo_keys(const QObject* watched, QEvent& event) const {
+  const auto* widget = qobject_cast<const QWidget*>(watched);
+  if (program_ == nullptr || widget == nullptr) return false;
+  const auto& key = dynamic_cast<QKeyEvent&>(event);
+  const bool undo_key = key.key() == Qt::Key_Z && key.modifiers().testFlag(Qt::ControlModifier);
+  const bool ours = std::any_of(shown_.begin(), shown_.end(),
+                                [widget](const auto& entry) { return entry.second.widget.get() == widget->window(); });
+  if (!undo_key || !ours) return false;
+  event.ignore();
+  return true;
+}
+
 bool Desktop::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride) return keeps_undo_keys(watched, *event);
   const bool closes = event->type() == QEvent::Close;
   if ((!closes && event->type() != QEvent::WindowActivate) || ended()) return QObject::eventFilter(watched, event);
   const auto found = std::find_if(shown_.begin(), shown_.end(),

@@ -19,6 +19,7 @@ class QWidget;
 namespace zol {
 
 class Guide;
+class Program;
 
 /// Makes the layouts and images that are built in available.
 void use_desktop_resources();
@@ -36,6 +37,8 @@ class Desktop : public QObject, public WindowView {
 
   /// Runs an action as an event: a failure ends the program, changes are shown afterwards.
   void enter(std::string name, std::function<void()> action) { gate_.enter({std::move(name), "", std::move(action)}); }
+  /// Undo and redo by menu and keys in all windows.
+  void offer_undo(Program& program);
   /// No event comes in any more; the event loop ends with this status.
   void end(int status);
   [[nodiscard]] bool ended() const { return gate_.ended(); }
@@ -61,10 +64,13 @@ class Desktop : public QObject, public WindowView {
   class Grave;
 
   void offer_guide(QWidget& widget);
+  void add_undo(QWidget& widget);
+  void go_in_history(bool back);
   void show_failure(const std::exception_ptr& failure);
   void settle();
   void show_changes();
   void breathe();
+  [[nodiscard]] bool keeps_undo_keys(const QObject* watched, QEvent& event) const;
   void close_by_frame(Window& window);
   void window_activated(Window& window);
 
@@ -76,6 +82,7 @@ class Desktop : public QObject, public WindowView {
   std::vector<Shown> unloaded_;
   std::string active_;  ///< the window that was last activated, by the program or the user
   std::unique_ptr<Guide> guide_;
+  Program* program_ = nullptr;  ///< whose steps can be undone
   QElapsedTimer since_breath_;
   qint64 work_ms_ = 0;  ///< between two breaths
 };

@@ -2,10 +2,13 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <string>
 
 #include "core/crystal_state.h"
 #include "core/data_root.h"
+#include "shell/program/history.h"
+#include "shell/services/event_gate.h"
 #include "shell/services/window_services.h"
 #include "shell/services/workbench.h"
 
@@ -25,8 +28,18 @@ class Program {
   [[nodiscard]] Windows& windows() { return windows_; }
   [[nodiscard]] CrystalState& state() { return state_; }
   [[nodiscard]] Workbench& bench() { return bench_; }
-  /// Copies windows and state. @returns what makes them as they are now
+  /// All of windows and state, shared with the snapshot before as far as nothing has changed.
+  [[nodiscard]] std::shared_ptr<const Snapshot> snapshot();
+  /// Makes windows and state what they were. No handler runs.
+  void put_back(const Snapshot& snapshot);
+  /// Takes a snapshot. @returns what makes everything as it is now
   [[nodiscard]] std::function<void()> keep();
+
+  /// What the gate's events have done; filled by watch.
+  [[nodiscard]] History& history() { return history_; }
+  /// From now on each event that comes through the gate and changes something is a step of the history, and one that is
+  /// stopped is put back.
+  void watch(EventGate& gate);
 
   /// The arrays and scalars that belong to no window.
   [[nodiscard]] const NamedValues& module1() const { return module1_; }
@@ -36,6 +49,10 @@ class Program {
   CrystalState state_;
   Windows windows_;
   NamedValues module1_;
+  NamedValues state_fields_;
+  History history_;
+  bool went_back_ = false;  ///< in the present event, which then is no step
+  std::shared_ptr<const Snapshot> last_ = std::make_shared<const Snapshot>();
   Workbench bench_;
 };
 

@@ -56,6 +56,18 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
       {"cancel", [](ScriptDriver& d, const Words&) { d.services_.queue_answer(""); }},
       {"print W.C", [](ScriptDriver& d, const Words& w) { d.print(w); }},
       {"call W.OPERATION", [](ScriptDriver& d, const Words& w) { d.call(w); }},
+      {"snapshot",
+       [](ScriptDriver& d, const Words&) {
+         d.kept_ = d.program_.snapshot();
+         d.program_.watch(d.gate_);
+       }},
+      {"restore",
+       [](ScriptDriver& d, const Words&) {
+         if (!d.kept_) fail_script("there is no snapshot to restore");
+         d.program_.put_back(*d.kept_);
+       }},
+      {"undo", [](ScriptDriver& d, const Words&) { d.go_in_history(&History::undo, &History::undo_name, "undo"); }},
+      {"redo", [](ScriptDriver& d, const Words&) { d.go_in_history(&History::redo, &History::redo_name, "redo"); }},
       {"visible W.C",
        [](ScriptDriver& d, const Words& w) { d.output_ << (d.any_control(w[1]).visible() ? 1 : 0) << '\n'; }},
       {"caption WINDOW",
@@ -207,6 +219,17 @@ void ScriptDriver::call(const Words& words) {
 
 void ScriptDriver::print_pages() {
   for (const auto& line : services_.take_printed()) output_ << line << '\n';
+}
+
+/// Tells the step. Undoing is no step itself.
+void ScriptDriver::go_in_history(std::shared_ptr<const Snapshot> (History::*go)(),
+                                 const std::string& (History::*name)() const, const std::string& word) {
+  History& history = program_.history();
+  const std::string step = (history.*name)();
+  const auto snapshot = (history.*go)();
+  if (!snapshot) fail_script("there is nothing to " + word + (kept_ ? "" : "; steps are kept from \"snapshot\" on"));
+  program_.put_back(*snapshot);
+  output_ << word << ' ' << utf8_of_latin1(step) << '\n';
 }
 
 }  // namespace zol

@@ -41,6 +41,8 @@ class ScriptDriver {
   void print_value(const std::string& owner, const NamedValues& values, const std::string& name);
   void call(const Words& words);
   void print_pages();
+  void go_in_history(std::shared_ptr<const Snapshot> (History::*go)(), const std::string& (History::*name)() const,
+                     const std::string& word);
 
   Program& program_;
   ScriptServices& services_;
@@ -48,6 +50,7 @@ class ScriptDriver {
   int line_ = 0;                // that runs, from 1
   std::exception_ptr stopped_;  ///< what has ended the event of an operation
   EventGate gate_;
+  std::shared_ptr<const Snapshot> kept_;  ///< by the operation "snapshot", from which on steps can be undone
 };
 
 }  // namespace zol

@@ -59,6 +59,7 @@ void Canvas::clear() {
 
 void Canvas::scale(double left, double top, double right, double bottom) {
   drawing_.set_scale({left, top, right, bottom});
+  touched();
 }
 
 /// The last entry of the list is new.
@@ -76,7 +77,10 @@ std::string Canvas::fault() const {
   return scale ? no_area(*this, *scale) : "";
 }
 
-void Canvas::move_to(double x, double y) { drawing_.move_to(x, y); }
+void Canvas::move_to(double x, double y) {
+  drawing_.move_to(x, y);
+  touched();
+}
 
 void Canvas::line(double x1, double y1, double x2, double y2, std::optional<Colour> colour) {
   drawing_.line(x1, y1, x2, y2, colour);

@@ -40,8 +40,6 @@ class Canvas : public Control {
   };
   [[nodiscard]] Contents contents() const;
   void set_contents(const Contents& contents);
-  [[nodiscard]] std::any copy() const override { return contents(); }
-  void put_back(const std::any& copy) override { set_contents(std::any_cast<const Contents&>(copy)); }
 
   /// In persistent mode erases all drawing down to the background picture; else the overlay alone.
   void clear();
@@ -61,12 +59,12 @@ class Canvas : public Control {
   [[nodiscard]] Colour fore_colour() const { return drawing_.pens.fore; }
   [[nodiscard]] Colour back_colour() const { return drawing_.pens.back; }
   [[nodiscard]] double font_size() const { return drawing_.pens.font_size_pt; }
-  void set_fore_colour(Colour colour) { drawing_.pens.fore = colour; }
+  void set_fore_colour(Colour colour) { set_pen(drawing_.pens.fore, colour); }
   void set_back_colour(Colour colour);  ///< repaints the background under the drawing
-  void set_fill_colour(Colour colour) { drawing_.pens.fill = colour; }
-  void set_solid_fill(bool solid) { drawing_.pens.solid_fill = solid; }  ///< else transparent
-  void set_font_size(double points) { drawing_.pens.font_size_pt = points; }
-  void set_persistent(bool persistent) { drawing_.pens.persistent = persistent; }
+  void set_fill_colour(Colour colour) { set_pen(drawing_.pens.fill, colour); }
+  void set_solid_fill(bool solid) { set_pen(drawing_.pens.solid_fill, solid); }  ///< else transparent
+  void set_font_size(double points) { set_pen(drawing_.pens.font_size_pt, points); }
+  void set_persistent(bool persistent) { set_pen(drawing_.pens.persistent, persistent); }
 
   [[nodiscard]] int width() const { return drawing_.width_twips; }  ///< twips
   [[nodiscard]] int height() const { return drawing_.height_twips; }
@@ -125,7 +123,17 @@ class Canvas : public Control {
   [[nodiscard]] Surface& stored_image();
   [[nodiscard]] Surface& overlay_image();
 
+ protected:
+  [[nodiscard]] std::any copied_contents() const override { return contents(); }
+  void take_contents(const std::any& contents) override { set_contents(std::any_cast<const Contents&>(contents)); }
+
  private:
+  template <class Value>
+  void set_pen(Value& pen, Value value) {
+    if (pen == value) return;
+    pen = value;
+    touched();
+  }
   void drawn();
   void make_images();
   void turn_picture(bool left_to_right, bool upside_down);

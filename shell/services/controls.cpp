@@ -28,7 +28,20 @@ std::string Control::described() const {
   return '"' + caption.substr(first, caption.find_last_not_of(' ') + 1 - first) + "\" (" + path() + ')';
 }
 
+const std::shared_ptr<const Control::Copy>& Control::copy() const {
+  if (!copy_) copy_ = std::make_shared<const Copy>(Copy{shown_, copied_contents()});
+  return copy_;
+}
+
+void Control::put_back(const std::shared_ptr<const Copy>& copy) {
+  if (copy == copy_) return;
+  set_shown(copy->shown);
+  take_contents(copy->contents);
+  copy_ = copy;
+}
+
 void Control::changed() {
+  touched();
   if (auto* view = window_.view()) view->control_changed(*this);
 }
 

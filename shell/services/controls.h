@@ -110,19 +110,28 @@ class Control {
   [[nodiscard]] const Shown& shown() const { return shown_; }
   /// Fires nothing; the view is told. So do set_contents and put_back.
   void set_shown(Shown shown);
-  /// The contents of its kind as a value; nothing where a kind has none.
-  [[nodiscard]] virtual std::any copy() const { return {}; }
-  /// Takes a copy of the same kind. @throws std::bad_any_cast  it is of another kind
-  virtual void put_back(const std::any& /*copy*/) {}
+  /// All that can change about it: what all kinds have, and the contents of its kind. The same one as long as nothing
+  /// has changed.
+  struct Copy {
+    Shown shown;
+    std::any contents;
+  };
+  [[nodiscard]] const std::shared_ptr<const Copy>& copy() const;
+  /// Takes a copy of a control of the same kind. @throws std::bad_any_cast  it is of another kind
+  void put_back(const std::shared_ptr<const Copy>& copy);
 
  protected:
-  void changed();  ///< tells the view
+  void changed();                    ///< tells the view
+  void touched() { copy_.reset(); }  ///< something has changed that no view shows
+  [[nodiscard]] virtual std::any copied_contents() const { return {}; }
+  virtual void take_contents(const std::any& /*contents*/) {}
 
  private:
   Window& window_;
   std::string name_;
   ControlKind kind_;
   Shown shown_;
+  mutable std::shared_ptr<const Copy> copy_;  ///< none where something has changed since
 };
 
 /// A control of a kind that has more than caption and visibility.
@@ -138,10 +147,10 @@ class ControlWith : public Control {
     contents_replaced();
     changed();
   }
-  [[nodiscard]] std::any copy() const override { return contents_; }
-  void put_back(const std::any& copy) override { set_contents(std::any_cast<const Contents&>(copy)); }
 
  protected:
+  [[nodiscard]] std::any copied_contents() const override { return contents_; }
+  void take_contents(const std::any& contents) override { set_contents(std::any_cast<const Contents&>(contents)); }
   virtual void contents_replaced() {}
   Contents contents_;
 };
@@ -312,7 +321,10 @@ class ListBox : public ControlWith<ListBoxContents> {
   [[nodiscard]] int revision() const { return revision_; }  ///< another one when the lines have changed
   [[nodiscard]] Colour colour_of(int index) const { return contents_.colours[static_cast<std::size_t>(index)]; }
   /// Colour of the lines that are added from now on; those that stand keep theirs.
-  void set_fore_colour(Colour colour) { contents_.fore_colour = colour; }
+  void set_fore_colour(Colour colour) {
+    contents_.fore_colour = colour;
+    touched();
+  }
   /// The user picks a line; fires. @throws RunFailure  no such line
   void pick(int index);
   Event<> on_click;

@@ -80,6 +80,7 @@ void EventGate::run(const UserEvent& event) {
     if (journal_) journal_(event);
     run_or_put_back(event);
     if (!ended_) settle_();
+    if (!ended_ && done_ && event.stoppable) done_(event);
   });
 }
 

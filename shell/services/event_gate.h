@@ -49,6 +49,8 @@ class EventGate {
 
   /// Asked before each event that can be stopped. It keeps all that an event may change; its answer puts that back.
   void set_keep(std::function<std::function<void()>()> keep) { keep_ = std::move(keep); }
+  /// Told of each event that could be stopped and has run through, when all is settled.
+  void set_done(std::function<void(const UserEvent&)> done) { done_ = std::move(done); }
   /// Told of each event before it runs.
   void set_journal(std::function<void(const UserEvent&)> journal) { journal_ = std::move(journal); }
 
@@ -60,6 +62,7 @@ class EventGate {
   std::function<void(const std::exception_ptr&)> failed_;
   std::function<std::function<void()>()> keep_;
   std::function<void(const UserEvent&)> journal_;
+  std::function<void(const UserEvent&)> done_;
   std::deque<UserEvent> waiting_;
   bool running_ = false;
   bool ended_ = false;

@@ -32,16 +32,19 @@ std::vector<std::string> NamedValues::names() const {
   return names;
 }
 
-NamedValues::Copies NamedValues::copies() const {
+NamedValues::Copies NamedValues::copies(const Copies& before) const {
   Copies copies;
-  for (const auto& [name, kept] : kept_) copies[name] = kept.copy();
+  for (const auto& [name, kept] : kept_) {
+    const auto known = before.find(name);
+    copies.emplace_hint(copies.end(), name, kept.copy(known == before.end() ? SharedCopy() : known->second));
+  }
   return copies;
 }
 
 void NamedValues::put_back(const Copies& copies) const {
   for (const auto& [name, copy] : copies) {
     const auto kept = kept_.find(name);
-    if (kept != kept_.end()) kept->second.put_back(copy);
+    if (kept != kept_.end()) kept->second.put_back(*copy);
   }
 }
 

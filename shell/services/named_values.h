@@ -2,8 +2,10 @@
 #pragma once
 
 #include <any>
+#include <concepts>
 #include <functional>
 #include <map>
+#include <memory>
 #include <span>
 #include <string>
 #include <type_traits>
@@ -24,6 +26,19 @@ namespace zol {
 template <class Number>
 [[nodiscard]] std::string shown_text(Number value) {
   return plain_text(value);
+}
+
+/// A copy of a value that may change. Copies taken one after the other share what has not changed between them.
+using SharedCopy = std::shared_ptr<const std::any>;
+
+/// A copy of a value, or the earlier one where it is the same.
+template <class Value>
+[[nodiscard]] SharedCopy shared_copy(const Value& value, const SharedCopy& before) {
+  if constexpr (std::equality_comparable<Value>) {
+    const auto* known = before ? std::any_cast<Value>(before.get()) : nullptr;
+    if (known != nullptr && *known == value) return before;
+  }
+  return std::make_shared<const std::any>(value);
 }
 
 /// Fields and arrays under their names. The values are looked at when asked; they outlive this.
@@ -63,7 +78,7 @@ class NamedValues {
   template <class Value>
   void keep(const std::string& name, Value& value) {
     static_assert(std::is_copy_assignable_v<Value>);
-    kept_[name] = {[&value] { return std::any(value); },
+    kept_[name] = {[&value](const SharedCopy& before) { return shared_copy(value, before); },
                    [&value](const std::any& copy) { value = std::any_cast<const Value&>(copy); }};
   }
 
@@ -75,8 +90,9 @@ class NamedValues {
   /// Of all that has a text.
   [[nodiscard]] std::vector<std::string> names() const;
 
-  using Copies = std::map<std::string, std::any>;
-  [[nodiscard]] Copies copies() const;
+  using Copies = std::map<std::string, SharedCopy>;
+  /// @param before  earlier ones, to be shared where nothing has changed
+  [[nodiscard]] Copies copies(const Copies& before = {}) const;
   /// Takes copies back that these names gave; others are left alone. @throws std::bad_any_cast  a copy of another type
   void put_back(const Copies& copies) const;
 
@@ -87,7 +103,7 @@ class NamedValues {
     std::function<std::string(Indices)> text;
   };
   struct Kept {
-    std::function<std::any()> copy;
+    std::function<SharedCopy(const SharedCopy&)> copy;
     std::function<void(const std::any&)> put_back;
   };
   template <class Value>

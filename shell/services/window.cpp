@@ -29,19 +29,18 @@ void Window::hide() {
   if (view_ != nullptr) view_->window_changed(*this);
 }
 
-Window::Copy Window::copy() const {
-  Copy copy{caption_, mouse_pointer_, visible_, fields_.copies(), {}};
-  for (const Control* control : controls_) copy.controls[control->name()] = {control->shown(), control->copy()};
+Window::Copy Window::copy(const Copy* before) const {
+  Copy copy{
+      caption_, mouse_pointer_, visible_, before != nullptr ? fields_.copies(before->fields) : fields_.copies(), {}};
+  copy.controls.reserve(controls_.size());
+  for (const Control* control : controls_) copy.controls.push_back(control->copy());
   return copy;
 }
 
 void Window::put_back(const Copy& copy) {
   fields_.put_back(copy.fields);
-  for (const auto& [name, held] : copy.controls) {
-    Control* control = find(name);
-    if (control == nullptr) continue;
-    control->set_shown(held.shown);
-    control->put_back(held.contents);
+  for (std::size_t i = 0; i < std::min(controls_.size(), copy.controls.size()); ++i) {
+    controls_[i]->put_back(copy.controls[i]);
   }
   caption_ = copy.caption;
   mouse_pointer_ = copy.mouse_pointer;
@@ -103,9 +102,12 @@ std::vector<std::string> Windows::names() const {
   return names;
 }
 
-Windows::Copies Windows::copies() const {
+Windows::Copies Windows::copies(const Copies& before) const {
   Copies copies;
-  for (const auto& [name, window] : windows_) copies[name] = window->copy();
+  for (const auto& [name, window] : windows_) {
+    const auto known = before.find(name);
+    copies.emplace_hint(copies.end(), name, window->copy(known == before.end() ? nullptr : &known->second));
+  }
   return copies;
 }
 

@@ -62,17 +62,14 @@ class Window {
 
   /// All that can change about a window, its fields and its controls.
   struct Copy {
-    struct Held {
-      Control::Shown shown;
-      std::any contents;
-    };
     std::string caption;
     MousePointer mouse_pointer = MousePointer::Default;
     bool visible = false;
     NamedValues::Copies fields;
-    std::map<std::string, Held> controls;  ///< by name
+    std::vector<std::shared_ptr<const Control::Copy>> controls;  ///< in their order
   };
-  [[nodiscard]] Copy copy() const;
+  /// @param before  an earlier copy, which is shared as far as nothing has changed; may be a null pointer
+  [[nodiscard]] Copy copy(const Copy* before = nullptr) const;
   /// Takes a copy of this window; no handler runs, the view is told.
   void put_back(const Copy& copy);
 
@@ -150,7 +147,7 @@ class Windows {
 
   /// Of the windows that exist, by name.
   using Copies = std::map<std::string, Window::Copy>;
-  [[nodiscard]] Copies copies() const;
+  [[nodiscard]] Copies copies(const Copies& before = {}) const;
   /// The windows are as when they were copied: those made since are unloaded, those unloaded since are made again. No
   /// handler runs.
   void put_back(const Copies& copies);
