@@ -53,13 +53,13 @@ struct AutoIndexForm : Window {
   ListBox Crystals{*this, "Crystals", "Crystals"};  // tried beside the present one
   CommandButton AddCrystal{*this, "AddCrystal", "Add crystal..."};
   CommandButton RemoveCrystal{*this, "RemoveCrystal", "Remove"};
-  Label FamiliesHeading{*this, "FamiliesHeading", "     h  k  l   n  d (A)   width  strength"};
+  Label FamiliesHeading{*this, "FamiliesHeading", "    h  k  l   n   d (A)   width  F2 (%)"};
   ListBox Families{*this, "Families"};
   CommandButton ToggleFamily{*this, "ToggleFamily", "Leave out / take in"};
   Label BandsHeading{*this, "BandsHeading", " no  azimuth distance  width strength   h  k  l   off"};
   ListBox Bands{*this, "Bands"};
   Label SolutionsHeading{*this, "SolutionsHeading",
-                         "  bands    off  corr.  conf.      u      v      w   phi1    Phi   phi2"};
+                         "no bands    off  corr. conf.      u      v      w   phi1    Phi   phi2"};
   ListBox Solutions{*this, "Solutions"};
 
   Canvas Simulated;
