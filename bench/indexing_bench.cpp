@@ -3,8 +3,8 @@
 #include <benchmark/benchmark.h>
 
 #include "bench/bench_crystals.h"
+#include "core/run_failure.h"
 #include "indexing/crystal_reflectors.h"
-#include "indexing/pattern_centre_fit.h"
 #include "indexing/pattern_indexer.h"
 
 namespace zol {

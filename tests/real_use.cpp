@@ -228,6 +228,7 @@ void index_pattern(const User& user) {
 }
 
 void index_automatically(const User& user) {
+  user.fill("PATTERN3", {{"Text5", "20"}});
   user.choose("PATTERN3", "AutomaticIndexing");
   user.click("AutoIndex", "Index");
   expect(user.lines("AutoIndex", "Bands") == 9 && user.lines("AutoIndex", "Solutions") > 0,
