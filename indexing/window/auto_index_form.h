@@ -50,7 +50,7 @@ struct AutoIndexForm : Window {
   CommandButton CopyReport{*this, "CopyReport", "Copy report"};
   Label Status{*this, "Status"};  // what was found, or why not
 
-  ListBox Crystals{*this, "Crystals", "Crystals"};  // tried beside the present one
+  ListBox Crystals{*this, "Crystals"};  // files tried beside the present crystal
   CommandButton AddCrystal{*this, "AddCrystal", "Add crystal..."};
   CommandButton RemoveCrystal{*this, "RemoveCrystal", "Remove"};
   Label FamiliesHeading{*this, "FamiliesHeading", "    h  k  l   n   d (A)   width  F2 (%)"};
