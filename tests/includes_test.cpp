@@ -36,8 +36,8 @@ std::set<std::string> reached(const Arrows& arrows, const std::string& from, std
 /// What each source of the program includes of it and of Qt, by its path from the root.
 Arrows includes_of_sources() {
   Arrows includes;
-  for (const std::string room : {"analysis", "calculators", "core", "entry", "kikuchi", "powder", "reflections",
-                                 "shell", "spots", "structures"}) {
+  for (const std::string room : {"analysis", "calculators", "core", "entry", "indexing", "kikuchi", "powder",
+                                 "reflections", "shell", "spots", "structures"}) {
     for (const auto& entry : std::filesystem::recursive_directory_iterator(ZOL_SOURCE_DIR "/" + room)) {
       const auto file = entry.path().lexically_relative(ZOL_SOURCE_DIR).string();
       if (!file.ends_with(".h") && !file.ends_with(".cpp")) continue;

@@ -227,6 +227,19 @@ void index_pattern(const User& user) {
   user.save("indexed.bmp", "indexed.bmp", [&user] { user.choose("PATTERN3", "ImageSAve"); });
 }
 
+void index_automatically(const User& user) {
+  user.fill("PATTERN3", {{"Text5", "20"}});
+  user.choose("PATTERN3", "AutomaticIndexing");
+  user.click("AutoIndex", "Index");
+  expect(user.lines("AutoIndex", "Bands") == 9 && user.lines("AutoIndex", "Solutions") > 0,
+         "the pattern of silicon is not indexed");
+  user.take_picture("AutoIndex", "automatic-indexing");
+  user.take_picture("PATTERN3", "automatic-indexing-bands");
+  user.click("AutoIndex", "Over");
+  user.save("simulated", "simulated.bmp", [&user] { user.choose("AutoIndex", "SaveSimulated"); });
+  user.window("AutoIndex").close();
+}
+
 void read_guide(const User& user) {
   QTest::keyClick(&user.window("PATTERN3"), Qt::Key_F1);
   for (auto* top : QApplication::topLevelWidgets()) {
@@ -241,7 +254,7 @@ void read_guide(const User& user) {
 
 void walk(const User& user) {
   for (auto* step : {use_main_window, copy_lines, use_powder_windows, use_spot_windows, use_kikuchi_windows,
-                     use_calculators, use_files, index_pattern, read_guide}) {
+                     use_calculators, use_files, index_pattern, index_automatically, read_guide}) {
     step(user);
   }
   user.click("MAIN_MENU", "Command5");

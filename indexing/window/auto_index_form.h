@@ -50,16 +50,16 @@ struct AutoIndexForm : Window {
   CommandButton CopyReport{*this, "CopyReport", "Copy report"};
   Label Status{*this, "Status"};  // what was found, or why not
 
-  ListBox Crystals{*this, "Crystals"};  // tried beside the present one
+  ListBox Crystals{*this, "Crystals"};  // files tried beside the present crystal
   CommandButton AddCrystal{*this, "AddCrystal", "Add crystal..."};
   CommandButton RemoveCrystal{*this, "RemoveCrystal", "Remove"};
-  Label FamiliesHeading{*this, "FamiliesHeading", "     h  k  l   n  d (A)   width  strength"};
+  Label FamiliesHeading{*this, "FamiliesHeading", "    h  k  l   n   d (A)   width  F2 (%)"};
   ListBox Families{*this, "Families"};
   CommandButton ToggleFamily{*this, "ToggleFamily", "Leave out / take in"};
   Label BandsHeading{*this, "BandsHeading", " no  azimuth distance  width strength   h  k  l   off"};
   ListBox Bands{*this, "Bands"};
   Label SolutionsHeading{*this, "SolutionsHeading",
-                         "  bands    off  corr.  conf.      u      v      w   phi1    Phi   phi2"};
+                         "no bands    off  corr. conf.      u      v      w   phi1    Phi   phi2"};
   ListBox Solutions{*this, "Solutions"};
 
   Canvas Simulated;

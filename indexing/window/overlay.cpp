@@ -5,6 +5,7 @@
 #include <cmath>
 #include <numbers>
 #include <numeric>
+#include <utility>
 
 #include "indexing/window/grey_range.h"
 
@@ -100,8 +101,14 @@ void draw_zone_axes(Canvas& picture, const View& view, const IndexResult::Soluti
       const auto at = view.point(direction);
       if (!at || !View::inside(*at)) continue;
       picture.circle(at->x, at->y, 4, yellow);
-      picture.move_to(at->x + 6, at->y + 2);
-      picture.print("[" + std::to_string(uvw[0]) + " " + std::to_string(uvw[1]) + " " + std::to_string(uvw[2]) + "]");
+      const std::string label =
+          "[" + std::to_string(uvw[0]) + " " + std::to_string(uvw[1]) + " " + std::to_string(uvw[2]) + "]";
+      // Poles are bright: a label has its shadow, or it could not be read there.
+      for (const auto& [colour, shift] : {std::pair{black, 1.0}, {yellow, 0.0}}) {
+        picture.set_fore_colour(colour);
+        picture.move_to(at->x + 8 + shift, at->y + 2 + shift);
+        picture.print(label);
+      }
     }
   }
 }
@@ -133,6 +140,12 @@ std::optional<std::array<Point, 2>> straight_line(const IndexResult& result, dou
   return ends_on_border(cosine * per_x, sine * per_y, -(cosine * projection.x0() + sine * projection.y0() + reach));
 }
 
+/// Whether a third band meets the two others in one point, nearly: the direction would be open to two answers.
+bool in_one_zone(const std::vector<Vector3>& others, const Vector3& normal) {
+  constexpr double least_sine = 0.17;  // 10 degrees
+  return others.size() == 2 && std::abs(others[0].cross(others[1]).normalized().dot(normal)) < least_sine;
+}
+
 }  // namespace
 
 void draw_solution(Pattern3Form& pattern, const IndexResult& result) {
@@ -148,7 +161,6 @@ void draw_solution(Pattern3Form& pattern, const IndexResult& result) {
     const double bragg = solution->model->reflectors.families[static_cast<std::size_t>(plane.family)].bragg_rad;
     for (const double side : {-1.0, 1.0}) draw_edge(picture, view, normal, side * bragg, green);
   }
-  picture.set_fore_colour(yellow);
   draw_zone_axes(picture, view, *solution);
   picture.set_fore_colour(black);
 }
@@ -166,9 +178,11 @@ bool take_lines(Pattern3Form& pattern, const IndexResult& result) {
   const auto* solution = result.solution();
   const bool two_edges = pattern.Check2.checked();
   std::vector<std::array<Point, 2>> lines;
+  std::vector<Vector3> taken;
   for (std::size_t i = 0; i < result.bands.size() && lines.size() < (two_edges ? 6U : 3U); ++i) {
     const DetectedBand& band = result.bands[i];
     if (solution != nullptr && solution->matches[i].plane < 0) continue;
+    if (in_one_zone(taken, band.normal())) continue;
     double half_width = band.half_width_rad;
     if (solution != nullptr) {
       const int family = plane_of(*solution, solution->matches[i]).family;
@@ -179,7 +193,9 @@ bool take_lines(Pattern3Form& pattern, const IndexResult& result) {
       const auto line = straight_line(result, band.azimuth_rad, band.distance_rad + side * half_width);
       if (line) of_band.push_back(*line);
     }
-    if (of_band.size() == (two_edges ? 2U : 1U)) lines.insert(lines.end(), of_band.begin(), of_band.end());
+    if (of_band.size() != (two_edges ? 2U : 1U)) continue;
+    lines.insert(lines.end(), of_band.begin(), of_band.end());
+    taken.push_back(band.normal());
   }
   if (lines.size() < (two_edges ? 6U : 3U)) return false;
   pattern.Command2.click();
