@@ -10,17 +10,26 @@ namespace zol {
 namespace {
 
 constexpr int sphere_size = 801;
-constexpr std::size_t least_planes = 20;  ///< that vote, where the crystal has them: fewer leave low symmetry open
+constexpr std::size_t least_planes = 40;  ///< that vote, where the crystal has them: fewer leave low symmetry open
 
 }  // namespace
 
 std::vector<bool> voting_families(const ReflectorSet& reflectors, int family_count) {
+  constexpr double parallel = 1 - 1e-6;
   std::vector<bool> used;
-  std::size_t planes = 0;
+  std::vector<Vector3> directions;
   for (const ReflectorFamily& family : reflectors.families) {
-    if (static_cast<int>(used.size()) >= family_count && planes >= least_planes) break;
+    if (static_cast<int>(used.size()) >= family_count && directions.size() >= least_planes) break;
     used.push_back(true);
-    planes += static_cast<std::size_t>(family.count);
+    const auto members =
+        std::span(reflectors.members).subspan(static_cast<std::size_t>(family.first), static_cast<std::size_t>(family.count));
+    // Other orders of a plane stand on the same normals.
+    if (std::any_of(directions.begin(), directions.end(), [&members](const Vector3& known) {
+          return std::abs(known.dot(members.front().normal)) > parallel;
+        })) {
+      continue;
+    }
+    for (const Reflector& member : members) directions.push_back(member.normal);
   }
   return used;
 }
