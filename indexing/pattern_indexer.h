@@ -37,7 +37,7 @@ struct IndexSettings {
   VoteSettings vote;
   FitSettings fit;
   int candidates_fitted = 10;  ///< of each crystal, on the picture
-  bool fit_picture = true;    ///< else the bands alone decide
+  bool fit_picture = true;     ///< else the bands alone decide
 };
 
 /// One orientation that may be that of the picture.

@@ -120,15 +120,15 @@ Drawn draw(const std::vector<ListedReflection>& reflections, const Lattice& latt
     const Vector3 g = rotation.transpose() * Vector3(gx, gy, gz);
     const double theta = std::asin(wavelength * g.norm() / 2);
     const double per_length = 1 / (g.norm() * theta);
+    auto value = drawn.values.begin();
     for (int y = 0; y < drawn.size; ++y) {
       const double ry = (y + 0.5) / drawn.size - centre.y;
-      for (int x = 0; x < drawn.size; ++x) {
+      for (int x = 0; x < drawn.size; ++x, ++value) {
         const double rx = (x + 0.5) / drawn.size - centre.x;
         const double off =
             std::abs(g[0] * rx + g[1] * ry + g[2] * centre.z) * per_length / std::hypot(rx, ry, centre.z);
         const double profile = off < 1 ? 1 : off < 1.4 ? -0.4 : 0;  // the sines of such angles are the angles
-        drawn.values[static_cast<std::size_t>(y * drawn.size + x)] +=
-            static_cast<float>(10 * profile * weight / strongest);
+        *value += static_cast<float>(10 * profile * weight / strongest);
       }
     }
   }
@@ -167,8 +167,7 @@ TEST(Indexing, WhatCannotBeIndexedIsTold) {
   const CrystalModel model = model_of(cubic, reflections_of(cubic, Lattice(cubic.cell)));
   const CrystalModel* const models[] = {&model};
   PatternIndexer indexer;
-  Drawn blank;
-  blank.values.assign(static_cast<std::size_t>(blank.size * blank.size), 17.0F);
+  const Drawn blank{64, std::vector<float>(std::size_t{64} * 64, 17.0F)};
   EXPECT_TRUE(fails_with("the picture is blank", [&] { (void)indexer.index(blank.view(), {}, models, {}); }));
   const std::vector<ListedReflection> stack{{{0, 0, 1}, 5}, {{0, 0, 2}, 9}, {{0, 0, 3}, 2}};
   EXPECT_TRUE(fails_with("fewer than three families of planes", [&] { (void)model_of(crystals[3], stack); }));
