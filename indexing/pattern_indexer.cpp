@@ -10,17 +10,34 @@ namespace zol {
 namespace {
 
 constexpr int sphere_size = 801;
-constexpr std::size_t least_planes = 20;  ///< that vote, where the crystal has them: fewer leave low symmetry open
+
+/// Directions of planes that vote, where the crystal has them. The fewer rotations a crystal has, the more orientations
+/// there are to be told apart, also those of pseudo-symmetry.
+std::size_t least_planes(const ReflectorSet& reflectors) {
+  constexpr std::size_t least = 20;
+  constexpr std::size_t more_without_symmetry = 40;
+  return least + more_without_symmetry / std::max<std::size_t>(1, reflectors.symmetry.size());
+}
 
 }  // namespace
 
 std::vector<bool> voting_families(const ReflectorSet& reflectors, int family_count) {
+  constexpr double parallel = 1 - 1e-6;
   std::vector<bool> used;
-  std::size_t planes = 0;
+  std::vector<Vector3> directions;
+  const std::size_t least = least_planes(reflectors);
   for (const ReflectorFamily& family : reflectors.families) {
-    if (static_cast<int>(used.size()) >= family_count && planes >= least_planes) break;
+    if (static_cast<int>(used.size()) >= family_count && directions.size() >= least) break;
     used.push_back(true);
-    planes += static_cast<std::size_t>(family.count);
+    const auto members = std::span(reflectors.members)
+                             .subspan(static_cast<std::size_t>(family.first), static_cast<std::size_t>(family.count));
+    // Other orders of a plane stand on the same normals.
+    if (std::any_of(directions.begin(), directions.end(), [&members](const Vector3& known) {
+          return std::abs(known.dot(members.front().normal)) > parallel;
+        })) {
+      continue;
+    }
+    for (const Reflector& member : members) directions.push_back(member.normal);
   }
   return used;
 }

@@ -36,8 +36,8 @@ struct IndexSettings {
   DetectionSettings detection;
   VoteSettings vote;
   FitSettings fit;
-  int candidates_fitted = 3;  ///< of each crystal, on the picture
-  bool fit_picture = true;    ///< else the bands alone decide
+  int candidates_fitted = 10;  ///< of each crystal, on the picture
+  bool fit_picture = true;     ///< else the bands alone decide
 };
 
 /// One orientation that may be that of the picture.

@@ -137,7 +137,8 @@ void show_families(AutoIndexForm& form) {
   });
   if (ready == form.ready.end()) return;
   const auto& families = ready->model->reflectors.families;
-  const double strongest = families.empty() ? 1 : families.front().weight;
+  double strongest = 0;
+  for (const ReflectorFamily& family : families) strongest = std::max(strongest, family.weight);
   const std::size_t count = std::max(form.families_taken.size(), families_listed);
   for (std::size_t i = 0; i < std::min(families.size(), count); ++i) {
     const ReflectorFamily& family = families[i];
