@@ -48,8 +48,10 @@ class TripleTable {
     std::array<Integer, 3> hkl;
     Single s = 0;
     Single intensity = 0;
+    bool operator==(const Plane&) const = default;
   };
   TripleTable() = default;
+  bool operator==(const TripleTable&) const = default;
   /// All four tables.
   /// @param angles  degrees between reflections a and b at a N + b, both from 0
   /// @throws RunFailure  the triples need more rows
@@ -60,6 +62,7 @@ class TripleTable {
   struct Rows {
     int upper = -1;
     bool filled = false;
+    bool operator==(const Rows&) const = default;
   };
   [[nodiscard]] std::optional<Triple> triple_of(long long row) const;
   [[nodiscard]] const Plane* plane(std::string_view table, const Rows& rows, int row, int column, int columns) const;

@@ -31,6 +31,10 @@ struct IndexResult {
   std::vector<DetectedBand> bands;
   std::vector<Solution> solutions;
   std::size_t picked = 0;
+  int number = 0;  ///< of the indexing: results with the same one are the same
+  [[nodiscard]] bool operator==(const IndexResult& other) const {
+    return number == other.number && picked == other.picked;
+  }
   [[nodiscard]] const Solution* solution() const { return picked < solutions.size() ? &solutions[picked] : nullptr; }
 };
 
@@ -82,6 +86,7 @@ struct AutoIndexForm : Window {
   // Made again where they are missing
   std::vector<ReadyCrystal> ready;
   PatternIndexer indexer;
+  int indexings = 0;  ///< so far
 
  private:
   void name_fields();

@@ -146,6 +146,7 @@ std::vector<std::shared_ptr<const CrystalModel>> index_picture(Workbench& bench,
                      "; it must lie between 0 and 89");
   }
   form.result = {};
+  form.result.number = ++form.indexings;
   form.result.size = {picture.width, picture.height, 1};
   form.result.centre = centre_of(angles, form.result.size);
   std::vector<const CrystalModel*> plain;

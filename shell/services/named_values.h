@@ -34,10 +34,9 @@ using SharedCopy = std::shared_ptr<const std::any>;
 /// A copy of a value, or the earlier one where it is the same.
 template <class Value>
 [[nodiscard]] SharedCopy shared_copy(const Value& value, const SharedCopy& before) {
-  if constexpr (std::equality_comparable<Value>) {
-    const auto* known = before ? std::any_cast<Value>(before.get()) : nullptr;
-    if (known != nullptr && *known == value) return before;
-  }
+  static_assert(std::equality_comparable<Value>, "what is kept has to tell whether it has changed");
+  const auto* known = before ? std::any_cast<Value>(before.get()) : nullptr;
+  if (known != nullptr && *known == value) return before;
   return std::make_shared<const std::any>(value);
 }
 

@@ -142,6 +142,7 @@ class FileDialog {
     std::map<FileKind, std::string> last_names;
     std::optional<std::string> preset;
     std::string file_name;
+    bool operator==(const Memory&) const = default;
   };
 
   const std::string& ask(FileKind kind, bool save, const NameEnding& ending);

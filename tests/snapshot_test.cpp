@@ -1,0 +1,129 @@
+// Snapshots, and the steps that are undone and done again. Storms of random operations go between them.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <sstream>
+
+#include "core/run_failure.h"
+#include "fuzz/bounded_script.h"
+#include "fuzz/script_target.h"
+#include "fuzz/storm.h"
+#include "shell/script/script_driver.h"
+#include "shell/script/script_words.h"
+#include "tests/test_files.h"
+
+namespace zol::fuzz {
+namespace {
+
+/// All that a script can print, field by field.
+std::string everything(Program& program) {
+  std::ostringstream output;
+  ScriptServices services(output, nullptr);
+  const auto add_fields = [&output](const std::string& owner, const NamedValues& values) {
+    for (const auto& name : values.names()) {
+      const int dimensions = values.dimensions(name);
+      output << owner << '.' << name;
+      try {
+        for (int i = 0; i < (dimensions > 0 ? 60 : 1); ++i) {
+          for (int j = 0; j < (dimensions > 1 ? 4 : 1); ++j) {
+            const std::array at{i, j};
+            output << ' ' << values.text(name, std::span(at).first(static_cast<std::size_t>(dimensions)));
+          }
+        }
+      } catch (const RunFailure&) {  // the end of the array
+      }
+      output << '\n';
+    }
+  };
+  add_fields("Module1", program.module1());
+  for (const auto& name : program.windows().names()) {
+    Window* window = program.windows().find(name);
+    if (window == nullptr) continue;
+    output << name << ' ' << window->caption() << (window->visible() ? " visible\n" : " hidden\n");
+    add_fields(name, window->fields());
+    for (const Control* control : window->controls()) {
+      std::istringstream print("print " + control->path() + "\nvisible " + control->path() + "\n");
+      ScriptDriver(program, services, output).run(print);
+      output << control->path() << ' ' << control->caption() << '\n';
+    }
+  }
+  return output.str();
+}
+
+/// Answers by what is asked, the same for the same storm.
+struct Answers : ScriptServices {
+  explicit Answers(std::ostream& output) : ScriptServices(output, &pictures()) {}
+  std::string ask_file(const FileQuestion& question) override {
+    if (question.save) return question.ending.added_to("saved");
+    if (question.kind == FileKind::Crystal) return ++asked % 2 == 0 ? "Quartz.cry" : "NaCl.cry";
+    return question.kind == FileKind::Picture ? "silicon-pattern.bmp" : "";
+  }
+  std::string prompt(const std::string& /*text*/, const std::string& /*title*/) override {
+    return ++asked % 3 == 0 ? "" : "2";
+  }
+  int asked = 0;
+};
+
+/// A program whose user goes on behind what would end it.
+class SnapshotStorms : public testing::TestWithParam<int> {
+ protected:
+  SnapshotStorms() {
+    for (const auto* file : {"data/ZOLDATA/NaCl.cry", "data/ZOLDATA/Quartz.cry", "examples/silicon-pattern.bmp"}) {
+      const std::filesystem::path path(std::string(ZOL_SOURCE_DIR "/") + file);
+      std::filesystem::copy_file(path, folder.path(path.filename().string()));
+    }
+    std::filesystem::current_path(folder.path(""));
+    program.start();
+  }
+  ~SnapshotStorms() override { std::filesystem::current_path(ZOL_SOURCE_DIR); }
+
+  /// Runs the operations of a storm, each by itself. @returns what it prints
+  std::string storm(std::uint64_t seed) {
+    output.str("");
+    services.asked = 0;
+    std::istringstream lines(bounded_script(maker.script(seed)));
+    std::string line;
+    while (std::getline(lines, line)) {
+      if (line.starts_with("answer") || line.starts_with("cancel")) continue;
+      std::istringstream operation(line);
+      try {
+        ScriptDriver(program, services, output).run(operation);
+      } catch (const RunFailure& failure) {
+        output << "failure: " << failure.message() << '\n';
+      } catch (const ScriptError& error) {
+        output << "script: " << error.what() << '\n';
+      }
+      program.windows().free_unloaded();
+    }
+    return output.str();
+  }
+
+  ScratchFolder folder;
+  StormMaker maker;
+  std::ostringstream output;
+  Answers services{output};
+  Program program{{ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services};
+};
+
+// What is put back says what it said, and whatever is done to it then gives the same again.
+TEST_P(SnapshotStorms, ArePutBackAndRepeatThemselves) {
+  const char* given = std::getenv("ZOL_SNAPSHOT_STORMS");  // NOLINT(concurrency-mt-unsafe): one thread
+  const int seeds = given == nullptr ? 5 : std::max(1, std::atoi(given) / 8);
+  for (int i = 0; i < seeds; ++i) {
+    const auto seed = static_cast<std::uint64_t>(3 * (GetParam() * seeds + i) + 50000);
+    SCOPED_TRACE(seed);
+    (void)storm(seed);
+    const auto snapshot = program.snapshot();
+    const std::string before = everything(program);
+    const std::string first = storm(seed + 1);
+    program.put_back(*snapshot);
+    ASSERT_EQ(everything(program), before);
+    ASSERT_EQ(storm(seed + 1), first);
+    ASSERT_TRUE(same_work(*snapshot, *snapshot));
+  }
+}
+INSTANTIATE_TEST_SUITE_P(Parts, SnapshotStorms, testing::Range(0, 8));
+
+}  // namespace
+}  // namespace zol::fuzz
