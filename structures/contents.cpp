@@ -188,8 +188,9 @@ std::vector<std::string> settle_positions(Structure& structure, Task& task) {
       continue;
     }
     site.position = first.position;
-    // The middle may lie on further elements.
-    for (int step = 0; step < 2; ++step) {
+    // The middle may lie near further elements, step by step to a place that four of them meet in.
+    constexpr int most_steps = 12;
+    for (int step = 0; step < most_steps; ++step) {
       const Merged next = merged(site.position, structure.operators, near);
       if (next.images <= first.images && next.moved < 1e-9) break;
       site.position = next.position;
