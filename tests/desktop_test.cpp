@@ -11,6 +11,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QListView>
+#include <QMenu>
 #include <QMenuBar>
 #include <QProgressBar>
 #include <QTableView>
@@ -312,6 +313,38 @@ TEST_F(DesktopTest, BoxesTakeLatin1AndRefuseTheRest) {
   EXPECT_TRUE(QToolTip::text().startsWith(QStringLiteral("Not taken"))) << "and says so";
   desktop.enter("a test", [this] { main1().Text17.set_text("/α/Å³.cry"); });
   EXPECT_EQ(box("Text17").text(), QStringLiteral("/α/Å³.cry"));
+}
+
+// The keys of undo are the program's, also in a box, which would take them for its own; all typed into it is one step.
+TEST_F(DesktopTest, StepsAreUndoneByKeysAndNamedInTheMenu) {
+  program.watch(desktop.gate());
+  desktop.offer_undo(program);
+  show_main1();
+  load("NaCl.cry");
+  const std::string loaded = box("Text1").text().toStdString();
+  box("Text1").setFocus(Qt::TabFocusReason);
+  box("Text1").selectAll();
+  QTest::keyClicks(&box("Text1"), "7.25");
+  EXPECT_EQ(program.state().CellA, 7.25F);
+  const auto undo_text = [this] {
+    for (auto* menu : widget("Main1").findChildren<QMenu*>()) {
+      if (menu->title() != QLatin1String("Edit")) continue;
+      emit menu->aboutToShow();
+      emit menu->aboutToHide();
+      return menu->actions().first()->text().toStdString();
+    }
+    return std::string();
+  };
+  EXPECT_EQ(undo_text(), "Undo a= 7.25");
+  QTest::keyClick(&box("Text1"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(box("Text1").text().toStdString(), loaded);
+  EXPECT_EQ(program.state().CellA, 5.6402F);
+  QTest::keyClick(&box("Text1"), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(box("Text1").text().toStdString(), "7.25");
+  EXPECT_EQ(program.state().CellA, 7.25F);
+  for (int i = 0; i < 2; ++i) QTest::keyClick(&box("Text1"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(program.state().NAtom, 0) << "the load is a step, too";
+  EXPECT_EQ(failures, std::vector<std::string>{});
 }
 
 }  // namespace

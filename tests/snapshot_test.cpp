@@ -80,6 +80,9 @@ class SnapshotStorms : public testing::TestWithParam<int> {
 
   /// Runs the operations of a storm, each by itself. @returns what it prints
   std::string storm(std::uint64_t seed) {
+    for (const auto& file : std::filesystem::directory_iterator(folder.path(""))) {
+      if (file.path().filename().string().starts_with("saved")) std::filesystem::remove(file);
+    }
     output.str("");
     services.asked = 0;
     std::istringstream lines(bounded_script(maker.script(seed)));
