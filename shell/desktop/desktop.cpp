@@ -70,6 +70,29 @@ class Desktop::Grave : public QObject {
   std::vector<Shown> shown_;
 };
 
+/// Sees all events of the application: a box of a window does not get the keys of undo and redo, they are the window's.
+class Desktop::UndoKeys : public QObject {
+ public:
+  explicit UndoKeys(Desktop& desktop) : QObject(&desktop), desktop_(desktop) {
+    QCoreApplication::instance()->installEventFilter(this);
+  }
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    if (event->type() != QEvent::ShortcutOverride) return false;
+    const auto* widget = qobject_cast<const QWidget*>(watched);
+    const auto* key = dynamic_cast<const QKeyEvent*>(event);
+    if (widget == nullptr || key == nullptr) return false;
+    const bool undo_key = key->key() == Qt::Key_Z && key->modifiers().testFlag(Qt::ControlModifier);
+    if (!undo_key || !desktop_.shows(*widget->window())) return false;
+    event->ignore();
+    return true;
+  }
+
+ private:
+  const Desktop& desktop_;
+};
+
 Desktop::Desktop(Windows& windows, std::function<void(const std::string&)> failed)
     : windows_(windows),
       failed_(std::move(failed)),
@@ -113,6 +136,11 @@ void Desktop::show_changes() {
   for (const auto& [name, shown] : shown_) shown.binder->show_changes();
 }
 
+bool Desktop::shows(const QWidget& top_level) const {
+  return std::any_of(shown_.begin(), shown_.end(),
+                     [&top_level](const auto& entry) { return entry.second.widget.get() == &top_level; });
+}
+
 Binder* Desktop::binder(const std::string& window_name) const {
   const auto found = shown_.find(window_name);
   return found == shown_.end() ? nullptr : found->second.binder.get();
@@ -146,7 +174,7 @@ void Desktop::offer_guide(QWidget& widget) {
 
 void Desktop::offer_undo(Program& program) {
   program_ = &program;
-  QCoreApplication::instance()->installEventFilter(this);  // boxes would keep these keys for themselves
+  new UndoKeys(*this);
   for (const auto& [name, shown] : shown_) add_undo(*shown.widget);
 }
 
@@ -230,21 +258,7 @@ void Desktop::breathe() {
   since_breath_.start();
 }
 
-/// A box of a window does not see the keys of undo and redo: they are the window's.
-bool Desktop::keeps_undo_keys(const QObject* watched, QEvent& event) const {
-  const auto* widget = qobject_cast<const QWidget*>(watched);
-  if (program_ == nullptr || widget == nullptr) return false;
-  const auto& key = dynamic_cast<QKeyEvent&>(event);
-  const bool undo_key = key.key() == Qt::Key_Z && key.modifiers().testFlag(Qt::ControlModifier);
-  const bool ours = std::any_of(shown_.begin(), shown_.end(),
-                                [widget](const auto& entry) { return entry.second.widget.get() == widget->window(); });
-  if (!undo_key || !ours) return false;
-  event.ignore();
-  return true;
-}
-
 bool Desktop::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride) return keeps_undo_keys(watched, *event);
   const bool closes = event->type() == QEvent::Close;
   if ((!closes && event->type() != QEvent::WindowActivate) || ended()) return QObject::eventFilter(watched, event);
   const auto found = std::find_if(shown_.begin(), shown_.end(),

@@ -62,7 +62,9 @@ class Desktop : public QObject, public WindowView {
     std::unique_ptr<Binder> binder;
   };
   class Grave;
+  class UndoKeys;
 
+  [[nodiscard]] bool shows(const QWidget& top_level) const;
   void offer_guide(QWidget& widget);
   void add_undo(QWidget& widget);
   void go_in_history(bool back);
@@ -70,7 +72,6 @@ class Desktop : public QObject, public WindowView {
   void settle();
   void show_changes();
   void breathe();
-  [[nodiscard]] bool keeps_undo_keys(const QObject* watched, QEvent& event) const;
   void close_by_frame(Window& window);
   void window_activated(Window& window);
 
