@@ -100,7 +100,9 @@ void draw_zone_axes(Canvas& picture, const View& view, const IndexResult::Soluti
       drawn.push_back(uvw);
       const auto at = view.point(direction);
       if (!at || !View::inside(*at)) continue;
-      picture.circle(at->x, at->y, 4, yellow);
+      // A cross: a circle would be filled as the pens of the window say.
+      picture.line(at->x - 5, at->y, at->x + 5, at->y, yellow);
+      picture.line(at->x, at->y - 5, at->x, at->y + 5, yellow);
       const std::string label =
           "[" + std::to_string(uvw[0]) + " " + std::to_string(uvw[1]) + " " + std::to_string(uvw[2]) + "]";
       // Poles are bright: a label has its shadow, or it could not be read there.
