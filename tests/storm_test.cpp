@@ -17,12 +17,6 @@
 #include "fuzz/script_target.h"
 #include "tests/test_files.h"
 
-// What the leak sanitizer asks for at the end: the font library keeps what it allocates once.
-// NOLINTBEGIN(bugprone-reserved-identifier)
-extern "C" const char* __lsan_default_suppressions() { return "leak:libfontconfig"; }
-extern "C" const char* __lsan_default_options() { return "print_suppressions=0"; }
-// NOLINTEND(bugprone-reserved-identifier)
-
 namespace zol::fuzz {
 namespace {
 
