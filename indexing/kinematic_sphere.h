@@ -14,7 +14,7 @@ namespace zol {
 struct StripShape {
   double softness = 0.2;      ///< width of the slope at the edge, in Bragg angles
   double edge_depth = 1.6;    ///< of the dark line outside the edge, as a share of the strip's brightness
-  double edge_width = 0.25;    ///< of that line, in Bragg angles
+  double edge_width = 0.25;   ///< of that line, in Bragg angles
   double weight_power = 0.7;  ///< of the square of the structure factor
 };
 
