@@ -207,7 +207,7 @@ void BandDetection::pick(const DetectionSettings& settings) {
         }
       }
       if (!highest) continue;
-      const double h = static_cast<double>(here);
+      const auto h = static_cast<double>(here);
       const auto near = [this, azimuth, place](int da, int dp) {
         return static_cast<double>(response(azimuth + da, place + dp));
       };

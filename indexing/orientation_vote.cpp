@@ -13,6 +13,7 @@ namespace {
 constexpr double radians = std::numbers::pi / 180;
 constexpr int map_size = 129;
 constexpr double map_middle = 64;
+constexpr double map_nearest = map_middle + 0.5;  ///< cut off, it gives the nearest point
 constexpr double map_scale = 62;
 constexpr double map_reach_deg = 6;
 constexpr double least_angle_deg = 12;  ///< between two planes that give an orientation
@@ -85,8 +86,8 @@ VoteTable::VoteTable(const ReflectorSet& reflectors, const std::vector<bool>& fa
 
 int VoteTable::nearest(const Vector3& direction) const {
   const double per = (direction[2] < 0 ? -map_scale : map_scale) / (1 + std::abs(direction[2]));
-  const auto column = static_cast<int>(direction[0] * per + map_middle + 0.5);
-  const auto row = static_cast<int>(direction[1] * per + map_middle + 0.5);
+  const auto column = static_cast<int>(direction[0] * per + map_nearest);
+  const auto row = static_cast<int>(direction[1] * per + map_nearest);
   return map_[index(row * map_size + column)];
 }
 

@@ -66,7 +66,7 @@ struct Answers : ScriptServices {
 };
 
 /// A program whose user goes on behind what would end it.
-class SnapshotStorms : public testing::TestWithParam<int> {
+class SnapshotStorms : public testing::TestWithParam<std::uint64_t> {
  protected:
   SnapshotStorms() {
     for (const auto* file : {"data/ZOLDATA/NaCl.cry", "data/ZOLDATA/Quartz.cry", "examples/silicon-pattern.bmp"}) {
@@ -112,9 +112,9 @@ class SnapshotStorms : public testing::TestWithParam<int> {
 // What is put back says what it said, and whatever is done to it then gives the same again.
 TEST_P(SnapshotStorms, ArePutBackAndRepeatThemselves) {
   const char* given = std::getenv("ZOL_SNAPSHOT_STORMS");  // NOLINT(concurrency-mt-unsafe): one thread
-  const int seeds = given == nullptr ? 5 : std::max(1, std::atoi(given) / 8);
-  for (int i = 0; i < seeds; ++i) {
-    const auto seed = static_cast<std::uint64_t>(3 * (GetParam() * seeds + i) + 50000);
+  const std::uint64_t seeds = given == nullptr ? 5 : std::max<std::uint64_t>(1, std::strtoull(given, nullptr, 10) / 8);
+  for (std::uint64_t i = 0; i < seeds; ++i) {
+    const std::uint64_t seed = 3 * (GetParam() * seeds + i) + 50000;
     SCOPED_TRACE(seed);
     (void)storm(seed);
     const auto snapshot = program.snapshot();
@@ -126,7 +126,7 @@ TEST_P(SnapshotStorms, ArePutBackAndRepeatThemselves) {
     ASSERT_TRUE(same_work(*snapshot, *snapshot));
   }
 }
-INSTANTIATE_TEST_SUITE_P(Parts, SnapshotStorms, testing::Range(0, 8));
+INSTANTIATE_TEST_SUITE_P(Parts, SnapshotStorms, testing::Range<std::uint64_t>(0, 8));
 
 }  // namespace
 }  // namespace zol::fuzz

@@ -138,7 +138,7 @@ void keep_result(AutoIndexForm& form, std::span<const std::shared_ptr<const Crys
 std::vector<std::shared_ptr<const CrystalModel>> index_picture(Workbench& bench, AutoIndexForm& form,
                                                                const PictureView& picture) {
   const IndexSettings settings = settings_of(form);
-  const auto models = crystal_models(bench, form);
+  auto models = crystal_models(bench, form);
   const Pattern3Form& pattern = pattern3(bench);
   const DetectorAngles angles{Val(pattern.Text3.text()), Val(pattern.Text14.text()), Val(pattern.Text15.text())};
   if (!(angles.half_width_deg > 0 && angles.half_width_deg < 89)) {
