@@ -55,6 +55,15 @@ TEST_F(Main1Test, StructuresAreSavedAndOpenedOrRefused) {
   services.answers = {folder.path("salt.cif")};
   form().ImportStructure.click();
 
+  for (const auto& [number, axes] : {std::pair(255, "abc"), std::pair(225, "cba")}) {
+    state.SGNumber = number;
+    state.AxisSetting = axes;
+    form().ExportStructure.click();
+    EXPECT_TRUE(services.messages.back().starts_with("there are no operators of space group ")) << number;
+  }
+  state.SGNumber = 225;
+  state.AxisSetting = "abc";
+
   form().Text18.set_text("99999");  // a fixed index that is no Integer
   services.answers = {ZOL_SOURCE_DIR "/examples/cif/quartz.cif"};
   form().ImportStructure.click();

@@ -12,6 +12,7 @@
 
 #include "core/read_file.h"
 #include "core/run_failure.h"
+#include "kikuchi/window/pattern2_form.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
 
@@ -109,6 +110,20 @@ TEST(Script, TakesTheWordsThatTheGuideTells) {
     }
   }
   EXPECT_EQ(names.size(), 25U);
+}
+
+// A text of a picture is quoted so that it can be read back as a word.
+TEST(Script, QuotesTextsOfPictures) {
+  std::ostringstream output;
+  ScriptServices services(output, nullptr);
+  Program program({ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services);
+  program.start();
+  program.windows().use<Pattern2Form>().Picture1.print(R"(a "b" \ c)");
+  std::istringstream script("print Pattern2.Picture1\n");
+  ScriptDriver(program, services, output).run(script);
+  EXPECT_TRUE(output.str().ends_with(R"("a \"b\" \\ c")"
+                                     "\n"))
+      << output.str();
 }
 
 // What scripts of users may print and call, by given names.
