@@ -184,6 +184,18 @@ TEST_F(AutoIndexTest, WhatIsMissingIsToldAndTheRunGoesOn) {
   load_picture();
   EXPECT_EQ(message_of(form().Index), "");
   EXPECT_LT(error_deg(), 0.1);
+
+  // A failure leaves what was found; a centre that is none leaves the boxes.
+  load_picture(folder.path("blank.png"));
+  EXPECT_NE(message_of(form().Index), "");
+  EXPECT_LT(error_deg(), 0.1);
+  for (const auto* centre : {"bruker 0.5 0.5", "bruker a 0.5 0.6", "bruker 0.5 0.5 0", "bruker 40 0.5 0.6"}) {
+    services.answers = {centre};
+    services.messages.clear();
+    form().MakerCentre.click();
+    EXPECT_EQ(services.messages.size(), 1U) << centre;
+    EXPECT_EQ(pattern().Text3.text(), "33") << centre;
+  }
 }
 
 }  // namespace

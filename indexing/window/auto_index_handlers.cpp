@@ -1,3 +1,4 @@
+#include <cmath>
 #include <numbers>
 #include <utility>
 
@@ -121,20 +122,21 @@ void show_result(Workbench& bench, AutoIndexForm& form) {
                           Format(best->found.confidence, "0.00"));
 }
 
-void keep_result(AutoIndexForm& form, std::span<const std::shared_ptr<const CrystalModel>> models,
-                 std::span<const IndexSolution> solutions, const IndexSettings& settings) {
+/// What was found, with the crystals that it belongs to.
+void keep_result(const AutoIndexForm& form, IndexResult& result,
+                 std::span<const std::shared_ptr<const CrystalModel>> models, std::span<const IndexSolution> solutions,
+                 const IndexSettings& settings) {
   const auto bands = form.indexer.bands();
-  form.result.bands.assign(bands.begin(), bands.end());
-  form.result.solutions.clear();
-  form.result.picked = 0;
+  result.bands.assign(bands.begin(), bands.end());
   for (const IndexSolution& solution : solutions) {
     const auto model = std::find_if(models.begin(), models.end(),
                                     [&solution](const auto& known) { return known.get() == solution.model; });
-    form.result.solutions.push_back({*model, solution, form.indexer.matches(solution, settings.vote.tolerance_deg)});
+    result.solutions.push_back({*model, solution, form.indexer.matches(solution, settings.vote.tolerance_deg)});
   }
 }
 
-/// Indexes the picture with the centre that the boxes of PATTERN3 tell. @returns the models that were tried
+/// Indexes the picture with the centre that the boxes of PATTERN3 tell. Where that fails, the result before it stands.
+/// @returns the models that were tried
 std::vector<std::shared_ptr<const CrystalModel>> index_picture(Workbench& bench, AutoIndexForm& form,
                                                                const PictureView& picture) {
   const IndexSettings settings = settings_of(form);
@@ -145,15 +147,16 @@ std::vector<std::shared_ptr<const CrystalModel>> index_picture(Workbench& bench,
     throw RunFailure("the half angle of PATTERN3, Area (deg.), is " + plain_text(angles.half_width_deg) +
                      "; it must lie between 0 and 89");
   }
-  form.result = {};
-  form.result.number = ++form.indexings;
-  form.result.size = {picture.width, picture.height, 1};
-  form.result.centre = centre_of(angles, form.result.size);
+  IndexResult result;
+  result.number = ++form.indexings;
+  result.size = {picture.width, picture.height, 1};
+  result.centre = centre_of(angles, result.size);
   std::vector<const CrystalModel*> plain;
   plain.reserve(models.size());
   for (const auto& model : models) plain.push_back(model.get());
-  const auto solutions = form.indexer.index(picture, form.result.centre, plain, settings);
-  keep_result(form, models, solutions, settings);
+  const auto solutions = form.indexer.index(picture, result.centre, plain, settings);
+  keep_result(form, result, models, solutions, settings);
+  form.result = std::move(result);
   return models;
 }
 
@@ -221,6 +224,11 @@ PatternCentre typed_centre(const std::string& text, PictureSize size) {
   if (!(centre.z > 0.05 && centre.z < 20 && size.pixel_micrometre > 0)) {
     throw RunFailure("the specimen would stand " + plain_text(centre.z) +
                      " widths from the screen; expected are 0.05 to 20");
+  }
+  constexpr double most_off = 3;  // widths: beyond, a number stands in the wrong place or unit
+  if (!(std::abs(centre.x) < most_off && std::abs(centre.y) < most_off)) {
+    throw RunFailure("the pattern centre would lie " + plain_text(centre.x) + ", " + plain_text(centre.y) +
+                     " widths from the upper left corner; expected are less than 3");
   }
   return upside_down(centre, size);
 }
@@ -330,8 +338,9 @@ void SaveSimulated_Click(Workbench& bench, AutoIndexForm& form) {
   attempt(bench, form, [&] {
     picked_solution(form);
     form.CommonDialog1.set_filter(file_filters::bitmaps);
-    const std::string path = form.CommonDialog1.save(FileKind::Picture, {".bmp"});
-    if (!path.empty()) form.Simulated.save_stored_image(NameEnding{".bmp", true}.added_to(path));
+    const NameEnding ending{".bmp", true};
+    const std::string path = form.CommonDialog1.save(FileKind::Picture, ending);
+    if (!path.empty()) form.Simulated.save_stored_image(ending.added_to(path));
   });
 }
 
