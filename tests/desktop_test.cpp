@@ -342,6 +342,9 @@ TEST_F(DesktopTest, StepsAreUndoneByKeysAndNamedInTheMenu) {
   QTest::keyClick(&box("Text1"), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
   EXPECT_EQ(box("Text1").text().toStdString(), "7.25");
   EXPECT_EQ(program.state().CellA, 7.25F);
+  QTest::keyClick(&box("Text1"), Qt::Key_Z, Qt::ControlModifier);
+  QTest::keyClicks(&box("Text1"), "1");
+  EXPECT_EQ(undo_text(), "Undo a= " + box("Text1").text().toStdString()) << "what follows an undo is a step again";
   for (int i = 0; i < 2; ++i) QTest::keyClick(&box("Text1"), Qt::Key_Z, Qt::ControlModifier);
   EXPECT_EQ(program.state().NAtom, 0) << "the load is a step, too";
   EXPECT_EQ(failures, std::vector<std::string>{});

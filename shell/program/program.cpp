@@ -34,7 +34,10 @@ std::function<void()> Program::keep() {
 }
 
 void Program::watch(EventGate& gate) {
-  gate.set_keep([this] { return keep(); });
+  gate.set_keep([this] {
+    went_back_ = false;
+    return keep();
+  });
   gate.set_done([this](const UserEvent& event) {
     if (std::exchange(went_back_, false)) return;
     const auto before = last_;  // taken as the event began
