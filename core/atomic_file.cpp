@@ -55,7 +55,7 @@ std::optional<int> own_descriptor(const std::string& path) {
 bool copy_attributes(const std::string& from, int to) {
   (void)fremovexattr(to, "system.posix_acl_access");  // what the folder gives to new files
   const ssize_t size = listxattr(from.c_str(), nullptr, 0);
-  if (size <= 0) return size == 0 || errno == ENOTSUP;
+  if (size < 0) return errno == ENOTSUP;
   std::string names(static_cast<std::size_t>(size), '\0');
   if (listxattr(from.c_str(), names.data(), names.size()) != size) return false;
   for (std::size_t at = 0; at < names.size(); at += std::strlen(names.c_str() + at) + 1) {

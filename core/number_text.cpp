@@ -7,32 +7,24 @@
 namespace zol {
 namespace {
 
-bool is_digit(char c) { return c >= '0' && c <= '9'; }
-
 /// Length of the longest number at the head of a text, 0 when there is none.
 std::size_t number_length(std::string_view text) {
-  std::size_t at = 0;
-  if (at < text.size() && (text[at] == '+' || text[at] == '-')) ++at;
-  const std::size_t whole = at;
-  while (at < text.size() && is_digit(text[at])) ++at;
-  std::size_t digits = at - whole;
-  if (at < text.size() && text[at] == '.') {
-    const std::size_t fraction = at + 1;
-    std::size_t end = fraction;
-    while (end < text.size() && is_digit(text[end])) ++end;
-    digits += end - fraction;
-    at = end;
-  }
-  if (digits == 0) return 0;
-  if (at < text.size() && (text[at] == 'e' || text[at] == 'E' || text[at] == 'd' || text[at] == 'D')) {
-    std::size_t exponent = at + 1;
-    if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
-    if (exponent < text.size() && is_digit(text[exponent])) {
-      while (exponent < text.size() && is_digit(text[exponent])) ++exponent;
-      at = exponent;
-    }
-  }
-  return at;
+  const auto after_digits = [text](std::size_t from) {
+    return std::min(text.find_first_not_of("0123456789", from), text.size());
+  };
+  const auto after_one_of = [text](std::string_view characters, std::size_t from) {
+    return text.substr(from, 1).find_first_of(characters) == 0 ? from + 1 : from;
+  };
+  const std::size_t whole = after_one_of("+-", 0);
+  const std::size_t point = after_digits(whole);
+  const std::size_t fraction = after_one_of(".", point);
+  const std::size_t end = after_digits(fraction);
+  if (point == whole && end == fraction) return 0;
+  const std::size_t letter = after_one_of("eEdD", end);
+  if (letter == end) return end;
+  const std::size_t exponent = after_one_of("+-", letter);
+  const std::size_t last = after_digits(exponent);
+  return last == exponent ? end : last;
 }
 
 /// Power of ten of the leading digit of a number in text form; only its sign and rough size matter.
@@ -81,7 +73,7 @@ Decimal from_scientific(std::string_view text) {
   }
   const std::size_t e = text.find('e');
   for (const char c : text.substr(0, e)) {
-    if (is_digit(c)) result.digits += c;
+    if (c >= '0' && c <= '9') result.digits += c;
   }
   std::string_view exponent = text.substr(e + 1);
   if (exponent.front() == '+') exponent.remove_prefix(1);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
 
@@ -74,6 +76,11 @@ TEST_P(CanvasLayers, AreStoredImageAndOverlay) {
     EXPECT_EQ(canvas.stored_image().pixel(place, place), colour) << place;
   }
   EXPECT_EQ(canvas.point(6, 6), 77);
+  canvas.save_stored_image("stored");
+  canvas.save_image_with_overlay("both");
+  auto& files = FakeSurface::saved();
+  EXPECT_EQ((std::array{files["stored"][{50, 50}], files["stored"][{60, 60}]}), (std::array{red, 0}));
+  EXPECT_EQ((std::array{files["both"][{50, 50}], files["both"][{60, 60}]}), (std::array{red, 77}));
   EXPECT_EQ(canvas.point(1, 2), 12345);
   canvas.clear();
   EXPECT_TRUE(canvas.drawing().empty());

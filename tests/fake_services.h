@@ -63,7 +63,14 @@ class FakeSurface : public Surface {
     width_ = height_ = 2;
     for (int i = 0; i < 4; ++i) set_pixel(i % 2, i / 2, 100 + i);
   }
-  void save_bitmap(const std::string& /*path*/) const override {}
+  void save_bitmap(const std::string& path) const override { saved()[path] = pixels_; }
+
+  using Pixels = std::map<std::pair<int, int>, Colour>;
+  /// What was saved, by the path.
+  static std::map<std::string, Pixels>& saved() {
+    static std::map<std::string, Pixels> files;
+    return files;
+  }
 
   double last_radius = 0;
 
@@ -75,7 +82,7 @@ class FakeSurface : public Surface {
   int width_;
   int height_;
   std::optional<Colour> background_;
-  std::map<std::pair<int, int>, Colour> pixels_;
+  Pixels pixels_;
 };
 
 class FakeServices : public Services {

@@ -15,3 +15,7 @@ print PATTERN3.Label8
 print PATTERN3.Text2
 print Module1.RefH(1)
 print Module1.RefI(1)
+echo the table comes back with as many lines
+click Main1.Command15
+click InputJCPDS.Command1
+print Main1.Label31

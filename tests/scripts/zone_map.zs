@@ -106,3 +106,10 @@ set Pattern2.Text14 30.000075
 set CameraParameters.Text1 60
 click Zaxis.Check3
 print Pattern2.Picture1
+echo the shift down counts whatever its sign: 60 and 29 degrees reach farther than 60
+click Zaxis.Check3
+set Pattern2.Text14 0
+set Pattern2.Text15 -29
+click Pattern2.Command8
+click Zaxis.Check3
+print Pattern2.Picture1
