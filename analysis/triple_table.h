@@ -6,6 +6,7 @@
 #include <optional>
 #include <span>
 #include <string_view>
+#include <tuple>
 #include <vector>
 
 #include "core/crystal_state.h"
@@ -52,6 +53,11 @@ class TripleTable {
   };
   TripleTable() = default;
   bool operator==(const TripleTable&) const = default;
+  /// All of it, to be written and read.
+  static auto parts(auto& table) {
+    return std::tie(table.planes_, table.angles_, table.indices_and_angles_, table.lengths_and_intensities_);
+  }
+  [[nodiscard]] bool sound() const { return angles_.size() == planes_.size() * planes_.size(); }
   /// All four tables.
   /// @param angles  degrees between reflections a and b at a N + b, both from 0
   /// @throws RunFailure  the triples need more rows

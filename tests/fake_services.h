@@ -64,6 +64,23 @@ class FakeSurface : public Surface {
     for (int i = 0; i < 4; ++i) set_pixel(i % 2, i / 2, 100 + i);
   }
   void save_bitmap(const std::string& path) const override { saved()[path] = pixels_; }
+  void store(StoreWriter& out) const override {
+    for (const int side : {width_, height_}) out.number(side);
+    zol::store(out, background_);
+    out.count(pixels_.size());
+    for (const auto& [place, colour] : pixels_) {
+      for (const int number : {place.first, place.second, colour}) out.number(number);
+    }
+  }
+  void load(StoreReader& in) override {
+    width_ = in.number<int>();
+    height_ = in.number<int>();
+    background_ = zol::load<std::optional<Colour>>(in);
+    for (std::size_t left = in.count(); left > 0; --left) {
+      const auto [x, y, colour] = zol::load<std::array<int, 3>>(in);
+      pixels_[{x, y}] = colour;
+    }
+  }
 
   using Pixels = std::map<std::pair<int, int>, Colour>;
   /// What was saved, by the path.

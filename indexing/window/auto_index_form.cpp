@@ -1,5 +1,10 @@
 #include "indexing/window/auto_index_form.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <utility>
+
 #include "core/number_text.h"
 
 namespace zol {
@@ -13,7 +18,139 @@ Rotation orientation(const IndexResult& result) {
   return solution != nullptr ? solution->found.crystal_from_picture : Rotation(Rotation::Zero());
 }
 
+template <class Matrix>
+void store_matrix(StoreWriter& out, const Matrix& matrix) {
+  out.raw(matrix.data(), sizeof(double) * static_cast<std::size_t>(matrix.size()));
+}
+
+template <class Matrix>
+void load_matrix(StoreReader& in, Matrix& matrix) {
+  const std::size_t bytes = sizeof(double) * static_cast<std::size_t>(matrix.size());
+  std::memcpy(matrix.data(), in.raw(bytes).data(), bytes);
+  if (!matrix.allFinite()) StoreReader::fail("an orientation is none");
+}
+
+void store_reflectors(StoreWriter& out, const ReflectorSet& set) {
+  store(out, set.cell);
+  store(out, set.families);
+  out.count(set.members.size());
+  for (const Reflector& member : set.members) {
+    store(out, member.hkl);
+    store_matrix(out, member.normal);
+    out.number(member.family);
+  }
+  out.count(set.symmetry.size());
+  for (const Rotation& rotation : set.symmetry) store_matrix(out, rotation);
+}
+
+/// Whether the members stand family by family, and are planes.
+bool fit_together(const ReflectorSet& set) {
+  std::size_t next = 0;
+  for (std::size_t number = 0; number < set.families.size(); ++number) {
+    const ReflectorFamily& family = set.families[number];
+    if (family.first != static_cast<int>(next) || family.count < 1 || set.members.size() - next < static_cast<std::size_t>(family.count)) return false;
+    if (!(family.weight > 0 && std::isfinite(family.weight) && family.bragg_rad > 0 && family.bragg_rad < 2)) return false;
+    for (int i = 0; i < family.count; ++i, ++next) {
+      constexpr double rounding = 1e-6;
+      const Reflector& member = set.members[next];
+      if (member.family != static_cast<int>(number) || !(std::abs(member.normal.norm() - 1) < rounding)) return false;
+    }
+  }
+  return next == set.members.size() && !set.symmetry.empty();
+}
+
+ReflectorSet load_reflectors(StoreReader& in) {
+  ReflectorSet set;
+  set.cell = load<CellConstants>(in);
+  set.families = load<std::vector<ReflectorFamily>>(in);
+  for (std::size_t left = in.count(); left > 0; --left) {
+    Reflector member;
+    member.hkl = load<std::array<int, 3>>(in);
+    load_matrix(in, member.normal);
+    member.family = in.number<int>();
+    set.members.push_back(member);
+  }
+  for (std::size_t left = in.count(); left > 0; --left) load_matrix(in, set.symmetry.emplace_back());
+  if (!fit_together(set)) StoreReader::fail("the planes of a crystal don't fit together");
+  return set;
+}
+
+std::shared_ptr<const CrystalModel> load_model(StoreReader& in) {
+  std::string title = in.text();
+  ReflectorSet reflectors = load_reflectors(in);
+  auto used = load<std::vector<bool>>(in);
+  QuietTask task;
+  return std::make_shared<const CrystalModel>(
+      make_crystal_model(std::move(title), std::move(reflectors), std::move(used), nullptr, task));
+}
+
 }  // namespace
+
+int IndexResult::next_number() {
+  static int last = 0;
+  return ++last;
+}
+
+void Stored<IndexResult>::store(StoreWriter& out, const IndexResult& result) {
+  zol::store(out, result.size);
+  zol::store(out, result.centre);
+  zol::store(out, result.bands);
+  out.number(std::uint64_t{result.picked});
+  std::vector<const CrystalModel*> models;  // each once
+  for (const auto& solution : result.solutions) {
+    if (std::find(models.begin(), models.end(), solution.model.get()) == models.end()) {
+      models.push_back(solution.model.get());
+    }
+  }
+  out.count(models.size());
+  for (const CrystalModel* model : models) {
+    out.text(model->title);
+    store_reflectors(out, model->reflectors);
+    zol::store(out, model->families_used);
+  }
+  out.count(result.solutions.size());
+  for (const auto& solution : result.solutions) {
+    out.number(static_cast<std::uint32_t>(std::find(models.begin(), models.end(), solution.model.get()) - models.begin()));
+    const IndexSolution& found = solution.found;
+    store_matrix(out, found.crystal_from_picture);
+    out.number(found.matched);
+    for (const double number : {found.mean_deviation_deg, found.votes, found.correlation, found.confidence}) {
+      out.number(number);
+    }
+    zol::store(out, solution.matches);
+  }
+}
+
+IndexResult Stored<IndexResult>::load(StoreReader& in) {
+  IndexResult result;
+  result.size = zol::load<PictureSize>(in);
+  result.centre = zol::load<PatternCentre>(in);
+  result.bands = zol::load<std::vector<DetectedBand>>(in);
+  result.picked = in.number<std::uint64_t>();
+  std::vector<std::shared_ptr<const CrystalModel>> models;
+  for (std::size_t left = in.count(); left > 0; --left) models.push_back(load_model(in));
+  for (std::size_t left = in.count(); left > 0; --left) {
+    const auto number = in.number<std::uint32_t>();
+    if (number >= models.size()) StoreReader::fail("an orientation is of no crystal");
+    IndexResult::Solution solution;
+    solution.model = models[number];
+    solution.found.model = solution.model.get();
+    load_matrix(in, solution.found.crystal_from_picture);
+    solution.found.matched = in.number<int>();
+    for (double* value : {&solution.found.mean_deviation_deg, &solution.found.votes, &solution.found.correlation,
+                          &solution.found.confidence}) {
+      *value = in.number<double>();
+    }
+    solution.matches = zol::load<std::vector<MatchedBand>>(in);
+    const auto planes = static_cast<int>(solution.model->table->planes().size());
+    const bool fits = solution.matches.size() == result.bands.size() &&
+                      std::all_of(solution.matches.begin(), solution.matches.end(),
+                                  [planes](const MatchedBand& match) { return match.plane >= -1 && match.plane < planes; });
+    if (!fits) StoreReader::fail("the bands of an orientation are others");
+    result.solutions.push_back(std::move(solution));
+  }
+  return result;
+}
 
 AutoIndexForm::AutoIndexForm(Workbench& bench)
     : Window(window_name, "AUTOMATIC INDEXING"),

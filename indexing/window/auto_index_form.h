@@ -31,11 +31,21 @@ struct IndexResult {
   std::vector<DetectedBand> bands;
   std::vector<Solution> solutions;
   std::size_t picked = 0;
-  int number = 0;  ///< of the indexing: results with the same one are the same
+  int number = next_number();  ///< of the indexing: results with the same one are the same
+  /// Another one at each call.
+  [[nodiscard]] static int next_number();
   [[nodiscard]] bool operator==(const IndexResult& other) const {
     return number == other.number && picked == other.picked;
   }
   [[nodiscard]] const Solution* solution() const { return picked < solutions.size() ? &solutions[picked] : nullptr; }
+};
+
+/// What was found, and of the crystals what they are made of; loading makes them ready again, and gives the result a
+/// number of its own.
+template <>
+struct Stored<IndexResult> {
+  static void store(StoreWriter& out, const IndexResult& result);
+  static IndexResult load(StoreReader& in);
 };
 
 struct AutoIndexForm : Window {
@@ -86,7 +96,6 @@ struct AutoIndexForm : Window {
   // Made again where they are missing
   std::vector<ReadyCrystal> ready;
   PatternIndexer indexer;
-  int indexings = 0;  ///< so far
 
  private:
   void name_fields();

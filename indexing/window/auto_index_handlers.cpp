@@ -148,7 +148,6 @@ std::vector<std::shared_ptr<const CrystalModel>> index_picture(Workbench& bench,
                      "; it must lie between 0 and 89");
   }
   IndexResult result;
-  result.number = ++form.indexings;
   result.size = {picture.width, picture.height, 1};
   result.centre = centre_of(angles, result.size);
   std::vector<const CrystalModel*> plain;

@@ -1,7 +1,9 @@
 #include "shell/desktop/qt_surface.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <cstring>
 #include <iterator>
 #include <string_view>
 
@@ -119,6 +121,75 @@ std::vector<float> grey_values(const QImage& image) {
   return values;
 }
 
+/// Of all pixels that are opaque and grey a byte each will do.
+bool is_plain_grey(const QImage& image) {
+  if (image.format() != QImage::Format_ARGB32_Premultiplied) return false;
+  for (int y = 0; y < image.height(); ++y) {
+    const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+    if (!std::all_of(row, row + image.width(), [](QRgb pixel) { return pixel == qRgb(qRed(pixel), qRed(pixel), qRed(pixel)); })) {
+      return false;
+    }
+  }
+  return true;
+}
+
+std::size_t bytes_of_row(const QImage& image) {
+  return static_cast<std::size_t>(image.width()) * static_cast<std::size_t>(image.depth()) / 8;
+}
+
+void store_image(StoreWriter& out, const QImage& image) {
+  const bool grey = is_plain_grey(image);
+  for (const int number : {image.width(), image.height(), static_cast<int>(image.format())}) out.number(number);
+  store(out, grey);
+  std::string bytes;
+  for (int y = 0; y < image.height(); ++y) {
+    const uchar* row = image.constScanLine(y);
+    if (!grey) {
+      out.raw(row, bytes_of_row(image));
+      continue;
+    }
+    const auto* pixels = reinterpret_cast<const QRgb*>(row);
+    bytes.resize(static_cast<std::size_t>(image.width()));
+    std::transform(pixels, pixels + image.width(), bytes.begin(),
+                   [](QRgb pixel) { return static_cast<char>(qRed(pixel)); });
+    out.raw(bytes.data(), bytes.size());
+  }
+}
+
+QImage load_image(StoreReader& in) {
+  const auto [width, height, format] = load<std::array<int, 3>>(in);
+  const bool grey = load<bool>(in);
+  const auto within = [](int side) { return side >= 1 && side <= most_picture_side; };
+  if (!within(width) || !within(height) || qint64{width} * height > qint64{most_picture_pixels} ||
+      (format != QImage::Format_ARGB32_Premultiplied && format != QImage::Format_Grayscale16 &&
+       format != QImage::Format_RGBA64_Premultiplied)) {
+    StoreReader::fail("a picture has " + std::to_string(width) + " x " + std::to_string(height) + " pixels of depth " +
+                      std::to_string(format));
+  }
+  // The bytes come before the memory for them.
+  const std::size_t pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+  const auto bytes = in.raw(grey ? pixels : pixels * static_cast<std::size_t>(QImage::toPixelFormat(static_cast<QImage::Format>(format)).bitsPerPixel()) / 8);
+  QImage image(width, height, static_cast<QImage::Format>(format));
+  if (image.isNull()) throw RunFailure("not enough memory for a picture");
+  const char* from = bytes.data();
+  for (int y = 0; y < height; ++y) {
+    uchar* row = image.scanLine(y);
+    if (!grey) {
+      std::memcpy(row, from, bytes_of_row(image));
+      from += bytes_of_row(image);
+      continue;
+    }
+    if (image.depth() != 32) StoreReader::fail("a grey picture has another depth");
+    auto* row_pixels = reinterpret_cast<QRgb*>(row);
+    std::transform(from, from + width, row_pixels, [](char value) {
+      const int level = static_cast<unsigned char>(value);
+      return qRgb(level, level, level);
+    });
+    from += width;
+  }
+  return image;
+}
+
 }  // namespace
 
 QtSurface::QtSurface(int width, int height) : image_(new_image(width, height)) {}
@@ -207,6 +278,20 @@ GreyPicture QtSurface::grey() const {
                       : deep_.format() == QImage::Format_Grayscale16 ? grey_values<quint16>(deep_)
                                                                      : grey_values<QRgba64>(deep_);
   return {width(), height(), values};
+}
+
+void QtSurface::store(StoreWriter& out) const {
+  store_image(out, image_);
+  zol::store(out, !deep_.isNull());
+  if (!deep_.isNull()) store_image(out, deep_);
+}
+
+void QtSurface::load(StoreReader& in) {
+  QImage image = load_image(in);
+  if (image.format() != QImage::Format_ARGB32_Premultiplied) StoreReader::fail("a picture has another depth");
+  image_ = std::move(image);
+  deep_ = zol::load<bool>(in) ? load_image(in) : QImage();
+  if (!deep_.isNull() && deep_.size() != image_.size()) StoreReader::fail("a picture has two sizes");
 }
 
 void QtSurface::save_bitmap(const std::string& path) const { write_image(image_, path, "BMP"); }

@@ -25,6 +25,8 @@ class QtSurface final : public Surface {
   void load(const std::string& path) override;
   [[nodiscard]] GreyPicture grey() const override;
   void save_bitmap(const std::string& path) const override;
+  void store(StoreWriter& out) const override;
+  void load(StoreReader& in) override;
 
   [[nodiscard]] const QImage& image() const { return image_; }
 

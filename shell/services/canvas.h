@@ -125,6 +125,7 @@ class Canvas : public Control {
 
  protected:
   [[nodiscard]] std::any copied_contents() const override { return contents(); }
+  [[nodiscard]] const ValueKind* contents_kind() const override { return &value_kind<Contents>; }
   void take_contents(const std::any& contents) override { set_contents(std::any_cast<const Contents&>(contents)); }
 
  private:

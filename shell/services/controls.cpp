@@ -29,7 +29,7 @@ std::string Control::described() const {
 }
 
 const std::shared_ptr<const Control::Copy>& Control::copy() const {
-  if (!copy_) copy_ = std::make_shared<const Copy>(Copy{shown_, copied_contents()});
+  if (!copy_) copy_ = std::make_shared<const Copy>(Copy{shown_, copied_contents(), contents_kind()});
   return copy_;
 }
 
@@ -38,6 +38,16 @@ void Control::put_back(const std::shared_ptr<const Copy>& copy) {
   set_shown(copy->shown);
   take_contents(copy->contents);
   copy_ = copy;
+}
+
+void Control::store(StoreWriter& out, const Copy& copy) {
+  zol::store(out, copy.shown);
+  store_kept(out, copy.contents, copy.kind);
+}
+
+std::shared_ptr<const Control::Copy> Control::load(StoreReader& in) const {
+  auto shown = zol::load<Shown>(in);
+  return std::make_shared<const Copy>(Copy{std::move(shown), load_kept(in, contents_kind()), contents_kind()});
 }
 
 void Control::changed() {
@@ -184,6 +194,12 @@ void Slider::set_value(int value) {
   contents_.value = taken;
   changed();
   on_change.fire(described() + " was moved");
+}
+
+bool GridContents::sound() const {
+  const auto within = [](int index, int count) { return index >= 0 && index < count; };
+  return within(row, rows) && within(column, columns) && widths.size() == static_cast<std::size_t>(columns) &&
+         cells.size() == static_cast<std::size_t>(rows) * widths.size();
 }
 
 Grid::Grid(Window& window, std::string name, int rows, int columns)

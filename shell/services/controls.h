@@ -16,6 +16,7 @@
 #include "core/number_text.h"
 #include "core/numbers.h"
 #include "core/run_failure.h"
+#include "shell/services/stored.h"
 
 namespace zol {
 
@@ -115,15 +116,20 @@ class Control {
   struct Copy {
     Shown shown;
     std::any contents;
+    const ValueKind* kind = nullptr;  ///< of the contents; none where there are none
   };
   [[nodiscard]] const std::shared_ptr<const Copy>& copy() const;
   /// Takes a copy of a control of the same kind. @throws std::bad_any_cast  it is of another kind
   void put_back(const std::shared_ptr<const Copy>& copy);
+  static void store(StoreWriter& out, const Copy& copy);
+  /// A copy of a control of this kind. @throws RunFailure  the bytes hold none
+  [[nodiscard]] std::shared_ptr<const Copy> load(StoreReader& in) const;
 
  protected:
   void changed();                    ///< tells the view
   void touched() { copy_.reset(); }  ///< something has changed that no view shows
   [[nodiscard]] virtual std::any copied_contents() const { return {}; }
+  [[nodiscard]] virtual const ValueKind* contents_kind() const { return nullptr; }
   virtual void take_contents(const std::any& /*contents*/) {}
 
  private:
@@ -150,12 +156,13 @@ class ControlWith : public Control {
 
  protected:
   [[nodiscard]] std::any copied_contents() const override { return contents_; }
+  [[nodiscard]] const ValueKind* contents_kind() const override { return &value_kind<Contents>; }
   void take_contents(const std::any& contents) override { set_contents(std::any_cast<const Contents&>(contents)); }
   virtual void contents_replaced() {}
   Contents contents_;
 };
 
-// What each kind of control holds.
+// What each kind of control holds. Some of it has to fit together, which is sound() then.
 struct TextBoxContents {
   std::string text;
   bool operator==(const TextBoxContents&) const = default;
@@ -179,14 +186,19 @@ struct ListBoxContents {
   int list_index = -1;
   Colour fore_colour = colours::black;
   bool operator==(const ListBoxContents&) const = default;
+  [[nodiscard]] bool sound() const {
+    return colours.size() == items.size() && list_index >= -1 && list_index < static_cast<int>(items.size());
+  }
 };
 struct ProgressBarContents {
   Single minimum = 0, maximum = 100, value = 0;
   bool operator==(const ProgressBarContents&) const = default;
+  [[nodiscard]] bool sound() const { return std::isfinite(minimum) && std::isfinite(maximum) && std::isfinite(value); }
 };
 struct SliderContents {
   int minimum = 0, maximum = 100, value = 0;
   bool operator==(const SliderContents&) const = default;
+  [[nodiscard]] bool sound() const { return minimum <= maximum; }
 };
 struct GridContents {
   int rows = 0, columns = 0;
@@ -194,6 +206,7 @@ struct GridContents {
   std::vector<std::string> cells;  ///< row by row
   std::vector<int> widths;         ///< of the columns, twips
   bool operator==(const GridContents&) const = default;
+  [[nodiscard]] bool sound() const;
 };
 
 class TextBox : public ControlWith<TextBoxContents> {

@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <tuple>
 #include <variant>
 #include <vector>
 
@@ -61,6 +62,7 @@ struct Pens {
 };
 
 struct Drawing {
+  Drawing() : Drawing(0, 0) {}
   Drawing(int width, int height);
 
   int width_twips, height_twips;  ///< 1440 twips are 96 pixels
@@ -87,6 +89,10 @@ struct Drawing {
   [[nodiscard]] std::optional<UserScale> scale_without_area() const;
 
   bool operator==(const Drawing&) const = default;
+  static auto parts(auto& drawing) {
+    return std::tie(drawing.width_twips, drawing.height_twips, drawing.scale, drawing.list_scale, drawing.x, drawing.y,
+                    drawing.pens, drawing.list);
+  }
 };
 
 }  // namespace zol

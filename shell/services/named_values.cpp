@@ -44,8 +44,25 @@ NamedValues::Copies NamedValues::copies(const Copies& before) const {
 void NamedValues::put_back(const Copies& copies) const {
   for (const auto& [name, copy] : copies) {
     const auto kept = kept_.find(name);
-    if (kept != kept_.end()) kept->second.put_back(*copy);
+    if (kept != kept_.end()) kept->second.put_back(copy->value);
   }
+}
+
+void NamedValues::store(StoreWriter& out, const Copies& copies) {
+  for (const auto& [name, copy] : copies) {
+    out.text(name);
+    store_kept(out, copy->value, copy->kind);
+  }
+}
+
+NamedValues::Copies NamedValues::load(StoreReader& in) const {
+  Copies copies;
+  for (const auto& [name, kept] : kept_) {
+    if (const std::string found = in.text(); found != name) StoreReader::fail("it has " + found + " in place of " + name);
+    copies.emplace_hint(copies.end(), name,
+                        std::make_shared<const KeptValue>(KeptValue{load_kept(in, kept.kind), kept.kind}));
+  }
+  return copies;
 }
 
 }  // namespace zol

@@ -16,6 +16,7 @@
 #include "core/number_text.h"
 #include "core/state_fields.h"
 #include "shell/services/latin1.h"
+#include "shell/services/stored.h"
 
 namespace zol {
 
@@ -29,15 +30,19 @@ template <class Number>
 }
 
 /// A copy of a value that may change. Copies taken one after the other share what has not changed between them.
-using SharedCopy = std::shared_ptr<const std::any>;
+struct KeptValue {
+  std::any value;
+  const ValueKind* kind;
+};
+using SharedCopy = std::shared_ptr<const KeptValue>;
 
 /// A copy of a value, or the earlier one where it is the same.
 template <class Value>
 [[nodiscard]] SharedCopy shared_copy(const Value& value, const SharedCopy& before) {
   static_assert(std::equality_comparable<Value>, "what is kept has to tell whether it has changed");
-  const auto* known = before ? std::any_cast<Value>(before.get()) : nullptr;
+  const auto* known = before ? std::any_cast<Value>(&before->value) : nullptr;
   if (known != nullptr && *known == value) return before;
-  return std::make_shared<const std::any>(value);
+  return std::make_shared<const KeptValue>(KeptValue{value, &value_kind<Value>});
 }
 
 /// Fields and arrays under their names. The values are looked at when asked; they outlive this.
@@ -73,12 +78,12 @@ class NamedValues {
   void add_computed(const std::string& name, int dimensions, std::function<std::string(std::span<const int>)> text) {
     printed_[name] = {dimensions, std::move(text)};
   }
-  /// A value that is copied and put back but has no text.
+  /// A value that is copied and put back but has no text. A file keeps it too: see stored.h.
   template <class Value>
   void keep(const std::string& name, Value& value) {
     static_assert(std::is_copy_assignable_v<Value>);
     kept_[name] = {[&value](const SharedCopy& before) { return shared_copy(value, before); },
-                   [&value](const std::any& copy) { value = std::any_cast<const Value&>(copy); }};
+                   [&value](const std::any& copy) { value = std::any_cast<const Value&>(copy); }, &value_kind<Value>};
   }
 
   /// Number of indices that a name takes; -1 when there is no such name.
@@ -94,6 +99,9 @@ class NamedValues {
   [[nodiscard]] Copies copies(const Copies& before = {}) const;
   /// Takes copies back that these names gave; others are left alone. @throws std::bad_any_cast  a copy of another type
   void put_back(const Copies& copies) const;
+  static void store(StoreWriter& out, const Copies& copies);
+  /// Copies of all that is kept under these names. @throws RunFailure  the bytes hold others
+  [[nodiscard]] Copies load(StoreReader& in) const;
 
  private:
   using Indices = std::span<const int>;
@@ -104,6 +112,7 @@ class NamedValues {
   struct Kept {
     std::function<SharedCopy(const SharedCopy&)> copy;
     std::function<void(const std::any&)> put_back;
+    const ValueKind* kind;
   };
   template <class Value>
   void add(const std::string& name, int dimensions, Value& value, std::function<std::string(Indices)> text) {

@@ -1,8 +1,10 @@
 #include "shell/services/raster.h"
 
 #include <cmath>
+#include <utility>
 #include <variant>
 
+#include "core/run_failure.h"
 #include "shell/services/services.h"
 
 namespace zol {
@@ -39,6 +41,19 @@ void replay(Surface& surface, const Drawing& drawing, bool stored) {
 }
 
 }  // namespace
+
+void Stored<std::shared_ptr<const Surface>>::store(StoreWriter& out, const std::shared_ptr<const Surface>& image) {
+  zol::store(out, image != nullptr);
+  if (image) image->store(out);
+}
+
+std::shared_ptr<const Surface> Stored<std::shared_ptr<const Surface>>::load(StoreReader& in) {
+  if (!zol::load<bool>(in)) return nullptr;
+  auto image = in.services() == nullptr ? nullptr : in.services()->make_surface(1, 1);
+  if (!image) throw RunFailure("there are no pixel images here");
+  image->load(in);
+  return image;
+}
 
 PixelMap::PixelMap(const UserScale& scale, int width, int height)
     : left(scale.left),

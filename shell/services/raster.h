@@ -9,6 +9,7 @@
 
 #include "shell/services/drawing.h"
 #include "shell/services/grey_picture.h"
+#include "shell/services/stored.h"
 
 namespace zol {
 
@@ -43,6 +44,17 @@ class Surface {
   [[nodiscard]] virtual GreyPicture grey() const = 0;
   /// @throws RunFailure  it can't be written
   virtual void save_bitmap(const std::string& path) const = 0;
+  /// All of its pixels, to the bit. @throws RunFailure  the bytes hold no image
+  virtual void store(StoreWriter& out) const = 0;
+  virtual void load(StoreReader& in) = 0;
+};
+
+/// A null pointer too.
+template <>
+struct Stored<std::shared_ptr<const Surface>> {
+  static void store(StoreWriter& out, const std::shared_ptr<const Surface>& image);
+  /// @throws RunFailure  there are no pixels here
+  static std::shared_ptr<const Surface> load(StoreReader& in);
 };
 
 /// User coordinates onto the pixels of a surface.

@@ -51,6 +51,24 @@ void Window::put_back(const Copy& copy) {
   view_->window_changed(*this);
 }
 
+void Window::store(StoreWriter& out, const Copy& copy) {
+  out.text(copy.caption);
+  zol::store(out, copy.mouse_pointer);
+  zol::store(out, copy.visible);
+  NamedValues::store(out, copy.fields);
+  for (const auto& control : copy.controls) Control::store(out, *control);
+}
+
+Window::Copy Window::load(StoreReader& in) const {
+  Copy copy;
+  copy.caption = in.text();
+  copy.mouse_pointer = zol::load<MousePointer>(in);
+  copy.visible = zol::load<bool>(in);
+  copy.fields = fields_.load(in);
+  for (const Control* control : controls_) copy.controls.push_back(control->load(in));
+  return copy;
+}
+
 Control* Window::find(std::string_view control_name) const {
   const auto found = std::find_if(controls_.begin(), controls_.end(),
                                   [control_name](const Control* control) { return control->name() == control_name; });
@@ -119,6 +137,26 @@ void Windows::put_back(const Copies& copies) {
     Window* existing = find(name);
     (existing != nullptr ? *existing : make(name, false)).put_back(copy);
   }
+}
+
+void Windows::store(StoreWriter& out, const Copies& copies) {
+  out.count(copies.size());
+  for (const auto& [name, copy] : copies) {
+    out.text(name);
+    Window::store(out, copy);
+  }
+}
+
+/// Each copy is read by a window of its kind, which stays out of sight.
+Windows::Copies Windows::load(StoreReader& in) const {
+  Copies copies;
+  for (std::size_t left = in.count(); left > 0; --left) {
+    const std::string name = in.text();
+    const auto type = types_.find(name);
+    if (type == types_.end()) StoreReader::fail("there is no window " + name);
+    copies.insert_or_assign(name, type->second.make()->load(in));
+  }
+  return copies;
 }
 
 void Windows::unload(const std::string& name) {

@@ -72,6 +72,9 @@ class Window {
   [[nodiscard]] Copy copy(const Copy* before = nullptr) const;
   /// Takes a copy of this window; no handler runs, the view is told.
   void put_back(const Copy& copy);
+  static void store(StoreWriter& out, const Copy& copy);
+  /// A copy of a window of this kind. @throws RunFailure  the bytes hold none
+  [[nodiscard]] Copy load(StoreReader& in) const;
 
   void add_operation(const std::string& name, std::function<void()> operation) {
     operations_[name] = std::move(operation);
@@ -93,6 +96,9 @@ class Window {
   std::vector<FileDrop> file_drops;       ///< what may be dropped on it
   CommandButton* frame_button = nullptr;  ///< what its frame button clicks; none: the window hides
   std::string beside = {};                ///< the window that it goes with: it comes up beside that one, behind it
+  bool shows_crystal = false;             ///< its title tells which
+  TextBox* crystal_file = nullptr;        ///< the box that holds the path of the present crystal, where it has that
+  bool offers_kept_work = false;          ///< of earlier runs
 
  private:
   friend class Control;
@@ -151,6 +157,9 @@ class Windows {
   /// The windows are as when they were copied: those made since are unloaded, those unloaded since are made again. No
   /// handler runs.
   void put_back(const Copies& copies);
+  static void store(StoreWriter& out, const Copies& copies);
+  /// @throws RunFailure  the bytes hold other windows than these
+  [[nodiscard]] Copies load(StoreReader& in) const;
 
   /// Ends a window; its next use makes a new one. Its handlers may still be running, so that its memory goes later.
   void unload(const std::string& name);
