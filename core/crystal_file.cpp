@@ -31,6 +31,24 @@ void check_count(const RecordReader& file, const char* what, Integer count, int 
             " are allowed");
 }
 
+void write_crystal(RecordText& file, const CrystalState& state) {
+  file.field(state.CellA).field(state.CellB).field(state.CellC);
+  file.field(state.CellAlpha).field(state.CellBeta).field(state.CellGamma);
+  file.field(state.LatticeLetter).field(state.SGNumber).field(state.AxisSetting).end_line();
+  file.field(state.NAtom).end_line();
+  for (int i = 1; i <= state.NAtom.value(); ++i) {
+    file.field(state.AtomLabel(i)).field(state.AtomElement(i)).field(state.AtomOcc(i));
+    file.field(state.AtomPos(i, 1)).field(state.AtomPos(i, 2)).field(state.AtomPos(i, 3));
+    file.field(state.AtomB(i)).end_line();
+  }
+  if (state.NAtom < 1 && state.JcpdsCount >= 1) {
+    file.field(state.JcpdsCount).end_line();
+    for (int i = 1; i <= state.JcpdsCount.value(); ++i) {
+      file.field(state.JcpdsH(i)).field(state.JcpdsK(i)).field(state.JcpdsL(i)).field(state.JcpdsI(i)).end_line();
+    }
+  }
+}
+
 }  // namespace
 
 void CrystalFileReader::read_cell(Main1State& state) {
@@ -64,22 +82,14 @@ bool CrystalFileReader::read_contents(Module1State& state) {
 
 void write_crystal_file(const std::string& path, const CrystalState& state) {
   RecordWriter file(path);
-  file.field(state.CellA).field(state.CellB).field(state.CellC);
-  file.field(state.CellAlpha).field(state.CellBeta).field(state.CellGamma);
-  file.field(state.LatticeLetter).field(state.SGNumber).field(state.AxisSetting).end_line();
-  file.field(state.NAtom).end_line();
-  for (int i = 1; i <= state.NAtom.value(); ++i) {
-    file.field(state.AtomLabel(i)).field(state.AtomElement(i)).field(state.AtomOcc(i));
-    file.field(state.AtomPos(i, 1)).field(state.AtomPos(i, 2)).field(state.AtomPos(i, 3));
-    file.field(state.AtomB(i)).end_line();
-  }
-  if (state.NAtom < 1 && state.JcpdsCount >= 1) {
-    file.field(state.JcpdsCount).end_line();
-    for (int i = 1; i <= state.JcpdsCount.value(); ++i) {
-      file.field(state.JcpdsH(i)).field(state.JcpdsK(i)).field(state.JcpdsL(i)).field(state.JcpdsI(i)).end_line();
-    }
-  }
+  write_crystal(file, state);
   file.commit();
+}
+
+std::string crystal_file_text(const CrystalState& state) {
+  RecordText text;
+  write_crystal(text, state);
+  return text.text();
 }
 
 }  // namespace zol

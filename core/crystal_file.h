@@ -35,5 +35,7 @@ class CrystalFileReader {
 /// Writes the crystal; the observed reflections are stored only when there are no atoms.
 /// @throws RunFailure  the file cannot be written
 void write_crystal_file(const std::string& path, const CrystalState& state);
+/// What that file would hold.
+[[nodiscard]] std::string crystal_file_text(const CrystalState& state);
 
 }  // namespace zol

@@ -45,9 +45,8 @@ void check_size(const std::string& path, std::uintmax_t size, std::size_t most_b
                    std::to_string(most_bytes) + " are taken");
 }
 
-}  // namespace
-
-std::string read_file(const std::string& path, std::size_t most_bytes) {
+/// @param cut  the bytes beyond the most are left, else they are too many
+std::string read_bytes(const std::string& path, std::size_t most_bytes, bool cut) {
   struct stat file {};
   // Looked at before it is opened, since a device may start by that, and once more, for it may be another file by then.
   if (stat(path.c_str(), &file) == 0) check_kind(path, file);
@@ -55,23 +54,31 @@ std::string read_file(const std::string& path, std::size_t most_bytes) {
   if (open_file.descriptor < 0) throw RunFailure("can't open " + path + ": " + std::strerror(errno));
   if (fstat(open_file.descriptor, &file) != 0) throw RunFailure("can't read " + path + ": " + std::strerror(errno));
   check_kind(path, file);
-  check_size(path, static_cast<std::uintmax_t>(file.st_size), most_bytes);
+  if (!cut) check_size(path, static_cast<std::uintmax_t>(file.st_size), most_bytes);
 
   // The size is a guess: files that the system makes up say 0, and another program may be writing.
-  std::string text(static_cast<std::size_t>(file.st_size) + 1, '\0');
+  const auto guess = static_cast<std::size_t>(file.st_size) + 1;
+  std::string text(cut ? std::min(guess, most_bytes) : guess, '\0');
   std::size_t length = 0;
   constexpr std::size_t least_room = 4096;
   for (;;) {
+    if (cut && length == most_bytes) break;
     if (length == text.size()) text.resize(length + std::max(length, least_room));
     const ssize_t count = read(open_file.descriptor, text.data() + length, text.size() - length);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) throw RunFailure("can't read " + path + ": " + std::strerror(errno));
     if (count == 0) break;
     length += static_cast<std::size_t>(count);
-    check_size(path, length, most_bytes);
+    if (!cut) check_size(path, length, most_bytes);
   }
-  text.resize(length);
+  text.resize(cut ? std::min(length, most_bytes) : length);
   return text;
 }
+
+}  // namespace
+
+std::string read_file(const std::string& path, std::size_t most_bytes) { return read_bytes(path, most_bytes, false); }
+
+std::string read_beginning(const std::string& path, std::size_t bytes) { return read_bytes(path, bytes, true); }
 
 }  // namespace zol

@@ -15,4 +15,7 @@ inline constexpr std::size_t most_text_bytes = std::size_t{64} << 20;
 ///                     names the path
 [[nodiscard]] std::string read_file(const std::string& path, std::size_t most_bytes = most_text_bytes);
 
+/// The first bytes of a file, all of a shorter one. @throws RunFailure  as read_file
+[[nodiscard]] std::string read_beginning(const std::string& path, std::size_t bytes);
+
 }  // namespace zol

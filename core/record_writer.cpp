@@ -4,20 +4,25 @@
 
 namespace zol {
 
-RecordWriter& RecordWriter::raw(std::string_view text) {
-  if (line_begun_) file_.write(",");
-  file_.write(text);
+RecordText& RecordText::raw(std::string_view text) {
+  if (line_begun_) text_ += ',';
+  text_ += text;
   line_begun_ = true;
   return *this;
 }
 
-RecordWriter& RecordWriter::field(std::string_view text) { return raw('"' + std::string(text) + '"'); }
-RecordWriter& RecordWriter::field(Single value) { return raw(shortest_text(value)); }
-RecordWriter& RecordWriter::field(Integer value) { return raw(plain_text(value)); }
+RecordText& RecordText::field(std::string_view text) { return raw('"' + std::string(text) + '"'); }
+RecordText& RecordText::field(Single value) { return raw(shortest_text(value)); }
+RecordText& RecordText::field(Integer value) { return raw(plain_text(value)); }
 
-void RecordWriter::end_line() {
-  file_.write("\r\n");
+void RecordText::end_line() {
+  text_ += "\r\n";
   line_begun_ = false;
+}
+
+void RecordWriter::commit() {
+  file_.write(text());
+  file_.commit();
 }
 
 }  // namespace zol

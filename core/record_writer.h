@@ -10,24 +10,32 @@
 
 namespace zol {
 
-/// Writes records: fields separated by a comma without blanks, strings quoted, numbers in their shortest plain form.
-class RecordWriter {
+/// Records: fields separated by a comma without blanks, strings quoted, numbers in their shortest plain form.
+class RecordText {
+ public:
+  RecordText& field(std::string_view text);
+  RecordText& field(Single value);
+  RecordText& field(Integer value);
+  void end_line();
+  [[nodiscard]] const std::string& text() const { return text_; }
+
+ private:
+  RecordText& raw(std::string_view text);
+
+  std::string text_;
+  bool line_begun_ = false;
+};
+
+/// Records that become a file.
+class RecordWriter : public RecordText {
  public:
   /// @throws RunFailure  the file cannot be created
   explicit RecordWriter(std::string path) : file_(std::move(path)) {}
-
-  RecordWriter& field(std::string_view text);
-  RecordWriter& field(Single value);
-  RecordWriter& field(Integer value);
-  void end_line();
   /// Puts the file in its place. @throws RunFailure  it cannot be written
-  void commit() { file_.commit(); }
+  void commit();
 
  private:
-  RecordWriter& raw(std::string_view text);
-
   AtomicFile file_;
-  bool line_begun_ = false;
 };
 
 }  // namespace zol

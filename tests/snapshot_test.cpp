@@ -79,7 +79,8 @@ class SnapshotStorms : public testing::TestWithParam<std::uint64_t> {
   ~SnapshotStorms() override { std::filesystem::current_path(ZOL_SOURCE_DIR); }
 
   /// Runs the operations of a storm, each by itself. @returns what it prints
-  std::string storm(std::uint64_t seed) {
+  std::string storm(std::uint64_t seed) { return storm(program, seed); }
+  std::string storm(Program& in, std::uint64_t seed) {
     for (const auto& file : std::filesystem::directory_iterator(folder.path(""))) {
       if (file.path().filename().string().starts_with("saved")) std::filesystem::remove(file);
     }
@@ -91,22 +92,24 @@ class SnapshotStorms : public testing::TestWithParam<std::uint64_t> {
       if (line.starts_with("answer") || line.starts_with("cancel")) continue;
       std::istringstream operation(line);
       try {
-        ScriptDriver(program, services, output).run(operation);
+        ScriptDriver(in, services, output).run(operation);
       } catch (const RunFailure& failure) {
         output << "failure: " << failure.message() << '\n';
       } catch (const ScriptError& error) {
         output << "script: " << error.what() << '\n';
       }
-      program.windows().free_unloaded();
+      in.windows().free_unloaded();
     }
     return output.str();
   }
+
+  static DataRoot data() { return {ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}; }
 
   ScratchFolder folder;
   StormMaker maker;
   std::ostringstream output;
   Answers services{output};
-  Program program{{ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services};
+  Program program{data(), services};
 };
 
 // What is put back says what it said, and whatever is done to it then gives the same again.
@@ -124,6 +127,31 @@ TEST_P(SnapshotStorms, ArePutBackAndRepeatThemselves) {
     ASSERT_EQ(everything(program), before);
     ASSERT_EQ(storm(seed + 1), first);
     ASSERT_TRUE(same_work(*snapshot, *snapshot));
+  }
+}
+
+// A file of it brings another program to the same point, from where it goes on in the same way; a file that is cut short
+// or has a wrong byte anywhere is refused.
+TEST_P(SnapshotStorms, GoOnInAnotherProgramByAFile) {
+  const std::uint64_t seed = 7 * GetParam() + 90000;
+  (void)storm(seed);
+  const std::string file = bytes_of(program.kept_work(*program.snapshot()));
+  const std::string before = everything(program);
+  const std::string first = storm(seed + 1);
+  Program other(data(), services);
+  other.start();
+  other.restore(other.read_work(file));
+  ASSERT_EQ(everything(other), before);
+  KeptWork again = other.kept_work(*other.snapshot());
+  again.note = other.read_work(file).note;
+  EXPECT_EQ(bytes_of(again), file);
+  ASSERT_EQ(storm(other, seed + 1), first);
+  for (std::size_t i = 0; i < 20; ++i) {
+    const std::size_t place = i < 12 ? 5 * i : file.size() * (i - 11) / 9;
+    EXPECT_THROW((void)other.read_work(file.substr(0, place)), RunFailure) << place;
+    std::string damaged = file;
+    damaged[place] = static_cast<char>(damaged[place] ^ (1 << i % 8));
+    EXPECT_THROW((void)other.read_work(damaged), RunFailure) << place;
   }
 }
 INSTANTIATE_TEST_SUITE_P(Parts, SnapshotStorms, testing::Range<std::uint64_t>(0, 8));

@@ -13,6 +13,7 @@ namespace zol {
 
 struct Pattern3Form : Window {
   static constexpr auto window_name = "PATTERN3";
+  static constexpr bool shows_crystal_data = true;
 
   explicit Pattern3Form(Workbench& bench);
 

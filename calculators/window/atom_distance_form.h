@@ -9,6 +9,7 @@ namespace zol {
 
 struct AtomDistanceForm : Window {
   static constexpr auto window_name = "AtomDistance";
+  static constexpr bool shows_crystal_data = true;
 
   explicit AtomDistanceForm(Workbench& /*bench*/) : Window(window_name, "Atom Distance") {
     fields().add("CellA", cell.CellA);

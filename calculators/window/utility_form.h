@@ -8,6 +8,7 @@ namespace zol {
 
 struct UtilityForm : Window {
   static constexpr auto window_name = "Utility";
+  static constexpr bool shows_crystal_data = true;
 
   explicit UtilityForm(Workbench& bench);
 

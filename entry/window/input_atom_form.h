@@ -9,6 +9,7 @@ namespace zol {
 /// Columns: site name, element, occupancy, x, y, z, B.
 struct InputAtomForm : TableForm {
   static constexpr auto window_name = "InputAtom";
+  static constexpr bool shows_crystal_data = true;
 
   explicit InputAtomForm(Workbench& bench)
       : TableForm(window_name, "Atomic Coodinates", 7), CommonDialog1(*this, bench.services, "CommonDialog1") {}

@@ -9,6 +9,7 @@ namespace zol {
 /// Columns: intensity, h, k, l.
 struct InputJcpdsForm : TableForm {
   static constexpr auto window_name = "InputJCPDS";
+  static constexpr bool shows_crystal_data = true;
 
   explicit InputJcpdsForm(Workbench& /*bench*/) : TableForm(window_name, "JCPDS input", 4) {}
 };

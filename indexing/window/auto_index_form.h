@@ -50,6 +50,7 @@ struct Stored<IndexResult> {
 
 struct AutoIndexForm : Window {
   static constexpr auto window_name = "AutoIndex";
+  static constexpr bool shows_crystal_data = true;
 
   explicit AutoIndexForm(Workbench& bench);
 

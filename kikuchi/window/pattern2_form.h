@@ -8,6 +8,7 @@ namespace zol {
 
 struct Pattern2Form : Window {
   static constexpr auto window_name = "Pattern2";
+  static constexpr bool shows_crystal_data = true;
 
   explicit Pattern2Form(Workbench& bench);
 

@@ -11,6 +11,7 @@ namespace zol {
 
 struct ZaxisForm : Window {
   static constexpr auto window_name = "Zaxis";
+  static constexpr bool shows_crystal_data = true;
 
   explicit ZaxisForm(Workbench& bench)
       : Window(window_name, "Zone Axis"),

@@ -9,6 +9,7 @@ namespace zol {
 
 struct DringForm : Window, PowderPattern {
   static constexpr auto window_name = "Dring";
+  static constexpr bool shows_crystal_data = true;
 
   explicit DringForm(Workbench& bench);
 

@@ -10,6 +10,7 @@ namespace zol {
 
 struct XdForm : Window, PowderPattern {
   static constexpr auto window_name = "Xd";
+  static constexpr bool shows_crystal_data = true;
 
   explicit XdForm(Workbench& bench);
 

@@ -52,6 +52,7 @@ void load_crystal(Workbench& bench, LoadBy by) {
     show_title(bench, form.CommonDialog1.file_title());
   }
   rebuild(bench, form, by);
+  bench.saved_crystal = crystal_file_text(state);
 }
 
 }  // namespace

@@ -8,6 +8,7 @@ namespace zol {
 
 struct Main1Form : Window {
   static constexpr auto window_name = "Main1";
+  static constexpr bool shows_crystal_data = true;
 
   explicit Main1Form(Workbench& bench);
 

@@ -291,6 +291,7 @@ void DATA_SAVE_Click(Workbench& bench, Main1Form& form) {
   form.state.CrystalFile = form.CommonDialog1.save(FileKind::Crystal);
   if (form.state.CrystalFile.empty()) return;
   write_crystal_file(form.state.CrystalFile, form.state);
+  bench.saved_crystal = crystal_file_text(form.state);
   form.Text17.set_text(form.state.CrystalFile);
 }
 

@@ -126,6 +126,8 @@ std::string source_tree() {
   return "";
 }
 
+std::string state_folder() { return user_folder("XDG_STATE_HOME", ".local/state").string(); }
+
 DataPlaces data_places() {
   std::error_code error;
   const fs::path executable = fs::read_symlink("/proc/self/exe", error);

@@ -26,6 +26,9 @@ struct DataPlaces {
 /// @throws RunFailure  a broken zol.conf, or no data anywhere
 [[nodiscard]] DataRoot find_data_root(const DataPlaces& places);
 
+/// The user's folder for what is kept between runs; empty where the system names none.
+[[nodiscard]] std::string state_folder();
+
 /// The places of this executable for this user.
 [[nodiscard]] DataPlaces data_places();
 

@@ -9,7 +9,7 @@ namespace zol {
 struct MainMenuForm : Window {
   static constexpr auto window_name = "MAIN_MENU";
 
-  explicit MainMenuForm(Workbench& /*bench*/) : Window(window_name, "MAIN MENU") {}
+  explicit MainMenuForm(Workbench& /*bench*/) : Window(window_name, "MAIN MENU") { offers_kept_work = true; }
 
   Label Label2{*this, "Label2", "Crystals, diffraction, Kikuchi patterns"};
   CommandButton Command1{*this, "Command1", "New Crystal Registration or Edit Crystal Data "};

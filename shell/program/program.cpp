@@ -1,7 +1,11 @@
 #include "shell/program/program.h"
 
+#include <algorithm>
+#include <array>
+#include <chrono>
 #include <utility>
 
+#include "core/crystal_file.h"
 #include "shell/program/main_menu_form.h"
 #include "shell/program/step_name.h"
 #include "shell/program/window_list.h"
@@ -27,6 +31,49 @@ void Program::put_back(const Snapshot& snapshot) {
   windows_.put_back(snapshot.windows);
   state_fields_.put_back(snapshot.state);
   went_back_ = true;
+  last_ = std::make_shared<const Snapshot>(snapshot);
+  if (changed_) changed_(last_);
+}
+
+void Program::restore(const KeptWork& work) {
+  bench_.saved_crystal = work.saved_crystal;
+  put_back(work.snapshot);
+  went_back_ = false;
+}
+
+KeptWork Program::read_work(std::string_view bytes) {
+  return zol::read_work(bytes, state_fields_, windows_, bench_.services);
+}
+
+KeptWork Program::kept_work(const Snapshot& snapshot) const {
+  using std::chrono::system_clock;
+  WorkNote note{program_version, system_clock::to_time_t(system_clock::now()), crystal_name(), "", RunEnd::Unknown, ""};
+  for (const auto& [name, window] : snapshot.windows) {
+    if (window.visible) note.windows += (note.windows.empty() ? "" : ", ") + name;
+  }
+  return {note, snapshot, bench_.saved_crystal};
+}
+
+std::string Program::crystal_name() const {
+  for (const auto& name : windows_.names()) {
+    const Window* window = windows_.find(name);
+    if (window == nullptr || window->crystal_file == nullptr) continue;
+    const std::string& path = window->crystal_file->text();
+    const std::string file = path.substr(path.rfind('/') + 1);
+    return file.substr(0, file.rfind('.'));
+  }
+  return "";
+}
+
+bool Program::holds_crystal() const {
+  const CrystalState& state = state_;
+  const auto is_set = [](Single constant) { return constant != 0; };
+  const std::array cell{state.CellA, state.CellB, state.CellC, state.CellAlpha, state.CellBeta, state.CellGamma};
+  return std::any_of(cell.begin(), cell.end(), is_set) || state.NAtom > 0 || state.JcpdsCount > 0;
+}
+
+bool Program::crystal_unsaved() const {
+  return holds_crystal() && crystal_file_text(state_) != bench_.saved_crystal;
 }
 
 std::function<void()> Program::keep() {
@@ -36,12 +83,15 @@ std::function<void()> Program::keep() {
 void Program::watch(EventGate& gate) {
   gate.set_keep([this] {
     went_back_ = false;
-    return keep();
+    auto put_back = keep();
+    began_ = last_;
+    return put_back;
   });
   gate.set_done([this](const UserEvent& event) {
     if (std::exchange(went_back_, false)) return;
-    const auto before = last_;  // taken as the event began
+    const auto before = began_;
     auto after = snapshot();
+    if (changed_) changed_(after);
     if (same_work(*before, *after)) return;
     const auto step = step_of(event, windows_);
     history_.note(step.name, step.key, before, std::move(after));

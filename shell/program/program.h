@@ -4,10 +4,13 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "core/crystal_state.h"
 #include "core/data_root.h"
 #include "shell/program/history.h"
+#include "shell/program/snapshot_file.h"
 #include "shell/services/event_gate.h"
 #include "shell/services/window_services.h"
 #include "shell/services/workbench.h"
@@ -40,6 +43,24 @@ class Program {
   /// From now on each event that comes through the gate and changes something is a step of the history, and one that is
   /// stopped is put back.
   void watch(EventGate& gate);
+  /// Told of each event that was watched, when it is over, and of each snapshot that was put back.
+  void set_changed(std::function<void(const std::shared_ptr<const Snapshot>&)> changed) {
+    changed_ = std::move(changed);
+  }
+
+  /// The name of its file without folder and ending; empty where it has none.
+  [[nodiscard]] std::string crystal_name() const;
+  /// Whether there is something of a crystal: a constant of the cell, an atom, an observed reflection.
+  [[nodiscard]] bool holds_crystal() const;
+  /// Whether there is a crystal, and its file would hold another one than that which was loaded or saved last.
+  [[nodiscard]] bool crystal_unsaved() const;
+
+  /// A snapshot with what is told of it.
+  [[nodiscard]] KeptWork kept_work(const Snapshot& snapshot) const;
+  /// @throws RunFailure  see snapshot_file.h; nothing has changed then
+  [[nodiscard]] KeptWork read_work(std::string_view bytes);
+  /// Brings the work of an earlier run back. In an event that is watched it is a step, and can be undone.
+  void restore(const KeptWork& work);
 
   /// The arrays and scalars that belong to no window.
   [[nodiscard]] const NamedValues& module1() const { return module1_; }
@@ -52,6 +73,8 @@ class Program {
   NamedValues state_fields_;
   History history_;
   bool went_back_ = false;  ///< in the present event, which then is no step
+  std::function<void(const std::shared_ptr<const Snapshot>&)> changed_;
+  std::shared_ptr<const Snapshot> began_;  ///< as the present event began
   std::shared_ptr<const Snapshot> last_ = std::make_shared<const Snapshot>();
   Workbench bench_;
 };

@@ -20,4 +20,11 @@ bool same_work(const Snapshot& a, const Snapshot& b) {
   });
 }
 
+bool same_screen(const Snapshot& a, const Snapshot& b) {
+  return std::equal(a.windows.begin(), a.windows.end(), b.windows.begin(), b.windows.end(),
+                    [](const auto& one, const auto& other) {
+                      return one.first == other.first && one.second.visible == other.second.visible;
+                    });
+}
+
 }  // namespace zol

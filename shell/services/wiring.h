@@ -42,7 +42,11 @@ class Wire {
 /// Instantiated beside that table.
 template <class Form>
 void add_window(Workbench& bench) {
-  bench.windows.add_type(Form::window_name, {[&bench] { return std::make_unique<Form>(bench); },
+  bench.windows.add_type(Form::window_name, {[&bench] {
+                                               auto form = std::make_unique<Form>(bench);
+                                               form->shows_crystal = requires { Form::shows_crystal_data; };
+                                               return form;
+                                             },
                                              [&bench](Window& window) { wire(bench, dynamic_cast<Form&>(window)); }});
 }
 

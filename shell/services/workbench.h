@@ -1,6 +1,8 @@
 // What every handler works on: the crystal, the windows, the surroundings, the folders of the data.
 #pragma once
 
+#include <string>
+
 #include "core/crystal_state.h"
 #include "core/data_root.h"
 #include "core/task.h"
@@ -16,6 +18,7 @@ struct Workbench {
   Windows& windows;
   Services& services;
   const DataRoot& data;
+  std::string saved_crystal;  ///< text of the crystal file that was last loaded or saved
 
   void show_window(const std::string& name) const { windows.use(name).show(); }
 

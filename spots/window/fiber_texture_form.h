@@ -8,6 +8,7 @@ namespace zol {
 /// The picture counts 1/d.
 struct FiberTextureForm : SpotsForm {
   static constexpr auto window_name = "FiberTexture";
+  static constexpr bool shows_crystal_data = true;
 
   explicit FiberTextureForm(Workbench& bench)
       : SpotsForm(bench, window_name, "Fiber Texture Pattern", {"H=", "K=", "L="}, 5760, 1) {}

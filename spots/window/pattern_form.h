@@ -8,6 +8,7 @@ namespace zol {
 /// The picture counts 1/(2d).
 struct PatternForm : SpotsForm {
   static constexpr auto window_name = "Pattern";
+  static constexpr bool shows_crystal_data = true;
 
   explicit PatternForm(Workbench& bench) : SpotsForm(bench, window_name, "ED PATTERN", {"u=", "v=", "w="}, 8500, 2) {}
 
