@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <sstream>
 
+#include "core/read_file.h"
 #include "core/run_failure.h"
 #include "fuzz/bounded_script.h"
 #include "fuzz/script_target.h"
@@ -103,6 +104,8 @@ class SnapshotStorms : public testing::TestWithParam<std::uint64_t> {
     return output.str();
   }
 
+
+ public:
   static DataRoot data() { return {ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}; }
 
   ScratchFolder folder;
@@ -135,14 +138,14 @@ TEST_P(SnapshotStorms, ArePutBackAndRepeatThemselves) {
 TEST_P(SnapshotStorms, GoOnInAnotherProgramByAFile) {
   const std::uint64_t seed = 7 * GetParam() + 90000;
   (void)storm(seed);
-  const std::string file = bytes_of(program.kept_work(*program.snapshot()));
+  const std::string file = bytes_of(program.kept_work(program.snapshot()));
   const std::string before = everything(program);
   const std::string first = storm(seed + 1);
   Program other(data(), services);
   other.start();
   other.restore(other.read_work(file));
   ASSERT_EQ(everything(other), before);
-  KeptWork again = other.kept_work(*other.snapshot());
+  KeptWork again = other.kept_work(other.snapshot());
   again.note = other.read_work(file).note;
   EXPECT_EQ(bytes_of(again), file);
   ASSERT_EQ(storm(other, seed + 1), first);
@@ -152,6 +155,32 @@ TEST_P(SnapshotStorms, GoOnInAnotherProgramByAFile) {
     std::string damaged = file;
     damaged[place] = static_cast<char>(damaged[place] ^ (1 << i % 8));
     EXPECT_THROW((void)other.read_work(damaged), RunFailure) << place;
+  }
+}
+// Crystals are made ready again: the family that is left out is still in the list, and no solution has moved.
+TEST(SnapshotFile, GoesOnBehindAnIndexing) {
+  std::filesystem::current_path(ZOL_SOURCE_DIR);
+  std::ostringstream output;
+  ScriptServices services(output, &pictures());
+  Program program(SnapshotStorms::data(), services);
+  Program other(SnapshotStorms::data(), services);
+  const auto said = [&](Program& by, const std::string& script) {
+    output.str("");
+    std::istringstream lines(script);
+    ScriptDriver(by, services, output).run(lines);
+    return output.str();
+  };
+  program.start();
+  other.start();
+  (void)said(program, read_file("examples/automatic-indexing.zs"));
+  other.restore(other.read_work(bytes_of(program.kept_work(program.snapshot()))));
+  EXPECT_EQ(everything(other), everything(program));
+  for (const auto* script : {"select AutoIndex.Solutions 1\nprint AutoIndex.Bands\nprint PATTERN3.Picture1",
+                             "select AutoIndex.Families 2\nclick AutoIndex.ToggleFamily\nprint AutoIndex.Families",
+                             "click AutoIndex.RefineCentre\nprint AutoIndex.Status\nclick AutoIndex.CopyReport"}) {
+    const std::string expected = said(program, script);
+    EXPECT_GT(expected.size(), 40U);
+    EXPECT_EQ(said(other, script), expected);
   }
 }
 INSTANTIATE_TEST_SUITE_P(Parts, SnapshotStorms, testing::Range<std::uint64_t>(0, 8));

@@ -294,12 +294,13 @@ void Bands_Click(Workbench& bench, AutoIndexForm& form) {
   draw_band(pattern3(bench), form.result, static_cast<std::size_t>(form.Bands.list_index()));
 }
 
-void ToggleFamily_Click(AutoIndexForm& form) {
+void ToggleFamily_Click(Workbench& bench, AutoIndexForm& form) {
   const int index = form.Families.list_index();
   if (index < 0) return form.Status.set_caption("pick a family in the list first");
   const auto family = static_cast<std::size_t>(index);
   if (family >= form.families_taken.size()) form.families_taken.resize(family + 1, false);
   form.families_taken[family] = !form.families_taken[family];
+  if (form.ready.empty()) (void)present_crystal_model(bench, form);  // the window was put back from a file
   show_families(form);
 }
 

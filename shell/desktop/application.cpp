@@ -1,12 +1,17 @@
 #include "shell/desktop/application.h"
 
+#include <optional>
+
+#include <QFile>
 #include <QIcon>
 #include <QMessageBox>
+#include <QStandardPaths>
 #include <QTimer>
 
 #include "shell/desktop/desktop_services.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/desktop/recovery.h"
 #include "shell/desktop/screen_fit.h"
 #include "shell/program/data_folders.h"
 #include "shell/program/program.h"
@@ -14,14 +19,29 @@
 namespace zol {
 namespace {
 
-void show_failure(const std::string& message) {
+/// @param kept  whether the next start offers the work
+void show_failure(const std::string& message, bool kept) {
   QMessageBox box(QMessageBox::Critical, QStringLiteral("ZOL"), to_qt(message), QMessageBox::Ok,
                   QApplication::activeWindow());
-  box.setInformativeText(
+  QString text =
       QCoreApplication::translate("zol",
                                   "The program ends here. Files are as they were saved last. Start it again with "
-                                  "this mended; \"Known behaviour\" in the user guide tells more."));
+                                  "this mended; \"Known behaviour\" in the user guide tells more.");
+  if (kept) {
+    text += QStringLiteral("\n\n") +
+            QCoreApplication::translate("zol", "Your work as it was before is kept: the next start offers it.");
+  }
+  box.setInformativeText(text);
   box.exec();
+}
+
+/// Where work is kept.
+std::string recovery_folder() {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 7, 0)
+  return QFile::encodeName(QStandardPaths::writableLocation(QStandardPaths::StateLocation)).toStdString();
+#else
+  return state_folder();
+#endif
 }
 
 void show_read_only(const DataRoot& data) {
@@ -48,28 +68,35 @@ void name_application() {
 
 }  // namespace
 
-int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun) {
+int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun,
+                    KeepWork keep_work) {
   const GuardedApplication application(argc, argv);
   name_application();
   DataRoot data;
   try {
     data = find_data_root(data_places());
   } catch (const RunFailure& failure) {
-    show_failure(failure.message());
+    show_failure(failure.message(), false);
     return 1;
   }
   if (!data.read_only.empty()) show_read_only(data);
   DesktopServices services;
   Program program(data, services);
-  Desktop desktop(program.windows(), show_failure);
+  std::optional<Recovery> recovery;
+  Desktop desktop(program.windows(), [&recovery](const std::string& message) {
+    show_failure(message, recovery && recovery->keep_behind_failure(message));
+  });
   services.set_desktop(desktop);
   program.watch(desktop.gate());
   desktop.offer_undo(program);
+  if (keep_work == KeepWork::Yes) recovery.emplace(program, desktop, recovery_folder());
   QTimer::singleShot(0, &desktop, [&] {
     desktop.enter("the program started", [&program] { program.start(); });
     if (begun) begun(desktop);
   });
-  return QApplication::exec();
+  const int status = QApplication::exec();
+  if (recovery && status == 0) recovery->end();
+  return status;
 }
 
 }  // namespace zol

@@ -57,6 +57,21 @@ void Binder::show_hourglass() {
   for (const auto& [part, pointer] : pointers_under_hourglass_) part->setCursor(Qt::WaitCursor);
 }
 
+void Binder::set_title_end(const QString& end, bool unsaved) {
+  if (end != title_end_) {
+    title_end_ = end;
+    show_title();
+  }
+  widget_.setWindowModified(unsaved);
+}
+
+void Binder::show_title() {
+  QString caption = to_qt(window_.caption()).trimmed();
+  const QLatin1String mark("[*]");
+  if (!title_end_.isEmpty()) caption.replace(mark, mark + mark);  // Qt's way to let it stand in a title
+  widget_.setWindowTitle(caption + title_end_);
+}
+
 void Binder::window_shown() {
   comes_to_front_ = window_.beside.empty();
   window_changed();
@@ -72,7 +87,7 @@ void Binder::show_window() {
 void Binder::show_changes() {
   if (window_changed_) {
     window_changed_ = false;
-    widget_.setWindowTitle(to_qt(window_.caption()).trimmed());
+    show_title();
     if (window_.visible() && !widget_.isVisible()) show_window();
     if (!window_.visible() && widget_.isVisible()) widget_.hide();
     if (window_.visible() && std::exchange(comes_to_front_, false)) {

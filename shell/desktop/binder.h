@@ -11,6 +11,7 @@
 
 #include <QCursor>
 #include <QPointer>
+#include <QString>
 
 #include "shell/desktop/user_events.h"
 #include "shell/services/window_services.h"
@@ -39,6 +40,8 @@ class Binder {
   void window_shown();
   /// The top level beside which the window comes up, if any.
   void set_neighbour(QWidget* neighbour) { neighbour_ = neighbour; }
+  /// What the title says behind the caption, with Qt's mark [*] for changed work; empty: nothing.
+  void set_title_end(const QString& end, bool unsaved);
   /// Shows what has changed since the last time.
   void show_changes();
   /// Shows all of it, as at the start.
@@ -46,6 +49,7 @@ class Binder {
 
  private:
   [[nodiscard]] ControlTie* tie_of(const Control& control) const;
+  void show_title();
   void show_window();
   void show_hourglass();
 
@@ -56,6 +60,7 @@ class Binder {
   std::vector<std::unique_ptr<ControlTie>> ties_;
   std::set<Control*> changed_;
   Control* wanted_focus_ = nullptr;
+  QString title_end_;
   bool window_changed_ = true;
   bool comes_to_front_ = false;
 };

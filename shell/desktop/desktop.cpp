@@ -18,6 +18,7 @@
 
 #include "core/run_failure.h"
 #include "shell/desktop/canvas_view.h"
+#include "shell/desktop/crystal_title.h"
 #include "shell/desktop/file_drops.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/guide.h"
@@ -124,6 +125,7 @@ void Desktop::show_failure(const std::exception_ptr& failure) {
 void Desktop::settle() {
   auto windows = windows_.take_unloaded();
   if (!windows.empty()) new Grave(this, std::move(windows), std::exchange(unloaded_, {}));
+  if (program_ != nullptr) show_crystal();
   show_changes();
 }
 
@@ -134,6 +136,14 @@ void Desktop::end(int status) {
 
 void Desktop::show_changes() {
   for (const auto& [name, shown] : shown_) shown.binder->show_changes();
+}
+
+void Desktop::show_crystal() {
+  const QString end = crystal_title_end(*program_);
+  const bool unsaved = program_->crystal_unsaved();
+  for (const auto& [name, shown] : shown_) {
+    if (shown.binder->window().shows_crystal) shown.binder->set_title_end(end, unsaved);
+  }
 }
 
 bool Desktop::shows(const QWidget& top_level) const {
@@ -155,7 +165,10 @@ void Desktop::window_created(Window& window) {
   offer_guide(*widget);
   if (program_ != nullptr) add_undo(*widget);
   binder->show_everything();
-  if (auto* top = qobject_cast<QMainWindow*>(widget.get())) fit_to_screen(*top);
+  if (auto* top = qobject_cast<QMainWindow*>(widget.get())) {
+    if (made_) made_(window, *top);
+    fit_to_screen(*top);
+  }
   shown_[window.name()] = {std::move(widget), std::move(binder)};
 }
 

@@ -5,6 +5,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -14,6 +15,7 @@
 #include "shell/services/event_gate.h"
 #include "shell/services/window_services.h"
 
+class QMainWindow;
 class QWidget;
 
 namespace zol {
@@ -37,8 +39,10 @@ class Desktop : public QObject, public WindowView {
 
   /// Runs an action as an event: a failure ends the program, changes are shown afterwards.
   void enter(std::string name, std::function<void()> action) { gate_.enter({std::move(name), "", std::move(action)}); }
-  /// Undo and redo by menu and keys in all windows.
+  /// Undo and redo by menu and keys in all windows; the titles tell the crystal.
   void offer_undo(Program& program);
+  /// Told of each window before it is fitted to the screen.
+  void set_made(std::function<void(const Window&, QMainWindow&)> made) { made_ = std::move(made); }
   /// No event comes in any more; the event loop ends with this status.
   void end(int status);
   [[nodiscard]] bool ended() const { return gate_.ended(); }
@@ -71,6 +75,7 @@ class Desktop : public QObject, public WindowView {
   void show_failure(const std::exception_ptr& failure);
   void settle();
   void show_changes();
+  void show_crystal();
   void breathe();
   void close_by_frame(Window& window);
   void window_activated(Window& window);
@@ -83,7 +88,8 @@ class Desktop : public QObject, public WindowView {
   std::vector<Shown> unloaded_;
   std::string active_;  ///< the window that was last activated, by the program or the user
   std::unique_ptr<Guide> guide_;
-  Program* program_ = nullptr;  ///< whose steps can be undone
+  Program* program_ = nullptr;  ///< whose steps can be undone, and whose crystal the titles tell
+  std::function<void(const Window&, QMainWindow&)> made_;
   QElapsedTimer since_breath_;
   qint64 work_ms_ = 0;  ///< between two breaths
 };

@@ -37,7 +37,7 @@ void Program::put_back(const Snapshot& snapshot) {
 
 void Program::restore(const KeptWork& work) {
   bench_.saved_crystal = work.saved_crystal;
-  put_back(work.snapshot);
+  put_back(*work.snapshot);
   went_back_ = false;
 }
 
@@ -45,13 +45,14 @@ KeptWork Program::read_work(std::string_view bytes) {
   return zol::read_work(bytes, state_fields_, windows_, bench_.services);
 }
 
-KeptWork Program::kept_work(const Snapshot& snapshot) const {
+KeptWork Program::kept_work(std::shared_ptr<const Snapshot> snapshot) const {
   using std::chrono::system_clock;
-  WorkNote note{program_version, system_clock::to_time_t(system_clock::now()), crystal_name(), "", RunEnd::Unknown, ""};
-  for (const auto& [name, window] : snapshot.windows) {
+  WorkNote note{program_version, system_clock::to_time_t(system_clock::now()), "", "", RunEnd::Unknown, ""};
+  if (holds_crystal()) note.crystal = crystal_name().empty() ? "new crystal" : crystal_name();
+  for (const auto& [name, window] : snapshot->windows) {
     if (window.visible) note.windows += (note.windows.empty() ? "" : ", ") + name;
   }
-  return {note, snapshot, bench_.saved_crystal};
+  return {note, std::move(snapshot), bench_.saved_crystal};
 }
 
 std::string Program::crystal_name() const {

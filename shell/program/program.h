@@ -56,7 +56,7 @@ class Program {
   [[nodiscard]] bool crystal_unsaved() const;
 
   /// A snapshot with what is told of it.
-  [[nodiscard]] KeptWork kept_work(const Snapshot& snapshot) const;
+  [[nodiscard]] KeptWork kept_work(std::shared_ptr<const Snapshot> snapshot) const;
   /// @throws RunFailure  see snapshot_file.h; nothing has changed then
   [[nodiscard]] KeptWork read_work(std::string_view bytes);
   /// Brings the work of an earlier run back. In an event that is watched it is a step, and can be undone.

@@ -12,8 +12,9 @@ bool same_window(const Window::Copy& a, const Window::Copy& b) {
 
 }  // namespace
 
-bool same_work(const Snapshot& a, const Snapshot& b) {
-  if (a.state != b.state) return false;
+bool same_work(const Snapshot& a, const Snapshot& b) { return a.state == b.state && same_windows(a, b); }
+
+bool same_windows(const Snapshot& a, const Snapshot& b) {
   return std::all_of(a.windows.begin(), a.windows.end(), [&b](const auto& entry) {
     const auto other = b.windows.find(entry.first);
     return other == b.windows.end() || same_window(entry.second, other->second);

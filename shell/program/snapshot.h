@@ -15,6 +15,8 @@ struct Snapshot {
 
 /// Whether a user would see a difference: not by pointers, or by which windows are open or in front.
 [[nodiscard]] bool same_work(const Snapshot& a, const Snapshot& b);
+/// Whether no window that is in both has changed.
+[[nodiscard]] bool same_windows(const Snapshot& a, const Snapshot& b);
 /// Whether the same windows exist and are on the screen.
 [[nodiscard]] bool same_screen(const Snapshot& a, const Snapshot& b);
 

@@ -63,8 +63,8 @@ std::string bytes_of(const KeptWork& work) {
   store(note_part, note);
   StoreWriter body;
   body.text(work.saved_crystal);
-  NamedValues::store(body, work.snapshot.state);
-  Windows::store(body, work.snapshot.windows);
+  NamedValues::store(body, work.snapshot->state);
+  Windows::store(body, work.snapshot->windows);
 
   std::string file(magic);
   StoreWriter format_part;
@@ -90,8 +90,8 @@ KeptWork read_work(std::string_view bytes, const NamedValues& state, const Windo
   StoreReader body(next_part(file), &services);
   if (!file.at_end()) StoreReader::fail("something stands behind its end");
   work.saved_crystal = body.text();
-  work.snapshot.state = state.load(body);
-  work.snapshot.windows = windows.load(body);
+  auto fields = state.load(body);
+  work.snapshot = std::make_shared<const Snapshot>(Snapshot{std::move(fields), windows.load(body)});
   if (!body.at_end()) StoreReader::fail("it is longer than what it holds");
   return work;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 
@@ -21,7 +22,7 @@ enum class RunEnd : std::uint8_t {
 struct WorkNote {
   std::string version;      ///< of the program
   std::int64_t time_s = 0;  ///< since the beginning of 1970, UTC
-  std::string crystal;      ///< its name, a part of a file name; may be empty
+  std::string crystal;      ///< its name, a part of a file name; empty where there is no crystal
   std::string windows;      ///< that were open, "Main1, Pattern2"
   RunEnd end = RunEnd::Unknown;
   std::string failure;  ///< the message of a failure
@@ -29,7 +30,7 @@ struct WorkNote {
 
 struct KeptWork {
   WorkNote note;
-  Snapshot snapshot;
+  std::shared_ptr<const Snapshot> snapshot;
   std::string saved_crystal;  ///< text of the crystal file that was last loaded or saved
 };
 
