@@ -198,7 +198,7 @@ TEST_F(RecoveryTest, TheTenLatestStayAndWhatCantBeReadSaysWhy) {
   Session run(state);
   KeptWork work = run.program.kept_work(run.program.snapshot());
   for (int i = 1; i <= 12; ++i) {
-    work.note.time_s = i;
+    work.note.time_ms = i;
     folder.write("state/work-" + std::to_string(100000 + i) + ".zolwork", bytes_of(work));
   }
   std::string damaged = bytes_of(work);
@@ -210,7 +210,7 @@ TEST_F(RecoveryTest, TheTenLatestStayAndWhatCantBeReadSaysWhy) {
   const auto left = left_overs(state);
   ASSERT_EQ(left.size(), 10U);
   EXPECT_EQ(left.front().fault, "it is no file of kept work");
-  EXPECT_EQ(left.back().note.time_s, 4);
+  EXPECT_EQ(left.back().note.time_ms, 4);
   EXPECT_EQ(folder.entries(), 1U);
   EXPECT_EQ(files().size(), 10U);
   EXPECT_FALSE(std::filesystem::exists(folder.path("state/work-nobody.lock")));

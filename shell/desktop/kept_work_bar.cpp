@@ -48,7 +48,7 @@ QString told_of(const WorkNote& note) {
   QStringList parts;
   parts << (note.crystal.empty() ? say("no crystal") : to_qt(note.crystal));
   if (!note.windows.empty()) parts << to_qt(note.windows);
-  parts << QLocale(QLocale::English).toString(QDateTime::fromSecsSinceEpoch(note.time_s), QStringLiteral("d MMM yyyy, HH:mm"));
+  parts << QLocale(QLocale::English).toString(QDateTime::fromMSecsSinceEpoch(note.time_ms), QStringLiteral("d MMM yyyy, HH:mm"));
   switch (note.end) {
     case RunEnd::Failure:
       parts << say("ended by a failure: ") + to_qt(note.failure);

@@ -46,8 +46,10 @@ KeptWork Program::read_work(std::string_view bytes) {
 }
 
 KeptWork Program::kept_work(std::shared_ptr<const Snapshot> snapshot) const {
-  using std::chrono::system_clock;
-  WorkNote note{program_version, system_clock::to_time_t(system_clock::now()), "", "", RunEnd::Unknown, ""};
+  const auto since_1970 = std::chrono::system_clock::now().time_since_epoch();
+  WorkNote note;
+  note.version = program_version;
+  note.time_ms = std::chrono::duration_cast<std::chrono::milliseconds>(since_1970).count();
   if (holds_crystal()) note.crystal = crystal_name().empty() ? "new crystal" : crystal_name();
   for (const auto& [name, window] : snapshot->windows) {
     if (window.visible) note.windows += (note.windows.empty() ? "" : ", ") + name;

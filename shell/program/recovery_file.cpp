@@ -77,7 +77,7 @@ std::optional<LeftOver> looked_at(const std::string& path) {
   } catch (const RunFailure& failure) {
     found.fault = failure.message();
     struct stat file {};
-    if (stat(path.c_str(), &file) == 0) found.note.time_s = file.st_mtime;
+    if (stat(path.c_str(), &file) == 0) found.note.time_ms = std::int64_t{file.st_mtime} * 1000;
   }
   return found;
 }
@@ -133,7 +133,7 @@ std::vector<LeftOver> left_overs(const std::string& folder) {
   }
   remove_bare_locks(folder);
   std::sort(found.begin(), found.end(),
-            [](const LeftOver& a, const LeftOver& b) { return a.note.time_s > b.note.time_s; });
+            [](const LeftOver& a, const LeftOver& b) { return a.note.time_ms > b.note.time_ms; });
   for (; found.size() > most_left_overs; found.pop_back()) {
     try {
       ClaimedWork(found.back().path).remove();
