@@ -119,6 +119,39 @@ TEST(WindowSet, CreatesAtFirstUseAndUnloads) {
   EXPECT_THROW(windows.use("None"), RunFailure);
 }
 
+// Copies of what has not changed are shared, also where that is known without a look; no way to change may be missed.
+TEST(FieldCopies, AreNewAfterEachKindOfChange) {
+  BoundedArray<Single> array{"A", 3};
+  BoundedTable<Single> table{"T", 2, 2};
+  NamedValues fields;
+  fields.add("A", array);
+  fields.add("T", table);
+  auto copies = fields.copies();
+  const auto change = [&](const char* name, const std::function<void()>& act) {
+    auto later = fields.copies(copies);
+    EXPECT_TRUE(later == copies) << "nothing has changed before: " << name;
+    act();
+    later = fields.copies(copies);
+    EXPECT_NE(later.at(name), copies.at(name));
+    fields.put_back(copies);
+    EXPECT_TRUE(fields.copies(copies) == copies) << name;
+    fields.put_back(later);
+    EXPECT_EQ(fields.copies(later), later) << name;
+    copies = std::move(later);
+  };
+  auto other = array;
+  change("A", [&] { array(2) = 5; });
+  change("A", [&] { array = std::move(other); });
+  other = BoundedArray<Single>("A", 2);
+  other(1) = 7;
+  change("A", [&] { std::swap(array, other); });
+  change("A", [&] { array.allocate(3); });
+  change("T", [&] { table(1, 1) = 2; });
+  change("T", [&] { table.allocate(2, 2); });
+  array(1) = 0;
+  EXPECT_EQ(fields.copies(copies), copies) << "a write of what stands there";
+}
+
 TEST(Gate, LetsEventsWaitAndEndsWithTheFirstFailure) {
   std::string log;
   EventGate gate([&log] { log += '.'; },
