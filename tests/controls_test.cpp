@@ -4,6 +4,7 @@
 
 #include "core/run_failure.h"
 #include "shell/services/event_gate.h"
+#include "shell/services/pasted_rows.h"
 #include "shell/services/ruler.h"
 #include "shell/services/window_services.h"
 #include "tests/fake_services.h"
@@ -207,6 +208,20 @@ TEST(SaveDialogs, ProposeTheLastNameOfTheKind) {
   std::string proposed;
   for (const auto& question : services.questions) proposed += question.initial_folder + ':' + question.file_name + ' ';
   EXPECT_EQ(proposed, "/pictures: /pictures:a.bmp /data: /pictures:a.bmp /pictures:preset ");
+}
+
+TEST(PastedRows, AreCutWhereTheirProgramParts) {
+  using Rows = std::vector<std::vector<std::string>>;
+  const std::pair<const char*, Rows> cases[] = {
+      {"", {}},
+      {"\n \r\n", {}},
+      {"Na\t0,5\t\t1,5,5\r\nCl\t\"1\"\r\n", {{"Na", "0.5", "", "1,5,5"}, {"Cl", "1"}}},
+      {"a;1,25;-,5\rb", {{"a", "1.25", "-.5"}, {"b"}}},
+      {"Na1, Na, 0.5\nCl1,Cl,1", {{"Na1", "Na", "0.5"}, {"Cl1", "Cl", "1"}}},
+      {"0,5,1", {{"0", "5", "1"}}},
+      {"  Na1  Na 0,5 \n\nCl", {{"Na1", "Na", "0.5"}, {""}, {"Cl"}}},
+      {"x", {{"x"}}}};
+  for (const auto& [text, rows] : cases) EXPECT_EQ(pasted_rows(text), rows) << text;
 }
 
 TEST(Rulers, TickRoundNumbers) {

@@ -43,8 +43,7 @@ void Program::watch(EventGate& gate) {
     const auto before = last_;  // taken as the event began
     auto after = snapshot();
     if (same_work(*before, *after)) return;
-    const auto step = step_of(event, windows_);
-    history_.note(step.name, step.key, before, std::move(after));
+    history_.note(step_of(event, windows_), before, std::move(after));
   });
 }
 
