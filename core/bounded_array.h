@@ -2,6 +2,8 @@
 // the array and the index. An array may be unallocated; reading one then fails as well.
 #pragma once
 
+#include <atomic>
+#include <cstdint>
 #include <cstdlib>
 #include <cstring>
 #include <new>
@@ -55,6 +57,33 @@ template <class Store>
   }
 }
 
+/// Tells without a look at the elements that two arrays hold the same: they bear the number of one content. Whatever
+/// may change an element takes the number off, so that it costs a store to write an element and nothing to read a const
+/// one.
+class ContentNumber {
+ public:
+  ContentNumber() = default;
+  ContentNumber(const ContentNumber&) = default;
+  ContentNumber(ContentNumber&& other) noexcept : number_(std::exchange(other.number_, 0)) {}
+  ContentNumber& operator=(const ContentNumber&) = default;
+  ContentNumber& operator=(ContentNumber&& other) noexcept {
+    number_ = std::exchange(other.number_, 0);
+    return *this;
+  }
+  ~ContentNumber() = default;
+
+  void take_off() { number_ = 0; }
+  [[nodiscard]] bool same_as(const ContentNumber& other) const { return number_ != 0 && number_ == other.number_; }
+  void give_new() const {
+    static std::atomic<std::uint64_t> last = 0;
+    if (number_ == 0) number_ = ++last;
+  }
+  void take_from(const ContentNumber& other) const { number_ = other.number_; }
+
+ private:
+  mutable std::uint64_t number_ = 0;  ///< 0: none
+};
+
 template <class T, bool zero_is_default = std::is_trivially_copyable_v<T>>
 struct ArrayStore {
   using Type = std::vector<T>;
@@ -78,6 +107,7 @@ class BoundedArray {
   /// @throws RunFailure  negative upper bound or not enough memory
   void allocate(int upper) {
     if (upper < 0) detail::fail_bound(name_, upper);
+    content_.take_off();
     store_ = {};
     detail::check_memory(name_, upper, static_cast<std::size_t>(upper) + 1, sizeof(T));
     try {
@@ -87,12 +117,19 @@ class BoundedArray {
     }
   }
 
-  [[nodiscard]] T& operator()(int index) { return store_[check(index)]; }
+  [[nodiscard]] T& operator()(int index) {
+    content_.take_off();
+    return store_[check(index)];
+  }
   [[nodiscard]] const T& operator()(int index) const { return store_[check(index)]; }
 
   [[nodiscard]] int upper() const { return static_cast<int>(store_.size()) - 1; }
   /// The same bounds and elements, numbers bit by bit.
-  [[nodiscard]] bool operator==(const BoundedArray& other) const { return detail::same_elements(store_, other.store_); }
+  [[nodiscard]] bool operator==(const BoundedArray& other) const {
+    return content_.same_as(other.content_) || detail::same_elements(store_, other.store_);
+  }
+  /// For copies that are compared again and again.
+  [[nodiscard]] const detail::ContentNumber& content() const { return content_; }
   [[nodiscard]] const std::string& name() const { return name_; }
 
  private:
@@ -105,6 +142,7 @@ class BoundedArray {
 
   std::string name_;
   Store store_;
+  detail::ContentNumber content_;
 };
 
 /// Two-dimensional array, rows 0 to upper_row(), columns 0 to upper_column(), row by row in memory.
@@ -123,6 +161,7 @@ class BoundedTable {
     if (upper_column < 0) detail::fail_bound(name_, upper_column);
     const std::size_t elements =
         (static_cast<std::size_t>(upper_row) + 1) * (static_cast<std::size_t>(upper_column) + 1);
+    content_.take_off();
     store_ = {};
     upper_row_ = upper_column_ = -1;
     detail::check_memory(name_, upper_row, elements, sizeof(T));
@@ -135,14 +174,20 @@ class BoundedTable {
     upper_column_ = upper_column;
   }
 
-  [[nodiscard]] T& operator()(int row, int column) { return store_[check(row, column)]; }
+  [[nodiscard]] T& operator()(int row, int column) {
+    content_.take_off();
+    return store_[check(row, column)];
+  }
   [[nodiscard]] const T& operator()(int row, int column) const { return store_[check(row, column)]; }
 
   /// The same bounds and elements, numbers bit by bit.
   [[nodiscard]] bool operator==(const BoundedTable& other) const {
-    return upper_row_ == other.upper_row_ && upper_column_ == other.upper_column_ &&
-           detail::same_elements(store_, other.store_);
+    return content_.same_as(other.content_) ||
+           (upper_row_ == other.upper_row_ && upper_column_ == other.upper_column_ &&
+            detail::same_elements(store_, other.store_));
   }
+  /// For copies that are compared again and again.
+  [[nodiscard]] const detail::ContentNumber& content() const { return content_; }
   [[nodiscard]] int upper_row() const { return upper_row_; }
   [[nodiscard]] int upper_column() const { return upper_column_; }
   [[nodiscard]] const std::string& name() const { return name_; }
@@ -161,6 +206,7 @@ class BoundedTable {
   int upper_row_ = -1;
   int upper_column_ = -1;
   Store store_;
+  detail::ContentNumber content_;
 };
 
 }  // namespace zol

@@ -4,6 +4,7 @@
 
 #include "core/run_failure.h"
 #include "shell/services/event_gate.h"
+#include "shell/services/pasted_rows.h"
 #include "shell/services/ruler.h"
 #include "shell/services/window_services.h"
 #include "tests/fake_services.h"
@@ -119,6 +120,39 @@ TEST(WindowSet, CreatesAtFirstUseAndUnloads) {
   EXPECT_THROW(windows.use("None"), RunFailure);
 }
 
+// Copies of what has not changed are shared, also where that is known without a look; no way to change may be missed.
+TEST(FieldCopies, AreNewAfterEachKindOfChange) {
+  BoundedArray<Single> array{"A", 3};
+  BoundedTable<Single> table{"T", 2, 2};
+  NamedValues fields;
+  fields.add("A", array);
+  fields.add("T", table);
+  auto copies = fields.copies();
+  const auto change = [&](const char* name, const std::function<void()>& act) {
+    auto later = fields.copies(copies);
+    EXPECT_TRUE(later == copies) << "nothing has changed before: " << name;
+    act();
+    later = fields.copies(copies);
+    EXPECT_NE(later.at(name), copies.at(name));
+    fields.put_back(copies);
+    EXPECT_TRUE(fields.copies(copies) == copies) << name;
+    fields.put_back(later);
+    EXPECT_EQ(fields.copies(later), later) << name;
+    copies = std::move(later);
+  };
+  auto other = array;
+  change("A", [&] { array(2) = 5; });
+  change("A", [&] { array = std::move(other); });
+  other = BoundedArray<Single>("A", 2);
+  other(1) = 7;
+  change("A", [&] { std::swap(array, other); });
+  change("A", [&] { array.allocate(3); });
+  change("T", [&] { table(1, 1) = 2; });
+  change("T", [&] { table.allocate(2, 2); });
+  array(1) = 0;
+  EXPECT_EQ(fields.copies(copies), copies) << "a write of what stands there";
+}
+
 TEST(Gate, LetsEventsWaitAndEndsWithTheFirstFailure) {
   std::string log;
   EventGate gate([&log] { log += '.'; },
@@ -174,6 +208,20 @@ TEST(SaveDialogs, ProposeTheLastNameOfTheKind) {
   std::string proposed;
   for (const auto& question : services.questions) proposed += question.initial_folder + ':' + question.file_name + ' ';
   EXPECT_EQ(proposed, "/pictures: /pictures:a.bmp /data: /pictures:a.bmp /pictures:preset ");
+}
+
+TEST(PastedRows, AreCutWhereTheirProgramParts) {
+  using Rows = std::vector<std::vector<std::string>>;
+  const std::pair<const char*, Rows> cases[] = {
+      {"", {}},
+      {"\n \r\n", {}},
+      {"Na\t0,5\t\t1,5,5\r\nCl\t\"1\"\r\n", {{"Na", "0.5", "", "1,5,5"}, {"Cl", "1"}}},
+      {"a;1,25;-,5\rb", {{"a", "1.25", "-.5"}, {"b"}}},
+      {"Na1, Na, 0.5\nCl1,Cl,1", {{"Na1", "Na", "0.5"}, {"Cl1", "Cl", "1"}}},
+      {"0,5,1", {{"0", "5", "1"}}},
+      {"  Na1  Na 0,5 \n\nCl", {{"Na1", "Na", "0.5"}, {""}, {"Cl"}}},
+      {"x", {{"x"}}}};
+  for (const auto& [text, rows] : cases) EXPECT_EQ(pasted_rows(text), rows) << text;
 }
 
 TEST(Rulers, TickRoundNumbers) {

@@ -11,6 +11,7 @@
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFile>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTableView>
 #include <QTextBrowser>
@@ -196,6 +197,61 @@ void use_files(const User& user) {
   user.click("CameraParameters", "Command3");
 }
 
+/// All that Main1 shows in boxes, labels and the list.
+std::string shown_by_main1(const User& user) {
+  QWidget& top = user.window("Main1");
+  QString all;
+  for (const auto* box : top.findChildren<QLineEdit*>()) all += box->objectName() + u'=' + box->text() + u'\n';
+  for (const auto* label : top.findChildren<QLabel*>()) all += label->objectName() + u'=' + label->text() + u'\n';
+  for (const auto* button : top.findChildren<QAbstractButton*>()) all += button->isChecked() ? u'x' : u'-';
+  return all.toStdString() + std::to_string(user.lines("Main1", "List2"));
+}
+
+/// Thirty steps of several kinds, back one by one, and forth again.
+void undo_and_redo(const User& user) {
+  user.load_crystal("Quartz.cry");
+  std::vector<std::string> seen{shown_by_main1(user)};
+  const auto step = [&](const auto& act) {
+    act();
+    const std::string now = shown_by_main1(user);
+    expect(now != seen.back(), "step " + std::to_string(seen.size()) + " shows nothing");
+    seen.push_back(now);
+  };
+  for (const char* dmin : {"1.9", "1.5", "1.8", "1.4", "1.7", "1.3", "1.6", "1.2", "1.1"}) {
+    step([&] { user.fill("Main1", {{"Text15", dmin}}); });
+    step([&] { user.click("Main1", "Command6"); });
+  }
+  step([&] {
+    choose_file(QStringLiteral(ZOL_SOURCE_DIR "/examples/cif/rutile.cif"));
+    user.choose("Main1", "ImportfromCIF");
+  });
+  for (const char* a : {"4.6\r", "4.7\r", "4.8\r"}) {
+    step([&] { user.fill("Main1", {{"Text1", a}}); });
+  }
+  for (const char* site : {"Ti2", "Ti3", "Ti4"}) {
+    step([&] {
+      user.click("Main1", "Command1");
+      User::type_on(user.widget<QTableView>("InputAtom", "G"),
+                    (std::string(site) + "\rTi\r1\r.1\r.2\r.3\r1\r").c_str());
+      user.click("InputAtom", "Command1");
+    });
+  }
+  for (const char* crystal : {"NaCl.cry", "Silicon.cry"}) step([&] { user.load_crystal(crystal); });
+  for (const char* check : {"Check1", "Check2", "Check3"}) step([&] { user.click("Main1", check); });
+  expect(seen.size() > 30, "these are " + std::to_string(seen.size()) + " states");
+
+  const std::string last = seen.back();
+  const auto press_until = [&](Qt::KeyboardModifiers keys, const std::string& wanted) {
+    for (int presses = 0; shown_by_main1(user) != wanted; ++presses) {
+      expect(presses < 40, "a state does not come back");
+      QTest::keyClick(&user.window("Main1"), Qt::Key_Z, keys);
+    }
+  };
+  for (auto state = seen.rbegin(); state != seen.rend(); ++state) press_until(Qt::ControlModifier, *state);
+  for (const auto& state : seen) press_until(Qt::ControlModifier | Qt::ShiftModifier, state);
+  expect(shown_by_main1(user) == last, "undone and done again it is something else");
+}
+
 void index_pattern(const User& user) {
   user.click("MAIN_MENU", "Command3");
   user.fill("PATTERN3", {{"Text3", "33"}});
@@ -254,7 +310,7 @@ void read_guide(const User& user) {
 
 void walk(const User& user) {
   for (auto* step : {use_main_window, copy_lines, use_powder_windows, use_spot_windows, use_kikuchi_windows,
-                     use_calculators, use_files, index_pattern, index_automatically, read_guide}) {
+                     use_calculators, use_files, undo_and_redo, index_pattern, index_automatically, read_guide}) {
     step(user);
   }
   user.click("MAIN_MENU", "Command5");

@@ -6,6 +6,7 @@
 #include "entry/atom_site.h"
 #include "entry/window/input_atom_form.h"
 #include "entry/window/table_editor.h"
+#include "reflections/scattering.h"
 #include "reflections/window/main1_form.h"
 #include "reflections/window/main1_operations.h"
 #include "shell/services/wiring.h"
@@ -86,6 +87,12 @@ void wire(Workbench& bench, InputAtomForm& form) {
   form.Import_CIF.on_click = on(Import_CIF_Click);
   form.Import_MINCRYST.on_click = on(Import_MINCRYST_Click);
   form.on_load = on(Form_Load);
+  form.G.doubt = [&bench, &form](int row, int column) {
+    const auto scatters = [&bench](const std::string& element) {
+      return find_scatter_row(main1_state(bench), element) != nullptr;
+    };
+    return site_doubt(texts_of(form.G), scatters, row, column);
+  };
 }
 
 template void add_window<InputAtomForm>(Workbench&);

@@ -61,6 +61,7 @@ void wire(Workbench& bench, InputJcpdsForm& form) {
   wire_table(bench, form);
   form.Command1.on_click = on(Command1_Click);  // "OK"
   form.on_load = on(Form_Load);
+  form.G.doubt = [&form](int row, int column) { return line_doubt(texts_of(form.G), row, column); };
 }
 
 template void add_window<InputJcpdsForm>(Workbench&);

@@ -83,6 +83,10 @@ int filled_rows(const Grid& grid) {
   return rows;
 }
 
+TableTexts texts_of(const Grid& grid) {
+  return {[&grid](int row, int column) -> const std::string& { return grid.text(row, column); }, table_rows};
+}
+
 void close_table(Workbench& bench, TableForm& form) {
   form.hide();
   bench.windows.unload(form.name());

@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "entry/table_doubts.h"
 #include "entry/window/table_form.h"
 #include "shell/services/workbench.h"
 
@@ -32,6 +33,9 @@ void fill_table(Grid& grid, std::span<const std::string_view> headers, int rows,
 
 /// The next opening is fresh.
 void close_table(Workbench& bench, TableForm& form);
+
+/// The texts of the table as they stand, for what looks for doubtful ones.
+[[nodiscard]] TableTexts texts_of(const Grid& grid);
 
 /// Ties all events but those of loading and of "OK".
 void wire_table(Workbench& bench, TableForm& form);

@@ -15,6 +15,8 @@ struct TableForm : Window {
   TableForm(std::string name, std::string caption, int columns)
       : Window(std::move(name), std::move(caption)), G(*this, "G", table_rows + 1, columns + 1) {
     frame_button = &Command2;
+    G.buffer = &Text1;
+    G.emptier = &Command3;
   }
 
   Grid G;                         // column 0 shows the numbers of the rows

@@ -7,6 +7,7 @@
 #include <QAbstractListModel>
 #include <QAbstractTableModel>
 #include <QColor>
+#include <QIcon>
 
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/qt_text.h"
@@ -56,15 +57,24 @@ class GridModel : public QAbstractTableModel {
  public:
   GridModel(Grid& grid, QObject* parent) : QAbstractTableModel(parent), grid_(grid) {}
 
+  /// Its size stays. (A reset would make the second press of a double click forget the first.)
   void refresh() {
-    beginResetModel();
-    endResetModel();
+    emit dataChanged(index(0, 0), index(rowCount() - 1, columnCount() - 1));
+    emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+    emit headerDataChanged(Qt::Vertical, 0, rowCount() - 1);
   }
   [[nodiscard]] int rowCount(const QModelIndex& /*parent*/ = {}) const override { return grid_.rows() - 1; }
   [[nodiscard]] int columnCount(const QModelIndex& /*parent*/ = {}) const override { return grid_.columns() - 1; }
   [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override {
-    if (role != Qt::DisplayRole) return {};
-    return latin1_to_qt(grid_.text(index.row() + 1, index.column() + 1));
+    if (role == Qt::DisplayRole) return latin1_to_qt(grid_.text(index.row() + 1, index.column() + 1));
+    const bool mark = role == Qt::BackgroundRole || role == Qt::DecorationRole;
+    if ((!mark && role != Qt::ToolTipRole && role != Qt::AccessibleDescriptionRole) || !grid_.doubt) return {};
+    const std::string doubt = grid_.doubt(index.row() + 1, index.column() + 1);
+    if (doubt.empty()) return {};
+    if (!mark) return latin1_to_qt(doubt);
+    constexpr QColor warm(255, 160, 0, 70);  // lets the colour of the theme through, light or dark
+    if (role == Qt::BackgroundRole) return warm;
+    return QIcon(QStringLiteral(":/images/doubt.svg"));
   }
   [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
     if (role != Qt::DisplayRole) return {};

@@ -17,7 +17,7 @@ void ControlTie::take_focus() {
 }
 
 std::unique_ptr<ControlTie> make_tie(const TiedWindow& owner, Control& control) {
-  for (const auto make : {make_typing_tie, make_choice_tie, make_display_tie}) {
+  for (const auto make : {make_typing_tie, make_grid_tie, make_choice_tie, make_display_tie}) {
     if (auto made = make(owner, control)) return made;
   }
   return nullptr;

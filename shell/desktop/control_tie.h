@@ -59,7 +59,8 @@ class ControlTie : public QObject {
 std::unique_ptr<ControlTie> make_tie(const TiedWindow& owner, Control& control);
 
 // The same for some kinds of controls; any other kind gives nullptr.
-std::unique_ptr<ControlTie> make_typing_tie(const TiedWindow& owner, Control& control);  ///< text boxes, grids
+std::unique_ptr<ControlTie> make_typing_tie(const TiedWindow& owner, Control& control);  ///< text boxes
+std::unique_ptr<ControlTie> make_grid_tie(const TiedWindow& owner, Control& control);    ///< tables to be edited
 std::unique_ptr<ControlTie> make_choice_tie(const TiedWindow& owner, Control& control);  ///< buttons, lists, menu items
 std::unique_ptr<ControlTie> make_display_tie(const TiedWindow& owner, Control& control);  ///< labels, frames, pictures
 

@@ -1,11 +1,13 @@
 #include "shell/desktop/latin1_input.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QToolTip>
 #include <QValidator>
 
 #include "shell/desktop/qt_text.h"
+#include "shell/services/controls.h"
 
 namespace zol {
 namespace {
@@ -18,12 +20,24 @@ class Latin1Validator : public QValidator {
 
 }  // namespace
 
+int key_code(const QKeyEvent& event) {
+  if (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter) return key_enter;
+  if (event.key() == Qt::Key_Backspace) return key_backspace;
+  if (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return 0;
+  const QString text = event.text();
+  if (text.size() != 1) return 0;
+  const int code = text.front().unicode();
+  return code >= ' ' && code != 127 && code <= 0xFF ? code : 0;
+}
+
+void say_beside(QWidget& widget, const QString& text) {
+  QToolTip::showText(widget.mapToGlobal(QPoint(0, widget.height())), text, &widget);
+}
+
 void say_refused(QWidget& widget) {
-  QToolTip::showText(widget.mapToGlobal(QPoint(0, widget.height())),
-                     QCoreApplication::translate("zol",
+  say_beside(widget, QCoreApplication::translate("zol",
                                                  "Not taken: characters here and in the files are of Latin-1 "
-                                                 "(Western European letters and signs)"),
-                     &widget);
+                                                 "(Western European letters and signs)"));
 }
 
 void take_latin1_only(QLineEdit& edit) {

@@ -31,7 +31,22 @@ void UserEvents::in_box(TextBox& box, QWidget& shown_by) {
   box_widget_ = &shown_by;
 }
 
+void UserEvents::in_cell(QWidget& table, std::function<void()> leave) {
+  if (cell_table_ == &table) return;
+  leave_box();
+  cell_table_ = &table;
+  leave_cell_ = std::move(leave);
+}
+
+void UserEvents::out_of_cell(const QWidget& table) {
+  if (cell_table_ != &table) return;
+  cell_table_ = nullptr;
+  leave_cell_ = {};
+}
+
 void UserEvents::leave_box() {
+  const QPointer<QWidget> table = std::exchange(cell_table_, nullptr);
+  if (const auto leave = std::exchange(leave_cell_, {}); table != nullptr && leave) leave();
   TextBox* box = std::exchange(box_, nullptr);
   if (box == nullptr || box_lives_.expired() || !box->on_lost_focus) return;
   enter(box->window(), operation({"leave", box->path()}, [box] { box->leave(); }));
@@ -39,7 +54,9 @@ void UserEvents::leave_box() {
 
 /// A menu is on the way to an action, or back to the box; another program leaves the box alone.
 void UserEvents::focus_moved(const QWidget* to) {
-  if (to == nullptr || to == box_widget_ || to->window()->windowType() == Qt::Popup) return;
+  if (to == nullptr || to == box_widget_ || to == cell_table_ || (cell_table_ && cell_table_->isAncestorOf(to)) ||
+      to->window()->windowType() == Qt::Popup)
+    return;
   if (qobject_cast<const QMenuBar*>(to) == nullptr) leave_box();
 }
 

@@ -2,6 +2,7 @@
 // leads there: the mouse, a mnemonic, a menu, a picture or a button that takes no focus, a drop.
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include <QObject>
@@ -25,6 +26,9 @@ class UserEvents : public QObject {
   /// The user is in this box now, by the focus or by typing, until it is left.
   void in_box(TextBox& box, QWidget& shown_by);
   void leave_box();
+  /// The user edits a cell of this table, until something else is done; then the cell is left.
+  void in_cell(QWidget& table, std::function<void()> leave);
+  void out_of_cell(const QWidget& table);
   /// What a widget does by itself: no event of the program, but its failure ends it.
   void guard(const std::function<void()>& action) { gate_.guard(action); }
 
@@ -35,6 +39,8 @@ class UserEvents : public QObject {
   TextBox* box_ = nullptr;
   std::weak_ptr<const void> box_lives_;
   QPointer<QWidget> box_widget_;
+  QPointer<QWidget> cell_table_;
+  std::function<void()> leave_cell_;
 };
 
 }  // namespace zol

@@ -7,6 +7,7 @@
 #include <string>
 
 #include "shell/program/snapshot.h"
+#include "shell/program/step_name.h"
 
 namespace zol {
 
@@ -16,9 +17,7 @@ class History {
 
   /// Notes an event that has changed something; steps that were undone are forgotten. Events with the same key that
   /// follow each other, the keys typed into one box, are one step.
-  /// @param key  empty: a step of its own
-  void note(std::string name, const std::string& key, std::shared_ptr<const Snapshot> before,
-            std::shared_ptr<const Snapshot> after);
+  void note(const StepName& step, std::shared_ptr<const Snapshot> before, std::shared_ptr<const Snapshot> after);
 
   /// Name of the step that would be undone or done again; empty where there is none.
   [[nodiscard]] const std::string& undo_name() const;

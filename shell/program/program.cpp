@@ -96,8 +96,7 @@ void Program::watch(EventGate& gate) {
     auto after = snapshot();
     if (changed_) changed_(after);
     if (same_work(*before, *after)) return;
-    const auto step = step_of(event, windows_);
-    history_.note(step.name, step.key, before, std::move(after));
+    history_.note(step_of(event, windows_), before, std::move(after));
   });
 }
 

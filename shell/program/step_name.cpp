@@ -33,6 +33,7 @@ std::string caption_of(const Control& control) {
 }  // namespace
 
 StepName step_of(const UserEvent& event, const Windows& windows) {
+  if (!event.step.empty()) return {event.step, ""};
   const auto words = first_words(event.script);
   if (words.size() < 2) return {event.name, ""};
   const std::size_t dot = words[1].find('.');
@@ -41,10 +42,14 @@ StepName step_of(const UserEvent& event, const Windows& windows) {
       window == nullptr || dot == std::string::npos ? nullptr : window->find(words[1].substr(dot + 1));
   if (control == nullptr) return {event.name, ""};
   const std::string caption = caption_of(*control);
+  const bool takes_in = event.script.find("\\r") != std::string::npos;  // Enter
   if (const auto* box = dynamic_cast<const TextBox*>(control)) {
-    return {caption + (caption.ends_with('=') || caption.ends_with(':') ? " " : " = ") + box->text(), box->path()};
+    return {caption + (caption.ends_with('=') || caption.ends_with(':') ? " " : " = ") + box->text(), box->path(),
+            words[0] == "leave" || takes_in};
   }
-  if (dynamic_cast<const Grid*>(control) != nullptr) return {"table of " + window->caption(), control->path()};
+  if (dynamic_cast<const Grid*>(control) != nullptr) {
+    return {"table of " + window->caption(), control->path(), takes_in};
+  }
   if (const auto* list = dynamic_cast<const ListBox*>(control)) {
     const int line = list->list_index();
     return {line < 0 ? caption : "line " + std::to_string(line + 1) + " of " + caption, ""};

@@ -9,8 +9,9 @@
 namespace zol {
 
 struct StepName {
-  std::string name;  ///< as "a= 4.05", "OK", "DATA_LOAD NaCl.cry"
-  std::string key;   ///< of the box that was typed into; empty for any other event
+  std::string name;   ///< as "a= 4.05", "OK", "DATA_LOAD NaCl.cry"
+  std::string key;    ///< of the box that was typed into; empty for any other event
+  bool ends = false;  ///< what follows is another step, also with the same key
 };
 
 /// By the first operation of a script that repeats the event, and what its control holds behind it.

@@ -414,6 +414,11 @@ class Grid : public ControlWith<GridContents> {
 
   Event<int&> on_key_press;
 
+  // What a table to be edited wants from the front end
+  TextBox* buffer = nullptr;                              ///< where typing collects until Enter
+  CommandButton* emptier = nullptr;                       ///< empties the current cell
+  std::function<std::string(int row, int column)> doubt;  ///< why a text will hardly be meant; empty: fine
+
  private:
   [[nodiscard]] std::size_t cell(int row, int column) const;
 };

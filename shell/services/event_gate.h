@@ -19,6 +19,7 @@ struct UserEvent {
   std::function<void()> run;                ///< what it sets off
   std::function<bool()> still_wanted = {};  ///< asked when its turn has come; none: always
   bool stoppable = true;                    ///< else it is always short, and nothing is kept to be put back
+  std::string step = {};                    ///< its name as a step of the history; empty: from the script
 };
 
 /// A line of a script from its words in UTF-8, quoted where they need it.

@@ -40,8 +40,13 @@ using SharedCopy = std::shared_ptr<const KeptValue>;
 template <class Value>
 [[nodiscard]] SharedCopy shared_copy(const Value& value, const SharedCopy& before) {
   static_assert(std::equality_comparable<Value>, "what is kept has to tell whether it has changed");
+  constexpr bool numbered = requires { value.content().give_new(); };  // large: found the same without a look
   const auto* known = before ? std::any_cast<Value>(&before->value) : nullptr;
-  if (known != nullptr && *known == value) return before;
+  if (known != nullptr && *known == value) {
+    if constexpr (numbered) value.content().take_from(known->content());
+    return before;
+  }
+  if constexpr (numbered) value.content().give_new();
   return std::make_shared<const KeptValue>(KeptValue{value, &value_kind<Value>});
 }
 

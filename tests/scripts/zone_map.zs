@@ -113,3 +113,22 @@ set Pattern2.Text15 -29
 click Pattern2.Command8
 click Zaxis.Check3
 print Pattern2.Picture1
+echo the mirror plane x = y of a cube takes [101] to [011] and keeps the reference (1 1 -1): azimuths change their sign
+set CameraParameters.Text7 0
+set Pattern2.Text3 1
+set Pattern2.Text4 0
+set Pattern2.Text5 1
+click Pattern2.Command8
+click Zaxis.Option2
+click Zaxis.Option1
+print Zaxis.Label_phi(0)
+print Zaxis.Label_phi(1)
+print Zaxis.Label_phi(2)
+set Pattern2.Text3 0
+set Pattern2.Text4 1
+click Pattern2.Command8
+click Zaxis.Option2
+click Zaxis.Option1
+print Zaxis.Label_phi(1)
+print Zaxis.Label_phi(0)
+print Zaxis.Label_phi(2)
