@@ -198,6 +198,17 @@ std::optional<LeadingNumber> leading_number(std::string_view text) {
   return LeadingNumber{parse(number), length};
 }
 
+std::string short_text(double value, int places) {
+  std::array<char, 400> room;  // the largest double has 309 digits
+  const auto end = std::to_chars(room.data(), room.data() + room.size(), value, std::chars_format::fixed, places).ptr;
+  std::string text(room.data(), end);
+  if (text.find('.') != std::string::npos) {
+    text.erase(text.find_last_not_of('0') + 1);
+    if (text.back() == '.') text.pop_back();
+  }
+  return text == "-0" ? "0" : text;
+}
+
 double Val(std::string_view text) {
   std::string packed;
   std::copy_if(text.begin(), text.end(), std::back_inserter(packed), [](char c) { return c != ' ' && c != '\t'; });

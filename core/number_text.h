@@ -16,6 +16,9 @@ namespace zol {
 /// gives infinity.
 [[nodiscard]] double Val(std::string_view text);
 
+/// For what is told beside results: rounded to some decimal places, no zeros behind, one before the point.
+[[nodiscard]] std::string short_text(double value, int places);
+
 /// Strict parse: the same numbers with nothing before or after them and no blanks inside.
 [[nodiscard]] std::optional<double> strict_number(std::string_view text);
 

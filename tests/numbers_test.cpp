@@ -210,6 +210,19 @@ TEST(PlainText, HasSevenDigitsOfASingleFifteenOfADoubleAndNoExponent) {
   EXPECT_EQ(Str(-0.5F), "-.5");
 }
 
+TEST(ShortText, HasNoMoreDigitsThanItTakes) {
+  for (const auto& [value, text] : {std::pair{0.05, "0.05"},
+                                    {-0.00001, "0"},
+                                    {30.0, "30"},
+                                    {-2.5, "-2.5"},
+                                    {1e-9, "0"},
+                                    {0.99999, "1"},
+                                    {100.0, "100"},
+                                    {0.12345, "0.1235"}}) {
+    EXPECT_EQ(short_text(value, 4), text);
+  }
+}
+
 TEST(ShortestText, ReadsBackAsTheSameSingle) {
   EXPECT_EQ(shortest_text(0.1F), ".1");
   EXPECT_EQ(shortest_text(16777216), "16777216");

@@ -19,6 +19,7 @@ struct AtomDistanceForm : Window {
     fields().add("CosBeta", cell.CosBeta);
     fields().add("CosGamma", cell.CosGamma);
     fields().add("DistanceMax", DistanceMax);
+    fields().keep("nearest", nearest);
   }
 
   TextBox Text1{*this, "Text1", "distance maximum (A)="};
@@ -27,6 +28,7 @@ struct AtomDistanceForm : Window {
 
   DistanceCell cell;       ///< as it was at the last calculation
   Single DistanceMax = 0;  ///< angstroms
+  Single nearest = 0;      ///< the shortest of the list, angstroms; 0: none
 };
 
 }  // namespace zol

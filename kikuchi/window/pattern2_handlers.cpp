@@ -8,6 +8,7 @@
 #include "kikuchi/window/pattern2_form.h"
 #include "reflections/window/main1_form.h"
 #include "reflections/window/main1_operations.h"
+#include "reflections/window/shared_state.h"
 #include "shell/services/wiring.h"
 #include "spots/window/picture_controls.h"
 #include "spots/zone_calculation.h"
@@ -314,6 +315,14 @@ namespace zol {
 void wire(Workbench& bench, Pattern2Form& form) {
   using namespace pattern2;
   const Wire on(bench, form);
+  for (Control* made : std::initializer_list<Control*>{&form.Picture1, &form.List1}) {
+    made->made_from = {Source::Reflections};
+    made->made_by = &form.Command8;
+  }
+  form.foot = [&bench] {
+    return shared_state_line(bench, {Shared::Radiation, Shared::HalfWidthDegrees, Shared::Shifts, Shared::Axis,
+                                     Shared::Turn, Shared::Order});
+  };
   form.Text1.on_change = on(Text1_Change);
   form.Text3.on_change = on(Text3_Change);
   form.Text4.on_change = on(Text4_Change);

@@ -22,4 +22,7 @@ struct PowderPattern {
   void allocate(Single dmin, int least_bins);
 };
 
+/// A word on a pattern whose lines fall between its samples. @returns empty, where they don't
+[[nodiscard]] std::string doubt_of_samples(double half_width, double step, const std::string& unit);
+
 }  // namespace zol

@@ -11,6 +11,7 @@
 #include "shell/desktop/desktop_services.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/desktop/notices.h"
 #include "shell/desktop/recovery.h"
 #include "shell/desktop/screen_fit.h"
 #include "shell/program/data_folders.h"
@@ -89,6 +90,7 @@ int run_application(int argc, char** argv, const std::function<void(Desktop&)>& 
   services.set_desktop(desktop);
   program.watch(desktop.gate());
   desktop.offer_undo(program);
+  const Notices notices(program, desktop);
   if (keep_work == KeepWork::Yes) recovery.emplace(program, desktop, recovery_folder());
   QTimer::singleShot(0, &desktop, [&] {
     desktop.enter("the program started", [&program] { program.start(); });

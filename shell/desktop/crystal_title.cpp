@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 
-#include "core/number_text.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/program/program.h"
 
@@ -13,13 +12,8 @@ QString crystal_title_end(Program& program) {
   const auto say = [](const char* text) { return QCoreApplication::translate("zol", text); };
   QString name = to_qt(program.crystal_name());
   if (name.isEmpty()) name = say("new crystal");
-  const CrystalState& state = program.state();
-  QString radiation;
-  if (state.AccVoltage > 0) {
-    radiation = say(", %1 kV").arg(to_qt(plain_text(state.AccVoltage)));
-  } else if (state.WaveLength > 0) {
-    radiation = say(", %1 Å").arg(to_qt(plain_text(state.WaveLength)));
-  }
+  QString radiation = to_qt(program.radiation());
+  if (!radiation.isEmpty()) radiation.prepend(QStringLiteral(", "));
   return QStringLiteral(" - ") + name.replace(QLatin1String("[*]"), QLatin1String("[*][*]")) + radiation +
          QStringLiteral("[*]");
 }

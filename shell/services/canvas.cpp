@@ -171,6 +171,12 @@ void Canvas::edit_picture(const std::function<void(Surface&)>& edit) {
   show_picture();
 }
 
+bool Canvas::made_since(const Copy& before) const {
+  const auto& old = std::any_cast<const Contents&>(before.contents).drawing.list;
+  const auto& now = drawing_.list;
+  return now.size() < old.size() || old.empty() || !std::equal(old.begin(), old.end(), now.begin());
+}
+
 void Canvas::save_stored_image(const std::string& path) { stored_image().save_bitmap(path); }
 
 void Canvas::save_image_with_overlay(const std::string& path) {

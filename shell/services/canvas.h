@@ -123,6 +123,9 @@ class Canvas : public Control {
   [[nodiscard]] Surface& stored_image();
   [[nodiscard]] Surface& overlay_image();
 
+  [[nodiscard]] bool made_since(const Copy& before) const override;
+  [[nodiscard]] bool holds_something() const override { return !drawing_.list.empty(); }
+
  protected:
   [[nodiscard]] std::any copied_contents() const override { return contents(); }
   [[nodiscard]] const ValueKind* contents_kind() const override { return &value_kind<Contents>; }

@@ -82,6 +82,11 @@ enum class ControlKind {
   Canvas
 };
 
+class CommandButton;
+
+/// What lists and pictures are made from.
+enum class Source { Crystal, Radiation, Reflections };
+
 class Control {
  public:
   /// @param caption  its own text, or for a box the text that stands beside it
@@ -121,6 +126,15 @@ class Control {
   [[nodiscard]] const std::shared_ptr<const Copy>& copy() const;
   /// Takes a copy of a control of the same kind. @throws std::bad_any_cast  it is of another kind
   void put_back(const std::shared_ptr<const Copy>& copy);
+  /// Whether what stands in it has been made since a copy of it, rather than selected, marked or added to.
+  [[nodiscard]] virtual bool made_since(const Copy& /*before*/) const { return false; }
+  [[nodiscard]] virtual bool holds_something() const { return false; }
+
+  // What a front end tells beside a list or a picture, not in it
+  std::vector<Source> made_from;        ///< says so when one of them is another one by now
+  CommandButton* made_by = nullptr;     ///< makes it anew
+  std::function<std::string()> remark;  ///< a word on contents that are right by rule and wrong by sense; may be empty
+
   static void store(StoreWriter& out, const Copy& copy);
   /// A copy of a control of this kind. @throws RunFailure  the bytes hold none
   [[nodiscard]] std::shared_ptr<const Copy> load(StoreReader& in) const;
@@ -341,6 +355,8 @@ class ListBox : public ControlWith<ListBoxContents> {
   /// The user picks a line; fires. @throws RunFailure  no such line
   void pick(int index);
   Event<> on_click;
+  [[nodiscard]] bool made_since(const Copy& before) const override;
+  [[nodiscard]] bool holds_something() const override { return !contents_.items.empty(); }
 
  private:
   void contents_replaced() override { ++revision_; }

@@ -93,6 +93,7 @@ class Window {
   Event<> on_activate;
 
   // What a window wants from the front end
+  std::function<std::string()> foot;      ///< what it reads of the state that windows share, as one line; may be empty
   std::vector<FileDrop> file_drops;       ///< what may be dropped on it
   CommandButton* frame_button = nullptr;  ///< what its frame button clicks; none: the window hides
   std::string beside = {};                ///< the window that it goes with: it comes up beside that one, behind it
