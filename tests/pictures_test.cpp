@@ -79,6 +79,14 @@ TEST_F(Pictures, ExportHasTheKindThatItsNameSays) {
     services.pictures.export_picture(canvas, folder.path(name));
     EXPECT_TRUE(folder.read(name).starts_with(magic)) << name;
   }
+  for (const auto* name : {"with.png", "with.svg", "with.pdf"}) {
+    export_picture(canvas, folder.path(name), 2.0, "Quartz\n2");
+  }
+  const QImage with_caption(QString::fromStdString(folder.path("with.png")));
+  const QImage plain = picture_image(canvas, 2.0);
+  EXPECT_EQ(with_caption.size(), QSize(200, 276)) << "two lines of 15 pixels and margins of 4";
+  EXPECT_EQ(with_caption.copy(plain.rect()), plain);
+  EXPECT_NE(folder.read("with.svg").find(">Quartz<"), std::string::npos);
   const QImage image = picture_image(canvas, 4.0);
   EXPECT_EQ(image.size(), QSize(400, 400));
   EXPECT_GT(qRed(image.pixel(200, 200)), 200);

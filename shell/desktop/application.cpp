@@ -10,8 +10,8 @@
 
 #include "shell/desktop/desktop_services.h"
 #include "shell/desktop/guarded_application.h"
-#include "shell/desktop/qt_text.h"
 #include "shell/desktop/notices.h"
+#include "shell/desktop/qt_text.h"
 #include "shell/desktop/recovery.h"
 #include "shell/desktop/screen_fit.h"
 #include "shell/program/data_folders.h"
@@ -69,8 +69,7 @@ void name_application() {
 
 }  // namespace
 
-int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun,
-                    KeepWork keep_work) {
+int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun, KeepWork keep_work) {
   const GuardedApplication application(argc, argv);
   name_application();
   DataRoot data;

@@ -27,6 +27,12 @@ QString title_of(const Axis& axis) { return to_qt(axis.quantity + " (" + axis.un
 /// How many large ticks have room. @param wanted  pixels for one of them
 int room_for(double length, double wanted) { return std::max(1, static_cast<int>(length / wanted)); }
 
+/// Whether exports have a caption, in all windows until the program ends.
+bool& captions_asked_for() {
+  static bool asked_for = false;
+  return asked_for;
+}
+
 }  // namespace
 
 CanvasView::CanvasView(QWidget* parent) : QWidget(parent) {
@@ -226,6 +232,9 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
   menu->addAction(tr("Export PNG, &four times..."), this, [this] { ask_export(4.0, ".png"); });
   menu->addAction(tr("Export &SVG..."), this, [this] { ask_export(1.0, ".svg"); });
   menu->addAction(tr("Export P&DF..."), this, [this] { ask_export(1.0, ".pdf"); });
+  auto* with_caption = menu->addAction(tr("Captions &in exports"), this, [](bool on) { captions_asked_for() = on; });
+  with_caption->setCheckable(true);
+  with_caption->setChecked(captions_asked_for());
   menu->popup(event->globalPos());
 }
 
@@ -245,7 +254,7 @@ void CanvasView::ask_export(double factor, const char* ending) {
     const std::string answer = dialog.save(FileKind::Export, suffix);
     if (answer.empty()) return;
     try {
-      export_picture(*canvas_, suffix.added_to(answer), factor);
+      export_picture(*canvas_, suffix.added_to(answer), factor, captions_asked_for() ? caption_ : "");
     } catch (const RunFailure& failure) {
       services.message(failure.message(), "Export");
     }

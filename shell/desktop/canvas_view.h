@@ -27,6 +27,8 @@ class CanvasView : public QWidget {
   [[nodiscard]] QRectF picture_rect() const;
 
   void copy_to_clipboard() const;
+  /// What an export says below the picture where that is asked for, lines in UTF-8.
+  void set_caption(std::string caption) { caption_ = std::move(caption); }
 
  signals:
   /// The pointer stands over this place; an empty text when it has left the picture.
@@ -62,6 +64,7 @@ class CanvasView : public QWidget {
   UserEvents* events_ = nullptr;
   bool pressed_ = false;  ///< inside the picture: what follows belongs to it, wherever the pointer goes
   QPixmap cache_;
+  std::string caption_;
 };
 
 }  // namespace zol

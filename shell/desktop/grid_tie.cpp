@@ -363,8 +363,7 @@ class GridTie : public ControlTie {
                                     .arg(rows.size())
                                     .arg(last().row - from.row + 1));
     }
-    write(std::move(cells), {std::min(place.row, last().row), from.column},
-          tr("rows pasted: %1").arg(rows.size()));
+    write(std::move(cells), {std::min(place.row, last().row), from.column}, tr("rows pasted: %1").arg(rows.size()));
   }
 
   [[nodiscard]] bool are_heads(const std::vector<std::string>& row, int column) const {

@@ -10,6 +10,7 @@
 #include <QStatusBar>
 #include <QToolButton>
 
+#include "shell/desktop/canvas_view.h"
 #include "shell/desktop/qt_text.h"
 
 namespace zol {
@@ -125,8 +126,19 @@ void Notices::update_foot(const Window& window, QWidget& top) {
   line->say(to_qt(window.foot()));
 }
 
+/// What it was drawn for and with.
+std::string Notices::caption_of(const Control& control, const std::string& old) {
+  const Window& window = control.window();
+  std::string caption = program_.crystal_name();
+  if (!program_.radiation().empty()) caption += (caption.empty() ? "" : ", ") + program_.radiation();
+  if (!old.empty()) caption = old;
+  if (window.foot && !window.foot().empty()) caption += "\n" + window.foot();
+  return caption + "\nZOL " + program_version;
+}
+
 void Notices::show_strip(Control& control, QWidget& view) {
   const std::string old = program_.said_of(control);
+  if (auto* picture = qobject_cast<CanvasView*>(&view)) picture->set_caption(caption_of(control, old));
   const std::string remark = control.remark && control.holds_something() ? control.remark() : "";
   auto& strip = strips_[control.path()];
   if (old.empty() && remark.empty()) {

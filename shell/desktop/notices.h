@@ -25,6 +25,7 @@ class Notices : public QObject {
  private:
   void update_window(Window& window, QWidget& top);
   void update_foot(const Window& window, QWidget& top);
+  [[nodiscard]] std::string caption_of(const Control& control, const std::string& old);
   void show_strip(Control& control, QWidget& view);
   void make_again(Control& control);
 

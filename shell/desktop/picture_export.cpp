@@ -29,23 +29,57 @@ std::string ending_of(const std::string& path) {
   return ending;
 }
 
-QByteArray svg_of(Canvas& canvas) {
+/// Lines of text below a picture, as wide as it is.
+class Caption {
+ public:
+  explicit Caption(const std::string& text) {
+    if (!text.empty()) lines_ = to_qt(text).split(u'\n');
+  }
+  /// Of picture and caption, pixels of the canvas.
+  [[nodiscard]] QSize below(const Canvas& canvas) const {
+    const int height = lines_.isEmpty() ? 0 : static_cast<int>(lines_.size()) * line_px + 2 * margin_px;
+    return {canvas.pixel_width(), canvas.pixel_height() + height};
+  }
+  void paint(QPainter& painter, const Canvas& canvas) const {
+    if (lines_.isEmpty()) return;
+    const QRect strip(QPoint(0, canvas.pixel_height()), below(canvas) - QSize(0, canvas.pixel_height()));
+    painter.fillRect(strip, Qt::white);
+    QFont font(QStringLiteral("Sans"));
+    font.setPixelSize(text_px);
+    painter.setFont(font);
+    painter.setPen(Qt::black);
+    QRect row(strip.left() + margin_px, strip.top() + margin_px, strip.width() - 2 * margin_px, line_px);
+    for (const QString& line : lines_) {
+      painter.drawText(row, Qt::AlignVCenter, QFontMetrics(font).elidedText(line, Qt::ElideRight, row.width()));
+      row.translate(0, line_px);
+    }
+  }
+
+ private:
+  static constexpr int text_px = 11;
+  static constexpr int line_px = 15;
+  static constexpr int margin_px = 4;
+  QStringList lines_;
+};
+
+QByteArray svg_of(Canvas& canvas, const Caption& caption) {
   QBuffer buffer;
   QSvgGenerator svg;
   svg.setOutputDevice(&buffer);
   svg.setResolution(dots_per_inch);
-  svg.setSize({canvas.pixel_width(), canvas.pixel_height()});
-  svg.setViewBox(QRect(0, 0, canvas.pixel_width(), canvas.pixel_height()));
+  svg.setSize(caption.below(canvas));
+  svg.setViewBox(QRect(QPoint(), caption.below(canvas)));
   svg.setTitle(QString::fromStdString(canvas.path()));
   QPainter painter(&svg);
   paint_canvas(painter, canvas);
+  caption.paint(painter, canvas);
   painter.end();
   return buffer.data();
 }
 
-QByteArray pdf_of(Canvas& canvas) {
+QByteArray pdf_of(Canvas& canvas, const Caption& caption) {
   constexpr double points_per_pixel = 72.0 / dots_per_inch;
-  const QSizeF size(canvas.pixel_width(), canvas.pixel_height());
+  const QSizeF size(caption.below(canvas));
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter pdf(&buffer);
@@ -56,8 +90,22 @@ QByteArray pdf_of(Canvas& canvas) {
   QPainter painter(&pdf);
   painter.scale(double{resolution} / dots_per_inch, double{resolution} / dots_per_inch);
   paint_canvas(painter, canvas);
+  caption.paint(painter, canvas);
   painter.end();
   return buffer.data();
+}
+
+QImage with_caption(Canvas& canvas, double factor, const Caption& caption) {
+  const QImage picture = picture_image(canvas, factor);
+  const QSize size = (QSizeF(caption.below(canvas)) * factor).toSize();
+  if (size == picture.size()) return picture;
+  QImage image(size, QImage::Format_RGB32);
+  QPainter painter(&image);
+  painter.drawImage(0, 0, picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(factor, factor);
+  caption.paint(painter, canvas);
+  return image;
 }
 
 }  // namespace
@@ -77,12 +125,13 @@ QImage picture_image(Canvas& canvas, double factor) {
   return image;
 }
 
-void export_picture(Canvas& canvas, const std::string& path, double factor) {
+void export_picture(Canvas& canvas, const std::string& path, double factor, const std::string& caption_text) {
+  const Caption caption(caption_text);
   const std::string ending = ending_of(path);
-  if (ending == "bmp") return write_image(picture_image(canvas, factor), path, "BMP");
-  if (ending == "png") return write_image(picture_image(canvas, factor), path, "PNG");
-  if (ending == "svg") return write_bytes(svg_of(canvas), path);
-  if (ending == "pdf") return write_bytes(pdf_of(canvas), path);
+  if (ending == "bmp") return write_image(with_caption(canvas, factor, caption), path, "BMP");
+  if (ending == "png") return write_image(with_caption(canvas, factor, caption), path, "PNG");
+  if (ending == "svg") return write_bytes(svg_of(canvas, caption), path);
+  if (ending == "pdf") return write_bytes(pdf_of(canvas, caption), path);
   throw RunFailure("can't export to " + path + ": the name must end in .bmp, .png, .svg or .pdf");
 }
 

@@ -14,8 +14,9 @@ namespace zol {
 
 /// Writes the kind that the ending of the path names: .bmp, .png, .svg, .pdf.
 /// @param factor  pixels per canvas pixel, for .bmp and .png
+/// @param caption  lines in UTF-8 below the picture, in a strip of their own; empty: none
 /// @throws RunFailure  another ending, or the file can't be written
-void export_picture(Canvas& canvas, const std::string& path, double factor = 1.0);
+void export_picture(Canvas& canvas, const std::string& path, double factor = 1.0, const std::string& caption = "");
 
 /// Pictures of a program without a screen: starts Qt on its offscreen platform when the first one is asked for.
 class OffscreenPictures : public PictureMaker {
