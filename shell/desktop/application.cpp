@@ -68,8 +68,7 @@ void name_application() {
 
 }  // namespace
 
-int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun,
-                    KeepWork keep_work) {
+int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun, KeepWork keep_work) {
   const GuardedApplication application(argc, argv);
   name_application();
   DataRoot data;

@@ -48,7 +48,8 @@ QString told_of(const WorkNote& note) {
   QStringList parts;
   parts << (note.crystal.empty() ? say("no crystal") : to_qt(note.crystal));
   if (!note.windows.empty()) parts << to_qt(note.windows);
-  parts << QLocale(QLocale::English).toString(QDateTime::fromMSecsSinceEpoch(note.time_ms), QStringLiteral("d MMM yyyy, HH:mm"));
+  parts << QLocale(QLocale::English)
+               .toString(QDateTime::fromMSecsSinceEpoch(note.time_ms), QStringLiteral("d MMM yyyy, HH:mm"));
   switch (note.end) {
     case RunEnd::Failure:
       parts << say("ended by a failure: ") + to_qt(note.failure);
@@ -95,8 +96,8 @@ void KeptWorkBar::add_row(const LeftOver& left) {
   auto* row = new QWidget;
   auto* columns = new QHBoxLayout(row);
   columns->setContentsMargins(0, 0, 0, 0);
-  const QString told =
-      left.fault.empty() ? told_of(left.note) : tr("%1: can't be restored, %2").arg(told_of(left.note), to_qt(left.fault));
+  const QString told = left.fault.empty() ? told_of(left.note)
+                                          : tr("%1: can't be restored, %2").arg(told_of(left.note), to_qt(left.fault));
   columns->addWidget(label(told), 1);
   const auto add_button = [&](const char* name, const QString& text, const QString& tip, auto action) {
     auto* button = new QPushButton(text);

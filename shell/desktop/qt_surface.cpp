@@ -126,7 +126,8 @@ bool is_plain_grey(const QImage& image) {
   if (image.format() != QImage::Format_ARGB32_Premultiplied) return false;
   for (int y = 0; y < image.height(); ++y) {
     const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
-    if (!std::all_of(row, row + image.width(), [](QRgb pixel) { return pixel == qRgb(qRed(pixel), qRed(pixel), qRed(pixel)); })) {
+    if (!std::all_of(row, row + image.width(),
+                     [](QRgb pixel) { return pixel == qRgb(qRed(pixel), qRed(pixel), qRed(pixel)); })) {
       return false;
     }
   }
@@ -168,7 +169,11 @@ QImage load_image(StoreReader& in) {
   }
   // The bytes come before the memory for them.
   const std::size_t pixels = static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
-  const auto bytes = in.raw(grey ? pixels : pixels * static_cast<std::size_t>(QImage::toPixelFormat(static_cast<QImage::Format>(format)).bitsPerPixel()) / 8);
+  const auto bytes = in.raw(
+      grey ? pixels
+           : pixels *
+                 static_cast<std::size_t>(QImage::toPixelFormat(static_cast<QImage::Format>(format)).bitsPerPixel()) /
+                 8);
   QImage image(width, height, static_cast<QImage::Format>(format));
   if (image.isNull()) throw RunFailure("not enough memory for a picture");
   const char* from = bytes.data();

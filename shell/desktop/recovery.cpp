@@ -39,7 +39,11 @@ std::shared_ptr<const Snapshot> with_windows_of(const std::shared_ptr<const Snap
 }  // namespace
 
 Recovery::Recovery(Program& program, Desktop& desktop, std::string folder)
-    : program_(program), desktop_(desktop), left_(left_overs(folder)), seen_(program.snapshot()), file_(std::move(folder)) {
+    : program_(program),
+      desktop_(desktop),
+      left_(left_overs(folder)),
+      seen_(program.snapshot()),
+      file_(std::move(folder)) {
   program_.set_changed([this](const std::shared_ptr<const Snapshot>& now) { changed(now); });
   desktop_.set_made([this](const Window& window, QMainWindow& top) {
     if (!window.offers_kept_work || left_.empty()) return;
@@ -94,7 +98,8 @@ void Recovery::end() noexcept {
   }
 }
 
-/// The left-over goes when its work is on the disk as that of this run. @returns why it can't be brought back, or nothing
+/// The left-over goes when its work is on the disk as that of this run. @returns why it can't be brought back, or
+/// nothing
 std::string Recovery::restore(const LeftOver& left) {
   std::string fault;
   desktop_.enter("restore " + (left.note.crystal.empty() ? "work" : left.note.crystal), [&] {

@@ -52,7 +52,9 @@ KeptWork Program::kept_work(std::shared_ptr<const Snapshot> snapshot) const {
   note.time_ms = std::chrono::duration_cast<std::chrono::milliseconds>(since_1970).count();
   if (holds_crystal()) note.crystal = crystal_name().empty() ? "new crystal" : crystal_name();
   for (const auto& [name, window] : snapshot->windows) {
-    if (window.visible) note.windows += (note.windows.empty() ? "" : ", ") + name;
+    const Window* existing = windows_.find(name);
+    const bool told = window.visible && (existing == nullptr || !existing->offers_kept_work);  // where it is offered
+    if (told) note.windows += (note.windows.empty() ? "" : ", ") + name;
   }
   return {note, std::move(snapshot), bench_.saved_crystal};
 }
@@ -75,9 +77,7 @@ bool Program::holds_crystal() const {
   return std::any_of(cell.begin(), cell.end(), is_set) || state.NAtom > 0 || state.JcpdsCount > 0;
 }
 
-bool Program::crystal_unsaved() const {
-  return holds_crystal() && crystal_file_text(state_) != bench_.saved_crystal;
-}
+bool Program::crystal_unsaved() const { return holds_crystal() && crystal_file_text(state_) != bench_.saved_crystal; }
 
 std::function<void()> Program::keep() {
   return [this, kept = snapshot()] { put_back(*kept); };

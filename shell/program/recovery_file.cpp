@@ -108,7 +108,8 @@ HeldLock HeldLock::make(const std::string& folder) {
     const int descriptor = mkostemps(path.data(), static_cast<int>(lock_ending.size()), O_CLOEXEC);
     if (descriptor < 0) throw RunFailure("can't write into " + folder + ": " + std::strerror(errno));
     HeldLock held(path, descriptor);
-    if (!zol::lock(descriptor, LOCK_EX)) throw RunFailure("can't lock a file in " + folder + ": " + std::strerror(errno));
+    if (!zol::lock(descriptor, LOCK_EX))
+      throw RunFailure("can't lock a file in " + folder + ": " + std::strerror(errno));
     if (has_name(descriptor)) return held;
   }
 }

@@ -23,7 +23,8 @@ class HeldLock {
   [[nodiscard]] static std::optional<HeldLock> take(const std::string& path);
   /// Makes a lock file of a new name. @throws RunFailure  the folder takes none
   [[nodiscard]] static HeldLock make(const std::string& folder);
-  HeldLock(HeldLock&& other) noexcept : path_(std::move(other.path_)), descriptor_(std::exchange(other.descriptor_, -1)) {}
+  HeldLock(HeldLock&& other) noexcept
+      : path_(std::move(other.path_)), descriptor_(std::exchange(other.descriptor_, -1)) {}
   HeldLock& operator=(HeldLock&&) = delete;
   HeldLock(const HeldLock&) = delete;
   HeldLock& operator=(const HeldLock&) = delete;

@@ -20,10 +20,10 @@ enum class RunEnd : std::uint8_t {
 
 /// What is told of kept work.
 struct WorkNote {
-  std::string version;      ///< of the program
+  std::string version;       ///< of the program
   std::int64_t time_ms = 0;  ///< since the beginning of 1970, UTC
-  std::string crystal;      ///< its name, a part of a file name; empty where there is no crystal
-  std::string windows;      ///< that were open, "Main1, Pattern2"
+  std::string crystal;       ///< its name, a part of a file name; empty where there is no crystal
+  std::string windows;       ///< that were open, "Main1, Pattern2"
   RunEnd end = RunEnd::Unknown;
   std::string failure;  ///< the message of a failure
 };

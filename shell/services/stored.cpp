@@ -52,7 +52,8 @@ void store_kept(StoreWriter& out, const std::any& value, const ValueKind* kind) 
 
 std::any load_kept(StoreReader& in, const ValueKind* kind) {
   const auto mark = in.number<std::uint64_t>();
-  if (mark != (kind == nullptr ? std::uint64_t{0} : kind->mark())) StoreReader::fail("it holds a value of another type");
+  if (mark != (kind == nullptr ? std::uint64_t{0} : kind->mark()))
+    StoreReader::fail("it holds a value of another type");
   return kind == nullptr ? std::any() : kind->load(in);
 }
 

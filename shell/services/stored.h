@@ -2,7 +2,8 @@
 //
 // Numbers, texts and containers can be stored, and every plain struct of such, member by member. Any other class either
 // names its members by a function parts() or has a Stored of its own; a type with neither does not compile. Where the
-// members have to fit together, sound() tells whether they do. Bytes are those of this machine. A reader believes nothing: each length is held against the bytes that are left.
+// members have to fit together, sound() tells whether they do. Bytes are those of this machine. A reader believes
+// nothing: each length is held against the bytes that are left.
 #pragma once
 
 #include <any>
@@ -88,8 +89,8 @@ namespace detail {
 template <class Struct>
 struct AnyMember {
   template <class Member>
-  requires(!std::same_as<Member, Struct>)
-  operator Member() const;  // NOLINT(google-explicit-constructor,hicpp-explicit-conversions): that is its use
+  requires(!std::same_as<Member, Struct>) operator Member()
+      const;  // NOLINT(google-explicit-constructor,hicpp-explicit-conversions): that is its use
 };
 
 template <class Struct, class... Members>
@@ -146,7 +147,9 @@ template <class Struct>
 }
 
 template <class Value>
-concept HasParts = requires(Value& value) { Value::parts(value); };
+concept HasParts = requires(Value& value) {
+  Value::parts(value);
+};
 
 template <class Value>
 [[nodiscard]] auto parts_of(Value& value) {
