@@ -84,6 +84,7 @@ std::function<void()> Program::keep() {
 }
 
 void Program::watch(EventGate& gate) {
+  began_ = last_;
   gate.set_keep([this] {
     went_back_ = false;
     auto put_back = keep();
