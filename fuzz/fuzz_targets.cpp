@@ -180,6 +180,7 @@ const std::vector<Target>& targets() {
       {"structure", structure},
       {"bitmap", bitmap},
       {"script", run_script},
+      {"kept_work", restore_changed_work},
   };
   return table;
 }

@@ -34,4 +34,11 @@ class ScriptFolder {
 /// Bounds a script and runs it in a folder of its own.
 void run_script(const std::string& input);
 
+/// Changes the file of kept work of a program, puts its checksums right again, and restores it: what is taken for sound
+/// must be harmless.
+/// @param input  records of five bytes: a place and the byte that goes there; behind the last whole one, of a rest of
+/// two
+///               bytes, how much is cut off the end
+void restore_changed_work(const std::string& input);
+
 }  // namespace zol::fuzz

@@ -2,17 +2,24 @@
 //
 //     zol-real-use FILES [PICTURES]
 //     zol-real-use FILES failure KIND
+//     zol-real-use FILES recovery STEP [WINDOW BOX TEXT]
 //
 // FILES is a folder for what is saved on the way. With PICTURES a PNG of each window goes to that folder. The program
 // ends by "Exit" with status 0; a step that does not do what it should ends it with status 3 and a line that says
 // which. With "failure" one kind of failure of the run is brought about and the text of its message printed: status 1.
+// With "recovery" a crystal is changed and the program ended, in the way of the step, or what such a run left is looked
+// for and restored: the box then holds the text.
+#include <unistd.h>
+
 #include <array>
+#include <csignal>
 
 #include <QClipboard>
 #include <QContextMenuEvent>
 #include <QFile>
 #include <QLabel>
 #include <QMessageBox>
+#include <QPushButton>
 #include <QTableView>
 #include <QTextBrowser>
 #include <QTimer>
@@ -320,7 +327,7 @@ void fail(const User& user, std::string_view kind) {
   user.click("MAIN_MENU", "Command1");
   user.load_crystal("Quartz.cry");
   when_asked<QMessageBox>([](QMessageBox& box) {
-    std::cout << box.text().toStdString() << std::endl;
+    std::cout << box.text().toStdString() << '\n' << box.informativeText().toStdString() << std::endl;
     QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
   });
   if (kind == "missing") return user.fill("Main1", {{"Text7", "260"}});
@@ -330,18 +337,73 @@ void fail(const User& user, std::string_view kind) {
   user.choose("PATTERN3", "ImageLoad");  // the box is left on the way to the dialog
 }
 
+/// Texts of the bar for kept work.
+QStringList offers(const User& user) {
+  QStringList texts;
+  const auto* bar = user.window("MAIN_MENU").findChild<QWidget*>(QStringLiteral("keptWork"));
+  if (bar == nullptr) return texts;
+  for (const auto* label : bar->findChildren<QLabel*>()) texts << label->text();
+  return texts.mid(1);
+}
+
+void restore(const User& user, const char* window, const char* box, const char* text) {
+  expect(offers(user).size() == 1, "the work is not offered");
+  std::cout << offers(user).first().toStdString() << std::endl;
+  user.click("MAIN_MENU", "Restore");
+  const auto restored = [&] { return user.widget<QLineEdit>(window, box).text(); };
+  expect(restored() == QString::fromLatin1(text), "restored was: " + restored().toStdString());
+  expect(user.lines("Main1", "List2") > 100, "the list of quartz is too short");
+  QTest::keyClick(&user.window(window), Qt::Key_Z, Qt::ControlModifier);
+  QTest::keyClick(&user.window("MAIN_MENU"), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  expect(restored() == QString::fromLatin1(text), "redo brings nothing back");
+  user.click("MAIN_MENU", "Command5");
+}
+
+/// Changes a crystal and ends the program in one way or another.
+void change(const User& user, std::string_view end) {
+  expect(offers(user).isEmpty(), "the file of another run is offered");
+  user.click("MAIN_MENU", "Command1");
+  user.load_crystal("Quartz.cry");
+  user.fill("Main1", {{"Text1", "4.95"}});
+  if (end == "unsaved") return user.choose("Main1", "OWARI");
+  if (end == "saved") {
+    user.save("kept.cry", "kept.cry", [&user] { user.choose("Main1", "DATA_SAVE"); });
+    return user.choose("Main1", "OWARI");
+  }
+  constexpr int more_than_a_second = 1500;
+  QTest::qWait(more_than_a_second);
+  QFile(user.file("written")).open(QIODevice::WriteOnly);
+  const bool waits = end == "held";
+  expect(!waits || QTest::qWaitFor([&user] { return QFileInfo::exists(user.file("go")); }, 60000), "nobody lets go");
+  std::raise(end == "terminated" ? SIGTERM : SIGKILL);
+}
+
+void recover(const User& user, int argc, char** argv) {
+  const std::string_view step = argv[3];
+  if (step == "restore") {
+    expect(argc == 7, "which box?");
+    return restore(user, argv[4], argv[5], argv[6]);
+  }
+  if (step != "nothing") return change(user, step);
+  expect(offers(user).isEmpty(), "there is something to be restored");
+  user.click("MAIN_MENU", "Command5");
+}
+
 }  // namespace
 }  // namespace zol
 
 int main(int argc, char** argv) {
-  if (argc < 2) zol::give_up("usage: zol-real-use FILES [PICTURES | failure KIND]");
+  if (argc < 2) zol::give_up("usage: zol-real-use FILES [PICTURES | failure KIND | recovery STEP]");
   const QString files = QFile::decodeName(argv[1]);
   const std::optional<QString> pictures = argc == 3 ? std::optional(QFile::decodeName(argv[2])) : std::nullopt;
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // those of a desktop can't be filled in from here
   return zol::run_application(argc, argv, [&](zol::Desktop& desktop) {
     const zol::User user(desktop, files, pictures);
-    if (argc > 3) {
+    const std::string_view mode = argc > 3 ? argv[2] : "";
+    if (mode == "failure") {
       zol::fail(user, argv[3]);
+    } else if (mode == "recovery") {
+      zol::recover(user, argc, argv);
     } else {
       zol::walk(user);
     }

@@ -48,8 +48,11 @@ bool fit_together(const ReflectorSet& set) {
   std::size_t next = 0;
   for (std::size_t number = 0; number < set.families.size(); ++number) {
     const ReflectorFamily& family = set.families[number];
-    if (family.first != static_cast<int>(next) || family.count < 1 || set.members.size() - next < static_cast<std::size_t>(family.count)) return false;
-    if (!(family.weight > 0 && std::isfinite(family.weight) && family.bragg_rad > 0 && family.bragg_rad < 2)) return false;
+    if (family.first != static_cast<int>(next) || family.count < 1 ||
+        set.members.size() - next < static_cast<std::size_t>(family.count))
+      return false;
+    if (!(family.weight > 0 && std::isfinite(family.weight) && family.bragg_rad > 0 && family.bragg_rad < 2))
+      return false;
     for (int i = 0; i < family.count; ++i, ++next) {
       constexpr double rounding = 1e-6;
       const Reflector& member = set.members[next];
@@ -110,7 +113,8 @@ void Stored<IndexResult>::store(StoreWriter& out, const IndexResult& result) {
   }
   out.count(result.solutions.size());
   for (const auto& solution : result.solutions) {
-    out.number(static_cast<std::uint32_t>(std::find(models.begin(), models.end(), solution.model.get()) - models.begin()));
+    out.number(
+        static_cast<std::uint32_t>(std::find(models.begin(), models.end(), solution.model.get()) - models.begin()));
     const IndexSolution& found = solution.found;
     store_matrix(out, found.crystal_from_picture);
     out.number(found.matched);
@@ -144,8 +148,9 @@ IndexResult Stored<IndexResult>::load(StoreReader& in) {
     solution.matches = zol::load<std::vector<MatchedBand>>(in);
     const auto planes = static_cast<int>(solution.model->table->planes().size());
     const bool fits = solution.matches.size() == result.bands.size() &&
-                      std::all_of(solution.matches.begin(), solution.matches.end(),
-                                  [planes](const MatchedBand& match) { return match.plane >= -1 && match.plane < planes; });
+                      std::all_of(solution.matches.begin(), solution.matches.end(), [planes](const MatchedBand& match) {
+                        return match.plane >= -1 && match.plane < planes;
+                      });
     if (!fits) StoreReader::fail("the bands of an orientation are others");
     result.solutions.push_back(std::move(solution));
   }

@@ -27,7 +27,7 @@ QLabel* label(const QString& text) {
   auto* made = new QLabel(shortened(text));
   made->setTextFormat(Qt::PlainText);
   made->setWordWrap(true);
-  made->setToolTip(text.toHtmlEscaped());
+  made->setToolTip(QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()));
   return made;
 }
 

@@ -88,7 +88,9 @@ KeptWork Program::kept_work(std::shared_ptr<const Snapshot> snapshot) const {
   note.time_ms = std::chrono::duration_cast<std::chrono::milliseconds>(since_1970).count();
   if (holds_crystal()) note.crystal = crystal_name().empty() ? "new crystal" : crystal_name();
   for (const auto& [name, window] : snapshot->windows) {
-    if (window.visible) note.windows += (note.windows.empty() ? "" : ", ") + name;
+    const Window* existing = windows_.find(name);
+    const bool told = window.visible && (existing == nullptr || !existing->offers_kept_work);  // where it is offered
+    if (told) note.windows += (note.windows.empty() ? "" : ", ") + name;
   }
   return {note, std::move(snapshot), bench_.saved_crystal};
 }
@@ -135,6 +137,7 @@ std::function<void()> Program::keep() {
 }
 
 void Program::watch(EventGate& gate) {
+  began_ = last_;
   gate.set_keep([this] {
     went_back_ = false;
     auto put_back = keep();

@@ -58,8 +58,7 @@ void NamedValues::store(StoreWriter& out, const Copies& copies) {
 NamedValues::Copies NamedValues::load(StoreReader& in) const {
   Copies copies;
   for (const auto& [name, kept] : kept_) {
-    if (const std::string found = in.text(); found != name)
-      StoreReader::fail("it has " + found + " in place of " + name);
+    if (in.text() != name) StoreReader::fail("it lacks " + name);
     copies.emplace_hint(copies.end(), name,
                         std::make_shared<const KeptValue>(KeptValue{load_kept(in, kept.kind), kept.kind}));
   }
