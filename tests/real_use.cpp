@@ -209,7 +209,9 @@ std::string shown_by_main1(const User& user) {
   QWidget& top = user.window("Main1");
   QString all;
   for (const auto* box : top.findChildren<QLineEdit*>()) all += box->objectName() + u'=' + box->text() + u'\n';
-  for (const auto* label : top.findChildren<QLabel*>()) all += label->objectName() + u'=' + label->text() + u'\n';
+  for (const auto* label : top.findChildren<QLabel*>()) {
+    if (!label->objectName().isEmpty()) all += label->objectName() + u'=' + label->text() + u'\n';
+  }
   for (const auto* button : top.findChildren<QAbstractButton*>()) all += button->isChecked() ? u'x' : u'-';
   return all.toStdString() + std::to_string(user.lines("Main1", "List2"));
 }
