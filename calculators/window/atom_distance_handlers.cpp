@@ -26,7 +26,11 @@ void Command1_Click(Workbench& bench, AtomDistanceForm& form) {
   int site = 0;
   for (const auto& distances : of_sites) {
     ++site;
-    for (const auto& found : distances) form.List1.add_item(distance_line(state, site, found));
+    task.report(site, state.NAtom.value());
+    for (const auto& found : distances) {
+      task.check();
+      form.List1.add_item(distance_line(state, site, found));
+    }
     form.List1.add_item("------------------------");
   }
 }

@@ -14,6 +14,7 @@
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/services/workbench.h"
 
 namespace zol {
 namespace {
@@ -29,7 +30,7 @@ std::string ending_of(const std::string& path) {
   return ending;
 }
 
-QByteArray svg_of(Canvas& canvas) {
+QByteArray svg_of(Canvas& canvas, Task& task) {
   QBuffer buffer;
   QSvgGenerator svg;
   svg.setOutputDevice(&buffer);
@@ -38,12 +39,12 @@ QByteArray svg_of(Canvas& canvas) {
   svg.setViewBox(QRect(0, 0, canvas.pixel_width(), canvas.pixel_height()));
   svg.setTitle(QString::fromStdString(canvas.path()));
   QPainter painter(&svg);
-  paint_canvas(painter, canvas);
+  paint_canvas(painter, canvas, task);
   painter.end();
   return buffer.data();
 }
 
-QByteArray pdf_of(Canvas& canvas) {
+QByteArray pdf_of(Canvas& canvas, Task& task) {
   constexpr double points_per_pixel = 72.0 / dots_per_inch;
   const QSizeF size(canvas.pixel_width(), canvas.pixel_height());
   QBuffer buffer;
@@ -55,7 +56,7 @@ QByteArray pdf_of(Canvas& canvas) {
   pdf.setResolution(resolution);
   QPainter painter(&pdf);
   painter.scale(double{resolution} / dots_per_inch, double{resolution} / dots_per_inch);
-  paint_canvas(painter, canvas);
+  paint_canvas(painter, canvas, task);
   painter.end();
   return buffer.data();
 }
@@ -63,6 +64,11 @@ QByteArray pdf_of(Canvas& canvas) {
 }  // namespace
 
 QImage picture_image(Canvas& canvas, double factor) {
+  QuietTask task;
+  return picture_image(canvas, factor, task);
+}
+
+QImage picture_image(Canvas& canvas, double factor, Task& task) {
   const QSize size(canvas.pixel_width(), canvas.pixel_height());
   QImage image((QSizeF(size) * factor).toSize(), QImage::Format_RGB32);
   QPainter painter(&image);
@@ -72,17 +78,17 @@ QImage picture_image(Canvas& canvas, double factor) {
   } else {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(factor, factor);
-    paint_canvas(painter, canvas);
+    paint_canvas(painter, canvas, task);
   }
   return image;
 }
 
-void export_picture(Canvas& canvas, const std::string& path, double factor) {
+void export_picture(Canvas& canvas, const std::string& path, double factor, Task& task) {
   const std::string ending = ending_of(path);
-  if (ending == "bmp") return write_image(picture_image(canvas, factor), path, "BMP");
-  if (ending == "png") return write_image(picture_image(canvas, factor), path, "PNG");
-  if (ending == "svg") return write_bytes(svg_of(canvas), path);
-  if (ending == "pdf") return write_bytes(pdf_of(canvas), path);
+  if (ending == "bmp") return write_image(picture_image(canvas, factor, task), path, "BMP");
+  if (ending == "png") return write_image(picture_image(canvas, factor, task), path, "PNG");
+  if (ending == "svg") return write_bytes(svg_of(canvas, task), path);
+  if (ending == "pdf") return write_bytes(pdf_of(canvas, task), path);
   throw RunFailure("can't export to " + path + ": the name must end in .bmp, .png, .svg or .pdf");
 }
 
@@ -113,7 +119,8 @@ std::unique_ptr<Surface> OffscreenPictures::make_surface(int width, int height) 
 
 void OffscreenPictures::export_picture(Canvas& canvas, const std::string& path) {
   start();
-  zol::export_picture(canvas, path);
+  WindowTask task(canvas.services());
+  zol::export_picture(canvas, path, 1.0, task);
 }
 
 }  // namespace zol

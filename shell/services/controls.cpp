@@ -141,9 +141,18 @@ void ListBox::clear() {
   changed();
 }
 
-void ListBox::add_item(std::string_view item) {
+void ListBox::add_items(std::vector<std::string> items, Task& task) {
+  constexpr std::size_t between_checks = 1024;
+  std::size_t count = 0;
+  for (auto& item : items) {
+    if (count++ % between_checks == 0) task.check();
+    add_item(std::move(item));
+  }
+}
+
+void ListBox::add_item(std::string item) {
   ++revision_;
-  contents_.items.emplace_back(item);
+  contents_.items.push_back(std::move(item));
   contents_.colours.push_back(contents_.fore_colour);
   changed();
 }

@@ -2,11 +2,13 @@
 // plain value that can be copied, compared and put back.
 #pragma once
 
+#include <deque>
 #include <optional>
 #include <string>
 #include <variant>
 #include <vector>
 
+#include "core/shared_vector.h"
 #include "shell/services/controls.h"
 
 namespace zol {
@@ -49,6 +51,8 @@ struct Primitive {
   bool operator==(const Primitive&) const = default;
 };
 
+using DrawingList = std::deque<Primitive>;
+
 /// What the next drawing is done with.
 struct Pens {
   Colour fore = colours::black;
@@ -68,7 +72,7 @@ struct Drawing {
   UserScale list_scale;           ///< in force at the head of the list
   double x = 0, y = 0;            ///< the drawing position
   Pens pens;
-  std::vector<Primitive> list;
+  SharedVector<Primitive, DrawingList> list;
 
   [[nodiscard]] int pixel_width() const;  ///< twips / 15, rounded half to even
   [[nodiscard]] int pixel_height() const;
