@@ -222,6 +222,19 @@ class Matcher {
   Matching matching_;
 };
 
+/// Each pair of reflections is looked at, each third one of a pair that fits, and the solution of what fits wholly; an
+/// angle fits as often as if all were alike.
+Effort effort_of_matching(const TripleTable& table, const MatchSettings& settings) {
+  constexpr double of_pair = 3e-9;
+  constexpr double of_third = 3e-9;
+  constexpr double of_solution = 1.5e-6;
+  constexpr double right_angle_deg = 90;
+  const auto count = static_cast<double>(table.reflections());
+  const double fits = std::min(1.0, 2.0 * std::abs(double{settings.angle_tolerance}) / right_angle_deg);
+  const double triples = count * count * count;
+  return {count * count * of_pair + triples * fits * of_third + triples * fits * fits * fits * of_solution, 0};
+}
+
 /// Words behind a line. Of status 1 nothing is left when a line is made, so that its two words never show; statuses 3
 /// and 4 have none.
 std::string_view status_words(int status) {
@@ -236,6 +249,7 @@ Matching match_bands(const CrystalState& state, const TripleTable& table, Single
                      const MatchSettings& settings, Task& task) {
   const int rows = triple_rows(used);
   Matcher matcher(state, table, bands, settings);
+  if (!settings.stop_at_first_solution) task.expect(effort_of_matching(table, settings));
   long long next_report = 0;
   const auto passed = [&](long long row) {
     if (row < next_report) return;

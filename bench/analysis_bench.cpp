@@ -12,7 +12,7 @@ std::unique_ptr<CrystalState> quartz_list() {
   auto state = shipped_crystal("Quartz.cry");
   make_list(*state, 1, {false, true});
   QuietTask task;
-  reorder(*state, order_by_weighted_intensity(*state, task));
+  reorder(*state, order_by_weighted_intensity(*state, task), task);
   return state;
 }
 
@@ -22,7 +22,7 @@ void TripleTableOf(benchmark::State& run) {
   TripleTable table;
   QuietTask task;
   for (auto _ : run) {
-    reorder(*state, order_by_weighted_intensity(*state, task));
+    reorder(*state, order_by_weighted_intensity(*state, task), task);
     table = make_triple_table(*state, static_cast<Single>(run.range(0)), task);
     benchmark::DoNotOptimize(table.TripleAngle(1, 0));
   }

@@ -98,7 +98,8 @@ BENCHMARK(IndexingDetection)
 void IndexingVote(benchmark::State& run) {
   Steps steps(static_cast<int>(run.range(0)), 128, static_cast<int>(run.range(1)), static_cast<int>(run.range(2)));
   OrientationVote vote;
-  for (auto _ : run) benchmark::DoNotOptimize(vote.vote(*steps.model.table, steps.bands, {}));
+  QuietTask task;
+  for (auto _ : run) benchmark::DoNotOptimize(vote.vote(*steps.model.table, steps.bands, {}, task));
   run.counters["planes"] = static_cast<double>(steps.model.table->planes().size());
   run.counters["pairs"] = static_cast<double>(steps.model.table->pairs().size());
 }
@@ -108,7 +109,8 @@ BENCHMARK(IndexingVote)->ArgsProduct({{0, 1}, {6, 9, 12}, {4, 6, 10}})->Unit(ben
 void IndexingVoteTable(benchmark::State& run) {
   const ReflectorSet& reflectors = reflectors_of(static_cast<int>(run.range(0)));
   const auto families = voting_families(reflectors, static_cast<int>(run.range(1)));
-  for (auto _ : run) benchmark::DoNotOptimize(VoteTable(reflectors, families));
+  QuietTask task;
+  for (auto _ : run) benchmark::DoNotOptimize(VoteTable(reflectors, families, task));
 }
 BENCHMARK(IndexingVoteTable)->ArgsProduct({{0, 1}, {4, 6, 10}})->Unit(benchmark::kMicrosecond);
 

@@ -28,7 +28,7 @@ void KikuchiPattern(benchmark::State& run) {
   state->KikuchiRefLimit = state->RefCount;
   QuietTask task;
   for (auto _ : run) {
-    reorder(*state, order_for_kikuchi(*state, task));
+    reorder(*state, order_for_kikuchi(*state, task), task);
     const auto view = gnomonic_view(*state);
     state->DisplayScale = strongest_in_view(*state, view, task);
     benchmark::DoNotOptimize(kikuchi_lines(*state, view, false, task));
@@ -43,7 +43,7 @@ void FiberTexture(benchmark::State& run) {
   state->OriginL = 1;
   QuietTask task;
   for (auto _ : run) {
-    reorder(*state, order_by_intensity(*state, task));
+    reorder(*state, order_by_intensity(*state, task), task);
     for (int i = 1; i <= state->RefCount.value(); ++i) {
       benchmark::DoNotOptimize(fiber_arcs(*state, i, {800, 800, 0.5}, task));
     }

@@ -1,5 +1,8 @@
 #include "calculators/atom_distances.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "core/number_text.h"
 
 namespace zol {
@@ -46,6 +49,23 @@ std::vector<AtomDistance> distances_from(const Module1State& crystal, const Dist
   return found;
 }
 
+/// All pairs within the cells around; those within the limit by the share of its sphere in their volume.
+Effort effort_of_distances(const Module1State& crystal, const DistanceCell& cell, Single limit) {
+  constexpr double cells = 27;
+  constexpr double of_pair = 6e-9;
+  constexpr double of_line = 1e-6;
+  constexpr double bytes_of_line = 120;
+  const double pairs = cells * crystal.NAtom.value() * crystal.NCell.value();
+  const double cosines = double{cell.CosAlpha} * double{cell.CosAlpha} + double{cell.CosBeta} * double{cell.CosBeta} +
+                         double{cell.CosGamma} * double{cell.CosGamma};
+  const double oblique =
+      1 - cosines + 2 * double{cell.CosAlpha} * double{cell.CosBeta} * double{cell.CosGamma};
+  const double volume = double{cell.CellA} * double{cell.CellB} * double{cell.CellC} * std::sqrt(std::max(0.0, oblique));
+  const double sphere = 4.0 / 3.0 * 3.14159265 * std::pow(std::max(0.0, double{limit}), 3);
+  const double lines = pairs * (sphere < cells * volume ? sphere / (cells * volume) : 1.0);
+  return {pairs * of_pair + lines * of_line, lines * bytes_of_line};
+}
+
 }  // namespace
 
 DistanceCell distance_cell(const Main1State& state) {
@@ -56,6 +76,7 @@ std::vector<std::vector<AtomDistance>> atom_distances(const Module1State& crysta
                                                       Single limit, Task& task) {
   std::vector<std::vector<AtomDistance>> of_sites;
   const int sites = crystal.NAtom.value();
+  task.expect(effort_of_distances(crystal, cell, limit));
   for (int site = 1; site <= sites; ++site) {
     of_sites.push_back(distances_from(crystal, cell, site, limit, task));
     task.report(site, sites);

@@ -2,6 +2,7 @@
 // the array and the index. An array may be unallocated; reading one then fails as well.
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <cstdint>
 #include <cstdlib>
@@ -46,17 +47,6 @@ struct ZeroedAllocator {
   friend bool operator==(const ZeroedAllocator&, const ZeroedAllocator&) { return true; }
 };
 
-/// Whether two stores hold the same, numbers bit by bit: quick, and a NaN is itself.
-template <class Store>
-[[nodiscard]] bool same_elements(const Store& a, const Store& b) {
-  using T = typename Store::value_type;
-  if constexpr (std::is_trivially_copyable_v<T>) {
-    return a.size() == b.size() && (a.empty() || std::memcmp(a.data(), b.data(), a.size() * sizeof(T)) == 0);
-  } else {
-    return a == b;
-  }
-}
-
 /// Tells without a look at the elements that two arrays hold the same: they bear the number of one content. Whatever
 /// may change an element takes the number off, so that it costs a store to write an element and nothing to read a const
 /// one.
@@ -84,13 +74,61 @@ class ContentNumber {
   mutable std::uint64_t number_ = 0;  ///< 0: none
 };
 
+/// Elements of an array that starts with T{} everywhere. Where that is all bits zero, it knows how far elements have
+/// been handed out to be changed: no one looks behind that when all are copied or compared, so that an array far larger
+/// than what it holds costs no more than that.
 template <class T, bool zero_is_default = std::is_trivially_copyable_v<T>>
-struct ArrayStore {
-  using Type = std::vector<T>;
+class Elements {
+ public:
+  Elements() = default;
+  explicit Elements(std::size_t size) : store_(size) {}
+  [[nodiscard]] std::size_t size() const { return store_.size(); }
+  [[nodiscard]] T& operator[](std::size_t i) { return store_[i]; }
+  [[nodiscard]] const T& operator[](std::size_t i) const { return store_[i]; }
+  [[nodiscard]] bool operator==(const Elements&) const = default;
+
+ private:
+  std::vector<T> store_;
 };
+
 template <class T>
-struct ArrayStore<T, true> {
-  using Type = std::vector<T, ZeroedAllocator<T>>;
+class Elements<T, true> {
+ public:
+  Elements() = default;
+  explicit Elements(std::size_t size) : store_(size) {}
+  Elements(const Elements& other) : store_(other.size()), used_(other.used_) {
+    if (used_ > 0) std::memcpy(store_.data(), other.store_.data(), used_ * sizeof(T));
+  }
+  Elements(Elements&& other) noexcept : store_(std::move(other.store_)), used_(std::exchange(other.used_, 0)) {}
+  Elements& operator=(Elements other) noexcept {
+    store_.swap(other.store_);
+    std::swap(used_, other.used_);
+    return *this;
+  }
+  ~Elements() = default;
+
+  [[nodiscard]] std::size_t size() const { return store_.size(); }
+  [[nodiscard]] T& operator[](std::size_t i) {
+    if (i >= used_) used_ = i + 1;
+    return store_[i];
+  }
+  [[nodiscard]] const T& operator[](std::size_t i) const { return store_[i]; }
+  /// Bit by bit: quick, and a NaN is itself.
+  [[nodiscard]] bool operator==(const Elements& other) const {
+    if (size() != other.size()) return false;
+    const std::size_t both = std::min(used_, other.used_);
+    return (both == 0 || std::memcmp(store_.data(), other.store_.data(), both * sizeof(T)) == 0) && zero_from(both) &&
+           other.zero_from(both);
+  }
+
+ private:
+  [[nodiscard]] bool zero_from(std::size_t first) const {
+    const auto* bytes = reinterpret_cast<const unsigned char*>(store_.data());
+    return std::all_of(bytes + first * sizeof(T), bytes + used_ * sizeof(T), [](unsigned char b) { return b == 0; });
+  }
+
+  std::vector<T, ZeroedAllocator<T>> store_;
+  std::size_t used_ = 0;
 };
 
 }  // namespace detail
@@ -126,14 +164,14 @@ class BoundedArray {
   [[nodiscard]] int upper() const { return static_cast<int>(store_.size()) - 1; }
   /// The same bounds and elements, numbers bit by bit.
   [[nodiscard]] bool operator==(const BoundedArray& other) const {
-    return content_.same_as(other.content_) || detail::same_elements(store_, other.store_);
+    return content_.same_as(other.content_) || store_ == other.store_;
   }
   /// For copies that are compared again and again.
   [[nodiscard]] const detail::ContentNumber& content() const { return content_; }
   [[nodiscard]] const std::string& name() const { return name_; }
 
  private:
-  using Store = typename detail::ArrayStore<T>::Type;
+  using Store = detail::Elements<T>;
 
   [[nodiscard]] std::size_t check(int index) const {
     if (index < 0 || static_cast<std::size_t>(index) >= store_.size()) detail::fail_index(name_, index, upper());
@@ -183,8 +221,7 @@ class BoundedTable {
   /// The same bounds and elements, numbers bit by bit.
   [[nodiscard]] bool operator==(const BoundedTable& other) const {
     return content_.same_as(other.content_) ||
-           (upper_row_ == other.upper_row_ && upper_column_ == other.upper_column_ &&
-            detail::same_elements(store_, other.store_));
+           (upper_row_ == other.upper_row_ && upper_column_ == other.upper_column_ && store_ == other.store_);
   }
   /// For copies that are compared again and again.
   [[nodiscard]] const detail::ContentNumber& content() const { return content_; }
@@ -193,7 +230,7 @@ class BoundedTable {
   [[nodiscard]] const std::string& name() const { return name_; }
 
  private:
-  using Store = typename detail::ArrayStore<T>::Type;
+  using Store = detail::Elements<T>;
 
   [[nodiscard]] std::size_t check(int row, int column) const {
     if (row < 0 || row > upper_row_) detail::fail_index(name_, row, upper_row_);

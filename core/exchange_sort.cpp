@@ -10,16 +10,27 @@ namespace zol {
 namespace {
 
 constexpr double out_of_play = std::numeric_limits<double>::infinity();
-constexpr int rounds_between_checks = 1024;  // some 0.5 ms
+constexpr int rounds_between_checks = 1024;              // some 0.5 ms
+constexpr std::size_t nodes_between_checks = 1U << 18U;  // some 2 ms
 
 }  // namespace
 
-TournamentTree::TournamentTree(std::span<const double> keys)
+TournamentTree::TournamentTree(std::span<const double> keys, Task& task)
     : leaves_(std::bit_ceil(std::max<std::size_t>(keys.size(), 1))) {
-  nodes_.assign(2 * leaves_, out_of_play);
-  std::copy(keys.begin(), keys.end(), nodes_.begin() + static_cast<std::ptrdiff_t>(leaves_));
-  for (std::size_t node = leaves_ - 1; node >= 1; --node)
+  nodes_.reserve(2 * leaves_);
+  const auto fill_to = [this, &task](std::size_t end, const auto& key_of) {
+    for (std::size_t node = nodes_.size(); node < end; ++node) {
+      if (node % nodes_between_checks == 0) task.check();
+      nodes_.push_back(key_of(node));
+    }
+  };
+  fill_to(leaves_, [](std::size_t) { return out_of_play; });
+  fill_to(leaves_ + keys.size(), [this, &keys](std::size_t node) { return keys[node - leaves_]; });
+  fill_to(2 * leaves_, [](std::size_t) { return out_of_play; });
+  for (std::size_t node = leaves_ - 1; node >= 1; --node) {
+    if (node % nodes_between_checks == 0) task.check();
     nodes_[node] = std::min(nodes_[2 * node], nodes_[2 * node + 1]);
+  }
 }
 
 void TournamentTree::set(int position, double key) {
@@ -54,7 +65,7 @@ std::vector<int> exchange_order(std::span<const double> keys, int first, const F
                                 Task& task) {
   std::vector<int> order(keys.size());
   std::iota(order.begin(), order.end(), 0);
-  TournamentTree left(keys);
+  TournamentTree left(keys, task);
   for (int position = 0; position < std::min(first, static_cast<int>(keys.size())); ++position) left.remove(position);
   int found = 0;
   for (int place = first; place < static_cast<int>(keys.size()) - 1; ++place) {

@@ -8,6 +8,7 @@
 #include <functional>
 #include <optional>
 #include <span>
+#include <utility>
 #include <vector>
 
 #include "core/bounded_array.h"
@@ -18,7 +19,7 @@ namespace zol {
 /// Keys of positions 0 to n; the smallest key of each subtree is stored.
 class TournamentTree {
  public:
-  explicit TournamentTree(std::span<const double> keys);
+  TournamentTree(std::span<const double> keys, Task& task);
 
   [[nodiscard]] double key(int position) const { return nodes_[leaf(position)]; }
   void set(int position, double key);
@@ -50,16 +51,21 @@ using FindEntry = std::function<std::optional<int>(const TournamentTree& left)>;
 /// round before; as long as none has found anything that is entry 0, or, when `skip_without` is set, nothing is
 /// exchanged.
 /// @param keys  of positions 0 to n; entry 0 takes part only as that position
-/// @param task  checked every 1024 rounds
+/// @param task  checked every 1024 rounds, and while the tree is made
 [[nodiscard]] std::vector<int> exchange_order(std::span<const double> keys, int first, const FindEntry& find,
                                               bool skip_without, Task& task);
 
-/// Puts entry order[i] at position i.
+/// Puts entry order[i] at position i: everywhere or, when the task stops, nowhere.
 template <class Value>
-void reorder(BoundedArray<Value>& array, std::span<const int> order) {
+void reorder(BoundedArray<Value>& array, std::span<const int> order, Task& task) {
+  constexpr std::size_t between_checks = 1U << 16U;  // some 2 ms
+  const auto& before = std::as_const(array);
   std::vector<Value> sorted;
   sorted.reserve(order.size());
-  for (const int from : order) sorted.push_back(array(from));
+  for (const int from : order) {
+    if (sorted.size() % between_checks == 0) task.check();
+    sorted.push_back(before(from));
+  }
   int position = 0;
   for (auto& value : sorted) array(position++) = std::move(value);
 }

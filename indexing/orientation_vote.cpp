@@ -36,11 +36,12 @@ double deviation_deg(const Vector3& a, const Vector3& b) {
 
 }  // namespace
 
-VoteTable::VoteTable(const ReflectorSet& reflectors, const std::vector<bool>& families_used)
+VoteTable::VoteTable(const ReflectorSet& reflectors, const std::vector<bool>& families_used, Task& task)
     : symmetry_(reflectors.symmetry) {
   constexpr double parallel = 1 - 1e-6;
   std::vector<int> first_of_family;
   for (std::size_t number = 0; number < std::min(reflectors.families.size(), families_used.size()); ++number) {
+    task.check();
     if (!families_used[number]) continue;
     const ReflectorFamily& family = reflectors.families[number];
     const auto* members = &reflectors.members[index(family.first)];
@@ -51,7 +52,13 @@ VoteTable::VoteTable(const ReflectorSet& reflectors, const std::vector<bool>& fa
     first_of_family.push_back(static_cast<int>(planes_.size()));
     planes_.insert(planes_.end(), members, members + family.count);
   }
+  const auto planes = static_cast<double>(planes_.size());
+  const double pairs = planes * static_cast<double>(first_of_family.size());
+  constexpr double of_pair = 2e-7;
+  constexpr double of_place = 2e-9;
+  task.expect({pairs * of_pair + planes * map_size * map_size * of_place, pairs * sizeof(Pair)});
   for (const int first : first_of_family) {
+    task.check();
     for (const Reflector& other : planes_) {
       const Vector3& a = planes_[index(first)].normal;
       const double cosine = a.dot(other.normal);
@@ -69,6 +76,7 @@ VoteTable::VoteTable(const ReflectorSet& reflectors, const std::vector<bool>& fa
   map_.assign(index(map_size * map_size), -1);
   for (int row = 0; row < map_size; ++row) {
     for (int column = 0; column < map_size; ++column) {
+      task.check();
       const double x = (column - map_middle) / map_scale;
       const double y = (row - map_middle) / map_scale;
       const double square = x * x + y * y;
@@ -127,7 +135,7 @@ Rotation fit_orientation(const VoteTable& table, std::span<const DetectedBand> b
 }
 
 std::span<const Orientation> OrientationVote::vote(const VoteTable& table, std::span<const DetectedBand> bands,
-                                                   const VoteSettings& settings) {
+                                                   const VoteSettings& settings, Task& task) {
   const double tolerance = settings.tolerance_deg * radians;
   const double per_chord = 1 / (4 * std::pow(std::sin(tolerance / 2), 2));
   normals_.clear();
@@ -148,6 +156,7 @@ std::span<const Orientation> OrientationVote::vote(const VoteTable& table, std::
       auto pair = std::lower_bound(pairs.begin(), pairs.end(), lowest,
                                    [](const VoteTable::Pair& p, float value) { return p.cosine < value; });
       for (; pair != pairs.end() && pair->cosine <= highest; ++pair) {
+        task.check();
         // Both normals turned round give the other orientation of the two planes.
         for (const double side : {1.0, -1.0}) {
           const Rotation crystal_frame = pair->frame * Vector3(side, side, 1).asDiagonal();

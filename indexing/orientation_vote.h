@@ -18,7 +18,7 @@ class VoteTable {
  public:
   /// @param families_used  of each family of the set, whether it votes; shorter: the others do not
   /// @throws RunFailure    fewer than three planes in different directions are left
-  VoteTable(const ReflectorSet& reflectors, const std::vector<bool>& families_used);
+  VoteTable(const ReflectorSet& reflectors, const std::vector<bool>& families_used, Task& task);
 
   struct Pair {
     float cosine;    ///< of the acute angle between the two planes, ascending
@@ -62,7 +62,7 @@ class OrientationVote {
  public:
   /// Distinct orientations, the one with most votes first; none where fewer than three bands agree.
   std::span<const Orientation> vote(const VoteTable& table, std::span<const DetectedBand> bands,
-                                    const VoteSettings& settings);
+                                    const VoteSettings& settings, Task& task);
 
  private:
   struct Candidate {

@@ -45,7 +45,7 @@ std::vector<bool> voting_families(const ReflectorSet& reflectors, int family_cou
 CrystalModel make_crystal_model(std::string title, ReflectorSet reflectors, std::vector<bool> families_used,
                                 std::shared_ptr<const KinematicSphere> sphere, Task& task) {
   CrystalModel model{std::move(title), std::move(reflectors), std::move(families_used), nullptr, std::move(sphere)};
-  model.table = std::make_shared<const VoteTable>(model.reflectors, model.families_used);
+  model.table = std::make_shared<const VoteTable>(model.reflectors, model.families_used, task);
   if (!model.sphere) {
     model.sphere = std::make_shared<const KinematicSphere>(model.reflectors, sphere_size, StripShape{}, task);
   }
@@ -54,10 +54,10 @@ CrystalModel make_crystal_model(std::string title, ReflectorSet reflectors, std:
 
 std::span<const IndexSolution> PatternIndexer::index(const PictureView& picture, const PatternCentre& centre,
                                                      std::span<const CrystalModel* const> models,
-                                                     const IndexSettings& settings) {
+                                                     const IndexSettings& settings, Task& task) {
   solutions_.clear();
   bands_.clear();
-  if (!prepared_.prepare(picture, settings.preparation)) {
+  if (!prepared_.prepare(picture, settings.preparation, task)) {
     throw RunFailure("the picture is blank: it has no contrast to find bands in");
   }
   DetectionSettings detection = settings.detection;
@@ -69,10 +69,13 @@ std::span<const IndexSolution> PatternIndexer::index(const PictureView& picture,
   }
   if (settings.fit_picture) fitter_.take(prepared_);
   double votes_of_others = 0;
+  int tried = 0;
   for (const CrystalModel* model : models) {
-    const auto orientations = vote_.vote(*model->table, bands_, settings.vote);
+    task.report(tried++, static_cast<int>(models.size()));
+    const auto orientations = vote_.vote(*model->table, bands_, settings.vote, task);
     int fitted = 0;
     for (const Orientation& orientation : orientations) {
+      task.check();
       IndexSolution solution{model,
                              orientation.crystal_from_picture,
                              orientation.matched,

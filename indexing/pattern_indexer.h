@@ -57,7 +57,13 @@ class PatternIndexer {
   /// Solutions, the best first; valid until the next call.
   /// @throws RunFailure  the picture is blank, or fewer than three bands were found; the message says so
   std::span<const IndexSolution> index(const PictureView& picture, const PatternCentre& centre,
-                                       std::span<const CrystalModel* const> models, const IndexSettings& settings);
+                                       std::span<const CrystalModel* const> models, const IndexSettings& settings,
+                                       Task& task);
+  std::span<const IndexSolution> index(const PictureView& picture, const PatternCentre& centre,
+                                       std::span<const CrystalModel* const> models, const IndexSettings& settings) {
+    QuietTask task;
+    return index(picture, centre, models, settings, task);
+  }
 
   /// Pattern centre and orientation together on the picture of the last call, from one of its solutions: on the bands
   /// first, on the picture then.

@@ -146,24 +146,36 @@ void PictureFitter::take(const PreparedPicture& picture) {
   norm_ = std::sqrt(square);
 }
 
+namespace {
+
+void draw_row(const KinematicSphere& sphere, const Rotation& crystal_from_picture, const Projection& projection,
+              const BandPicture& picture, int y, int* places, float* parts) {
+  const Vector3 step = crystal_from_picture.col(0) / projection.distance();
+  const Vector3 first = crystal_from_picture * projection.direction(0.5, y + 0.5);
+  const DirectionRow row{static_cast<float>(first[0]), static_cast<float>(first[1]), static_cast<float>(first[2]),
+                         static_cast<float>(step[0]),  static_cast<float>(step[1]),  static_cast<float>(step[2])};
+  places_of(row, picture.width, sphere.scale(), sphere.middle(), sphere.size(), places, parts, parts + picture.width);
+  look_up(sphere.values().data(), sphere.size(), picture.width, places, parts, parts + picture.width,
+          picture.values + index(y) * index(picture.width));
+}
+
+}  // namespace
+
 void draw_bands(const KinematicSphere& sphere, const Rotation& crystal_from_picture, const Projection& projection,
-                int width, int height, std::vector<float>& values) {
+                int width, int height, std::vector<float>& values, Task& task) {
   values.resize(index(width) * index(height));
   std::vector<int> places(index(width));
   std::vector<float> parts(2 * index(width));
-  draw_bands(sphere, crystal_from_picture, projection, {values.data(), width, height}, places.data(), parts.data());
+  for (int y = 0; y < height; ++y) {
+    task.check();
+    draw_row(sphere, crystal_from_picture, projection, {values.data(), width, height}, y, places.data(), parts.data());
+  }
 }
 
 void draw_bands(const KinematicSphere& sphere, const Rotation& crystal_from_picture, const Projection& projection,
                 const BandPicture& picture, int* places, float* parts) {
-  const Vector3 step = crystal_from_picture.col(0) / projection.distance();
   for (int y = 0; y < picture.height; ++y) {
-    const Vector3 first = crystal_from_picture * projection.direction(0.5, y + 0.5);
-    const DirectionRow row{static_cast<float>(first[0]), static_cast<float>(first[1]), static_cast<float>(first[2]),
-                           static_cast<float>(step[0]),  static_cast<float>(step[1]),  static_cast<float>(step[2])};
-    places_of(row, picture.width, sphere.scale(), sphere.middle(), sphere.size(), places, parts, parts + picture.width);
-    look_up(sphere.values().data(), sphere.size(), picture.width, places, parts, parts + picture.width,
-            picture.values + index(y) * index(picture.width));
+    draw_row(sphere, crystal_from_picture, projection, picture, y, places, parts);
   }
 }
 

@@ -85,6 +85,11 @@ void draw_bands(const KinematicSphere& sphere, const Rotation& crystal_from_pict
 
 /// One picture of the bands, as grey values row by row.
 void draw_bands(const KinematicSphere& sphere, const Rotation& crystal_from_picture, const Projection& projection,
-                int width, int height, std::vector<float>& values);
+                int width, int height, std::vector<float>& values, Task& task);
+inline void draw_bands(const KinematicSphere& sphere, const Rotation& crystal_from_picture,
+                       const Projection& projection, int width, int height, std::vector<float>& values) {
+  QuietTask task;
+  draw_bands(sphere, crystal_from_picture, projection, width, height, values, task);
+}
 
 }  // namespace zol

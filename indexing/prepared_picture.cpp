@@ -40,13 +40,14 @@ void PreparedPicture::shape(const PictureView& picture, const PreparationSetting
   ++shape_version_;
 }
 
-void PreparedPicture::gather(const PictureView& picture) {
+void PreparedPicture::gather(const PictureView& picture, Task& task) {
   if (bin_ == 1) {
     std::copy(picture.values.begin(), picture.values.end(), values_.begin());
     return;
   }
   const float share = 1.0F / static_cast<float>(bin_ * bin_);
   for (int y = 0; y < height_; ++y) {
+    task.check();
     float* row = &values_[index(y) * index(width_)];
     std::fill(row, row + width_, 0.0F);
     for (int line = 0; line < bin_; ++line) {
@@ -96,13 +97,13 @@ void PreparedPicture::blur(std::vector<float>& image, int radius) {
   }
 }
 
-bool PreparedPicture::prepare(const PictureView& picture, const PreparationSettings& settings) {
+bool PreparedPicture::prepare(const PictureView& picture, const PreparationSettings& settings, Task& task) {
   const bool new_shape =
       picture.width != picture_width_ || picture.height != picture_height_ || settings.circle != circle_;
   if (new_shape) shape(picture, settings);
   const int radius = std::max(2, static_cast<int>(std::lround(settings.background * width_)));
   if (new_shape) blur(mask_mean_, radius);
-  gather(picture);
+  gather(picture, task);
 
   const std::size_t size = values_.size();
   double sum = 0;

@@ -3,6 +3,7 @@
 
 #include <vector>
 
+#include "core/task.h"
 #include "indexing/picture.h"
 
 namespace zol {
@@ -17,7 +18,11 @@ struct PreparationSettings {
 class PreparedPicture {
  public:
   /// @returns false where the picture has no contrast at all: it is blank
-  [[nodiscard]] bool prepare(const PictureView& picture, const PreparationSettings& settings);
+  [[nodiscard]] bool prepare(const PictureView& picture, const PreparationSettings& settings, Task& task);
+  [[nodiscard]] bool prepare(const PictureView& picture, const PreparationSettings& settings) {
+    QuietTask task;
+    return prepare(picture, settings, task);
+  }
 
   [[nodiscard]] int width() const { return width_; }
   [[nodiscard]] int height() const { return height_; }
@@ -32,7 +37,7 @@ class PreparedPicture {
 
  private:
   void shape(const PictureView& picture, const PreparationSettings& settings);
-  void gather(const PictureView& picture);
+  void gather(const PictureView& picture, Task& task);
   void blur(std::vector<float>& image, int radius);
 
   int picture_width_ = 0, picture_height_ = 0;

@@ -135,6 +135,7 @@ std::vector<KikuchiLine> kikuchi_lines(const CrystalState& state, const Gnomonic
   std::vector<KikuchiLine> lines;
   const int first = (state.RefCount - state.KikuchiRefLimit + 1).value();
   for (int i = first; i <= state.RefCount.value(); ++i) {
+    task.report(i - first, state.RefCount.value() - first);
     task.check();
     KikuchiLine line;
     line.hkl = reflection(state, i);

@@ -1,5 +1,6 @@
 #include "kikuchi/zone_map.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/cell_geometry.h"
@@ -49,6 +50,11 @@ std::optional<DirectionPlace> place_of_direction(const CrystalState& state, Sing
 }
 
 std::vector<PlacedDirection> places_in_sweep(const CrystalState& state, const SweepLimits& limits, Task& task) {
+  const auto span = [](int limit) { return 2.0 * std::max(limit, 0) + 1; };
+  const double directions = span(limits.u) * span(limits.v) * span(limits.w);
+  constexpr double of_direction = 1.5e-6;     // with what is drawn of it
+  constexpr double bytes_of_direction = 300;  // of that
+  task.expect({directions * of_direction, directions * bytes_of_direction});
   std::vector<PlacedDirection> placed;
   const auto visit = [&](Single u, Single v, Single w) {
     task.check();
@@ -56,6 +62,7 @@ std::vector<PlacedDirection> places_in_sweep(const CrystalState& state, const Sw
     if (const auto place = place_of_direction(state, u, v, w)) placed.push_back({u, v, w, *place});
   };
   for (int u = -limits.u; u <= limits.u; ++u) {
+    task.report(u + limits.u, 2 * limits.u);
     for (int v = -limits.v; v <= limits.v; ++v) {
       for (int w = -limits.w; w <= limits.w; ++w) {
         if (u % 2 == 0 && v % 2 == 0 && w % 2 == 0) continue;

@@ -148,6 +148,10 @@ Histogram fill_histogram(const CrystalState& state, const InterferenceTable& tab
                          Task& task) {
   Histogram bins("Bins", last);
   Spreader spreader(state, table, count, bins, task);
+  constexpr double of_point = 4.5e-9;
+  double points = state.RefCount.value();
+  for (const Integer steps : table.grid().steps) points *= 2.0 * steps.value() + 1;
+  task.expect({points * of_point, 0});
   const int reflections = state.RefCount.value();
   for (int r = 1; r <= reflections; ++r) {
     task.report(r, reflections);

@@ -20,15 +20,18 @@ Integer index_limit(Single dmin, Single reciprocal_edge, std::string_view edge_n
   return Integer::floor(divide(divide(2.0, dmin, "Dmin"), reciprocal_edge, edge_name));
 }
 
+/// Lattice points of a cell.
+int centring_of(std::string_view lattice_letter) {
+  if (lattice_letter == "F") return 4;
+  if (lattice_letter == "R") return 3;
+  return lattice_letter == "A" || lattice_letter == "B" || lattice_letter == "C" || lattice_letter == "I" ? 2 : 1;
+}
+
 /// Upper bound of the arrays: the bounding box, divided by the centring of the lattice.
 Long array_bound(const std::array<Integer, 3>& limits, std::string_view lattice_letter) {
   const auto span = [&limits](std::size_t axis) { return 2.0 * limits[axis].value() + 1.0; };
   const Long box = Long::rounded(to_single(span(0) * span(1) * span(2)));
-  int centring = 1;
-  if (lattice_letter == "A" || lattice_letter == "B" || lattice_letter == "C" || lattice_letter == "I") centring = 2;
-  if (lattice_letter == "R") centring = 3;
-  if (lattice_letter == "F") centring = 4;
-  const int bound = box.value() / centring;
+  const int bound = box.value() / centring_of(lattice_letter);
   return Long::rounded(to_single(bound));  // the size is held in a Single
 }
 
@@ -98,6 +101,24 @@ bool selection_allows(const EnumerationSettings& settings, Integer h, Integer k)
   return keeps(settings.k_mod_3_zero, settings.k_mod_3_not_zero, k) &&
          keeps(settings.h_minus_k_mod_3_zero, settings.h_minus_k_mod_3_not_zero, difference) &&
          keeps(settings.h_mod_3_zero, settings.h_mod_3_not_zero, h);
+}
+
+/// The box of indices reaches twice as far as the sphere; of what lies inside, the centring leaves its part.
+Effort effort_of_list(const CrystalState& state, const EnumerationSettings& settings) {
+  const std::array limits{index_limit(state.Dmin, state.AStar, "a*"), index_limit(state.Dmin, state.BStar, "b*"),
+                          index_limit(state.Dmin, state.CStar, "c*")};
+  double box = 1;
+  for (const auto& [lowest, highest] : index_ranges(limits, settings)) box *= std::max(0, highest - lowest + 1);
+  const double oblique = double{state.AStar} * double{state.BStar} * double{state.CStar} * double{state.CellVolume};
+  constexpr double sphere_in_box = 3.14159265 / 6 / 8;
+  const double part = std::clamp(oblique > 0 ? sphere_in_box * oblique : 1.0, 0.0, 1.0);
+  const double reflections = box * part / centring_of(state.LatticeLetter);
+  constexpr double of_place = 5e-9;
+  constexpr double of_reflection = 4.5e-6;
+  constexpr double of_atom = 1.4e-8;
+  constexpr double bytes_of_reflection = 320;
+  return {box * of_place + reflections * (of_reflection + of_atom * state.NCell.value()),
+          reflections * bytes_of_reflection};
 }
 
 void append_reflection(ReflectionList& list, int h, int k, int l, Single length) {
@@ -187,8 +208,8 @@ void sort_list(ReflectionList& list, Task& task) {
   std::vector<double> keys;
   for (int i = 0; i <= list.count.value(); ++i) keys.push_back(list.s(i));
   const auto order = exchange_order(keys, 1, first_smallest_below(never_taken), false, task);
-  reorder(list.s, order);
-  for (auto* array : {&list.h, &list.k, &list.l}) reorder(*array, order);
+  reorder(list.s, order, task);
+  for (auto* array : {&list.h, &list.k, &list.l}) reorder(*array, order, task);
 }
 
 void compute_list(const CrystalState& state, const Radiation& radiation, ReflectionList& list, Task& task) {
@@ -197,6 +218,7 @@ void compute_list(const CrystalState& state, const Radiation& radiation, Reflect
   const auto observed = observed_count ? ObservedReflections(state) : ObservedReflections();
   const ScatteringCell atoms(state, radiation);
   for (int i = 1; i <= list.count.value(); ++i) {
+    task.report(i, list.count.value());
     task.check();
     const auto two_theta_deg = angle_of(state.WaveLength, list.s(i));
     list.two_theta(i) = two_theta_deg.value_or(0.0F);
@@ -214,6 +236,7 @@ void compute_list(const CrystalState& state, const Radiation& radiation, Reflect
 
 ReflectionList reflection_list(const CrystalState& state, const EnumerationSettings& settings,
                                const Radiation& radiation, Task& task) {
+  task.expect(effort_of_list(state, settings));
   auto list = enumerate_reflections(state, settings, task);
   sort_list(list, task);
   compute_list(state, radiation, list, task);

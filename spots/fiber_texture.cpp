@@ -168,6 +168,31 @@ ListOrder order_by_intensity(const CrystalState& state, Task& task) {
   return {exchange_order(keys, first_sorted, first_smallest_below(never_taken), false, task), true};
 }
 
+/// Up to a few turns all points of an arc are visited; further on, less and less of it is not black yet.
+Effort effort_of_arcs(const CrystalState& state, const FiberPicture& picture, Task& task) try {
+  constexpr double all_visited_deg = 4 * full_turn_deg;
+  constexpr double of_point = 1.2e-7;
+  constexpr double bytes_of_point = sizeof(ArcPoint) + 100;
+  const double reach_deg = std::abs(2.0 * double{state.Dispersion});
+  const double doublings = reach_deg > all_visited_deg ? std::log2(reach_deg / all_visited_deg) : 0;
+  const double visited_deg = std::min(reach_deg, all_visited_deg) + doublings * all_visited_deg;
+  double points = 0, kept = 0;
+  for (int i = first_sorted; i <= state.RefCount.value(); ++i) {
+    task.check();
+    if (!(state.RefI(i) > 0)) continue;
+    const double g = DHKL(state, state.RefH(i), state.RefK(i), state.RefL(i));
+    constexpr double diagonal = 1.4142;
+    if (!(state.CamAcquisition * diagonal > g)) continue;
+    const double points_of_degree = 10 * g / double{state.CamAcquisition};
+    const double pixels_of_degree = g / double{state.CamAcquisition} * picture.width_px / 2.0 * degree;
+    points += 4 * visited_deg * points_of_degree;
+    kept += 4 * std::min(reach_deg, full_turn_deg) * std::min(points_of_degree, pixels_of_degree);
+  }
+  return {points * of_point, kept * bytes_of_point};
+} catch (const RunFailure&) {  // an impossible cell: that fails later, for an arc
+  return {};
+}
+
 std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const FiberPicture& picture, Task& task) {
   if (!(state.RefI(i) > 0)) return std::nullopt;
   const Integer h = state.RefH(i);

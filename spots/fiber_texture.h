@@ -40,6 +40,9 @@ struct FiberArcs {
   Single label_x = 0, label_y = 0;  ///< not at the arcs: the sine is taken of its angle in degrees
 };
 
+/// What the arcs of the whole list take, with what is drawn of them.
+[[nodiscard]] Effort effort_of_arcs(const CrystalState& state, const FiberPicture& picture, Task& task);
+
 /// Arcs of reflection i of the sorted list; none if it has no intensity or lies beyond the corner of the picture.
 /// Points on the same pixel as the point before them are omitted. An arc of more than one turn has all that its further
 /// turns add to a pixel in one point there, up to black.

@@ -5,6 +5,7 @@
 #include <optional>
 
 #include "core/cell_geometry.h"
+#include "core/run_failure.h"
 #include "reflections/reflection_list.h"
 
 namespace zol {
@@ -100,6 +101,7 @@ void visit_reflections_on_level(const CrystalState& state, const std::function<v
   const int l_limit = index_limit(frame.half_width, state.CStar, "c*");
   const char letter = state.LatticeLetter.empty() ? 'P' : state.LatticeLetter.front();
   for (int h = -h_limit; h <= h_limit; ++h) {
+    task.report(h + h_limit, 2 * h_limit);
     task.check();
     for (int k = -k_limit; k <= k_limit; ++k) {
       if (frame.w == 0.0 && !on_level(frame, h, k, 0)) continue;  // then l does not count
@@ -113,9 +115,39 @@ void visit_reflections_on_level(const CrystalState& state, const std::function<v
   }
 }
 
+namespace {
+
+/// 0 where it can't be worked out: that fails later, for a spot.
+double length_of_axis(const CrystalState& state) {
+  try {
+    return DHKLT(state, state.ZoneU, state.ZoneV, state.ZoneW);
+  } catch (const RunFailure&) {
+    return 0;
+  }
+}
+
+/// Places of the level in the box of indices, and the spots in the picture by the area that one of them has.
+Effort effort_of_spots(const CrystalState& state, const ZoneFrame& frame) {
+  const double axis_length = length_of_axis(state);
+  const auto places = [&](Single edge, std::string_view name) {
+    return 2.0 * index_limit(frame.half_width, edge, name) + 1;
+  };
+  const double pairs = places(state.AStar, "a*") * places(state.BStar, "b*");
+  const double width = 4 * frame.half_width;
+  const double spots = axis_length > 0 ? width * width * double{state.CellVolume} / axis_length : 0;
+  constexpr double of_pair = 1.2e-8;
+  constexpr double of_spot = 3e-6;
+  constexpr double of_atom = 1.4e-8;
+  constexpr double bytes_of_spot = 200;
+  return {pairs * of_pair + spots * (of_spot + of_atom * state.NCell.value()), spots * bytes_of_spot};
+}
+
+}  // namespace
+
 SpotPattern diffraction_spots(const CrystalState& state, const Radiation& radiation, Task& task) {
   const ZoneFrame frame = zone_frame(state);
   const ScatteringCell atoms(state, radiation);
+  task.expect(effort_of_spots(state, frame));
   SpotPattern pattern;
   std::optional<double> axis_length;  // worked out for the first spot: it may fail
   const auto visit = [&](const Indices<Integer>& hkl) {

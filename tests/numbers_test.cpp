@@ -14,6 +14,7 @@
 #include "core/bounded_array.h"
 #include "core/float_loop.h"
 #include "core/number_text.h"
+#include "core/shared_vector.h"
 #include "core/sines.h"
 #include "tests/test_files.h"
 
@@ -47,6 +48,26 @@ TEST(CheckedSteps, NameWhatFailed) {
   EXPECT_TRUE(fails_with("x is 0", [] { (void)divide(1.0, NAN, "x"); }));
   EXPECT_EQ(failure_of([] { (void)square_root(-0.5, "the radicand"); }),
             "square root of a negative number: the radicand is -.5");
+}
+
+// Copies share nothing; what lies behind the last element handed out counts as zero.
+TEST(BoundedArrays, AreCopiedAndComparedByTheirElements) {
+  BoundedArray<Single> array("A", 1000000), other("A", 1000000);
+  array(3) = 1;
+  auto copy = array;
+  EXPECT_TRUE(copy == array && !(copy == other));
+  (void)copy(999999);
+  EXPECT_TRUE(copy == array && array == copy) << "looked at, not changed";
+  copy(500000) = 2;
+  EXPECT_TRUE(!(copy == array) && !(array == copy) && std::as_const(array)(500000) == 0);
+  other = copy;
+  array = std::move(copy);
+  EXPECT_TRUE(array == other && array(500000) == 2);
+  SharedVector<int> list, before;
+  list.push_back(1);
+  before = list;
+  list.push_back(2);
+  EXPECT_TRUE(before.size() == 1 && list.size() == 2 && !(before == list));
 }
 
 TEST(BoundedArrays, CheckEveryIndex) {

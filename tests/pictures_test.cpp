@@ -39,6 +39,31 @@ class Pictures : public testing::Test {
   ScratchFolder folder;
 };
 
+// Bit by bit, and with more drawn between two bits, it becomes what it is in one go, in any size.
+TEST_F(Pictures, DrawnBitByBitAreTheSame) {
+  (void)canvas.stored_image();  // starts Qt
+  for (const int size : {100, 170}) {
+    canvas.clear();
+    CanvasPainting bits(canvas, QPixmap(size, size));
+    for (int i = 0; i < 100; ++i) {
+      canvas.scale(-1 - i % 2, 1, 1, -1);
+      canvas.circle(std::cos(i), std::sin(i), 0.05, i % 3 == 0 ? red : green);
+      canvas.set_point(0, i / 100.0, blue);
+      if (i % 7 == 0) (void)bits.go_on([] { return true; });
+    }
+    while (!bits.go_on([] { return true; })) {
+    }
+    CanvasPainting whole(canvas, QPixmap(size, size));
+    EXPECT_TRUE(whole.go_on([] { return false; }));
+    EXPECT_TRUE(bits.pixmap().toImage() == whole.pixmap().toImage()) << size;
+    if (size == 100) {
+      EXPECT_TRUE(whole.pixmap().toImage().convertToFormat(QImage::Format_RGB32) == picture_image(canvas));
+    }
+    canvas.clear();
+    EXPECT_TRUE(bits.go_on([] { return false; }) && bits.pixmap().toImage().pixelColor(50, 50) == Qt::white);
+  }
+}
+
 TEST_F(Pictures, PixelsFallWhereTheListSaysAndComeBackFromABitmap) {
   canvas.line(-1, 0, 1, 0, red);                 // row 50
   canvas.line(-1e12, 1e12, 1e12, -1e12, green);  // far beyond, along the diagonal
@@ -93,7 +118,7 @@ TEST_F(Pictures, ExportHasTheKindThatItsNameSays) {
   const std::pair<const char*, std::function<void()>> failures[] = {
       {"No such file", [&] { canvas.load_picture(folder.path("none.bmp")); }},
       {"can't write", [&] { canvas.save_stored_image(folder.path("none/out.bmp")); }},
-      {"must end in .bmp, .png, .svg or .pdf", [&] { export_picture(canvas, "/a.b/out", 1.0); }}};
+      {"must end in .bmp, .png, .svg or .pdf", [&] { services.pictures.export_picture(canvas, "/a.b/out"); }}};
   for (const auto& [message, act] : failures) EXPECT_NE(failure_of(act).find(message), std::string::npos) << message;
 }
 

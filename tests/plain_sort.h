@@ -25,7 +25,7 @@ struct ListSort {
 template <ListOrder (*order)(const CrystalState&, Task&)>
 void sort_by(CrystalState& state) {
   QuietTask task;
-  reorder(state, order(state, task));
+  reorder(state, order(state, task), task);
 }
 
 inline constexpr ListSort list_sorts[] = {

@@ -197,7 +197,11 @@ TEST(ScriptProgram, EndsWithItsStatusAndTellsWhatIsLost) {
   };
   const ScratchFolder folder;
   const std::string full = "zol-script: can't write to standard output: No space left on device\n";
+  const std::string stopped = "zol-script: stopped by a signal\n";
   folder.write("a.zs", "echo a\n");
+  folder.write("long.zs", "echo begun\nshow Main1\nset Main1.Text1 9\nset Main1.Text2 9\nset Main1.Text3 9\n"
+                          "set Main1.Text4 90\nset Main1.Text5 90\nset Main1.Text6 90\nset Main1.Text7 1\n"
+                          "set Main1.Text15 .12\nclick Main1.Command6\necho over\n");
   for (const auto& [command, status, error] :
        {Row{"echo 'click MAIN_MENU.Command5\njump' | $zol", 0, ""},
         {"$zol --help", 0, ""},
@@ -215,6 +219,10 @@ TEST(ScriptProgram, EndsWithItsStatusAndTellsWhatIsLost) {
         {"{ while ! [ -e gone ]; do sleep 0.01; done; $zol a.zs; echo $? >piped; } | { exec <&-; touch gone; };"
          " while ! [ -s piped ]; do sleep 0.01; done; (exit `cat piped`)",
          1, "zol-script: can't write to standard output: Broken pipe\n"},
+        // Long work, then nothing but waiting for a line.
+        {"timeout --preserve-status -s INT 0.3 $zol long.zs", 130, stopped},
+        {"timeout --preserve-status -s TERM 0.3 $zol long.zs", 143, stopped},
+        {"sleep 1 | timeout --preserve-status -s INT 0.3 $zol", 130, stopped},
         {"$zol .", 1, "failure of the run: can't read the script behind line 0: Is a directory\n"},
         {"$zol <.", 1, "failure of the run: can't read the script behind line 0: Is a directory\n"},
         {"$zol /proc/self/mem", 1, "failure of the run: can't read the script behind line 0: Input/output error\n"}}) {
@@ -222,6 +230,7 @@ TEST(ScriptProgram, EndsWithItsStatusAndTellsWhatIsLost) {
     EXPECT_EQ(WEXITSTATUS(std::system(line.c_str())), status) << command;  // NOLINT(cert-env33-c,concurrency-mt-unsafe)
     const std::string told = folder.read("err");
     EXPECT_TRUE(error.empty() ? told.empty() : told.starts_with(error)) << command << ": " << told;
+    EXPECT_TRUE(!std::string_view(command).ends_with("long.zs") || folder.read("out") == "begun\n");
   }
 }
 

@@ -3,8 +3,14 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <future>
 
+#include "analysis/band_matching.h"
+#include "calculators/atom_distances.h"
 #include "core/exchange_sort.h"
+#include "core/list_order.h"
+#include "core/run_aside.h"
+#include "core/run_failure.h"
 #include "core/unit_cell.h"
 #include "entry/word_lines.h"
 #include "kikuchi/kikuchi_pattern.h"
@@ -12,6 +18,8 @@
 #include "powder/histogram.h"
 #include "powder/line_profile.h"
 #include "reflections/reflection_list.h"
+#include "shell/services/heavy_work.h"
+#include "shell/services/window_services.h"
 #include "spots/fiber_texture.h"
 #include "spots/spot_pattern.h"
 #include "structures/contents.h"
@@ -113,6 +121,130 @@ TEST(Stopping, OfPatterns) {
   asks("5 points along a of each reflection", 3 + 20,
        [&](Task& t) { (void)fill_histogram(down_c, InterferenceTable(grid, size, t), 1250, 5000, t); });
   asks("64 lines in 16 blocks of samples", 32, [](Task& t) { lines(65, t); });
+}
+
+TEST(Stopping, OfListsAndPicturesOfManyEntries) {
+  const std::vector<double> keys((1U << 18U) + 1);  // a tree of 2^20 nodes, half of them leaves
+  Window window("W", "");
+  ListBox list(window, "List1");
+  asks("a tree, each 2^18 nodes", 4 + 1, [&](Task& t) { (void)TournamentTree(keys, t); });
+  asks("lines of a list, each 1024", 3, [&](Task& t) { list.add_items(std::vector<std::string>(2049), t); });
+  asks("entries of five arrays", 5, [&](Task& t) {
+    auto state = down_c;
+    reorder(state, {{0, 1, 2, 3, 4}}, t);
+  });
+}
+
+/// Whether a user would be asked before it, with 2 GB of memory free. It is not done then.
+bool is_asked_about(const std::function<void(Task&)>& run) {
+  struct : RecordedTask {
+    void expect(const Effort& effort) override {
+      if (is_heavy(effort, std::uint64_t{2} << 30U)) throw Cancelled();
+    }
+  } task;
+  try {
+    run(task);
+  } catch (const Cancelled&) {
+    return true;
+  }
+  return false;
+}
+
+TEST(Estimates, AskBeforeWhatTakesMinutesOrMuchMemoryAlone) {
+  const auto at = [](auto member, auto value) {
+    auto state = crystal();
+    state.*member = value;
+    state.CellVolume = 64;
+    return state;
+  };
+  const auto list = [&](Single dmin) {
+    return [state = at(&CrystalState::Dmin, dmin)](Task& t) { (void)reflection_list(state, full_sphere, electrons, t); };
+  };
+  const auto spots = [&](Single half_width) {
+    return [state = at(&CrystalState::CamAcquisition, half_width)](Task& t) {
+      (void)diffraction_spots(state, electrons, t);
+    };
+  };
+  const auto map = [](int limit) {
+    return [limit](Task& t) { (void)places_in_sweep(down_c, {limit, limit, limit}, t); };
+  };
+  const auto powder = [&](int reflections) {
+    return [state = at(&CrystalState::RefCount, Long(reflections))](Task& t) {
+      const InterferenceGrid grid{{20, 20, 20}, {0.001F, 0.001F, 0.001F}};
+      (void)fill_histogram(state, InterferenceTable(grid, {99, 99, 99}, t), 1250, 5000, t);
+    };
+  };
+  const auto distances = [](Single limit) {
+    return [limit](Task& t) {
+      auto state = crystal();
+      state.NAtom = 1000;
+      state.NCell = 2000;
+      (void)atom_distances(state, {40, 40, 40, 0, 0, 0}, limit, t);
+    };
+  };
+  const auto matching = [](std::size_t reflections) {
+    return [reflections](Task& t) {
+      const auto rows = static_cast<int>(reflections * reflections * reflections);
+      const TripleTable table(rows, std::vector<TripleTable::Plane>(reflections),
+                              std::vector<Single>(reflections * reflections, 90));
+      MatchSettings settings;
+      settings.angle_tolerance = 40;
+      (void)match_bands(down_c, table, static_cast<Single>(reflections), {}, settings, t);
+    };
+  };
+  const auto arcs_of = [](int reflections, Single dispersion) {
+    return [reflections, dispersion](Task& t) {
+      auto state = crystal();
+      set_list(state, std::vector<ListedReflection>(static_cast<std::size_t>(reflections), {1, 0, 0, 1}));
+      state.Dispersion = dispersion;
+      t.expect(effort_of_arcs(state, {512, 512, {}}, t));
+    };
+  };
+  struct Row {
+    const char* name;
+    bool asked;
+    std::function<void(Task&)> run;
+  };
+  for (const auto& [name, asked, run] : std::initializer_list<Row>{{"list to 1", false, list(1)},
+                                                                   {"list to 0.02", true, list(0.02F)},
+                                                                   {"few spots", false, spots(1)},
+                                                                   {"very many spots", true, spots(3000)},
+                                                                   {"map to 3", false, map(3)},
+                                                                   {"map to 400", true, map(400)},
+                                                                   {"powder", false, powder(4)},
+                                                                   {"powder of a million lines", true, powder(1000000)},
+                                                                   {"distances in the cells around", true, distances(99)},
+                                                                   {"few triples", false, matching(3)},
+                                                                   {"1200^3 triples", true, matching(1200)},
+                                                                   {"narrow arcs", false, arcs_of(4, 10)},
+                                                                   {"wide arcs of many", true, arcs_of(100000, 1e6)}}) {
+    EXPECT_EQ(is_asked_about(run), asked) << name;
+  }
+}
+
+TEST(Estimates, AreToldRoughly) {
+  EXPECT_EQ(effort_question({250, 310e6}), "This would take about 4 minutes and 300 MB. Do it all the same?");
+  constexpr double hour = 3600, day = 24 * hour;
+  for (const auto& [seconds, text] : {std::pair{0.2, "1 second"},
+                                      {71.0, "70 seconds"},
+                                      {170.0, "3 minutes"},
+                                      {1.8 * hour, "2 hours"},
+                                      {40 * day, "40 days"},
+                                      {1e15, "years"}}) {
+    EXPECT_EQ(effort_question({seconds, 0}), std::string("This would take about ") + text + ". Do it all the same?");
+  }
+  EXPECT_EQ(effort_question({1, 5e9}), "This would take about 1 second and 5 GB. Do it all the same?");
+  EXPECT_FALSE(is_heavy({59, 1e12}, std::nullopt)) << "nobody knows the memory";
+}
+
+TEST(Aside, WorkIsLeftAloneWhenTheTaskStops) {
+  auto gate = std::make_shared<std::promise<void>>();
+  RecordedTask task;
+  EXPECT_EQ(run_aside<int>(task, [] { return 7; }), 7);
+  EXPECT_THROW((void)run_aside<int>(task, []() -> int { throw RunFailure("no"); }), RunFailure);
+  task.cancel_at = task.checks + 1;
+  EXPECT_THROW((void)run_aside<int>(task, [gate] { return gate->get_future().wait(), 1; }), Cancelled);
+  gate->set_value();
 }
 
 TEST(Stopping, OfStructures) {

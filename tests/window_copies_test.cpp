@@ -4,12 +4,14 @@
 
 #include <filesystem>
 #include <map>
+#include <random>
 #include <sstream>
 
 #include "core/read_file.h"
 #include "core/run_failure.h"
 #include "shell/script/script_driver.h"
 #include "shell/services/event_gate.h"
+#include "shell/services/heavy_work.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
 
@@ -23,6 +25,8 @@ struct Surroundings : ScriptServices {
     return std::make_unique<FakeSurface>(width, height);
   }
   bool stop_wanted() override { return ++checks == stop_at; }
+  bool confirm_work(const Effort& effort) override { return !(refused = is_heavy(effort, std::uint64_t{2} << 30U)); }
+  bool refused = false;
   int checks = 0;
   int stop_at = 0;
 };
@@ -197,7 +201,7 @@ constexpr std::pair<const char*, int> long_events[]{
     {"Pattern2.Command4", 400}, {"Pattern2.Command16", 200}, {"Zaxis.Text1", 90},
     {"Zaxis.Check2", 40},       {"PATTERN3.Text2", 5},       {"PATTERN3.Command1", 2},
     {"PATTERN3.Command4", 512}, {"PATTERN3.Command15", 243}, {"AtomDistance.Command1", 54},
-    {"Utility.Command1", 90},
+    {"Utility.Command1", 90},   {"Main1.Command5", 100},
 };
 
 TEST_F(WindowCopies, AreTheSameAfterAnyKeyButEnter) {
@@ -213,7 +217,18 @@ TEST_F(WindowCopies, AreTheSameAfterAnyKeyButEnter) {
   }
 }
 
+TEST_F(WindowCopies, AreWhatRefusedWorkLeaves) {
+  EventGate gate([] {}, [](const std::exception_ptr& failure) { FAIL() << failure_text(failure); });
+  gate.set_keep([this] { return program.keep(); });
+  run("set PATTERN3.Text10 100");
+  const auto texts = everything();
+  gate.enter({"the search", "", [&] { act_on("PATTERN3.Command15"); }});
+  EXPECT_TRUE(services.refused && everything() == texts) << "201^4 measurements";
+}
+
 TEST_F(WindowCopies, AreWhatAStoppedEventLeaves) {
+  std::mt19937 random(1);
+  const auto at_random = [&random](int checks) { return std::uniform_int_distribution(1, checks)(random); };
   EventGate gate([] {}, [](const std::exception_ptr& failure) { FAIL() << failure_text(failure); });
   gate.set_keep([this] { return program.keep(); });
   const auto put_back = program.keep();
@@ -235,7 +250,7 @@ TEST_F(WindowCopies, AreWhatAStoppedEventLeaves) {
     const auto texts_after = everything();
     const auto pictures_after = drawings();
     put_back();
-    for (const int at : {1, (checks + 1) / 2, checks}) {
+    for (const int at : {1, (checks + 1) / 2, checks, at_random(checks), at_random(checks)}) {
       EXPECT_EQ(checks_until(at), at);
       EXPECT_TRUE(everything() == texts && drawings() == pictures) << at;
     }

@@ -15,7 +15,7 @@ void Hkl3make(Workbench& bench) {
     form.Text2.set_text(plain_text(form.NhklWanted));
   }
   WindowTask task(bench.services, form.ProgressBar1);
-  reorder(state, order_by_weighted_intensity(state, task));
+  reorder(state, order_by_weighted_intensity(state, task), task);
   form.NhklUsed = extend_over_ties(state, form.NhklWanted);
 
   const Hourglass hourglass(form);

@@ -1,6 +1,9 @@
 #include "analysis/window/pattern3_handlers.h"
 // PATTERN3: adjustment of the detector parameters for one solution.
 
+#include <algorithm>
+#include <cmath>
+
 #include "core/put_back.h"
 #include "reflections/window/main1_form.h"
 #include "shell/services/wiring.h"
@@ -37,6 +40,8 @@ void go_to(const Pattern3Form& form, const CameraStart& start, const GridPoint& 
 GridPoint best_grid_point(Workbench& bench, Pattern3Form& form, const CameraStart& start, Task& task) {
   Module1State& camera = main1_state(bench);
   const int steps = form.AdjustSteps.value();
+  constexpr double of_measurement = 1.5e-5;
+  task.expect({std::pow(std::max(0, 2 * steps + 1), 4) * of_measurement, 0});
   form.BestError = 10000;
   GridPoint best;
   for (int i = -steps; i <= steps; ++i) {

@@ -156,7 +156,10 @@ void MatchAngle(Workbench& bench, Pattern3Form& form) {
       match_bands(main1_state(bench), form.triples, form.NhklUsed, form.bands, match_settings(form), task);
   take_solutions(found, form.solutions);
   form.Heading.set_caption(solution_heading(form.solutions.SolutionCount.value(), form.Check2.checked()));
-  for (const Solution& solution : found.solutions) list_solution(form, solution);
+  for (const Solution& solution : found.solutions) {
+    task.check();
+    list_solution(form, solution);
+  }
   form.List1.add_item("    No. of solution = " + plain_text(form.solutions.SolutionCount));
 }
 

@@ -27,7 +27,9 @@ void Command1_Click(Workbench& bench, AtomDistanceForm& form) {
   int site = 0;
   for (const auto& distances : of_sites) {
     ++site;
+    task.report(site, state.NAtom.value());
     for (const auto& found : distances) {
+      task.check();
       form.List1.add_item(distance_line(state, site, found));
       if (form.nearest == 0 || found.distance < form.nearest) form.nearest = found.distance;
     }

@@ -102,7 +102,8 @@ void show_solutions(AutoIndexForm& form) {
 void show_picked(Workbench& bench, AutoIndexForm& form) {
   show_bands(form);
   draw_solution(pattern3(bench), form.result);
-  if (const auto picture = pattern3(bench).Picture1.grey_picture()) draw_simulated(form, view_of(*picture));
+  WindowTask task(bench.services);
+  if (const auto picture = pattern3(bench).Picture1.grey_picture()) draw_simulated(form, view_of(*picture), task);
 }
 
 void show_result(Workbench& bench, AutoIndexForm& form) {
@@ -153,7 +154,8 @@ std::vector<std::shared_ptr<const CrystalModel>> index_picture(Workbench& bench,
   std::vector<const CrystalModel*> plain;
   plain.reserve(models.size());
   for (const auto& model : models) plain.push_back(model.get());
-  const auto solutions = form.indexer.index(picture, result.centre, plain, settings);
+  WindowTask task(bench.services);
+  const auto solutions = form.indexer.index(picture, result.centre, plain, settings, task);
   keep_result(form, result, models, solutions, settings);
   form.result = std::move(result);
   return models;
@@ -325,7 +327,8 @@ void RemoveCrystal_Click(AutoIndexForm& form) {
 }
 
 void redraw_simulated(Workbench& bench, AutoIndexForm& form) {
-  if (const auto picture = pattern3(bench).Picture1.grey_picture()) draw_simulated(form, view_of(*picture));
+  WindowTask task(bench.services);
+  if (const auto picture = pattern3(bench).Picture1.grey_picture()) draw_simulated(form, view_of(*picture), task);
 }
 
 void Simulated_MouseDown(Workbench& bench, AutoIndexForm& form, Single /*x*/, Single /*y*/) {

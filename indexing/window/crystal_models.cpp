@@ -117,7 +117,9 @@ std::vector<std::shared_ptr<const CrystalModel>> crystal_models(Workbench& bench
   if (models.empty() && form.crystal_files.empty()) {
     throw RunFailure("there is no crystal: load one in the main window, or add a crystal file");
   }
+  int made = 0;
   for (const std::string& path : form.crystal_files) {
+    task.report(made++, static_cast<int>(form.crystal_files.size()));
     try {
       const CrystalState state = loaded_crystal(bench, main1.state, path, task);
       models.push_back(ready_model(bench, form, state, without_folder(path), false, task));

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <span>
 
+#include "core/task.h"
 #include "shell/services/controls.h"
 
 namespace zol {
@@ -12,10 +13,13 @@ namespace zol {
 /// Grey values brought from their own spread to black and white.
 class GreyRange {
  public:
-  explicit GreyRange(std::span<const float> values) {
+  GreyRange(std::span<const float> values, Task& task) {
+    constexpr std::size_t between_checks = 1U << 20U;  // some 2 ms
     double sum = 0;
     double square = 0;
+    std::size_t count_so_far = 0;
     for (const float value : values) {
+      if (count_so_far++ % between_checks == 0) task.check();
       sum += static_cast<double>(value);
       square += static_cast<double>(value) * static_cast<double>(value);
     }

@@ -213,7 +213,7 @@ bool take_lines(Pattern3Form& pattern, const IndexResult& result) {
   return true;
 }
 
-void draw_simulated(AutoIndexForm& form, const PictureView& measured) {
+void draw_simulated(AutoIndexForm& form, const PictureView& measured, Task& task) {
   const auto* solution = form.result.solution();
   if (solution == nullptr) {
     form.Simulated.remove_picture();
@@ -222,9 +222,9 @@ void draw_simulated(AutoIndexForm& form, const PictureView& measured) {
   std::vector<float> simulated;
   const Projection projection{form.result.centre, static_cast<double>(measured.width)};
   draw_bands(*solution->model->sphere, solution->found.crystal_from_picture, projection, measured.width,
-             measured.height, simulated);
-  const GreyRange simulated_range(simulated);
-  const GreyRange measured_range(measured.values);
+             measured.height, simulated, task);
+  const GreyRange simulated_range(simulated, task);
+  const GreyRange measured_range(measured.values, task);
   const PictureView drawn{simulated, measured.width, measured.height};
   const double share = form.Blend.value() / 100.0;
   form.Simulated.edit_picture([&](Surface& image) {
@@ -236,6 +236,7 @@ void draw_simulated(AutoIndexForm& form, const PictureView& measured) {
     const int height = static_cast<int>(measured.height * scale);
     const int left = (image.width() - panels * width) / 2;
     for (int y = 0; y < height; ++y) {
+      task.check();
       const int row = std::min(measured.height - 1, static_cast<int>(y / scale));
       for (int x = 0; x < width; ++x) {
         const int column = std::min(measured.width - 1, static_cast<int>(x / scale));

@@ -16,6 +16,7 @@ void draw_band(Pattern3Form& pattern, const IndexResult& result, std::size_t ban
 bool take_lines(Pattern3Form& pattern, const IndexResult& result);
 
 /// The simulated picture and the measured one as the form's choice of view says.
-void draw_simulated(AutoIndexForm& form, const PictureView& measured);
+/// @throws Cancelled  the task stops
+void draw_simulated(AutoIndexForm& form, const PictureView& measured, Task& task);
 
 }  // namespace zol

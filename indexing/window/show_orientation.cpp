@@ -95,20 +95,23 @@ void draw_bands_as_picture(Workbench& bench) {
     const GnomonicView view = gnomonic_view(state);
     auto& pattern2 = bench.windows.use<Pattern2Form>();
     const Hourglass hourglass(pattern2);
+    WindowTask task(bench.services);
     pattern2.Picture1.edit_picture([&](Surface& image) {
       const double width = image.width();
       const double height = image.height();
       std::vector<float> values;
       for (int y = 0; y < image.height(); ++y) {
+        task.check();
         for (int x = 0; x < image.width(); ++x) {
           const Vector3 place(view.left + (double{view.right} - double{view.left}) * (x + 0.5) / width,
                               view.top + (double{view.bottom} - double{view.top}) * (y + 0.5) / height, 1);
           values.push_back(model->sphere->at(orientation * place));
         }
       }
-      const GreyRange range(values);
+      const GreyRange range(values, task);
       std::size_t pixel = 0;
       for (int y = 0; y < image.height(); ++y) {
+        task.check();
         for (int x = 0; x < image.width(); ++x) image.set_pixel(x, y, range.colour(values[pixel++]));
       }
     });

@@ -59,10 +59,11 @@ struct ShownLine {
 
 /// The lines above the lowest grey level.
 std::vector<ShownLine> shown_lines(const CrystalState& state, const Pattern2Form& form,
-                                   const std::vector<KikuchiLine>& lines, Integer lowest_level) {
+                                   const std::vector<KikuchiLine>& lines, Integer lowest_level, Task& task) {
   const GreyScale scale{form.Option2.on(), exponent_in(form.Text10)};
   std::vector<ShownLine> shown;
   for (const auto& line : lines) {
+    task.check();
     const int level = grey_level(state, line.intensity, scale);
     if (level > lowest_level.value()) shown.push_back({line, level});
   }
@@ -70,9 +71,11 @@ std::vector<ShownLine> shown_lines(const CrystalState& state, const Pattern2Form
 }
 
 void draw_bands(CrystalState& state, Pattern2Form& form, const GnomonicView& view,
-                const std::vector<ShownLine>& lines) {
+                const std::vector<ShownLine>& lines, Task& task) {
   int count = 0;
   for (const auto& [line, level] : lines) {
+    task.report(count, static_cast<int>(lines.size()));
+    task.check();
     draw_line(form.Picture1, line, view.reach, line_colour(level, !form.ImageMark.empty()));
     ++count;
     form.List1.add_item(band_text(count, line, level));
@@ -128,7 +131,7 @@ void settle_opening(CrystalState& state, Pattern2Form& form) {
 
 /// The lines to draw. Settles the order of the list, the reference, the rotation and the grey scale.
 std::vector<ShownLine> find_lines(CrystalState& state, Pattern2Form& form, Integer lowest_level, Task& task) {
-  reorder(state, order_for_kikuchi(state, task));
+  reorder(state, order_for_kikuchi(state, task), task);
   settle_opening(state, form);
   const auto view = gnomonic_view(state);
   take_reference(state);
@@ -137,7 +140,7 @@ std::vector<ShownLine> find_lines(CrystalState& state, Pattern2Form& form, Integ
   }
   if (!form.Check4.checked() || state.DisplayScale == 0) state.DisplayScale = strongest_in_view(state, view, task);
   const auto lines = kikuchi_lines(state, view, form.Check3.checked(), task);
-  return shown_lines(state, form, lines, lowest_level);
+  return shown_lines(state, form, lines, lowest_level, task);
 }
 
 }  // namespace
@@ -158,7 +161,7 @@ void PatternDisp2(Workbench& bench) {
   picture.set_fore_colour(black);
   picture.clear();
   set_scale(picture, view);
-  draw_bands(state, form, view, lines);
+  draw_bands(state, form, view, lines, task);
   draw_marks(state, form, view);
   if (form.Check2.checked()) {
     bench.windows.use<ZaxisForm>().show();

@@ -39,12 +39,16 @@ SweepLimits sweep_limits(const ZaxisForm& form) {
   return {index_limit(form.Text1).value(), index_limit(form.Text2).value(), index_limit(form.Text3).value()};
 }
 
-void draw_directions(const CrystalState& state, const std::vector<PlacedDirection>& directions, ZaxisForm& form) {
+void draw_directions(const CrystalState& state, const std::vector<PlacedDirection>& directions, ZaxisForm& form,
+                     Task& task) {
   constexpr double northern = 1.571;
   constexpr double disc = 0.01;
   Canvas& picture = form.Picture1;
   picture.set_fore_colour(black);
+  int count = 0;
   for (const auto& direction : directions) {
+    task.report(++count, static_cast<int>(directions.size()));
+    task.check();
     const DirectionPlace place = on_map(state, form, direction.place);
     const bool is_northern = place.theta <= northern;
     if (!is_northern && !form.Check1.checked()) continue;
@@ -97,11 +101,13 @@ void show_typed_direction(const CrystalState& state, ZaxisForm& form) {
 }
 
 /// Labels the directions near the pattern on the Kikuchi picture, in its scale.
-void label_pattern(const CrystalState& state, const std::vector<PlacedDirection>& directions, Canvas& picture) {
+void label_pattern(const CrystalState& state, const std::vector<PlacedDirection>& directions, Canvas& picture,
+                   Task& task) {
   const double reach_deg =
       std::abs(double{state.CamXShift}) + std::abs(double{state.CamAcquisition}) + std::abs(double{state.CamYShift});
   const Single limit = to_single(std::tan(reach_deg * degree));
   for (const auto& [u, v, w, place] : directions) {
+    task.check();
     if (!(program_pi / 2 > place.theta)) continue;
     const double distance = std::tan(double{place.theta});
     if (!(distance <= limit * 1.5)) continue;
@@ -126,11 +132,11 @@ void Calc(Workbench& bench) {
   picture.set_font_size(label_size);
   picture.scale(-form.MapScale, form.MapScale, form.MapScale, -form.MapScale);
   draw_net(picture, form.Check2.checked());
-  draw_directions(state, directions, form);
+  draw_directions(state, directions, form, task);
   picture.set_solid_fill(false);
   show_axes(state, form);
   show_typed_direction(state, form);
-  if (form.Check3.checked()) label_pattern(state, directions, bench.windows.use<Pattern2Form>().Picture1);
+  if (form.Check3.checked()) label_pattern(state, directions, bench.windows.use<Pattern2Form>().Picture1, task);
 }
 
 }  // namespace zol

@@ -218,11 +218,14 @@ void Command3_Click(Workbench& bench, Main1Form& form) {
 
 // After "Calc" the indices and RefS stand in the order of the triple table, RefA and RefB in that of the list, so that
 // a row of both reports pairs the two. Files made so far have it, and it stays.
-void Command4_Click(Main1Form& form) {
+void Command4_Click(Workbench& bench, Main1Form& form) {
   if (!ask_report_file(form)) return;
   const CrystalState& state = form.state;
   RecordWriter file(state.CrystalFile);
+  WindowTask task(bench.services);
   for (int i = 1; i <= state.RefCount.value(); ++i) {
+    task.report(i, state.RefCount.value());
+    task.check();
     file.field(state.RefH(i)).field(state.RefK(i)).field(state.RefL(i));
     file.field(state.RefS(i)).field(state.RefA(i)).field(state.RefB(i)).end_line();
   }
@@ -231,7 +234,10 @@ void Command4_Click(Main1Form& form) {
 
 void Command5_Click(Workbench& bench, Main1Form& form) {
   const CrystalState& state = form.state;
+  WindowTask task(bench.services);
   for (int i = 1; i <= state.RefCount.value(); ++i) {
+    task.report(i, state.RefCount.value());
+    task.check();
     PrintLine line;
     line.add(state.RefH(i)).add(state.RefK(i)).add(state.RefL(i));
     line.add(state.RefS(i)).add(state.RefA(i)).add(state.RefB(i));

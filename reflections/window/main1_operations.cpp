@@ -90,9 +90,9 @@ void CalcReflections(Workbench& bench) {
   const Hourglass hourglass(form);
   WindowTask task(bench.services);
   auto list = reflection_list(state, enumeration_settings(form), {form.Option1.on(), form.Option2.on()}, task);
-  const auto lines = std::move(list.lines);
+  auto lines = std::move(list.lines);
   commit(state, std::move(list));
-  for (const auto& line : lines) form.List2.add_item(line);
+  form.List2.add_items(std::move(lines), task);
   if (state.ScatterMissing == 1) {
     bench.services.message("No Scattering factor table", "Error");
     form.List2.clear();

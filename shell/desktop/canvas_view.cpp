@@ -1,10 +1,14 @@
 #include "shell/desktop/canvas_view.h"
 
+#include <QBackingStore>
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QPaintEngine>
 #include <QPainter>
+#include <QTimer>
 
 #include "core/number_text.h"
 #include "core/run_failure.h"
@@ -13,7 +17,7 @@
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/services/ruler.h"
-#include "shell/services/services.h"
+#include "shell/services/workbench.h"
 
 namespace zol {
 namespace {
@@ -47,7 +51,7 @@ void CanvasView::attach(Canvas& canvas, UserEvents& events) {
 }
 
 void CanvasView::refresh() {
-  cache_ = {};
+  up_to_date_ = false;
   if (canvas_ != nullptr && canvas_->window().mouse_pointer() != MousePointer::Hourglass) {
     setCursor(canvas_->mouse_pointer() == MousePointer::CrossHair ? Qt::CrossCursor : Qt::ArrowCursor);
   }
@@ -79,27 +83,21 @@ QPointF CanvasView::user_position(const QPointF& position) const {
           scale.top + (position.y() - place.top()) / place.height() * (scale.bottom - scale.top)};
 }
 
-QPixmap CanvasView::drawn(const QSize& device_size) const {
-  QPixmap pixmap(device_size);
+/// Some of what is not there yet: a long list takes many repaints, between which the windows answer.
+void CanvasView::draw_some(bool all) {
+  constexpr qint64 at_once_ms = 15;
+  QElapsedTimer clock;
+  clock.start();
   try {
-    draw_on(pixmap);
+    up_to_date_ = painting_->go_on([&clock, all] { return !all && clock.elapsed() > at_once_ms; });
   } catch (const RunFailure&) {  // no room to draw, or too large an image: nothing to show, and no event to fail
-    pixmap.fill(to_qt(canvas_->back_colour()));
+    QPixmap empty(painting_->pixmap().size());
+    empty.fill(to_qt(canvas_->back_colour()));
+    painting_.emplace(*canvas_, std::move(empty));
+    up_to_date_ = true;
   }
-  return pixmap;
-}
-
-void CanvasView::draw_on(QPixmap& pixmap) const {
-  const QSize device_size = pixmap.size();
-  QPainter painter(&pixmap);
-  if (device_size == QSize(canvas_->pixel_width(), canvas_->pixel_height())) {
-    painter.drawImage(0, 0, picture_image(*canvas_));
-  } else {
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-    painter.scale(1.0 * device_size.width() / canvas_->pixel_width(),
-                  1.0 * device_size.height() / canvas_->pixel_height());
-    paint_canvas(painter, *canvas_);
-  }
+  constexpr int pause_ms = 5;
+  if (!up_to_date_) QTimer::singleShot(pause_ms, this, qOverload<>(&QWidget::update));
 }
 
 void CanvasView::paintEvent(QPaintEvent* /*event*/) {
@@ -110,9 +108,15 @@ void CanvasView::paint() {
   const QRectF place = picture_rect();
   const QSize device_size = (place.size() * devicePixelRatioF()).toSize();
   if (device_size.isEmpty()) return;
-  if (cache_.size() != device_size) cache_ = drawn(device_size);
+  if (!painting_ || painting_->pixmap().size() != device_size) {
+    painting_.emplace(*canvas_, QPixmap(device_size));
+    up_to_date_ = false;
+  }
   QPainter painter(this);
-  painter.drawPixmap(place, cache_, QRectF(cache_.rect()));
+  // What is printed or saved has to be whole.
+  const bool on_screen = backingStore() != nullptr && painter.paintEngine()->paintDevice() == backingStore()->paintDevice();
+  if (!up_to_date_) draw_some(!on_screen);
+  painter.drawPixmap(place, painting_->pixmap(), QRectF(QPointF(), QSizeF(device_size)));
   painter.setPen(palette().color(QPalette::WindowText));
   if (canvas_->x_axis) draw_x_ruler(painter, place);
   if (canvas_->y_axis) draw_y_ruler(painter, place);
@@ -254,7 +258,8 @@ void CanvasView::ask_export(double factor, const char* ending) {
     const std::string answer = dialog.save(FileKind::Export, suffix);
     if (answer.empty()) return;
     try {
-      export_picture(*canvas_, suffix.added_to(answer), factor, captions_asked_for() ? caption_ : "");
+      WindowTask task(services);
+      export_picture(*canvas_, suffix.added_to(answer), factor, task, captions_asked_for() ? caption_ : "");
     } catch (const RunFailure& failure) {
       services.message(failure.message(), "Export");
     }

@@ -2,9 +2,11 @@
 // coordinates. A curve has rulers at its left and lower border.
 #pragma once
 
-#include <QPixmap>
+#include <optional>
+
 #include <QWidget>
 
+#include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/user_events.h"
 #include "shell/services/canvas.h"
 
@@ -50,8 +52,7 @@ class CanvasView : public QWidget {
   /// The operation of a script that repeats a mouse event.
   [[nodiscard]] UserEvent mouse_event(const char* name, const QPointF& position,
                                       void (Canvas::*fire)(double, double) const);
-  [[nodiscard]] QPixmap drawn(const QSize& device_size) const;
-  void draw_on(QPixmap& pixmap) const;
+  void draw_some(bool all);
   [[nodiscard]] bool shows_something() const;
   /// Room for the rulers around the picture.
   [[nodiscard]] QMarginsF ruler_margins() const;
@@ -63,8 +64,9 @@ class CanvasView : public QWidget {
   Canvas* canvas_ = nullptr;
   UserEvents* events_ = nullptr;
   bool pressed_ = false;  ///< inside the picture: what follows belongs to it, wherever the pointer goes
-  QPixmap cache_;
   std::string caption_;
+  std::optional<CanvasPainting> painting_;
+  bool up_to_date_ = false;
 };
 
 }  // namespace zol

@@ -25,6 +25,7 @@
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/screen_fit.h"
 #include "shell/program/program.h"
+#include "shell/program/step_name.h"
 
 // Resources of a static library have to be asked for, outside any namespace.
 static void init_resources() { Q_INIT_RESOURCE(desktop); }
@@ -98,8 +99,15 @@ Desktop::Desktop(Windows& windows, std::function<void(const std::string&)> faile
     : windows_(windows),
       failed_(std::move(failed)),
       gate_([this] { settle(); }, [this](const std::exception_ptr& failure) { show_failure(failure); }),
+      long_work_({[this](const std::string& window) {
+                    const auto* shown = binder(window);
+                    return shown == nullptr ? nullptr : &shown->widget();
+                  },
+                  [this](const UserEvent& event) { return latin1_to_qt(step_of(event, windows_).name); }}),
       events_(gate_) {
   windows_.set_view(this);
+  gate_.set_follow([this](const UserEvent& event) { long_work_.begin(event); },
+                   [this](bool stopped) { long_work_.end(stopped); });
   if (auto* application = dynamic_cast<GuardedApplication*>(QCoreApplication::instance())) {
     application->set_failed([this](const std::exception_ptr& failure) { gate_.fail(failure); });
   }
@@ -263,6 +271,7 @@ void Desktop::focus_wanted(Control& control) {
 void Desktop::breathe() {
   if (since_breath_.elapsed() < work_ms_) return;
   since_breath_.start();
+  const LongWork::Looking looking(long_work_);
   show_changes();
   QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   constexpr qint64 least_ms = 50;

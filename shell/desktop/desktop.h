@@ -11,6 +11,7 @@
 #include <QObject>
 
 #include "shell/desktop/binder.h"
+#include "shell/desktop/long_work.h"
 #include "shell/desktop/user_events.h"
 #include "shell/services/event_gate.h"
 #include "shell/services/window_services.h"
@@ -47,6 +48,8 @@ class Desktop : public QObject, public WindowView {
   void end(int status);
   [[nodiscard]] bool ended() const { return gate_.ended(); }
   [[nodiscard]] EventGate& gate() { return gate_; }
+  /// Of the event that runs.
+  [[nodiscard]] LongWork& long_work() { return long_work_; }
 
   [[nodiscard]] Binder* binder(const std::string& window_name) const;
 
@@ -83,6 +86,7 @@ class Desktop : public QObject, public WindowView {
   Windows& windows_;
   std::function<void(const std::string&)> failed_;
   EventGate gate_;
+  LongWork long_work_;
   UserEvents events_;
   std::map<std::string, Shown> shown_;
   std::vector<Shown> unloaded_;

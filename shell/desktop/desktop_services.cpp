@@ -18,12 +18,15 @@
 #include <QPrintDialog>
 #include <QPrinterInfo>
 
+#include "core/available_memory.h"
 #include "core/run_failure.h"
 #include "shell/desktop/latin1_input.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/report_dialog.h"
+#include "shell/services/heavy_work.h"
+#include "shell/services/workbench.h"
 
 namespace zol {
 namespace {
@@ -70,7 +73,14 @@ bool may_write(QWidget* parent, const QString& path) {
 /// Draws pages for a printer, or for the file that it is set to: that one is written whole or not at all.
 void print_pages(QPrinter& printer, const std::function<void(QPagedPaintDevice&)>& draw) {
   const QString name = printer.outputFileName();
-  if (name.isEmpty()) return draw(printer);
+  if (name.isEmpty()) {
+    try {
+      return draw(printer);
+    } catch (const Cancelled&) {
+      printer.abort();
+      throw;
+    }
+  }
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter pdf(&buffer);
@@ -89,6 +99,7 @@ QSizeF page_size(const QPagedPaintDevice& pages) {
 }  // namespace
 
 std::string DesktopServices::ask_file(const FileQuestion& question) {
+  const auto pause = dialog_open();
   const QString usual_folder = QFile::decodeName(question.initial_folder.c_str());
   const QString folder = last_folders_.value(question.kind, usual_folder.isEmpty() ? last_folder_ : usual_folder);
   QFileDialog dialog(QApplication::activeWindow(), question.save ? tr("Save") : tr("Open"), folder,
@@ -112,12 +123,14 @@ std::string DesktopServices::ask_file(const FileQuestion& question) {
 }
 
 void DesktopServices::set_up_printer() {
+  const auto pause = dialog_open();
   auto printer = std::make_unique<QPrinter>();
   QPrintDialog dialog(printer.get(), QApplication::activeWindow());
   if (dialog.exec() == QDialog::Accepted) set_up_ = std::move(printer);
 }
 
 std::string DesktopServices::prompt(const std::string& text, const std::string& title) {
+  const auto pause = dialog_open();
   QInputDialog dialog(QApplication::activeWindow());
   dialog.setWindowTitle(to_qt(title));
   dialog.setLabelText(to_qt(text));
@@ -127,6 +140,7 @@ std::string DesktopServices::prompt(const std::string& text, const std::string& 
 }
 
 void DesktopServices::message(const std::string& text, const std::string& title) {
+  const auto pause = dialog_open();
   QMessageBox::warning(QApplication::activeWindow(), to_qt(title), to_qt(text));
 }
 
@@ -137,7 +151,19 @@ void DesktopServices::copy_text(const std::vector<std::string>& lines, const std
 }
 
 void DesktopServices::report(const std::vector<std::string>& lines, const std::string& title) {
+  const auto pause = dialog_open();
   show_report(lines, title);
+}
+
+/// Once for each event: what it goes on to is a part of it.
+bool DesktopServices::confirm_work(const Effort& effort) {
+  if (!is_heavy(effort, available_memory()) || (desktop_ != nullptr && desktop_->long_work().confirmed())) return true;
+  const auto pause = dialog_open();
+  const bool wanted =
+      QMessageBox::question(QApplication::activeWindow(), tr("ZOL"), to_qt(effort_question(effort)),
+                            QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+  if (wanted && desktop_ != nullptr) desktop_->long_work().confirm();
+  return wanted;
 }
 
 std::unique_ptr<QPrinter> DesktopServices::default_output(const std::string& title) {
@@ -161,7 +187,8 @@ void DesktopServices::end_document(const std::string& title) {
   const auto printer = default_output(title);
   if (!printer) return;
   printer->setDocName(to_qt(title));
-  print_pages(*printer, [&lines](QPagedPaintDevice& pages) { print_lines(pages, lines); });
+  WindowTask task(*this);
+  print_pages(*printer, [&lines, &task](QPagedPaintDevice& pages) { print_lines(pages, lines, task); });
 }
 
 void DesktopServices::print_window(Window& window) {
@@ -184,9 +211,12 @@ std::unique_ptr<Surface> DesktopServices::make_surface(int width, int height) {
   return std::make_unique<QtSurface>(width, height);
 }
 
-void DesktopServices::export_picture(Canvas& canvas, const std::string& path) { zol::export_picture(canvas, path); }
+void DesktopServices::export_picture(Canvas& canvas, const std::string& path) {
+  WindowTask task(*this);
+  zol::export_picture(canvas, path, 1.0, task);
+}
 
-void print_lines(QPagedPaintDevice& pages, const QStringList& lines) {
+void print_lines(QPagedPaintDevice& pages, const QStringList& lines, Task& task) {
   QPainter painter(&pages);
   if (!painter.isActive()) throw RunFailure("can't print the report: the printer does not answer");
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
@@ -196,7 +226,10 @@ void print_lines(QPagedPaintDevice& pages, const QStringList& lines) {
   const QFontMetricsF metrics(font, &pages);
   const double page = page_size(pages).height();
   double y = 0;
+  int count = 0;
   for (const QString& line : lines) {
+    task.report(++count, static_cast<int>(lines.size()));
+    task.check();
     if (y + metrics.lineSpacing() > page) {
       pages.newPage();
       y = 0;

@@ -26,11 +26,19 @@ class DesktopServices : public Services {
   void print_window(Window& window) override;
   std::unique_ptr<Surface> make_surface(int width, int height) override;
   void export_picture(Canvas& canvas, const std::string& path) override;
+  [[nodiscard]] bool stop_wanted() override { return desktop_ != nullptr && desktop_->long_work().stop_wanted(); }
+  void work_reported(int done, int total) override {
+    if (desktop_ != nullptr) desktop_->long_work().report(done, total);
+  }
+  [[nodiscard]] bool confirm_work(const Effort& effort) override;
   void end_program() override { desktop_->end(0); }
 
   void set_desktop(Desktop& desktop) { desktop_ = &desktop; }
 
  private:
+  [[nodiscard]] LongWork::Pause dialog_open() const {
+    return LongWork::Pause(desktop_ == nullptr ? nullptr : &desktop_->long_work());
+  }
   /// The default printer; where the machine has none, a PDF file that the user names.
   /// @returns nullptr when the user cancelled
   std::unique_ptr<QPrinter> default_output(const std::string& title);
@@ -43,6 +51,7 @@ class DesktopServices : public Services {
 };
 
 /// Prints lines of text in a fixed-pitch font, page by page. An empty document is one empty page.
-void print_lines(QPagedPaintDevice& pages, const QStringList& lines);
+/// @throws Cancelled  the task stops
+void print_lines(QPagedPaintDevice& pages, const QStringList& lines, Task& task);
 
 }  // namespace zol

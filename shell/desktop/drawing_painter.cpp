@@ -18,8 +18,9 @@ constexpr double largest_radius = 1e6;
 
 class ListPainter {
  public:
-  ListPainter(QPainter& painter, const Canvas& canvas)
-      : painter_(painter), picture_(0, 0, canvas.pixel_width(), canvas.pixel_height()), scale_(canvas.list_scale()) {}
+  /// @param scale  in force where it begins, and then where it is
+  ListPainter(QPainter& painter, const Canvas& canvas, UserScale& scale)
+      : painter_(painter), picture_(0, 0, canvas.pixel_width(), canvas.pixel_height()), scale_(scale) {}
 
   void operator()(const UserScale& scale) { scale_ = scale; }
 
@@ -112,7 +113,7 @@ class ListPainter {
 
   QPainter& painter_;
   QRectF picture_;
-  UserScale scale_;
+  UserScale& scale_;
   QPolygonF gathered_;
   Colour gathered_colour_ = 0;
 };
@@ -149,19 +150,75 @@ std::optional<QLineF> clipped(const QLineF& line, const QRectF& inside) {
   return QLineF(enter > 0.0 ? line.pointAt(enter) : line.p1(), leave < 1.0 ? line.pointAt(leave) : line.p2());
 }
 
-void paint_canvas(QPainter& painter, Canvas& canvas) {
-  if (const std::string reason = canvas.fault(); !reason.empty()) throw RunFailure(reason);
-  const QRectF picture(0, 0, canvas.pixel_width(), canvas.pixel_height());
-  const bool raster = canvas.has_raster_base() || canvas.has_picture();
-  if (raster) {
-    // What lies under the drawing list exists as pixels only.
+namespace {
+
+/// What lies under the drawing list.
+void paint_base(QPainter& painter, Canvas& canvas, const QRectF& picture) {
+  if (canvas.has_raster_base() || canvas.has_picture()) {  // it exists as pixels only
     painter.drawImage(picture, dynamic_cast<const QtSurface&>(canvas.stored_image()).image());
   } else {
     painter.fillRect(picture, to_qt(canvas.back_colour()));
   }
-  ListPainter list(painter, canvas);
-  for (const Primitive& primitive : canvas.drawing()) std::visit(list, primitive.what);
+}
+
+}  // namespace
+
+void paint_canvas(QPainter& painter, Canvas& canvas, Task& task) {
+  if (const std::string reason = canvas.fault(); !reason.empty()) throw RunFailure(reason);
+  paint_base(painter, canvas, QRectF(0, 0, canvas.pixel_width(), canvas.pixel_height()));
+  UserScale scale = canvas.list_scale();
+  ListPainter list(painter, canvas, scale);
+  for (const Primitive& primitive : canvas.drawing()) {
+    task.check();
+    std::visit(list, primitive.what);
+  }
   list.draw_gathered();
+}
+
+bool CanvasPainting::go_on(const std::function<bool()>& enough) {
+  const QSize own_size(canvas_.pixel_width(), canvas_.pixel_height());
+  const bool needs_pixels = pixmap_.size() == own_size || canvas_.has_raster_base() || canvas_.has_picture();
+  if (needs_pixels && !canvas_.make_some_images(enough)) {
+    if (pixmap_.size() == own_size) take_pixels();
+    return false;
+  }
+  if (pixmap_.size() == own_size) {
+    take_pixels();
+    return true;
+  }
+  return draw_list(enough);
+}
+
+void CanvasPainting::take_pixels() {
+  QPainter painter(&pixmap_);
+  for (const Surface* surface : {&canvas_.stored_so_far(), &canvas_.overlay_so_far()}) {
+    painter.drawImage(0, 0, dynamic_cast<const QtSurface&>(*surface).image());
+  }
+}
+
+/// From where the last time has ended, unless more has changed since than that something was drawn.
+bool CanvasPainting::draw_list(const std::function<bool()>& enough) {
+  QPainter painter(&pixmap_);
+  painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+  painter.scale(1.0 * pixmap_.width() / canvas_.pixel_width(), 1.0 * pixmap_.height() / canvas_.pixel_height());
+  if (!begun_ || redrawn_ != canvas_.redrawn()) {
+    paint_base(painter, canvas_, QRectF(0, 0, canvas_.pixel_width(), canvas_.pixel_height()));
+    begun_ = true;
+    redrawn_ = canvas_.redrawn();
+    scale_ = canvas_.list_scale();
+    drawn_ = 0;
+  }
+  constexpr std::size_t between_questions = 16;
+  ListPainter list(painter, canvas_, scale_);
+  bool stops = false;
+  for (; drawn_ < canvas_.drawing().size() && !stops; ++drawn_) {
+    const auto& what = canvas_.drawing()[drawn_].what;
+    if (!scale_.has_area() && !std::holds_alternative<UserScale>(what)) throw RunFailure(canvas_.fault());
+    std::visit(list, what);
+    stops = drawn_ % between_questions == between_questions - 1 && enough();
+  }
+  list.draw_gathered();
+  return drawn_ == canvas_.drawing().size();
 }
 
 }  // namespace zol

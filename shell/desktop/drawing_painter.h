@@ -1,14 +1,17 @@
 // Draws the list of a picture with a painter: for screens of any resolution and for vector files.
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include <QColor>
 #include <QFont>
 #include <QLineF>
 #include <QPainter>
+#include <QPixmap>
 #include <QRectF>
 
+#include "core/task.h"
 #include "shell/services/canvas.h"
 
 namespace zol {
@@ -24,6 +27,31 @@ namespace zol {
 
 /// Draws background, picture and all of the drawing list in canvas pixels; the painter's transformation does the rest.
 /// Everything is clipped by geometry, since not every paint device clips.
-void paint_canvas(QPainter& painter, Canvas& canvas);
+/// @throws Cancelled  the task stops
+void paint_canvas(QPainter& painter, Canvas& canvas, Task& task);
+
+/// A picture for a view, drawn bit by bit and brought up to date when something was drawn besides: in its own size the
+/// stored image and the overlay, else the list at the resolution of the view.
+class CanvasPainting {
+ public:
+  /// @param pixmap  of the size of the view
+  CanvasPainting(Canvas& canvas, QPixmap pixmap) : canvas_(canvas), pixmap_(std::move(pixmap)) {}
+
+  /// Draws until all is there or the answer is true. @returns whether all is there
+  /// @throws RunFailure  the picture has a fault
+  bool go_on(const std::function<bool()>& enough);
+  [[nodiscard]] const QPixmap& pixmap() const { return pixmap_; }
+
+ private:
+  void take_pixels();
+  bool draw_list(const std::function<bool()>& enough);
+
+  Canvas& canvas_;
+  QPixmap pixmap_;
+  bool begun_ = false;
+  unsigned redrawn_ = 0;   ///< Canvas::redrawn() when the list was begun
+  std::size_t drawn_ = 0;  ///< entries of the list
+  UserScale scale_;        ///< in force behind those
+};
 
 }  // namespace zol

@@ -6,6 +6,7 @@
 namespace zol {
 
 bool GuardedApplication::notify(QObject* receiver, QEvent* event) {
+  if (swallow_ && swallow_(receiver, event)) return true;
   if (event->type() == QEvent::Polish) {
     if (auto* label = qobject_cast<QLabel*>(receiver)) label->setTextFormat(Qt::PlainText);
   }

@@ -14,6 +14,7 @@
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/services/workbench.h"
 
 namespace zol {
 namespace {
@@ -62,7 +63,7 @@ class Caption {
   QStringList lines_;
 };
 
-QByteArray svg_of(Canvas& canvas, const Caption& caption) {
+QByteArray svg_of(Canvas& canvas, const Caption& caption, Task& task) {
   QBuffer buffer;
   QSvgGenerator svg;
   svg.setOutputDevice(&buffer);
@@ -71,13 +72,13 @@ QByteArray svg_of(Canvas& canvas, const Caption& caption) {
   svg.setViewBox(QRect(QPoint(), caption.below(canvas)));
   svg.setTitle(QString::fromStdString(canvas.path()));
   QPainter painter(&svg);
-  paint_canvas(painter, canvas);
+  paint_canvas(painter, canvas, task);
   caption.paint(painter, canvas);
   painter.end();
   return buffer.data();
 }
 
-QByteArray pdf_of(Canvas& canvas, const Caption& caption) {
+QByteArray pdf_of(Canvas& canvas, const Caption& caption, Task& task) {
   constexpr double points_per_pixel = 72.0 / dots_per_inch;
   const QSizeF size(caption.below(canvas));
   QBuffer buffer;
@@ -89,14 +90,14 @@ QByteArray pdf_of(Canvas& canvas, const Caption& caption) {
   pdf.setResolution(resolution);
   QPainter painter(&pdf);
   painter.scale(double{resolution} / dots_per_inch, double{resolution} / dots_per_inch);
-  paint_canvas(painter, canvas);
+  paint_canvas(painter, canvas, task);
   caption.paint(painter, canvas);
   painter.end();
   return buffer.data();
 }
 
-QImage with_caption(Canvas& canvas, double factor, const Caption& caption) {
-  const QImage picture = picture_image(canvas, factor);
+QImage with_caption(Canvas& canvas, double factor, const Caption& caption, Task& task) {
+  const QImage picture = picture_image(canvas, factor, task);
   const QSize size = (QSizeF(caption.below(canvas)) * factor).toSize();
   if (size == picture.size()) return picture;
   QImage image(size, QImage::Format_RGB32);
@@ -111,6 +112,11 @@ QImage with_caption(Canvas& canvas, double factor, const Caption& caption) {
 }  // namespace
 
 QImage picture_image(Canvas& canvas, double factor) {
+  QuietTask task;
+  return picture_image(canvas, factor, task);
+}
+
+QImage picture_image(Canvas& canvas, double factor, Task& task) {
   const QSize size(canvas.pixel_width(), canvas.pixel_height());
   QImage image((QSizeF(size) * factor).toSize(), QImage::Format_RGB32);
   QPainter painter(&image);
@@ -120,18 +126,19 @@ QImage picture_image(Canvas& canvas, double factor) {
   } else {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(factor, factor);
-    paint_canvas(painter, canvas);
+    paint_canvas(painter, canvas, task);
   }
   return image;
 }
 
-void export_picture(Canvas& canvas, const std::string& path, double factor, const std::string& caption_text) {
+void export_picture(Canvas& canvas, const std::string& path, double factor, Task& task,
+                    const std::string& caption_text) {
   const Caption caption(caption_text);
   const std::string ending = ending_of(path);
-  if (ending == "bmp") return write_image(with_caption(canvas, factor, caption), path, "BMP");
-  if (ending == "png") return write_image(with_caption(canvas, factor, caption), path, "PNG");
-  if (ending == "svg") return write_bytes(svg_of(canvas, caption), path);
-  if (ending == "pdf") return write_bytes(pdf_of(canvas, caption), path);
+  if (ending == "bmp") return write_image(with_caption(canvas, factor, caption, task), path, "BMP");
+  if (ending == "png") return write_image(with_caption(canvas, factor, caption, task), path, "PNG");
+  if (ending == "svg") return write_bytes(svg_of(canvas, caption, task), path);
+  if (ending == "pdf") return write_bytes(pdf_of(canvas, caption, task), path);
   throw RunFailure("can't export to " + path + ": the name must end in .bmp, .png, .svg or .pdf");
 }
 
@@ -162,7 +169,8 @@ std::unique_ptr<Surface> OffscreenPictures::make_surface(int width, int height) 
 
 void OffscreenPictures::export_picture(Canvas& canvas, const std::string& path) {
   start();
-  zol::export_picture(canvas, path);
+  WindowTask task(canvas.services());
+  zol::export_picture(canvas, path, 1.0, task);
 }
 
 }  // namespace zol

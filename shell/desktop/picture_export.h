@@ -5,18 +5,22 @@
 
 #include <QImage>
 
+#include "core/task.h"
 #include "shell/services/pictures.h"
 
 namespace zol {
 
 /// The picture with its overlay. A factor above 1 draws it anew at that resolution.
+[[nodiscard]] QImage picture_image(Canvas& canvas, double factor, Task& task);
 [[nodiscard]] QImage picture_image(Canvas& canvas, double factor = 1.0);
 
 /// Writes the kind that the ending of the path names: .bmp, .png, .svg, .pdf.
 /// @param factor  pixels per canvas pixel, for .bmp and .png
 /// @param caption  lines in UTF-8 below the picture, in a strip of their own; empty: none
 /// @throws RunFailure  another ending, or the file can't be written
-void export_picture(Canvas& canvas, const std::string& path, double factor = 1.0, const std::string& caption = "");
+/// @throws Cancelled  the task stops; there is no file then
+void export_picture(Canvas& canvas, const std::string& path, double factor, Task& task,
+                    const std::string& caption = "");
 
 /// Pictures of a program without a screen: starts Qt on its offscreen platform when the first one is asked for.
 class OffscreenPictures : public PictureMaker {

@@ -14,6 +14,7 @@ UserEvents::UserEvents(EventGate& gate) : gate_(gate) {
 
 /// What waits for a window that is unloaded meanwhile never runs.
 void UserEvents::enter(const Window& window, UserEvent event) {
+  event.window = window.name();
   event.still_wanted = [life = window.life()] { return !life.expired(); };
   gate_.enter(std::move(event));
 }

@@ -14,11 +14,12 @@
 #include "shell/program/program.h"
 #include "shell/script/offscreen_pictures.h"
 #include "shell/script/script_driver.h"
+#include "shell/script/stop_signal.h"
 #include "shell/services/latin1.h"
 
 namespace {
 
-enum ExitStatus { ended = 0, run_failed = 1, script_wrong = 2, question_unanswered = 3 };
+enum ExitStatus { ended = 0, run_failed = 1, script_wrong = 2, question_unanswered = 3, died_of_signal = 128 };
 
 constexpr auto usage = R"(usage: zol-script [--data DIR] [SCRIPT]
 
@@ -30,7 +31,7 @@ Runs the program by the operations in SCRIPT, or on standard input, a line each.
 
 Exit status: 0 end of the script or of the program, 1 failure of the run, or a script or
 an output that breaks off, 2 an operation that can't be read or names no control, 3 a
-dialog without a queued answer.
+dialog without a queued answer, 130 or 143 stopped by SIGINT or SIGTERM.
 docs/scripting.md lists the operations.
 )";
 
@@ -96,6 +97,8 @@ Outcome run_program(int argc, char** argv) {
     return {};
   } catch (const zol::ScriptError& error) {
     return {script_wrong, error.what()};
+  } catch (const zol::ScriptStopped&) {
+    return {died_of_signal + zol::stop_signal(), "zol-script: stopped by a signal"};
   } catch (const zol::UnansweredQuestion& question) {
     return {question_unanswered, std::string("unanswered question: ") + question.what()};
   } catch (const std::ios::failure&) {
@@ -120,6 +123,7 @@ std::string lost_output() { return std::string("zol-script: can't write to stand
 int main(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);  // NOLINT(cert-err33-c): a closed pipe fails the write, which is told
   keep_standard_descriptors();
+  zol::take_stop_signals();
   std::ios::sync_with_stdio(false);
   std::cout.exceptions(std::ios::badbit);
   std::cerr.tie(nullptr);  // neither a message nor reading writes the output: its failure is not theirs

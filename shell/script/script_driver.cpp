@@ -99,16 +99,20 @@ void ScriptDriver::run(std::istream& script) {
   std::string line;
   // Who writes the script may wait for what a line prints.
   const auto next_line = [&] {
-    if (script.rdbuf()->in_avail() <= 0) output_.flush();
+    if (script.rdbuf()->in_avail() > 0) return static_cast<bool>(std::getline(script, line));
+    output_.flush();
+    const Waits waits;
     return static_cast<bool>(std::getline(script, line));
   };
   for (line_ = 0; !services_.ended() && next_line();) {
     ++line_;
+    if (services_.stop_wanted()) throw ScriptStopped();
     try {
       const Words words = split_words(line);
       if (words.empty()) continue;
       gate_.enter({line, line, [this, &words] { execute(words); }});
       if (stopped_) std::rethrow_exception(stopped_);
+      if (services_.stop_wanted()) throw ScriptStopped();
     } catch (const ScriptError& error) {
       if (error.line() > 0) throw;
       throw ScriptError(error.what(), line_);

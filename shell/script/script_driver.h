@@ -21,6 +21,7 @@ class ScriptDriver {
   /// @throws ScriptError  with the line number
   /// @throws RunFailure  from the program, or the script breaks off while it is read
   /// @throws UnansweredQuestion  from the program
+  /// @throws ScriptStopped  the surroundings want an end
   void run(std::istream& script);
 
  private:

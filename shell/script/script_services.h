@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "shell/script/stop_signal.h"
 #include "shell/services/latin1.h"
 #include "shell/services/pictures.h"
 #include "shell/services/window_services.h"
@@ -60,6 +61,7 @@ class ScriptServices : public Services {
   void print_window(Window& window) override { printed_.push_back("window " + readable_utf8(window.caption())); }
   std::unique_ptr<Surface> make_surface(int width, int height) override;
   void export_picture(Canvas& canvas, const std::string& path) override;
+  [[nodiscard]] bool stop_wanted() override { return stop_signal() != 0; }
   void end_program() override { ended_ = true; }
 
  private:

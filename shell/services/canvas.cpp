@@ -3,8 +3,10 @@
 #include <cmath>
 
 #include "core/number_text.h"
+#include "core/run_aside.h"
 #include "shell/services/services.h"
 #include "shell/services/window.h"
+#include "shell/services/workbench.h"
 
 namespace zol {
 namespace {
@@ -32,16 +34,20 @@ Canvas::Contents Canvas::contents() const {
 }
 
 void Canvas::set_contents(const Contents& contents) {
+  ++redrawn_;
   drawing_ = contents.drawing;
   raster_.set_picture(contents.picture);
   raster_.drop();
   raster_.set_base(contents.raster_base);
-  if (contents.stored && raster_.make(drawing_)) raster_.stored().draw(*contents.stored, false);
+  if (contents.stored && raster_.make_some(drawing_, [] { return false; })) {
+    raster_.stored().draw(*contents.stored, false);
+  }
   mouse_pointer_ = contents.mouse_pointer;
   changed();
 }
 
 void Canvas::clear() {
+  ++redrawn_;
   const bool persistent = drawing_.pens.persistent;
   if (persistent) {
     raster_.set_base(false);
@@ -53,6 +59,8 @@ void Canvas::clear() {
   if (raster_.made()) {
     if (persistent) raster_.repaint_stored(drawing_);
     raster_.clear_overlay();
+  } else {
+    raster_.drop();  // half made
   }
   changed();
 }
@@ -117,18 +125,21 @@ void Canvas::print(std::string_view text) {
 }
 
 void Canvas::set_back_colour(Colour colour) {
+  ++redrawn_;
   drawing_.pens.back = colour;
   if (!raster_.has_base()) raster_.repaint_stored(drawing_);
   changed();
 }
 
 void Canvas::set_width(int twips) {
+  ++redrawn_;
   drawing_.width_twips = twips;
   raster_.drop();
   changed();
 }
 
 void Canvas::set_height(int twips) {
+  ++redrawn_;
   drawing_.height_twips = twips;
   raster_.drop();
   changed();
@@ -137,8 +148,12 @@ void Canvas::set_height(int twips) {
 void Canvas::load_picture(const std::string& path) {
   auto picture = services_.make_surface(1, 1);
   if (!picture) throw RunFailure("can't load " + path + ": there are no pixel images here");
-  picture->load(path);
-  raster_.set_picture(std::move(picture));
+  WindowTask task(services_);
+  const auto loaded = run_aside<std::shared_ptr<Surface>>(task, [path, picture = std::shared_ptr(std::move(picture))] {
+    picture->load(path);
+    return picture;
+  });
+  raster_.set_picture(loaded);
   show_picture();
 }
 
@@ -160,7 +175,10 @@ void Canvas::mirror_picture() { turn_picture(true, false); }
 
 void Canvas::turn_picture(bool left_to_right, bool upside_down) {
   if (!has_picture()) return;
-  raster_.set_picture(raster_.picture()->mirrored(left_to_right, upside_down));
+  WindowTask task(services_);
+  raster_.set_picture(run_aside<std::shared_ptr<const Surface>>(task, [=, picture = raster_.picture()] {
+    return std::shared_ptr<const Surface>(picture->mirrored(left_to_right, upside_down));
+  }));
   show_picture();
 }
 
@@ -174,6 +192,7 @@ void Canvas::edit_picture(const std::function<void(Surface&)>& edit) {
 bool Canvas::made_since(const Copy& before) const {
   const auto& old = std::any_cast<const Contents&>(before.contents).drawing.list;
   const auto& now = drawing_.list;
+  if (&old.get() == &now.get()) return false;  // shared: nothing has come or gone
   return now.size() < old.size() || old.empty() || !std::equal(old.begin(), old.end(), now.begin());
 }
 
@@ -202,6 +221,14 @@ Surface& Canvas::overlay_image() {
   return raster_.overlay();
 }
 
+bool Canvas::make_some_images(const std::function<bool()>& enough) {
+  if (raster_.made()) return true;
+  if (raster_.begun()) return raster_.make_some(drawing_, enough) && raster_.made();
+  if (const std::string reason = fault(); !reason.empty()) throw RunFailure(reason);
+  if (!raster_.make_some(drawing_, enough)) throw RunFailure("the picture " + path() + " has no pixels here");
+  return raster_.made();
+}
+
 void Canvas::make_images() {
   if (raster_.made()) return;
   if (const std::string reason = fault(); !reason.empty()) throw RunFailure(reason);
@@ -209,6 +236,7 @@ void Canvas::make_images() {
 }
 
 void Canvas::show_picture() {
+  ++redrawn_;
   raster_.set_base(false);
   drawing_.forget_stored();
   raster_.repaint_stored(drawing_);

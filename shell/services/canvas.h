@@ -114,7 +114,7 @@ class Canvas : public Control {
   [[nodiscard]] const UserScale& list_scale() const {
     return drawing_.list_scale;
   }  ///< in force at the head of the list
-  [[nodiscard]] const std::vector<Primitive>& drawing() const { return drawing_.list; }
+  [[nodiscard]] const DrawingList& drawing() const { return drawing_.list; }
   /// True when the stored image holds more than picture and list tell: a raster is then the base of any export.
   [[nodiscard]] bool has_raster_base() const { return raster_.has_base(); }
   /// Empty, or why what was drawn has no pixels: it stands in a scale of width or height 0.
@@ -122,6 +122,13 @@ class Canvas : public Control {
   /// @throws RunFailure  there are no pixels here, or the drawing has a fault
   [[nodiscard]] Surface& stored_image();
   [[nodiscard]] Surface& overlay_image();
+  /// Makes some more of both images, until the answer is true. @returns whether they are there, with all that was drawn
+  [[nodiscard]] bool make_some_images(const std::function<bool()>& enough);
+  /// Both as far as they have been made.
+  [[nodiscard]] const Surface& stored_so_far() const { return raster_.stored(); }
+  [[nodiscard]] const Surface& overlay_so_far() const { return raster_.overlay(); }
+  /// Another number when more has changed than that something was drawn besides.
+  [[nodiscard]] unsigned redrawn() const { return redrawn_; }
 
   [[nodiscard]] bool made_since(const Copy& before) const override;
   [[nodiscard]] bool holds_something() const override { return !drawing_.list.empty(); }
@@ -147,6 +154,7 @@ class Canvas : public Control {
   Drawing drawing_;
   Raster raster_;
   MousePointer mouse_pointer_ = MousePointer::Default;
+  unsigned redrawn_ = 0;
 };
 
 }  // namespace zol

@@ -151,9 +151,18 @@ void ListBox::clear() {
   changed();
 }
 
-void ListBox::add_item(std::string_view item) {
+void ListBox::add_items(std::vector<std::string> items, Task& task) {
+  constexpr std::size_t between_checks = 1024;
+  std::size_t count = 0;
+  for (auto& item : items) {
+    if (count++ % between_checks == 0) task.check();
+    add_item(std::move(item));
+  }
+}
+
+void ListBox::add_item(std::string item) {
   ++revision_;
-  contents_.items.emplace_back(item);
+  contents_.items.push_back(std::move(item));
   contents_.colours.push_back(contents_.fore_colour);
   changed();
 }
@@ -173,6 +182,7 @@ void ListBox::pick(int index) {
 bool ListBox::made_since(const Copy& before) const {
   const auto& old = std::any_cast<const ListBoxContents&>(before.contents).items;
   const auto& now = contents_.items;
+  if (&old.get() == &now.get()) return false;  // shared: nothing has come or gone
   return now.size() < old.size() || old.empty() || !std::equal(old.begin(), old.end(), now.begin());
 }
 

@@ -16,6 +16,8 @@
 #include "core/number_text.h"
 #include "core/numbers.h"
 #include "core/run_failure.h"
+#include "core/shared_vector.h"
+#include "core/task.h"
 #include "shell/services/stored.h"
 
 namespace zol {
@@ -195,7 +197,7 @@ struct ComboBoxContents {
   bool operator==(const ComboBoxContents&) const = default;
 };
 struct ListBoxContents {
-  std::vector<std::string> items;
+  SharedVector<std::string> items;
   std::vector<Colour> colours;  ///< of the items, one each
   int list_index = -1;
   Colour fore_colour = colours::black;
@@ -339,7 +341,9 @@ class ListBox : public ControlWith<ListBoxContents> {
   ListBox(Window& window, std::string name, std::string caption = "")
       : ControlWith(window, std::move(name), ControlKind::ListBox, std::move(caption)) {}
   void clear();
-  void add_item(std::string_view item);
+  void add_item(std::string item);
+  /// Adds many of them. @param task  checked every now and then
+  void add_items(std::vector<std::string> items, Task& task);
   [[nodiscard]] int list_count() const { return static_cast<int>(contents_.items.size()); }
   [[nodiscard]] const std::vector<std::string>& items() const { return contents_.items; }
   [[nodiscard]] int list_index() const { return contents_.list_index; }  ///< -1 when nothing is selected

@@ -57,7 +57,7 @@ void Drawing::print(std::string text) {
 }
 
 void Drawing::forget_stored() {
-  std::erase_if(list,
+  std::erase_if(list.own(),
                 [](const Primitive& entry) { return entry.stored && !std::holds_alternative<UserScale>(entry.what); });
 }
 

@@ -2,12 +2,14 @@
 // plain value that can be copied, compared and put back.
 #pragma once
 
+#include <deque>
 #include <optional>
 #include <string>
 #include <tuple>
 #include <variant>
 #include <vector>
 
+#include "core/shared_vector.h"
 #include "shell/services/controls.h"
 
 namespace zol {
@@ -50,6 +52,8 @@ struct Primitive {
   bool operator==(const Primitive&) const = default;
 };
 
+using DrawingList = std::deque<Primitive>;
+
 /// What the next drawing is done with.
 struct Pens {
   Colour fore = colours::black;
@@ -70,7 +74,7 @@ struct Drawing {
   UserScale list_scale;           ///< in force at the head of the list
   double x = 0, y = 0;            ///< the drawing position
   Pens pens;
-  std::vector<Primitive> list;
+  SharedVector<Primitive, DrawingList> list;
 
   [[nodiscard]] int pixel_width() const;  ///< twips / 15, rounded half to even
   [[nodiscard]] int pixel_height() const;

@@ -84,14 +84,30 @@ void EventGate::run(const UserEvent& event) {
   });
 }
 
-void EventGate::run_or_put_back(const UserEvent& event) {
-  std::function<void()> put_back;
-  if (keep_ && event.stoppable) put_back = keep_();
+bool EventGate::run_unless_stopped(const UserEvent& event) {
+  struct Follow {
+    explicit Follow(const std::function<void(bool)>& told) : over(told) {}
+    Follow(const Follow&) = delete;
+    Follow& operator=(const Follow&) = delete;
+    ~Follow() {
+      if (over) over(stopped);
+    }
+    const std::function<void(bool)>& over;
+    bool stopped = false;
+  } follow(over_);
+  if (begun_) begun_(event);
   try {
     event.run();
   } catch (const Cancelled&) {
-    if (put_back) put_back();
+    follow.stopped = true;
   }
+  return !follow.stopped;
+}
+
+void EventGate::run_or_put_back(const UserEvent& event) {
+  std::function<void()> put_back;
+  if (keep_ && event.stoppable) put_back = keep_();
+  if (!run_unless_stopped(event) && put_back) put_back();
 }
 
 void EventGate::guard(const std::function<void()>& action) noexcept {

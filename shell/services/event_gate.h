@@ -20,6 +20,7 @@ struct UserEvent {
   std::function<bool()> still_wanted = {};  ///< asked when its turn has come; none: always
   bool stoppable = true;                    ///< else it is always short, and nothing is kept to be put back
   std::string step = {};                    ///< its name as a step of the history; empty: from the script
+  std::string window = {};                  ///< that it comes from; empty where it comes from none
 };
 
 /// A line of a script from its words in UTF-8, quoted where they need it.
@@ -54,16 +55,24 @@ class EventGate {
   void set_done(std::function<void(const UserEvent&)> done) { done_ = std::move(done); }
   /// Told of each event before it runs.
   void set_journal(std::function<void(const UserEvent&)> journal) { journal_ = std::move(journal); }
+  /// Told of each event as it begins, and when its handlers are over, however they ended: whether it was stopped.
+  void set_follow(std::function<void(const UserEvent&)> begun, std::function<void(bool stopped)> over) {
+    begun_ = std::move(begun);
+    over_ = std::move(over);
+  }
 
  private:
   void run(const UserEvent& event);
   void run_or_put_back(const UserEvent& event);
+  [[nodiscard]] bool run_unless_stopped(const UserEvent& event);
 
   std::function<void()> settle_;
   std::function<void(const std::exception_ptr&)> failed_;
   std::function<std::function<void()>()> keep_;
   std::function<void(const UserEvent&)> journal_;
   std::function<void(const UserEvent&)> done_;
+  std::function<void(const UserEvent&)> begun_;
+  std::function<void(bool)> over_;
   std::deque<UserEvent> waiting_;
   bool running_ = false;
   bool ended_ = false;

@@ -4,8 +4,10 @@
 #include <utility>
 #include <variant>
 
+#include "core/run_aside.h"
 #include "core/run_failure.h"
 #include "shell/services/services.h"
+#include "shell/services/workbench.h"
 
 namespace zol {
 namespace {
@@ -80,32 +82,61 @@ void Raster::set_picture(std::shared_ptr<const Surface> picture) {
 }
 
 std::shared_ptr<const GreyPicture> Raster::grey_picture() {
-  if (!grey_ && picture_) grey_ = std::make_shared<GreyPicture>(picture_->grey());
+  if (grey_ || !picture_) return grey_;
+  WindowTask task(services_);
+  grey_ = run_aside<std::shared_ptr<const GreyPicture>>(
+      task, [picture = picture_] { return std::make_shared<const GreyPicture>(picture->grey()); });
   return grey_;
 }
 
 bool Raster::make(const Drawing& drawing) {
+  return make_some(drawing, [this] {
+    if (services_.stop_wanted()) throw Cancelled();
+    return false;
+  });
+}
+
+bool Raster::make_some(const Drawing& drawing, const std::function<bool()>& enough) {
   if (made()) return true;
-  auto stored = services_.make_surface(drawing.pixel_width(), drawing.pixel_height());
-  auto overlay = services_.make_surface(drawing.pixel_width(), drawing.pixel_height());
-  if (!stored || !overlay) return false;
-  stored_ = std::move(stored);
-  overlay_ = std::move(overlay);
-  repaint_stored(drawing);
-  overlay_->make_transparent();
-  replay(*overlay_, drawing, false);
+  if (!stored_) {
+    auto stored = services_.make_surface(drawing.pixel_width(), drawing.pixel_height());
+    auto overlay = services_.make_surface(drawing.pixel_width(), drawing.pixel_height());
+    if (!stored || !overlay) return false;
+    stored_ = std::move(stored);
+    overlay_ = std::move(overlay);
+    paint_base(drawing);
+    overlay_->make_transparent();
+    painted_ = 0;
+    painted_scale_ = drawing.list_scale;
+  }
+  constexpr std::size_t between_questions = 16;
+  for (; painted_ < drawing.list.size(); ++painted_) {
+    if (painted_ % between_questions == between_questions - 1 && enough()) return true;
+    const Primitive& primitive = drawing.list[painted_];
+    if (const auto* change = std::get_if<UserScale>(&primitive.what)) {
+      painted_scale_ = *change;
+    } else {
+      paint(primitive.stored ? *stored_ : *overlay_, painted_scale_, primitive);
+    }
+  }
+  complete_ = true;
   return true;
 }
 
 void Raster::drop() {
   stored_.reset();
   overlay_.reset();
+  complete_ = false;
+}
+
+void Raster::paint_base(const Drawing& drawing) {
+  stored_->fill(drawing.pens.back);
+  if (picture_) stored_->draw(*picture_, false);
 }
 
 void Raster::repaint_stored(const Drawing& drawing) {
-  if (!stored_) return;
-  stored_->fill(drawing.pens.back);
-  if (picture_) stored_->draw(*picture_, false);
+  if (!made()) return drop();
+  paint_base(drawing);
   replay(*stored_, drawing, true);
 }
 

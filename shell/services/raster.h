@@ -3,6 +3,7 @@
 // The images are made when they are first looked at and then kept up to date; until then only the drawing list grows.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -84,9 +85,14 @@ class Raster {
   [[nodiscard]] bool has_base() const { return base_; }
   void set_base(bool base) { base_ = base; }
 
-  [[nodiscard]] bool made() const { return stored_ != nullptr; }
+  /// The images are there and hold all of the list.
+  [[nodiscard]] bool made() const { return stored_ != nullptr && complete_; }
+  [[nodiscard]] bool begun() const { return stored_ != nullptr; }
   /// Makes the images where there are none. @returns false when there are no pixels here
+  /// @throws Cancelled  the user stops it
   [[nodiscard]] bool make(const Drawing& drawing);
+  /// Makes some more of them, until the answer is true. @returns false when there are no pixels here
+  [[nodiscard]] bool make_some(const Drawing& drawing, const std::function<bool()>& enough);
   /// The images are to be made anew.
   void drop();
   void repaint_stored(const Drawing& drawing);
@@ -99,10 +105,15 @@ class Raster {
   [[nodiscard]] Surface& overlay() const { return *overlay_; }
 
  private:
+  void paint_base(const Drawing& drawing);
+
   Services& services_;
   bool base_ = false;
   std::shared_ptr<const Surface> picture_;
   std::shared_ptr<const GreyPicture> grey_;  // of the picture, where it has been asked for
+  bool complete_ = false;                    // the images hold all of the list
+  std::size_t painted_ = 0;                  // entries of the list, as long as they don't
+  UserScale painted_scale_;                  // in force behind those
   std::unique_ptr<Surface> stored_;          // both or none
   std::unique_ptr<Surface> overlay_;
 };

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/numbers.h"
+#include "core/task.h"
 
 namespace zol {
 
@@ -100,9 +101,17 @@ class Services {
 
   /// Asked often while something long runs: does the user want to stop it? Has to be quick.
   [[nodiscard]] virtual bool stop_wanted() { return false; }
+  /// How far something long is; done rises to total.
+  virtual void work_reported(int /*done*/, int /*total*/) {}
+  /// Asked before work that may take long. @returns false when it is not to be done
+  [[nodiscard]] virtual bool confirm_work(const Effort& /*effort*/) { return true; }
 
   /// Ends the program once the running handler has returned; no further event comes in.
   virtual void end_program() = 0;
+
+ private:
+  friend class WindowTask;
+  int tasks_ = 0;  ///< that are under way, one within the other
 };
 
 /// The file dialog of a window.

@@ -26,6 +26,7 @@
 
 #include "core/bounded_array.h"
 #include "core/numbers.h"
+#include "core/shared_vector.h"
 
 namespace zol {
 
@@ -232,6 +233,18 @@ struct Stored<std::vector<Value>> {
   }
   static std::vector<Value> load(StoreReader& in) {
     std::vector<Value> values;
+    for (std::size_t left = in.count(); left > 0; --left) values.push_back(zol::load<Value>(in));
+    return values;
+  }
+};
+template <class Value, class Container>
+struct Stored<SharedVector<Value, Container>> {
+  static void store(StoreWriter& out, const SharedVector<Value, Container>& values) {
+    out.count(values.size());
+    for (const Value& value : values) zol::store<Value>(out, value);
+  }
+  static SharedVector<Value, Container> load(StoreReader& in) {
+    SharedVector<Value, Container> values;
     for (std::size_t left = in.count(); left > 0; --left) values.push_back(zol::load<Value>(in));
     return values;
   }

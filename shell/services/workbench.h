@@ -30,18 +30,24 @@ struct Workbench {
 /// A calculation that the user can stop and that shows its progress where there is a bar for it.
 class WindowTask : public Task {
  public:
-  explicit WindowTask(Services& services) : services_(services) {}
-  WindowTask(Services& services, ProgressBar& bar) : services_(services), bar_(&bar) {}
-  void report(int done, int /*total*/) override {
+  explicit WindowTask(Services& services) : services_(services), depth_(++services.tasks_) {}
+  WindowTask(Services& services, ProgressBar& bar) : WindowTask(services) { bar_ = &bar; }
+  ~WindowTask() override { --services_.tasks_; }
+  void report(int done, int total) override {
     if (bar_ != nullptr) bar_->set_value(static_cast<Single>(done));
+    if (depth_ == 1) services_.work_reported(done, total);  // what it calls is a part of it
   }
   void check() override {
     if (services_.stop_wanted()) throw Cancelled();
+  }
+  void expect(const Effort& effort) override {
+    if (!services_.confirm_work(effort)) throw Cancelled();
   }
 
  private:
   Services& services_;
   ProgressBar* bar_ = nullptr;
+  int depth_;
 };
 
 }  // namespace zol

@@ -53,7 +53,10 @@ void PatternDisp(Workbench& bench) {
 
   leave_last_spot(pattern, state);
   if (state.DisplayScale == 0) state.DisplayScale = strongest_intensity(pattern.spots);
-  for (const auto& spot : pattern.spots) draw_spot(form, state, spot);
+  for (const auto& spot : pattern.spots) {
+    task.check();
+    draw_spot(form, state, spot);
+  }
 }
 
 }  // namespace zol

@@ -27,8 +27,9 @@ void draw_direct_beam(FiberTextureForm& form, const CrystalState& state) {
   if (form.Check3.checked()) form.Picture1.print("0 0 0");
 }
 
-void draw_arcs(Canvas& picture, const FiberArcs& arcs) {
+void draw_arcs(Canvas& picture, const FiberArcs& arcs, Task& task) {
   for (const auto& point : arcs.points) {
+    task.check();
     const int grey = darkened_grey(point.darkness, picture.point(point.x, point.y));
     picture.set_point(point.x, point.y, RGB(grey, grey, grey));
   }
@@ -44,7 +45,7 @@ void PatternDisp3(Workbench& bench) {
 
   const Hourglass hourglass(form);
   WindowTask task(bench.services);
-  reorder(state, order_by_intensity(state, task));
+  reorder(state, order_by_intensity(state, task), task);
   const double half_width = state.CamAcquisition;
   picture.clear();
   picture.scale(-half_width, half_width, half_width, -half_width);
@@ -55,10 +56,13 @@ void PatternDisp3(Workbench& bench) {
   settings.is_black = [&picture](const PicturePixel& pixel) {
     return picture.stored_image().pixel(pixel.column, pixel.row) == colours::black;
   };
+  task.expect(effort_of_arcs(state, settings, task));
   for (int i = 2; i <= state.RefCount.value(); ++i) {
+    task.report(i, state.RefCount.value());
+    task.check();
     const auto arcs = fiber_arcs(state, i, settings, task);
     if (!arcs) continue;
-    draw_arcs(picture, *arcs);
+    draw_arcs(picture, *arcs, task);
     if (!form.Check3.checked()) continue;
     picture.move_to(arcs->label_x, arcs->label_y);
     picture.print(index_label(state.RefH(i), state.RefK(i), state.RefL(i)));

@@ -1,0 +1,37 @@
+// Work of a library that can't be asked to stop: it runs on a thread of its own while the task is asked.
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <future>
+#include <thread>
+#include <utility>
+
+#include "core/task.h"
+
+namespace zol {
+
+namespace detail {
+/// Keeps a thread whose result nobody waits for until it has come to its end, at the latest with the program.
+void leave_alone(std::thread thread);
+}  // namespace detail
+
+/// Runs the work on another thread and checks the task meanwhile. When the task stops, the work is left to itself: it has
+/// to own all that it uses. What it throws is thrown here.
+template <class Result>
+[[nodiscard]] Result run_aside(Task& task, std::function<Result()> work) {
+  constexpr auto between_checks = std::chrono::milliseconds(5);
+  std::packaged_task<Result()> packaged(std::move(work));
+  auto result = packaged.get_future();
+  std::thread thread(std::move(packaged));
+  try {
+    while (result.wait_for(between_checks) != std::future_status::ready) task.check();
+  } catch (...) {
+    detail::leave_alone(std::move(thread));
+    throw;
+  }
+  thread.join();
+  return result.get();
+}
+
+}  // namespace zol
