@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <new>
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
@@ -85,6 +86,8 @@ class Elements {
   [[nodiscard]] std::size_t size() const { return store_.size(); }
   [[nodiscard]] T& operator[](std::size_t i) { return store_[i]; }
   [[nodiscard]] const T& operator[](std::size_t i) const { return store_[i]; }
+  [[nodiscard]] std::span<T> all() { return store_; }
+  [[nodiscard]] std::span<const T> all() const { return store_; }
   [[nodiscard]] bool operator==(const Elements&) const = default;
 
  private:
@@ -113,6 +116,11 @@ class Elements<T, true> {
     return store_[i];
   }
   [[nodiscard]] const T& operator[](std::size_t i) const { return store_[i]; }
+  [[nodiscard]] std::span<T> all() {
+    used_ = store_.size();
+    return store_;
+  }
+  [[nodiscard]] std::span<const T> all() const { return store_; }
   /// Bit by bit: quick, and a NaN is itself.
   [[nodiscard]] bool operator==(const Elements& other) const {
     if (size() != other.size()) return false;
@@ -160,6 +168,13 @@ class BoundedArray {
     return store_[check(index)];
   }
   [[nodiscard]] const T& operator()(int index) const { return store_[check(index)]; }
+
+  /// All elements, to be changed.
+  [[nodiscard]] std::span<T> elements() {
+    content_.take_off();
+    return store_.all();
+  }
+  [[nodiscard]] std::span<const T> elements() const { return store_.all(); }
 
   [[nodiscard]] int upper() const { return static_cast<int>(store_.size()) - 1; }
   /// The same bounds and elements, numbers bit by bit.
@@ -217,6 +232,13 @@ class BoundedTable {
     return store_[check(row, column)];
   }
   [[nodiscard]] const T& operator()(int row, int column) const { return store_[check(row, column)]; }
+
+  /// All elements, row by row, to be changed.
+  [[nodiscard]] std::span<T> elements() {
+    content_.take_off();
+    return store_.all();
+  }
+  [[nodiscard]] std::span<const T> elements() const { return store_.all(); }
 
   /// The same bounds and elements, numbers bit by bit.
   [[nodiscard]] bool operator==(const BoundedTable& other) const {

@@ -162,7 +162,7 @@ PowderProfile square_roots(PowderProfile profile) {
 }
 
 Single largest_sample(const PowderProfile& profile) {
-  return *std::max_element(&profile(0), &profile(last_sample) + 1);
+  return *std::max_element(profile.elements().begin(), profile.elements().end());
 }
 
 std::vector<int> maxima(const PowderProfile& profile, Single reference) {

@@ -104,8 +104,9 @@ TEST_F(Pictures, ExportHasTheKindThatItsNameSays) {
     services.pictures.export_picture(canvas, folder.path(name));
     EXPECT_TRUE(folder.read(name).starts_with(magic)) << name;
   }
+  QuietTask quiet;
   for (const auto* name : {"with.png", "with.svg", "with.pdf"}) {
-    export_picture(canvas, folder.path(name), 2.0, "Quartz\n2");
+    export_picture(canvas, folder.path(name), 2.0, quiet, "Quartz\n2");
   }
   const QImage with_caption(QString::fromStdString(folder.path("with.png")));
   const QImage plain = picture_image(canvas, 2.0);

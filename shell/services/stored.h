@@ -15,6 +15,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <tuple>
@@ -285,26 +286,26 @@ struct Stored<std::variant<Kinds...>> {
 
 /// The elements of an array up to the last that is not zero: most of them are far larger than what is in use.
 template <class Element>
-void store_elements(StoreWriter& out, const Element* first, std::size_t count) {
+void store_elements(StoreWriter& out, std::span<const Element> elements) {
   if constexpr (std::is_trivially_copyable_v<Element>) {
-    const auto* bytes = reinterpret_cast<const char*>(first);
-    std::size_t used = count * sizeof(Element);
+    const auto* bytes = reinterpret_cast<const char*>(elements.data());
+    std::size_t used = elements.size_bytes();
     while (used > 0 && bytes[used - 1] == 0) --used;
     out.count(used);
     out.raw(bytes, used);
   } else {
-    for (std::size_t i = 0; i < count; ++i) store(out, first[i]);
+    for (const Element& element : elements) store(out, element);
   }
 }
-/// @param first  of so many elements, all of them zero
+/// @param elements  all of them zero
 template <class Element>
-void load_elements(StoreReader& in, Element* first, std::size_t count) {
+void load_elements(StoreReader& in, std::span<Element> elements) {
   if constexpr (std::is_trivially_copyable_v<Element>) {
     const std::string_view bytes = in.raw(in.count());
-    if (bytes.size() > count * sizeof(Element)) StoreReader::fail("an array has more elements than room");
-    if (!bytes.empty()) std::memcpy(static_cast<void*>(first), bytes.data(), bytes.size());
+    if (bytes.size() > elements.size_bytes()) StoreReader::fail("an array has more elements than room");
+    if (!bytes.empty()) std::memcpy(static_cast<void*>(elements.data()), bytes.data(), bytes.size());
   } else {
-    for (std::size_t i = 0; i < count; ++i) first[i] = load<Element>(in);
+    for (Element& element : elements) element = load<Element>(in);
   }
 }
 /// Upper bound of an array. @throws RunFailure  more than any list has; or texts that aren't there
@@ -321,14 +322,14 @@ struct Stored<BoundedArray<Element>> {
   static void store(StoreWriter& out, const BoundedArray<Element>& array) {
     out.text(array.name());
     out.number(std::int32_t{array.upper()});
-    if (array.upper() >= 0) store_elements(out, &array(0), static_cast<std::size_t>(array.upper()) + 1);
+    if (array.upper() >= 0) store_elements(out, array.elements());
   }
   static BoundedArray<Element> load(StoreReader& in) {
     BoundedArray<Element> array(in.text());
     const int upper = load_bound<Element>(in);
     if (upper < 0) return array;
     array.allocate(upper);
-    load_elements(in, &array(0), static_cast<std::size_t>(upper) + 1);
+    load_elements(in, array.elements());
     return array;
   }
 };
@@ -338,7 +339,7 @@ struct Stored<BoundedTable<Element>> {
     out.text(table.name());
     out.number(std::int32_t{table.upper_row()});
     out.number(std::int32_t{table.upper_column()});
-    if (table.upper_row() >= 0) store_elements(out, &table(0, 0), elements(table.upper_row(), table.upper_column()));
+    if (table.upper_row() >= 0) store_elements(out, table.elements());
   }
   static BoundedTable<Element> load(StoreReader& in) {
     BoundedTable<Element> table(in.text());
@@ -348,13 +349,8 @@ struct Stored<BoundedTable<Element>> {
     constexpr int most_columns = 100;
     if (columns < 0 || columns > most_columns) StoreReader::fail("a table has too many columns");
     table.allocate(rows, columns);
-    load_elements(in, &table(0, 0), elements(rows, columns));
+    load_elements(in, table.elements());
     return table;
-  }
-
- private:
-  static std::size_t elements(int rows, int columns) {
-    return (static_cast<std::size_t>(rows) + 1) * (static_cast<std::size_t>(columns) + 1);
   }
 };
 
