@@ -2,6 +2,7 @@
 #pragma once
 
 #include "calculators/atom_distances.h"
+#include "shell/services/guards.h"
 #include "shell/services/window_services.h"
 #include "shell/services/workbench.h"
 
@@ -10,7 +11,7 @@ namespace zol {
 struct AtomDistanceForm : Window {
   static constexpr auto window_name = "AtomDistance";
 
-  explicit AtomDistanceForm(Workbench& /*bench*/) : Window(window_name, "Atom Distance") {
+  explicit AtomDistanceForm(Workbench& bench) : Window(window_name, "Atom Distance") {
     fields().add("CellA", cell.CellA);
     fields().add("CellB", cell.CellB);
     fields().add("CellC", cell.CellC);
@@ -18,6 +19,11 @@ struct AtomDistanceForm : Window {
     fields().add("CosBeta", cell.CosBeta);
     fields().add("CosGamma", cell.CosGamma);
     fields().add("DistanceMax", DistanceMax);
+    warn({&Command1, &Text1}, [this, &seen = bench.seen()] {
+      return guard::first_of({guard::when(seen.NAtom < 1, "there are no atoms"),
+                              guard::when(!(DistanceMax > 0), "the largest distance is not above 0")});
+    });
+    List1.made_from = Origin{{inputs::crystal(), inputs::settings({}, {&Text1})}, {&Command1}};
   }
 
   TextBox Text1{*this, "Text1", "distance maximum (A)="};

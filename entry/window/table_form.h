@@ -15,6 +15,10 @@ struct TableForm : Window {
   TableForm(std::string name, std::string caption, int columns)
       : Window(std::move(name), std::move(caption)), G(*this, "G", table_rows + 1, columns + 1) {
     frame_button = &Command2;
+    G.warn_when = [this] {
+      const bool at_end = G.row() >= table_rows && G.column() == G.columns() - 1;
+      return std::string(at_end ? "this is the last cell: there is no next row" : "");
+    };
   }
 
   Grid G;                         // column 0 shows the numbers of the rows

@@ -1,7 +1,9 @@
 #include "powder/window/powder_form.h"
 
+#include "core/number_text.h"
 #include "powder/histogram.h"
 #include "powder/line_profile.h"
+#include "shell/services/guards.h"
 
 namespace zol {
 
@@ -15,6 +17,19 @@ void PowderPattern::show_fields(NamedValues& fields) {
   fields.add("Profile", Profile);
   fields.add("BinsCopy", BinsCopy);
   fields.add("BinCount", BinCount);
+}
+
+std::string PowderPattern::fault(const CrystalState& seen) const {
+  using namespace guard;
+  return first_of({no_cell(seen), no_reflections(seen), when(HalfWidth == 0, "the half width is 0"),
+                   failure_of([&] { return grid_points(interference_grid(seen, size())); })});
+}
+
+std::vector<std::string> PowderPattern::remarks(double range, const char* unit) const {
+  const double step = range / last_sample;
+  if (HalfWidth >= step) return {};
+  return {"the half width is below the step of the samples, " + plain_text(to_single(step)) + unit +
+          ": heights of peaks are wrong"};
 }
 
 void PowderPattern::allocate(Single dmin, int least_bins) {

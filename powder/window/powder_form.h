@@ -16,6 +16,10 @@ struct PowderPattern {
   Integer BinCount;                           ///< highest bin that the lines are made from
 
   [[nodiscard]] CrystalliteSize size() const { return {CellsP, CellsQ, CellsR}; }
+  /// Why a calculation would end the run; empty where it would not.
+  [[nodiscard]] std::string fault(const CrystalState& seen) const;
+  /// @param range  of the pattern, over 1000 steps
+  [[nodiscard]] std::vector<std::string> remarks(double range, const char* unit) const;
 
   void show_fields(NamedValues& fields);
   /// Empty arrays for a list down to a spacing in angstroms, with a number of bins at least.

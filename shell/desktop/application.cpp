@@ -65,6 +65,7 @@ int run_application(int argc, char** argv, const std::function<void(Desktop&)>& 
   services.set_desktop(desktop);
   program.watch(desktop.gate());
   desktop.offer_undo(program);
+  desktop.offer_advice(program);
   QTimer::singleShot(0, &desktop, [&] {
     desktop.enter("the program started", [&program] { program.start(); });
     if (begun) begun(desktop);

@@ -18,6 +18,7 @@ class QWidget;
 
 namespace zol {
 
+class Advice;
 class Guide;
 class Program;
 
@@ -39,6 +40,12 @@ class Desktop : public QObject, public WindowView {
   void enter(std::string name, std::function<void()> action) { gate_.enter({std::move(name), "", std::move(action)}); }
   /// Undo and redo by menu and keys in all windows.
   void offer_undo(Program& program);
+  /// What the windows say beside their controls.
+  void offer_advice(Program& program);
+  /// Asks whether what would end the run is to be done all the same, in the place of a message box.
+  void set_question(std::function<bool(const std::string& reason)> question) {
+    events_.set_question(std::move(question));
+  }
   /// No event comes in any more; the event loop ends with this status.
   void end(int status);
   [[nodiscard]] bool ended() const { return gate_.ended(); }
@@ -82,6 +89,7 @@ class Desktop : public QObject, public WindowView {
   std::map<std::string, Shown> shown_;
   std::vector<Shown> unloaded_;
   std::string active_;  ///< the window that was last activated, by the program or the user
+  std::unique_ptr<Advice> advice_;
   std::unique_ptr<Guide> guide_;
   Program* program_ = nullptr;  ///< whose steps can be undone
   QElapsedTimer since_breath_;

@@ -19,6 +19,7 @@
 #include <QPrinterInfo>
 
 #include "core/run_failure.h"
+#include "shell/desktop/all_the_same.h"
 #include "shell/desktop/latin1_input.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
@@ -118,12 +119,21 @@ void DesktopServices::set_up_printer() {
 }
 
 std::string DesktopServices::prompt(const std::string& text, const std::string& title) {
+  return ask_text({text, title});
+}
+
+/// An answer that would do harm leads back to the dialog, unless it is wanted all the same.
+std::string DesktopServices::ask_text(const PromptQuestion& question) {
   QInputDialog dialog(QApplication::activeWindow());
-  dialog.setWindowTitle(to_qt(title));
-  dialog.setLabelText(to_qt(text));
+  dialog.setWindowTitle(to_qt(question.title));
+  dialog.setLabelText(to_qt(question.text + (question.bounds.empty() ? "" : "\n" + question.bounds)));
   dialog.setTextEchoMode(QLineEdit::Normal);  // makes the box
   take_latin1_only(*dialog.findChild<QLineEdit*>());
-  return dialog.exec() == QDialog::Accepted ? latin1_from_qt(dialog.textValue()) : "";
+  while (true) {
+    const std::string answer = dialog.exec() == QDialog::Accepted ? latin1_from_qt(dialog.textValue()) : "";
+    const std::string reason = question.warn_when ? question.warn_when(answer) : "";
+    if (reason.empty() || ask_all_the_same(reason)) return answer;
+  }
 }
 
 void DesktopServices::message(const std::string& text, const std::string& title) {

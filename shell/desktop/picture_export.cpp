@@ -29,23 +29,65 @@ std::string ending_of(const std::string& path) {
   return ending;
 }
 
-QByteArray svg_of(Canvas& canvas) {
+/// A line or more of words below a picture, in canvas pixels.
+class CaptionBelow {
+ public:
+  CaptionBelow(const Canvas& canvas, QString text)
+      : width_(canvas.pixel_width()), top_(canvas.pixel_height()), text_(std::move(text)) {
+    constexpr int pixels = 12;
+    font_.setPixelSize(pixels);
+  }
+  [[nodiscard]] int height() const {
+    constexpr int margin = 4;
+    if (text_.isEmpty()) return 0;
+    return QFontMetrics(font_).boundingRect(QRect(0, 0, width_, 0), Qt::TextWordWrap, text_).height() + margin;
+  }
+  /// Of both.
+  [[nodiscard]] QSize size() const { return {width_, top_ + height()}; }
+  void paint(QPainter& painter) const {
+    if (text_.isEmpty()) return;
+    const QRect place(0, top_, width_, height());
+    painter.fillRect(place, Qt::white);
+    painter.setPen(Qt::black);
+    painter.setFont(font_);
+    painter.drawText(place, Qt::TextWordWrap | Qt::AlignVCenter, text_);
+  }
+
+ private:
+  int width_, top_;
+  QString text_;
+  QFont font_;
+};
+
+QImage with_caption(const QImage& picture, const CaptionBelow& caption, double factor) {
+  if (caption.height() == 0) return picture;
+  QImage image((QSizeF(caption.size()) * factor).toSize(), picture.format());
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.drawImage(0, 0, picture);
+  painter.scale(factor, factor);
+  caption.paint(painter);
+  return image;
+}
+
+QByteArray svg_of(Canvas& canvas, const CaptionBelow& caption) {
   QBuffer buffer;
   QSvgGenerator svg;
   svg.setOutputDevice(&buffer);
   svg.setResolution(dots_per_inch);
-  svg.setSize({canvas.pixel_width(), canvas.pixel_height()});
-  svg.setViewBox(QRect(0, 0, canvas.pixel_width(), canvas.pixel_height()));
+  svg.setSize(caption.size());
+  svg.setViewBox(QRect(QPoint(0, 0), caption.size()));
   svg.setTitle(QString::fromStdString(canvas.path()));
   QPainter painter(&svg);
   paint_canvas(painter, canvas);
+  caption.paint(painter);
   painter.end();
   return buffer.data();
 }
 
-QByteArray pdf_of(Canvas& canvas) {
+QByteArray pdf_of(Canvas& canvas, const CaptionBelow& caption) {
   constexpr double points_per_pixel = 72.0 / dots_per_inch;
-  const QSizeF size(canvas.pixel_width(), canvas.pixel_height());
+  const QSizeF size = caption.size();
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter pdf(&buffer);
@@ -56,6 +98,7 @@ QByteArray pdf_of(Canvas& canvas) {
   QPainter painter(&pdf);
   painter.scale(double{resolution} / dots_per_inch, double{resolution} / dots_per_inch);
   paint_canvas(painter, canvas);
+  caption.paint(painter);
   painter.end();
   return buffer.data();
 }
@@ -77,12 +120,14 @@ QImage picture_image(Canvas& canvas, double factor) {
   return image;
 }
 
-void export_picture(Canvas& canvas, const std::string& path, double factor) {
+void export_picture(Canvas& canvas, const std::string& path, double factor, const QString& caption) {
+  const CaptionBelow below(canvas, caption);
+  const auto image = [&] { return with_caption(picture_image(canvas, factor), below, factor); };
   const std::string ending = ending_of(path);
-  if (ending == "bmp") return write_image(picture_image(canvas, factor), path, "BMP");
-  if (ending == "png") return write_image(picture_image(canvas, factor), path, "PNG");
-  if (ending == "svg") return write_bytes(svg_of(canvas), path);
-  if (ending == "pdf") return write_bytes(pdf_of(canvas), path);
+  if (ending == "bmp") return write_image(image(), path, "BMP");
+  if (ending == "png") return write_image(image(), path, "PNG");
+  if (ending == "svg") return write_bytes(svg_of(canvas, below), path);
+  if (ending == "pdf") return write_bytes(pdf_of(canvas, below), path);
   throw RunFailure("can't export to " + path + ": the name must end in .bmp, .png, .svg or .pdf");
 }
 

@@ -13,9 +13,10 @@ namespace zol {
 [[nodiscard]] QImage picture_image(Canvas& canvas, double factor = 1.0);
 
 /// Writes the kind that the ending of the path names: .bmp, .png, .svg, .pdf.
-/// @param factor  pixels per canvas pixel, for .bmp and .png
+/// @param factor   pixels per canvas pixel, for .bmp and .png
+/// @param caption  words below the picture, which makes the image higher; empty: none
 /// @throws RunFailure  another ending, or the file can't be written
-void export_picture(Canvas& canvas, const std::string& path, double factor = 1.0);
+void export_picture(Canvas& canvas, const std::string& path, double factor = 1.0, const QString& caption = {});
 
 /// Pictures of a program without a screen: starts Qt on its offscreen platform when the first one is asked for.
 class OffscreenPictures : public PictureMaker {

@@ -48,6 +48,14 @@ void Program::watch(EventGate& gate) {
   });
 }
 
+std::string Program::crystal_name() const {
+  const Window* main1 = windows_.find("Main1");
+  const auto* path = main1 == nullptr ? nullptr : dynamic_cast<const TextBox*>(main1->find("Text17"));
+  if (path == nullptr) return "";
+  const std::string file = path->text().substr(path->text().rfind('/') + 1);
+  return file.substr(0, file.rfind('.'));
+}
+
 void Program::start() { windows_.use(MainMenuForm::window_name).show(); }
 
 }  // namespace zol

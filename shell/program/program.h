@@ -41,6 +41,10 @@ class Program {
   /// stopped is put back.
   void watch(EventGate& gate);
 
+  /// The name of its file without folder and ending; empty where it has none.
+  [[nodiscard]] std::string crystal_name() const;
+  /// All fields of the crystal state.
+  [[nodiscard]] const NamedValues& state_fields() const { return state_fields_; }
   /// The arrays and scalars that belong to no window.
   [[nodiscard]] const NamedValues& module1() const { return module1_; }
 

@@ -50,6 +50,7 @@ void Canvas::clear() {
     raster_.set_base(true);
   }
   drawing_.clear();
+  ++begun_;
   if (raster_.made()) {
     if (persistent) raster_.repaint_stored(drawing_);
     raster_.clear_overlay();

@@ -9,6 +9,7 @@
 #include <any>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,10 +17,15 @@
 #include "core/number_text.h"
 #include "core/numbers.h"
 #include "core/run_failure.h"
+#include "shell/services/origin.h"
 
 namespace zol {
 
 class Window;
+
+/// Why an action would end the run, or be of no use, in the present state; empty where it is fine. It begins with a
+/// small letter, has no full stop, and changes nothing. A script knows nothing of it.
+using Reason = std::function<std::string()>;
 
 /// Colour packed as r + 256 g + 65536 b.
 using Colour = std::int32_t;
@@ -120,6 +126,11 @@ class Control {
   /// Takes a copy of a control of the same kind. @throws std::bad_any_cast  it is of another kind
   void put_back(const std::shared_ptr<const Copy>& copy);
 
+  // What the front end says beside it; scripts and results know nothing of it
+  Reason warn_when = {};                                ///< against a click, or Enter in a box or a table
+  std::function<std::vector<std::string>()> remarks{};  ///< words beside a result that is right by rule alone
+  std::optional<Origin> made_from = {};                 ///< what its contents are made from
+
  protected:
   void changed();                    ///< tells the view
   void touched() { copy_.reset(); }  ///< something has changed that no view shows
@@ -216,6 +227,7 @@ class TextBox : public ControlWith<TextBoxContents> {
   Event<> on_change;
   Event<int&> on_key_press;
   Event<> on_lost_focus;
+  std::function<std::string(const std::string& text)> warn_text = {};  ///< why this text should not be typed
   bool holds_file_name = false;  ///< bytes of the file system, where other boxes hold Latin-1
 };
 
@@ -305,6 +317,7 @@ class ComboBox : public ControlWith<ComboBoxContents> {
   /// The user picks an item; fires. @throws RunFailure  no such item
   void pick(int index);
   Event<> on_click;
+  std::function<std::string(int index)> warn_row = {};  ///< why this item should not be picked
 };
 
 class ListBox : public ControlWith<ListBoxContents> {
@@ -328,6 +341,7 @@ class ListBox : public ControlWith<ListBoxContents> {
   /// The user picks a line; fires. @throws RunFailure  no such line
   void pick(int index);
   Event<> on_click;
+  std::function<std::string(int index)> warn_row = {};  ///< why this line should not be picked
 
  private:
   void contents_replaced() override { ++revision_; }

@@ -1,0 +1,123 @@
+#include "shell/desktop/note_line.h"
+
+#include <QEvent>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QIcon>
+#include <QPainter>
+#include <QPixmap>
+
+namespace zol {
+namespace {
+
+constexpr int sign_size = 11;  // pixels
+
+void draw_sign(QPainter& painter, const QRectF& place) {
+  const QColor ground(255, 204, 0);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(Qt::black, 1));
+  painter.setBrush(ground);
+  const QRectF inside = place.adjusted(0.5, 0.5, -0.5, -0.5);
+  painter.drawPolygon(QPolygonF({QPointF(inside.center().x(), inside.top()), inside.bottomRight(), inside.bottomLeft()}));
+  const double middle = inside.center().x();
+  painter.drawLine(QPointF(middle, inside.top() + 3.5), QPointF(middle, inside.bottom() - 3));
+  painter.drawPoint(QPointF(middle, inside.bottom() - 1.2));
+}
+
+}  // namespace
+
+WordLine::WordLine(QWidget* parent) : QWidget(parent) { setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); }
+
+void WordLine::set_words(const QString& words) {
+  if (words == words_) return;
+  words_ = words;
+  setToolTip(words);
+  setAccessibleName(words);
+  update();
+}
+
+QSize WordLine::sizeHint() const { return {0, fontMetrics().height()}; }
+
+QSize WordLine::minimumSizeHint() const { return sizeHint(); }
+
+void WordLine::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.drawText(rect(), Qt::AlignVCenter, fontMetrics().elidedText(words_, Qt::ElideRight, width()));
+}
+
+NoteLine::NoteLine(QWidget& view, std::function<void(int)> make_room, std::function<void()> clicked)
+    : QWidget(&view), view_(view), make_room_(std::move(make_room)) {
+  auto* row = new QHBoxLayout(this);
+  constexpr int margin = 4;
+  row->setContentsMargins(margin, 0, 0, 0);
+  row->setSpacing(margin);
+  row->addWidget(&line_, 1);
+  row->addWidget(&button_);
+  button_.setText(tr("Draw again"));
+  button_.setToolTip(tr("Makes it anew with what holds now"));
+  button_.setAutoRaise(false);
+  setCursor(Qt::ArrowCursor);
+  connect(&button_, &QToolButton::clicked, this, std::move(clicked));
+  view.installEventFilter(this);
+  hide();
+}
+
+void NoteLine::set_note(const QString& words, bool with_button) {
+  line_.set_words(words);
+  button_.setVisible(with_button);
+  setVisible(!words.isEmpty());
+  make_room_(words.isEmpty() ? 0 : sizeHint().height());
+  place();
+}
+
+void NoteLine::place() {
+  const auto* frame = qobject_cast<QFrame*>(&view_);
+  const int border = frame == nullptr ? 0 : frame->frameWidth();
+  setGeometry(border, border, view_.width() - 2 * border, sizeHint().height());
+  raise();
+}
+
+bool NoteLine::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize) place();
+  return QWidget::eventFilter(watched, event);
+}
+
+void NoteLine::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.fillRect(rect(), palette().color(QPalette::Window));
+  painter.setPen(palette().color(QPalette::Mid));
+  painter.drawLine(rect().bottomLeft(), rect().bottomRight());
+}
+
+WarningSign::WarningSign(QWidget& on) : QWidget(&on) {
+  setAttribute(Qt::WA_TransparentForMouseEvents);
+  resize(sign_size, sign_size);
+  on.installEventFilter(this);
+  place();
+  show();
+}
+
+void WarningSign::place() {
+  move(parentWidget()->width() - sign_size - 1, 1);
+  raise();
+}
+
+bool WarningSign::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Resize) place();
+  return QWidget::eventFilter(watched, event);
+}
+
+void WarningSign::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  draw_sign(painter, rect());
+}
+
+QIcon warning_icon() {
+  QPixmap picture(sign_size, sign_size);
+  picture.fill(Qt::transparent);
+  QPainter painter(&picture);
+  draw_sign(painter, picture.rect());
+  return {picture};
+}
+
+}  // namespace zol
