@@ -61,7 +61,7 @@ void Pattern2Form::declare_results() {
                      {&Command8},
                      "Main1.List2"};
   Picture1.made_from = drawn;
-  List1.made_from = drawn;
+  List1.made_from = drawn.without_button();
   reads = {shared::radiation, shared::half_angle, shared::shifts, shared::zone_axis, shared::turn, shared::order};
 }
 

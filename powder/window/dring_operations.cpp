@@ -87,7 +87,9 @@ void DringForm::declare(const Workbench& bench) {
   const Origin made{{inputs::settings({}, {&Text2, &Text3, &Text6, &Text7, &Text8, &Check1, &Check2, &Check3})},
                     {&Command2, &Command1},
                     "Main1.List2"};
-  for (Control* result : std::initializer_list<Control*>{&Picture1, &Picture2, &List1}) result->made_from = made;
+  Picture1.made_from = made;
+  Picture2.made_from = made.without_button();
+  List1.made_from = made.without_button();
   Picture1.remarks = [this, &bench] {
     auto words = PowderPattern::remarks(DStarMax, " Å⁻¹");
     const auto* main1 = dynamic_cast<const Main1Form*>(bench.windows.find(Main1Form::window_name));

@@ -28,7 +28,7 @@ std::string PowderPattern::fault(const CrystalState& seen) const {
 std::vector<std::string> PowderPattern::remarks(double range, const char* unit) const {
   const double step = range / last_sample;
   if (HalfWidth >= step) return {};
-  return {"the half width is below the step of the samples, " + plain_text(to_single(step)) + unit +
+  return {"the half width is below the step of the samples, " + Format(step, "0.0000") + unit +
           ": heights of peaks are wrong"};
 }
 

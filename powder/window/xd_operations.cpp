@@ -62,7 +62,7 @@ void XdForm::declare(const Workbench& bench) {
   using namespace guard;
   const CrystalState& seen = bench.seen();
   Command1.warn_when = [this, &seen] {
-    return first_of({fault(seen), when(TwoThetaMax == TwoThetaMin, "2theta.min and 2theta.max are the same")});
+    return first_of({fault(seen), when(TwoThetaMax == TwoThetaMin && TwoThetaMax != 0, "2theta.min and 2theta.max are the same")});
   };
   const auto no_curve = [this] { return when(Profile.upper() < 0, "there is no curve yet: \"CALC\" makes one"); };
   warn({&Command6, &Command7, &Command3}, no_curve);
@@ -78,7 +78,7 @@ void XdForm::declare(const Workbench& bench) {
                     {&Command2, &Command1},
                     "Main1.List2"};
   Picture1.made_from = made;
-  List1.made_from = made;
+  List1.made_from = made.without_button();
   Picture1.remarks = [this, &bench] {
     auto words = PowderPattern::remarks(double{TwoThetaMax} - double{TwoThetaMin}, "°");
     const auto* main1 = dynamic_cast<const Main1Form*>(bench.windows.find(Main1Form::window_name));

@@ -1,12 +1,13 @@
 #include "shell/desktop/advice.h"
 
-#include <memory>
+#include <algorithm>
 #include <utility>
 #include <vector>
 
 #include <QAction>
 #include <QApplication>
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QPointer>
 #include <QStatusBar>
 #include <QToolBar>
@@ -35,10 +36,7 @@ class Sign {
     shown_.setProperty("statusTip", reason);
     shown_.setProperty("accessibleDescription", reason);
     shown_.setProperty("toolTip", reason.isEmpty() ? tool_tip_ : tool_tip_ + QLatin1Char('\n') + reason);
-    if (auto* action = qobject_cast<QAction*>(&shown_)) {
-      action->setIcon(reason.isEmpty() ? QIcon() : warning_icon());
-      return;
-    }
+    if (auto* action = qobject_cast<QAction*>(&shown_)) return sign_item(*action);
     delete sign_;
     if (auto* widget = qobject_cast<QWidget*>(&shown_); widget != nullptr && !reason.isEmpty()) {
       sign_ = new WarningSign(*widget);
@@ -46,6 +44,20 @@ class Sign {
   }
 
  private:
+  /// An icon in a menu; in the menu bar that would stand in the place of the text.
+  void sign_item(QAction& item) const {
+    const auto places = item.associatedObjects();
+    const bool in_bar = std::any_of(places.begin(), places.end(),
+                                    [](const QObject* place) { return qobject_cast<const QMenuBar*>(place) != nullptr; });
+    if (in_bar) {
+      const QString mark = QStringLiteral(" (!)");
+      QString text = item.text().remove(mark);
+      item.setText(reason_.isEmpty() ? text : text + mark);
+    } else {
+      item.setIcon(reason_.isEmpty() ? QIcon() : warning_icon());
+    }
+  }
+
   const Control& control_;
   QObject& shown_;
   QString tool_tip_;

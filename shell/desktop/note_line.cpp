@@ -1,7 +1,9 @@
 #include "shell/desktop/note_line.h"
 
+#include <algorithm>
+
+#include <QAbstractScrollArea>
 #include <QEvent>
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QIcon>
 #include <QPainter>
@@ -26,7 +28,7 @@ void draw_sign(QPainter& painter, const QRectF& place) {
 
 }  // namespace
 
-WordLine::WordLine(QWidget* parent) : QWidget(parent) { setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); }
+WordLine::WordLine(QWidget* parent) : QWidget(parent) { setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed); }
 
 void WordLine::set_words(const QString& words) {
   if (words == words_) return;
@@ -59,6 +61,7 @@ NoteLine::NoteLine(QWidget& view, std::function<void(int)> make_room, std::funct
   setCursor(Qt::ArrowCursor);
   connect(&button_, &QToolButton::clicked, this, std::move(clicked));
   view.installEventFilter(this);
+  if (auto* list = qobject_cast<QAbstractScrollArea*>(&view)) list->viewport()->installEventFilter(this);
   hide();
 }
 
@@ -71,9 +74,9 @@ void NoteLine::set_note(const QString& words, bool with_button) {
 }
 
 void NoteLine::place() {
-  const auto* frame = qobject_cast<QFrame*>(&view_);
-  const int border = frame == nullptr ? 0 : frame->frameWidth();
-  setGeometry(border, border, view_.width() - 2 * border, sizeHint().height());
+  const auto* list = qobject_cast<QAbstractScrollArea*>(&view_);
+  const int border = list == nullptr ? 0 : list->frameWidth();
+  setGeometry(border, border, list == nullptr ? view_.width() : list->viewport()->width(), sizeHint().height());
   raise();
 }
 
@@ -89,21 +92,33 @@ void NoteLine::paintEvent(QPaintEvent* /*event*/) {
   painter.drawLine(rect().bottomLeft(), rect().bottomRight());
 }
 
-WarningSign::WarningSign(QWidget& on) : QWidget(&on) {
+WarningSign::WarningSign(QWidget& at) : QWidget(at.parentWidget()), at_(at) {
   setAttribute(Qt::WA_TransparentForMouseEvents);
   resize(sign_size, sign_size);
-  on.installEventFilter(this);
+  at.installEventFilter(this);
   place();
-  show();
 }
 
+/// On the corner, so that it hides no text.
 void WarningSign::place() {
-  move(parentWidget()->width() - sign_size - 1, 1);
+  constexpr int inside = 5;
+  const QPoint corner = at_.geometry().topRight() + QPoint(1 - inside, inside - sign_size);
+  move(std::min(corner.x(), parentWidget()->width() - sign_size), std::max(corner.y(), 0));
+  setVisible(!at_.isHidden());
   raise();
 }
 
 bool WarningSign::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::Resize) place();
+  switch (event->type()) {
+    case QEvent::Resize:
+    case QEvent::Move:
+    case QEvent::ShowToParent:
+    case QEvent::HideToParent:
+      place();
+      break;
+    default:
+      break;
+  }
   return QWidget::eventFilter(watched, event);
 }
 

@@ -55,10 +55,10 @@ class NoteLine : public QWidget {
   QToolButton button_{this};
 };
 
-/// A small sign in the corner of a widget: a triangle with an exclamation mark.
+/// A small sign on the corner of a widget: a triangle with an exclamation mark.
 class WarningSign : public QWidget {
  public:
-  explicit WarningSign(QWidget& on);
+  explicit WarningSign(QWidget& at);
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -66,6 +66,8 @@ class WarningSign : public QWidget {
 
  private:
   void place();
+
+  QWidget& at_;
 };
 
 /// The same sign as an icon.

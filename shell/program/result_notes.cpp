@@ -163,6 +163,7 @@ ResultNotes::Note ResultNotes::note_of(const Control& shown) const {
   std::vector<std::string> words;
   add_changed(origin, made, words);
   if (words.empty()) return note;
+  std::sort(words.begin(), words.end());
   note.changed = listed(words) + " changed since";
   if (origin.again.empty()) return note;
   if (const Control* before = control(origin.by_way_of)) {

@@ -21,6 +21,9 @@ struct Origin {
   std::vector<Inputs> inputs;
   std::vector<const CommandButton*> again = {};  ///< clicked one after the other they make it anew; may be empty
   std::string by_way_of = {};                    ///< list that it is made from, as "Main1.List2"; its origin counts too
+
+  /// For what is made by the way, as a list beside a picture.
+  [[nodiscard]] Origin without_button() const { return {inputs, {}, by_way_of}; }
 };
 
 namespace inputs {

@@ -1,21 +1,38 @@
 #include "shell/services/shared_state.h"
 
+#include <algorithm>
+#include <cmath>
+
 #include "core/number_text.h"
 #include "core/numbers.h"
 
 namespace zol::shared {
 namespace {
 
-template <class Number>
-std::string three(Number a, Number b, Number c) {
-  return plain_text(a) + " " + plain_text(b) + " " + plain_text(c);
+/// To five decimals, with a zero before the point.
+std::string number(double value) {
+  constexpr double decimals = 1e5;
+  std::string text = plain_text(to_single(std::round(value * decimals) / decimals));
+  const std::size_t point = text.find('.');
+  const bool bare = point == 0 || (point == 1 && text.front() == '-');
+  return bare ? text.insert(point, "0") : text;
 }
 
-/// Whether each key is at least the one before, or at most. Most lists are told after a few rows.
+std::string three(double a, double b, double c) { return number(a) + " " + number(b) + " " + number(c); }
+
+/// Whether the keys from a row on rise or fall throughout, but for what a sort by rounded keys leaves. Most lists are told
+/// after a few rows.
 template <class Key>
-bool in_order(const CrystalState& state, bool rising, const Key& key) {
-  for (int i = 2; i <= state.RefCount.value(); ++i) {
-    if (rising ? key(i) < key(i - 1) : key(i) > key(i - 1)) return false;
+bool in_order(const CrystalState& state, int first, double direction, const Key& key) {
+  constexpr double rounding = 1e-4;
+  constexpr double of_nothing = 1e-6;  // forbidden reflections have intensities of rounding alone
+  const int last = state.RefCount.value();
+  const double least = of_nothing * std::max(std::abs(key(first)), std::abs(key(last)));
+  double before = key(first);
+  for (int i = first + 1; i <= last; ++i) {
+    const double present = key(i);
+    if ((present - before) * direction < -rounding * std::abs(before) - least) return false;
+    before = present;
   }
   return true;
 }
@@ -24,18 +41,18 @@ bool in_order(const CrystalState& state, bool rising, const Key& key) {
 
 std::string radiation(const CrystalState& state) {
   if (state.WaveLength == 0) return "";
-  const std::string length = "λ " + plain_text(state.WaveLength) + " Å";
-  return state.AccVoltage > 0 ? plain_text(state.AccVoltage) + " kV, " + length : length;
+  const std::string length = "λ " + number(state.WaveLength) + " Å";
+  return state.AccVoltage > 0 ? number(state.AccVoltage) + " kV, " + length : length;
 }
 
-std::string half_angle(const CrystalState& state) { return "area " + plain_text(state.CamAcquisition) + "°"; }
+std::string half_angle(const CrystalState& state) { return "area " + number(state.CamAcquisition) + "°"; }
 
 std::string half_width(const CrystalState& state) {
-  return "half width " + plain_text(state.CamAcquisition) + " Å⁻¹";
+  return "half width " + number(state.CamAcquisition) + " Å⁻¹";
 }
 
 std::string shifts(const CrystalState& state) {
-  return "shifts " + plain_text(state.CamXShift) + "°, " + plain_text(state.CamYShift) + "°";
+  return "shifts " + number(state.CamXShift) + "°, " + number(state.CamYShift) + "°";
 }
 
 std::string zone_axis(const CrystalState& state) {
@@ -43,25 +60,26 @@ std::string zone_axis(const CrystalState& state) {
 }
 
 std::string fiber_axis(const CrystalState& state) {
-  return "HKL " + three(state.OriginH, state.OriginK, state.OriginL);
+  return "HKL " + three(state.OriginH.value(), state.OriginK.value(), state.OriginL.value());
 }
 
 std::string turn(const CrystalState& state) {
-  return "turn " + Format(state.PatternAngle / degree, "0.##") + "°";
+  return "turn " + number(std::round(state.PatternAngle / degree * 100) / 100) + "°";
 }
 
 std::string order(const CrystalState& state) {
   if (state.RefCount < 2) return "";
-  const auto s = [&state](int i) { return state.RefS(i); };
-  const auto intensity = [&state](int i) { return state.RefI(i); };
-  // Products as the sorts have them: rounded for the triple table, exact for a drawing.
-  const auto product = [&state](int i) { return to_single(double{state.RefS(i)} * double{state.RefI(i)}); };
-  if (in_order(state, true, s)) return "list by 1/d";
-  if (in_order(state, false, product)) return "list by I/d";
-  if (in_order(state, false, intensity)) return "list by I";
+  constexpr double rising = 1;
+  constexpr double falling = -1;
+  const auto intensity = [&state](int i) { return double{state.RefI(i)}; };
+  const auto product = [&state](int i) { return double{state.RefS(i)} * double{state.RefI(i)}; };
+  if (in_order(state, 1, rising, [&state](int i) { return double{state.RefS(i)}; })) return "list by 1/d";
+  if (in_order(state, 1, falling, product)) return "list by I/d";
+  if (in_order(state, 1, rising, product)) return "list by I/d, weakest first";
+  if (in_order(state, 2, rising, intensity)) return "list by I, weakest first";  // but for the first row
   return "list in no order";
 }
 
-std::string smallest_d(const CrystalState& state) { return "d from " + plain_text(state.Dmin) + " Å"; }
+std::string smallest_d(const CrystalState& state) { return "d from " + number(state.Dmin) + " Å"; }
 
 }  // namespace zol::shared

@@ -57,14 +57,14 @@ void ask_rotation_pitch(Workbench& bench, Single& pitch) {
 bool ask_image_size(Workbench& bench, Canvas& picture) {
   const std::string answer = bench.services.ask_text(
       {bracketed(picture.width()) + " Input size of image", "Image size",
-       "Twips, 15 to a pixel, of both edges: 7500 gives 500 pixels. Up to 60000 can be drawn quickly.",
+       "Twips, 15 to a pixel, of both edges: 7500 gives 500 pixels. The largest is 122880, the least 15; 0 leaves it.",
        [](const std::string& typed) {
          constexpr double twips_per_pixel = 15;
-         constexpr double largest = 60000;
+         constexpr double largest = 8192 * twips_per_pixel;
          const double twips = Val(typed);
          if (twips == 0) return std::string();
          if (twips < twips_per_pixel) return std::string("a picture of this size has no pixels");
-         return guard::when(twips > largest, "a picture of this size takes much memory and time, or ends the program");
+         return guard::when(twips > largest, "no picture of more than 8192 pixels can be made");
        }});
   const Long twips = typed_number("the image size", answer, Long::rounded);
   if (twips == 0) return false;
