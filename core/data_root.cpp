@@ -32,4 +32,9 @@ std::string DataRoot::path(std::string_view relative) const {
   return found.string();
 }
 
+bool DataRoot::holds(std::string_view relative) const {
+  std::error_code error;
+  return fs::exists(path(relative), error);
+}
+
 }  // namespace zol

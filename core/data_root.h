@@ -14,6 +14,8 @@ struct DataRoot {
   /// Path of a file below the root, given by its relative name with "/". Where the exact name is missing, one that
   /// differs only in the case of its letters is taken; where there is none, the path as asked for.
   [[nodiscard]] std::string path(std::string_view relative) const;
+  /// Whether there is such a file.
+  [[nodiscard]] bool holds(std::string_view relative) const;
 };
 
 }  // namespace zol

@@ -30,6 +30,11 @@ struct PixelServices : FakeServices {
 class DesktopTest : public testing::Test {
  protected:
   DesktopTest() {
+    desktop.set_question([this](const std::string& reason) {
+      questions.push_back(reason);
+      return agrees;
+    });
+    desktop.offer_advice(program);
     desktop.enter("start", [this] { program.start(); });
   }
   QWidget& widget(const std::string& window) {
@@ -73,6 +78,8 @@ class DesktopTest : public testing::Test {
   PixelServices services;
   Program program{{ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services};
   std::vector<std::string> failures;
+  std::vector<std::string> questions;  ///< before what would end the run or be of no use
+  bool agrees = true;                  ///< to do it all the same
   Desktop desktop{program.windows(), [this](const std::string& message) { failures.push_back(message); }};
 };
 

@@ -1,5 +1,9 @@
 #include "analysis/window/pattern3_form.h"
 
+#include <filesystem>
+
+#include "core/number_text.h"
+#include "shell/services/guards.h"
 #include "shell/services/place_text.h"
 
 namespace zol {
@@ -25,6 +29,50 @@ Pattern3Form::Pattern3Form(Workbench& bench)
     file_drops.push_back({ending, &ImageLoad, &CommonDialog1});
   }
   name_fields();
+  declare_guards(bench);
+  List1.made_from = Origin{{inputs::settings({"CamAcquisition", "CamXShift", "CamYShift", "CamXYRatio"},
+                                             {&Text1, &Check1, &Check2, &Text17})},
+                           {&Command1},
+                           "Main1.List2"};
+  reads = {shared::radiation, shared::half_angle, shared::shifts, shared::order};
+}
+
+std::string Pattern3Form::lines_missing() const {
+  const int wanted = lines.LastLine.value() + 1;
+  int picked = 0;
+  for (int line = 0; line < wanted; ++line) picked += lines.LineDone(line).value();
+  if (picked == wanted) return "";
+  return picked == 0 ? "no lines are picked" : plain_text(picked) + " of " + plain_text(wanted) + " lines are picked";
+}
+
+void Pattern3Form::declare_guards(const Workbench& bench) {
+  using namespace guard;
+  const CrystalState& seen = bench.seen();
+  warn({&Command1, &Command7, &Command8, &Command11, &Command12, &Command13, &Command14, &Command15}, [this, &seen] {
+    const bool unknown = AdjustShown == 1 && (AdjustSolution < 1 || AdjustSolution > solutions.SolutionCount);
+    return first_of({no_reflections(seen, 3), lines_missing(), when(Val(Text3.text()) == 0, "the area is 0 degrees"),
+                     when(unknown, "there is no solution of the number that is adjusted for")});
+  });
+  const Reason no_picture = [this] { return when(!Picture1.has_picture(), "no picture is loaded"); };
+  warn({&ImageFlip, &ImageMirror}, no_picture);
+  Command4.warn_when = [this, no_picture] {
+    std::error_code error;
+    const bool missing = !std::filesystem::exists(CorrectorFile, error);
+    return first_of({no_picture(), when(missing, "the corrector file is missing")});
+  };
+  Command3.warn_when = [this] { return when(lines.LineDone(0) == 0, "no lines are picked"); };
+  Command9.warn_when = [this, &seen] {
+    return when(!failure_of([&] { return calibrate(markers, seen.CamNormal); }).empty(),
+                "the markers of the two poles are not set, or at the same height");
+  };
+  List1.warn_row = [this](int row) {
+    return when(row >= solutions.SolutionCount.value(), "the line of the number is no solution");
+  };
+  Picture1.warn_click = [this] {
+    const bool begins_line = SiMode == 0 && CenterMode == 0 && unfinished_line(lines);
+    return when(begins_line, "a click without a drag lays the line to the corner");
+  };
+  for (TextBox* box : {&Text10, &Text11}) whole_number(*box);
 }
 
 void Pattern3Form::name_fields() {

@@ -125,6 +125,8 @@ struct Pattern3Form : Window {
 
  private:
   void name_fields();
+  void declare_guards(const Workbench& bench);
+  [[nodiscard]] std::string lines_missing() const;
   /// An element of a triple table under its name.
   template <auto element>
   void add_triples(const char* name) {

@@ -6,7 +6,6 @@
 #include "kikuchi/window/pattern2_form.h"
 #include "reflections/window/main1_form.h"
 #include "reflections/window/main1_operations.h"
-#include "reflections/window/shared_state.h"
 #include "shell/services/wiring.h"
 
 namespace zol::pattern3 {
@@ -171,11 +170,6 @@ namespace zol {
 void wire(Workbench& bench, Pattern3Form& form) {
   using namespace pattern3;
   const Wire on(bench, form);
-  form.List1.made_from = {Source::Reflections};
-  form.List1.made_by = &form.Command1;
-  form.foot = [&bench] {
-    return shared_state_line(bench, {Shared::Radiation, Shared::HalfWidthDegrees, Shared::Shifts, Shared::Order});
-  };
   form.Text1.on_change = on(Text1_Change);
   form.Text2.on_lost_focus = on(Text2_LostFocus);
   form.Text5.on_lost_focus = on(Text5_LostFocus);

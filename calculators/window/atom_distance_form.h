@@ -2,6 +2,7 @@
 #pragma once
 
 #include "calculators/atom_distances.h"
+#include "shell/services/guards.h"
 #include "shell/services/window_services.h"
 #include "shell/services/workbench.h"
 
@@ -11,7 +12,7 @@ struct AtomDistanceForm : Window {
   static constexpr auto window_name = "AtomDistance";
   static constexpr bool shows_crystal_data = true;
 
-  explicit AtomDistanceForm(Workbench& /*bench*/) : Window(window_name, "Atom Distance") {
+  explicit AtomDistanceForm(Workbench& bench) : Window(window_name, "Atom Distance") {
     fields().add("CellA", cell.CellA);
     fields().add("CellB", cell.CellB);
     fields().add("CellC", cell.CellC);
@@ -19,7 +20,11 @@ struct AtomDistanceForm : Window {
     fields().add("CosBeta", cell.CosBeta);
     fields().add("CosGamma", cell.CosGamma);
     fields().add("DistanceMax", DistanceMax);
-    fields().keep("nearest", nearest);
+    warn({&Command1, &Text1}, [this, &seen = bench.seen()] {
+      return guard::first_of({guard::when(seen.NAtom < 1, "there are no atoms"),
+                              guard::when(!(DistanceMax > 0), "the largest distance is not above 0")});
+    });
+    List1.made_from = Origin{{inputs::crystal(), inputs::settings({}, {&Text1})}, {&Command1}};
   }
 
   TextBox Text1{*this, "Text1", "distance maximum (A)="};
@@ -28,7 +33,6 @@ struct AtomDistanceForm : Window {
 
   DistanceCell cell;       ///< as it was at the last calculation
   Single DistanceMax = 0;  ///< angstroms
-  Single nearest = 0;      ///< the shortest of the list, angstroms; 0: none
 };
 
 }  // namespace zol

@@ -69,6 +69,9 @@ struct UtilityForm : Window {
   Single VectorH = 0, VectorK = 0, VectorL = 0;
   Single Angle1 = 0, Angle2 = 0, Angle3 = 0;  ///< first vector of the angle block
   Single Angle4 = 0, Angle5 = 0, Angle6 = 0;  ///< second vector
+
+ private:
+  void declare_guards(const CrystalState& seen);
 };
 
 }  // namespace zol

@@ -4,11 +4,12 @@
 #include "core/cell_geometry.h"
 #include "core/number_text.h"
 #include "reflections/window/main1_form.h"
+#include "shell/services/guards.h"
 #include "shell/services/wiring.h"
 
 namespace zol {
 
-UtilityForm::UtilityForm(Workbench& /*bench*/) : Window(window_name, "Utility") {
+UtilityForm::UtilityForm(Workbench& bench) : Window(window_name, "Utility") {
   const std::pair<const char*, Single*> singles[] = {{"Phi1", &Phi1},       {"Rotate1", &Rotate1},
                                                      {"Phi2", &Phi2},       {"Rotate2", &Rotate2},
                                                      {"Length1", &Length1}, {"LengthRotate1", &LengthRotate1},
@@ -21,6 +22,18 @@ UtilityForm::UtilityForm(Workbench& /*bench*/) : Window(window_name, "Utility") 
                                                      {"Angle5", &Angle5},   {"Angle6", &Angle6}};
   for (const auto& [name, field] : singles) fields().add(name, *field);
   fields().add("MatrixCells", MatrixCells);
+  declare_guards(bench.seen());
+}
+
+void UtilityForm::declare_guards(const CrystalState& seen) {
+  using namespace guard;
+  warn({&Command3, &Text6}, [this] { return when(Val(Text9.text()) == 0, "length_1 is 0"); });
+  Command4.warn_when = [this, &seen] {
+    return first_of({no_cell(seen), when(VectorU == 0 && VectorV == 0 && VectorW == 0, "u, v, w are 0 0 0")});
+  };
+  Command5.warn_when = [this, &seen] {
+    return first_of({no_cell(seen), when(VectorH == 0 && VectorK == 0 && VectorL == 0, "h, k, l are 0 0 0")});
+  };
 }
 
 namespace utility {

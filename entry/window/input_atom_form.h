@@ -2,6 +2,7 @@
 #pragma once
 
 #include "entry/window/table_form.h"
+#include "shell/services/guards.h"
 #include "shell/services/workbench.h"
 
 namespace zol {
@@ -12,7 +13,11 @@ struct InputAtomForm : TableForm {
   static constexpr bool shows_crystal_data = true;
 
   explicit InputAtomForm(Workbench& bench)
-      : TableForm(window_name, "Atomic Coodinates", 7), CommonDialog1(*this, bench.services, "CommonDialog1") {}
+      : TableForm(window_name, "Atomic Coodinates", 7), CommonDialog1(*this, bench.services, "CommonDialog1") {
+    Command1.warn_when = [&bench] {
+      return guard::when(bench.seen().SGFile.empty(), "no space group has been chosen");
+    };
+  }
 
   TextBox Text2{*this, "Text2", "origin shift ="};  // in x; the caption stands for all three
   TextBox Text3{*this, "Text3"};                    // in y

@@ -17,6 +17,10 @@ struct TableForm : Window {
     frame_button = &Command2;
     G.buffer = &Text1;
     G.emptier = &Command3;
+    G.warn_when = [this] {
+      const bool at_end = G.row() >= table_rows && G.column() == G.columns() - 1;
+      return std::string(at_end ? "this is the last cell: there is no next row" : "");
+    };
   }
 
   Grid G;                         // column 0 shows the numbers of the rows

@@ -92,6 +92,10 @@ struct Pattern2Form : Window {
   Single RotationPitch = 0;  ///< degrees
   Single ShiftPitch = 0;     ///< degrees
   Single ZoomRatio = 0;
+
+ private:
+  void declare_guards(const CrystalState& seen);
+  void declare_results();
 };
 
 }  // namespace zol

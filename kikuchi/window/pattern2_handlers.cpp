@@ -8,7 +8,6 @@
 #include "kikuchi/window/pattern2_form.h"
 #include "reflections/window/main1_form.h"
 #include "reflections/window/main1_operations.h"
-#include "reflections/window/shared_state.h"
 #include "shell/services/wiring.h"
 #include "spots/window/picture_controls.h"
 #include "spots/zone_calculation.h"
@@ -97,8 +96,13 @@ void enter_plots_angles(Workbench& bench, Pattern2Form& form, int& key) {
 }
 
 /// Asks for a value; an empty answer changes nothing.
-void ask(Workbench& bench, const std::string& text, const std::string& title, Single& value) {
-  const std::string answer = bench.services.prompt("[" + plain_text(value) + text, title);
+/// @param of_no_use  what 0 does
+void ask(Workbench& bench, const std::string& text, const std::string& title, const std::string& of_no_use,
+         Single& value) {
+  const std::string answer =
+      bench.services.ask_text({"[" + plain_text(value) + text, title, "", [of_no_use](const std::string& typed) {
+                                 return !typed.empty() && Val(typed) == 0 ? of_no_use : "";
+                               }});
   if (!answer.empty()) value = typed_number("the answer to \"" + title + '"', answer, to_single);
 }
 
@@ -288,11 +292,12 @@ void ImageClear_Click(Workbench& bench, Pattern2Form& form) {
 void Rpitch_Click(Workbench& bench, Pattern2Form& form) { ask_rotation_pitch(bench, form.RotationPitch); }
 
 void Spitch_Click(Workbench& bench, Pattern2Form& form) {
-  ask(bench, "] Input Shift Angle  (deg.)", "Shift Angle Pitch", form.ShiftPitch);
+  ask(bench, "] Input Shift Angle  (deg.)", "Shift Angle Pitch", "with 0 degrees the arrows shift nothing",
+      form.ShiftPitch);
 }
 
 void Zpitch_Click(Workbench& bench, Pattern2Form& form) {
-  ask(bench, "] Input Zoom increment (ratio)", "Zoom increment", form.ZoomRatio);
+  ask(bench, "] Input Zoom increment (ratio)", "Zoom increment", "with 0 \"Zoom Up\" ends the program", form.ZoomRatio);
 }
 
 void Fsize(Workbench& bench, Pattern2Form& form) {
@@ -315,14 +320,6 @@ namespace zol {
 void wire(Workbench& bench, Pattern2Form& form) {
   using namespace pattern2;
   const Wire on(bench, form);
-  for (Control* made : std::initializer_list<Control*>{&form.Picture1, &form.List1}) {
-    made->made_from = {Source::Reflections};
-    made->made_by = &form.Command8;
-  }
-  form.foot = [&bench] {
-    return shared_state_line(bench, {Shared::Radiation, Shared::HalfWidthDegrees, Shared::Shifts, Shared::Axis,
-                                     Shared::Turn, Shared::Order});
-  };
   form.Text1.on_change = on(Text1_Change);
   form.Text3.on_change = on(Text3_Change);
   form.Text4.on_change = on(Text4_Change);

@@ -70,8 +70,8 @@ std::vector<ShownLine> shown_lines(const CrystalState& state, const Pattern2Form
   return shown;
 }
 
-void draw_bands(CrystalState& state, Pattern2Form& form, const GnomonicView& view,
-                const std::vector<ShownLine>& lines, Task& task) {
+void draw_bands(CrystalState& state, Pattern2Form& form, const GnomonicView& view, const std::vector<ShownLine>& lines,
+                Task& task) {
   int count = 0;
   for (const auto& [line, level] : lines) {
     task.report(count, static_cast<int>(lines.size()));

@@ -3,6 +3,7 @@
 
 #include <cmath>
 
+#include "shell/services/guards.h"
 #include "shell/services/place_text.h"
 #include "shell/services/window_services.h"
 #include "shell/services/workbench.h"
@@ -28,6 +29,7 @@ struct ZaxisForm : Window {
     // As it starts; no event comes of it.
     for (TextBox* limit : {&Text1, &Text2, &Text3}) limit->set_text("1");
     Option1.set_on(true);
+    declare(bench.seen());
   }
 
   TextBox Text1{*this, "Text1", "U Max="};
@@ -55,6 +57,27 @@ struct ZaxisForm : Window {
 
   Integer KeepMap;         ///< 1 while the map is drawn over the present picture
   Single MapScale = 1.3F;  ///< half width of the picture; the unit circle has radius 1
+
+ private:
+  void declare(const CrystalState& seen) {
+    using namespace guard;
+    const Reason undrawn = [&seen] { return first_of({no_cell(seen), no_zone_axis(seen)}); };
+    warn({&Command3, &Check1, &Check2, &Check3, &Option1, &Option2}, undrawn);
+    Command2.warn_when = [this, undrawn] {
+      constexpr double least = 0.15;  // the next step of 0.1 would reach 0
+      return first_of({undrawn(), when(MapScale < least, "the map can't be made larger: it would turn over")});
+    };
+    for (TextBox* limit : {&Text1, &Text2, &Text3}) whole_number(*limit);
+    for (TextBox* box : {&Text1, &Text2, &Text3, &Text4, &Text5, &Text6}) {
+      box->warn_text = [undrawn, earlier = box->warn_text](const std::string& text) {
+        return first_of({undrawn(), earlier ? earlier(text) : ""});
+      };
+    }
+    Picture1.made_from = Origin{
+        {inputs::crystal(),
+         inputs::settings({"ZoneU", "ZoneV", "ZoneW", "PatternAngle", "CamNormal", "OriginH", "OriginK", "OriginL"})}};
+    reads = {shared::zone_axis, shared::turn};
+  }
 };
 
 }  // namespace zol

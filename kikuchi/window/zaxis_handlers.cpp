@@ -3,7 +3,6 @@
 #include "kikuchi/window/kikuchi_operations.h"
 #include "kikuchi/window/zaxis_form.h"
 #include "kikuchi/zone_map.h"
-#include "reflections/window/shared_state.h"
 #include "shell/services/wiring.h"
 
 namespace zol::zaxis {
@@ -64,10 +63,6 @@ namespace zol {
 void wire(Workbench& bench, ZaxisForm& form) {
   using namespace zaxis;
   const Wire on(bench, form);
-  form.Picture1.made_from = {Source::Crystal};
-  form.foot = [&bench] {
-    return shared_state_line(bench, {Shared::HalfWidthDegrees, Shared::Shifts, Shared::Axis, Shared::Turn});
-  };
   for (TextBox* limit : {&form.Text1, &form.Text2, &form.Text3}) limit->on_change = on(redraw);
   for (CheckBox* box : {&form.Check1, &form.Check2, &form.Check3}) box->on_click = on(redraw);
   for (OptionButton* option : {&form.Option1, &form.Option2}) option->on_click = on(redraw);

@@ -42,6 +42,9 @@ struct DringForm : Window, PowderPattern {
   FileDialog CommonDialog1;
 
   Single DStarMax = 0;  ///< end of the profile, radius of the ring picture, 1/angstrom
+
+ private:
+  void declare(const Workbench& bench);
 };
 
 }  // namespace zol

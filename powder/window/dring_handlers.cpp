@@ -1,7 +1,6 @@
 #include "powder/pattern_files.h"
 #include "powder/window/dring_form.h"
 #include "powder/window/open_dring.h"
-#include "reflections/window/shared_state.h"
 #include "shell/services/wiring.h"
 
 namespace zol::dring {
@@ -93,12 +92,6 @@ namespace zol {
 void wire(Workbench& bench, DringForm& form) {
   using namespace dring;
   const Wire on(bench, form);
-  for (Control* made : std::initializer_list<Control*>{&form.Picture1, &form.Picture2, &form.List1}) {
-    made->made_from = {Source::Reflections};
-    made->made_by = &form.Command1;
-  }
-  form.List1.remark = [&form] { return doubt_of_samples(form.HalfWidth, double{form.DStarMax} / last_sample, " 1/Å"); };
-  form.foot = [&bench] { return shared_state_line(bench, {Shared::Radiation, Shared::Order}); };
   form.Text2.on_change = on(Text2_Change);
   form.Text3.on_change = on(Text3_Change);
   form.Text5.on_change = on(Text5_Change);

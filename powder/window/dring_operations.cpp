@@ -6,6 +6,7 @@
 #include "powder/window/dring_form.h"
 #include "powder/window/open_dring.h"
 #include "reflections/window/main1_form.h"
+#include "shell/services/guards.h"
 #include "shell/services/place_text.h"
 
 namespace zol {
@@ -66,6 +67,36 @@ DringForm::DringForm(Workbench& bench)
   Picture2.set_solid_fill(false);
   fields().add("DStarMax", DStarMax);
   show_fields(fields());
+  declare(bench);
+}
+
+void DringForm::declare(const Workbench& bench) {
+  using namespace guard;
+  const CrystalState& seen = bench.seen();
+  const Reason unmade = [this, &seen] {
+    return first_of({fault(seen), when(DStarMax == 0, "the end of the profile, d*-max, is 0")});
+  };
+  warn({&Command1, &Command6, &Command7}, unmade);
+  const auto no_curve = [this] { return when(Profile.upper() < 0, "there is no curve yet: \"CALC\" makes one"); };
+  Command4.warn_when = no_curve;
+  Picture1.warn_at = [this, no_curve](double x, double /*y*/) {
+    const std::string off_curve = failure_of([&] { return Profile(nearest_ring_sample(DStarMax, to_single(x))); });
+    return first_of({no_curve(), when(DisplayMax == 0, "\"Clear\" has taken the curve away: \"CALC\" first"),
+                     off_curve.empty() ? "" : "the curve does not reach to this place"});
+  };
+  const Origin made{{inputs::settings({}, {&Text2, &Text3, &Text6, &Text7, &Text8, &Check1, &Check2, &Check3})},
+                    {&Command2, &Command1},
+                    "Main1.List2"};
+  Picture1.made_from = made;
+  Picture2.made_from = made.without_button();
+  List1.made_from = made.without_button();
+  Picture1.remarks = [this, &bench] {
+    auto words = PowderPattern::remarks(DStarMax, " Å⁻¹");
+    const auto* main1 = dynamic_cast<const Main1Form*>(bench.windows.find(Main1Form::window_name));
+    if (main1 != nullptr && main1->Option1.on()) words.emplace_back("the intensities are those of X-rays");
+    return words;
+  };
+  reads = {shared::radiation, shared::smallest_d, shared::order};
 }
 
 void DRCalc(Workbench& bench) {

@@ -3,6 +3,7 @@
 #include "core/number_text.h"
 #include "powder/histogram.h"
 #include "powder/line_profile.h"
+#include "shell/services/guards.h"
 
 namespace zol {
 
@@ -18,18 +19,25 @@ void PowderPattern::show_fields(NamedValues& fields) {
   fields.add("BinCount", BinCount);
 }
 
+std::string PowderPattern::fault(const CrystalState& seen) const {
+  using namespace guard;
+  return first_of({no_cell(seen), no_reflections(seen), when(HalfWidth == 0, "the half width is 0"),
+                   failure_of([&] { return grid_points(interference_grid(seen, size())); })});
+}
+
+std::vector<std::string> PowderPattern::remarks(double range, const char* unit) const {
+  const double step = range / last_sample;
+  if (HalfWidth >= step) return {};
+  return {"the half width is below the step of the samples, " + Format(step, "0.0000") + unit +
+          ": heights of peaks are wrong"};
+}
+
 void PowderPattern::allocate(Single dmin, int least_bins) {
   BinCount = bin_count(dmin);
   const int last_bin = highest_bin(BinCount, least_bins);
   Bins.allocate(last_bin);
   BinsCopy.allocate(last_bin);
   Profile.allocate(last_sample);
-}
-
-std::string doubt_of_samples(double half_width, double step, const std::string& unit) {
-  if (!(half_width > 0 && half_width < step)) return "";
-  return "the half width of " + short_text(half_width, 4) + unit + " is below the step of the samples, " +
-         short_text(step, 4) + unit + ": heights of peaks are wrong";
 }
 
 }  // namespace zol

@@ -16,13 +16,14 @@ struct PowderPattern {
   Integer BinCount;                           ///< highest bin that the lines are made from
 
   [[nodiscard]] CrystalliteSize size() const { return {CellsP, CellsQ, CellsR}; }
+  /// Why a calculation would end the run; empty where it would not.
+  [[nodiscard]] std::string fault(const CrystalState& seen) const;
+  /// @param range  of the pattern, over 1000 steps
+  [[nodiscard]] std::vector<std::string> remarks(double range, const char* unit) const;
 
   void show_fields(NamedValues& fields);
   /// Empty arrays for a list down to a spacing in angstroms, with a number of bins at least.
   void allocate(Single dmin, int least_bins);
 };
-
-/// A word on a pattern whose lines fall between its samples. @returns empty, where they don't
-[[nodiscard]] std::string doubt_of_samples(double half_width, double step, const std::string& unit);
 
 }  // namespace zol

@@ -46,6 +46,9 @@ struct XdForm : Window, PowderPattern {
 
   [[nodiscard]] TwoThetaRange range() const { return {TwoThetaMin, TwoThetaMax}; }
   [[nodiscard]] PseudoVoigt line() const { return {HalfWidth, GaussianRatio}; }
+
+ private:
+  void declare(const Workbench& bench);
 };
 
 }  // namespace zol

@@ -4,7 +4,6 @@
 #include "powder/window/xd_form.h"
 #include "powder/window/xd_operations.h"
 #include "reflections/window/main1_form.h"
-#include "reflections/window/shared_state.h"
 #include "shell/services/wiring.h"
 
 namespace zol::xd {
@@ -88,17 +87,6 @@ namespace zol {
 void wire(Workbench& bench, XdForm& form) {
   using namespace xd;
   const Wire on(bench, form);
-  for (Control* made : std::initializer_list<Control*>{&form.Picture1, &form.List1}) {
-    made->made_from = {Source::Reflections};
-    made->made_by = &form.Command1;
-  }
-  form.Picture1.remark = [&bench] {
-    return main1_state(bench).AccVoltage > 0 ? "electrons: the angles are those of their wavelength" : "";
-  };
-  form.List1.remark = [&form] {
-    return doubt_of_samples(form.HalfWidth, (double{form.TwoThetaMax} - form.TwoThetaMin) / last_sample, "°");
-  };
-  form.foot = [&bench] { return shared_state_line(bench, {Shared::Radiation, Shared::Order}); };
   form.Text1.on_change = on(Text1_Change);
   form.Text2.on_change = on(Text2_Change);
   form.Text3.on_change = on(Text3_Change);

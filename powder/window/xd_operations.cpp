@@ -7,6 +7,7 @@
 #include "powder/histogram.h"
 #include "powder/window/open_xd.h"
 #include "reflections/window/main1_form.h"
+#include "shell/services/guards.h"
 #include "shell/services/place_text.h"
 
 namespace zol {
@@ -54,6 +55,38 @@ XdForm::XdForm(Workbench& bench)
   fields().add("GaussianRatio", GaussianRatio);
   fields().add("PeakMax", PeakMax);
   show_fields(fields());
+  declare(bench);
+}
+
+void XdForm::declare(const Workbench& bench) {
+  using namespace guard;
+  const CrystalState& seen = bench.seen();
+  Command1.warn_when = [this, &seen] {
+    return first_of(
+        {fault(seen), when(TwoThetaMax == TwoThetaMin && TwoThetaMax != 0, "2theta.min and 2theta.max are the same")});
+  };
+  const auto no_curve = [this] { return when(Profile.upper() < 0, "there is no curve yet: \"CALC\" makes one"); };
+  warn({&Command6, &Command7, &Command3}, no_curve);
+  Text5.warn_when = [this, no_curve] {
+    return first_of({no_curve(), when(Val(Text5.text()) == 0, "an intensity of 0 can't be drawn at full height")});
+  };
+  Picture1.warn_at = [this, no_curve](double x, double /*y*/) {
+    const std::string off_curve = failure_of([&] { return Profile(range().nearest(to_single(x))); });
+    return first_of({no_curve(), when(PeakMax == 0, "\"Clear\" has taken the curve away: \"CALC\" first"),
+                     off_curve.empty() ? "" : "the curve does not reach to this place"});
+  };
+  const Origin made{{inputs::settings({}, {&Text1, &Text2, &Text3, &Text4, &Text6, &Text7, &Text8})},
+                    {&Command2, &Command1},
+                    "Main1.List2"};
+  Picture1.made_from = made;
+  List1.made_from = made.without_button();
+  Picture1.remarks = [this, &bench] {
+    auto words = PowderPattern::remarks(double{TwoThetaMax} - double{TwoThetaMin}, "°");
+    const auto* main1 = dynamic_cast<const Main1Form*>(bench.windows.find(Main1Form::window_name));
+    if (main1 != nullptr && main1->Option2.on()) words.emplace_back("the intensities are those of electrons");
+    return words;
+  };
+  reads = {shared::radiation, shared::smallest_d, shared::order};
 }
 
 void xd::draw(XdForm& form, Single full_height, std::string_view name) {

@@ -99,6 +99,10 @@ struct Main1Form : Window {
   FileDialog CommonDialog1;
 
   CrystalState& state;  ///< the fields that live on this window are part of it
+
+ private:
+  void declare_guards(const Workbench& bench);
+  void declare_results();
 };
 
 /// The state by way of the window that its fields live on: the first use loads the tables and sets the radiation.

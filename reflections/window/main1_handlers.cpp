@@ -246,17 +246,6 @@ void Command5_Click(Workbench& bench, Main1Form& form) {
   end_document(bench, form);
 }
 
-/// A word on the atoms of the cell. @returns empty, where there is nothing to say
-std::string doubt_of_atoms(const CrystalState& state) {
-  for (int i = 1; i <= state.NAtom.value(); ++i) {
-    if (state.AtomOcc(i) > 1) {
-      return "the occupancy of " + state.AtomLabel(i) + " is " + short_text(state.AtomOcc(i), 4) + ", above 1";
-    }
-  }
-  const bool bare = state.SGNumber == 1 && state.NAtom > 1 && state.NCell == state.NAtom;
-  return bare ? "no symmetry operators: these sites are all atoms of the cell" : "";
-}
-
 void Command6_Click(Workbench& bench) { calculate(bench); }
 
 void Command7_Click(Workbench& bench, Main1Form& form) {
@@ -334,9 +323,6 @@ namespace zol {
 void wire(Workbench& bench, Main1Form& form) {
   using namespace main1;
   const Wire on(bench, form);
-  form.List2.made_from = {Source::Crystal, Source::Radiation};
-  form.List2.made_by = &form.Command6;
-  form.List1.remark = [&form] { return doubt_of_atoms(form.state); };
   form.Text1.on_change = on(Text1_Change);  // a, and so on to Text6, gamma
   form.Text2.on_change = on(Text2_Change);
   form.Text3.on_change = on(Text3_Change);

@@ -9,6 +9,7 @@
 #include "core/unit_cell.h"
 #include "reflections/reflection_list.h"
 #include "reflections/window/main1_form.h"
+#include "shell/services/guards.h"
 
 namespace zol {
 namespace {
@@ -20,8 +21,12 @@ constexpr std::string_view star_angle_pattern = "####.###";
 void settle_dmin(Workbench& bench, Main1Form& form) {
   CrystalState& state = form.state;
   while (!(state.Dmin > 0)) {
-    state.Dmin =
-        typed_number("the smallest d", bench.services.prompt("Input D-value Minimum", "D-value Minimum"), to_single);
+    const std::string answer = bench.services.ask_text(
+        {"Input D-value Minimum", "D-value Minimum", "Angstroms, above 0; the list grows with 1/d cubed.",
+         [](const std::string& typed) {
+           return guard::when(!(Val(typed) > 0), "without a number above 0 it is asked for again, without end");
+         }});
+    state.Dmin = typed_number("the smallest d", answer, to_single);
     form.Text15.set_text(plain_text(state.Dmin));
   }
 }

@@ -10,7 +10,6 @@
 
 #include "shell/desktop/desktop_services.h"
 #include "shell/desktop/guarded_application.h"
-#include "shell/desktop/notices.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/recovery.h"
 #include "shell/desktop/screen_fit.h"
@@ -89,7 +88,7 @@ int run_application(int argc, char** argv, const std::function<void(Desktop&)>& 
   services.set_desktop(desktop);
   program.watch(desktop.gate());
   desktop.offer_undo(program);
-  const Notices notices(program, desktop);
+  desktop.offer_advice(program);
   if (keep_work == KeepWork::Yes) recovery.emplace(program, desktop, recovery_folder());
   QTimer::singleShot(0, &desktop, [&] {
     desktop.enter("the program started", [&program] { program.start(); });

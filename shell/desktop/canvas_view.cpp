@@ -26,16 +26,12 @@ constexpr double large_tick = 6;  // pixels
 constexpr double small_tick = 3;
 constexpr double gap = 3;
 
+bool exports_tell = false;  // of all pictures, as the user has left it
+
 QString title_of(const Axis& axis) { return to_qt(axis.quantity + " (" + axis.unit + ")"); }
 
 /// How many large ticks have room. @param wanted  pixels for one of them
 int room_for(double length, double wanted) { return std::max(1, static_cast<int>(length / wanted)); }
-
-/// Whether exports have a caption, in all windows until the program ends.
-bool& captions_asked_for() {
-  static bool asked_for = false;
-  return asked_for;
-}
 
 }  // namespace
 
@@ -67,7 +63,7 @@ QSize CanvasView::sizeHint() const {
 QRectF CanvasView::picture_rect() const {
   if (canvas_ == nullptr) return rect();
   const QSizeF picture(canvas_->pixel_width(), canvas_->pixel_height());
-  const QRectF room = QRectF(rect()).marginsRemoved(ruler_margins());
+  const QRectF room = QRectF(rect()).adjusted(0, note_room_, 0, 0).marginsRemoved(ruler_margins());
   if (picture.isEmpty()) return {room.topLeft(), QSizeF()};  // an image size below one pixel
   QRectF place({}, picture.scaled(room.size(), Qt::KeepAspectRatio));
   // Whole pixels, so that a picture in its own size is shown pixel by pixel.
@@ -114,7 +110,8 @@ void CanvasView::paint() {
   }
   QPainter painter(this);
   // What is printed or saved has to be whole.
-  const bool on_screen = backingStore() != nullptr && painter.paintEngine()->paintDevice() == backingStore()->paintDevice();
+  const bool on_screen =
+      backingStore() != nullptr && painter.paintEngine()->paintDevice() == backingStore()->paintDevice();
   if (!up_to_date_) draw_some(!on_screen);
   painter.drawPixmap(place, painting_->pixmap(), QRectF(QPointF(), QSizeF(device_size)));
   painter.setPen(palette().color(QPalette::WindowText));
@@ -195,17 +192,46 @@ UserEvent CanvasView::mouse_event(const char* name, const QPointF& position,
                    [this, at, fire] { (canvas_->*fire)(at.x(), at.y()); });
 }
 
+void CanvasView::set_note_room(int pixels) {
+  if (std::exchange(note_room_, pixels) != pixels) update();
+}
+
+void CanvasView::press_at(const QPointF& position) {
+  const QPointF at = user_position(position);
+  const auto reason = [this, at] {
+    const std::string of_all = canvas_->warn_when ? canvas_->warn_when() : "";
+    return of_all.empty() && canvas_->warn_at ? canvas_->warn_at(at.x(), at.y()) : of_all;
+  };
+  events_->act(canvas_->window(), mouse_event("press", position, &Canvas::press),
+               {reason, [this] { pressed_ = false; }});
+}
+
+/// What would be of no use as a click waits for the pointer to move.
 void CanvasView::mousePressEvent(QMouseEvent* event) {
-  if (begins(*event)) events_->act(canvas_->window(), mouse_event("press", event->position(), &Canvas::press));
+  if (!begins(*event)) return;
+  if (canvas_->warn_click && !canvas_->warn_click().empty()) {
+    held_press_ = event->position();
+  } else {
+    press_at(event->position());
+  }
 }
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event) {
   if (canvas_ == nullptr || picture_rect().isEmpty()) return;
+  if (held_press_ && pressed_ && (event->position() - *held_press_).manhattanLength() >= 1) {
+    press_at(*std::exchange(held_press_, std::nullopt));
+  }
   const QPointF at = user_position(event->position());
   const bool inside = picture_rect().contains(event->position());
   if (canvas_->describe_place) {
     const bool tells = inside && shows_something();
-    events_->guard([&] { emit pointed_at(tells ? to_qt(canvas_->describe_place(at.x(), at.y())) : QString()); });
+    events_->guard([&] {
+      QString place = tells ? to_qt(canvas_->describe_place(at.x(), at.y())) : QString();
+      if (const auto reason = tells && canvas_->warn_at ? canvas_->warn_at(at.x(), at.y()) : ""; !reason.empty()) {
+        place += QStringLiteral("   (") + to_qt(reason) + u')';
+      }
+      emit pointed_at(place);
+    });
   }
   if (!canvas_->on_mouse_move || !(inside || pressed_)) return;
   UserEvent move = mouse_event("move", event->position(), &Canvas::move);
@@ -217,12 +243,23 @@ void CanvasView::leaveEvent(QEvent* /*event*/) { emit pointed_at({}); }
 
 void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::RightButton || !std::exchange(pressed_, false) || picture_rect().isEmpty()) return;
+  if (const auto held = std::exchange(held_press_, std::nullopt)) {
+    UserEvent click = mouse_event("press", *held, &Canvas::press);
+    UserEvent release = mouse_event("release", *held, &Canvas::release);
+    click.script += '\n' + release.script;
+    click.run = [press = std::move(click.run), rest = std::move(release.run)] {
+      press();
+      rest();
+    };
+    return events_->act(canvas_->window(), std::move(click), {canvas_->warn_click});
+  }
   events_->enter(canvas_->window(), mouse_event("release", event->position(), &Canvas::release));
 }
 
 void CanvasView::mouseDoubleClickEvent(QMouseEvent* event) {
   if (!begins(*event)) return;
-  events_->act(canvas_->window(), operation({"doubleclick", canvas_->path()}, [this] { canvas_->double_click(); }));
+  events_->act(canvas_->window(), operation({"doubleclick", canvas_->path()}, [this] { canvas_->double_click(); }),
+               {canvas_->warn_when});
 }
 
 void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
@@ -236,9 +273,13 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
   menu->addAction(tr("Export PNG, &four times..."), this, [this] { ask_export(4.0, ".png"); });
   menu->addAction(tr("Export &SVG..."), this, [this] { ask_export(1.0, ".svg"); });
   menu->addAction(tr("Export P&DF..."), this, [this] { ask_export(1.0, ".pdf"); });
-  auto* with_caption = menu->addAction(tr("Captions &in exports"), this, [](bool on) { captions_asked_for() = on; });
-  with_caption->setCheckable(true);
-  with_caption->setChecked(captions_asked_for());
+  if (caption_) {
+    menu->addSeparator();
+    auto* told = menu->addAction(tr("Exports &tell what it was drawn for"));
+    told->setCheckable(true);
+    told->setChecked(exports_tell);
+    connect(told, &QAction::toggled, this, [](bool on) { exports_tell = on; });
+  }
   menu->popup(event->globalPos());
 }
 
@@ -259,7 +300,8 @@ void CanvasView::ask_export(double factor, const char* ending) {
     if (answer.empty()) return;
     try {
       WindowTask task(services);
-      export_picture(*canvas_, suffix.added_to(answer), factor, task, captions_asked_for() ? caption_ : "");
+      const QString caption = exports_tell && caption_ ? caption_() : QString();
+      export_picture(*canvas_, suffix.added_to(answer), factor, task, caption);
     } catch (const RunFailure& failure) {
       services.message(failure.message(), "Export");
     }

@@ -2,6 +2,7 @@
 // coordinates. A curve has rulers at its left and lower border.
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include <QWidget>
@@ -29,8 +30,10 @@ class CanvasView : public QWidget {
   [[nodiscard]] QRectF picture_rect() const;
 
   void copy_to_clipboard() const;
-  /// What an export says below the picture where that is asked for, lines in UTF-8.
-  void set_caption(std::string caption) { caption_ = std::move(caption); }
+  /// Leaves so many pixels free above the picture.
+  void set_note_room(int pixels);
+  /// What an export says of the picture where that is wanted.
+  void set_caption(std::function<QString()> caption) { caption_ = std::move(caption); }
 
  signals:
   /// The pointer stands over this place; an empty text when it has left the picture.
@@ -60,11 +63,14 @@ class CanvasView : public QWidget {
   void draw_x_ruler(QPainter& painter, const QRectF& place) const;
   void draw_y_ruler(QPainter& painter, const QRectF& place) const;
   void ask_export(double factor, const char* ending);
+  void press_at(const QPointF& position);
 
   Canvas* canvas_ = nullptr;
   UserEvents* events_ = nullptr;
-  bool pressed_ = false;  ///< inside the picture: what follows belongs to it, wherever the pointer goes
-  std::string caption_;
+  bool pressed_ = false;               ///< inside the picture: what follows belongs to it, wherever the pointer goes
+  std::optional<QPointF> held_press_;  ///< of what may become a click that is warned of
+  int note_room_ = 0;
+  std::function<QString()> caption_;
   std::optional<CanvasPainting> painting_;
   bool up_to_date_ = false;
 };

@@ -6,9 +6,11 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListView>
+#include <QMainWindow>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSlider>
+#include <QStatusBar>
 
 #include "shell/desktop/control_models.h"
 #include "shell/desktop/control_tie.h"
@@ -67,7 +69,9 @@ class ComboTie : public ControlTie {
     view.setInsertPolicy(QComboBox::NoInsert);
     view.lineEdit()->setReadOnly(true);
     connect(&view, &QComboBox::activated, this, [this](int index) {
-      act({"select", combo_.path(), std::to_string(index)}, [this, index] { combo_.pick(index); });
+      act(
+          {"select", combo_.path(), std::to_string(index)}, [this, index] { combo_.pick(index); },
+          [this, index] { return combo_.warn_row ? combo_.warn_row(index) : ""; });
     });
   }
   void show() override {
@@ -92,11 +96,12 @@ class ListTie : public ControlTie {
       : ControlTie(owner, list, &view),
         list_(list),
         shown_(view),
-        model_(new ListModel(list, view.property("alignFirstWord").toBool(), this)) {
+        model_(new ListModel(list, view.property("alignFirstWord").toBool(), view.font(), this)) {
     view.setUniformItemSizes(true);
     view.setEditTriggers(QAbstractItemView::NoEditTriggers);
     view.setModel(model_);
     add_copy_commands(view);
+    tell_warned_lines();
     connect(&view, &QListView::clicked, this, [this](const QModelIndex& index) { pick(index.row()); });
     connect(view.selectionModel(), &QItemSelectionModel::currentChanged, this,
             [this](const QModelIndex& current, const QModelIndex& /*previous*/) {
@@ -122,7 +127,23 @@ class ListTie : public ControlTie {
   /// What extends the selection for a copy picks nothing.
   void pick(int row) {
     if (QApplication::keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) return;
-    act({"select", list_.path(), std::to_string(row)}, [this, row] { list_.pick(row); });
+    act(
+        {"select", list_.path(), std::to_string(row)}, [this, row] { list_.pick(row); },
+        [this, row] { return list_.warn_row ? list_.warn_row(row) : ""; });
+  }
+  void show_again() override {
+    showing_ = true;
+    shown_.setCurrentIndex(model_->index(list_.list_index()));
+    showing_ = false;
+  }
+
+  /// The status line says why a line under the pointer should not be picked.
+  void tell_warned_lines() {
+    auto* top = qobject_cast<QMainWindow*>(&owner().top);
+    if (!list_.warn_row || top == nullptr) return;
+    shown_.setMouseTracking(true);
+    connect(&shown_, &QListView::entered, this,
+            [top](const QModelIndex& index) { top->statusBar()->showMessage(index.data(Qt::ToolTipRole).toString()); });
   }
 
   ListBox& list_;

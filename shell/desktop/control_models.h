@@ -7,6 +7,7 @@
 #include <QAbstractListModel>
 #include <QAbstractTableModel>
 #include <QColor>
+#include <QFont>
 #include <QIcon>
 
 #include "shell/desktop/drawing_painter.h"
@@ -18,8 +19,9 @@ namespace zol {
 class ListModel : public QAbstractListModel {
  public:
   /// @param align_first_word  lines that start with a word are pushed right so that those words end at one place
-  ListModel(ListBox& list, bool align_first_word, QObject* parent)
-      : QAbstractListModel(parent), list_(list), align_first_word_(align_first_word) {}
+  /// @param font  of the view
+  ListModel(ListBox& list, bool align_first_word, const QFont& font, QObject* parent)
+      : QAbstractListModel(parent), list_(list), align_first_word_(align_first_word), font_(font) {}
 
   void refresh() {
     beginResetModel();
@@ -38,6 +40,15 @@ class ListModel : public QAbstractListModel {
       const std::size_t word = first_word(line);
       return latin1_to_qt(word == 0 || word >= widest_word_ ? line : std::string(widest_word_ - word, ' ') + line);
     }
+    // A line that should not be picked leans, and says why.
+    if (role == Qt::FontRole || role == Qt::ToolTipRole) {
+      const std::string reason = list_.warn_row ? list_.warn_row(index.row()) : "";
+      if (reason.empty()) return {};
+      if (role == Qt::ToolTipRole) return to_qt(reason);
+      QFont font = font_;
+      font.setItalic(true);
+      return font;
+    }
     // Black is the text colour of the theme, which may be a dark one.
     if (role != Qt::ForegroundRole || list_.colour_of(index.row()) == colours::black) return {};
     return to_qt(list_.colour_of(index.row()));
@@ -48,6 +59,7 @@ class ListModel : public QAbstractListModel {
 
   ListBox& list_;
   bool align_first_word_;
+  QFont font_;
   std::size_t widest_word_ = 0;
   int shown_ = 0;
 };

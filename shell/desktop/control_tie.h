@@ -43,10 +43,21 @@ class ControlTie : public QObject {
  protected:
   /// Hands over what the user did inside the control.
   void enter(UserEvent event) const { owner_.events.enter(owner_.window, std::move(event)); }
-  /// Hands over an action, told as the words of its script operation. The box that the user is in is left first.
-  void act(std::initializer_list<std::string> words, std::function<void()> run) const {
-    owner_.events.act(owner_.window, operation(words, std::move(run)));
+  void enter(UserEvent event, UserEvents::Warning against) const {
+    owner_.events.enter(owner_.window, std::move(event), std::move(against));
   }
+  /// Hands over an action, told as the words of its script operation. The box that the user is in is left first, and
+  /// where there is a reason against the action, the user is asked.
+  /// @param reason  none: that of the control
+  void act(std::initializer_list<std::string> words, std::function<void()> run, Reason reason = {}) {
+    owner_.events.act(owner_.window, operation(words, std::move(run)), warning(std::move(reason)));
+  }
+  /// Of the control, or another one; what is refused is shown as it was.
+  [[nodiscard]] UserEvents::Warning warning(Reason reason = {}) {
+    return {reason ? std::move(reason) : control_.warn_when, [this] { show_again(); }};
+  }
+  /// Shows what the control holds, though the user has changed what is seen.
+  virtual void show_again() { show(); }
   [[nodiscard]] const TiedWindow& owner() const { return owner_; }
 
  private:

@@ -17,11 +17,13 @@
 #include <QWidget>
 
 #include "core/run_failure.h"
+#include "shell/desktop/advice.h"
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/crystal_title.h"
 #include "shell/desktop/file_drops.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/guide.h"
+#include "shell/desktop/note_line.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/screen_fit.h"
 #include "shell/program/program.h"
@@ -33,12 +35,14 @@ static void init_resources() { Q_INIT_RESOURCE(desktop); }
 namespace zol {
 namespace {
 
-/// Makes the picture widget beside those that Qt knows.
+/// Makes the picture widget, and lists that leave room for a note, beside those that Qt knows.
 class UiLoader : public QUiLoader {
  public:
   QWidget* createWidget(const QString& class_name, QWidget* parent, const QString& name) override {
-    if (class_name != QLatin1String("CanvasView")) return QUiLoader::createWidget(class_name, parent, name);
-    auto* view = new CanvasView(parent);
+    QWidget* view = nullptr;
+    if (class_name == QLatin1String("CanvasView")) view = new CanvasView(parent);
+    if (class_name == QLatin1String("QListView")) view = new NotedList(parent);
+    if (view == nullptr) return QUiLoader::createWidget(class_name, parent, name);
     view->setObjectName(name);
     return view;
   }
@@ -135,6 +139,7 @@ void Desktop::settle() {
   if (!windows.empty()) new Grave(this, std::move(windows), std::exchange(unloaded_, {}));
   if (program_ != nullptr) show_crystal();
   show_changes();
+  if (advice_ && !ended()) advice_->update();
 }
 
 void Desktop::end(int status) {
@@ -172,6 +177,7 @@ void Desktop::window_created(Window& window) {
   accept_file_drops(window, *widget, events_);
   offer_guide(*widget);
   if (program_ != nullptr) add_undo(*widget);
+  if (advice_) advice_->add(window, *widget);
   binder->show_everything();
   if (auto* top = qobject_cast<QMainWindow*>(widget.get())) {
     if (made_) made_(window, *top);
@@ -197,6 +203,11 @@ void Desktop::offer_undo(Program& program) {
   program_ = &program;
   new UndoKeys(*this);
   for (const auto& [name, shown] : shown_) add_undo(*shown.widget);
+}
+
+void Desktop::offer_advice(Program& program) {
+  advice_ = std::make_unique<Advice>(program, events_);
+  for (const auto& [name, shown] : shown_) advice_->add(shown.binder->window(), *shown.widget);
 }
 
 /// The keys in every window; the menu, which names the step, where there is a menu bar.
@@ -250,6 +261,7 @@ void Desktop::window_unloaded(Window& window) {
   const auto found = shown_.find(window.name());
   if (found == shown_.end()) return;
   found->second.widget->hide();
+  if (advice_) advice_->remove(window);
   unloaded_.push_back(std::move(found->second));  // its own event may still be under way
   shown_.erase(found);
 }

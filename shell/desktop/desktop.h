@@ -21,6 +21,7 @@ class QWidget;
 
 namespace zol {
 
+class Advice;
 class Guide;
 class Program;
 
@@ -44,6 +45,12 @@ class Desktop : public QObject, public WindowView {
   void offer_undo(Program& program);
   /// Told of each window before it is fitted to the screen.
   void set_made(std::function<void(const Window&, QMainWindow&)> made) { made_ = std::move(made); }
+  /// What the windows say beside their controls.
+  void offer_advice(Program& program);
+  /// Asks whether what would end the run is to be done all the same, in the place of a message box.
+  void set_question(std::function<bool(const std::string& reason)> question) {
+    events_.set_question(std::move(question));
+  }
   /// No event comes in any more; the event loop ends with this status.
   void end(int status);
   [[nodiscard]] bool ended() const { return gate_.ended(); }
@@ -91,6 +98,7 @@ class Desktop : public QObject, public WindowView {
   std::map<std::string, Shown> shown_;
   std::vector<Shown> unloaded_;
   std::string active_;  ///< the window that was last activated, by the program or the user
+  std::unique_ptr<Advice> advice_;
   std::unique_ptr<Guide> guide_;
   Program* program_ = nullptr;  ///< whose steps can be undone, and whose crystal the titles tell
   std::function<void(const Window&, QMainWindow&)> made_;

@@ -20,6 +20,7 @@
 
 #include "core/available_memory.h"
 #include "core/run_failure.h"
+#include "shell/desktop/all_the_same.h"
 #include "shell/desktop/latin1_input.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
@@ -130,13 +131,22 @@ void DesktopServices::set_up_printer() {
 }
 
 std::string DesktopServices::prompt(const std::string& text, const std::string& title) {
+  return ask_text({text, title});
+}
+
+/// An answer that would do harm leads back to the dialog, unless it is wanted all the same.
+std::string DesktopServices::ask_text(const PromptQuestion& question) {
   const auto pause = dialog_open();
   QInputDialog dialog(QApplication::activeWindow());
-  dialog.setWindowTitle(to_qt(title));
-  dialog.setLabelText(to_qt(text));
+  dialog.setWindowTitle(to_qt(question.title));
+  dialog.setLabelText(to_qt(question.text + (question.bounds.empty() ? "" : "\n" + question.bounds)));
   dialog.setTextEchoMode(QLineEdit::Normal);  // makes the box
   take_latin1_only(*dialog.findChild<QLineEdit*>());
-  return dialog.exec() == QDialog::Accepted ? latin1_from_qt(dialog.textValue()) : "";
+  while (true) {
+    const std::string answer = dialog.exec() == QDialog::Accepted ? latin1_from_qt(dialog.textValue()) : "";
+    const std::string reason = question.warn_when ? question.warn_when(answer) : "";
+    if (reason.empty() || ask_all_the_same(reason)) return answer;
+  }
 }
 
 void DesktopServices::message(const std::string& text, const std::string& title) {
@@ -159,9 +169,8 @@ void DesktopServices::report(const std::vector<std::string>& lines, const std::s
 bool DesktopServices::confirm_work(const Effort& effort) {
   if (!is_heavy(effort, available_memory()) || (desktop_ != nullptr && desktop_->long_work().confirmed())) return true;
   const auto pause = dialog_open();
-  const bool wanted =
-      QMessageBox::question(QApplication::activeWindow(), tr("ZOL"), to_qt(effort_question(effort)),
-                            QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
+  const bool wanted = QMessageBox::question(QApplication::activeWindow(), tr("ZOL"), to_qt(effort_question(effort)),
+                                            QMessageBox::Yes | QMessageBox::No, QMessageBox::No) == QMessageBox::Yes;
   if (wanted && desktop_ != nullptr) desktop_->long_work().confirm();
   return wanted;
 }

@@ -18,6 +18,7 @@ class DesktopServices : public Services {
   std::string ask_file(const FileQuestion& question) override;
   void set_up_printer() override;
   std::string prompt(const std::string& text, const std::string& title) override;
+  std::string ask_text(const PromptQuestion& question) override;
   void message(const std::string& text, const std::string& title) override;
   void report(const std::vector<std::string>& lines, const std::string& title) override;
   void copy_text(const std::vector<std::string>& lines, const std::string& title) override;

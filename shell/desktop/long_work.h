@@ -1,7 +1,7 @@
 // The way out of an event that takes long: what is being done, how far it is, and a button and a key that stop it.
 //
-// Calculations ask stop_wanted() every few milliseconds. Once the event has run for a second, each look lets the windows
-// repaint and be moved, while nothing that the user does reaches them but Esc and the button.
+// Calculations ask stop_wanted() every few milliseconds. Once the event has run for a second, each look lets the
+// windows repaint and be moved, while nothing that the user does reaches them but Esc and the button.
 #pragma once
 
 #include <functional>

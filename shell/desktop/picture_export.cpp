@@ -30,57 +30,65 @@ std::string ending_of(const std::string& path) {
   return ending;
 }
 
-/// Lines of text below a picture, as wide as it is.
-class Caption {
+/// A line or more of words below a picture, in canvas pixels.
+class CaptionBelow {
  public:
-  explicit Caption(const std::string& text) {
-    if (!text.empty()) lines_ = to_qt(text).split(u'\n');
+  CaptionBelow(const Canvas& canvas, QString text)
+      : width_(canvas.pixel_width()), top_(canvas.pixel_height()), text_(std::move(text)) {
+    constexpr int pixels = 12;
+    font_.setPixelSize(pixels);
   }
-  /// Of picture and caption, pixels of the canvas.
-  [[nodiscard]] QSize below(const Canvas& canvas) const {
-    const int height = lines_.isEmpty() ? 0 : static_cast<int>(lines_.size()) * line_px + 2 * margin_px;
-    return {canvas.pixel_width(), canvas.pixel_height() + height};
+  [[nodiscard]] int height() const {
+    constexpr int margin = 4;
+    if (text_.isEmpty()) return 0;
+    return QFontMetrics(font_).boundingRect(QRect(0, 0, width_, 0), Qt::TextWordWrap, text_).height() + margin;
   }
-  void paint(QPainter& painter, const Canvas& canvas) const {
-    if (lines_.isEmpty()) return;
-    const QRect strip(QPoint(0, canvas.pixel_height()), below(canvas) - QSize(0, canvas.pixel_height()));
-    painter.fillRect(strip, Qt::white);
-    QFont font(QStringLiteral("Sans"));
-    font.setPixelSize(text_px);
-    painter.setFont(font);
+  /// Of both.
+  [[nodiscard]] QSize size() const { return {width_, top_ + height()}; }
+  void paint(QPainter& painter) const {
+    if (text_.isEmpty()) return;
+    const QRect place(0, top_, width_, height());
+    painter.fillRect(place, Qt::white);
     painter.setPen(Qt::black);
-    QRect row(strip.left() + margin_px, strip.top() + margin_px, strip.width() - 2 * margin_px, line_px);
-    for (const QString& line : lines_) {
-      painter.drawText(row, Qt::AlignVCenter, QFontMetrics(font).elidedText(line, Qt::ElideRight, row.width()));
-      row.translate(0, line_px);
-    }
+    painter.setFont(font_);
+    painter.drawText(place, Qt::TextWordWrap | Qt::AlignVCenter, text_);
   }
 
  private:
-  static constexpr int text_px = 11;
-  static constexpr int line_px = 15;
-  static constexpr int margin_px = 4;
-  QStringList lines_;
+  int width_, top_;
+  QString text_;
+  QFont font_;
 };
 
-QByteArray svg_of(Canvas& canvas, const Caption& caption, Task& task) {
+QImage with_caption(const QImage& picture, const CaptionBelow& caption, double factor) {
+  if (caption.height() == 0) return picture;
+  QImage image((QSizeF(caption.size()) * factor).toSize(), picture.format());
+  image.fill(Qt::white);
+  QPainter painter(&image);
+  painter.drawImage(0, 0, picture);
+  painter.scale(factor, factor);
+  caption.paint(painter);
+  return image;
+}
+
+QByteArray svg_of(Canvas& canvas, const CaptionBelow& caption, Task& task) {
   QBuffer buffer;
   QSvgGenerator svg;
   svg.setOutputDevice(&buffer);
   svg.setResolution(dots_per_inch);
-  svg.setSize(caption.below(canvas));
-  svg.setViewBox(QRect(QPoint(), caption.below(canvas)));
+  svg.setSize(caption.size());
+  svg.setViewBox(QRect(QPoint(0, 0), caption.size()));
   svg.setTitle(QString::fromStdString(canvas.path()));
   QPainter painter(&svg);
   paint_canvas(painter, canvas, task);
-  caption.paint(painter, canvas);
+  caption.paint(painter);
   painter.end();
   return buffer.data();
 }
 
-QByteArray pdf_of(Canvas& canvas, const Caption& caption, Task& task) {
+QByteArray pdf_of(Canvas& canvas, const CaptionBelow& caption, Task& task) {
   constexpr double points_per_pixel = 72.0 / dots_per_inch;
-  const QSizeF size(caption.below(canvas));
+  const QSizeF size = caption.size();
   QBuffer buffer;
   buffer.open(QIODevice::WriteOnly);
   QPdfWriter pdf(&buffer);
@@ -91,22 +99,9 @@ QByteArray pdf_of(Canvas& canvas, const Caption& caption, Task& task) {
   QPainter painter(&pdf);
   painter.scale(double{resolution} / dots_per_inch, double{resolution} / dots_per_inch);
   paint_canvas(painter, canvas, task);
-  caption.paint(painter, canvas);
+  caption.paint(painter);
   painter.end();
   return buffer.data();
-}
-
-QImage with_caption(Canvas& canvas, double factor, const Caption& caption, Task& task) {
-  const QImage picture = picture_image(canvas, factor, task);
-  const QSize size = (QSizeF(caption.below(canvas)) * factor).toSize();
-  if (size == picture.size()) return picture;
-  QImage image(size, QImage::Format_RGB32);
-  QPainter painter(&image);
-  painter.drawImage(0, 0, picture);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.scale(factor, factor);
-  caption.paint(painter, canvas);
-  return image;
 }
 
 }  // namespace
@@ -131,14 +126,14 @@ QImage picture_image(Canvas& canvas, double factor, Task& task) {
   return image;
 }
 
-void export_picture(Canvas& canvas, const std::string& path, double factor, Task& task,
-                    const std::string& caption_text) {
-  const Caption caption(caption_text);
+void export_picture(Canvas& canvas, const std::string& path, double factor, Task& task, const QString& caption) {
+  const CaptionBelow below(canvas, caption);
+  const auto image = [&] { return with_caption(picture_image(canvas, factor, task), below, factor); };
   const std::string ending = ending_of(path);
-  if (ending == "bmp") return write_image(with_caption(canvas, factor, caption, task), path, "BMP");
-  if (ending == "png") return write_image(with_caption(canvas, factor, caption, task), path, "PNG");
-  if (ending == "svg") return write_bytes(svg_of(canvas, caption, task), path);
-  if (ending == "pdf") return write_bytes(pdf_of(canvas, caption, task), path);
+  if (ending == "bmp") return write_image(image(), path, "BMP");
+  if (ending == "png") return write_image(image(), path, "PNG");
+  if (ending == "svg") return write_bytes(svg_of(canvas, below, task), path);
+  if (ending == "pdf") return write_bytes(pdf_of(canvas, below, task), path);
   throw RunFailure("can't export to " + path + ": the name must end in .bmp, .png, .svg or .pdf");
 }
 

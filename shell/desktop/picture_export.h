@@ -4,6 +4,7 @@
 #include <string>
 
 #include <QImage>
+#include <QString>
 
 #include "core/task.h"
 #include "shell/services/pictures.h"
@@ -15,12 +16,11 @@ namespace zol {
 [[nodiscard]] QImage picture_image(Canvas& canvas, double factor = 1.0);
 
 /// Writes the kind that the ending of the path names: .bmp, .png, .svg, .pdf.
-/// @param factor  pixels per canvas pixel, for .bmp and .png
-/// @param caption  lines in UTF-8 below the picture, in a strip of their own; empty: none
+/// @param factor   pixels per canvas pixel, for .bmp and .png
+/// @param caption  words below the picture
 /// @throws RunFailure  another ending, or the file can't be written
 /// @throws Cancelled  the task stops; there is no file then
-void export_picture(Canvas& canvas, const std::string& path, double factor, Task& task,
-                    const std::string& caption = "");
+void export_picture(Canvas& canvas, const std::string& path, double factor, Task& task, const QString& caption = {});
 
 /// Pictures of a program without a screen: starts Qt on its offscreen platform when the first one is asked for.
 class OffscreenPictures : public PictureMaker {

@@ -39,7 +39,8 @@ class TextTie : public TypingTie {
       entered();
       const std::string utf8 = text.toStdString();
       const std::string typed = box_.holds_file_name ? utf8 : latin1_from_qt(text);
-      enter(operation({"set", box_.path(), utf8}, [this, typed] { box_.set_text(typed); }));
+      enter(operation({"set", box_.path(), utf8}, [this, typed] { box_.set_text(typed); }),
+            warning([this, typed] { return box_.warn_text ? box_.warn_text(typed) : ""; }));
     });
   }
   void show() override {
@@ -63,7 +64,7 @@ class TextTie : public TypingTie {
     const auto left = std::make_shared<int>(0);  // a key that has to wait is kept from the widget
     UserEvent press{"a key was pressed in " + box_.path(), "", [this, left, code] { *left = box_.press_key(code); }};
     if (code == key_enter) press.script = script_line({"type", box_.path(), "\r"});
-    enter(std::move(press));
+    enter(std::move(press), code == key_enter ? warning() : UserEvents::Warning());
     return *left == 0 || code == key_enter;
   }
   void focus_came(Qt::FocusReason reason) override {

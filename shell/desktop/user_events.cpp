@@ -15,13 +15,35 @@ UserEvents::UserEvents(EventGate& gate) : gate_(gate) {
 /// What waits for a window that is unloaded meanwhile never runs.
 void UserEvents::enter(const Window& window, UserEvent event) {
   event.window = window.name();
-  event.still_wanted = [life = window.life()] { return !life.expired(); };
+  event.still_wanted = [life = window.life(), also = std::move(event.still_wanted)] {
+    return !life.expired() && (!also || also());
+  };
   gate_.enter(std::move(event));
 }
 
 void UserEvents::act(const Window& window, UserEvent event) {
   leave_box();
   enter(window, std::move(event));
+}
+
+void UserEvents::enter(const Window& window, UserEvent event, Warning warning) {
+  if (warning.reason) event.still_wanted = [this, warning = std::move(warning)] { return agreed(warning); };
+  enter(window, std::move(event));
+}
+
+void UserEvents::act(const Window& window, UserEvent event, Warning warning) {
+  leave_box();
+  enter(window, std::move(event), std::move(warning));
+}
+
+bool UserEvents::agreed(const Warning& warning) {
+  const std::string reason = warning.reason();
+  if (reason.empty()) return true;
+  asking_ = true;
+  const bool wanted = question_(reason);
+  asking_ = false;
+  if (!wanted && warning.refused) warning.refused();
+  return wanted;
 }
 
 void UserEvents::in_box(TextBox& box, QWidget& shown_by) {
@@ -53,10 +75,10 @@ void UserEvents::leave_box() {
   enter(box->window(), operation({"leave", box->path()}, [box] { box->leave(); }));
 }
 
-/// A menu is on the way to an action, or back to the box; another program leaves the box alone.
+/// A menu is on the way to an action, or back to the box, and so is a question; another program leaves the box alone.
 void UserEvents::focus_moved(const QWidget* to) {
-  if (to == nullptr || to == box_widget_ || to == cell_table_ || (cell_table_ && cell_table_->isAncestorOf(to)) ||
-      to->window()->windowType() == Qt::Popup)
+  if (asking_ || to == nullptr || to == box_widget_ || to == cell_table_ ||
+      (cell_table_ && cell_table_->isAncestorOf(to)) || to->window()->windowType() == Qt::Popup)
     return;
   if (qobject_cast<const QMenuBar*>(to) == nullptr) leave_box();
 }

@@ -9,6 +9,7 @@
 #include <QPointer>
 #include <QWidget>
 
+#include "shell/desktop/all_the_same.h"
 #include "shell/services/event_gate.h"
 #include "shell/services/window_services.h"
 
@@ -23,6 +24,18 @@ class UserEvents : public QObject {
   /// An action on a window: the box that the user is in is left first.
   void act(const Window& window, UserEvent event);
 
+  /// Why what the user does would end the run or be of no use, found when its turn has come, and what is done when the
+  /// user then does not want it.
+  struct Warning {
+    Reason reason;
+    std::function<void()> refused = {};
+  };
+  /// The same, where the user is asked first if there is a reason.
+  void enter(const Window& window, UserEvent event, Warning warning);
+  void act(const Window& window, UserEvent event, Warning warning);
+  /// Asks "do it all the same?" in the place of a message box.
+  void set_question(std::function<bool(const std::string& reason)> question) { question_ = std::move(question); }
+
   /// The user is in this box now, by the focus or by typing, until it is left.
   void in_box(TextBox& box, QWidget& shown_by);
   void leave_box();
@@ -34,8 +47,12 @@ class UserEvents : public QObject {
 
  private:
   void focus_moved(const QWidget* to);
+  /// @returns false when there is a reason against it and the user does not want it then
+  [[nodiscard]] bool agreed(const Warning& warning);
 
   EventGate& gate_;
+  std::function<bool(const std::string&)> question_ = ask_all_the_same;
+  bool asking_ = false;
   TextBox* box_ = nullptr;
   std::weak_ptr<const void> box_lives_;
   QPointer<QWidget> box_widget_;

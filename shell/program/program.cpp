@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <chrono>
 #include <utility>
 
@@ -13,36 +12,6 @@
 #include "shell/program/window_list.h"
 
 namespace zol {
-namespace {
-
-/// All that an Origin is made of.
-constexpr std::array origin_fields{
-    "CellA",      "CellB",       "CellC",    "CellAlpha", "CellBeta",    "CellGamma", "LatticeLetter",
-    "SGNumber",   "AxisSetting", "NAtom",    "AtomLabel", "AtomElement", "AtomOcc",   "AtomPos",
-    "AtomB",      "JcpdsCount",  "JcpdsH",   "JcpdsK",    "JcpdsL",      "JcpdsI",    "CrystalFile",
-    "AccVoltage", "WaveLength",  "RefCount", "RefH",      "RefK",        "RefL",      "RefI"};
-
-SharedCopy field_of(const Snapshot& snapshot, const std::string& name) {
-  const auto found = snapshot.state.find(name);
-  return found == snapshot.state.end() ? nullptr : found->second;
-}
-
-/// Of indices and intensities; a sum over the reflections, so that their order does not count.
-std::uint64_t list_digest(const CrystalState& state) {
-  std::uint64_t sum = 0;
-  for (int i = 1; i <= state.RefCount.value() && i <= state.RefH.upper(); ++i) {
-    std::uint64_t mixed = std::bit_cast<std::uint32_t>(state.RefI(i));
-    for (const Integer index : {state.RefH(i), state.RefK(i), state.RefL(i)}) {
-      mixed = (mixed ^ static_cast<std::uint16_t>(index.value())) * 0x9e3779b97f4a7c15U;
-      mixed ^= mixed >> 29U;
-    }
-    sum += mixed;
-  }
-  return sum;
-}
-
-}  // namespace
-
 const char* const program_version = ZOL_VERSION;
 
 Program::Program(DataRoot data, Services& services)
@@ -68,7 +37,6 @@ void Program::put_back(const Snapshot& snapshot) {
 
 void Program::tell_change() const {
   if (changed_) changed_(last_);
-  if (told_) told_();
 }
 
 void Program::restore(const KeptWork& work) {
@@ -112,17 +80,6 @@ std::string Program::radiation() const {
   return state.WaveLength > 0 ? plain_text(state.WaveLength) + " Å" : "";
 }
 
-/// Made again only where one of its fields is another one.
-const Origin& Program::origin() {
-  std::vector<SharedCopy> fields;
-  for (const char* name : origin_fields) fields.push_back(field_of(*last_, name));
-  if (fields == origin_fields_) return origin_;
-  const std::string name = crystal_name();
-  origin_ = {crystal_file_text(state_), name.empty() ? "new crystal" : name, radiation(), list_digest(state_)};
-  origin_fields_ = std::move(fields);
-  return origin_;
-}
-
 bool Program::holds_crystal() const {
   const CrystalState& state = state_;
   const auto is_set = [](Single constant) { return constant != 0; };
@@ -148,7 +105,6 @@ void Program::watch(EventGate& gate) {
     if (std::exchange(went_back_, false)) return;
     const auto before = began_;
     auto after = snapshot();
-    origins_.note(windows_, *before, *after, origin());
     last_ = after;
     tell_change();
     if (same_work(*before, *after)) return;

@@ -10,7 +10,6 @@
 #include "core/crystal_state.h"
 #include "core/data_root.h"
 #include "shell/program/history.h"
-#include "shell/program/origins.h"
 #include "shell/program/snapshot_file.h"
 #include "shell/services/event_gate.h"
 #include "shell/services/window_services.h"
@@ -48,10 +47,6 @@ class Program {
   void set_changed(std::function<void(const std::shared_ptr<const Snapshot>&)> changed) {
     changed_ = std::move(changed);
   }
-  /// The same for what shows what is said of lists and pictures.
-  void set_told(std::function<void()> told) { told_ = std::move(told); }
-  /// What a list or a picture says when it is old, see Origins.
-  [[nodiscard]] std::string said_of(const Control& control) { return origins_.said_of(control, origin()); }
 
   /// The name of its file without folder and ending; empty where it has none.
   [[nodiscard]] std::string crystal_name() const;
@@ -69,12 +64,13 @@ class Program {
   /// Brings the work of an earlier run back. In an event that is watched it is a step, and can be undone.
   void restore(const KeptWork& work);
 
+  /// All fields of the crystal state.
+  [[nodiscard]] const NamedValues& state_fields() const { return state_fields_; }
   /// The arrays and scalars that belong to no window.
   [[nodiscard]] const NamedValues& module1() const { return module1_; }
 
  private:
   void tell_change() const;
-  [[nodiscard]] const Origin& origin();
 
   DataRoot data_;
   CrystalState state_;
@@ -84,11 +80,7 @@ class Program {
   History history_;
   bool went_back_ = false;  ///< in the present event, which then is no step
   std::function<void(const std::shared_ptr<const Snapshot>&)> changed_;
-  std::function<void()> told_;
-  Origins origins_;
-  Origin origin_;                                      ///< of origin_fields_
-  std::vector<SharedCopy> origin_fields_ = {nullptr};  ///< what it was made of; not yet
-  std::shared_ptr<const Snapshot> began_;              ///< as the present event began
+  std::shared_ptr<const Snapshot> began_;  ///< as the present event began
   std::shared_ptr<const Snapshot> last_ = std::make_shared<const Snapshot>();
   Workbench bench_;
 };

@@ -56,6 +56,7 @@ void Canvas::clear() {
     raster_.set_base(true);
   }
   drawing_.clear();
+  ++begun_;
   if (raster_.made()) {
     if (persistent) raster_.repaint_stored(drawing_);
     raster_.clear_overlay();
@@ -187,13 +188,6 @@ void Canvas::edit_picture(const std::function<void(Surface&)>& edit) {
   edit(*picture);
   raster_.set_picture(std::move(picture));
   show_picture();
-}
-
-bool Canvas::made_since(const Copy& before) const {
-  const auto& old = std::any_cast<const Contents&>(before.contents).drawing.list;
-  const auto& now = drawing_.list;
-  if (&old.get() == &now.get()) return false;  // shared: nothing has come or gone
-  return now.size() < old.size() || old.empty() || !std::equal(old.begin(), old.end(), now.begin());
 }
 
 void Canvas::save_stored_image(const std::string& path) { stored_image().save_bitmap(path); }

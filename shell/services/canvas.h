@@ -91,6 +91,9 @@ class Canvas : public Control {
   void save_stored_image(const std::string& path);
   void save_image_with_overlay(const std::string& path);
 
+  /// Another number when the drawing has begun anew.
+  [[nodiscard]] unsigned begun() const { return begun_; }
+
   [[nodiscard]] MousePointer mouse_pointer() const { return mouse_pointer_; }
   void set_mouse_pointer(MousePointer pointer);
 
@@ -103,6 +106,9 @@ class Canvas : public Control {
   Event<Single, Single> on_mouse_move;
   Event<Single, Single> on_mouse_up;
   Event<> on_double_click;
+
+  std::function<std::string(double x, double y)> warn_at = {};  ///< why it should not be pressed at this place
+  Reason warn_click = {};                                       ///< against a press without a drag
 
   // What a view shows beside the picture
   std::optional<Axis> x_axis, y_axis;                             ///< rulers, where the picture is a curve
@@ -130,9 +136,6 @@ class Canvas : public Control {
   /// Another number when more has changed than that something was drawn besides.
   [[nodiscard]] unsigned redrawn() const { return redrawn_; }
 
-  [[nodiscard]] bool made_since(const Copy& before) const override;
-  [[nodiscard]] bool holds_something() const override { return !drawing_.list.empty(); }
-
  protected:
   [[nodiscard]] std::any copied_contents() const override { return contents(); }
   [[nodiscard]] const ValueKind* contents_kind() const override { return &value_kind<Contents>; }
@@ -153,6 +156,7 @@ class Canvas : public Control {
   Services& services_;
   Drawing drawing_;
   Raster raster_;
+  unsigned begun_ = 0;
   MousePointer mouse_pointer_ = MousePointer::Default;
   unsigned redrawn_ = 0;
 };

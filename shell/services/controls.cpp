@@ -179,13 +179,6 @@ void ListBox::pick(int index) {
   on_click.fire(described() + " was clicked");
 }
 
-bool ListBox::made_since(const Copy& before) const {
-  const auto& old = std::any_cast<const ListBoxContents&>(before.contents).items;
-  const auto& now = contents_.items;
-  if (&old.get() == &now.get()) return false;  // shared: nothing has come or gone
-  return now.size() < old.size() || old.empty() || !std::equal(old.begin(), old.end(), now.begin());
-}
-
 void ProgressBar::set_range(Single minimum, Single maximum) {
   contents_.minimum = minimum;
   contents_.maximum = maximum;

@@ -9,6 +9,7 @@
 #include <any>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,11 +19,16 @@
 #include "core/run_failure.h"
 #include "core/shared_vector.h"
 #include "core/task.h"
+#include "shell/services/origin.h"
 #include "shell/services/stored.h"
 
 namespace zol {
 
 class Window;
+
+/// Why an action would end the run, or be of no use, in the present state; empty where it is fine. It begins with a
+/// small letter, has no full stop, and changes nothing. A script knows nothing of it.
+using Reason = std::function<std::string()>;
 
 /// Colour packed as r + 256 g + 65536 b.
 using Colour = std::int32_t;
@@ -84,11 +90,6 @@ enum class ControlKind {
   Canvas
 };
 
-class CommandButton;
-
-/// What lists and pictures are made from.
-enum class Source { Crystal, Radiation, Reflections };
-
 class Control {
  public:
   /// @param caption  its own text, or for a box the text that stands beside it
@@ -128,18 +129,14 @@ class Control {
   [[nodiscard]] const std::shared_ptr<const Copy>& copy() const;
   /// Takes a copy of a control of the same kind. @throws std::bad_any_cast  it is of another kind
   void put_back(const std::shared_ptr<const Copy>& copy);
-  /// Whether what stands in it has been made since a copy of it, rather than selected, marked or added to.
-  [[nodiscard]] virtual bool made_since(const Copy& /*before*/) const { return false; }
-  [[nodiscard]] virtual bool holds_something() const { return false; }
-
-  // What a front end tells beside a list or a picture, not in it
-  std::vector<Source> made_from;        ///< says so when one of them is another one by now
-  CommandButton* made_by = nullptr;     ///< makes it anew
-  std::function<std::string()> remark;  ///< a word on contents that are right by rule and wrong by sense; may be empty
-
   static void store(StoreWriter& out, const Copy& copy);
   /// A copy of a control of this kind. @throws RunFailure  the bytes hold none
   [[nodiscard]] std::shared_ptr<const Copy> load(StoreReader& in) const;
+
+  // What the front end says beside it; scripts and results know nothing of it
+  Reason warn_when = {};                                ///< against a click, or Enter in a box or a table
+  std::function<std::vector<std::string>()> remarks{};  ///< words beside a result that is right by rule alone
+  std::optional<Origin> made_from = {};                 ///< what its contents are made from
 
  protected:
   void changed();                    ///< tells the view
@@ -245,6 +242,7 @@ class TextBox : public ControlWith<TextBoxContents> {
   Event<> on_change;
   Event<int&> on_key_press;
   Event<> on_lost_focus;
+  std::function<std::string(const std::string& text)> warn_text = {};  ///< why this text should not be typed
   bool holds_file_name = false;  ///< bytes of the file system, where other boxes hold Latin-1
 };
 
@@ -334,6 +332,7 @@ class ComboBox : public ControlWith<ComboBoxContents> {
   /// The user picks an item; fires. @throws RunFailure  no such item
   void pick(int index);
   Event<> on_click;
+  std::function<std::string(int index)> warn_row = {};  ///< why this item should not be picked
 };
 
 class ListBox : public ControlWith<ListBoxContents> {
@@ -359,8 +358,7 @@ class ListBox : public ControlWith<ListBoxContents> {
   /// The user picks a line; fires. @throws RunFailure  no such line
   void pick(int index);
   Event<> on_click;
-  [[nodiscard]] bool made_since(const Copy& before) const override;
-  [[nodiscard]] bool holds_something() const override { return !contents_.items.empty(); }
+  std::function<std::string(int index)> warn_row = {};  ///< why this line should not be picked
 
  private:
   void contents_replaced() override { ++revision_; }

@@ -99,6 +99,10 @@ class NamedValues {
   /// Of all that has a text.
   [[nodiscard]] std::vector<std::string> names() const;
 
+  /// Of one value. @param before  an earlier one, which is given back where nothing has changed
+  [[nodiscard]] SharedCopy copy(const std::string& name, const SharedCopy& before = {}) const {
+    return kept_.at(name).copy(before);
+  }
   using Copies = std::map<std::string, SharedCopy>;
   /// @param before  earlier ones, to be shared where nothing has changed
   [[nodiscard]] Copies copies(const Copies& before = {}) const;

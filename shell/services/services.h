@@ -64,6 +64,15 @@ struct FileQuestion {
   NameEnding ending = {};      ///< the file that is written bears the answer with it
 };
 
+/// A prompt, with words for its dialog alone.
+struct PromptQuestion {
+  std::string text;
+  std::string title;
+  std::string bounds = {};  ///< what an answer means, and in which bounds; told below the text
+  /// Why an answer, the empty one of a cancel included, would end the run or be of no use; empty where it is fine.
+  std::function<std::string(const std::string& answer)> warn_when = {};
+};
+
 class Services {
  public:
   Services() = default;
@@ -77,6 +86,10 @@ class Services {
   virtual void set_up_printer() = 0;
   /// Asks for a text, modal. @returns the empty text when the user cancelled
   virtual std::string prompt(const std::string& text, const std::string& title) = 0;
+  /// The same with what is known of the answers beforehand.
+  [[nodiscard]] virtual std::string ask_text(const PromptQuestion& question) {
+    return prompt(question.text, question.title);
+  }
   /// Tells something, with an exclamation icon, modal.
   virtual void message(const std::string& text, const std::string& title) = 0;
 

@@ -3,6 +3,7 @@
 
 #include <any>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <memory>
 #include <string>
@@ -13,6 +14,7 @@
 #include "shell/services/controls.h"
 #include "shell/services/named_values.h"
 #include "shell/services/services.h"
+#include "shell/services/shared_state.h"
 
 namespace zol {
 
@@ -79,6 +81,11 @@ class Window {
   void add_operation(const std::string& name, std::function<void()> operation) {
     operations_[name] = std::move(operation);
   }
+  /// The same reason against actions on several controls.
+  static void warn(std::initializer_list<Control*> controls, const Reason& reason) {
+    for (Control* control : controls) control->warn_when = reason;
+  }
+
   /// nullptr when there is no such public operation
   [[nodiscard]] const std::function<void()>* operation(const std::string& name) const;
   [[nodiscard]] std::vector<std::string> operation_names() const;
@@ -93,9 +100,9 @@ class Window {
   Event<> on_activate;
 
   // What a window wants from the front end
-  std::function<std::string()> foot;      ///< what it reads of the state that windows share, as one line; may be empty
   std::vector<FileDrop> file_drops;       ///< what may be dropped on it
   CommandButton* frame_button = nullptr;  ///< what its frame button clicks; none: the window hides
+  std::vector<SharedPart> reads = {};     ///< what it reads of the state that windows share, told at its foot
   std::string beside = {};                ///< the window that it goes with: it comes up beside that one, behind it
   bool shows_crystal = false;             ///< its title tells which
   TextBox* crystal_file = nullptr;        ///< the box that holds the path of the present crystal, where it has that

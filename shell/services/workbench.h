@@ -15,6 +15,8 @@ struct Workbench {
       : state(crystal), windows(all_windows), services(surroundings), data(data_root), crystal_(crystal) {}
 
   Module1State& state;  ///< what lives on Main1 comes through main1_state
+  /// All of the state for what only looks on, as a guard does: that is no use of Main1.
+  [[nodiscard]] const CrystalState& seen() const { return crystal_; }
   Windows& windows;
   Services& services;
   const DataRoot& data;

@@ -1,5 +1,4 @@
 #include "reflections/window/main1_form.h"
-#include "reflections/window/shared_state.h"
 #include "shell/services/wiring.h"
 #include "spots/window/fiber_texture_form.h"
 #include "spots/window/pattern_disp.h"
@@ -37,11 +36,6 @@ namespace zol {
 void wire(Workbench& bench, FiberTextureForm& form) {
   using namespace fiber_texture;
   const Wire on(bench, form);
-  form.Picture1.made_from = {Source::Reflections};
-  form.Picture1.made_by = &form.Command8;
-  form.foot = [&bench] {
-    return shared_state_line(bench, {Shared::Radiation, Shared::HalfWidthInverse, Shared::Turn});
-  };
   spots::wire_spots(bench, form, PatternDisp3, -1);
   form.Text2.on_change = on(Text2_Change);  // dispersion
   form.Text3.on_change = on(Text3_Change);  // fiber direction H, and so on to Text5, L

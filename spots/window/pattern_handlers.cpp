@@ -1,6 +1,5 @@
 #include "core/number_text.h"
 #include "reflections/window/main1_form.h"
-#include "reflections/window/shared_state.h"
 #include "shell/services/wiring.h"
 #include "spots/window/pattern_disp.h"
 #include "spots/window/pattern_form.h"
@@ -53,11 +52,6 @@ namespace zol {
 void wire(Workbench& bench, PatternForm& form) {
   using namespace pattern;
   const Wire on(bench, form);
-  form.Picture1.made_from = {Source::Reflections};
-  form.Picture1.made_by = &form.Command8;
-  form.foot = [&bench] {
-    return shared_state_line(bench, {Shared::Radiation, Shared::HalfWidthInverse, Shared::Axis, Shared::Turn});
-  };
   spots::wire_spots(bench, form, PatternDisp, 1);
   form.Text2.on_change = on(Text2_Change);  // Laue level
   form.Text3.on_change = on(Text3_Change);  // zone axis u, and so on to Text5, w

@@ -4,7 +4,10 @@
 #include <array>
 #include <cmath>
 #include <string>
+#include <utility>
+#include <vector>
 
+#include "shell/services/guards.h"
 #include "shell/services/place_text.h"
 #include "shell/services/window_services.h"
 #include "shell/services/workbench.h"
@@ -49,6 +52,17 @@ struct SpotsForm : Window {
   TextBox Text6{*this, "Text6"};  // exponent of the intensity
   CheckBox Check3{*this, "Check3", "Index"};
   CommandButton Command1{*this, "Command1", "close"};
+
+  /// Guards all that draws, and tells what a drawing is made from.
+  /// @param drawing  what draws besides the controls of both windows
+  void declare(const Reason& reason, std::initializer_list<Control*> drawing, Origin origin) {
+    warn({&Command8, &Command2, &Command3, &Command6, &Command9, &Command11, &Command7, &Command10, &Command12, &Text5},
+         reason);
+    warn(drawing, reason);
+    origin.inputs.push_back(inputs::settings({"CamAcquisition", "PatternAngle", "SpotScale"}, {&Text6, &Check3}));
+    origin.again = {&Command8};
+    Picture1.made_from = std::move(origin);
+  }
 
   FileDialog CommonDialog1;
   Canvas Picture1;
