@@ -163,11 +163,13 @@ void draw_row(const KinematicSphere& sphere, const Rotation& crystal_from_pictur
 
 void draw_bands(const KinematicSphere& sphere, const Rotation& crystal_from_picture, const Projection& projection,
                 int width, int height, std::vector<float>& values, Task& task) {
-  values.resize(index(width) * index(height));
+  values.clear();
+  values.reserve(index(width) * index(height));
   std::vector<int> places(index(width));
   std::vector<float> parts(2 * index(width));
   for (int y = 0; y < height; ++y) {
     task.check();
+    values.resize(index(width) * (index(y) + 1));
     draw_row(sphere, crystal_from_picture, projection, {values.data(), width, height}, y, places.data(), parts.data());
   }
 }

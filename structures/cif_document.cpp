@@ -36,6 +36,15 @@ void add_column(CifDocument& document, CifBlock& block, const std::string& tag, 
   if (!has_value(place->second)) place->second = std::move(column);
 }
 
+/// Measured reflections, which no one looks at: millions of them would take longer than all the rest.
+bool is_long_list_of_intensities(const gemmi::cif::Loop& loop) {
+  constexpr std::size_t long_list = 10000;
+  return loop.length() > long_list && std::all_of(loop.tags.begin(), loop.tags.end(), [](const std::string& tag) {
+           const std::string name = normal_tag(tag);
+           return name.rfind("_refln_", 0) == 0 || name.rfind("_diffrn_refln_", 0) == 0;
+         });
+}
+
 void add_items(CifDocument& document, CifBlock& block, const std::vector<gemmi::cif::Item>& items, int& loops) {
   for (const auto& item : items) {
     if (item.type == gemmi::cif::ItemType::Pair) {
@@ -43,6 +52,7 @@ void add_items(CifDocument& document, CifBlock& block, const std::vector<gemmi::
     } else if (item.type == gemmi::cif::ItemType::Loop) {
       const auto& loop = item.loop;
       ++loops;
+      if (is_long_list_of_intensities(loop)) continue;
       for (std::size_t column = 0; column < loop.width(); ++column) {
         CifColumn values{{}, loops, item.line_number};
         for (std::size_t row = 0; row < loop.length(); ++row) values.values.push_back(value_of(loop.val(row, column)));

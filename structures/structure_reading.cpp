@@ -51,10 +51,19 @@ bool starts_shelx(const std::vector<std::string>& lines) {
   });
 }
 
+/// Small letters stand for large ones, too. @param tag  begins with "_"
+bool holds_tag(std::string_view bytes, std::string_view tag) {
+  const auto same = [](char a, char b) { return std::tolower(static_cast<unsigned char>(a)) == b; };
+  for (auto at = bytes.find('_'); at != std::string_view::npos; at = bytes.find('_', at + 1)) {
+    const std::string_view here = bytes.substr(at, tag.size());
+    if (std::equal(here.begin(), here.end(), tag.begin(), tag.end(), same)) return true;
+  }
+  return false;
+}
+
 bool looks_like_cif(std::string_view bytes) {
-  const std::string text = small(std::string(bytes));
-  return text.find("_atom_site") != std::string::npos || text.find("_cell_length") != std::string::npos ||
-         text.find("_cell.length") != std::string::npos || text.starts_with("data_");
+  return small(std::string(bytes.substr(0, 5))) == "data_" || holds_tag(bytes, "_atom_site") ||
+         holds_tag(bytes, "_cell_length") || holds_tag(bytes, "_cell.length");
 }
 
 /// A scale in the second line, three vectors behind it.

@@ -84,7 +84,7 @@ void Binder::show_window() {
   neighbour_->raise();
 }
 
-void Binder::show_changes() {
+void Binder::show_changes(bool with_lists) {
   if (window_changed_) {
     window_changed_ = false;
     show_title();
@@ -96,6 +96,10 @@ void Binder::show_changes() {
     }
   }
   for (Control* control : std::exchange(changed_, {})) {
+    if (!with_lists && control->kind() == ControlKind::ListBox) {
+      changed_.insert(control);
+      continue;
+    }
     if (ControlTie* tie = tie_of(*control)) {
       tie->show_visibility();
       tie->show();

@@ -42,8 +42,9 @@ class Binder {
   void set_neighbour(QWidget* neighbour) { neighbour_ = neighbour; }
   /// What the title says behind the caption, with Qt's mark [*] for changed work; empty: nothing.
   void set_title_end(const QString& end, bool unsaved);
-  /// Shows what has changed since the last time.
-  void show_changes();
+  /// Shows what has changed since the last time. In the middle of a handler lists wait for its end: a view lays out all
+  /// of a list that has changed.
+  void show_changes(bool with_lists = true);
   /// Shows all of it, as at the start.
   void show_everything();
 

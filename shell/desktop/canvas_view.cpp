@@ -81,7 +81,7 @@ QPointF CanvasView::user_position(const QPointF& position) const {
 
 /// Some of what is not there yet: a long list takes many repaints, between which the windows answer.
 void CanvasView::draw_some(bool all) {
-  constexpr qint64 at_once_ms = 15;
+  constexpr qint64 at_once_ms = 10;
   QElapsedTimer clock;
   clock.start();
   try {

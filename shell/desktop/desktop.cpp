@@ -147,8 +147,8 @@ void Desktop::end(int status) {
   QCoreApplication::exit(status);
 }
 
-void Desktop::show_changes() {
-  for (const auto& [name, shown] : shown_) shown.binder->show_changes();
+void Desktop::show_changes(bool with_lists) {
+  for (const auto& [name, shown] : shown_) shown.binder->show_changes(with_lists);
 }
 
 void Desktop::show_crystal() {
@@ -284,8 +284,10 @@ void Desktop::breathe() {
   if (since_breath_.elapsed() < work_ms_) return;
   since_breath_.start();
   const LongWork::Looking looking(long_work_);
-  show_changes();
-  QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+  show_changes(false);
+  // What is left out waits in the queue of the window system, where it would not be seen again until something comes
+  // behind it; once the bar is there nothing is left out.
+  QCoreApplication::processEvents(long_work_.shown() ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
   constexpr qint64 least_ms = 50;
   constexpr qint64 share = 4;  // a picture that takes long to paint is painted less often
   work_ms_ = std::max(least_ms, share * since_breath_.elapsed());

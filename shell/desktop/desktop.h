@@ -84,7 +84,7 @@ class Desktop : public QObject, public WindowView {
   void go_in_history(bool back);
   void show_failure(const std::exception_ptr& failure);
   void settle();
-  void show_changes();
+  void show_changes(bool with_lists = true);
   void show_crystal();
   void breathe();
   void close_by_frame(Window& window);

@@ -24,8 +24,6 @@ namespace {
 constexpr qint64 shown_after_ms = 1000;
 constexpr qint64 between_looks_ms = 20;
 constexpr qint64 between_words_ms = 200;
-constexpr qint64 share = 4;  // a look that takes long, to paint much, is taken less often, but
-constexpr qint64 most_between_looks_ms = 60;
 
 GuardedApplication* application() { return dynamic_cast<GuardedApplication*>(QCoreApplication::instance()); }
 
@@ -112,8 +110,7 @@ bool LongWork::stop_wanted() {
     return false;
   }
   look();
-  const qint64 took = clock_.elapsed() - now;
-  next_look_ms_ = clock_.elapsed() + std::clamp(share * took, between_looks_ms, most_between_looks_ms);
+  next_look_ms_ = clock_.elapsed() + between_looks_ms;
   return stop_;
 }
 

@@ -43,6 +43,9 @@ class LongWork : public QObject {
   void confirm() { confirmed_ = true; }
   [[nodiscard]] bool confirmed() const { return confirmed_; }
 
+  /// The bar is there, and input goes nowhere else.
+  [[nodiscard]] bool shown() const { return shown_; }
+
   /// As long as it lives the windows repaint: that is not stopped.
   class Looking {
    public:

@@ -88,7 +88,11 @@ class NamedValues {
   void keep(const std::string& name, Value& value) {
     static_assert(std::is_copy_assignable_v<Value>);
     kept_[name] = {[&value](const SharedCopy& before) { return shared_copy(value, before); },
-                   [&value](const std::any& copy) { value = std::any_cast<const Value&>(copy); }, &value_kind<Value>};
+                   [&value](const std::any& copy) {
+                     const auto& kept = std::any_cast<const Value&>(copy);
+                     if (!(value == kept)) value = kept;  // looked at, a long array takes less than when it is copied
+                   },
+                   &value_kind<Value>};
   }
 
   /// Number of indices that a name takes; -1 when there is no such name.

@@ -273,7 +273,7 @@ void make_files(const std::string& folder) {
   std::ofstream text(folder + "/long.cif");
   text << "_cell_length_a 5\nloop_\n_atom_site_label\n_atom_site_fract_x\n_atom_site_fract_y\n_atom_site_fract_z\n"
           "C1 0 0 0\n\n";
-  for (int i = 0; i < 3000000; ++i) text << "_a_line_that_no_one_reads " << i << '\n';
+  for (int i = 0; i < 1700000; ++i) text << "_a_line_that_no_one_reads " << i << '\n';
   constexpr int side = 8192;
   QImage picture(side, side, QImage::Format_RGB32);
   for (int y = 0; y < side; ++y) {
@@ -293,16 +293,16 @@ void make_files(const std::string& folder) {
 const std::vector<Kind>& kinds() {
   static const std::vector<Kind> all{
       {"reflection list, muscovite to 0.12 Å", MUSCOVITE "set Main1.Text15 0.12", "click Main1.Command6"},
-      {"powder pattern, crystallites of 45 x 30 x 15 cells", MUSCOVITE "choose Main1.Combo1 CuKa\n" LIST("0.775")
-       "click Main1.Command7\nset Xd.Text6 45\nset Xd.Text7 30\nset Xd.Text8 15",
+      {"powder pattern, crystallites of 60 x 40 x 20 cells", MUSCOVITE "choose Main1.Combo1 CuKa\n" LIST("0.771")
+       "click Main1.Command7\nset Xd.Text6 60\nset Xd.Text7 40\nset Xd.Text8 20",
        "click Xd.Command1"},
-      {"Debye rings, crystallites of 45 x 30 x 15 cells", MUSCOVITE LIST("0.6")
-       "click Main1.Command8\nset Dring.Text6 45\nset Dring.Text7 30\nset Dring.Text8 15",
+      {"Debye rings, crystallites of 60 x 40 x 20 cells", MUSCOVITE LIST("0.6")
+       "click Main1.Command8\nset Dring.Text6 60\nset Dring.Text7 40\nset Dring.Text8 20",
        "click Dring.Command1"},
       {"triple table of a long list", MUSCOVITE LIST("0.15")
        "show PATTERN3\nset PATTERN3.Text2 1200", "leave PATTERN3.Text2"},
       {"matching of 1200³ triples", MUSCOVITE LIST("0.4") "show PATTERN3\nset PATTERN3.Text2 1200\nleave PATTERN3.Text2\n"
-       THREE_BANDS "set PATTERN3.Text1 2\nclick PATTERN3.Check1", "click PATTERN3.Command1"},
+       THREE_BANDS "set PATTERN3.Text1 0.3\nclick PATTERN3.Check1", "click PATTERN3.Command1"},
       {"adjustment of the detector", MUSCOVITE LIST("1") "show PATTERN3\nset PATTERN3.Text2 20\nleave PATTERN3.Text2\n"
        THREE_BANDS "set PATTERN3.Text1 30\nclick PATTERN3.Command1\nclick PATTERN3.CP_Setting_Show\n"
        "set PATTERN3.Text10 10", "click PATTERN3.Command15"},
@@ -314,9 +314,9 @@ const std::vector<Kind>& kinds() {
       {"Kikuchi pattern of a long list", MUSCOVITE "choose Main1.Combo1 200\n" LIST("0.12") "click Main1.Command10\n"
        "set Pattern2.Text3 1\nset Pattern2.Text4 1\nset Pattern2.Text5 3\nset Pattern2.Text2 -1\n",
        "click Pattern2.Command8"},
-      {"zone axis map to 60 60 60", MUSCOVITE LIST("1") "click Main1.Command10\n"
+      {"zone axis map to 90 90 90", MUSCOVITE LIST("1") "click Main1.Command10\n"
        "set Pattern2.Text3 1\nset Pattern2.Text4 1\nset Pattern2.Text5 3\nclick Pattern2.Command8\nshow Zaxis\n"
-       "set Zaxis.Text1 60\nset Zaxis.Text2 60\nset Zaxis.Text3 60", "click Zaxis.Check2"},
+       "set Zaxis.Text1 90\nset Zaxis.Text2 90\nset Zaxis.Text3 90", "click Zaxis.Check2"},
       {"atom distances to 40 Å", "show Main1\nanswer FOLDER/many.cry\nclick Main1.DATA_LOAD\nclick Main1.Command11\n"
        "set AtomDistance.Text1 40",
        "click AtomDistance.Command1"},
@@ -375,7 +375,7 @@ int main(int argc, char** argv) {
   make_files(folder);
   std::mt19937 random(1);
   std::uniform_real_distribution<double> moment(0, 1000);
-  std::cout << "| Work | whole run (s) | estimate (s, MB) | gap (ms) | behind it (ms) | Esc to the end (ms) | painted "
+  std::cout << "| Work | whole run (s) | estimate (s, MB) | gap (ms) | behind it (ms) | Esc to the end (ms) | and painted "
                "(ms) | as before |\n|---|---|---|---|---|---|---|---|\n" << std::flush;
   for (const Kind& kind : kinds()) {
     if (std::string(kind.name).find(only) == std::string::npos) continue;
@@ -397,9 +397,13 @@ int main(int argc, char** argv) {
       }
       Measured whole;
       if (whole_runs) whole = bench.measure(kind.work, nullptr, 0);
-      std::printf("| %s | %.1f | %.1f, %.0f | %.1f | %.0f | %.0f | %.0f | %s (%d) |\n", kind.name, whole.seconds,
-                  whole.expected.seconds, whole.expected.bytes / 1048576, std::max(gap, whole.gap_ms), whole.behind_ms,
-                  answer, painted, as_before ? "yes" : "NO", pressed);
+      std::printf("| %s | %.1f | %.1f, %.0f | %.0f | %.0f | ", kind.name, whole.seconds, whole.expected.seconds,
+                  whole.expected.bytes / 1048576, std::max(gap, whole.gap_ms), whole.behind_ms);
+      if (pressed > 0) {
+        std::printf("%.0f | %.0f | %s |\n", answer, painted, as_before ? "yes" : "NO");
+      } else {
+        std::printf("over within a second | | |\n");
+      }
       std::fflush(stdout);
     } catch (const std::exception& error) {
       std::printf("| %s | %s |\n", kind.name, error.what());
