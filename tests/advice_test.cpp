@@ -1,7 +1,7 @@
 // What the windows show of guards, old results and shared state: signs, questions, lines, captions.
 #include <QComboBox>
-#include <QListView>
 #include <QDir>
+#include <QListView>
 #include <QMainWindow>
 #include <QStatusBar>
 #include <QTableView>

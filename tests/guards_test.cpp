@@ -141,9 +141,7 @@ std::vector<Action> actions_at(Control& control) {
         const double x = scale.left + part * (scale.right - scale.left);
         const double y = scale.top + part * (scale.bottom - scale.top);
         const std::string place = path + " " + plain_text(x) + " " + plain_text(y);
-        std::string against = reason;
-        if (against.empty() && canvas.warn_at) against = canvas.warn_at(x, y);
-        actions.push_back({"press " + place + "\nrelease " + place, against});
+        actions.push_back({"press " + place + "\nrelease " + place, canvas.reason_against(x, y)});
       }
       if (canvas.on_double_click) actions.push_back({"press " + path + " 0.1 0.1\ndoubleclick " + path, reason});
       return actions;
@@ -181,7 +179,7 @@ std::string reason_against(Program& program, const std::string& operation) {
   if (verb == "press") {
     const auto& canvas = dynamic_cast<Canvas&>(control);
     words >> x >> y;
-    return canvas.warn_click ? canvas.warn_click() : (canvas.warn_at ? canvas.warn_at(x, y) : canvas.warn_when());
+    return canvas.warn_click ? canvas.warn_click() : canvas.reason_against(x, y);
   }
   return control.warn_when();
 }
@@ -208,8 +206,8 @@ const std::vector<Row>& rows() {
        "the atoms are taken away, even by a cancel there", Outcome::Prints, "0\n", ""},
       {"", "set Main1.Text7 251", "there is no file of this space group", Outcome::Ends, "", "-"},
       {"", "set Main1.Text7 40000", "there is no such space group", Outcome::Ends, "", "-"},
-      {silicon, "set Main1.Text18 40000\nclick Main1.Command6",
-       "the box takes whole numbers up to 32767", Outcome::Ends, "", "-"},
+      {silicon, "set Main1.Text18 40000\nclick Main1.Command6", "the box takes whole numbers up to 32767",
+       Outcome::Ends, "", "-"},
       {silicon, "select Main1.Combo2 5\ncall Main1.AtomCcalc\nprint Module1.NCell",
        "no operators can be turned to -cba: every atom falls on 0 0 0", Outcome::Prints, "1\n", "-"},
       {"sites 200", "click Main1.Command1", "there are 200 atoms or more, for which the table has no room",
@@ -217,20 +215,20 @@ const std::vector<Row>& rows() {
       {"rows 200", "click Main1.Command15", "there are 200 reflections, for which the table has no room", Outcome::Ends,
        "", ""},
       {"", "click InputAtom.Command1", "no space group has been chosen", Outcome::Ends},
-      {"cell InputAtom.G 200 7\n", "type InputAtom.G \"\\r\"", "this is the last cell: there is no next row", Outcome::Ends,
-       "", "cell InputAtom.G 200 6\n"},
+      {"cell InputAtom.G 200 7\n", "type InputAtom.G \"\\r\"", "this is the last cell: there is no next row",
+       Outcome::Ends, "", "cell InputAtom.G 200 6\n"},
       {"", "click AtomDistance.Command1\nprint AtomDistance.List1", "there are no atoms", Outcome::Prints, "",
        silicon + "set AtomDistance.Text1 3\n"},
-      {powder + "click Xd.Command2\n", "press Xd.Picture1 2 0.5",
-       "\"Clear\" has taken the curve away: \"CALC\" first", Outcome::Ends, "", powder},
-      {powder + "set Xd.Text1 1\nset Xd.Text2 2\n", "press Xd.Picture1 4 0.5",
-       "the curve does not reach to this place", Outcome::Ends, "", powder},
+      {powder + "click Xd.Command2\n", "press Xd.Picture1 2 0.5", "\"Clear\" has taken the curve away: \"CALC\" first",
+       Outcome::Ends, "", powder},
+      {powder + "set Xd.Text1 1\nset Xd.Text2 2\n", "press Xd.Picture1 4 0.5", "the curve does not reach to this place",
+       Outcome::Ends, "", powder},
       {powder + "click Dring.Command2\n", "press Dring.Picture1 0.5 0.5",
        "\"Clear\" has taken the curve away: \"CALC\" first", Outcome::Ends, "", powder},
-      {powder + "set Xd.Text6 0\n", "click Xd.Command1", "division by zero: the crystallite size P is 0", Outcome::Ends, "",
-       powder},
-      {powder + "set Xd.Text3 0\n", "click Dring.Command1\nset Dring.Text3 0\nclick Dring.Command1", "", Outcome::Prints,
-       "", "-"},
+      {powder + "set Xd.Text6 0\n", "click Xd.Command1", "division by zero: the crystallite size P is 0", Outcome::Ends,
+       "", powder},
+      {powder + "set Xd.Text3 0\n", "click Dring.Command1\nset Dring.Text3 0\nclick Dring.Command1", "",
+       Outcome::Prints, "", "-"},
       {powder + "set Xd.Text1 2\nset Xd.Text2 2\n", "click Xd.Command1\nprint Xd.List1",
        "2theta.min and 2theta.max are the same", Outcome::Prints, "2-Theta   d     I/Io\n", powder},
       {"", "click Xd.Command6", "there is no curve yet: \"CALC\" makes one", Outcome::Ends, "", powder},
@@ -252,11 +250,12 @@ const std::vector<Row>& rows() {
       {kikuchi + "click Main1.Command6\n", "select Pattern2.List1 3",
        "the bands are those of a list that is gone: draw them again", Outcome::Ends, "", kikuchi},
       {silicon, "click Zaxis.Command2", no_axis, Outcome::Ends, "", kikuchi},
-      {kikuchi + [] {
-         std::string zoomed;
-         for (int i = 0; i < 12; ++i) zoomed += "click Zaxis.Command2\n";
-         return zoomed;
-       }(),
+      {kikuchi +
+           [] {
+             std::string zoomed;
+             for (int i = 0; i < 12; ++i) zoomed += "click Zaxis.Command2\n";
+             return zoomed;
+           }(),
        "click Zaxis.Command2\nclick Zaxis.Command2\nprint Zaxis.MapScale",
        "the map can't be made larger: it would turn over", Outcome::Prints, "-.1000002\n", kikuchi},
       {silicon, "click PATTERN3.Command1\nprint PATTERN3.SolutionCount", "no lines are picked", Outcome::Ends, "",
@@ -285,8 +284,8 @@ const std::vector<Row>& rows() {
   return table;
 }
 
-// Each reason holds in its state, not in a healthy one, and tells the truth: what is done all the same ends the run, does
-// nothing, or gives what makes no sense.
+// Each reason holds in its state, not in a healthy one, and tells the truth: what is done all the same ends the run,
+// does nothing, or gives what makes no sense.
 TEST(GuardTable, ReasonsHoldAndTellTheTruth) {
   for (const Row& row : rows()) {
     SCOPED_TRACE(row.action);
@@ -386,7 +385,8 @@ TEST(Remarks, StandBesideWhatIsRightByRuleAlone) {
     ResultNotes notes(of.program);
     notes.update();
     const std::size_t dot = control.find('.');
-    EXPECT_EQ(notes.note_of(*of.program.windows().use(control.substr(0, dot)).find(control.substr(dot + 1))).line(), words);
+    EXPECT_EQ(notes.note_of(*of.program.windows().use(control.substr(0, dot)).find(control.substr(dot + 1))).line(),
+              words);
   }
 }
 
@@ -412,8 +412,8 @@ TEST(Origins, TellWhatHasChangedSince) {
   const std::string changed = "Silicon, 20 kV; crystal changed since";
   for (const auto& [operation, control, line] :
        {Step{silicon, "Main1.List2", ""}, Step{kikuchi, "Pattern2.Picture1", ""},
-        Step{"set Main1.Text1 5", "Main1.List2", "made for " + changed},
-        Step{"", "Main1.List1", "made for " + changed}, Step{"", "Pattern2.Picture1", "drawn for " + changed},
+        Step{"set Main1.Text1 5", "Main1.List2", "made for " + changed}, Step{"", "Main1.List1", "made for " + changed},
+        Step{"", "Pattern2.Picture1", "drawn for " + changed},
         // Drawn again from the old list it is no better.
         Step{"click Pattern2.Command8", "Pattern2.Picture1", "drawn for " + changed},
         Step{"set Main1.Text1 5.4307", "Pattern2.Picture1", ""},

@@ -27,6 +27,8 @@ AutoIndexForm::AutoIndexForm(Workbench& bench)
   Beside.set_on(true);
   Blend.set_range(0, 100);
   Blend.set_value(50);
+  Solutions.made_from = Origin{
+      {inputs::crystal(), {"radiation", {"AccVoltage"}}, inputs::settings({}, {&BandCount, &CircleMask})}, {&Index}};
 }
 
 void AutoIndexForm::name_fields() {

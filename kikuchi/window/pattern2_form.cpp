@@ -46,20 +46,20 @@ void Pattern2Form::declare_guards(const CrystalState& seen) {
   });
   List1.warn_row = [this, &seen](int row) {
     const auto& bands = seen.BandHKL;
-    const bool known = row >= 0 && row <= bands.upper_row() &&
-                       (bands(row, 0) != 0 || bands(row, 1) != 0 || bands(row, 2) != 0);
+    const bool known =
+        row >= 0 && row <= bands.upper_row() && (bands(row, 0) != 0 || bands(row, 1) != 0 || bands(row, 2) != 0);
     return when(!known, "the bands are those of a list that is gone: draw them again");
   };
   for (TextBox* box : {&Text2, &Text11, &Text12, &Text13}) whole_number(*box);
 }
 
 void Pattern2Form::declare_results() {
-  const Origin drawn{{inputs::settings({"CamAcquisition", "CamXShift", "CamYShift", "CamXYRatio", "PatternAngle", "ZoneU",
-                                        "ZoneV", "ZoneW"},
-                                       {&Text2, &Text19, &Text9, &Text10, &Option1, &Option2, &Check1, &Check3, &Check5,
-                                        &Check6})},
-                     {&Command8},
-                     "Main1.List2"};
+  const Origin drawn{
+      {inputs::settings(
+          {"CamAcquisition", "CamXShift", "CamYShift", "CamXYRatio", "PatternAngle", "ZoneU", "ZoneV", "ZoneW"},
+          {&Text2, &Text19, &Text9, &Text10, &Option1, &Option2, &Check1, &Check3, &Check5, &Check6})},
+      {&Command8},
+      "Main1.List2"};
   Picture1.made_from = drawn;
   List1.made_from = drawn.without_button();
   reads = {shared::radiation, shared::half_angle, shared::shifts, shared::zone_axis, shared::turn, shared::order};

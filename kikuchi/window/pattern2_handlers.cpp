@@ -101,8 +101,8 @@ void ask(Workbench& bench, const std::string& text, const std::string& title, co
          Single& value) {
   const std::string answer =
       bench.services.ask_text({"[" + plain_text(value) + text, title, "", [of_no_use](const std::string& typed) {
-                               return !typed.empty() && Val(typed) == 0 ? of_no_use : "";
-                             }});
+                                 return !typed.empty() && Val(typed) == 0 ? of_no_use : "";
+                               }});
   if (!answer.empty()) value = typed_number("the answer to \"" + title + '"', answer, to_single);
 }
 
@@ -292,7 +292,8 @@ void ImageClear_Click(Workbench& bench, Pattern2Form& form) {
 void Rpitch_Click(Workbench& bench, Pattern2Form& form) { ask_rotation_pitch(bench, form.RotationPitch); }
 
 void Spitch_Click(Workbench& bench, Pattern2Form& form) {
-  ask(bench, "] Input Shift Angle  (deg.)", "Shift Angle Pitch", "with 0 degrees the arrows shift nothing", form.ShiftPitch);
+  ask(bench, "] Input Shift Angle  (deg.)", "Shift Angle Pitch", "with 0 degrees the arrows shift nothing",
+      form.ShiftPitch);
 }
 
 void Zpitch_Click(Workbench& bench, Pattern2Form& form) {

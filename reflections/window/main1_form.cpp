@@ -38,8 +38,9 @@ void Main1Form::declare_guards(const Workbench& bench) {
     return when(seen.NAtom >= table_rows, "there are 200 atoms or more, for which the table has no room");
   };
   Command15.warn_when = [&seen] {
-    return first_of({when(seen.NAtom > 0, "the atoms are taken away, even by a cancel there"),
-                     when(seen.JcpdsCount >= table_rows, "there are 200 reflections, for which the table has no room")});
+    return first_of(
+        {when(seen.NAtom > 0, "the atoms are taken away, even by a cancel there"),
+         when(seen.JcpdsCount >= table_rows, "there are 200 reflections, for which the table has no room")});
   };
   Command11.warn_when = [&seen] { return when(seen.NAtom < 1, "there are no atoms"); };
   DATA_SAVE.warn_when = [&seen] {
@@ -62,12 +63,11 @@ void Main1Form::declare_guards(const Workbench& bench) {
 
 void Main1Form::declare_results() {
   List1.made_from = Origin{{inputs::crystal()}};
-  List2.made_from =
-      Origin{{inputs::crystal(),
-              {"radiation", inputs::radiation().fields, {&Option1, &Option2}},
-              inputs::settings({"Dmin"}, {&Check1, &Check2, &Check3, &Check4, &Check5, &Check6, &Check7, &Check8, &Check9,
-                                          &Text18, &Text19, &Text20})},
-             {&Command6}};
+  List2.made_from = Origin{{inputs::crystal(),
+                            {"radiation", inputs::radiation().fields, {&Option1, &Option2}},
+                            inputs::settings({"Dmin"}, {&Check1, &Check2, &Check3, &Check4, &Check5, &Check6, &Check7,
+                                                        &Check8, &Check9, &Text18, &Text19, &Text20})},
+                           {&Command6}};
   List1.remarks = [this] {
     auto words = site_remarks(state);
     for (auto& remark : words) remark = utf8_of_latin1(remark);

@@ -47,8 +47,9 @@ class Sign {
   /// An icon in a menu; in the menu bar that would stand in the place of the text.
   void sign_item(QAction& item) const {
     const auto places = item.associatedObjects();
-    const bool in_bar = std::any_of(places.begin(), places.end(),
-                                    [](const QObject* place) { return qobject_cast<const QMenuBar*>(place) != nullptr; });
+    const bool in_bar = std::any_of(places.begin(), places.end(), [](const QObject* place) {
+      return qobject_cast<const QMenuBar*>(place) != nullptr;
+    });
     if (in_bar) {
       const QString mark = QStringLiteral(" (!)");
       QString text = item.text().remove(mark);
@@ -89,8 +90,8 @@ class Advice::OfWindow : public QObject {
     if (foot_ == nullptr) return;
     QString text;
     for (const SharedPart part : window_.reads) {
-      const std::string words = part(advice_.program_.state());
-      if (!words.empty()) text += (text.isEmpty() ? QString() : QStringLiteral("   ")) + to_qt(words);
+      const QString& words = advice_.said_of(part);
+      if (!words.isEmpty()) text += (text.isEmpty() ? QString() : QStringLiteral("   ")) + words;
     }
     foot_->set_words(text);
   }
@@ -104,10 +105,12 @@ class Advice::OfWindow : public QObject {
       }
     };
     if (auto* list = dynamic_cast<NotedList*>(&shown)) {
-      lines_.emplace_back(&control, new NoteLine(*list, [list](int room) { list->set_note_room(room); }, again));
+      lines_.emplace_back(&control, new NoteLine(
+                                        *list, [list](int room) { list->set_note_room(room); }, again));
     }
     if (auto* view = qobject_cast<CanvasView*>(&shown)) {
-      lines_.emplace_back(&control, new NoteLine(*view, [view](int room) { view->set_note_room(room); }, again));
+      lines_.emplace_back(&control, new NoteLine(
+                                        *view, [view](int room) { view->set_note_room(room); }, again));
       view->set_caption([this, &control] { return to_qt(advice_.notes_.note_of(control).caption()); });
     }
   }
@@ -149,7 +152,14 @@ void Advice::add(Window& window, QWidget& top) { windows_[window.name()] = new O
 
 void Advice::remove(const Window& window) { windows_.erase(window.name()); }
 
+const QString& Advice::said_of(SharedPart part) {
+  const auto known = said_.find(part);
+  if (known != said_.end()) return known->second;
+  return said_[part] = to_qt(part(program_.state()));
+}
+
 void Advice::update() {
+  said_.clear();
   notes_.update();
   for (const auto& [name, window] : windows_) window->update();
 }

@@ -69,7 +69,7 @@ class CanvasView : public QWidget {
 
   Canvas* canvas_ = nullptr;
   UserEvents* events_ = nullptr;
-  bool pressed_ = false;  ///< inside the picture: what follows belongs to it, wherever the pointer goes
+  bool pressed_ = false;               ///< inside the picture: what follows belongs to it, wherever the pointer goes
   std::optional<QPointF> held_press_;  ///< of what may become a click that is warned of
   int note_room_ = 0;
   std::function<QString()> caption_;

@@ -69,7 +69,8 @@ class ComboTie : public ControlTie {
     view.setInsertPolicy(QComboBox::NoInsert);
     view.lineEdit()->setReadOnly(true);
     connect(&view, &QComboBox::activated, this, [this](int index) {
-      act({"select", combo_.path(), std::to_string(index)}, [this, index] { combo_.pick(index); },
+      act(
+          {"select", combo_.path(), std::to_string(index)}, [this, index] { combo_.pick(index); },
           [this, index] { return combo_.warn_row ? combo_.warn_row(index) : ""; });
     });
   }
@@ -126,7 +127,8 @@ class ListTie : public ControlTie {
   /// What extends the selection for a copy picks nothing.
   void pick(int row) {
     if (QApplication::keyboardModifiers() & (Qt::ControlModifier | Qt::ShiftModifier)) return;
-    act({"select", list_.path(), std::to_string(row)}, [this, row] { list_.pick(row); },
+    act(
+        {"select", list_.path(), std::to_string(row)}, [this, row] { list_.pick(row); },
         [this, row] { return list_.warn_row ? list_.warn_row(row) : ""; });
   }
   void show_again() override {
@@ -140,9 +142,8 @@ class ListTie : public ControlTie {
     auto* top = qobject_cast<QMainWindow*>(&owner().top);
     if (!list_.warn_row || top == nullptr) return;
     shown_.setMouseTracking(true);
-    connect(&shown_, &QListView::entered, this, [top](const QModelIndex& index) {
-      top->statusBar()->showMessage(index.data(Qt::ToolTipRole).toString());
-    });
+    connect(&shown_, &QListView::entered, this,
+            [top](const QModelIndex& index) { top->statusBar()->showMessage(index.data(Qt::ToolTipRole).toString()); });
   }
 
   ListBox& list_;

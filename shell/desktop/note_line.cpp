@@ -20,7 +20,8 @@ void draw_sign(QPainter& painter, const QRectF& place) {
   painter.setPen(QPen(Qt::black, 1));
   painter.setBrush(ground);
   const QRectF inside = place.adjusted(0.5, 0.5, -0.5, -0.5);
-  painter.drawPolygon(QPolygonF({QPointF(inside.center().x(), inside.top()), inside.bottomRight(), inside.bottomLeft()}));
+  painter.drawPolygon(
+      QPolygonF({QPointF(inside.center().x(), inside.top()), inside.bottomRight(), inside.bottomLeft()}));
   const double middle = inside.center().x();
   painter.drawLine(QPointF(middle, inside.top() + 3.5), QPointF(middle, inside.bottom() - 3));
   painter.drawPoint(QPointF(middle, inside.bottom() - 1.2));

@@ -1,8 +1,8 @@
 // What is to be said beside the lists and pictures of all windows: what each was made for, what has changed since, and
 // words beside results that are right by rule alone.
 //
-// Forms declare it (Control::made_from, Control::remarks). What has been noted goes with the contents of a control: where
-// an earlier contents comes back by undoing, its note does too.
+// Forms declare it (Control::made_from, Control::remarks). What has been noted goes with the contents of a control:
+// where an earlier contents comes back by undoing, its note does too.
 #pragma once
 
 #include <map>
@@ -25,8 +25,8 @@ class ResultNotes {
 
   /// Texts are UTF-8.
   struct Note {
-    std::string made;                           ///< as "drawn for Quartz, 20 kV"; empty where nothing is shown
-    std::string changed;                        ///< as "crystal and settings changed since"; empty where nothing has
+    std::string made;     ///< as "drawn for Quartz, 20 kV"; empty where nothing is shown
+    std::string changed;  ///< as "crystal and settings changed since"; empty where nothing has
     std::vector<std::string> remarks;
     std::vector<const CommandButton*> again;    ///< what makes it anew, one after the other; empty where it isn't old
     [[nodiscard]] std::string line() const;     ///< what is to be said now; empty: nothing
@@ -37,9 +37,9 @@ class ResultNotes {
  private:
   /// What something was made from.
   struct Made {
-    std::string what;                        ///< crystal and radiation
-    NamedValues::Copies fields;              ///< those of the origin
-    std::vector<std::string> controls;       ///< contents of its controls, one after the other
+    std::string what;                   ///< crystal and radiation
+    NamedValues::Copies fields;         ///< those of the origin
+    std::vector<std::string> controls;  ///< contents of its controls, one after the other
     std::shared_ptr<const Made> by_way_of;
   };
   struct Noted {

@@ -12,9 +12,9 @@ class Control;
 
 /// Some of it, under the word by which a change is told.
 struct Inputs {
-  std::string word;                          ///< as "crystal", "settings"
-  std::vector<std::string> fields = {};      ///< of the crystal state
-  std::vector<const Control*> controls = {}; ///< boxes, choices and sliders of any window
+  std::string word;                           ///< as "crystal", "settings"
+  std::vector<std::string> fields = {};       ///< of the crystal state
+  std::vector<const Control*> controls = {};  ///< boxes, choices and sliders of any window
 };
 
 struct Origin {

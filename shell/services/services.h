@@ -86,7 +86,9 @@ class Services {
   /// Asks for a text, modal. @returns the empty text when the user cancelled
   virtual std::string prompt(const std::string& text, const std::string& title) = 0;
   /// The same with what is known of the answers beforehand.
-  [[nodiscard]] virtual std::string ask_text(const PromptQuestion& question) { return prompt(question.text, question.title); }
+  [[nodiscard]] virtual std::string ask_text(const PromptQuestion& question) {
+    return prompt(question.text, question.title);
+  }
   /// Tells something, with an exclamation icon, modal.
   virtual void message(const std::string& text, const std::string& title) = 0;
 

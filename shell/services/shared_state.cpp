@@ -20,8 +20,8 @@ std::string number(double value) {
 
 std::string three(double a, double b, double c) { return number(a) + " " + number(b) + " " + number(c); }
 
-/// Whether the keys from a row on rise or fall throughout, but for what a sort by rounded keys leaves. Most lists are told
-/// after a few rows.
+/// Whether the keys from a row on rise or fall throughout, but for what a sort by rounded keys leaves. Most lists are
+/// told after a few rows.
 template <class Key>
 bool in_order(const CrystalState& state, int first, double direction, const Key& key) {
   constexpr double rounding = 1e-4;
@@ -47,9 +47,7 @@ std::string radiation(const CrystalState& state) {
 
 std::string half_angle(const CrystalState& state) { return "area " + number(state.CamAcquisition) + "°"; }
 
-std::string half_width(const CrystalState& state) {
-  return "half width " + number(state.CamAcquisition) + " Å⁻¹";
-}
+std::string half_width(const CrystalState& state) { return "half width " + number(state.CamAcquisition) + " Å⁻¹"; }
 
 std::string shifts(const CrystalState& state) {
   return "shifts " + number(state.CamXShift) + "°, " + number(state.CamYShift) + "°";

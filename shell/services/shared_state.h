@@ -12,14 +12,14 @@ using SharedPart = std::string (*)(const CrystalState& state);
 /// UTF-8. Each is empty where there is nothing to tell.
 namespace shared {
 
-std::string radiation(const CrystalState& state);            ///< voltage or wavelength, wavelength
-std::string half_angle(const CrystalState& state);           ///< CamAcquisition as the Kikuchi windows read it
-std::string half_width(const CrystalState& state);           ///< the same as spot pattern and fiber texture read it
-std::string shifts(const CrystalState& state);               ///< of the pattern centre
+std::string radiation(const CrystalState& state);   ///< voltage or wavelength, wavelength
+std::string half_angle(const CrystalState& state);  ///< CamAcquisition as the Kikuchi windows read it
+std::string half_width(const CrystalState& state);  ///< the same as spot pattern and fiber texture read it
+std::string shifts(const CrystalState& state);      ///< of the pattern centre
 std::string zone_axis(const CrystalState& state);
-std::string fiber_axis(const CrystalState& state);           ///< H, K, L
-std::string turn(const CrystalState& state);                 ///< PatternAngle
-std::string order(const CrystalState& state);                ///< of the reflection list
+std::string fiber_axis(const CrystalState& state);  ///< H, K, L
+std::string turn(const CrystalState& state);        ///< PatternAngle
+std::string order(const CrystalState& state);       ///< of the reflection list
 std::string smallest_d(const CrystalState& state);
 
 }  // namespace shared

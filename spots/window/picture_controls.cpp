@@ -48,9 +48,9 @@ void ask_spot_size(Workbench& bench) {
 void ask_rotation_pitch(Workbench& bench, Single& pitch) {
   const std::string answer =
       bench.services.ask_text({bracketed(pitch) + " Input Rotation Angle Minimum (deg.)", "Rotation Angle Pitch",
-                             "Degrees; with 0 nothing turns.", [](const std::string& typed) {
-                               return guard::when(!typed.empty() && Val(typed) == 0, "with 0 degrees nothing turns");
-                             }});
+                               "Degrees; with 0 nothing turns.", [](const std::string& typed) {
+                                 return guard::when(!typed.empty() && Val(typed) == 0, "with 0 degrees nothing turns");
+                               }});
   if (!answer.empty()) pitch = typed_number("the rotation angle pitch", answer, to_single);
 }
 
