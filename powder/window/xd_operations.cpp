@@ -71,7 +71,7 @@ void XdForm::declare(const Workbench& bench) {
     return first_of({no_curve(), when(Val(Text5.text()) == 0, "an intensity of 0 can't be drawn at full height")});
   };
   Picture1.warn_when = [this, no_curve] {
-    return first_of({no_curve(), when(PeakMax == 0, "\"Clear\" has taken the curve away: \"CALC\" first")});
+    return first_of({no_curve(), when(PeakMax == 0, R"("Clear" has taken the curve away: "CALC" first)")});
   };
   Picture1.warn_at = [this](double x, double /*y*/) {
     const std::string off_curve = failure_of([&] { return Profile(range().nearest(to_single(x))); });
