@@ -80,6 +80,9 @@ TEST_F(AdviceTest, SignsSayWhyAndAClickAsksFirst) {
   jcpds.setFocus(Qt::TabFocusReason);
   EXPECT_EQ(dynamic_cast<QMainWindow&>(widget("Main1")).statusBar()->currentMessage(),
             jcpds.property("warning").toString());
+  click("Main1", "Command15");
+  EXPECT_EQ(dynamic_cast<QMainWindow&>(widget("Main1")).statusBar()->currentMessage(), QString())
+      << "the reason has gone with the atoms";
 }
 
 // What is refused is shown as it was.
