@@ -80,6 +80,9 @@ TEST_F(AdviceTest, SignsSayWhyAndAClickAsksFirst) {
   jcpds.setFocus(Qt::TabFocusReason);
   EXPECT_EQ(dynamic_cast<QMainWindow&>(widget("Main1")).statusBar()->currentMessage(),
             jcpds.property("warning").toString());
+  click("Main1", "Command15");
+  EXPECT_EQ(dynamic_cast<QMainWindow&>(widget("Main1")).statusBar()->currentMessage(), QString())
+      << "the reason has gone with the atoms";
 }
 
 // What is refused is shown as it was.
@@ -99,7 +102,7 @@ TEST_F(AdviceTest, RefusedTextsAndChoicesGoBack) {
   emit axes.activated(5);
   EXPECT_EQ(axes.currentText(), QStringLiteral("abc"));
 
-  Pattern3Form& pattern = form<Pattern3Form>();
+  auto& pattern = form<Pattern3Form>();
   desktop.enter("a test", [&] {
     pattern.show();
     pattern.List1.add_item("    No. of solution = 0");
@@ -117,7 +120,7 @@ TEST_F(AdviceTest, RefusedTextsAndChoicesGoBack) {
 // A press waits for the drag; a click alone is asked for, a drag is not.
 TEST_F(AdviceTest, AClickThatWouldLayALineIsAskedFor) {
   agrees = false;
-  Pattern3Form& pattern = form<Pattern3Form>();
+  auto& pattern = form<Pattern3Form>();
   desktop.enter("a test", [&] { pattern.show(); });
   auto& picture = child<CanvasView>("PATTERN3", "Picture1");
   const QPoint at = picture.picture_rect().center().toPoint();
@@ -191,7 +194,7 @@ TEST_F(AdviceTest, SizesOfPicturesHaveTheBoundsThatAreTold) {
   load("Silicon.cry");
   for (const auto& [twips, fails] : {std::pair("122880", false), std::pair("123000", true)}) {
     services.answers = {twips};
-    Pattern2Form& pattern = form<Pattern2Form>();
+    auto& pattern = form<Pattern2Form>();
     std::string failure;
     try {
       pattern.Imagesize.click();

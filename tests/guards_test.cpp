@@ -117,12 +117,12 @@ std::vector<Action> actions_at(Control& control) {
       for (const std::string text : {"", "0", "1", "-3", "40000"}) {
         actions.push_back({"set " + path + " \"" + text + "\"", box.warn_text ? box.warn_text(text) : ""});
       }
-      actions.push_back({"type " + path + " \"\\r\"", reason});
+      actions.push_back({"type " + path + R"( "\r")", reason});
       actions.push_back({"leave " + path, ""});
       return actions;
     }
     case ControlKind::Grid:
-      return {{"type " + path + " \"\\r\"", reason}};
+      return {{"type " + path + R"( "\r")", reason}};
     case ControlKind::ComboBox:
     case ControlKind::ListBox: {
       const auto* list = dynamic_cast<ListBox*>(&control);
@@ -141,9 +141,7 @@ std::vector<Action> actions_at(Control& control) {
         const double x = scale.left + part * (scale.right - scale.left);
         const double y = scale.top + part * (scale.bottom - scale.top);
         const std::string place = path + " " + plain_text(x) + " " + plain_text(y);
-        std::string against = reason;
-        if (against.empty() && canvas.warn_at) against = canvas.warn_at(x, y);
-        actions.push_back({"press " + place + "\nrelease " + place, against});
+        actions.push_back({"press " + place + "\nrelease " + place, canvas.reason_against(x, y)});
       }
       if (canvas.on_double_click) actions.push_back({"press " + path + " 0.1 0.1\ndoubleclick " + path, reason});
       return actions;
@@ -181,7 +179,7 @@ std::string reason_against(Program& program, const std::string& operation) {
   if (verb == "press") {
     const auto& canvas = dynamic_cast<Canvas&>(control);
     words >> x >> y;
-    return canvas.warn_click ? canvas.warn_click() : (canvas.warn_at ? canvas.warn_at(x, y) : canvas.warn_when());
+    return canvas.warn_click ? canvas.warn_click() : canvas.reason_against(x, y);
   }
   return control.warn_when();
 }
@@ -217,16 +215,16 @@ const std::vector<Row>& rows() {
       {"rows 200", "click Main1.Command15", "there are 200 reflections, for which the table has no room", Outcome::Ends,
        "", ""},
       {"", "click InputAtom.Command1", "no space group has been chosen", Outcome::Ends},
-      {"cell InputAtom.G 200 7\n", "type InputAtom.G \"\\r\"", "this is the last cell: there is no next row",
+      {"cell InputAtom.G 200 7\n", R"(type InputAtom.G "\r")", "this is the last cell: there is no next row",
        Outcome::Ends, "", "cell InputAtom.G 200 6\n"},
       {"", "click AtomDistance.Command1\nprint AtomDistance.List1", "there are no atoms", Outcome::Prints, "",
        silicon + "set AtomDistance.Text1 3\n"},
-      {powder + "click Xd.Command2\n", "press Xd.Picture1 2 0.5", "\"Clear\" has taken the curve away: \"CALC\" first",
+      {powder + "click Xd.Command2\n", "press Xd.Picture1 2 0.5", R"("Clear" has taken the curve away: "CALC" first)",
        Outcome::Ends, "", powder},
       {powder + "set Xd.Text1 1\nset Xd.Text2 2\n", "press Xd.Picture1 4 0.5", "the curve does not reach to this place",
        Outcome::Ends, "", powder},
       {powder + "click Dring.Command2\n", "press Dring.Picture1 0.5 0.5",
-       "\"Clear\" has taken the curve away: \"CALC\" first", Outcome::Ends, "", powder},
+       R"("Clear" has taken the curve away: "CALC" first)", Outcome::Ends, "", powder},
       {powder + "set Xd.Text6 0\n", "click Xd.Command1", "division by zero: the crystallite size P is 0", Outcome::Ends,
        "", powder},
       {powder + "set Xd.Text3 0\n", "click Dring.Command1\nset Dring.Text3 0\nclick Dring.Command1", "",
@@ -234,7 +232,7 @@ const std::vector<Row>& rows() {
       {powder + "set Xd.Text1 2\nset Xd.Text2 2\n", "click Xd.Command1\nprint Xd.List1",
        "2theta.min and 2theta.max are the same", Outcome::Prints, "2-Theta   d     I/Io\n", powder},
       {"", "click Xd.Command6", "there is no curve yet: \"CALC\" makes one", Outcome::Ends, "", powder},
-      {powder + "set Xd.Text5 0\n", "type Xd.Text5 \"\\r\"", "an intensity of 0 can't be drawn at full height",
+      {powder + "set Xd.Text5 0\n", R"(type Xd.Text5 "\r")", "an intensity of 0 can't be drawn at full height",
        Outcome::Ends, "", powder},
       {silicon, "click Pattern.Command8", no_axis, Outcome::Ends, "", spots},
       {silicon + "set FiberTexture.Text5 0\n", "click FiberTexture.Command8", "the fiber direction H, K, L is 0 0 0",

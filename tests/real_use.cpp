@@ -40,6 +40,10 @@ void use_main_window(const User& user) {
   User::type_on(user.widget<QTableView>("InputAtom", "G"), "0.2");
   user.take_picture("InputAtom", "input-atom");
   user.click("InputAtom", "Command2");
+  when_asked<QMessageBox>([](QMessageBox& box) { QTest::keyClick(&box, Qt::Key_Return); });  // No
+  user.click("Main1", "Command15");
+  expect(user.lines("Main1", "List1") == 9, "the atoms are gone without a yes");
+  agree();
   user.click("Main1", "Command15");
   auto& table = user.widget<QTableView>("InputJCPDS", "G");
   User::type_on(table, "100\r1\r1\r1\r45\b6\r2\r0\r0\r20");
@@ -328,9 +332,12 @@ void walk(const User& user) {
 void fail(const User& user, std::string_view kind) {
   user.click("MAIN_MENU", "Command1");
   user.load_crystal("Quartz.cry");
-  when_asked<QMessageBox>([](QMessageBox& box) {
-    std::cout << box.text().toStdString() << '\n' << box.informativeText().toStdString() << std::endl;
-    QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+  when_asked<QMessageBox>([](QMessageBox& question) {
+    when_asked<QMessageBox>([](QMessageBox& box) {
+      std::cout << box.text().toStdString() << '\n' << box.informativeText().toStdString() << std::endl;
+      QTest::mouseClick(box.button(QMessageBox::Ok), Qt::LeftButton);
+    });
+    QTest::mouseClick(question.button(QMessageBox::Yes), Qt::LeftButton);
   });
   if (kind == "missing") return user.fill("Main1", {{"Text7", "260"}});
   expect(kind == "dialog", "there is no such kind of failure");
@@ -401,11 +408,11 @@ int main(int argc, char** argv) {
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // those of a desktop can't be filled in from here
   return zol::run_application(argc, argv, [&](zol::Desktop& desktop) {
     const zol::User user(desktop, files, pictures);
-    desktop.set_question([](const std::string& /*reason*/) { return true; });  // all the same
     const std::string_view mode = argc > 3 ? argv[2] : "";
     if (mode == "failure") {
       zol::fail(user, argv[3]);
     } else if (mode == "recovery") {
+      desktop.set_question([](const std::string& /*reason*/) { return true; });  // all the same
       zol::recover(user, argc, argv);
     } else {
       zol::walk(user);

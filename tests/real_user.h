@@ -20,6 +20,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QPointer>
 #include <QStatusBar>
@@ -82,6 +83,14 @@ inline void choose_file(const QString& path) {
     auto& name = *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
     name.setText(path);  // typed, it would open a list of completions at each letter
     QTest::keyClick(&name, Qt::Key_Return);
+  });
+}
+
+/// Says yes to the question whether something is to be done all the same.
+inline void agree() {
+  when_asked<QMessageBox>([](QMessageBox& box) {
+    expect(box.text().endsWith(QStringLiteral("Do it all the same?")), "asked was: " + box.text().toStdString());
+    QTest::mouseClick(box.button(QMessageBox::Yes), Qt::LeftButton);
   });
 }
 

@@ -73,6 +73,7 @@ void Pattern3Form::declare_guards(const Workbench& bench) {
     return when(begins_line, "a click without a drag lays the line to the corner");
   };
   for (TextBox* box : {&Text10, &Text11}) whole_number(*box);
+  Text2.warn_text = [](const std::string& text) { return when(Val(text) < 0, "no list has fewer than 0 reflections"); };
 }
 
 void Pattern3Form::name_fields() {

@@ -169,6 +169,9 @@ AutoIndexForm::AutoIndexForm(Workbench& bench)
   Beside.set_on(true);
   Blend.set_range(0, 100);
   Blend.set_value(50);
+  reads = {shared::radiation};
+  Solutions.made_from = Origin{
+      {inputs::crystal(), {"radiation", {"AccVoltage"}}, inputs::settings({}, {&BandCount, &CircleMask})}, {&Index}};
 }
 
 void AutoIndexForm::name_fields() {

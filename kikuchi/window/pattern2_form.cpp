@@ -44,7 +44,7 @@ void Pattern2Form::declare_guards(const CrystalState& seen) {
   warn({&Command13, &Text13}, [this, undrawn] {
     return first_of({undrawn(), when(all_zero({&Text11, &Text12, &Text13}), "h, k, l of the mark are 0 0 0")});
   });
-  List1.warn_row = [this, &seen](int row) {
+  List1.warn_row = [&seen](int row) {
     const auto& bands = seen.BandHKL;
     const bool known =
         row >= 0 && row <= bands.upper_row() && (bands(row, 0) != 0 || bands(row, 1) != 0 || bands(row, 2) != 0);

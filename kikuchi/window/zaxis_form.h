@@ -73,9 +73,8 @@ struct ZaxisForm : Window {
         return first_of({undrawn(), earlier ? earlier(text) : ""});
       };
     }
-    Picture1.made_from = Origin{
-        {inputs::crystal(),
-         inputs::settings({"ZoneU", "ZoneV", "ZoneW", "PatternAngle", "CamNormal", "OriginH", "OriginK", "OriginL"})}};
+    Picture1.made_from = Origin{{inputs::crystal(), inputs::settings({"ZoneU", "ZoneV", "ZoneW", "PatternAngle",
+                                                                      "CamNormal", "OriginH", "OriginK", "OriginL"})}};
     reads = {shared::zone_axis, shared::turn};
   }
 };

@@ -79,10 +79,12 @@ void DringForm::declare(const Workbench& bench) {
   warn({&Command1, &Command6, &Command7}, unmade);
   const auto no_curve = [this] { return when(Profile.upper() < 0, "there is no curve yet: \"CALC\" makes one"); };
   Command4.warn_when = no_curve;
-  Picture1.warn_at = [this, no_curve](double x, double /*y*/) {
+  Picture1.warn_when = [this, no_curve] {
+    return first_of({no_curve(), when(DisplayMax == 0, R"("Clear" has taken the curve away: "CALC" first)")});
+  };
+  Picture1.warn_at = [this](double x, double /*y*/) {
     const std::string off_curve = failure_of([&] { return Profile(nearest_ring_sample(DStarMax, to_single(x))); });
-    return first_of({no_curve(), when(DisplayMax == 0, "\"Clear\" has taken the curve away: \"CALC\" first"),
-                     off_curve.empty() ? "" : "the curve does not reach to this place"});
+    return when(!off_curve.empty(), "the curve does not reach to this place");
   };
   const Origin made{{inputs::settings({}, {&Text2, &Text3, &Text6, &Text7, &Text8, &Check1, &Check2, &Check3})},
                     {&Command2, &Command1},

@@ -70,10 +70,12 @@ void XdForm::declare(const Workbench& bench) {
   Text5.warn_when = [this, no_curve] {
     return first_of({no_curve(), when(Val(Text5.text()) == 0, "an intensity of 0 can't be drawn at full height")});
   };
-  Picture1.warn_at = [this, no_curve](double x, double /*y*/) {
+  Picture1.warn_when = [this, no_curve] {
+    return first_of({no_curve(), when(PeakMax == 0, R"("Clear" has taken the curve away: "CALC" first)")});
+  };
+  Picture1.warn_at = [this](double x, double /*y*/) {
     const std::string off_curve = failure_of([&] { return Profile(range().nearest(to_single(x))); });
-    return first_of({no_curve(), when(PeakMax == 0, "\"Clear\" has taken the curve away: \"CALC\" first"),
-                     off_curve.empty() ? "" : "the curve does not reach to this place"});
+    return when(!off_curve.empty(), "the curve does not reach to this place");
   };
   const Origin made{{inputs::settings({}, {&Text1, &Text2, &Text3, &Text4, &Text6, &Text7, &Text8})},
                     {&Command2, &Command1},

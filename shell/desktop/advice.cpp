@@ -28,9 +28,10 @@ class Sign {
   Sign(const Control& control, QObject& shown)
       : control_(control), shown_(shown), tool_tip_(shown.property("toolTip").toString()) {}
 
-  void update() {
+  void update(QStatusBar* status) {
     const QString reason = control_.warn_when ? to_qt(control_.warn_when()) : QString();
     if (reason == reason_) return;
+    if (status != nullptr && !reason_.isEmpty() && status->currentMessage() == reason_) status->showMessage(reason);
     reason_ = reason;
     shown_.setProperty(reason_property, reason);
     shown_.setProperty("statusTip", reason);
@@ -82,7 +83,8 @@ class Advice::OfWindow : public QObject {
 
   void update() {
     if (!top_.isVisible()) return;
-    for (Sign& sign : signs_) sign.update();
+    auto* top = qobject_cast<QMainWindow*>(&top_);
+    for (Sign& sign : signs_) sign.update(top == nullptr ? nullptr : top->statusBar());
     for (const auto& [control, line] : lines_) {
       const auto note = advice_.notes_.note_of(*control);
       line->set_note(to_qt(note.line()), !note.again.empty());
@@ -90,8 +92,8 @@ class Advice::OfWindow : public QObject {
     if (foot_ == nullptr) return;
     QString text;
     for (const SharedPart part : window_.reads) {
-      const std::string words = part(advice_.program_.state());
-      if (!words.empty()) text += (text.isEmpty() ? QString() : QStringLiteral("   ")) + to_qt(words);
+      const QString& words = advice_.said_of(part);
+      if (!words.isEmpty()) text += (text.isEmpty() ? QString() : QStringLiteral("   ")) + words;
     }
     foot_->set_words(text);
   }
@@ -152,7 +154,14 @@ void Advice::add(Window& window, QWidget& top) { windows_[window.name()] = new O
 
 void Advice::remove(const Window& window) { windows_.erase(window.name()); }
 
+const QString& Advice::said_of(SharedPart part) {
+  const auto known = said_.find(part);
+  if (known != said_.end()) return known->second;
+  return said_[part] = to_qt(part(program_.state()));
+}
+
 void Advice::update() {
+  said_.clear();
   notes_.update();
   for (const auto& [name, window] : windows_) window->update();
 }

@@ -6,6 +6,7 @@
 #include <string>
 
 #include <QObject>
+#include <QString>
 
 #include "shell/desktop/user_events.h"
 #include "shell/program/result_notes.h"
@@ -27,9 +28,13 @@ class Advice : public QObject {
  private:
   class OfWindow;
 
+  /// Asked once in each update, since it may walk through a long list.
+  const QString& said_of(SharedPart part);
+
   Program& program_;
   UserEvents& events_;
   ResultNotes notes_;
+  std::map<SharedPart, QString> said_;
   std::map<std::string, OfWindow*> windows_;  ///< each is a child of its top level
 };
 

@@ -198,12 +198,8 @@ void CanvasView::set_note_room(int pixels) {
 
 void CanvasView::press_at(const QPointF& position) {
   const QPointF at = user_position(position);
-  const auto reason = [this, at] {
-    const std::string of_all = canvas_->warn_when ? canvas_->warn_when() : "";
-    return of_all.empty() && canvas_->warn_at ? canvas_->warn_at(at.x(), at.y()) : of_all;
-  };
   events_->act(canvas_->window(), mouse_event("press", position, &Canvas::press),
-               {reason, [this] { pressed_ = false; }});
+               {[this, at] { return canvas_->reason_against(at.x(), at.y()); }, [this] { pressed_ = false; }});
 }
 
 /// What would be of no use as a click waits for the pointer to move.
@@ -227,8 +223,8 @@ void CanvasView::mouseMoveEvent(QMouseEvent* event) {
     const bool tells = inside && shows_something();
     events_->guard([&] {
       QString place = tells ? to_qt(canvas_->describe_place(at.x(), at.y())) : QString();
-      if (const auto reason = tells && canvas_->warn_at ? canvas_->warn_at(at.x(), at.y()) : ""; !reason.empty()) {
-        place += QStringLiteral("   (") + to_qt(reason) + u')';
+      if (const auto reason = inside ? canvas_->reason_against(at.x(), at.y()) : ""; !reason.empty()) {
+        place += (place.isEmpty() ? QString() : QStringLiteral("   ")) + u'(' + to_qt(reason) + u')';
       }
       emit pointed_at(place);
     });

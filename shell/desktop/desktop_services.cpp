@@ -143,7 +143,7 @@ std::string DesktopServices::ask_text(const PromptQuestion& question) {
   dialog.setTextEchoMode(QLineEdit::Normal);  // makes the box
   take_latin1_only(*dialog.findChild<QLineEdit*>());
   while (true) {
-    const std::string answer = dialog.exec() == QDialog::Accepted ? latin1_from_qt(dialog.textValue()) : "";
+    std::string answer = dialog.exec() == QDialog::Accepted ? latin1_from_qt(dialog.textValue()) : "";
     const std::string reason = question.warn_when ? question.warn_when(answer) : "";
     if (reason.empty() || ask_all_the_same(reason)) return answer;
   }

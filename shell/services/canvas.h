@@ -109,6 +109,11 @@ class Canvas : public Control {
 
   std::function<std::string(double x, double y)> warn_at = {};  ///< why it should not be pressed at this place
   Reason warn_click = {};                                       ///< against a press without a drag
+  /// Against a press at a place, of the whole picture or of this place.
+  [[nodiscard]] std::string reason_against(double x, double y) const {
+    const std::string of_all = warn_when ? warn_when() : "";
+    return of_all.empty() && warn_at ? warn_at(x, y) : of_all;
+  }
 
   // What a view shows beside the picture
   std::optional<Axis> x_axis, y_axis;                             ///< rulers, where the picture is a curve

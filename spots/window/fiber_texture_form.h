@@ -17,9 +17,12 @@ struct FiberTextureForm : SpotsForm {
     const auto direction = [&seen] {
       return when(seen.OriginH == 0 && seen.OriginK == 0 && seen.OriginL == 0, "the fiber direction H, K, L is 0 0 0");
     };
-    declare([&seen, direction] { return first_of({no_cell(seen), no_reflections(seen, 2), direction()}); },
-            {&Imagesize, &Fsize},
-            {.inputs = {inputs::settings({"OriginH", "OriginK", "OriginL", "Dispersion"})}, .by_way_of = "Main1.List2"});
+    declare(
+        [&seen, direction] {
+          return first_of({no_cell(seen), no_reflections(seen, 2), direction()});
+        },
+        {&Imagesize, &Fsize},
+        {.inputs = {inputs::settings({"OriginH", "OriginK", "OriginL", "Dispersion"})}, .by_way_of = "Main1.List2"});
     Spotsize.warn_when = [] { return "it draws the spot pattern, not this one"; };
     for (TextBox* index : {&Text3, &Text4, &Text5}) whole_number(*index);
     reads = {shared::radiation, shared::half_width, shared::fiber_axis, shared::turn, shared::order};

@@ -13,10 +13,13 @@ struct PatternForm : SpotsForm {
   explicit PatternForm(Workbench& bench) : SpotsForm(bench, window_name, "ED PATTERN", {"u=", "v=", "w="}, 8500, 2) {
     using namespace guard;
     const CrystalState& seen = bench.seen();
-    declare([&seen] { return first_of({no_cell(seen), no_zone_axis(seen)}); },
-            {&Command5, &Command14, &Command4, &Command13, &Spotsize, &Fsize},
-            {{inputs::crystal(), inputs::radiation(),
-              inputs::settings({"ZoneU", "ZoneV", "ZoneW", "Level"}, {&Option1, &Option2})}});
+    declare(
+        [&seen] {
+          return first_of({no_cell(seen), no_zone_axis(seen)});
+        },
+        {&Command5, &Command14, &Command4, &Command13, &Spotsize, &Fsize},
+        {{inputs::crystal(), inputs::radiation(),
+          inputs::settings({"ZoneU", "ZoneV", "ZoneW", "Level"}, {&Option1, &Option2})}});
     whole_number(Text2);
     reads = {shared::radiation, shared::half_width, shared::zone_axis, shared::turn};
   }
