@@ -16,8 +16,8 @@ namespace detail {
 void leave_alone(std::thread thread);
 }  // namespace detail
 
-/// Runs the work on another thread and checks the task meanwhile. When the task stops, the work is left to itself: it has
-/// to own all that it uses. What it throws is thrown here.
+/// Runs the work on another thread and checks the task meanwhile. When the task stops, the work is left to itself: it
+/// has to own all that it uses. What it throws is thrown here.
 template <class Result>
 [[nodiscard]] Result run_aside(Task& task, std::function<Result()> work) {
   constexpr auto between_checks = std::chrono::milliseconds(5);

@@ -367,9 +367,8 @@ const CifBlock& block_of(const std::vector<const CifBlock*>& blocks, const std::
 Reading read_cif(std::string_view bytes, const ImportAnswers& answers, Task& task) {
   constexpr std::size_t takes_long = 1U << 20U;  // bytes: some 20 ms
   const CifDocument document =
-      bytes.size() < takes_long
-          ? parse_cif(bytes)
-          : run_aside<CifDocument>(task, [text = std::string(bytes)] { return parse_cif(text); });
+      bytes.size() < takes_long ? parse_cif(bytes)
+                                : run_aside<CifDocument>(task, [text = std::string(bytes)] { return parse_cif(text); });
   std::vector<const CifBlock*> blocks;
   for (const auto& block : document.blocks) {
     if (has_atoms(block)) blocks.push_back(&block);

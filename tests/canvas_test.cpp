@@ -54,8 +54,8 @@ TEST_F(CanvasTest, ListsWhatIsDrawnFromItsPosition) {
   canvas.set_solid_fill(false);
   canvas.circle(7, 8, 2);
   const DrawingList wanted{{UserScale{0, 0, 50, 100}},         {DrawnLine{1, 2, 3, 4, red}},
-                                      {DrawnLine{3, 4, 5, 6, 0}},         {DrawnCircle{7, 8, 2, 0, red}},
-                                      {DrawnText{7, 8, 0, "text", 8.25}}, {DrawnCircle{7, 8, 2, 0, std::nullopt}}};
+                           {DrawnLine{3, 4, 5, 6, 0}},         {DrawnCircle{7, 8, 2, 0, red}},
+                           {DrawnText{7, 8, 0, "text", 8.25}}, {DrawnCircle{7, 8, 2, 0, std::nullopt}}};
   EXPECT_TRUE(canvas.drawing() == wanted);
   EXPECT_DOUBLE_EQ(dynamic_cast<FakeSurface&>(canvas.stored_image()).last_radius, 4) << "by the scale of x";
 }

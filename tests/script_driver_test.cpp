@@ -199,9 +199,10 @@ TEST(ScriptProgram, EndsWithItsStatusAndTellsWhatIsLost) {
   const std::string full = "zol-script: can't write to standard output: No space left on device\n";
   const std::string stopped = "zol-script: stopped by a signal\n";
   folder.write("a.zs", "echo a\n");
-  folder.write("long.zs", "echo begun\nshow Main1\nset Main1.Text1 9\nset Main1.Text2 9\nset Main1.Text3 9\n"
-                          "set Main1.Text4 90\nset Main1.Text5 90\nset Main1.Text6 90\nset Main1.Text7 1\n"
-                          "set Main1.Text15 .12\nclick Main1.Command6\necho over\n");
+  folder.write("long.zs",
+               "echo begun\nshow Main1\nset Main1.Text1 9\nset Main1.Text2 9\nset Main1.Text3 9\n"
+               "set Main1.Text4 90\nset Main1.Text5 90\nset Main1.Text6 90\nset Main1.Text7 1\n"
+               "set Main1.Text15 .12\nclick Main1.Command6\necho over\n");
   for (const auto& [command, status, error] :
        {Row{"echo 'click MAIN_MENU.Command5\njump' | $zol", 0, ""},
         {"$zol --help", 0, ""},

@@ -158,7 +158,8 @@ TEST(Estimates, AskBeforeWhatTakesMinutesOrMuchMemoryAlone) {
     return state;
   };
   const auto list = [&](Single dmin) {
-    return [state = at(&CrystalState::Dmin, dmin)](Task& t) { (void)reflection_list(state, full_sphere, electrons, t); };
+    return
+        [state = at(&CrystalState::Dmin, dmin)](Task& t) { (void)reflection_list(state, full_sphere, electrons, t); };
   };
   const auto spots = [&](Single half_width) {
     return [state = at(&CrystalState::CamAcquisition, half_width)](Task& t) {
@@ -205,19 +206,20 @@ TEST(Estimates, AskBeforeWhatTakesMinutesOrMuchMemoryAlone) {
     bool asked;
     std::function<void(Task&)> run;
   };
-  for (const auto& [name, asked, run] : std::initializer_list<Row>{{"list to 1", false, list(1)},
-                                                                   {"list to 0.02", true, list(0.02F)},
-                                                                   {"few spots", false, spots(1)},
-                                                                   {"very many spots", true, spots(3000)},
-                                                                   {"map to 3", false, map(3)},
-                                                                   {"map to 400", true, map(400)},
-                                                                   {"powder", false, powder(4)},
-                                                                   {"powder of a million lines", true, powder(1000000)},
-                                                                   {"distances in the cells around", true, distances(99)},
-                                                                   {"few triples", false, matching(3)},
-                                                                   {"1200^3 triples", true, matching(1200)},
-                                                                   {"narrow arcs", false, arcs_of(4, 10)},
-                                                                   {"wide arcs of many", true, arcs_of(100000, 1e6)}}) {
+  for (const auto& [name, asked, run] :
+       std::initializer_list<Row>{{"list to 1", false, list(1)},
+                                  {"list to 0.02", true, list(0.02F)},
+                                  {"few spots", false, spots(1)},
+                                  {"very many spots", true, spots(3000)},
+                                  {"map to 3", false, map(3)},
+                                  {"map to 400", true, map(400)},
+                                  {"powder", false, powder(4)},
+                                  {"powder of a million lines", true, powder(1000000)},
+                                  {"distances in the cells around", true, distances(99)},
+                                  {"few triples", false, matching(3)},
+                                  {"1200^3 triples", true, matching(1200)},
+                                  {"narrow arcs", false, arcs_of(4, 10)},
+                                  {"wide arcs of many", true, arcs_of(100000, 1e6)}}) {
     EXPECT_EQ(is_asked_about(run), asked) << name;
   }
 }

@@ -43,7 +43,8 @@ struct Kind {
   double minute_long = false;
 };
 
-/// Presses Esc on the keyboard of the X server, from its own thread, a while after it has been told that the bar is there.
+/// Presses Esc on the keyboard of the X server, from its own thread, a while after it has been told that the bar is
+/// there.
 class Finger {
  public:
   Finger() : keyboard_(popen("xdotool -", "w")), thread_([this] { run(); }) {}
@@ -285,39 +286,54 @@ void make_files(const std::string& folder) {
 
 #define MUSCOVITE "show Main1\nanswer data/ZOLDATA/Muscovite.cry\nclick Main1.DATA_LOAD\n"
 #define LIST(d) "set Main1.Text15 " d "\nclick Main1.Command6\n"
-#define THREE_BANDS                                                                                            \
-  "press PATTERN3.Picture1 100 100\nmove PATTERN3.Picture1 200 300\nrelease PATTERN3.Picture1 200 300\n"       \
-  "press PATTERN3.Picture1 300 100\nmove PATTERN3.Picture1 200 400\nrelease PATTERN3.Picture1 200 400\n"       \
+#define THREE_BANDS                                                                                      \
+  "press PATTERN3.Picture1 100 100\nmove PATTERN3.Picture1 200 300\nrelease PATTERN3.Picture1 200 300\n" \
+  "press PATTERN3.Picture1 300 100\nmove PATTERN3.Picture1 200 400\nrelease PATTERN3.Picture1 200 400\n" \
   "press PATTERN3.Picture1 50 100\nmove PATTERN3.Picture1 400 120\nrelease PATTERN3.Picture1 400 120\n"
 
 const std::vector<Kind>& kinds() {
   static const std::vector<Kind> all{
       {"reflection list, muscovite to 0.12 Å", MUSCOVITE "set Main1.Text15 0.12", "click Main1.Command6"},
-      {"powder pattern, crystallites of 60 x 40 x 20 cells", MUSCOVITE "choose Main1.Combo1 CuKa\n" LIST("0.771")
-       "click Main1.Command7\nset Xd.Text6 60\nset Xd.Text7 40\nset Xd.Text8 20",
+      {"powder pattern, crystallites of 60 x 40 x 20 cells",
+       MUSCOVITE "choose Main1.Combo1 CuKa\n" LIST(
+           "0.771") "click Main1.Command7\nset Xd.Text6 60\nset Xd.Text7 40\nset Xd.Text8 20",
        "click Xd.Command1"},
-      {"Debye rings, crystallites of 60 x 40 x 20 cells", MUSCOVITE LIST("0.6")
-       "click Main1.Command8\nset Dring.Text6 60\nset Dring.Text7 40\nset Dring.Text8 20",
+      {"Debye rings, crystallites of 60 x 40 x 20 cells",
+       MUSCOVITE LIST("0.6") "click Main1.Command8\nset Dring.Text6 60\nset Dring.Text7 40\nset Dring.Text8 20",
        "click Dring.Command1"},
-      {"triple table of a long list", MUSCOVITE LIST("0.15")
-       "show PATTERN3\nset PATTERN3.Text2 1200", "leave PATTERN3.Text2"},
-      {"matching of 1200³ triples", MUSCOVITE LIST("0.4") "show PATTERN3\nset PATTERN3.Text2 1200\nleave PATTERN3.Text2\n"
-       THREE_BANDS "set PATTERN3.Text1 0.3\nclick PATTERN3.Check1", "click PATTERN3.Command1"},
-      {"adjustment of the detector", MUSCOVITE LIST("1") "show PATTERN3\nset PATTERN3.Text2 20\nleave PATTERN3.Text2\n"
-       THREE_BANDS "set PATTERN3.Text1 30\nclick PATTERN3.Command1\nclick PATTERN3.CP_Setting_Show\n"
-       "set PATTERN3.Text10 10", "click PATTERN3.Command15"},
-      {"spot pattern of a wide zone", MUSCOVITE LIST("1") "click Main1.Command9\n"
-       "set Pattern.Text3 0\nset Pattern.Text4 1\nset Pattern.Text5 0\nset Pattern.Text1 60", "click Pattern.Command8"},
-      {"fiber texture of wide arcs", MUSCOVITE LIST("1") "click Main1.Command12\nset FiberTexture.Text3 0\n"
-       "set FiberTexture.Text4 0\nset FiberTexture.Text5 1\nset FiberTexture.Text1 3\nset FiberTexture.Text2 3000",
+      {"triple table of a long list", MUSCOVITE LIST("0.15") "show PATTERN3\nset PATTERN3.Text2 1200",
+       "leave PATTERN3.Text2"},
+      {"matching of 1200³ triples",
+       MUSCOVITE LIST("0.4") "show PATTERN3\nset PATTERN3.Text2 1200\nleave PATTERN3.Text2\n" THREE_BANDS
+                             "set PATTERN3.Text1 0.3\nclick PATTERN3.Check1",
+       "click PATTERN3.Command1"},
+      {"adjustment of the detector",
+       MUSCOVITE LIST("1") "show PATTERN3\nset PATTERN3.Text2 20\nleave PATTERN3.Text2\n" THREE_BANDS
+                           "set PATTERN3.Text1 30\nclick PATTERN3.Command1\nclick PATTERN3.CP_Setting_Show\n"
+                           "set PATTERN3.Text10 10",
+       "click PATTERN3.Command15"},
+      {"spot pattern of a wide zone",
+       MUSCOVITE LIST("1") "click Main1.Command9\n"
+                           "set Pattern.Text3 0\nset Pattern.Text4 1\nset Pattern.Text5 0\nset Pattern.Text1 60",
+       "click Pattern.Command8"},
+      {"fiber texture of wide arcs",
+       MUSCOVITE LIST("1") "click Main1.Command12\nset FiberTexture.Text3 0\n"
+                           "set FiberTexture.Text4 0\nset FiberTexture.Text5 1\nset FiberTexture.Text1 3\nset "
+                           "FiberTexture.Text2 3000",
        "click FiberTexture.Command8"},
-      {"Kikuchi pattern of a long list", MUSCOVITE "choose Main1.Combo1 200\n" LIST("0.12") "click Main1.Command10\n"
-       "set Pattern2.Text3 1\nset Pattern2.Text4 1\nset Pattern2.Text5 3\nset Pattern2.Text2 -1\n",
+      {"Kikuchi pattern of a long list",
+       MUSCOVITE "choose Main1.Combo1 200\n" LIST(
+           "0.12") "click Main1.Command10\n"
+                   "set Pattern2.Text3 1\nset Pattern2.Text4 1\nset Pattern2.Text5 3\nset Pattern2.Text2 -1\n",
        "click Pattern2.Command8"},
-      {"zone axis map to 90 90 90", MUSCOVITE LIST("1") "click Main1.Command10\n"
-       "set Pattern2.Text3 1\nset Pattern2.Text4 1\nset Pattern2.Text5 3\nclick Pattern2.Command8\nshow Zaxis\n"
-       "set Zaxis.Text1 90\nset Zaxis.Text2 90\nset Zaxis.Text3 90", "click Zaxis.Check2"},
-      {"atom distances to 40 Å", "show Main1\nanswer FOLDER/many.cry\nclick Main1.DATA_LOAD\nclick Main1.Command11\n"
+      {"zone axis map to 90 90 90",
+       MUSCOVITE LIST("1") "click Main1.Command10\n"
+                           "set Pattern2.Text3 1\nset Pattern2.Text4 1\nset Pattern2.Text5 3\nclick "
+                           "Pattern2.Command8\nshow Zaxis\n"
+                           "set Zaxis.Text1 90\nset Zaxis.Text2 90\nset Zaxis.Text3 90",
+       "click Zaxis.Check2"},
+      {"atom distances to 40 Å",
+       "show Main1\nanswer FOLDER/many.cry\nclick Main1.DATA_LOAD\nclick Main1.Command11\n"
        "set AtomDistance.Text1 40",
        "click AtomDistance.Command1"},
       {"import of a CIF", "show Main1\nanswer FOLDER/large.cif", "click Main1.ImportStructure"},
@@ -327,7 +343,8 @@ const std::vector<Kind>& kinds() {
        "click PATTERN3.ImageFlip"},
       {"corrector of a picture", "show PATTERN3\nanswer examples/silicon-pattern.bmp\nclick PATTERN3.ImageLoad",
        "click PATTERN3.Command4"},
-      {"indexing, twelve crystals", "show Main1\nanswer data/ZOLDATA/Silicon.cry\nclick Main1.DATA_LOAD\n"
+      {"indexing, twelve crystals",
+       "show Main1\nanswer data/ZOLDATA/Silicon.cry\nclick Main1.DATA_LOAD\n"
        "show PATTERN3\nset PATTERN3.Text3 33\nanswer examples/silicon-pattern.bmp\nclick PATTERN3.ImageLoad\n"
        "click PATTERN3.AutomaticIndexing\n"
        "answer data/ZOLDATA/Muscovite.cry\nclick AutoIndex.AddCrystal\nanswer data/ZOLDATA/Dickite.cry\n"
@@ -337,16 +354,23 @@ const std::vector<Kind>& kinds() {
        "answer data/ZOLDATA/Barite.cry\nclick AutoIndex.AddCrystal\nanswer data/ZOLDATA/Quartz.cry\n"
        "click AutoIndex.AddCrystal\nanswer data/ZOLDATA/Coesite.cry\nclick AutoIndex.AddCrystal\n"
        "answer data/ZOLDATA/Forsterite.cry\nclick AutoIndex.AddCrystal\nanswer data/ZOLDATA/Pyrophyllite.cry\n"
-       "click AutoIndex.AddCrystal", "click AutoIndex.Index"},
-      {"indexing, many families", "show Main1\nanswer data/ZOLDATA/Muscovite.cry\nclick Main1.DATA_LOAD\n"
+       "click AutoIndex.AddCrystal",
+       "click AutoIndex.Index"},
+      {"indexing, many families",
+       "show Main1\nanswer data/ZOLDATA/Muscovite.cry\nclick Main1.DATA_LOAD\n"
        "show PATTERN3\nset PATTERN3.Text3 33\nanswer examples/silicon-pattern.bmp\nclick PATTERN3.ImageLoad\n"
-       "click PATTERN3.AutomaticIndexing\nset AutoIndex.FamilyCount 400", "click AutoIndex.Index"},
-      {"indexing of a large picture", "show Main1\nanswer data/ZOLDATA/Silicon.cry\nclick Main1.DATA_LOAD\n"
+       "click PATTERN3.AutomaticIndexing\nset AutoIndex.FamilyCount 400",
+       "click AutoIndex.Index"},
+      {"indexing of a large picture",
+       "show Main1\nanswer data/ZOLDATA/Silicon.cry\nclick Main1.DATA_LOAD\n"
        "show PATTERN3\nset PATTERN3.Text3 33\nanswer FOLDER/large.png\nclick PATTERN3.ImageLoad\n"
-       "click PATTERN3.AutomaticIndexing", "click AutoIndex.Index"},
-      {"fitting the pattern centre", "show Main1\nanswer data/ZOLDATA/Silicon.cry\nclick Main1.DATA_LOAD\n"
+       "click PATTERN3.AutomaticIndexing",
+       "click AutoIndex.Index"},
+      {"fitting the pattern centre",
+       "show Main1\nanswer data/ZOLDATA/Silicon.cry\nclick Main1.DATA_LOAD\n"
        "show PATTERN3\nset PATTERN3.Text3 33\nanswer examples/silicon-pattern.bmp\nclick PATTERN3.ImageLoad\n"
-       "click PATTERN3.AutomaticIndexing", "click AutoIndex.RefineCentre"},
+       "click PATTERN3.AutomaticIndexing",
+       "click AutoIndex.RefineCentre"},
       {"printing a long list", MUSCOVITE LIST("0.2") "answer FOLDER/list.pdf", "click Main1.Command5"},
       {"a long list to a file", MUSCOVITE LIST("0.12") "answer FOLDER/list.txt", "click Main1.Command4"},
   };
@@ -363,10 +387,14 @@ int main(int argc, char** argv) {
   std::string only, folder = ".";
   for (int i = 1; i < argc; ++i) {
     const std::string word = argv[i];
-    if (word == "--times" && i + 1 < argc) times = std::stoi(argv[++i]);
-    else if (word == "--only" && i + 1 < argc) only = argv[++i];
-    else if (word == "--no-whole-runs") whole_runs = false;
-    else folder = word;
+    if (word == "--times" && i + 1 < argc)
+      times = std::stoi(argv[++i]);
+    else if (word == "--only" && i + 1 < argc)
+      only = argv[++i];
+    else if (word == "--no-whole-runs")
+      whole_runs = false;
+    else
+      folder = word;
   }
   int count = 1;
   const GuardedApplication application(count, argv);
@@ -375,8 +403,10 @@ int main(int argc, char** argv) {
   make_files(folder);
   std::mt19937 random(1);
   std::uniform_real_distribution<double> moment(0, 1000);
-  std::cout << "| Work | whole run (s) | estimate (s, MB) | gap (ms) | behind it (ms) | Esc to the end (ms) | and painted "
-               "(ms) | as before |\n|---|---|---|---|---|---|---|---|\n" << std::flush;
+  std::cout
+      << "| Work | whole run (s) | estimate (s, MB) | gap (ms) | behind it (ms) | Esc to the end (ms) | and painted "
+         "(ms) | as before |\n|---|---|---|---|---|---|---|---|\n"
+      << std::flush;
   for (const Kind& kind : kinds()) {
     if (std::string(kind.name).find(only) == std::string::npos) continue;
     try {
