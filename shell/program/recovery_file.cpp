@@ -97,9 +97,9 @@ std::optional<HeldLock> HeldLock::take(const std::string& path) {
   const int descriptor = open(path.c_str(), O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
   if (descriptor < 0 && errno != ENOENT) return std::nullopt;
   HeldLock held(path, descriptor);
-  if (descriptor < 0) return std::optional(std::move(held));
+  if (descriptor < 0) return held;
   if (!zol::lock(descriptor, LOCK_EX | LOCK_NB)) return std::nullopt;
-  return std::optional(std::move(held));
+  return held;
 }
 
 HeldLock HeldLock::make(const std::string& folder) {
