@@ -1,7 +1,8 @@
 #include "core/run_aside.h"
 
+#include <deque>
 #include <mutex>
-#include <vector>
+#include <utility>
 
 namespace zol::detail {
 
@@ -14,11 +15,15 @@ void leave_alone(std::thread thread) {
       for (auto& one : threads) one.join();
     }
     std::mutex mutex;
-    std::vector<std::thread> threads;
+    std::deque<std::thread> threads;
   };
   static Left left;
+  constexpr std::size_t most = 8;  // beyond, the first one is waited for: by then it is over
   const std::lock_guard lock(left.mutex);
   left.threads.push_back(std::move(thread));
+  if (left.threads.size() <= most) return;
+  left.threads.front().join();
+  left.threads.pop_front();
 }
 
 }  // namespace zol::detail

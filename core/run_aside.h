@@ -12,7 +12,7 @@
 namespace zol {
 
 namespace detail {
-/// Keeps a thread whose result nobody waits for until it has come to its end, at the latest with the program.
+/// Keeps a thread whose result nobody waits for until it has come to its end.
 void leave_alone(std::thread thread);
 }  // namespace detail
 

@@ -4,8 +4,11 @@
 
 #include <atomic>
 #include <memory>
+#include <thread>
 #include <utility>
 #include <vector>
+
+#include "core/run_aside.h"
 
 namespace zol {
 
@@ -14,6 +17,14 @@ template <class T, class Container = std::vector<T>>
 class SharedVector {
  public:
   SharedVector() = default;
+  SharedVector(const SharedVector&) = default;
+  SharedVector& operator=(const SharedVector& other) {
+    if (elements_ == other.elements_) return *this;
+    let_go();
+    elements_ = other.elements_;
+    return *this;
+  }
+  ~SharedVector() { let_go(); }
 
   [[nodiscard]] const Container& get() const { return *elements_; }
   operator const Container&() const { return *elements_; }  // NOLINT(google-explicit-constructor)
@@ -41,9 +52,17 @@ class SharedVector {
     own().emplace_back(std::forward<Args>(args)...);
   }
   void push_back(T element) { own().push_back(std::move(element)); }
-  void clear() { elements_ = std::make_shared<Container>(); }
+  void clear() { *this = SharedVector(); }
 
  private:
+  /// To free a million texts takes a tenth of a second: no one waits for that.
+  void let_go() {
+    constexpr std::size_t many = 100000;
+    if (elements_.use_count() == 1 && elements_->size() > many) {
+      detail::leave_alone(std::thread([elements = std::move(elements_)] {}));
+    }
+  }
+
   std::shared_ptr<Container> elements_ = std::make_shared<Container>();
 };
 

@@ -136,9 +136,9 @@ Effort effort_of_spots(const CrystalState& state, const ZoneFrame& frame) {
   const double width = 4 * frame.half_width;
   const double spots = axis_length > 0 ? width * width * double{state.CellVolume} / axis_length : 0;
   constexpr double of_pair = 1.2e-8;
-  constexpr double of_spot = 3e-6;
-  constexpr double of_atom = 1.4e-8;
-  constexpr double bytes_of_spot = 200;
+  constexpr double of_spot = 1e-6;
+  constexpr double of_atom = 1e-8;
+  constexpr double bytes_of_spot = 120;
   return {pairs * of_pair + spots * (of_spot + of_atom * state.NCell.value()), spots * bytes_of_spot};
 }
 

@@ -12,7 +12,7 @@ class ScriptStopped : public std::exception {
   [[nodiscard]] const char* what() const noexcept override { return "the script was stopped by a signal"; }
 };
 
-/// From now on the signals are taken, unless they have been ignored; the same one a second time ends the process.
+/// From now on the signals are taken, unless they have been ignored; one more, two seconds later, ends the process.
 void take_stop_signals();
 
 /// The signal that has come; 0: none.

@@ -99,6 +99,7 @@ class Watched : public DesktopServices {
     const auto asked = Clock::now();
     note_gap(asked);
     const bool stop = DesktopServices::stop_wanted();
+    stopped = stopped || stop;
     if (!bar_seen && ms_between(began, asked) > 1000) find_bar();
     asked_last = Clock::now();
     return stop;
@@ -110,7 +111,7 @@ class Watched : public DesktopServices {
   void start() {
     began = asked_last = Clock::now();
     longest_gap = 0;
-    bar_seen = false;
+    bar_seen = stopped = false;
     expected = {};
   }
 
@@ -120,6 +121,7 @@ class Watched : public DesktopServices {
   Clock::time_point began, asked_last;
   double longest_gap = 0;
   bool bar_seen = false;
+  bool stopped = false;
   Effort expected;
 
  private:
@@ -147,7 +149,7 @@ struct Measured {
   double gap_ms = 0;     ///< the longest between two questions whether to stop
   double behind_ms = 0;  ///< from the last one to the end of the event and of the repaint
   bool pressed = false;
-  bool as_before = true;
+  bool as_before = true;  ///< unless the work was over just before the key
   Effort expected;
 };
 
@@ -191,7 +193,7 @@ class Bench {
       measured.pressed = true;
       measured.answer_ms = ms_between(finger->pressed_at(), end);
       measured.painted_ms = ms_between(finger->pressed_at(), painted);
-      measured.as_before = same_work(*before, *program_.snapshot());
+      measured.as_before = !services_.stopped || same_work(*before, *program_.snapshot());
     }
     if (!failure_.empty()) throw std::runtime_error(line + ": " + failure_);
     return measured;
