@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 
 #include "core/number_text.h"
 
@@ -61,7 +62,7 @@ Effort effort_of_distances(const Module1State& crystal, const DistanceCell& cell
   const double oblique = 1 - cosines + 2 * double{cell.CosAlpha} * double{cell.CosBeta} * double{cell.CosGamma};
   const double volume =
       double{cell.CellA} * double{cell.CellB} * double{cell.CellC} * std::sqrt(std::max(0.0, oblique));
-  const double sphere = 4.0 / 3.0 * 3.14159265 * std::pow(std::max(0.0, double{limit}), 3);
+  const double sphere = 4.0 / 3.0 * std::numbers::pi * std::pow(std::max(0.0, double{limit}), 3);
   const double lines = pairs * (sphere < cells * volume ? sphere / (cells * volume) : 1.0);
   return {pairs * of_pair + lines * of_line, lines * bytes_of_line};
 }

@@ -1,6 +1,7 @@
 #include "core/run_aside.h"
 
 #include <deque>
+#include <exception>
 #include <mutex>
 #include <utility>
 
@@ -24,6 +25,13 @@ void leave_alone(std::thread thread) {
   if (left.threads.size() <= most) return;
   left.threads.front().join();
   left.threads.pop_front();
+}
+
+void free_aside(std::shared_ptr<const void> owned) noexcept {
+  try {
+    leave_alone(std::thread([held = std::move(owned)] {}));
+  } catch (const std::exception&) {  // what is held has gone by now
+  }
 }
 
 }  // namespace zol::detail

@@ -4,7 +4,6 @@
 
 #include <atomic>
 #include <memory>
-#include <thread>
 #include <utility>
 #include <vector>
 
@@ -59,7 +58,7 @@ class SharedVector {
   void let_go() {
     constexpr std::size_t many = 100000;
     if (elements_.use_count() == 1 && elements_->size() > many) {
-      detail::leave_alone(std::thread([elements = std::move(elements_)] {}));
+      detail::free_aside(std::move(elements_));
     }
   }
 

@@ -59,7 +59,8 @@ std::vector<std::string> site_remarks(const CrystalState& state) {
   std::vector<std::string> remarks;
   for (int i = 1; i <= state.NAtom.value() && remarks.empty(); ++i) {
     if (state.AtomOcc(i) <= 1) continue;
-    remarks.push_back("the occupancy of " + state.AtomLabel(i) + " is " + plain_text(state.AtomOcc(i)) + ", above 1");
+    remarks.push_back("the occupancy of " + state.AtomLabel(i) + " is " + short_text(state.AtomOcc(i), 4) +
+                      ", above 1");
   }
   if (const auto pair = nearest_pair(state)) {
     remarks.push_back(state.UCLabel(pair->first) + " and " + state.UCLabel(pair->second) + " are " +

@@ -11,6 +11,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "core/file_lock.h"
+
 namespace zol {
 namespace {
 
@@ -24,15 +26,6 @@ bool is_temporary_name(const std::string& name) {
   return name.size() == name_begin.size() + unique_part.size() && name.starts_with(name_begin);
 }
 
-/// The lock ends with the process, however it ends.
-bool lock(int descriptor, int how) {
-  int result = 0;
-  do {
-    result = flock(descriptor, how);
-  } while (result != 0 && errno == EINTR);
-  return result == 0;
-}
-
 int open_folder(const std::string& path) { return open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC); }
 
 void remove_left_over(const std::string& path) {
@@ -42,7 +35,7 @@ void remove_left_over(const std::string& path) {
   struct stat file {};
   const bool known = fstat(descriptor, &file) == 0 && (S_ISREG(file.st_mode) || S_ISDIR(file.st_mode));
   std::error_code ignored;
-  if (known && file.st_uid == geteuid() && lock(descriptor, LOCK_EX | LOCK_NB)) fs::remove_all(path, ignored);
+  if (known && file.st_uid == geteuid() && lock_file(descriptor, LOCK_EX | LOCK_NB)) fs::remove_all(path, ignored);
   close(descriptor);
 }
 
@@ -75,7 +68,7 @@ bool Temporary::make(const std::string& folder, Kind kind) {
     path_.clear();
     return false;
   }
-  (void)lock(descriptor_, LOCK_EX);  // on a disk without locks nothing is taken for left over
+  (void)lock_file(descriptor_, LOCK_EX);  // on a disk without locks nothing is taken for left over
   struct stat made {};
   if (fstat(descriptor_, &made) == 0 && made.st_nlink > 0) return true;
   close(descriptor_);

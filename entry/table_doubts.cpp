@@ -5,17 +5,13 @@
 #include <cmath>
 
 #include "core/number_text.h"
+#include "core/trimmed.h"
 
 namespace zol {
 namespace {
 
 enum SiteColumn { label = 1, element = 2, occupancy = 3, x = 4, z = 6, b = 7 };
 enum LineColumn { intensity = 1, first_index = 2, last_index = 4 };
-
-std::string without_blanks_around(const std::string& text) {
-  const auto first = text.find_first_not_of(" \t");
-  return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(" \t") + 1 - first);
-}
 
 /// The first row whose first cell is empty ends the table; one beyond the last when there is none.
 int end_of(const TableTexts& table) {
@@ -32,9 +28,9 @@ std::string doubt_behind_end(const TableTexts& table, int end, int row, int colu
 
 /// The value is what counts, whatever stands behind it in the cell.
 std::string doubt_of_number(const std::string& text) {
-  const std::string number = without_blanks_around(text);
+  const auto number = trimmed(text);
   if (number.empty() || strict_number(number)) return "";
-  return "\"" + text + "\" is no number, it counts as " + plain_text(to_single(Val(text)));
+  return "\"" + text + "\" is no number, it counts as " + short_text(Val(text), 7);
 }
 
 double value_at(const TableTexts& table, int row, int column) { return Val(table.text(row, column)); }
@@ -62,13 +58,12 @@ std::string doubt_of_place(const TableTexts& table, int end, int row) {
   }
   constexpr double full = 1.0001;
   if (first == 0 || filled < full) return "";
-  return "in the place of row " + std::to_string(first) + ", together with an occupancy of " +
-         plain_text(to_single(filled));
+  return "in the place of row " + std::to_string(first) + ", together with an occupancy of " + short_text(filled, 4);
 }
 
 std::string doubt_of_range(double value, double least, double most) {
   if (value >= least && value <= most) return "";
-  return "outside " + plain_text(to_single(least)) + " to " + plain_text(to_single(most));
+  return "outside " + short_text(least, 0) + " to " + short_text(most, 0);
 }
 
 std::string doubt_of_element(const std::string& element) {
@@ -88,7 +83,7 @@ std::string site_doubt(const TableTexts& table, const std::function<bool(const s
   if (auto doubt = doubt_of_number(text); !doubt.empty()) return doubt;
   const double value = Val(text);
   if (column == occupancy) {
-    if (without_blanks_around(text).empty()) return "empty: an occupancy of 0, the atom scatters nothing";
+    if (trimmed(text).empty()) return "empty: an occupancy of 0, the atom scatters nothing";
     return doubt_of_range(value, 0, 1);
   }
   if (column == b) return value < 0 ? "below 0: the atom would scatter more at higher angles" : "";

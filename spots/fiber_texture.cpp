@@ -21,6 +21,7 @@ constexpr int first_sorted = 2;
 constexpr double full_turn_deg = 360;
 constexpr double first_look_deg = 4 * full_turn_deg;  ///< a look at the whole ring costs as much as some turns
 constexpr int black = 255;
+constexpr double diagonal = 1.4142;  ///< of the picture, in half widths
 
 /// Walks the arcs of one reflection. A wide arc goes round more than once. From its second turn on all that falls on a
 /// pixel goes into one point, which gives the same picture since darkness adds up in any order, and directions where
@@ -181,7 +182,6 @@ Effort effort_of_arcs(const CrystalState& state, const FiberPicture& picture, Ta
     task.check();
     if (!(state.RefI(i) > 0)) continue;
     const double g = DHKL(state, state.RefH(i), state.RefK(i), state.RefL(i));
-    constexpr double diagonal = 1.4142;
     if (!(state.CamAcquisition * diagonal > g)) continue;
     const double points_of_degree = 10 * g / double{state.CamAcquisition};
     const double pixels_of_degree = g / double{state.CamAcquisition} * picture.width_px / 2.0 * degree;
@@ -199,7 +199,6 @@ std::optional<FiberArcs> fiber_arcs(const CrystalState& state, int i, const Fibe
   const Integer k = state.RefK(i);
   const Integer l = state.RefL(i);
   const double g = DHKL(state, h, k, l);
-  constexpr double diagonal = 1.4142;
   if (!(state.CamAcquisition * diagonal > g)) return std::nullopt;
 
   const double axis_length = DHKL(state, state.OriginH, state.OriginK, state.OriginL);

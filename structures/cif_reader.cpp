@@ -9,6 +9,7 @@
 
 #include "core/run_aside.h"
 #include "core/run_failure.h"
+#include "core/trimmed.h"
 #include "structures/cif_document.h"
 #include "structures/contents.h"
 #include "structures/field_numbers.h"
@@ -22,11 +23,6 @@ using Tags = std::initializer_list<std::string_view>;
 
 constexpr double b_of_u = 8 * std::numbers::pi * std::numbers::pi;
 constexpr double b_where_none = 0.5;  ///< square angstroms
-
-std::string trimmed(const std::string& text) {
-  const auto first = text.find_first_not_of(" \t\r\n");
-  return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1);
-}
 
 bool is_symmetry_of(std::string_view text, std::initializer_list<char> starts) {
   return std::any_of(starts.begin(), starts.end(), [text](char c) { return text.starts_with(c); });
@@ -139,7 +135,7 @@ class BlockReader {
   void read_title() {
     const auto name = block_.value({"_chemical_name_mineral", "_chemical_name_common", "_chemical_name_systematic",
                                     "_chemical_name_structure_type", "_amcsd_formula_title"});
-    std::string title = trimmed(name.value_or(block_.name));
+    std::string title(trimmed(name.value_or(block_.name)));
     std::replace(title.begin(), title.end(), '\n', ' ');
     read_.structure.title = title.substr(0, 60);
   }
@@ -154,7 +150,7 @@ class BlockReader {
     if (operators != nullptr) add_texts(*operators, claims.operators);
     const auto* centrings = block_.find({"_space_group_symop_magn_centering_xyz"});
     if (centrings != nullptr) add_texts(*centrings, claims.centrings);
-    const auto text = [this](Tags tags) { return trimmed(block_.value(tags).value_or("")); };
+    const auto text = [this](Tags tags) { return std::string(trimmed(block_.value(tags).value_or(""))); };
     claims.hall = text({"_space_group_name_hall", "_symmetry_space_group_name_hall"});
     claims.symbol = text({"_space_group_name_h-m_alt", "_symmetry_space_group_name_h-m", "_space_group_name_h-m_full",
                           "_space_group_name_h-m_ref", "_symmetry_space_group_name_h-m_alt", "_space_group_name_h-m",
@@ -207,7 +203,7 @@ class BlockReader {
     CellConstants& cell = read_.structure.cell;
     if (cell.alpha > 0 && cell.beta > 0 && cell.gamma > 0) return;
     const std::string system =
-        trimmed(block_.value({"_symmetry_cell_setting", "_space_group_crystal_system"}).value_or(""));
+        std::string(trimmed(block_.value({"_symmetry_cell_setting", "_space_group_crystal_system"}).value_or("")));
     const auto groups = groups_of_symbol(claims.symbol, {1, 1, 1, 90, 90, 120});
     const int number = groups.empty() ? claims.number : groups.front().number;
     const bool hexagonal = is_symmetry_of(system, {'h', 'H'}) || (number >= 143 && number <= 194);
@@ -237,9 +233,9 @@ class BlockReader {
     std::vector<std::string> without_place, unknown;
     for (std::size_t row = 0; row < atoms_.rows(); ++row) {
       task.check();
-      const std::string label =
-          trimmed(atoms_.text(row, {"_atom_site_label", "_atom_site_id", "_atom_site_label_atom_id"}).value_or(""));
-      const std::string type = trimmed(atoms_.text(row, {"_atom_site_type_symbol"}).value_or(""));
+      const std::string label = std::string(
+          trimmed(atoms_.text(row, {"_atom_site_label", "_atom_site_id", "_atom_site_label_atom_id"}).value_or("")));
+      const std::string type(trimmed(atoms_.text(row, {"_atom_site_type_symbol"}).value_or("")));
       const auto flag = atoms_.text(row, {"_atom_site_calc_flag"});
       if (flag && *flag == "dum") read_.notes.doubt(label + " is a dummy atom, its place is not known");
       const auto position = position_of(row);

@@ -3,14 +3,12 @@
 #include <charconv>
 #include <cmath>
 
+#include "core/trimmed.h"
+
 namespace zol {
 namespace {
 
-std::string_view trimmed(std::string_view text) {
-  const auto first = text.find_first_not_of(" \t\r\n'\"");
-  if (first == std::string_view::npos) return {};
-  return text.substr(first, text.find_last_not_of(" \t\r\n'\"") - first + 1);
-}
+constexpr std::string_view blanks_and_quotes = " \t\r\n'\"";
 
 std::optional<double> plain(std::string_view text) {
   if (text.starts_with('+')) text.remove_prefix(1);
@@ -36,7 +34,7 @@ double half_unit_of(std::string_view text) {
 }  // namespace
 
 std::optional<MeasuredNumber> measured_number(std::string_view text) {
-  text = trimmed(text);
+  text = trimmed(text, blanks_and_quotes);
   const auto slash = text.find('/');
   if (slash != std::string_view::npos) {
     const auto numerator = plain(text.substr(0, slash));
@@ -45,7 +43,7 @@ std::optional<MeasuredNumber> measured_number(std::string_view text) {
     return MeasuredNumber{*numerator / *divisor, 0};
   }
   const auto bracket = text.find('(');
-  if (bracket != std::string_view::npos) text = trimmed(text.substr(0, bracket));
+  if (bracket != std::string_view::npos) text = trimmed(text.substr(0, bracket), blanks_and_quotes);
   if (text.empty()) return std::nullopt;
   const auto value = plain(text);
   if (!value) return std::nullopt;

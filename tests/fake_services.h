@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/run_failure.h"
+#include "shell/services/pictures.h"
 #include "shell/services/window_services.h"
 
 namespace zol {
@@ -134,6 +135,14 @@ class FakeServices : public Services {
     answers.pop_front();
     return answer;
   }
+};
+
+/// Pixels for the windows that read them.
+struct FakePictures : PictureMaker {
+  std::unique_ptr<Surface> make_surface(int width, int height) override {
+    return std::make_unique<FakeSurface>(width, height);
+  }
+  void export_picture(Canvas& /*canvas*/, const std::string& /*path*/) override {}
 };
 
 }  // namespace zol

@@ -24,14 +24,6 @@ struct Run {
   std::string error;
 };
 
-/// Pixels for the windows that read them.
-struct FakePictures : PictureMaker {
-  std::unique_ptr<Surface> make_surface(int width, int height) override {
-    return std::make_unique<FakeSurface>(width, height);
-  }
-  void export_picture(Canvas& /*canvas*/, const std::string& /*path*/) override {}
-};
-
 /// Goes on with the next line after a failure of the run or a question without an answer, which is then printed.
 Run run(const std::string& script) {
   Run result;

@@ -59,7 +59,7 @@ TEST(SiteTable, MarksWhatWillHardlyBeMeant) {
                  {3, 7, "below 0: the atom would scatter more at higher angles"},
                  {4, 2, "no element: the atom scatters nothing"},
                  {4, 3, "outside 0 to 1"},
-                 {4, 4, "\"0.5(3)\" is no number, it counts as .5"},
+                 {4, 4, "\"0.5(3)\" is no number, it counts as 0.5"},
                  {4, 6, "\"x\" is no number, it counts as 0"},
                  {5, 1, "the same site as row 1, both count as one"},
                  {5, 7, "\"1 2\" is no number, it counts as 12"},

@@ -1,5 +1,6 @@
 #include "shell/desktop/application.h"
 
+#include <exception>
 #include <optional>
 
 #include <QFile>
@@ -89,7 +90,12 @@ int run_application(int argc, char** argv, const std::function<void(Desktop&)>& 
   program.watch(desktop.gate());
   desktop.offer_undo(program);
   desktop.offer_advice(program);
-  if (keep_work == KeepWork::Yes) recovery.emplace(program, desktop, recovery_folder());
+  if (keep_work == KeepWork::Yes) {
+    try {
+      recovery.emplace(program, desktop, recovery_folder());
+    } catch (const std::exception&) {  // no thread or no memory to be had: the program runs without
+    }
+  }
   QTimer::singleShot(0, &desktop, [&] {
     desktop.enter("the program started", [&program] { program.start(); });
     if (begun) begun(desktop);

@@ -10,6 +10,7 @@
 
 #include "core/read_file.h"
 #include "core/run_failure.h"
+#include "core/trimmed.h"
 #include "shell/program/data_copy.h"
 #include "shell/program/program.h"
 
@@ -17,12 +18,6 @@ namespace zol {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(" \t\r\n");
-  if (first == std::string_view::npos) return "";
-  return std::string(text.substr(first, text.find_last_not_of(" \t\r\n") - first + 1));
-}
 
 /// Whatever bears the name: what is no file is told when it is read.
 bool is_there(const std::string& path) {
@@ -87,11 +82,11 @@ DataRoot read_data_settings(const std::string& path) {
   DataRoot data;
   std::string line;
   for (int number = 1; std::getline(lines, line); ++number) {
-    const std::string text = trimmed(line);
+    const std::string text(trimmed(line));
     if (text.empty() || text.front() == '#') continue;
     const std::size_t equals = text.find('=');
-    const std::string key = trimmed(text.substr(0, equals));
-    const std::string value = equals == std::string::npos ? "" : trimmed(text.substr(equals + 1));
+    const std::string key(trimmed(text.substr(0, equals)));
+    const std::string value = equals == std::string::npos ? "" : std::string(trimmed(text.substr(equals + 1)));
     if (value.empty() || (key != "data_root" && key != "crystal_folder")) {
       throw RunFailure(path + ", line " + std::to_string(number) + R"(: ")" + text +
                        R"(" should be "data_root = FOLDER" or "crystal_folder = FOLDER")");
@@ -121,7 +116,7 @@ std::string source_tree() {
   const fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
   for (const auto& build : {folder, folder.parent_path()}) {
     const std::string note = (build / "zol-source-tree").string();
-    if (!error && is_there(note)) return trimmed(read_file(note));
+    if (!error && is_there(note)) return std::string(trimmed(read_file(note)));
   }
   return "";
 }

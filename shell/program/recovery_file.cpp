@@ -13,6 +13,7 @@
 #include <system_error>
 
 #include "core/atomic_file.h"
+#include "core/file_lock.h"
 #include "core/read_file.h"
 #include "core/run_failure.h"
 
@@ -38,14 +39,6 @@ std::string other_ending(const std::string& path, std::string_view ending, std::
 }
 std::string work_of(const std::string& lock) { return other_ending(lock, lock_ending, work_ending); }
 std::string lock_of(const std::string& work) { return other_ending(work, work_ending, lock_ending); }
-
-bool lock(int descriptor, int how) {
-  int result = 0;
-  do {
-    result = flock(descriptor, how);
-  } while (result != 0 && errno == EINTR);
-  return result == 0;
-}
 
 /// Whether the open file still has its name: another program may have removed it before it was locked.
 bool has_name(int descriptor) {
@@ -98,7 +91,7 @@ std::optional<HeldLock> HeldLock::take(const std::string& path) {
   if (descriptor < 0 && errno != ENOENT) return std::nullopt;
   HeldLock held(path, descriptor);
   if (descriptor < 0) return held;
-  if (!zol::lock(descriptor, LOCK_EX | LOCK_NB)) return std::nullopt;
+  if (!lock_file(descriptor, LOCK_EX | LOCK_NB)) return std::nullopt;
   return held;
 }
 
@@ -108,7 +101,7 @@ HeldLock HeldLock::make(const std::string& folder) {
     const int descriptor = mkostemps(path.data(), static_cast<int>(lock_ending.size()), O_CLOEXEC);
     if (descriptor < 0) throw RunFailure("can't write into " + folder + ": " + std::strerror(errno));
     HeldLock held(path, descriptor);
-    if (!zol::lock(descriptor, LOCK_EX))
+    if (!lock_file(descriptor, LOCK_EX))
       throw RunFailure("can't lock a file in " + folder + ": " + std::strerror(errno));
     if (has_name(descriptor)) return held;
   }

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/trimmed.h"
+
 namespace zol {
 namespace {
 
@@ -19,15 +21,10 @@ std::vector<std::string> first_words(const std::string& script) {
   return words;
 }
 
-std::string without_blanks_around(const std::string& text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  return first == std::string::npos ? std::string() : text.substr(first, text.find_last_not_of(' ') + 1 - first);
-}
-
 /// Its caption, or its name where it has none.
 std::string caption_of(const Control& control) {
-  const std::string caption = without_blanks_around(control.caption());
-  return caption.empty() ? control.path() : caption;
+  const auto caption = trimmed(control.caption(), " ");
+  return caption.empty() ? control.path() : std::string(caption);
 }
 
 }  // namespace

@@ -2,16 +2,12 @@
 
 #include <algorithm>
 
+#include "core/trimmed.h"
+
 namespace zol {
 namespace {
 
 constexpr std::string_view blanks = " \t\xa0";  // with the blank that breaks no line
-
-std::string_view without_blanks_around(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(blanks);
-  return first == std::string_view::npos ? std::string_view()
-                                         : text.substr(first, text.find_last_not_of(blanks) + 1 - first);
-}
 
 std::vector<std::string_view> lines_of(std::string_view text) {
   std::vector<std::string_view> lines;
@@ -20,7 +16,7 @@ std::vector<std::string_view> lines_of(std::string_view text) {
     lines.push_back(text.substr(0, end));
     text.remove_prefix(std::min(text.size(), end + (text.substr(end, 2) == "\r\n" ? 2 : 1)));
   }
-  while (!lines.empty() && without_blanks_around(lines.back()).empty()) lines.pop_back();
+  while (!lines.empty() && trimmed(lines.back(), blanks).empty()) lines.pop_back();
   return lines;
 }
 
@@ -35,7 +31,7 @@ char parted_by(std::string_view text) {
 /// Words with commas inside are numbers with decimal commas, not rows parted by commas.
 bool commas_are_points(const std::vector<std::string_view>& lines) {
   return std::any_of(lines.begin(), lines.end(), [](std::string_view line) {
-    const auto inside = without_blanks_around(line);
+    const auto inside = trimmed(line, blanks);
     return inside.find(' ') != std::string_view::npos && inside.find(", ") == std::string_view::npos;
   });
 }
@@ -48,7 +44,7 @@ bool is_number_with_comma(std::string_view cell) {
 }
 
 std::string cell_of(std::string_view text, char between) {
-  text = without_blanks_around(text);
+  text = trimmed(text, blanks);
   if (text.size() > 1 && text.front() == '"' && text.back() == '"') text = text.substr(1, text.size() - 2);
   std::string cell(text);
   if (between != ',' && is_number_with_comma(cell)) cell[cell.find(',')] = '.';
@@ -56,14 +52,14 @@ std::string cell_of(std::string_view text, char between) {
 }
 
 std::vector<std::string> cells_of(std::string_view line, char between) {
-  if (between == ' ') line = without_blanks_around(line);
+  if (between == ' ') line = trimmed(line, blanks);
   std::vector<std::string> cells;
   for (;;) {
     const std::size_t end = between == ' ' ? line.find_first_of(blanks) : line.find(between);
     cells.push_back(cell_of(line.substr(0, end), between));
     if (end == std::string_view::npos) return cells;
     line.remove_prefix(end + 1);
-    if (between == ' ') line = without_blanks_around(line);
+    if (between == ' ') line = trimmed(line, blanks);
   }
 }
 

@@ -9,14 +9,7 @@
 namespace zol::shared {
 namespace {
 
-/// To five decimals, with a zero before the point.
-std::string number(double value) {
-  constexpr double decimals = 1e5;
-  std::string text = plain_text(to_single(std::round(value * decimals) / decimals));
-  const std::size_t point = text.find('.');
-  const bool bare = point == 0 || (point == 1 && text.front() == '-');
-  return bare ? text.insert(point, "0") : text;
-}
+std::string number(double value) { return short_text(value, 5); }
 
 std::string three(double a, double b, double c) { return number(a) + " " + number(b) + " " + number(c); }
 
