@@ -18,9 +18,10 @@ class SharedVector {
   SharedVector() = default;
   SharedVector(const SharedVector&) = default;
   SharedVector& operator=(const SharedVector& other) {
-    if (elements_ == other.elements_) return *this;
-    let_go();
-    elements_ = other.elements_;
+    if (this != &other && elements_ != other.elements_) {
+      let_go();
+      elements_ = other.elements_;
+    }
     return *this;
   }
   ~SharedVector() { let_go(); }

@@ -40,7 +40,6 @@ struct Kind {
   const char* name;
   const char* setup;  ///< operations of a script, a line each
   const char* work;   ///< the one that takes long
-  double minute_long = false;
 };
 
 /// Presses Esc on the keyboard of the X server, from its own thread, a while after it has been told that the bar is
