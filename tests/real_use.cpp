@@ -13,6 +13,7 @@
 
 #include <array>
 #include <csignal>
+#include <ranges>
 
 #include <QClipboard>
 #include <QContextMenuEvent>
