@@ -13,7 +13,6 @@
 
 #include <array>
 #include <csignal>
-#include <ranges>
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -261,7 +260,7 @@ void undo_and_redo(const User& user) {
       QTest::keyClick(&user.window("Main1"), Qt::Key_Z, keys);
     }
   };
-  for (const auto& state : std::ranges::reverse_view(seen)) press_until(Qt::ControlModifier, state);
+  for (const auto& state : std::vector(seen.rbegin(), seen.rend())) press_until(Qt::ControlModifier, state);
   for (const auto& state : seen) press_until(Qt::ControlModifier | Qt::ShiftModifier, state);
   expect(shown_by_main1(user) == last, "undone and done again it is something else");
 }
