@@ -29,12 +29,13 @@ struct PixelServices : FakeServices {
 
 class DesktopTest : public testing::Test {
  protected:
-  DesktopTest() {
+  explicit DesktopTest(const QString& settings_file = {}) {
     desktop.set_question([this](const std::string& reason) {
       questions.push_back(reason);
       return agrees;
     });
     desktop.offer_advice(program);
+    desktop.offer_desk(program, settings_file);
     desktop.enter("start", [this] { program.start(); });
   }
   QWidget& widget(const std::string& window) {

@@ -25,8 +25,8 @@ Pattern3Form::Pattern3Form(Workbench& bench)
   Picture1.describe_place = [](double x, double y) {
     return value_text("x", x, "0.0", "") + value_text("   y", y, "0.0", " pixels");
   };
-  for (const auto* ending : {".bmp", ".png", ".jpg", ".jpeg", ".tif", ".tiff"}) {
-    file_drops.push_back({ending, &ImageLoad, &CommonDialog1});
+  for (const auto* ending : file_filters::picture_endings) {
+    file_drops.push_back({ending, &ImageLoad, &CommonDialog1, FileKind::Picture});
   }
   name_fields();
   declare_guards(bench);

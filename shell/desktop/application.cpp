@@ -45,6 +45,13 @@ std::string recovery_folder() {
 #endif
 }
 
+/// Where places of windows and names of recent files are kept; without a screen nothing is.
+QString settings_file() {
+  const std::string folder = recovery_folder();
+  if (folder.empty() || QGuiApplication::platformName() == QLatin1String("offscreen")) return {};
+  return QFile::decodeName(folder.c_str()) + QStringLiteral("/desk.ini");
+}
+
 void show_read_only(const DataRoot& data) {
   QMessageBox box(QMessageBox::Warning, QStringLiteral("ZOL"),
                   QCoreApplication::translate("zol", "Nothing can be saved in the folder of the data files."),
@@ -69,7 +76,8 @@ void name_application() {
 
 }  // namespace
 
-int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun, KeepWork keep_work) {
+int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun, KeepWork keep_work,
+                    const std::vector<std::string>& files) {
   const GuardedApplication application(argc, argv);
   name_application();
   DataRoot data;
@@ -90,6 +98,7 @@ int run_application(int argc, char** argv, const std::function<void(Desktop&)>& 
   program.watch(desktop.gate());
   desktop.offer_undo(program);
   desktop.offer_advice(program);
+  desktop.offer_desk(program, settings_file());
   if (keep_work == KeepWork::Yes) {
     try {
       recovery.emplace(program, desktop, recovery_folder());
@@ -98,6 +107,7 @@ int run_application(int argc, char** argv, const std::function<void(Desktop&)>& 
   }
   QTimer::singleShot(0, &desktop, [&] {
     desktop.enter("the program started", [&program] { program.start(); });
+    desktop.open_files(files);
     if (begun) begun(desktop);
   });
   const int status = QApplication::exec();
