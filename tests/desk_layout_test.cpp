@@ -52,7 +52,10 @@ TEST(DeskLayout, AWindowComesUpBesideTheOneThatOpenedIt) {
            Case{"at the right", {600, 400}, {100, 100, 600, 500}, {}, "600x400+700+100"},
            {"at the left, where the right has no room", {600, 400}, {700, 100, 600, 500}, {}, "600x400+100+100"},
            {"below", {1300, 200}, {0, 0, 1300, 500}, {}, "1300x200+0+500"},
-           {"at the left, where another stands at the right", {300, 400}, {500, 100, 300, 500}, {{800, 0, 500, 768}},
+           {"at the left, where another stands at the right",
+            {300, 400},
+            {500, 100, 300, 500},
+            {{800, 0, 500, 768}},
             "300x400+200+100"},
            {"no room: it covers least", {1000, 700}, {0, 0, 720, 400}, {}, "1000x700+366+0"},
            {"larger than the screen", {2000, 900}, {0, 0, 720, 400}, {}, "1366x768+0+0"},
@@ -79,7 +82,8 @@ TEST(DeskLayout, ArrangedWindowsStandSideBySideAsFarAsTheScreenGoes) {
            {"larger than the screen", {{3000, 3000}, {10, 10}}, {"0 1366x736+0+32", "1 1366x768+0+0"}},
        }) {
     std::vector<std::string> found;
-    for (const Tile& tile : arranged(least, laptop)) found.push_back(std::to_string(tile.page) + ' ' + text(tile.place));
+    for (const Tile& tile : arranged(least, laptop))
+      found.push_back(std::to_string(tile.page) + ' ' + text(tile.place));
     EXPECT_EQ(found, tiles) << what;
   }
 }

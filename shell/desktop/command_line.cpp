@@ -23,9 +23,9 @@ Exit status: 0 end of the program, 1 failure of the run, 2 an unknown option.
 /// Of Qt itself, which takes them later, and of what starts programs.
 QList<QCommandLineOption> qt_options() {
   QList<QCommandLineOption> options;
-  for (const char* name : {"platform", "platformpluginpath", "platformtheme", "plugin", "display", "geometry",
-                           "qwindowgeometry", "qwindowicon", "qwindowtitle", "icon", "title", "style", "stylesheet",
-                           "session", "qmljsdebugger"}) {
+  for (const char* name :
+       {"platform", "platformpluginpath", "platformtheme", "plugin", "display", "geometry", "qwindowgeometry",
+        "qwindowicon", "qwindowtitle", "icon", "title", "style", "stylesheet", "session", "qmljsdebugger"}) {
     options << QCommandLineOption(QLatin1String(name), {}, QStringLiteral("value"));
   }
   for (const char* name : {"reverse", "widgetcount"}) options << QCommandLineOption(QLatin1String(name));

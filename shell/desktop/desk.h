@@ -1,4 +1,5 @@
-// What helps to find one's way among the windows: menus of windows and of recent files, kept places, first things to do.
+// What helps to find one's way among the windows: menus of windows and of recent files, kept places, first things to
+// do.
 #pragma once
 
 #include <functional>

@@ -7,17 +7,19 @@
 
 namespace zol {
 
-/// Where a window that stood somewhere in an earlier run comes up: there, or moved and made smaller until it stands on the
-/// screen that it covers most of; on the first one when its own is gone.
+constexpr QSize usual_frame(8, 34);  ///< of a window that has not been on the screen yet
+
+/// Where a window that stood somewhere in an earlier run comes up: there, or moved and made smaller until it stands on
+/// the screen that it covers most of; on the first one when its own is gone.
 /// @param screens  their usable parts, at least one
 [[nodiscard]] QRect on_screens(const QRect& kept, const std::vector<QRect>& screens);
 
-/// Where a window comes up that another one has opened: at the side where it covers the least of that one, then the least
-/// of the others.
+/// Where a window comes up that another one has opened: at the side where it covers the least of that one, then the
+/// least of the others.
 [[nodiscard]] QRect beside(const QSize& size, const QRect& opener, const std::vector<QRect>& others, const QRect& room);
 
-/// A place in an arrangement. The windows of a page do not overlap; of the pages behind the first one only a strip at the
-/// top is seen.
+/// A place in an arrangement. The windows of a page do not overlap; of the pages behind the first one only a strip at
+/// the top is seen.
 struct Tile {
   QRect place;
   int page = 0;

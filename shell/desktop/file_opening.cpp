@@ -1,10 +1,12 @@
 #include "shell/desktop/file_opening.h"
 
-#include <algorithm>
-#include <utility>
+#include <unistd.h>
 
-#include <QFile>
-#include <QFileInfo>
+#include <algorithm>
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+#include <utility>
 
 #include "core/run_failure.h"
 #include "shell/desktop/qt_text.h"
@@ -28,10 +30,11 @@ const FileWay* way_for(const std::vector<FileWay>& ways, const std::string& path
 }
 
 std::string fault_of_file(const std::string& path) {
-  const QFileInfo file(QFile::decodeName(path.c_str()));
-  if (!file.exists()) return "there is no file " + path;
-  if (!file.isFile()) return path + " is no file";
-  return file.isReadable() ? "" : path + " can't be read: it belongs to somebody else";
+  std::error_code error;
+  const auto status = std::filesystem::status(path, error);
+  if (!std::filesystem::exists(status)) return "there is no file " + path;
+  if (!std::filesystem::is_regular_file(status)) return path + " is no file";
+  return access(path.c_str(), R_OK) == 0 ? "" : "can't open " + path + ": " + std::generic_category().message(errno);
 }
 
 void FileOpening::open(Window& from, const FileWay& way, const std::string& path) {

@@ -1,5 +1,5 @@
-// Files that are opened past the file dialog, and other ways through the program that a window declares. The controls are
-// used as a user would; what fails on the way ends nothing: it is told, and all is as it was before.
+// Files that are opened past the file dialog, and other ways through the program that a window declares. The controls
+// are used as a user would; what fails on the way ends nothing: it is told, and all is as it was before.
 #pragma once
 
 #include <functional>

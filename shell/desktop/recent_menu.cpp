@@ -6,7 +6,6 @@
 #include <QAction>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
@@ -100,7 +99,7 @@ void RecentMenu::fill(QMenu& menu, Window& window, FileKind kind) {
   int number = 0;
   for (const auto& path : files_.of(kind)) {
     const QString name = to_qt(path.substr(path.rfind('/') + 1)).replace(u'&', QStringLiteral("&&"));
-    const bool missing = !QFileInfo::exists(QFile::decodeName(path.c_str()));
+    const bool missing = !fault_of_file(path).empty();
     ++number;
     const QString text = QStringLiteral("&%1 %2").arg(number % 10).arg(missing ? tr("%1 (missing)").arg(name) : name);
     QAction* action = menu.addAction(text, this, [this, &window, kind, path] { open(window, kind, path); });

@@ -15,7 +15,6 @@ namespace zol {
 namespace {
 
 constexpr int small_screen = 640;  // lines
-constexpr QSize window_frame(8, 34);
 
 class CompactStyle : public QProxyStyle {
  public:
@@ -50,7 +49,7 @@ void use_fitting_style() {
 }
 
 void fit_to_screen(QMainWindow& window) {
-  const QSize room = window.screen()->availableSize() - window_frame;
+  const QSize room = window.screen()->availableSize() - usual_frame;
   const QSize least = window.minimumSizeHint();
   if (least.boundedTo(room) != least) {
     auto* area = new QScrollArea;
@@ -71,7 +70,7 @@ void place_beside(QWidget& window, const QWidget& other) {
     }
   }
   const QRect room = other.screen()->availableGeometry();
-  window.move(beside(window.size() + window_frame, other.frameGeometry(), others, room).topLeft());
+  window.move(beside(window.size() + usual_frame, other.frameGeometry(), others, room).topLeft());
 }
 
 }  // namespace zol

@@ -42,8 +42,8 @@ void WindowPlaces::follow(const Window& window, QMainWindow& top) {
   const auto unwritten = moved_.find(name);  // it was unloaded a moment ago
   const QRect kept = unwritten != moved_.end() ? unwritten->second : settings_->value(key(name)).toRect();
   if (kept.isValid()) {
-    const QRect place = on_screens(kept, screens());
-    top.resize(place.size());
+    const QRect place = on_screens({kept.topLeft(), kept.size() + usual_frame}, screens());
+    top.resize(place.size() - usual_frame);
     top.move(place.topLeft());
   }
   top.setProperty(name_of, name);

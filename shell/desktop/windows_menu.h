@@ -35,8 +35,8 @@ class WindowsMenu : public QObject {
   struct Entry {
     const Window* window;
     QMainWindow* top;
-    QString kind;   ///< its caption at the start: later it may name a file
-    QMenu* menu;    ///< a child of the top level
+    QString kind;    ///< its caption at the start: later it may name a file
+    QMenu* menu;     ///< a child of the top level
     int opened = 0;  ///< the how many-th window that was opened; 0 while it is not open
   };
   [[nodiscard]] std::vector<const Entry*> open() const;
@@ -44,7 +44,7 @@ class WindowsMenu : public QObject {
   void check(const QMainWindow& current);
 
   std::map<std::string, Entry> entries_;
-  std::vector<QAction*> actions_;        ///< in all menus: the first, the second, ... open window
+  std::vector<QAction*> actions_;     ///< in all menus: the first, the second, ... open window
   std::vector<QMainWindow*> listed_;  ///< to which they go
   int last_opened_ = 0;
 };
