@@ -103,12 +103,13 @@ void WindowsMenu::check(const QMainWindow& current) {
 }
 
 void WindowsMenu::arrange(QMainWindow& current) {
-  std::vector<QMainWindow*> tops;
-  std::vector<QSize> least;
+  std::vector<QMainWindow*> tops{&current};  // on the first page
   for (const Entry* entry : open()) {
-    if (!entry->top->isVisible() || entry->top->isMinimized()) continue;
-    tops.push_back(entry->top);
-    least.push_back(entry->top->minimumSizeHint().expandedTo(entry->top->minimumSize()) + frame_of(*entry->top));
+    if (entry->top != &current && entry->top->isVisible() && !entry->top->isMinimized()) tops.push_back(entry->top);
+  }
+  std::vector<QSize> least;
+  for (const QMainWindow* top : tops) {
+    least.push_back(top->minimumSizeHint().expandedTo(top->minimumSize()) + frame_of(*top));
   }
   const auto tiles = arranged(least, current.screen()->availableGeometry());
   for (std::size_t i = tops.size(); i-- > 0;) {  // the first page comes to the front
