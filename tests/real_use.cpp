@@ -20,6 +20,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableView>
 #include <QTextBrowser>
 #include <QTimer>
@@ -56,6 +57,21 @@ void use_main_window(const User& user) {
          "a table does not take its keys");
   user.click("InputJCPDS", "Command2");
   user.load_crystal("Quartz.cry");  // the table of observed lines has put its atoms aside
+}
+
+void find_windows(const User& user) {
+  QTest::keyClick(&user.window("Main1"), Qt::Key_1, Qt::ControlModifier);
+  QWidget& menu = user.window("MAIN_MENU");
+  expect(menu.isActiveWindow(), "Ctrl+1 leads elsewhere");
+  for (const int key : {Qt::Key_W, Qt::Key_A}) {  // "Windows", "Arrange"
+    QTest::keyClick(key == Qt::Key_W ? &menu : QApplication::activePopupWidget(), static_cast<Qt::Key>(key),
+                    key == Qt::Key_W ? Qt::AltModifier : Qt::NoModifier);
+  }
+  const auto on_screen = [&menu] { return menu.screen()->availableGeometry().contains(menu.frameGeometry()); };
+  expect(QTest::qWaitFor(on_screen) && menu.height() > 600, "the windows are not arranged");
+  menu.resize(1, 1);
+  QTest::keyClick(&menu, Qt::Key_2, Qt::ControlModifier);
+  expect(user.window("Main1").isActiveWindow(), "Ctrl+2 leads elsewhere");
 }
 
 void copy_lines(const User& user) {
@@ -322,8 +338,9 @@ void read_guide(const User& user) {
 }
 
 void walk(const User& user) {
-  for (auto* step : {use_main_window, copy_lines, use_powder_windows, use_spot_windows, use_kikuchi_windows,
-                     use_calculators, use_files, undo_and_redo, index_pattern, index_automatically, read_guide}) {
+  for (auto* step :
+       {use_main_window, find_windows, copy_lines, use_powder_windows, use_spot_windows, use_kikuchi_windows,
+        use_calculators, use_files, undo_and_redo, index_pattern, index_automatically, read_guide}) {
     step(user);
   }
   user.click("MAIN_MENU", "Command5");
