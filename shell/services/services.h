@@ -52,7 +52,9 @@ enum class FileKind {
   CameraParameters,
   Corrector,
   Export,
-  PrintedPage
+  PrintedPage,
+  MeasuredPattern,
+  LineList
 };
 
 struct FileQuestion {
