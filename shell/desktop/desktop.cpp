@@ -20,6 +20,7 @@
 #include "shell/desktop/advice.h"
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/crystal_title.h"
+#include "shell/desktop/curve_tools.h"
 #include "shell/desktop/file_drops.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/guide.h"
@@ -140,6 +141,7 @@ void Desktop::settle() {
   if (program_ != nullptr) show_crystal();
   show_changes();
   if (advice_ && !ended()) advice_->update();
+  emit settled();
 }
 
 void Desktop::end(int status) {
@@ -173,6 +175,7 @@ void Desktop::window_created(Window& window) {
   auto widget = load_ui(window.name());
   if (!widget) return;
   widget->installEventFilter(this);
+  offer_curves(window, *widget, *this, events_);
   auto binder = std::make_unique<Binder>(window, *widget, events_);
   accept_file_drops(window, *widget, events_);
   offer_guide(*widget);
