@@ -37,7 +37,8 @@ struct Means {
   }
 };
 
-LinearFit linear_fit(std::span<const MeasuredPoint> measured, const SampledCurve& calculated, double zero) {
+LinearFit linear_fit(std::span<const MeasuredPoint> measured, const SampledCurve& calculated, double zero, Task& task) {
+  task.check();
   Means means;
   for (const auto& point : measured) {
     if (const auto c = calculated.at(point.x - zero)) means.add(*c, point.intensity, weight_of(point));
@@ -54,27 +55,27 @@ LinearFit linear_fit(std::span<const MeasuredPoint> measured, const SampledCurve
 }
 
 /// The best zero between two others. Source: Kiefer, Proc. Am. Math. Soc. 4 (1953) 502.
-LinearFit best_between(std::span<const MeasuredPoint> measured, const SampledCurve& calculated, double from,
-                       double to) {
+LinearFit best_between(std::span<const MeasuredPoint> measured, const SampledCurve& calculated, double from, double to,
+                       Task& task) {
   const double golden = (std::sqrt(5.0) - 1) / 2;
   constexpr int steps = 40;  // the part shrinks to 4e-9 of what it was
   double lower = to - golden * (to - from);
   double upper = from + golden * (to - from);
-  LinearFit at_lower = linear_fit(measured, calculated, lower);
-  LinearFit at_upper = linear_fit(measured, calculated, upper);
+  LinearFit at_lower = linear_fit(measured, calculated, lower, task);
+  LinearFit at_upper = linear_fit(measured, calculated, upper, task);
   for (int i = 0; i < steps; ++i) {
     if (at_lower.squares <= at_upper.squares) {
       to = upper;
       upper = lower;
       at_upper = at_lower;
       lower = to - golden * (to - from);
-      at_lower = linear_fit(measured, calculated, lower);
+      at_lower = linear_fit(measured, calculated, lower, task);
     } else {
       from = lower;
       lower = upper;
       at_lower = at_upper;
       upper = from + golden * (to - from);
-      at_upper = linear_fit(measured, calculated, upper);
+      at_upper = linear_fit(measured, calculated, upper, task);
     }
   }
   return at_lower.squares <= at_upper.squares ? at_lower : at_upper;
@@ -117,13 +118,14 @@ CurveMatch rough_match(std::span<const MeasuredPoint> measured, double highest) 
   return {rise > 0 && highest > 0 ? rise / highest : 1.0, low->intensity, 0};
 }
 
-CurveMatch fitted_match(std::span<const MeasuredPoint> measured, const SampledCurve& calculated, double most_zero) {
+CurveMatch fitted_match(std::span<const MeasuredPoint> measured, const SampledCurve& calculated, double most_zero,
+                        Task& task) {
   const double step = calculated.step() / 2;
   const int steps = std::max(1, static_cast<int>(most_zero / step));
   LinearFit best;
   int most_points = 0;
   for (int i = -steps; i <= steps; ++i) {
-    const auto fit = linear_fit(measured, calculated, i * step);
+    const auto fit = linear_fit(measured, calculated, i * step, task);
     most_points = std::max(most_points, fit.points);
     if (fit.squares < best.squares) best = fit;
   }
@@ -138,7 +140,7 @@ CurveMatch fitted_match(std::span<const MeasuredPoint> measured, const SampledCu
         "the other rises");
   }
   const double zero = best.match.zero;
-  const auto finer = best_between(measured, calculated, zero - step, zero + step);
+  const auto finer = best_between(measured, calculated, zero - step, zero + step, task);
   return (finer.squares <= best.squares ? finer : best).match;
 }
 

@@ -45,8 +45,9 @@ struct CurveMatch {
 /// @param most_zero  how far the zero may be off
 /// @throws RunFailure  fewer than four points lie on the curve, the curve is flat there, or the pattern does not rise
 ///                     where the curve does
+/// @throws Cancelled  the task stops
 [[nodiscard]] CurveMatch fitted_match(std::span<const MeasuredPoint> measured, const SampledCurve& calculated,
-                                      double most_zero);
+                                      double most_zero, Task& task);
 
 /// Root of the weighted sum of squared differences over that of the measured intensities, in per cent; 0 where nothing
 /// overlaps. Source: Young (ed.), The Rietveld Method (1993), table 1.3 (R-wp).

@@ -122,6 +122,7 @@ TEST_F(Curves, HaveAMeasuredPatternFittedBelow) {
   }
   auto& bar = *child<QWidget>("Xd", "MeasuredScale").parentWidget()->parentWidget();
   EXPECT_FALSE(bar.isVisible());
+  const auto before = program.windows().copies();
   services.answers = {folder.write("a.xy", text)};
   child<QAction>("Xd", "AddMeasured").trigger();
   EXPECT_TRUE(bar.isVisible());
@@ -136,6 +137,10 @@ TEST_F(Curves, HaveAMeasuredPatternFittedBelow) {
   ASSERT_FALSE(services.messages.empty());
   EXPECT_EQ(services.messages.back(),
             "bad.xy, line 2: \"11 x\", expected are two numbers, the place and the intensity");
+  EXPECT_TRUE(curve().in_use());
+  desktop.enter("undone", [&] { program.windows().put_back(before); });
+  EXPECT_FALSE(bar.isVisible());
+  EXPECT_FALSE(curve().in_use());
   EXPECT_TRUE(failures.empty());
 }
 

@@ -146,6 +146,8 @@ double lines_at(double x) {
   return 100 * (line(27.4, 1) + line(31.7, 0.4) + line(45.4, 0.7));
 }
 
+QuietTask quiet;
+
 SampledCurve sampled_lines() {
   std::vector<double> samples;
   for (int m = 0; m <= 1000; ++m) samples.push_back(lines_at(20 + 0.03 * m));
@@ -158,7 +160,7 @@ TEST(CurveFit, FindsScaleOffsetAndZero) {
     for (double x = 18; x < 55; x += 0.017) {
       measured.push_back({x, 2.5 * lines_at(x - zero) + 30, x > 40 ? 2.0 : 1.0});
     }
-    const auto match = fitted_match(measured, sampled_lines(), 0.5);
+    const auto match = fitted_match(measured, sampled_lines(), 0.5, quiet);
     EXPECT_NEAR(match.scale, 2.5, 1e-3);
     EXPECT_NEAR(match.offset, 30, 0.01);
     EXPECT_NEAR(match.zero, zero, 1e-5);
@@ -171,7 +173,7 @@ TEST(CurveFit, FindsScaleOffsetAndZero) {
 
 TEST(CurveFit, TellsWhatDoesNotFit) {
   const auto failure = [](const std::vector<MeasuredPoint>& measured) {
-    return failure_of([&measured] { (void)fitted_match(measured, sampled_lines(), 0.5); });
+    return failure_of([&measured] { (void)fitted_match(measured, sampled_lines(), 0.5, quiet); });
   };
   std::vector<MeasuredPoint> upside_down;
   for (double x = 20; x < 50; x += 0.05) upside_down.push_back({x, -lines_at(x), 0});

@@ -67,7 +67,8 @@ void fit_measured(Workbench& bench, CurveControls& curves) {
     if (!curve) throw RunFailure("there is no calculated curve: \"CALC\" makes one");
     constexpr double part = 0.02;  // of the range
     const double most_zero = part * (curve->to() - curve->from());
-    show_match(curves, fitted_match(curves.data.measured.points.get(), *curve, most_zero));
+    WindowTask task(bench.services);
+    show_match(curves, fitted_match(curves.data.measured.points.get(), *curve, most_zero, task));
     changed(curves);
   });
 }

@@ -10,8 +10,7 @@
 #include <QPolygonF>
 #include <QRectF>
 
-#include "shell/services/curve_offer.h"
-#include "shell/services/curve_scale.h"
+#include "shell/desktop/curve_scene.h"
 
 namespace zol {
 
@@ -24,27 +23,6 @@ struct CurveLook {
   std::optional<double> marked;  ///< a place to be found
 };
 
-/// A line of what the window has drawn.
-struct DrawnCurve {
-  std::vector<CurvePoint> points;
-  Colour colour = colours::black;
-};
-
-/// All that can be seen, in user coordinates of the picture.
-struct CurveScene {
-  std::vector<DrawnCurve> curves;
-  std::vector<CurveTick> reflections;
-  std::vector<CurveLayer> layers;
-  std::string radiation;
-  UserScale scale;
-  [[nodiscard]] CurveRange all() const;
-  /// The highest point of curves and layers in a part of x; 0 where there is none.
-  [[nodiscard]] double highest(const CurveRange& part) const;
-  /// Of the curves, at a place.
-  [[nodiscard]] double height_at(double x) const;
-};
-[[nodiscard]] CurveScene scene_of(const Canvas& canvas);
-
 /// The parts of the picture, in pixels.
 struct CurveLayout {
   CurvePlot plot;
@@ -52,6 +30,12 @@ struct CurveLayout {
   QRectF ticks;  ///< empty where there are none
   QRectF below;
 };
+
+/// Room that is left around texts and for ticks, in pixels.
+namespace curve_room {
+inline constexpr double large_tick = 6;
+inline constexpr double gap = 3;
+}  // namespace curve_room
 
 class CurvePainter {
  public:
