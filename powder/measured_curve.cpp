@@ -54,7 +54,7 @@ MeasuredCurve measured_columns(std::string_view text, const std::string& file, T
 }
 
 MeasuredCurve read_measured_curve(const std::string& path, Task& task) {
-  const std::string bytes = read_file(path);
+  const std::string bytes = read_file(path, task);
   if (!is_diffractometer_file(path)) return measured_columns(bytes, name_of(path), task);
   MeasuredCurve curve = diffractometer_curve(bytes, path);
   put_in_order(curve, [](std::size_t i) { return "point " + std::to_string(i + 1); });
@@ -74,7 +74,7 @@ LineList line_list_columns(std::string_view text, const std::string& file, Task&
 }
 
 LineList read_line_list(const std::string& path, Task& task) {
-  return line_list_columns(read_file(path), name_of(path), task);
+  return line_list_columns(read_file(path, task), name_of(path), task);
 }
 
 }  // namespace zol

@@ -7,14 +7,17 @@
 namespace zol {
 namespace {
 
-/// Spacings that agree to this part are one line; equivalent reflections differ by the rounding of a Single.
-constexpr double same_spacing = 2e-6;
+/// Spacings that agree to this part are one line; those of equivalent reflections differ by the rounding of the cell.
+constexpr double same_spacing = 2e-5;
 /// Intensities of equivalent reflections agree to this part.
 constexpr double same_intensity = 1e-4;
+
+int negatives(const ReflectionLine& line) { return int{line.h < 0} + int{line.k < 0} + int{line.l < 0}; }
 
 bool leads(const ReflectionLine& a, const ReflectionLine& b) {
   if (a.intensity > b.intensity * (1 + same_intensity)) return true;
   if (b.intensity > a.intensity * (1 + same_intensity)) return false;
+  if (negatives(a) != negatives(b)) return negatives(a) < negatives(b);
   return std::tie(a.h, a.k, a.l) > std::tie(b.h, b.k, b.l);
 }
 

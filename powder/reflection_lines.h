@@ -16,7 +16,7 @@ struct ReflectionLine {
 };
 
 /// Of the reflection list, in the order of rising 1/d, those of intensity 0 left out. Each bears the indices of its
-/// strongest reflection; of equally strong ones the largest.
+/// strongest reflection; of equally strong ones those with the fewest signs, then the largest.
 [[nodiscard]] SharedVector<ReflectionLine> reflection_lines(const CrystalState& state);
 
 /// "1 -1 2".

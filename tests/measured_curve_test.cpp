@@ -202,12 +202,20 @@ TEST(Doublet, IsThatOfTheTubeOrNone) {
 // The second order of {100} beside its equivalents; what is extinct is no line.
 TEST(ReflectionLines, GatherReflectionsOfOneSpacing) {
   auto state = with_cell({5, 5, 5, 90, 90, 90});
-  set_list(state, {{0, 0, 1, 3}, {1, 0, 0, 3}, {0, -1, 0, 3}, {1, 1, 0, 0}, {2, 1, 0, 1}, {1, 2, 0, 4}});
+  set_list(state, {{0, 0, 1, 3},
+                   {1, 0, 0, 3},
+                   {0, -1, 0, 3},
+                   {1, 1, 0, 0},
+                   {2, 1, 0, 1},
+                   {1, 2, 0, 4},
+                   {-1, -1, 1, 2},
+                   {1, -1, 1, 2},
+                   {1, 1, -1, 2}});
   std::string told;
   for (const auto& line : reflection_lines(state)) {
-    told += indices_text(line) + ": " + Format(1 / line.d_star, "0.0000") + ' ' + plain_text(line.intensity) + '|';
+    told += indices_text(line) + ": " + Format(1 / line.d_star, "0.000") + ' ' + plain_text(line.intensity) + '|';
   }
-  EXPECT_EQ(told, "1 0 0: 5.0000 9|1 2 0: 2.2361 5|");
+  EXPECT_EQ(told, "1 0 0: 5.000 9|1 1 -1: 2.887 6|1 2 0: 2.236 5|");
 }
 
 }  // namespace

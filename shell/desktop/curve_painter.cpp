@@ -19,6 +19,7 @@ constexpr double gap = curve_room::gap;
 constexpr double reflection_tick = 9;
 constexpr double share_below = 0.2;  // of the picture, for the strip below the curve
 constexpr double swatch = 18;
+constexpr double between_labels = 10;  // of which one stands over the other
 
 /// Black is the colour of a curve that nobody chose.
 QColor curve_colour(Colour colour) { return to_qt(colour == colours::black ? curve_colours::calculated : colour); }
@@ -216,7 +217,7 @@ std::vector<CurvePainter::Label> CurvePainter::labels() const {
   std::vector<WantedLabel> wanted{
       {{legend.left(), legend.top(), legend.width(), legend.height()}, std::numeric_limits<double>::infinity()}};
   for (const auto& tick : seen) {
-    const double height = metrics.horizontalAdvance(to_qt(tick.label)) + gap;
+    const double height = metrics.horizontalAdvance(to_qt(tick.label)) + between_labels;
     const double bottom = std::min(plot.pixel_y(scene_.height_at(tick.x)), plot.top + plot.height) - gap;
     wanted.push_back(
         {{plot.pixel_x(tick.x) - metrics.height() / 2, bottom - height, metrics.height(), height}, tick.weight});
