@@ -53,6 +53,7 @@ void CanvasView::refresh() {
   }
   updateGeometry();
   update();
+  emit refreshed();
 }
 
 QSize CanvasView::sizeHint() const {
@@ -196,6 +197,8 @@ void CanvasView::set_note_room(int pixels) {
   if (std::exchange(note_room_, pixels) != pixels) update();
 }
 
+void CanvasView::set_menu(QMenu& menu) { menu_ = &menu; }
+
 void CanvasView::press_at(const QPointF& position) {
   const QPointF at = user_position(position);
   events_->act(canvas_->window(), mouse_event("press", position, &Canvas::press),
@@ -276,12 +279,16 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
     told->setChecked(exports_tell);
     connect(told, &QAction::toggled, this, [](bool on) { exports_tell = on; });
   }
+  if (menu_ != nullptr) {
+    menu->addSeparator();
+    menu->addMenu(menu_);
+  }
   menu->popup(event->globalPos());
 }
 
 void CanvasView::copy_to_clipboard() const {
   try {
-    QGuiApplication::clipboard()->setImage(picture_image(*canvas_));
+    QGuiApplication::clipboard()->setImage(stand_in_.image ? stand_in_.image() : picture_image(*canvas_));
   } catch (const RunFailure& failure) {
     canvas_->services().message(failure.message(), "Copy");
   }
@@ -297,7 +304,9 @@ void CanvasView::ask_export(double factor, const char* ending) {
     try {
       WindowTask task(services);
       const QString caption = exports_tell && caption_ ? caption_() : QString();
-      export_picture(*canvas_, suffix.added_to(answer), factor, task, caption);
+      const std::string path = suffix.added_to(answer);
+      if (stand_in_.write) return stand_in_.write(path, factor, task, caption);
+      export_picture(*canvas_, path, factor, task, caption);
     } catch (const RunFailure& failure) {
       services.message(failure.message(), "Export");
     }

@@ -5,11 +5,15 @@
 #include <functional>
 #include <optional>
 
+#include <QImage>
+#include <QPointer>
 #include <QWidget>
 
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/user_events.h"
 #include "shell/services/canvas.h"
+
+class QMenu;
 
 namespace zol {
 
@@ -34,10 +38,20 @@ class CanvasView : public QWidget {
   void set_note_room(int pixels);
   /// What an export says of the picture where that is wanted.
   void set_caption(std::function<QString()> caption) { caption_ = std::move(caption); }
+  /// What is copied and exported in the place of the picture alone.
+  struct StandIn {
+    std::function<QImage()> image;
+    std::function<void(const std::string& path, double factor, Task& task, const QString& caption)> write;
+  };
+  void set_stand_in(StandIn stand_in) { stand_in_ = std::move(stand_in); }
+  /// A menu that the context menu holds too.
+  void set_menu(QMenu& menu);
 
  signals:
   /// The pointer stands over this place; an empty text when it has left the picture.
   void pointed_at(const QString& place);
+  /// The canvas has changed.
+  void refreshed();
 
  protected:
   void leaveEvent(QEvent* event) override;
@@ -71,6 +85,8 @@ class CanvasView : public QWidget {
   std::optional<QPointF> held_press_;  ///< of what may become a click that is warned of
   int note_room_ = 0;
   std::function<QString()> caption_;
+  StandIn stand_in_;
+  QPointer<QMenu> menu_;
   std::optional<CanvasPainting> painting_;
   bool up_to_date_ = false;
 };

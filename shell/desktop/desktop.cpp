@@ -20,6 +20,7 @@
 #include "shell/desktop/advice.h"
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/crystal_title.h"
+#include "shell/desktop/curve_tools.h"
 #include "shell/desktop/desk.h"
 #include "shell/desktop/file_drops.h"
 #include "shell/desktop/guarded_application.h"
@@ -142,6 +143,7 @@ void Desktop::settle() {
   show_changes();
   if (desk_ && !ended()) desk_->update();
   if (advice_ && !ended()) advice_->update();
+  emit settled();
 }
 
 void Desktop::end(int status) {
@@ -175,6 +177,7 @@ void Desktop::window_created(Window& window) {
   auto widget = load_ui(window.name());
   if (!widget) return;
   widget->installEventFilter(this);
+  offer_curves(window, *widget, *this, events_);
   auto binder = std::make_unique<Binder>(window, *widget, events_);
   accept_file_drops(window, *widget, events_);
   offer_guide(*widget);

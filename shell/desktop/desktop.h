@@ -73,6 +73,10 @@ class Desktop : public QObject, public WindowView {
   void control_changed(Control& control) override;
   void focus_wanted(Control& control) override;
 
+ signals:
+  /// An event is over, and what it has changed is shown.
+  void settled();
+
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
 

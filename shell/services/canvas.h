@@ -17,6 +17,8 @@
 
 namespace zol {
 
+struct CurveOffer;
+
 /// An axis of a curve: what is laid off along it, and in which unit.
 struct Axis {
   std::string quantity;
@@ -118,6 +120,7 @@ class Canvas : public Control {
   // What a view shows beside the picture
   std::optional<Axis> x_axis, y_axis;                             ///< rulers, where the picture is a curve
   std::function<std::string(double x, double y)> describe_place;  ///< the place under the pointer, in user coordinates
+  std::shared_ptr<const CurveOffer> curve;                        ///< what may be laid beside the curve, where it is one
 
   // For views and exports
   [[nodiscard]] Services& services() const { return services_; }
@@ -140,6 +143,8 @@ class Canvas : public Control {
   [[nodiscard]] const Surface& overlay_so_far() const { return raster_.overlay(); }
   /// Another number when more has changed than that something was drawn besides.
   [[nodiscard]] unsigned redrawn() const { return redrawn_; }
+  /// What lies beside the curve has changed.
+  void surroundings_changed() { changed(); }
 
  protected:
   [[nodiscard]] std::any copied_contents() const override { return contents(); }

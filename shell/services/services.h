@@ -56,7 +56,9 @@ enum class FileKind {
   CameraParameters,
   Corrector,
   Export,
-  PrintedPage
+  PrintedPage,
+  MeasuredPattern,
+  LineList
 };
 
 struct FileQuestion {
