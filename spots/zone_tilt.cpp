@@ -34,13 +34,13 @@ PictureFrame picture_frame(const Main1State& state) {
   const Lattice lattice = lattice_of(state);
   const CartesianVector towards = unit(lattice.cartesian(DirectVector{state.ZoneU, state.ZoneV, state.ZoneW}));
   const auto reference = reference_reflection(state.ZoneU, state.ZoneV, state.ZoneW);
-  const CartesianVector along = lattice.cartesian(ReciprocalVector{
-      double(reference.h.value()), double(reference.k.value()), double(reference.l.value())});
+  const CartesianVector along = lattice.cartesian(
+      ReciprocalVector{double(reference.h.value()), double(reference.k.value()), double(reference.l.value())});
   const CartesianVector x = unit(sum(1, along, -dot(along, towards), towards));
   const CartesianVector y = cross(towards, x);
   const double angle = state.PatternAngle;
-  return {array_of(sum(std::cos(angle), x, std::sin(angle), y)),
-          array_of(sum(-std::sin(angle), x, std::cos(angle), y)), array_of(towards)};
+  return {array_of(sum(std::cos(angle), x, std::sin(angle), y)), array_of(sum(-std::sin(angle), x, std::cos(angle), y)),
+          array_of(towards)};
 }
 
 std::array<double, 3> axis_of_tilt(const Main1State& state, const PictureFrame& frame, double tilt_right,
@@ -49,9 +49,9 @@ std::array<double, 3> axis_of_tilt(const Main1State& state, const PictureFrame& 
   constexpr double nearer = 1e-6;  // radians
   const Lattice lattice = lattice_of(state);
   const double tilt = std::hypot(tilt_right, tilt_up);
-  const CartesianVector way = tilt > 0 ? sum(tilt_right / tilt, vector_of(frame.right), tilt_up / tilt,
-                                             vector_of(frame.up))
-                                       : CartesianVector{};
+  const CartesianVector way = tilt > 0
+                                  ? sum(tilt_right / tilt, vector_of(frame.right), tilt_up / tilt, vector_of(frame.up))
+                                  : CartesianVector{};
   const CartesianVector wanted = sum(std::cos(tilt), vector_of(frame.towards), -std::sin(tilt), way);
   const auto away = [&wanted](const CartesianVector& axis) {
     return std::atan2(length(cross(wanted, axis)), dot(wanted, axis));

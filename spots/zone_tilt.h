@@ -17,9 +17,9 @@ struct PictureFrame {
 /// @throws RunFailure  no cell, or a zone axis of length 0
 [[nodiscard]] PictureFrame picture_frame(const Main1State& state);
 
-/// The zone axis nearest to what comes to the centre when the crystal is tilted as by a hand on its front: a tilt to the
-/// right brings there what lay at the left. The indices are up to 4; the one of two equally near that has the smaller
-/// ones; the present axis, as it is, where that is the nearest.
+/// The zone axis nearest to what comes to the centre when the crystal is tilted as by a hand on its front: a tilt to
+/// the right brings there what lay at the left. The indices are up to 4; the one of two equally near that has the
+/// smaller ones; the present axis, as it is, where that is the nearest.
 /// @throws RunFailure  no cell
 [[nodiscard]] std::array<double, 3> axis_of_tilt(const Main1State& state, const PictureFrame& frame, double tilt_right,
                                                  double tilt_up);

@@ -28,8 +28,7 @@ Pattern3Form::Pattern3Form(Workbench& bench)
   for (const auto* ending : {".bmp", ".png", ".jpg", ".jpeg", ".tif", ".tiff"}) {
     file_drops.push_back({ending, &ImageLoad, &CommonDialog1});
   }
-  Picture1.hint =
-      "Drop a measured pattern here, or Image > LOAD. Then draw three lines along bands and press CALC";
+  Picture1.hint = "Drop a measured pattern here, or Image > LOAD. Then draw three lines along bands and press CALC";
   Picture1.loupe = true;
   Imatch.checked_when = [this] { return MatchMode == 1; };
   CPS_Si001.checked_when = [this] { return SiMode == 1; };

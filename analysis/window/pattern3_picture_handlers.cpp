@@ -228,9 +228,9 @@ void TakeBackLine(Pattern3Form& form) {
 void declare_picture(Workbench& bench, Pattern3Form& form) {
   Canvas& picture = form.Picture1;
   const CrystalState& seen = bench.seen();
-  picture.geometry = PictureGeometry{
-      .direction = [&seen](double x, double y) { return direction_in_picture(seen, x, y); },
-      .wavelength = [&seen] { return double{seen.WaveLength}; }};
+  picture.geometry =
+      PictureGeometry{.direction = [&seen](double x, double y) { return direction_in_picture(seen, x, y); },
+                      .wavelength = [&seen] { return double{seen.WaveLength}; }};
   picture.rows = &form.List1;
   picture.row_marks = [&seen, &form](int row) { return bands_of_solution(seen, form, row); };
   picture.actions.push_back({"Take back the last line", "TakeBackLine", [&form] {

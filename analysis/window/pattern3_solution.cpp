@@ -47,9 +47,9 @@ PictureMarks bands_of_solution(const CrystalState& seen, const Pattern3Form& for
     CrystalState state = seen;
     const auto& directions = form.solutions.SolutionDir;
     const SingleTriple direction{directions(number, 1), directions(number, 2), directions(number, 3)};
-    state.PatternAngle = in_plane_rotations(seen, form.triples, form.bands,
-                                            form.solutions.SolutionTriple(number).value(), direction)
-                             .mean();
+    state.PatternAngle =
+        in_plane_rotations(seen, form.triples, form.bands, form.solutions.SolutionTriple(number).value(), direction)
+            .mean();
     take_axis(state, direction);
     QuietTask task;
     reorder(state, order_for_kikuchi(state, task), task);

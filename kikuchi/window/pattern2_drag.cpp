@@ -14,8 +14,12 @@ void Pattern2Drag::begin(double x, double y, bool turns) {
   constexpr double coarse = 10;
   constexpr double fine = 0.1;
   turn_.begin(x, y,
-              {{&form_.Command9, -coarse}, {&form_.Command10, coarse}, {&form_.Command6, -1}, {&form_.Command7, 1},
-               {&form_.Command11, -fine}, {&form_.Command12, fine}},
+              {{&form_.Command9, -coarse},
+               {&form_.Command10, coarse},
+               {&form_.Command6, -1},
+               {&form_.Command7, 1},
+               {&form_.Command11, -fine},
+               {&form_.Command12, fine}},
               form_.RotationPitch);
 }
 

@@ -44,7 +44,10 @@ void CanvasView::attach(Canvas& canvas, UserEvents& events) {
   canvas_ = &canvas;
   events_ = &events;
   tools_ = std::make_unique<PictureTools>(
-      canvas, events, *this, [this] { return PicturePlace{canvas_, picture_rect()}; },
+      canvas, events, *this,
+      [this] {
+        return PicturePlace{canvas_, picture_rect()};
+      },
       [this](const QString& words) { emit pointed_at(words); });
   refresh();
 }

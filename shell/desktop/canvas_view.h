@@ -33,6 +33,8 @@ class CanvasView : public QWidget {
   /// Where the picture stands inside the view.
   [[nodiscard]] QRectF picture_rect() const;
 
+  /// All of the picture is shown.
+  [[nodiscard]] bool up_to_date() const { return up_to_date_; }
   void copy_to_clipboard() const;
   /// Leaves so many pixels free above the picture.
   void set_note_room(int pixels);

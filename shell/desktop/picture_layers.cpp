@@ -28,7 +28,8 @@ QFont layer_font() {
 /// Colours that are told apart, also by the colour-blind, and readable on white. Source: Okabe & Ito (2008), the two
 /// pale ones darkened.
 QColor family_colour(int family) {
-  constexpr std::array<QRgb, 7> colours{0xff0072b2, 0xffb34700, 0xff00795a, 0xff9c4a7c, 0xff7a6a00, 0xff2f6f9f, 0xff000000};
+  constexpr std::array<QRgb, 7> colours{0xff0072b2, 0xffb34700, 0xff00795a, 0xff9c4a7c,
+                                        0xff7a6a00, 0xff2f6f9f, 0xff000000};
   return QColor::fromRgb(colours.at(static_cast<std::size_t>(family) % colours.size()));
 }
 

@@ -1,4 +1,5 @@
-// What the pointer and the keys do over a picture beside its own events: light up marks and rows, measure, tilt and turn.
+// What the pointer and the keys do over a picture beside its own events: light up marks and rows, measure, tilt and
+// turn.
 #pragma once
 
 #include <functional>

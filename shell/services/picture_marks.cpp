@@ -20,9 +20,7 @@ double angle_between(const std::array<double, 3>& a, const std::array<double, 3>
          degrees_of_radian;
 }
 
-bool nearly(double a, double b, double part) {
-  return std::abs(a - b) <= part * std::max(std::abs(a), std::abs(b));
-}
+bool nearly(double a, double b, double part) { return std::abs(a - b) <= part * std::max(std::abs(a), std::abs(b)); }
 
 struct Box {
   double left, top, right, bottom;

@@ -1,5 +1,6 @@
 // What a picture shows beside its lines: the reflections that were drawn, what a place in it stands for, and what can
-// be done in it by dragging. A view makes scales, labels and measurements of this; scripts and files know nothing of it.
+// be done in it by dragging. A view makes scales, labels and measurements of this; scripts and files know nothing of
+// it.
 #pragma once
 
 #include <array>

@@ -30,9 +30,9 @@ std::optional<DragStep> SpotsDrag::next(double x, double y) {
   const double scale = tilt_of_half_width / half_width;
   const auto axis = axis_of_tilt(state, *frame_, scale * (x - from_x_), scale * (y - from_y_));
   if (axis == std::array<double, 3>{state.ZoneU, state.ZoneV, state.ZoneW}) return std::nullopt;
-  return DragStep{{{&form_.Text3, plain_text(axis[0])}, {&form_.Text4, plain_text(axis[1])},
-                   {&form_.Text5, plain_text(axis[2])}},
-                  &form_.Command8};
+  return DragStep{
+      {{&form_.Text3, plain_text(axis[0])}, {&form_.Text4, plain_text(axis[1])}, {&form_.Text5, plain_text(axis[2])}},
+      &form_.Command8};
 }
 
 }  // namespace zol

@@ -1,4 +1,5 @@
-// Dragging over the spot pattern and the fiber texture: a drag tilts from zone axis to zone axis, a drag with Ctrl turns.
+// Dragging over the spot pattern and the fiber texture: a drag tilts from zone axis to zone axis, a drag with Ctrl
+// turns.
 #pragma once
 
 #include <optional>

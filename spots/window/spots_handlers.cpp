@@ -79,9 +79,9 @@ void wire_spots(Workbench& bench, SpotsForm& form, Draw draw, double clockwise, 
   form.Command8.on_click = on(draw);
   form.Command2.on_click = [&bench, &form, draw] { zoom(bench, form, bench.state.CamAcquisition / zoom_factor, draw); };
   form.Command3.on_click = [&bench, &form, draw] { zoom(bench, form, bench.state.CamAcquisition * zoom_factor, draw); };
-  const std::array turns{Turn{form.Command6, clockwise, 1}, Turn{form.Command9, 5 * clockwise, 1}, Turn{form.Command11, clockwise, 5},
-        Turn{form.Command7, -clockwise, 1}, Turn{form.Command10, -5 * clockwise, 1},
-        Turn{form.Command12, -clockwise, 5}};
+  const std::array turns{Turn{form.Command6, clockwise, 1},       Turn{form.Command9, 5 * clockwise, 1},
+                         Turn{form.Command11, clockwise, 5},      Turn{form.Command7, -clockwise, 1},
+                         Turn{form.Command10, -5 * clockwise, 1}, Turn{form.Command12, -clockwise, 5}};
   std::vector<TurnButton> turning;
   for (const auto& [button, times, by] : turns) {
     turning.push_back({&button, (clockwise > 0 ? -1 : 1) * times / by});
