@@ -66,6 +66,8 @@ DringForm::DringForm(Workbench& bench)
   Picture1.describe_place = [](double x, double y) {
     return spacing_text(x) + value_text("   I", y * 100, "0.0", " %");
   };
+  for (Canvas* picture : {&Picture1, &Picture2}) picture->hint = "CALC draws the diagram";
+  Picture2.geometry = PictureGeometry{1};
   Picture2.describe_place = [](double x, double y) { return spacing_text(std::hypot(x, y)); };
   Picture2.set_solid_fill(false);
   fields().add("DStarMax", DStarMax);

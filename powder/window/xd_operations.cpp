@@ -57,6 +57,7 @@ XdForm::XdForm(Workbench& bench)
              [this](double d_star) { return two_theta_at(Curves.data.with.wavelength, d_star); }) {
   Picture1.x_axis = Axis{"2θ", "°"};
   Picture1.y_axis = Axis{"I", "% of full height", 100};
+  Picture1.hint = "CALC draws the diagram";
   Picture1.describe_place = [&bench](double x, double y) {
     std::string text = value_text("2θ", x, "0.00", "°");
     if (x > 0 && x < 180)

@@ -11,6 +11,7 @@
 
 #include "shell/desktop/desktop_services.h"
 #include "shell/desktop/guarded_application.h"
+#include "shell/desktop/picture_choices.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/recovery.h"
 #include "shell/desktop/screen_fit.h"
@@ -72,6 +73,8 @@ void name_application() {
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/zol.svg")));
   use_fitting_style();
   QApplication::setQuitOnLastWindowClosed(false);
+  PictureChoices::of_program().keep_in(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+                                       QStringLiteral("/pictures.ini"));
 }
 
 }  // namespace

@@ -3,13 +3,17 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include <QImage>
 #include <QPointer>
 #include <QWidget>
 
+class QMenu;
+
 #include "shell/desktop/drawing_painter.h"
+#include "shell/desktop/picture_tools.h"
 #include "shell/desktop/user_events.h"
 #include "shell/services/canvas.h"
 
@@ -33,11 +37,16 @@ class CanvasView : public QWidget {
   /// Where the picture stands inside the view.
   [[nodiscard]] QRectF picture_rect() const;
 
+  /// All of the picture is shown.
+  [[nodiscard]] bool up_to_date() const { return up_to_date_; }
   void copy_to_clipboard() const;
   /// Leaves so many pixels free above the picture.
   void set_note_room(int pixels);
-  /// What an export says of the picture where that is wanted.
-  void set_caption(std::function<QString()> caption) { caption_ = std::move(caption); }
+  /// What an export says of the picture where that is wanted, and the name that its file is proposed with.
+  void set_caption(std::function<QString()> caption, std::function<std::string()> file_name = {}) {
+    caption_ = std::move(caption);
+    file_name_ = std::move(file_name);
+  }
   /// What is copied and exported in the place of the picture alone.
   struct StandIn {
     std::function<QImage()> image;
@@ -61,6 +70,7 @@ class CanvasView : public QWidget {
   void mouseReleaseEvent(QMouseEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;
   void contextMenuEvent(QContextMenuEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   [[nodiscard]] QPointF user_position(const QPointF& position) const;
@@ -77,7 +87,11 @@ class CanvasView : public QWidget {
   void draw_x_ruler(QPainter& painter, const QRectF& place) const;
   void draw_y_ruler(QPainter& painter, const QRectF& place) const;
   void ask_export(double factor, const char* ending);
+  void ask_resolution();
+  void add_exports(QMenu& menu);
   void press_at(const QPointF& position);
+  void point_at(const QPointF& position);
+  void paint_layers(QPainter& painter, const QRectF& place);
 
   Canvas* canvas_ = nullptr;
   UserEvents* events_ = nullptr;
@@ -87,6 +101,8 @@ class CanvasView : public QWidget {
   std::function<QString()> caption_;
   StandIn stand_in_;
   QPointer<QMenu> menu_;
+  std::function<std::string()> file_name_;
+  std::unique_ptr<PictureTools> tools_;
   std::optional<CanvasPainting> painting_;
   bool up_to_date_ = false;
 };

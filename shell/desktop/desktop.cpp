@@ -173,6 +173,8 @@ Binder* Desktop::binder(const std::string& window_name) const {
   return found == shown_.end() ? nullptr : found->second.binder.get();
 }
 
+std::string Desktop::crystal_name() const { return program_ == nullptr ? "" : program_->crystal_name(); }
+
 void Desktop::window_created(Window& window) {
   auto widget = load_ui(window.name());
   if (!widget) return;

@@ -65,6 +65,8 @@ class Desktop : public QObject, public WindowView {
   [[nodiscard]] LongWork& long_work() { return long_work_; }
 
   [[nodiscard]] Binder* binder(const std::string& window_name) const;
+  /// Of the present crystal; empty where it has none.
+  [[nodiscard]] std::string crystal_name() const;
 
   void window_created(Window& window) override;
   void window_shown(Window& window) override;
