@@ -59,7 +59,7 @@ void CurveControls::declare(Window& window) {
     };
   }
   for (const auto* ending : {".xy", ".xye", ".csv", ".txt", ".dat", ".xrdml", ".raw", ".rd", ".udf", ".uxd", ".cpi"}) {
-    window.file_drops.push_back({ending, &AddMeasured, &Dialog});
+    window.file_drops.push_back({ending, &AddMeasured, &Dialog, FileKind::MeasuredPattern});
   }
 }
 

@@ -23,9 +23,11 @@ struct Kind {
   const char* key;
   const char* title;
 };
-constexpr std::array kinds{Kind{FileKind::Crystal, "crystals", QT_TRANSLATE_NOOP("zol::RecentMenu", "&Crystals")},
-                           Kind{FileKind::Structure, "structures", QT_TRANSLATE_NOOP("zol::RecentMenu", "&Structures")},
-                           Kind{FileKind::Picture, "pictures", QT_TRANSLATE_NOOP("zol::RecentMenu", "&Pictures")}};
+constexpr std::array kinds{
+    Kind{FileKind::Crystal, "crystals", QT_TRANSLATE_NOOP("zol::RecentMenu", "&Crystals")},
+    Kind{FileKind::Structure, "structures", QT_TRANSLATE_NOOP("zol::RecentMenu", "&Structures")},
+    Kind{FileKind::Picture, "pictures", QT_TRANSLATE_NOOP("zol::RecentMenu", "&Pictures")},
+    Kind{FileKind::MeasuredPattern, "patterns", QT_TRANSLATE_NOOP("zol::RecentMenu", "&Measured patterns")}};
 
 QString key(const Kind& kind) { return QStringLiteral("recent/") + QLatin1String(kind.key); }
 
