@@ -106,7 +106,7 @@ TEST_F(Pictures, ExportHasTheKindThatItsNameSays) {
   }
   QuietTask quiet;
   for (const auto* name : {"with.png", "with.svg", "with.pdf"}) {
-    export_picture(canvas, folder.path(name), 2.0, quiet, QStringLiteral("Quartz"));
+    export_picture(canvas, folder.path(name), 2.0, quiet, {QStringLiteral("Quartz"), {}});
   }
   const QImage with_caption(QString::fromStdString(folder.path("with.png")));
   const QImage plain = picture_image(canvas, 2.0);
