@@ -11,6 +11,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "reflections/window/main1_form.h"
@@ -27,9 +29,16 @@ struct PixelServices : FakeServices {
   }
 };
 
+/// What windows keep goes to a folder of this process, not to the user's.
+inline void keep_settings_apart() {
+  static const QTemporaryDir folder;
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+}
+
 class DesktopTest : public testing::Test {
  protected:
   DesktopTest() {
+    keep_settings_apart();
     desktop.set_question([this](const std::string& reason) {
       questions.push_back(reason);
       return agrees;

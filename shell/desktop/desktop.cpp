@@ -23,6 +23,8 @@
 #include "shell/desktop/file_drops.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/guide.h"
+#include "shell/desktop/look/folding.h"
+#include "shell/desktop/look/look.h"
 #include "shell/desktop/note_line.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/screen_fit.h"
@@ -180,6 +182,9 @@ void Desktop::window_created(Window& window) {
   if (advice_) advice_->add(window, *widget);
   binder->show_everything();
   if (auto* top = qobject_cast<QMainWindow*>(widget.get())) {
+    offer_view(*top);
+    dress(*top);
+    offer_folding(*top);
     if (made_) made_(window, *top);
     fit_to_screen(*top);
   }
