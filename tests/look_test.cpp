@@ -10,8 +10,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QRadioButton>
-#include <QCheckBox>
+#include <QRegularExpression>
 
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/look/folding.h"
@@ -84,7 +83,9 @@ std::vector<std::string> window_names() {
 const auto as_is = [](const auto& name) { return name.param; };
 INSTANTIATE_TEST_SUITE_P(Look, Windows, testing::ValuesIn(window_names()), as_is);
 
+// Of words and numbers: a sign like a degree is thinner than a pixel and never shows its full colour.
 TEST_P(Windows, ShowTextThatCanBeReadInBothShades) {
+  const QRegularExpression word(QStringLiteral("[A-Za-z0-9]"));
   const QString folder = qEnvironmentVariable("ZOL_LOOK_PICTURES");
   for (const Look look : {Look::Light, Look::Dark}) {
     use_look(look);
@@ -97,8 +98,9 @@ TEST_P(Windows, ShowTextThatCanBeReadInBothShades) {
     const double scale = picture.devicePixelRatio();
     for (auto* part : top.findChildren<QWidget*>()) {
       const bool has_text = qobject_cast<QLabel*>(part) != nullptr || qobject_cast<QAbstractButton*>(part) != nullptr;
-      if (!has_text || !part->isVisible() || !part->isEnabled()) continue;
-      if (part->property("text").toString().trimmed().isEmpty()) continue;
+      const bool whole = part->visibleRegion().boundingRect() == part->rect();
+      if (!has_text || !part->isVisible() || !part->isEnabled() || !whole) continue;
+      if (!part->property("text").toString().contains(word)) continue;
       const QRect place(part->mapTo(&top, QPoint(3, 3)) * scale, (part->size() - QSize(6, 6)) * scale);
       EXPECT_GE(contrast_of(picture.copy(place)), 4.5) << name_of(*part) << (look == Look::Dark ? ", dark" : "");
     }
@@ -178,7 +180,7 @@ INSTANTIATE_TEST_SUITE_P(Look, Folding, testing::Values("Main1"), as_is);
 
 TEST_P(Folding, GoesByClickAndSpaceIsKeptAndOpensForTheFocus) {
   QMainWindow& top = shown();
-  top.resize(1300, 740);
+  top.resize(1366, 740);
   QApplication::processEvents();
   activate("Main1");
   QGroupBox& atoms = group(QStringLiteral("Atoms"));
@@ -203,15 +205,15 @@ TEST_P(Folding, GoesByClickAndSpaceIsKeptAndOpensForTheFocus) {
 TEST_P(Folding, TellsWhatItHoldsAndFollowsTheWidth) {
   load("Si.cry");
   QMainWindow& top = shown();
-  QGroupBox& reciprocal = group(QStringLiteral("Reciprocal cell"));
-  top.resize(1300, 740);
+  QGroupBox& atoms = group(QStringLiteral("Atoms"));
+  top.resize(1366, 740);
   QApplication::processEvents();
-  EXPECT_FALSE(fold_of(&reciprocal)->folded());
+  EXPECT_FALSE(fold_of(&atoms)->folded());
   top.resize(676, 734);
   QApplication::processEvents();
-  EXPECT_TRUE(fold_of(&reciprocal)->folded());
-  const QString volume = child<QLineEdit>("Main1", "Text14").text().trimmed();
-  EXPECT_TRUE(fold_of(&reciprocal)->summary().contains(volume));
+  EXPECT_TRUE(fold_of(&atoms)->folded());
+  EXPECT_EQ(child<QLabel>("Main1", "Label19").text().trimmed(), QStringLiteral("1"));
+  EXPECT_TRUE(fold_of(&atoms)->summary().startsWith(u'1')) << fold_of(&atoms)->summary().toStdString();
 }
 
 class PictureKey : public Windows {};
@@ -221,7 +223,7 @@ TEST_P(PictureKey, ShowsThePictureAloneAndAllOfItAgain) {
   QMainWindow& top = shown();
   activate(GetParam().c_str());
   auto& picture = child<CanvasView>(GetParam().c_str(), "Picture1");
-  auto& button = child<QAbstractButton>(GetParam().c_str(), "Command1");
+  auto& button = child<QAbstractButton>(GetParam().c_str(), "Command3");
   const QSize before = picture.size();
   for (int pass = 0; pass < 2; ++pass) {
     QTest::keyClick(&top, Qt::Key_F9);

@@ -70,6 +70,7 @@ void dress(QMainWindow& window) {
     const QString ink = widget->property("ink").toString();
     auto* button = qobject_cast<QAbstractButton*>(widget);
     if (button != nullptr && !ink.isEmpty()) button->setIcon(ink_icon(ink));
+    if (widget->property("look") == QLatin1String("step")) widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     const bool picture = qobject_cast<CanvasView*>(widget) != nullptr;
     if ((widget->focusPolicy() == Qt::NoFocus && !picture) || widget->objectName().startsWith(u"qt_")) continue;
     if (widget->accessibleName().isEmpty() && !says_its_name(*widget)) {

@@ -179,7 +179,8 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
 void LookStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                             const QWidget* widget) const {
   if (element == CE_PushButtonLabel) return draw_button_text(*option, *painter, widget);
-  if (element == CE_ProgressBar) return draw_progress(*option, *painter);
+  if (element == CE_ProgressBarGroove || element == CE_ProgressBarLabel) return;
+  if (element == CE_ProgressBarContents) return draw_progress(*option, *painter);
   QProxyStyle::drawControl(element, option, painter, widget);
 }
 
