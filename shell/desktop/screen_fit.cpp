@@ -20,6 +20,7 @@ void fit_to_screen(QMainWindow& window) {
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);  // it follows the focus of what is in it
     area->setWidget(window.takeCentralWidget());
     window.setCentralWidget(area);
     window.setMinimumSize(least.boundedTo(room));

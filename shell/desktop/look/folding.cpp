@@ -105,6 +105,9 @@ void Fold::show(bool folded) {
   folded_ = folded;
   body_->setVisible(!folded);
   group_.setSizePolicy(group_.sizePolicy().horizontalPolicy(), folded ? QSizePolicy::Fixed : QSizePolicy::Preferred);
+  for (auto* layout : group_.parentWidget()->findChildren<QBoxLayout*>()) {
+    if (layout->setAlignment(&group_, folded ? Qt::AlignTop : Qt::Alignment())) break;
+  }
   group_.setAccessibleDescription(folded ? QObject::tr("folded; Space opens it") : QString());
   group_.update();
 }
@@ -165,10 +168,8 @@ Breakpoint::Breakpoint(QWidget& host, int width) : QObject(&host), host_(host), 
 /// Both forms are tried, the wide one last.
 void Breakpoint::measure() {
   turn(true);
-  host_.layout()->activate();
   narrow_width_ = host_.layout()->totalMinimumSize().width();
   turn(false);
-  host_.layout()->activate();
   width_ = std::max(asked_, host_.layout()->totalMinimumSize().width());
   take_minimum();
 }
@@ -187,6 +188,11 @@ void Breakpoint::turn(bool narrow) {
     const bool folds = group->property("folds").toString() == QLatin1String("narrow");
     if (Fold* fold = fold_of(group); fold != nullptr && folds) fold->fold_by_itself(narrow);
   }
+  // From the innermost to the outermost: each keeps what it knows of those inside.
+  auto layouts = host_.findChildren<QLayout*>();
+  for (auto* layout : layouts) layout->invalidate();
+  std::reverse(layouts.begin(), layouts.end());
+  for (auto* layout : layouts) layout->activate();
   turning_ = false;
 }
 
@@ -211,7 +217,6 @@ bool Breakpoint::eventFilter(QObject* watched, QEvent* event) {
     const bool narrow = host_.width() < width_;
     if (narrow != narrow_) {
       turn(narrow);
-      host_.layout()->activate();
       take_minimum();
     }
   } else if (event->type() == QEvent::LayoutRequest && !turning_) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QGroupBox>
+#include <QLabel>
 #include <QPainter>
 #include <QPushButton>
 #include <QStyleOption>
@@ -168,6 +169,10 @@ void LookStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opti
     case PE_IndicatorRadioButton:
       return draw_check(*option, *painter, true);
     case PE_Frame:
+      if (qobject_cast<const QLabel*>(widget) != nullptr) {  // a result: as a box that can only be read
+        painter->fillRect(option->rect.left(), option->rect.bottom(), option->rect.width(), 1, of("hair"));
+        return;
+      }
       draw_box(*painter, option->rect, Qt::transparent, of("hair"));
       if (option->state & State_HasFocus) draw_focus(*painter, option->rect, of("link"));
       return;
