@@ -5,6 +5,7 @@
 
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include <QAbstractButton>
@@ -17,6 +18,7 @@
 
 #include "reflections/window/main1_form.h"
 #include "shell/desktop/desktop.h"
+#include "shell/desktop/look/folding.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/program/program.h"
 #include "tests/fake_services.h"
@@ -54,6 +56,7 @@ class DesktopTest : public testing::Test {
   Kind& child(const std::string& window, const char* name) {
     auto* found = widget(window).findChild<Kind*>(QString::fromLatin1(name));
     EXPECT_NE(found, nullptr) << name;
+    if constexpr (std::is_base_of_v<QWidget, Kind>) reveal(*found);  // the windows of this small screen are narrow
     return *found;
   }
   QLineEdit& box(const char* name) { return child<QLineEdit>("Main1", name); }

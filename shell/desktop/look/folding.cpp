@@ -220,6 +220,7 @@ bool Breakpoint::eventFilter(QObject* watched, QEvent* event) {
       take_minimum();
     }
   } else if (event->type() == QEvent::LayoutRequest && !turning_) {
+    host_.layout()->activate();  // nested rows know of what has changed in them only by this
     take_minimum();
   }
   return QObject::eventFilter(watched, event);
