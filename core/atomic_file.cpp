@@ -14,11 +14,13 @@
 #include <filesystem>
 #include <iostream>
 #include <limits>
+#include <memory>
 #include <optional>
 #include <system_error>
 #include <utility>
 
 #include "core/read_file.h"
+#include "core/run_aside.h"
 #include "core/run_failure.h"
 
 namespace zol {
@@ -97,8 +99,31 @@ int write_all(int descriptor, std::string_view text) {
 }
 
 /// @returns 0 or the reason
+int write_all(int descriptor, std::string_view text, Task* task) {
+  if (task == nullptr) return write_all(descriptor, text);
+  constexpr std::size_t piece = 1 << 20;
+  int reason = 0;
+  for (std::size_t at = 0; at < text.size() && reason == 0; at += piece) {
+    task->check();
+    reason = write_all(descriptor, text.substr(at, piece));
+  }
+  return reason;
+}
+
+/// @returns 0 or the reason
 int bring_to_disk(int descriptor) {
   return fsync(descriptor) == 0 || errno == EINVAL ? 0 : errno;  // EINVAL: nothing that could be brought to a disk
+}
+
+/// A disk may take seconds: the task is asked meanwhile. @returns 0 or the reason
+int bring_to_disk(int descriptor, Task* task) {
+  if (task == nullptr) return bring_to_disk(descriptor);
+  const std::shared_ptr<int> own(new int(fcntl(descriptor, F_DUPFD_CLOEXEC, 0)), [](const int* held) {
+    close(*held);
+    delete held;
+  });
+  if (*own < 0) return bring_to_disk(descriptor);
+  return run_aside<int>(*task, [own] { return bring_to_disk(*own); });
 }
 
 /// Makes a file hold the text and nothing more. @returns 0 or the reason
@@ -168,9 +193,9 @@ void AtomicFile::open_stream() {
   if (in_place_ < 0) fail(errno);
 }
 
-void AtomicFile::commit() {
+void AtomicFile::commit(Task* task) {
   if (temporary_) {
-    commit_temporary();
+    commit_temporary(task);
   } else if (is_stream_) {
     commit_stream();
   } else {
@@ -178,9 +203,9 @@ void AtomicFile::commit() {
   }
 }
 
-void AtomicFile::commit_temporary() {
-  if (const int reason = write_all(temporary_->descriptor(), text_); reason != 0) fail(reason);
-  if (const int reason = bring_to_disk(temporary_->descriptor()); reason != 0) fail(reason);
+void AtomicFile::commit_temporary(Task* task) {
+  if (const int reason = write_all(temporary_->descriptor(), text_, task); reason != 0) fail(reason);
+  if (const int reason = bring_to_disk(temporary_->descriptor(), task); reason != 0) fail(reason);
   if (std::rename(temporary_->path().c_str(), target_.c_str()) == 0) {
     temporary_->renamed();
   } else if (const int reason = errno; replaces_ && (reason == EACCES || reason == EPERM || reason == EBUSY)) {

@@ -4,7 +4,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
+#include "core/task.h"
 #include "core/temporary.h"
 
 struct stat;
@@ -27,10 +29,14 @@ class AtomicFile {
   ~AtomicFile();
 
   void write(std::string_view text) { text_ += text; }
+  /// All of the file.
+  void contain(std::string text) { text_ = std::move(text); }
   /// Renames the file once all of it is on the disk, so that even a crash of the machine leaves either the old file or
   /// the new one.
   /// @throws RunFailure  the file cannot be written or renamed
-  void commit();
+  /// @throws Cancelled  the task stops before the new file has the place of the old one, which stays as it is
+  void commit(Task& task) { commit(&task); }
+  void commit() { commit(nullptr); }
 
  private:
   [[noreturn]] void fail(const std::string& why) const;
@@ -39,7 +45,8 @@ class AtomicFile {
   void prepare_to_replace(const struct stat& old);
   void open_in_place();
   void open_stream();
-  void commit_temporary();
+  void commit(Task* task);
+  void commit_temporary(Task* task);
   void commit_in_place();
   void commit_stream();
 

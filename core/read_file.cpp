@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <cstring>
 
+#include "core/run_aside.h"
 #include "core/run_failure.h"
 
 namespace zol {
@@ -78,6 +79,10 @@ std::string read_bytes(const std::string& path, std::size_t most_bytes, bool cut
 }  // namespace
 
 std::string read_file(const std::string& path, std::size_t most_bytes) { return read_bytes(path, most_bytes, false); }
+
+std::string read_file(const std::string& path, Task& task) {
+  return run_aside<std::string>(task, [path] { return read_file(path); });
+}
 
 std::string read_beginning(const std::string& path, std::size_t bytes) { return read_bytes(path, bytes, true); }
 

@@ -21,8 +21,13 @@ void RecordText::end_line() {
 }
 
 void RecordWriter::commit() {
-  file_.write(text());
+  file_.contain(take());
   file_.commit();
+}
+
+void RecordWriter::commit(Task& task) {
+  file_.contain(take());
+  file_.commit(task);
 }
 
 }  // namespace zol

@@ -18,6 +18,7 @@ class RecordText {
   RecordText& field(Integer value);
   void end_line();
   [[nodiscard]] const std::string& text() const { return text_; }
+  [[nodiscard]] std::string take() { return std::move(text_); }
 
  private:
   RecordText& raw(std::string_view text);
@@ -32,6 +33,8 @@ class RecordWriter : public RecordText {
   /// @throws RunFailure  the file cannot be created
   explicit RecordWriter(std::string path) : file_(std::move(path)) {}
   /// Puts the file in its place. @throws RunFailure  it cannot be written
+  /// @throws Cancelled  the task stops; there is no new file then
+  void commit(Task& task);
   void commit();
 
  private:

@@ -13,7 +13,7 @@ constexpr std::size_t most_lines = 200;
 std::vector<std::vector<std::string>> word_lines(const std::string& path, bool skip_empty, Task& task) {
   std::vector<std::vector<std::string>> table;
   int number = 0;
-  for_each_line(read_file(path), task, [&](std::string_view line) {
+  for_each_line(read_file(path, task), task, [&](std::string_view line) {
     ++number;
     auto words = cut_words(line, path, number);
     if (words.empty() && skip_empty) return;

@@ -18,6 +18,7 @@ constexpr double map_scale = 62;
 constexpr double map_reach_deg = 6;
 constexpr double least_angle_deg = 12;  ///< between two planes that give an orientation
 constexpr std::size_t examined = 400;   ///< candidates that are looked at closely
+constexpr std::size_t kept_at_once = 16 * examined;
 
 std::size_t index(int n) { return static_cast<std::size_t>(n); }
 
@@ -134,6 +135,13 @@ Rotation fit_orientation(const VoteTable& table, std::span<const DetectedBand> b
   return parts.matrixU() * Vector3(1, 1, handedness).asDiagonal() * parts.matrixV().transpose();
 }
 
+double OrientationVote::keep_best() {
+  const auto last = candidates_.begin() + (examined - 1);
+  std::nth_element(candidates_.begin(), last, candidates_.end(), Candidate::more_votes);
+  candidates_.resize(examined);
+  return candidates_.back().votes;
+}
+
 std::span<const Orientation> OrientationVote::vote(const VoteTable& table, std::span<const DetectedBand> bands,
                                                    const VoteSettings& settings, Task& task) {
   const double tolerance = settings.tolerance_deg * radians;
@@ -141,6 +149,7 @@ std::span<const Orientation> OrientationVote::vote(const VoteTable& table, std::
   normals_.clear();
   for (const DetectedBand& band : bands) normals_.push_back(band.normal());
   candidates_.clear();
+  double enough = 2;
   const auto& pairs = table.pairs();
   for (std::size_t i = 0; i < bands.size(); ++i) {
     for (std::size_t k = 0; k < bands.size(); ++k) {
@@ -157,6 +166,7 @@ std::span<const Orientation> OrientationVote::vote(const VoteTable& table, std::
                                    [](const VoteTable::Pair& p, float value) { return p.cosine < value; });
       for (; pair != pairs.end() && pair->cosine <= highest; ++pair) {
         task.check();
+        if (candidates_.size() >= kept_at_once) enough = keep_best();
         // Both normals turned round give the other orientation of the two planes.
         for (const double side : {1.0, -1.0}) {
           const Rotation crystal_frame = pair->frame * Vector3(side, side, 1).asDiagonal();
@@ -168,17 +178,13 @@ std::span<const Orientation> OrientationVote::vote(const VoteTable& table, std::
             const double chord = 2 - 2 * std::abs(direction.dot(table.planes()[index(plane)].normal));
             votes += std::max(0.0, 1 - chord * per_chord);
           }
-          if (votes > 2) candidates_.push_back({static_cast<float>(votes), crystal_frame * frame.transpose()});
+          if (votes > enough) candidates_.push_back({static_cast<float>(votes), crystal_frame * frame.transpose()});
         }
       }
     }
   }
-  const auto more_votes = [](const Candidate& a, const Candidate& b) { return a.votes > b.votes; };
-  if (candidates_.size() > examined) {
-    std::nth_element(candidates_.begin(), candidates_.begin() + examined, candidates_.end(), more_votes);
-    candidates_.resize(examined);
-  }
-  std::sort(candidates_.begin(), candidates_.end(), more_votes);
+  if (candidates_.size() > examined) (void)keep_best();
+  std::sort(candidates_.begin(), candidates_.end(), Candidate::more_votes);
 
   solutions_.clear();
   for (const Candidate& candidate : candidates_) {

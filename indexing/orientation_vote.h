@@ -68,7 +68,11 @@ class OrientationVote {
   struct Candidate {
     float votes;
     Rotation rotation;
+    static bool more_votes(const Candidate& a, const Candidate& b) { return a.votes > b.votes; }
   };
+  /// Leaves the best few candidates. @returns the votes of the least of them
+  double keep_best();
+
   std::vector<Candidate> candidates_;
   std::vector<Vector3> normals_, turned_;
   std::vector<MatchedBand> matches_;

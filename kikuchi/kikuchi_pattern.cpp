@@ -110,7 +110,11 @@ ListOrder order_for_kikuchi(const CrystalState& state, Task& task) {
   const int count = state.RefCount.value();
   if (count == 0) throw RunFailure("index 1 of the reflection list, which is empty (\"Calc\" makes it)");
   std::vector<double> keys;
-  for (int i = 0; i <= count; ++i) keys.push_back(double{state.RefS(i)} * double{state.RefI(i)});
+  keys.reserve(static_cast<std::size_t>(count) + 1);
+  for (int i = 0; i <= count; ++i) {
+    task.check();
+    keys.push_back(double{state.RefS(i)} * double{state.RefI(i)});
+  }
   return {exchange_order(keys, 1, last_under_rounded_bound, false, task)};
 }
 

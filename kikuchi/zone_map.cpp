@@ -49,13 +49,13 @@ std::optional<DirectionPlace> place_of_direction(const CrystalState& state, Sing
   return place;
 }
 
-std::vector<PlacedDirection> places_in_sweep(const CrystalState& state, const SweepLimits& limits, Task& task) {
+std::deque<PlacedDirection> places_in_sweep(const CrystalState& state, const SweepLimits& limits, Task& task) {
   const auto span = [](int limit) { return 2.0 * std::max(limit, 0) + 1; };
   const double directions = span(limits.u) * span(limits.v) * span(limits.w);
   constexpr double of_direction = 1.5e-6;     // with what is drawn of it
   constexpr double bytes_of_direction = 300;  // of that
   task.expect({directions * of_direction, directions * bytes_of_direction});
-  std::vector<PlacedDirection> placed;
+  std::deque<PlacedDirection> placed;  // millions of them: none is moved
   const auto visit = [&](Single u, Single v, Single w) {
     task.check();
     if (DHKLT(state, state.ZoneU, state.ZoneV, state.ZoneW) == 0 || DHKLT(state, u, v, w) == 0) return;

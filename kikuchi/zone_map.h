@@ -1,8 +1,8 @@
 // Where a direction [u v w] lies around the present zone axis.
 #pragma once
 
+#include <deque>
 #include <optional>
-#include <vector>
 
 #include "core/crystal_state.h"
 #include "core/task.h"
@@ -32,8 +32,8 @@ struct PlacedDirection {
 };
 /// All directions up to the limits that have a place, w fastest, except those with three even indices. None for a zero
 /// axis.
-[[nodiscard]] std::vector<PlacedDirection> places_in_sweep(const CrystalState& state, const SweepLimits& limits,
-                                                           Task& task);
+[[nodiscard]] std::deque<PlacedDirection> places_in_sweep(const CrystalState& state, const SweepLimits& limits,
+                                                          Task& task);
 
 /// Turned by CamNormal about the x axis: the place as seen from the substrate normal.
 [[nodiscard]] DirectionPlace from_substrate_normal(const CrystalState& state, const DirectionPlace& place);

@@ -206,7 +206,11 @@ ReflectionList enumerate_reflections(const CrystalState& state, const Enumeratio
 void sort_list(ReflectionList& list, Task& task) {
   constexpr double never_taken = 1000;  // a key from here on is passed over
   std::vector<double> keys;
-  for (int i = 0; i <= list.count.value(); ++i) keys.push_back(list.s(i));
+  keys.reserve(static_cast<std::size_t>(list.count.value()) + 1);
+  for (int i = 0; i <= list.count.value(); ++i) {
+    task.check();
+    keys.push_back(list.s(i));
+  }
   const auto order = exchange_order(keys, 1, first_smallest_below(never_taken), false, task);
   reorder(list.s, order, task);
   for (auto* array : {&list.h, &list.k, &list.l}) reorder(*array, order, task);

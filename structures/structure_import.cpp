@@ -75,9 +75,10 @@ void tell_misfit(const Structure& structure, Notes& notes) {
 }
 
 /// Occupancies that sum up to above 1 on a place.
-void tell_crowded_sites(const Structure& structure, Notes& notes) {
+void tell_crowded_sites(const Structure& structure, Task& task, Notes& notes) {
   const Lattice lattice(structure.cell);
   for (std::size_t i = 0; i < structure.sites.size(); ++i) {
+    task.check();
     double sum = 0;
     bool is_first = true;
     for (std::size_t j = 0; j < structure.sites.size(); ++j) {
@@ -226,7 +227,7 @@ Import import_structure(std::string_view bytes, const std::string& name, const I
                      " angstroms; by their occupancies they are a split site, and stay apart");
   }
   PlacedStructure placed = placed_structure(read.structure, groups, task);
-  tell_crowded_sites(placed.structure, read.notes);
+  tell_crowded_sites(placed.structure, task, read.notes);
 
   const Formula contents = cell_contents(placed.structure, task);
   const std::size_t atoms = cell_atoms(placed.structure, settled_angstrom, task).size();

@@ -1,3 +1,7 @@
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "calculators/window/atom_distance_form.h"
 #include "core/number_text.h"
 #include "reflections/window/main1_form.h"
@@ -22,17 +26,22 @@ void Command1_Click(Workbench& bench, AtomDistanceForm& form) {
   const DistanceCell cell = distance_cell(state);
   const auto of_sites = atom_distances(state, cell, form.DistanceMax, task);
   form.cell = cell;
-  form.List1.clear();
+  std::size_t count = of_sites.size();
+  for (const auto& distances : of_sites) count += distances.size();
+  std::vector<std::string> lines;
+  lines.reserve(count);
   int site = 0;
   for (const auto& distances : of_sites) {
     ++site;
     task.report(site, state.NAtom.value());
     for (const auto& found : distances) {
       task.check();
-      form.List1.add_item(distance_line(state, site, found));
+      lines.push_back(distance_line(state, site, found));
     }
-    form.List1.add_item("------------------------");
+    lines.emplace_back("------------------------");
   }
+  form.List1.clear();
+  form.List1.add_items(std::move(lines), task);
 }
 
 }  // namespace

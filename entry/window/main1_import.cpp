@@ -24,7 +24,7 @@ void import(Workbench& bench, Main1Form& form, FileKind kind, const char* filter
   Reader reader(path);
   Integer atoms;
   WindowTask task(bench.services);
-  for_each_line(read_file(path), task, [&](std::string_view line) {
+  for_each_line(read_file(path, task), task, [&](std::string_view line) {
     const auto found = reader.take(line);
     if (found.site) store_site(state, (atoms += 1).value(), *found.site);
     for (const auto& entry : found.texts) write_box(form, entry);

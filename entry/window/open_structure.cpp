@@ -31,9 +31,9 @@ std::string without_folder(const std::string& path) { return path.substr(path.rf
 
 /// Reads until no question is left. @returns none where the user has cancelled one
 std::optional<ImportedCrystal> read(Workbench& bench, const CrystalState& state, const std::string& path) {
-  const std::string bytes = read_file(path);
-  const SpaceGroupLibrary groups = library_of(bench);
   WindowTask task(bench.services);
+  const std::string bytes = read_file(path, task);
+  const SpaceGroupLibrary groups = library_of(bench);
   ImportAnswers answers;
   while (true) {
     auto result = import_structure(bytes, without_folder(path), answers, groups, factor_keys(state), task);

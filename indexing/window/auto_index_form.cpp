@@ -170,8 +170,11 @@ AutoIndexForm::AutoIndexForm(Workbench& bench)
   Blend.set_range(0, 100);
   Blend.set_value(50);
   reads = {shared::radiation};
-  Solutions.made_from = Origin{
-      {inputs::crystal(), {"radiation", {"AccVoltage"}}, inputs::settings({}, {&BandCount, &CircleMask})}, {&Index}};
+  Solutions.made_from = Origin{{inputs::crystal(),
+                                {"radiation", {"AccVoltage"}},
+                                {"detector", {"CamAcquisition", "CamXShift", "CamYShift"}},
+                                inputs::settings({}, {&BandCount, &CircleMask})},
+                               {&Index}};
 }
 
 void AutoIndexForm::name_fields() {

@@ -39,7 +39,7 @@ SweepLimits sweep_limits(const ZaxisForm& form) {
   return {index_limit(form.Text1).value(), index_limit(form.Text2).value(), index_limit(form.Text3).value()};
 }
 
-void draw_directions(const CrystalState& state, const std::vector<PlacedDirection>& directions, ZaxisForm& form,
+void draw_directions(const CrystalState& state, const std::deque<PlacedDirection>& directions, ZaxisForm& form,
                      Task& task) {
   constexpr double northern = 1.571;
   constexpr double disc = 0.01;
@@ -101,7 +101,7 @@ void show_typed_direction(const CrystalState& state, ZaxisForm& form) {
 }
 
 /// Labels the directions near the pattern on the Kikuchi picture, in its scale.
-void label_pattern(const CrystalState& state, const std::vector<PlacedDirection>& directions, Canvas& picture,
+void label_pattern(const CrystalState& state, const std::deque<PlacedDirection>& directions, Canvas& picture,
                    Task& task) {
   const double reach_deg =
       std::abs(double{state.CamXShift}) + std::abs(double{state.CamAcquisition}) + std::abs(double{state.CamYShift});

@@ -229,7 +229,7 @@ void Command4_Click(Workbench& bench, Main1Form& form) {
     file.field(state.RefH(i)).field(state.RefK(i)).field(state.RefL(i));
     file.field(state.RefS(i)).field(state.RefA(i)).field(state.RefB(i)).end_line();
   }
-  file.commit();
+  file.commit(task);
 }
 
 void Command5_Click(Workbench& bench, Main1Form& form) {

@@ -154,6 +154,7 @@ void ListBox::clear() {
 void ListBox::add_items(std::vector<std::string> items, Task& task) {
   constexpr std::size_t between_checks = 1024;
   std::size_t count = 0;
+  contents_.items.own().reserve(contents_.items.size() + items.size());
   for (auto& item : items) {
     if (count++ % between_checks == 0) task.check();
     add_item(std::move(item));
