@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMainWindow>
+#include <QStatusBar>
 
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/look/ink_icon.h"
@@ -63,6 +64,7 @@ bool says_its_name(const QWidget& widget) {
 }  // namespace
 
 void dress(QMainWindow& window) {
+  window.statusBar()->setSizeGripEnabled(false);
   for (auto* widget : window.findChildren<QWidget*>()) {
     const QVariant digits = widget->property("digits");
     auto* edit = qobject_cast<QLineEdit*>(widget);
