@@ -1,4 +1,6 @@
 // How windows look and fold, and that they can be read and used by everyone.
+#include "shell/desktop/look/look.h"
+
 #include <algorithm>
 #include <cmath>
 #include <map>
@@ -14,7 +16,6 @@
 
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/look/folding.h"
-#include "shell/desktop/look/look.h"
 #include "tests/offscreen_desktop.h"
 
 namespace zol {

@@ -20,34 +20,34 @@ struct NamedColour {
 };
 
 inline constexpr std::array<NamedColour, 28> colour_table{{
-    {"window", 0xEEF1F4, 0x181D23},       // the ground of a window
-    {"panel", 0xF8FAFB, 0x20262E},        // groups, boxes that can only be read
-    {"field", 0xFFFFFF, 0x13171C},        // what can be typed into or picked from
-    {"edge", 0x7F8C99, 0x7C8894},         // border of fields
-    {"line", 0xD5DCE3, 0x323B45},         // border of groups
-    {"hair", 0xBAC4CE, 0x485360},         // border of lists, line under what can only be read
-    {"text", 0x18222C, 0xE4E9EE},         //
-    {"muted", 0x55616D, 0xA3AFBA},        // units, heads, summaries
-    {"disabled", 0x8C97A2, 0x6A7682},     // text that can't be acted on
-    {"button", 0xE3E8ED, 0x2D3640},       //
-    {"button_hover", 0xD7DEE5, 0x38434E}, //
-    {"button_press", 0xC7D0D9, 0x232B33}, //
-    {"button_edge", 0xB4BFC9, 0x4C5864},  //
-    {"head", 0xE9EDF1, 0x262E37},         // heads of tables
-    {"well", 0xDDE3E9, 0x0F1317},         // mat around a picture
-    {"accent", 0x0B6377, 0x1C7A8D},       // this computes, or: you are here
-    {"accent_hover", 0x0D7087, 0x21808F}, //
-    {"accent_press", 0x084D5D, 0x176474}, //
-    {"on_accent", 0xFFFFFF, 0xFFFFFF},    //
-    {"link", 0x0B6377, 0x6FC7D8},         // links and the ring of the focus
-    {"select", 0xCDE5EB, 0x1F5562},       // chosen rows
-    {"on_select", 0x10222B, 0xFFFFFF},    //
-    {"select_idle", 0xE1E7EC, 0x333E48},  // chosen rows of a list without the focus
-    {"hover", 0xEDF4F6, 0x252E36},        // row under the pointer
-    {"warn", 0x7A4300, 0xF2BD6B},         //
-    {"tip", 0x1F2A35, 0xE4E9EE},          // tool tips
-    {"on_tip", 0xF2F5F7, 0x18222C},       //
-    {"handle", 0x7F8C99, 0x7C8894},       // of scroll bars
+    {"window", 0xEEF1F4, 0x181D23},        // the ground of a window
+    {"panel", 0xF8FAFB, 0x20262E},         // groups, boxes that can only be read
+    {"field", 0xFFFFFF, 0x13171C},         // what can be typed into or picked from
+    {"edge", 0x7F8C99, 0x7C8894},          // border of fields
+    {"line", 0xD5DCE3, 0x323B45},          // border of groups
+    {"hair", 0xBAC4CE, 0x485360},          // border of lists, line under what can only be read
+    {"text", 0x18222C, 0xE4E9EE},          //
+    {"muted", 0x55616D, 0xA3AFBA},         // units, heads, summaries
+    {"disabled", 0x8C97A2, 0x6A7682},      // text that can't be acted on
+    {"button", 0xE3E8ED, 0x2D3640},        //
+    {"button_hover", 0xD7DEE5, 0x38434E},  //
+    {"button_press", 0xC7D0D9, 0x232B33},  //
+    {"button_edge", 0xB4BFC9, 0x4C5864},   //
+    {"head", 0xE9EDF1, 0x262E37},          // heads of tables
+    {"well", 0xDDE3E9, 0x0F1317},          // mat around a picture
+    {"accent", 0x0B6377, 0x1C7A8D},        // this computes, or: you are here
+    {"accent_hover", 0x0D7087, 0x21808F},  //
+    {"accent_press", 0x084D5D, 0x176474},  //
+    {"on_accent", 0xFFFFFF, 0xFFFFFF},     //
+    {"link", 0x0B6377, 0x6FC7D8},          // links and the ring of the focus
+    {"select", 0xCDE5EB, 0x1F5562},        // chosen rows
+    {"on_select", 0x10222B, 0xFFFFFF},     //
+    {"select_idle", 0xE1E7EC, 0x333E48},   // chosen rows of a list without the focus
+    {"hover", 0xEDF4F6, 0x252E36},         // row under the pointer
+    {"warn", 0x7A4300, 0xF2BD6B},          //
+    {"tip", 0x1F2A35, 0xE4E9EE},           // tool tips
+    {"on_tip", 0xF2F5F7, 0x18222C},        //
+    {"handle", 0x7F8C99, 0x7C8894},        // of scroll bars
 }};
 
 enum class Shade { Light, Dark };

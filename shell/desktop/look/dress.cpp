@@ -16,7 +16,7 @@
 namespace zol {
 namespace {
 
-/// A box shows so many digits in whatever font it has.
+/// A box shows so many digits in whatever font it has; one that the layout lets not grow is as wide as that.
 class DigitWidth : public QObject {
  public:
   DigitWidth(QLineEdit& edit, int digits) : QObject(&edit), edit_(edit), digits_(digits) {
@@ -33,7 +33,9 @@ class DigitWidth : public QObject {
  private:
   void take() {
     constexpr int border = 16;  // with the blank that a number begins with
-    edit_.setMinimumWidth(digits_ * edit_.fontMetrics().horizontalAdvance(u'0') + border);
+    const int width = digits_ * edit_.fontMetrics().horizontalAdvance(u'0') + border;
+    edit_.setMinimumWidth(width);
+    if (edit_.maximumWidth() < QWIDGETSIZE_MAX) edit_.setMaximumWidth(width);
   }
 
   QLineEdit& edit_;
@@ -57,8 +59,8 @@ QString name_for(const QMainWindow& window, const QWidget& widget) {
 
 bool says_its_name(const QWidget& widget) {
   const auto* button = qobject_cast<const QAbstractButton*>(&widget);
-  return button != nullptr && std::any_of(button->text().begin(), button->text().end(),
-                                          [](QChar letter) { return letter.isLetter(); });
+  return button != nullptr &&
+         std::any_of(button->text().begin(), button->text().end(), [](QChar letter) { return letter.isLetter(); });
 }
 
 }  // namespace
@@ -72,7 +74,8 @@ void dress(QMainWindow& window) {
     const QString ink = widget->property("ink").toString();
     auto* button = qobject_cast<QAbstractButton*>(widget);
     if (button != nullptr && !ink.isEmpty()) button->setIcon(ink_icon(ink));
-    if (widget->property("look") == QLatin1String("step")) widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+    if (widget->property("look") == QLatin1String("step"))
+      widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
     const bool picture = qobject_cast<CanvasView*>(widget) != nullptr;
     if ((widget->focusPolicy() == Qt::NoFocus && !picture) || widget->objectName().startsWith(u"qt_")) continue;
     if (widget->accessibleName().isEmpty() && !says_its_name(*widget)) {

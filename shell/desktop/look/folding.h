@@ -1,9 +1,9 @@
 // Groups that fold, and rows that become columns: how a window of many controls gets narrow.
 //
-// A layout file says it: `folds` on a QGroupBox, "narrow" for one that folds by itself in a narrow window, until the user
-// says otherwise, which is kept for the next start; `breakpoint` on the widget that holds a window's contents, the width in
-// pixels below which it is narrow; there the box layouts marked `whenNarrow` ("column" or "row") turn, and the groups
-// marked `narrowInto` move to the end of the layout of that name.
+// A layout file says it: `folds` on a QGroupBox, "narrow" for one that folds by itself in a narrow window, until the
+// user says otherwise, which is kept for the next start; `breakpoint` on the widget that holds a window's contents, the
+// width in pixels below which it is narrow; there the box layouts marked `whenNarrow` ("column" or "row") turn, and the
+// groups marked `narrowInto` move to the end of the layout of that name.
 #pragma once
 
 #include <optional>

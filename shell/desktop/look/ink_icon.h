@@ -5,7 +5,8 @@
 
 namespace zol {
 
-/// @param name  of a drawing in images/icons, whose one colour is replaced by that of the text; none of that name: empty
+/// @param name  of a drawing in images/icons, whose one colour is replaced by that of the text; none of that name:
+/// empty
 [[nodiscard]] QIcon ink_icon(const QString& name);
 
 }  // namespace zol

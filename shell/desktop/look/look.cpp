@@ -70,13 +70,26 @@ QPalette palette_of(Shade shade) {
   const auto of = [shade](std::string_view name) { return to_colour(name, shade); };
   QPalette palette;
   const std::array<std::pair<QPalette::ColorRole, std::string_view>, 20> roles{{
-      {QPalette::Window, "window"},          {QPalette::WindowText, "text"},      {QPalette::Base, "field"},
-      {QPalette::AlternateBase, "panel"},    {QPalette::Text, "text"},            {QPalette::Button, "button"},
-      {QPalette::ButtonText, "text"},        {QPalette::BrightText, "on_accent"}, {QPalette::Highlight, "select"},
-      {QPalette::HighlightedText, "on_select"}, {QPalette::Link, "link"},         {QPalette::LinkVisited, "link"},
-      {QPalette::ToolTipBase, "tip"},        {QPalette::ToolTipText, "on_tip"},   {QPalette::PlaceholderText, "muted"},
-      {QPalette::Light, "panel"},            {QPalette::Midlight, "button"},      {QPalette::Mid, "hair"},
-      {QPalette::Dark, "edge"},              {QPalette::Shadow, "text"},
+      {QPalette::Window, "window"},
+      {QPalette::WindowText, "text"},
+      {QPalette::Base, "field"},
+      {QPalette::AlternateBase, "panel"},
+      {QPalette::Text, "text"},
+      {QPalette::Button, "button"},
+      {QPalette::ButtonText, "text"},
+      {QPalette::BrightText, "on_accent"},
+      {QPalette::Highlight, "select"},
+      {QPalette::HighlightedText, "on_select"},
+      {QPalette::Link, "link"},
+      {QPalette::LinkVisited, "link"},
+      {QPalette::ToolTipBase, "tip"},
+      {QPalette::ToolTipText, "on_tip"},
+      {QPalette::PlaceholderText, "muted"},
+      {QPalette::Light, "panel"},
+      {QPalette::Midlight, "button"},
+      {QPalette::Mid, "hair"},
+      {QPalette::Dark, "edge"},
+      {QPalette::Shadow, "text"},
   }};
   for (const auto& [role, name] : roles) palette.setColor(role, of(name));
   palette.setColor(QPalette::Inactive, QPalette::Highlight, of("select_idle"));

@@ -65,9 +65,8 @@ void LookStyle::draw_field(const QStyleOption& option, QPainter& painter) const 
   const bool focus = option.state & State_HasFocus;
   if (option.state & State_ReadOnly) {
     const int thick = focus ? 2 : 1;
-    painter.fillRect(
-        QRect(option.rect.left(), option.rect.bottom() + 1 - thick, option.rect.width(), thick),
-        focus ? of("link") : of("hair"));
+    painter.fillRect(QRect(option.rect.left(), option.rect.bottom() + 1 - thick, option.rect.width(), thick),
+                     focus ? of("link") : of("hair"));
     return;
   }
   draw_box(painter, option.rect, of("field"), of("edge"));
@@ -87,7 +86,10 @@ void LookStyle::draw_button(const QStyleOption& option, QPainter& painter, const
     return;
   }
   if (!bare || pressed || hovered) {
-    draw_box(painter, option.rect, of(pressed ? "button_press" : hovered ? "button_hover" : "button"),
+    draw_box(painter, option.rect,
+             of(pressed   ? "button_press"
+                : hovered ? "button_hover"
+                          : "button"),
              of("button_edge"));
   }
   if (focus) draw_focus(painter, option.rect, of("link"));

@@ -17,11 +17,10 @@ namespace {
 constexpr int row = 24;  // a box, a button, a title
 constexpr int step_width = 28;
 constexpr int indicator = 16;
+constexpr int arrow_room = 12;  // of a button that opens a window
 constexpr int beside_text = 8;  // of a button, each side
 
-QString rank_of(const QWidget* widget) {
-  return widget == nullptr ? QString() : widget->property("look").toString();
-}
+QString rank_of(const QWidget* widget) { return widget == nullptr ? QString() : widget->property("look").toString(); }
 
 /// A group in a group, or what it folds.
 bool is_inner(const QWidget* widget) {
@@ -107,6 +106,7 @@ QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
   switch (type) {
     case CT_PushButton:
       size = QSize(contents.width() + 2 * beside_text, std::max(row, contents.height() + 4));
+      if (rank_of(widget) == QLatin1String("go")) size.rwidth() += arrow_room;
       if (rank_of(widget) == QLatin1String("step")) size.setWidth(std::max(step_width, contents.width() + 8));
       break;
     case CT_ToolButton:
