@@ -105,8 +105,10 @@ void Fold::show(bool folded) {
   folded_ = folded;
   body_->setVisible(!folded);
   group_.setSizePolicy(group_.sizePolicy().horizontalPolicy(), folded ? QSizePolicy::Fixed : QSizePolicy::Preferred);
-  for (auto* layout : group_.parentWidget()->findChildren<QBoxLayout*>()) {
-    if (layout->setAlignment(&group_, folded ? Qt::AlignTop : Qt::Alignment())) break;
+  if (const auto [layout, index] = place_of(*group_.parentWidget(), group_); layout != nullptr) {
+    layout->setAlignment(&group_, folded ? Qt::AlignTop : Qt::Alignment());
+    if (layout->stretch(index) > 0) stretch_ = layout->stretch(index);
+    layout->setStretch(index, folded ? 0 : stretch_);
   }
   group_.setAccessibleDescription(folded ? QObject::tr("folded; Space opens it") : QString());
   group_.update();

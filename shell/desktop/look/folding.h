@@ -44,6 +44,7 @@ class Fold : public QObject {
   QWidget* body_;
   QString key_;
   std::optional<bool> chosen_;
+  int stretch_ = 0;  ///< of the open group in its layout
   bool by_itself_ = false;
   bool folded_ = false;
   bool revealed_ = false;

@@ -117,7 +117,12 @@ QSize LookStyle::sizeFromContents(ContentsType type, const QStyleOption* option,
       size.setHeight(std::max(row, size.height()));
       break;
     case CT_GroupBox:
-      size.rwidth() += 2 * gap_;
+      if (const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option); group != nullptr) {
+        QFont bold = widget == nullptr ? QFont() : widget->font();
+        bold.setWeight(QFont::DemiBold);
+        const int title = QFontMetrics(bold).size(Qt::TextShowMnemonic, group->text).width();
+        size.setWidth(std::max(size.width(), title + 4 * gap_));
+      }
       break;
     default:
       break;
