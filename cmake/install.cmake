@@ -5,6 +5,7 @@ set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
 install(TARGETS zol zol-script RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/zol)
 install(FILES packaging/zol.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES packaging/io.github.zol.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME io.github.zol.xml)
 install(FILES packaging/io.github.zol.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES shell/desktop/images/zol.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES packaging/zol.1 packaging/zol-script.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)

@@ -19,6 +19,7 @@
 #include "entry/structure_readers.h"
 #include "fuzz/memory_file.h"
 #include "fuzz/script_target.h"
+#include "powder/measured_curve.h"
 #include "reflections/scattering.h"
 #include "shell/desktop/qt_surface.h"
 #include "structures/cif_writer.h"
@@ -164,6 +165,17 @@ void bitmap(const std::string& input) {
   (void)picture->mirrored(true, true)->grey();
 }
 
+/// Columns of numbers as a pattern and as a list; what was read is in order.
+void measured_curve(const std::string& input) {
+  QuietTask task;
+  try {
+    (void)line_list_columns(input, "input", task);
+  } catch (const RunFailure&) {  // a pattern all the same, perhaps
+  }
+  const auto points = measured_columns(input, "input.xye", task).points;
+  for (std::size_t i = 1; i < points.size(); ++i) require(points[i - 1].x < points[i].x, "x rises");
+}
+
 }  // namespace
 
 const std::vector<Target>& targets() {
@@ -179,6 +191,7 @@ const std::vector<Target>& targets() {
       {"atom_lists", atom_lists},
       {"structure", structure},
       {"bitmap", bitmap},
+      {"measured_curve", measured_curve},
       {"script", run_script},
       {"kept_work", restore_changed_work},
   };

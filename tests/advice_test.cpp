@@ -177,7 +177,7 @@ TEST_F(AdviceTest, ExportsTellBelowThePictureWhereThatIsWanted) {
   const std::string told = (folder + "/zol_told.png").toStdString();
   QuietTask task;
   export_picture(canvas, plain, 1.0, task);
-  export_picture(canvas, told, 2.0, task, QStringLiteral("drawn for Silicon, 20 kV; crystal changed since"));
+  export_picture(canvas, told, 2.0, task, {QStringLiteral("drawn for Silicon, 20 kV; crystal changed since")});
   const QImage without(QString::fromStdString(plain)), with(QString::fromStdString(told));
   EXPECT_EQ(without.size(), QSize(canvas.pixel_width(), canvas.pixel_height()));
   EXPECT_EQ(with.width(), 2 * without.width());

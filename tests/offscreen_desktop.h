@@ -39,13 +39,14 @@ inline void keep_settings_apart() {
 
 class DesktopTest : public testing::Test {
  protected:
-  DesktopTest() {
+  explicit DesktopTest(const QString& settings_file = {}) {
     keep_settings_apart();
     desktop.set_question([this](const std::string& reason) {
       questions.push_back(reason);
       return agrees;
     });
     desktop.offer_advice(program);
+    desktop.offer_desk(program, settings_file);
     desktop.enter("start", [this] { program.start(); });
   }
   QWidget& widget(const std::string& window) {

@@ -20,6 +20,7 @@
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QTableView>
 #include <QTextBrowser>
 #include <QTimer>
@@ -58,6 +59,21 @@ void use_main_window(const User& user) {
   user.load_crystal("Quartz.cry");  // the table of observed lines has put its atoms aside
 }
 
+void find_windows(const User& user) {
+  QTest::keyClick(&user.window("Main1"), Qt::Key_1, Qt::ControlModifier);
+  QWidget& menu = user.window("MAIN_MENU");
+  expect(menu.isActiveWindow(), "Ctrl+1 leads elsewhere");
+  for (const int key : {Qt::Key_W, Qt::Key_A}) {  // "Windows", "Arrange"
+    QTest::keyClick(key == Qt::Key_W ? &menu : QApplication::activePopupWidget(), static_cast<Qt::Key>(key),
+                    key == Qt::Key_W ? Qt::AltModifier : Qt::NoModifier);
+  }
+  const auto on_screen = [&menu] { return menu.screen()->availableGeometry().contains(menu.frameGeometry()); };
+  expect(QTest::qWaitFor(on_screen) && menu.height() > 600, "the windows are not arranged");
+  menu.resize(1, 1);
+  QTest::keyClick(&menu, Qt::Key_2, Qt::ControlModifier);
+  expect(user.window("Main1").isActiveWindow(), "Ctrl+2 leads elsewhere");
+}
+
 void copy_lines(const User& user) {
   auto& list = user.widget<QListView>("Main1", "List2");
   user.pick_line("Main1", "List2", 2);
@@ -72,6 +88,46 @@ void copy_lines(const User& user) {
          "Ctrl+A selects not all lines");
 }
 
+/// A pattern as a diffractometer would have it: the saved one over a background, 0.08 degrees off, not quite even.
+QString measured_pattern(const User& user) {
+  QFile saved(user.file("pattern.XDP"));
+  QFile measured(user.file("measured.xy"));
+  expect(saved.open(QIODevice::ReadOnly) && measured.open(QIODevice::WriteOnly), "no pattern can be measured");
+  measured.write("# counts\n");
+  double uneven = 0.5;
+  while (!saved.atEnd()) {
+    const QList<QByteArray> fields = saved.readLine().trimmed().split(',');
+    if (fields.front().startsWith('"')) continue;
+    uneven = 3.9 * uneven * (1 - uneven);  // between 0 and 1
+    const double counts = fields.back().toDouble() / 20 + 30 + 12 * uneven;
+    measured.write(QByteArray::number(fields.front().toDouble() + 0.08) + ' ' + QByteArray::number(counts) + '\n');
+  }
+  return measured.fileName();
+}
+
+void lay_measured_pattern_under(const User& user) {
+  user.drop_file("Xd", measured_pattern(user));
+  user.click("Xd", "FitBoxes");
+  const double zero = user.widget<QLineEdit>("Xd", "MeasuredZero").text().toDouble();
+  expect(std::abs(zero - 0.08) < 0.005, "the zero was fitted as " + std::to_string(zero));
+  auto& view = user.widget<CanvasView>("Xd", "Picture1");
+  const QPoint from = User::place(view, {0.2, 0.5});
+  const QPoint to = User::place(view, {0.8, 0.5});
+  QTest::mousePress(&view, Qt::LeftButton, {}, from);
+  QMouseEvent drag(QEvent::MouseMove, to, view.mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
+  QApplication::sendEvent(&view, &drag);
+  QTest::mouseRelease(&view, Qt::LeftButton, {}, to);
+  for (auto* menu : user.window("Xd").findChildren<QMenu*>()) {
+    for (auto* action : menu->actions()) {
+      for (const auto* wanted : {"peaks", "icks", "second", "Radiation"}) {
+        if (action->isCheckable() && action->text().contains(QLatin1String(wanted))) action->trigger();
+      }
+    }
+  }
+  user.take_picture("Xd", "curve-measured");
+  QTest::mouseDClick(&view, Qt::LeftButton, {}, from);
+}
+
 void use_powder_windows(const User& user) {
   user.choose_radiation("CuKa");
   user.click("Main1", "Command7");
@@ -81,6 +137,7 @@ void use_powder_windows(const User& user) {
   user.take_picture("Xd", "xd");
   user.save("pattern", "pattern.XDP", [&user] { user.click("Xd", "Command3"); });
   user.save("pattern", "pattern.BMP", [&user] { user.click("Xd", "Command4"); });
+  lay_measured_pattern_under(user);
   user.window("Xd").close();
   user.choose_radiation("200");
   user.click("Main1", "Command8");
@@ -322,8 +379,9 @@ void read_guide(const User& user) {
 }
 
 void walk(const User& user) {
-  for (auto* step : {use_main_window, copy_lines, use_powder_windows, use_spot_windows, use_kikuchi_windows,
-                     use_calculators, use_files, undo_and_redo, index_pattern, index_automatically, read_guide}) {
+  for (auto* step :
+       {use_main_window, find_windows, copy_lines, use_powder_windows, use_spot_windows, use_kikuchi_windows,
+        use_calculators, use_files, undo_and_redo, index_pattern, index_automatically, read_guide}) {
     step(user);
   }
   user.click("MAIN_MENU", "Command5");

@@ -23,7 +23,7 @@ seeds() {
     scatter_table) echo data/ZOL/Asf/*.csv ;;
     cif) echo examples/cif/*.cif ;;
     structure) echo examples/cif/*.cif fuzz/seeds/structure/* data/ZOLDATA/Quartz.cry ;;
-    icsd | atom_lists) echo fuzz/seeds/"$1"/* ;;
+    icsd | atom_lists | measured_curve) echo fuzz/seeds/"$1"/* ;;
     bitmap) echo fuzz/seeds/bitmap/* shell/desktop/images/* ;;
     kept_work) echo fuzz/seeds/kept_work/* ;;
     script) echo examples/*.zs examples/cif/*.zs tests/scripts/*.zs ;;

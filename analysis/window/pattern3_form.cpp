@@ -25,9 +25,15 @@ Pattern3Form::Pattern3Form(Workbench& bench)
   Picture1.describe_place = [](double x, double y) {
     return value_text("x", x, "0.0", "") + value_text("   y", y, "0.0", " pixels");
   };
-  for (const auto* ending : {".bmp", ".png", ".jpg", ".jpeg", ".tif", ".tiff"}) {
-    file_drops.push_back({ending, &ImageLoad, &CommonDialog1});
+  for (const auto* ending : file_filters::picture_endings) {
+    file_drops.push_back({ending, &ImageLoad, &CommonDialog1, FileKind::Picture});
   }
+  Picture1.hint = "Drop a measured pattern here, or Image > LOAD. Then draw three lines along bands and press CALC";
+  Picture1.loupe = true;
+  Imatch.checked_when = [this] { return MatchMode == 1; };
+  CPS_Si001.checked_when = [this] { return SiMode == 1; };
+  CenterPosition.checked_when = [this] { return CenterMode == 1; };
+  CP_Setting_Show.checked_when = [this] { return AdjustShown == 1; };
   name_fields();
   declare_guards(bench);
   List1.made_from = Origin{{inputs::settings({"CamAcquisition", "CamXShift", "CamYShift", "CamXYRatio"},

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "analysis/window/corrector.h"
+#include "analysis/window/pattern3_solution.h"
 #include "shell/services/wiring.h"
 
 namespace zol::pattern3 {
@@ -216,6 +217,29 @@ void CorrectFile_Click(Workbench& bench, Pattern3Form& form) {
   if (!path.empty()) form.CorrectorFile = path;
 }
 
+void TakeBackLine(Pattern3Form& form) {
+  if (!take_back_line(form.lines)) return;
+  form.Dragging = 0;
+  form.Picture1.clear();
+  Command3_Click(form);
+}
+
+/// What a view shows and offers beside the picture.
+void declare_picture(Workbench& bench, Pattern3Form& form) {
+  Canvas& picture = form.Picture1;
+  const CrystalState& seen = bench.seen();
+  picture.geometry =
+      PictureGeometry{.direction = [&seen](double x, double y) { return direction_in_picture(seen, x, y); },
+                      .wavelength = [&seen] { return double{seen.WaveLength}; }};
+  picture.rows = &form.List1;
+  picture.row_marks = [&seen, &form](int row) { return bands_of_solution(seen, form, row); };
+  picture.actions.push_back({"Take back the last line", "TakeBackLine", [&form] {
+                               PickedLines lines = form.lines;
+                               return form.Dragging == 0 && take_back_line(lines);
+                             }});
+  form.add_operation("TakeBackLine", [&form] { TakeBackLine(form); });
+}
+
 }  // namespace
 
 void name_lines(Pattern3Form& form) {
@@ -238,6 +262,7 @@ void wire_picture(Workbench& bench, Pattern3Form& form) {
   for (int i = 0; i < form.Command10.count(); ++i) {
     form.Command10(i).on_click = [&form, i] { Command10_Click(form, i); };
   }
+  declare_picture(bench, form);
   form.Check2.on_click = on(Check2_Click);
   form.Picture1.on_mouse_down = on(Picture1_MouseDown);
   form.Picture1.on_mouse_move = on(Picture1_MouseMove);

@@ -14,6 +14,12 @@ Pattern2Form::Pattern2Form(Workbench& bench)
   Picture1.describe_place = [](double x, double y) {
     return direction_text(std::atan(std::hypot(x, y)) / degree, x, y);
   };
+  Picture1.hint = "Type a direction and press Calc";
+  const CrystalState& seen = bench.seen();
+  Picture1.geometry = PictureGeometry{.direction = direction_of_gnomonic,
+                                      .circle = [](double angle_deg) { return std::tan(angle_deg * degree); },
+                                      .wavelength = [&seen] { return double{seen.WaveLength}; }};
+  Picture1.rows = &List1;
   fields().add("ImageMark", ImageMark);
   fields().add("RotationPitch", RotationPitch);
   fields().add("ShiftPitch", ShiftPitch);

@@ -5,6 +5,7 @@
 #include "indexing/window/show_orientation.h"
 #include "kikuchi/window/electron_voltage.h"
 #include "kikuchi/window/kikuchi_operations.h"
+#include "kikuchi/window/pattern2_drag.h"
 #include "kikuchi/window/pattern2_form.h"
 #include "reflections/window/main1_form.h"
 #include "reflections/window/main1_operations.h"
@@ -360,6 +361,7 @@ void wire(Workbench& bench, Pattern2Form& form) {
   form.Command17.on_click = on(Command17_Click);
   form.Command18.on_click = on(Command18_Click);
   form.List1.on_click = on(List1_Click);
+  form.Picture1.drag = std::make_unique<Pattern2Drag>(form);
   form.Picture1.on_mouse_down = on(Picture1_MouseDown);
   form.Picture1.on_double_click = on(Command4_Click);
   form.ISAVE.on_click = on(ISAVE_Click);

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/cell_geometry.h"
 #include "kikuchi/kikuchi_pattern.h"
 #include "kikuchi/window/kikuchi_operations.h"
 #include "kikuchi/window/pattern2_form.h"
@@ -79,6 +80,16 @@ void draw_bands(CrystalState& state, Pattern2Form& form, const GnomonicView& vie
     draw_line(form.Picture1, line, view.reach, line_colour(level, !form.ImageMark.empty()));
     ++count;
     form.List1.add_item(band_text(count, line, level));
+    form.Picture1.mark({.h = line.hkl.h.value(),
+                        .k = line.hkl.k.value(),
+                        .l = line.hkl.l.value(),
+                        .x = line.foot_x,
+                        .y = line.foot_y,
+                        .along_x = line.unit_y,
+                        .along_y = -line.unit_x,
+                        .d = 1 / double{DHKL(state, line.hkl.h, line.hkl.k, line.hkl.l)},
+                        .intensity = line.intensity,
+                        .row = count - 1});
     state.BandHKL(count - 1, 0) = line.hkl.h;
     state.BandHKL(count - 1, 1) = line.hkl.k;
     state.BandHKL(count - 1, 2) = line.hkl.l;

@@ -58,6 +58,11 @@ void draw_directions(const CrystalState& state, const std::deque<PlacedDirection
     picture.circle(radius * std::cos(double{place.phi}), radius * std::sin(double{place.phi}), form.MapScale * disc,
                    colour);
     picture.print(numbers(direction.u, direction.v, direction.w));
+    picture.mark({.h = static_cast<int>(direction.u),
+                  .k = static_cast<int>(direction.v),
+                  .l = static_cast<int>(direction.w),
+                  .x = radius * std::cos(double{place.phi}),
+                  .y = radius * std::sin(double{place.phi})});
   }
 }
 

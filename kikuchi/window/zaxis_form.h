@@ -23,6 +23,10 @@ struct ZaxisForm : Window {
       if (radius > 1) return std::string("beyond the half sphere");
       return direction_text(Check2.checked() ? radius * 90 : std::asin(radius) / degree, x, y);
     };
+    Picture1.hint = "Calc of the Kikuchi window fills the map";
+    Picture1.geometry =
+        PictureGeometry{.direction = [this](double x, double y) { return direction_of_map(x, y, Check2.checked()); },
+                        .circle = [this](double angle_deg) { return map_circle(angle_deg, Check2.checked()); }};
     fields().add("KeepMap", KeepMap);
     fields().add("MapScale", MapScale);
     beside = "Pattern2";  // whose drawing shows it

@@ -1,6 +1,7 @@
 // The window of the electron Debye rings.
 #pragma once
 
+#include "powder/window/curve_form.h"
 #include "powder/window/powder_form.h"
 #include "shell/services/window_services.h"
 #include "shell/services/workbench.h"
@@ -40,11 +41,13 @@ struct DringForm : Window, PowderPattern {
   Label Label6{*this, "Label6"};  // steps of the interference grid
   ProgressBar ProgressBar1{*this, "ProgressBar1"};
   FileDialog CommonDialog1;
+  CurveControls Curves;
 
   Single DStarMax = 0;  ///< end of the profile, radius of the ring picture, 1/angstrom
 
  private:
   void declare(const Workbench& bench);
+  void offer_curve();
 };
 
 }  // namespace zol

@@ -1,4 +1,5 @@
 #include "powder/pattern_files.h"
+#include "powder/window/curve_operations.h"
 #include "powder/window/dring_form.h"
 #include "powder/window/open_dring.h"
 #include "shell/services/wiring.h"
@@ -111,6 +112,7 @@ void wire(Workbench& bench, DringForm& form) {
   form.Picture1.on_mouse_down = on(Picture1_MouseDown);
   form.Picture2.on_mouse_down = on(Picture2_MouseDown);
   form.add_operation("DRCalc", on(DRCalc));
+  wire_curves(bench, form.Curves);
 }
 
 template void add_window<DringForm>(Workbench&);

@@ -3,6 +3,7 @@
 
 #include "powder/histogram.h"
 #include "powder/line_profile.h"
+#include "powder/window/curve_operations.h"
 #include "powder/window/dring_form.h"
 #include "powder/window/open_dring.h"
 #include "reflections/window/main1_form.h"
@@ -57,17 +58,36 @@ DringForm::DringForm(Workbench& bench)
     : Window(window_name, "DS-ring"),
       Picture1(*this, bench.services, "Picture1", 9000, 3600),
       Picture2(*this, bench.services, "Picture2", 8400, 8400),
-      CommonDialog1(*this, bench.services, "CommonDialog1") {
+      CommonDialog1(*this, bench.services, "CommonDialog1"),
+      Curves(*this, bench.services, *this, Picture1, CurveControls::Source::Any,
+             [](double d_star) { return std::optional(d_star); }) {
   Picture1.x_axis = Axis{"1/d", "Å⁻¹"};
   Picture1.y_axis = Axis{"I", "% of full height", 100};
   Picture1.describe_place = [](double x, double y) {
     return spacing_text(x) + value_text("   I", y * 100, "0.0", " %");
   };
+  for (Canvas* picture : {&Picture1, &Picture2}) picture->hint = "CALC draws the diagram";
+  Picture2.geometry = PictureGeometry{1};
   Picture2.describe_place = [](double x, double y) { return spacing_text(std::hypot(x, y)); };
   Picture2.set_solid_fill(false);
   fields().add("DStarMax", DStarMax);
   show_fields(fields());
   declare(bench);
+  offer_curve();
+}
+
+void DringForm::offer_curve() {
+  CurveOffer offer = Curves.offer();
+  offer.second_axis = Axis{"d", "Å"};
+  const auto inverse = [](double value) { return value > 0 ? std::optional(1 / value) : std::nullopt; };
+  offer.second_at = inverse;
+  offer.place_of_second = inverse;
+  offer.peaks = &List1;
+  offer.place_of_peak = [this, inverse](int line) -> std::optional<double> {
+    const auto d = number_at_head(List1, line);
+    return d ? inverse(*d) : std::nullopt;
+  };
+  Picture1.curve = std::make_shared<const CurveOffer>(std::move(offer));
 }
 
 void DringForm::declare(const Workbench& bench) {
@@ -125,6 +145,7 @@ void DRCalc(Workbench& bench) {
   form.Text5.set_text(Str(std::floor(form.DisplayMax)));  // a new text cuts DisplayMax and clears both pictures
   draw(form);
   list_peaks(form);
+  curve_calculated(bench, form.Curves, {0, form.DStarMax, state.WaveLength, state.Dmin, {}, 1});
 }
 
 void open_dring(Workbench& bench) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "powder/line_profile.h"
+#include "powder/window/curve_form.h"
 #include "powder/window/powder_form.h"
 #include "shell/services/window_services.h"
 #include "shell/services/workbench.h"
@@ -39,6 +40,7 @@ struct XdForm : Window, PowderPattern {
   Label Label12{*this, "Label12"};  // steps of the interference grid
   ProgressBar ProgressBar1{*this, "ProgressBar1"};
   FileDialog CommonDialog1;
+  CurveControls Curves;
 
   Single TwoThetaMin = 0, TwoThetaMax = 0;  ///< degrees
   Single GaussianRatio = 0;                 ///< per cent
@@ -49,6 +51,7 @@ struct XdForm : Window, PowderPattern {
 
  private:
   void declare(const Workbench& bench);
+  void offer_curve();
 };
 
 }  // namespace zol

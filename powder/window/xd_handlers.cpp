@@ -1,5 +1,6 @@
 #include "core/cell_geometry.h"
 #include "powder/pattern_files.h"
+#include "powder/window/curve_operations.h"
 #include "powder/window/open_xd.h"
 #include "powder/window/xd_form.h"
 #include "powder/window/xd_operations.h"
@@ -104,6 +105,7 @@ void wire(Workbench& bench, XdForm& form) {
   form.Command7.on_click = on(Command7_Click);
   form.Picture1.on_mouse_down = on(Picture1_MouseDown);
   form.add_operation("XDCalc", on(XDCalc));
+  wire_curves(bench, form.Curves);
 }
 
 template void add_window<XdForm>(Workbench&);

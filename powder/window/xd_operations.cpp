@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <utility>
 
 #include "powder/histogram.h"
+#include "powder/window/curve_operations.h"
 #include "powder/window/open_xd.h"
 #include "reflections/window/main1_form.h"
 #include "shell/services/guards.h"
@@ -26,6 +28,15 @@ void write_settings(XdForm& form) {
   form.Text8.set_text(plain_text(form.CellsR));
 }
 
+constexpr double degrees = 180 / std::numbers::pi;
+
+/// In degrees; none where the wavelength does not reach.
+std::optional<double> two_theta_at(double wavelength, double d_star) {
+  const double sine = wavelength * d_star / 2;
+  if (!(sine > 0) || sine > 1) return std::nullopt;
+  return 2 * std::asin(sine) * degrees;
+}
+
 void list_peaks(XdForm& form, Single wavelength) {
   form.List1.clear();
   form.List1.add_item("2-Theta   d     I/Io");
@@ -41,9 +52,12 @@ void list_peaks(XdForm& form, Single wavelength) {
 XdForm::XdForm(Workbench& bench)
     : Window(window_name, "X-ray Powder Diffraction"),
       Picture1(*this, bench.services, "Picture1", 12000, 8400),
-      CommonDialog1(*this, bench.services, "CommonDialog1") {
+      CommonDialog1(*this, bench.services, "CommonDialog1"),
+      Curves(*this, bench.services, *this, Picture1, CurveControls::Source::Tube,
+             [this](double d_star) { return two_theta_at(Curves.data.with.wavelength, d_star); }) {
   Picture1.x_axis = Axis{"2θ", "°"};
   Picture1.y_axis = Axis{"I", "% of full height", 100};
+  Picture1.hint = "CALC draws the diagram";
   Picture1.describe_place = [&bench](double x, double y) {
     std::string text = value_text("2θ", x, "0.00", "°");
     if (x > 0 && x < 180)
@@ -56,6 +70,21 @@ XdForm::XdForm(Workbench& bench)
   fields().add("PeakMax", PeakMax);
   show_fields(fields());
   declare(bench);
+  offer_curve();
+}
+
+void XdForm::offer_curve() {
+  CurveOffer offer = Curves.offer();
+  offer.second_axis = Axis{"d", "Å"};
+  offer.second_at = [this](double two_theta) -> std::optional<double> {
+    const double sine = std::sin(two_theta / 2 / degrees);
+    if (!(sine > 0) || two_theta > 180) return std::nullopt;
+    return Curves.data.with.wavelength / (2 * sine);
+  };
+  offer.place_of_second = [this](double d) { return two_theta_at(Curves.data.with.wavelength, 1 / d); };
+  offer.peaks = &List1;
+  offer.place_of_peak = [this](int line) { return number_at_head(List1, line); };
+  Picture1.curve = std::make_shared<const CurveOffer>(std::move(offer));
 }
 
 void XdForm::declare(const Workbench& bench) {
@@ -128,6 +157,9 @@ void XDCalc(Workbench& bench) {
   form.DisplayMax = form.PeakMax;
   xd::draw(form, form.PeakMax, xd::peak_max);
   list_peaks(form, state.WaveLength);
+  const TwoThetaRange range = form.range();
+  curve_calculated(bench, form.Curves,
+                   {range.minimum, range.maximum, state.WaveLength, state.Dmin, form.line(), points});
 }
 
 void open_xd(Workbench& bench) {

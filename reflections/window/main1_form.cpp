@@ -14,7 +14,8 @@ constexpr int table_rows = 200;  // of the two tables
 
 Main1Form::Main1Form(Workbench& bench)
     : Window(window_name, "ZOL "), CommonDialog1(*this, bench.services, "CommonDialog1"), state(bench.crystal_) {
-  file_drops = {{".cry", &DATA_LOAD, &CommonDialog1}, {"", &ImportStructure, &CommonDialog1}};
+  file_drops = {{".cry", &DATA_LOAD, &CommonDialog1, FileKind::Crystal},
+                {"", &ImportStructure, &CommonDialog1, FileKind::Structure}};
   Text17.holds_file_name = true;
   crystal_file = &Text17;
   fields().add_fields<Main1State>(state);

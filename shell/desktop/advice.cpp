@@ -113,8 +113,18 @@ class Advice::OfWindow : public QObject {
     if (auto* view = qobject_cast<CanvasView*>(&shown)) {
       lines_.emplace_back(&control, new NoteLine(
                                         *view, [view](int room) { view->set_note_room(room); }, again));
-      view->set_caption([this, &control] { return to_qt(advice_.notes_.note_of(control).caption()); });
+      view->set_caption([this, &control] { return caption_of(control); },
+                        [this] { return advice_.program_.crystal_name(); });
     }
+  }
+
+  /// For a picture that leaves the program: what it was made for, what the foot tells, and by which program.
+  [[nodiscard]] QString caption_of(const Control& control) const {
+    QStringList parts{to_qt(advice_.notes_.note_of(control).caption())};
+    for (const SharedPart part : window_.reads) parts << to_qt(part(advice_.program_.state()));
+    parts << QStringLiteral("ZOL ") + QLatin1String(program_version);
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral("; "));
   }
 
   void add_foot() {

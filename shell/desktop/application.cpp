@@ -12,6 +12,7 @@
 #include "shell/desktop/desktop_services.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/look/look.h"
+#include "shell/desktop/picture_choices.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/recovery.h"
 #include "shell/program/data_folders.h"
@@ -45,6 +46,13 @@ std::string recovery_folder() {
 #endif
 }
 
+/// Where places of windows and names of recent files are kept; without a screen nothing is.
+QString settings_file() {
+  const std::string folder = recovery_folder();
+  if (folder.empty() || QGuiApplication::platformName() == QLatin1String("offscreen")) return {};
+  return QFile::decodeName(folder.c_str()) + QStringLiteral("/desk.ini");
+}
+
 void show_read_only(const DataRoot& data) {
   QMessageBox box(QMessageBox::Warning, QStringLiteral("ZOL"),
                   QCoreApplication::translate("zol", "Nothing can be saved in the folder of the data files."),
@@ -65,11 +73,14 @@ void name_application() {
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/zol.svg")));
   use_look(kept_look());
   QApplication::setQuitOnLastWindowClosed(false);
+  PictureChoices::of_program().keep_in(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
+                                       QStringLiteral("/pictures.ini"));
 }
 
 }  // namespace
 
-int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun, KeepWork keep_work) {
+int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun, KeepWork keep_work,
+                    const std::vector<std::string>& files) {
   const GuardedApplication application(argc, argv);
   name_application();
   DataRoot data;
@@ -90,6 +101,7 @@ int run_application(int argc, char** argv, const std::function<void(Desktop&)>& 
   program.watch(desktop.gate());
   desktop.offer_undo(program);
   desktop.offer_advice(program);
+  desktop.offer_desk(program, settings_file());
   if (keep_work == KeepWork::Yes) {
     try {
       recovery.emplace(program, desktop, recovery_folder());
@@ -98,6 +110,7 @@ int run_application(int argc, char** argv, const std::function<void(Desktop&)>& 
   }
   QTimer::singleShot(0, &desktop, [&] {
     desktop.enter("the program started", [&program] { program.start(); });
+    desktop.open_files(files);
     if (begun) begun(desktop);
   });
   const int status = QApplication::exec();

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "shell/desktop/desktop.h"
 
@@ -11,8 +13,9 @@ namespace zol {
 enum class KeepWork { Yes, No };
 
 /// @param begun  is called in the event loop as soon as the first window is on the screen
+/// @param files  are opened after the start
 /// @returns the exit status: 0 after the user's end, 1 after a failure, whose message was shown
 int run_application(int argc, char** argv, const std::function<void(Desktop&)>& begun = {},
-                    KeepWork keep_work = KeepWork::Yes);
+                    KeepWork keep_work = KeepWork::Yes, const std::vector<std::string>& files = {});
 
 }  // namespace zol

@@ -81,7 +81,7 @@ void Binder::show_window() {
   if (neighbour_ == nullptr || !neighbour_->isVisible()) return widget_.show();
   if (!widget_.testAttribute(Qt::WA_Moved)) place_beside(widget_, *neighbour_);  // later it stays where the user put it
   widget_.show();
-  neighbour_->raise();
+  if (!window_.beside.empty()) neighbour_->raise();
 }
 
 void Binder::show_changes(bool with_lists) {

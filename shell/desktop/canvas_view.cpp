@@ -5,6 +5,7 @@
 #include <QContextMenuEvent>
 #include <QElapsedTimer>
 #include <QGuiApplication>
+#include <QInputDialog>
 #include <QMenu>
 #include <QPaintEngine>
 #include <QPainter>
@@ -13,6 +14,7 @@
 #include "core/number_text.h"
 #include "core/run_failure.h"
 #include "shell/desktop/drawing_painter.h"
+#include "shell/desktop/picture_choices.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
@@ -25,8 +27,6 @@ namespace {
 constexpr double large_tick = 6;  // pixels
 constexpr double small_tick = 3;
 constexpr double gap = 3;
-
-bool exports_tell = false;  // of all pictures, as the user has left it
 
 QString title_of(const Axis& axis) { return to_qt(axis.quantity + " (" + axis.unit + ")"); }
 
@@ -43,6 +43,12 @@ CanvasView::CanvasView(QWidget* parent) : QWidget(parent) {
 void CanvasView::attach(Canvas& canvas, UserEvents& events) {
   canvas_ = &canvas;
   events_ = &events;
+  tools_ = std::make_unique<PictureTools>(
+      canvas, events, *this,
+      [this] {
+        return PicturePlace{canvas_, picture_rect()};
+      },
+      [this](const QString& words) { emit pointed_at(words); });
   refresh();
 }
 
@@ -53,6 +59,7 @@ void CanvasView::refresh() {
   }
   updateGeometry();
   update();
+  emit refreshed();
 }
 
 QSize CanvasView::sizeHint() const {
@@ -114,9 +121,20 @@ void CanvasView::paint() {
       backingStore() != nullptr && painter.paintEngine()->paintDevice() == backingStore()->paintDevice();
   if (!up_to_date_) draw_some(!on_screen);
   painter.drawPixmap(place, painting_->pixmap(), QRectF(QPointF(), QSizeF(device_size)));
+  paint_layers(painter, place);
   painter.setPen(palette().color(QPalette::WindowText));
   if (canvas_->x_axis) draw_x_ruler(painter, place);
   if (canvas_->y_axis) draw_y_ruler(painter, place);
+}
+
+void CanvasView::paint_layers(QPainter& painter, const QRectF& place) {
+  if (!shows_something()) {
+    if (!canvas_->hint.empty()) PictureLayers::paint_hint(painter, place, *canvas_);
+    return;
+  }
+  const PicturePlace at{canvas_, place};
+  tools_->layers().paint(painter, at);
+  if (canvas_->loupe && pressed_) tools_->layers().paint_loupe(painter, at, painting_->pixmap());
 }
 
 bool CanvasView::shows_something() const {
@@ -196,6 +214,8 @@ void CanvasView::set_note_room(int pixels) {
   if (std::exchange(note_room_, pixels) != pixels) update();
 }
 
+void CanvasView::set_menu(QMenu& menu) { menu_ = &menu; }
+
 void CanvasView::press_at(const QPointF& position) {
   const QPointF at = user_position(position);
   events_->act(canvas_->window(), mouse_event("press", position, &Canvas::press),
@@ -205,6 +225,8 @@ void CanvasView::press_at(const QPointF& position) {
 /// What would be of no use as a click waits for the pointer to move.
 void CanvasView::mousePressEvent(QMouseEvent* event) {
   if (!begins(*event)) return;
+  if (tools_->press(*event)) return;
+  tools_->layers().loupe_at = event->position();
   if (canvas_->warn_click && !canvas_->warn_click().empty()) {
     held_press_ = event->position();
   } else {
@@ -214,31 +236,58 @@ void CanvasView::mousePressEvent(QMouseEvent* event) {
 
 void CanvasView::mouseMoveEvent(QMouseEvent* event) {
   if (canvas_ == nullptr || picture_rect().isEmpty()) return;
+  if (tools_->move(*event)) return;
+  tools_->layers().loupe_at = event->position();
+  if (canvas_->loupe && pressed_) update();
   if (held_press_ && pressed_ && (event->position() - *held_press_).manhattanLength() >= 1) {
     press_at(*std::exchange(held_press_, std::nullopt));
   }
-  const QPointF at = user_position(event->position());
   const bool inside = picture_rect().contains(event->position());
-  if (canvas_->describe_place) {
-    const bool tells = inside && shows_something();
-    events_->guard([&] {
-      QString place = tells ? to_qt(canvas_->describe_place(at.x(), at.y())) : QString();
-      if (const auto reason = inside ? canvas_->reason_against(at.x(), at.y()) : ""; !reason.empty()) {
-        place += (place.isEmpty() ? QString() : QStringLiteral("   ")) + u'(' + to_qt(reason) + u')';
-      }
-      emit pointed_at(place);
-    });
-  }
+  point_at(event->position());
   if (!canvas_->on_mouse_move || !(inside || pressed_)) return;
   UserEvent move = mouse_event("move", event->position(), &Canvas::move);
   move.stoppable = false;
   events_->enter(canvas_->window(), std::move(move));
 }
 
-void CanvasView::leaveEvent(QEvent* /*event*/) { emit pointed_at({}); }
+/// The status line tells what lies there.
+void CanvasView::point_at(const QPointF& position) {
+  const QPointF at = user_position(position);
+  const bool inside = picture_rect().contains(position);
+  const bool tells = inside && shows_something();
+  tools_->point_at(tells ? std::optional(position) : std::nullopt);
+  if (!canvas_->describe_place) return;
+  events_->guard([&] {
+    QString place = tells ? to_qt(canvas_->describe_place(at.x(), at.y())) : QString();
+    const auto add = [&place](const QString& words) {
+      if (!words.isEmpty()) place += (place.isEmpty() ? QString() : QStringLiteral("   ")) + words;
+    };
+    if (tells) add(tools_->words());
+    if (const auto reason = inside ? canvas_->reason_against(at.x(), at.y()) : ""; !reason.empty()) {
+      add(u'(' + to_qt(reason) + u')');
+    }
+    emit pointed_at(place);
+  });
+}
+
+void CanvasView::leaveEvent(QEvent* /*event*/) {
+  if (tools_) tools_->point_at(std::nullopt);
+  emit pointed_at({});
+}
+
+void CanvasView::keyPressEvent(QKeyEvent* event) {
+  if (!tools_ || !tools_->key(*event)) QWidget::keyPressEvent(event);
+}
 
 void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::RightButton || !std::exchange(pressed_, false) || picture_rect().isEmpty()) return;
+  if (canvas_->loupe) update();
+  if (tools_->release(*event)) return;
+  if (const auto held = tools_->take_held()) {  // no drag came of it
+    pressed_ = true;
+    press_at(*held);
+    if (!std::exchange(pressed_, false)) return;
+  }
   if (const auto held = std::exchange(held_press_, std::nullopt)) {
     UserEvent click = mouse_event("press", *held, &Canvas::press);
     UserEvent release = mouse_event("release", *held, &Canvas::release);
@@ -262,26 +311,49 @@ void CanvasView::contextMenuEvent(QContextMenuEvent* event) {
   if (canvas_ == nullptr) return;
   auto* menu = new QMenu(this);
   menu->setAttribute(Qt::WA_DeleteOnClose);
+  tools_->add_entries(*menu);
   menu->addAction(tr("&Copy"), this, &CanvasView::copy_to_clipboard);
   menu->addSeparator();
-  menu->addAction(tr("Export &PNG..."), this, [this] { ask_export(1.0, ".png"); });
-  menu->addAction(tr("Export PNG, dou&ble size..."), this, [this] { ask_export(2.0, ".png"); });
-  menu->addAction(tr("Export PNG, &four times..."), this, [this] { ask_export(4.0, ".png"); });
-  menu->addAction(tr("Export &SVG..."), this, [this] { ask_export(1.0, ".svg"); });
-  menu->addAction(tr("Export P&DF..."), this, [this] { ask_export(1.0, ".pdf"); });
-  if (caption_) {
+  add_exports(*menu);
+  if (menu_ != nullptr) {
     menu->addSeparator();
-    auto* told = menu->addAction(tr("Exports &tell what it was drawn for"));
-    told->setCheckable(true);
-    told->setChecked(exports_tell);
-    connect(told, &QAction::toggled, this, [](bool on) { exports_tell = on; });
+    menu->addMenu(menu_);
   }
   menu->popup(event->globalPos());
 }
 
+void CanvasView::add_exports(QMenu& menu) {
+  menu.addAction(tr("Export &PNG..."), this, [this] { ask_export(1.0, ".png"); });
+  menu.addAction(tr("Export PNG, dou&ble size..."), this, [this] { ask_export(2.0, ".png"); });
+  menu.addAction(tr("Export PNG, &four times..."), this, [this] { ask_export(4.0, ".png"); });
+  menu.addAction(tr("Export PNG, resol&ution..."), this, &CanvasView::ask_resolution);
+  menu.addAction(tr("Export &SVG..."), this, [this] { ask_export(1.0, ".svg"); });
+  menu.addAction(tr("Export P&DF..."), this, [this] { ask_export(1.0, ".pdf"); });
+  menu.addSeparator();
+  const auto add = [&menu](const QString& text, PictureChoices::Choice choice) {
+    QAction* entry = menu.addAction(text);
+    entry->setCheckable(true);
+    entry->setChecked(PictureChoices::of_program().on(choice));
+    connect(entry, &QAction::toggled, entry, [choice](bool on) { PictureChoices::of_program().set(choice, on); });
+  };
+  if (caption_) add(tr("&With caption"), PictureChoices::Caption);
+  if (canvas_->geometry) add(tr("With scale and labels"), PictureChoices::LayersInExports);
+}
+
+/// The picture keeps its size of 96 dots to the inch.
+void CanvasView::ask_resolution() {
+  constexpr double own = 96;
+  constexpr int proposed = 300;
+  constexpr int most = 1200;
+  bool wanted = false;
+  const int dots = QInputDialog::getInt(this, tr("Export PNG"), tr("Resolution (dots per inch):"), proposed,
+                                        static_cast<int>(own), most, 1, &wanted);
+  if (wanted) ask_export(dots / own, ".png");
+}
+
 void CanvasView::copy_to_clipboard() const {
   try {
-    QGuiApplication::clipboard()->setImage(picture_image(*canvas_));
+    QGuiApplication::clipboard()->setImage(stand_in_.image ? stand_in_.image() : picture_image(*canvas_));
   } catch (const RunFailure& failure) {
     canvas_->services().message(failure.message(), "Copy");
   }
@@ -292,12 +364,23 @@ void CanvasView::ask_export(double factor, const char* ending) {
   const auto ask = [this, factor, suffix = NameEnding{ending}] {
     Services& services = canvas_->services();
     FileDialog dialog(services);
+    if (const std::string name = file_name_ ? file_name_() : ""; !name.empty()) dialog.set_file_name(name);
     const std::string answer = dialog.save(FileKind::Export, suffix);
     if (answer.empty()) return;
     try {
       WindowTask task(services);
-      const QString caption = exports_tell && caption_ ? caption_() : QString();
-      export_picture(*canvas_, suffix.added_to(answer), factor, task, caption);
+      const PictureChoices& choices = PictureChoices::of_program();
+      const std::string path = suffix.added_to(answer);
+      ExportExtras extras;
+      if (choices.on(PictureChoices::Caption) && caption_) extras.caption = caption_();
+      if (stand_in_.write) return stand_in_.write(path, factor, task, extras.caption);
+      if (choices.on(PictureChoices::LayersInExports)) {
+        extras.above = [this](QPainter& painter) {
+          const QRectF all(0, 0, canvas_->pixel_width(), canvas_->pixel_height());
+          tools_->layers().paint_wanted(painter, PicturePlace{canvas_, all});
+        };
+      }
+      export_picture(*canvas_, path, factor, task, extras);
     } catch (const RunFailure& failure) {
       services.message(failure.message(), "Export");
     }

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMainWindow>
+#include <QMenu>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -161,10 +162,21 @@ class MenuTie : public ControlTie {
     connect(&action, &QAction::triggered, this, [this, &item] {
       act({"click", item.path()}, [&item] { item.click(); });
     });
+    if (item.checked_when) show_mode(item);
   }
   void show() override { action_.setVisible(control().visible()); }
 
  private:
+  /// A menu that opens tells whether the mode is on.
+  void show_mode(const MenuItem& item) {
+    action_.setCheckable(true);
+    for (QObject* place : action_.associatedObjects()) {
+      if (auto* menu = qobject_cast<QMenu*>(place)) {
+        connect(menu, &QMenu::aboutToShow, this, [this, &item] { action_.setChecked(item.checked_when()); });
+      }
+    }
+  }
+
   QAction& action_;
 };
 

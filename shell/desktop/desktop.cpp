@@ -20,6 +20,8 @@
 #include "shell/desktop/advice.h"
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/crystal_title.h"
+#include "shell/desktop/curve_tools.h"
+#include "shell/desktop/desk.h"
 #include "shell/desktop/file_drops.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/guide.h"
@@ -141,7 +143,9 @@ void Desktop::settle() {
   if (!windows.empty()) new Grave(this, std::move(windows), std::exchange(unloaded_, {}));
   if (program_ != nullptr) show_crystal();
   show_changes();
+  if (desk_ && !ended()) desk_->update();
   if (advice_ && !ended()) advice_->update();
+  emit settled();
 }
 
 void Desktop::end(int status) {
@@ -171,22 +175,29 @@ Binder* Desktop::binder(const std::string& window_name) const {
   return found == shown_.end() ? nullptr : found->second.binder.get();
 }
 
+std::string Desktop::crystal_name() const { return program_ == nullptr ? "" : program_->crystal_name(); }
+
 void Desktop::window_created(Window& window) {
   auto widget = load_ui(window.name());
   if (!widget) return;
   widget->installEventFilter(this);
+  offer_curves(window, *widget, *this, events_);
   auto binder = std::make_unique<Binder>(window, *widget, events_);
   accept_file_drops(window, *widget, events_);
   offer_guide(*widget);
+  auto* top = qobject_cast<QMainWindow*>(widget.get());
+  if (desk_ && top != nullptr) top->menuBar();  // where the layout has none
   if (program_ != nullptr) add_undo(*widget);
   if (advice_) advice_->add(window, *widget);
   binder->show_everything();
-  if (auto* top = qobject_cast<QMainWindow*>(widget.get())) {
+  if (top != nullptr) {
     offer_view(*top);
     dress(*top);
     offer_folding(*top);
     if (made_) made_(window, *top);
+    if (desk_) desk_->add(window, *top);
     fit_to_screen(*top);
+    if (desk_) desk_->put_in_place(window, *top);
   }
   shown_[window.name()] = {std::move(widget), std::move(binder)};
 }
@@ -213,6 +224,14 @@ void Desktop::offer_undo(Program& program) {
 void Desktop::offer_advice(Program& program) {
   advice_ = std::make_unique<Advice>(program, events_);
   for (const auto& [name, shown] : shown_) advice_->add(shown.binder->window(), *shown.widget);
+}
+
+void Desktop::offer_desk(Program& program, const QString& settings_file) {
+  desk_ = std::make_unique<Desk>(program, events_, settings_file);
+}
+
+void Desktop::open_files(const std::vector<std::string>& paths) {
+  if (desk_) desk_->open_files(paths);
 }
 
 /// The keys in every window; the menu, which names the step, where there is a menu bar.
@@ -253,8 +272,9 @@ void Desktop::go_in_history(bool back) {
 void Desktop::window_shown(Window& window) {
   auto* shown = binder(window.name());
   if (shown == nullptr) return;
+  const std::string opener = window.beside.empty() ? active_ : window.beside;
   if (window.beside.empty()) active_ = window.name();
-  if (auto* neighbour = binder(window.beside)) shown->set_neighbour(&neighbour->widget());
+  if (auto* neighbour = opener == window.name() ? nullptr : binder(opener)) shown->set_neighbour(&neighbour->widget());
   shown->window_shown();
 }
 
@@ -267,6 +287,7 @@ void Desktop::window_unloaded(Window& window) {
   if (found == shown_.end()) return;
   found->second.widget->hide();
   if (advice_) advice_->remove(window);
+  if (desk_) desk_->remove(window);
   unloaded_.push_back(std::move(found->second));  // its own event may still be under way
   shown_.erase(found);
 }

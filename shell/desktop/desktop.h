@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <QElapsedTimer>
 #include <QObject>
@@ -22,6 +23,7 @@ class QWidget;
 namespace zol {
 
 class Advice;
+class Desk;
 class Guide;
 class Program;
 
@@ -47,6 +49,10 @@ class Desktop : public QObject, public WindowView {
   void set_made(std::function<void(const Window&, QMainWindow&)> made) { made_ = std::move(made); }
   /// What the windows say beside their controls.
   void offer_advice(Program& program);
+  /// Menus of windows and of recent files, kept places, first things to do. @param settings_file  see Desk
+  void offer_desk(Program& program, const QString& settings_file);
+  /// By the ways that a window declares. @throws nothing  what can't be opened is told
+  void open_files(const std::vector<std::string>& paths);
   /// Asks whether what would end the run is to be done all the same, in the place of a message box.
   void set_question(std::function<bool(const std::string& reason)> question) {
     events_.set_question(std::move(question));
@@ -59,6 +65,8 @@ class Desktop : public QObject, public WindowView {
   [[nodiscard]] LongWork& long_work() { return long_work_; }
 
   [[nodiscard]] Binder* binder(const std::string& window_name) const;
+  /// Of the present crystal; empty where it has none.
+  [[nodiscard]] std::string crystal_name() const;
 
   void window_created(Window& window) override;
   void window_shown(Window& window) override;
@@ -66,6 +74,10 @@ class Desktop : public QObject, public WindowView {
   void window_unloaded(Window& window) override;
   void control_changed(Control& control) override;
   void focus_wanted(Control& control) override;
+
+ signals:
+  /// An event is over, and what it has changed is shown.
+  void settled();
 
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
@@ -99,6 +111,7 @@ class Desktop : public QObject, public WindowView {
   std::vector<Shown> unloaded_;
   std::string active_;  ///< the window that was last activated, by the program or the user
   std::unique_ptr<Advice> advice_;
+  std::unique_ptr<Desk> desk_;
   std::unique_ptr<Guide> guide_;
   Program* program_ = nullptr;  ///< whose steps can be undone, and whose crystal the titles tell
   std::function<void(const Window&, QMainWindow&)> made_;

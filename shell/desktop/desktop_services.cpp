@@ -204,7 +204,8 @@ void DesktopServices::print_window(Window& window) {
   const auto* binder = desktop_->binder(window.name());
   if (binder == nullptr) return;
   auto chosen = std::exchange(set_up_, nullptr);
-  if (!chosen) chosen = default_output(window.caption());
+  const std::string crystal = window.shows_crystal ? desktop_->crystal_name() : "";
+  if (!chosen) chosen = default_output(crystal.empty() ? window.caption() : crystal + ".pdf");
   if (!chosen) return;
   chosen->setDocName(to_qt(window.caption()).trimmed());
   const QPixmap image = binder->widget().grab();

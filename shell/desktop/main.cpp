@@ -1,4 +1,14 @@
 // zol: the desktop program.
-#include "shell/desktop/application.h"
+#include <iostream>
 
-int main(int argc, char** argv) { return zol::run_application(argc, argv); }
+#include "shell/desktop/application.h"
+#include "shell/desktop/command_line.h"
+
+int main(int argc, char** argv) {
+  const auto line = zol::read_command_line({argv, argv + argc});
+  if (!line.answer.empty()) {
+    (line.status == 0 ? std::cout : std::cerr) << line.answer;
+    return line.status;
+  }
+  return zol::run_application(argc, argv, {}, zol::KeepWork::Yes, line.files);
+}

@@ -48,6 +48,22 @@ void WordLine::paintEvent(QPaintEvent* /*event*/) {
   painter.drawText(rect(), Qt::AlignVCenter, fontMetrics().elidedText(words_, Qt::ElideRight, width()));
 }
 
+void NotedList::light(int row) {
+  if (std::exchange(lit_, row) == row) return;
+  const QModelIndex index = model()->index(row, 0);
+  if (index.isValid() && !underMouse()) scrollTo(index);
+  viewport()->update();
+}
+
+void NotedList::paintEvent(QPaintEvent* event) {
+  QListView::paintEvent(event);
+  const QModelIndex index = model() == nullptr ? QModelIndex() : model()->index(lit_, 0);
+  if (!index.isValid()) return;
+  QPainter painter(viewport());
+  painter.setPen(palette().color(QPalette::Highlight));
+  painter.drawRect(visualRect(index).adjusted(0, 0, -1, -1));
+}
+
 NoteLine::NoteLine(QWidget& view, std::function<void(int)> make_room, std::function<void()> clicked)
     : QWidget(&view), view_(view), make_room_(std::move(make_room)) {
   auto* row = new QHBoxLayout(this);

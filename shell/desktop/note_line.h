@@ -30,6 +30,15 @@ class NotedList : public QListView {
  public:
   using QListView::QListView;
   void set_note_room(int pixels) { setViewportMargins(0, pixels, 0, 0); }
+  /// Frames a row and brings it into sight; -1: none.
+  void light(int row);
+  [[nodiscard]] int lit() const { return lit_; }
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  int lit_ = -1;
 };
 
 /// A line at the head of a list or a picture, outside of what it shows, with a button where something can be done.

@@ -71,7 +71,14 @@ QImage with_caption(const QImage& picture, const CaptionBelow& caption, double f
   return image;
 }
 
-QByteArray svg_of(Canvas& canvas, const CaptionBelow& caption, Task& task) {
+void draw_above(QImage& picture, double factor, const ExportExtras& extras) {
+  QPainter painter(&picture);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.scale(factor, factor);
+  extras.above(painter);
+}
+
+QByteArray svg_of(Canvas& canvas, const CaptionBelow& caption, const ExportExtras& extras, Task& task) {
   QBuffer buffer;
   QSvgGenerator svg;
   svg.setOutputDevice(&buffer);
@@ -81,12 +88,13 @@ QByteArray svg_of(Canvas& canvas, const CaptionBelow& caption, Task& task) {
   svg.setTitle(QString::fromStdString(canvas.path()));
   QPainter painter(&svg);
   paint_canvas(painter, canvas, task);
+  if (extras.above) extras.above(painter);
   caption.paint(painter);
   painter.end();
   return buffer.data();
 }
 
-QByteArray pdf_of(Canvas& canvas, const CaptionBelow& caption, Task& task) {
+QByteArray pdf_of(Canvas& canvas, const CaptionBelow& caption, const ExportExtras& extras, Task& task) {
   constexpr double points_per_pixel = 72.0 / dots_per_inch;
   const QSizeF size = caption.size();
   QBuffer buffer;
@@ -99,6 +107,7 @@ QByteArray pdf_of(Canvas& canvas, const CaptionBelow& caption, Task& task) {
   QPainter painter(&pdf);
   painter.scale(double{resolution} / dots_per_inch, double{resolution} / dots_per_inch);
   paint_canvas(painter, canvas, task);
+  if (extras.above) extras.above(painter);
   caption.paint(painter);
   painter.end();
   return buffer.data();
@@ -126,14 +135,18 @@ QImage picture_image(Canvas& canvas, double factor, Task& task) {
   return image;
 }
 
-void export_picture(Canvas& canvas, const std::string& path, double factor, Task& task, const QString& caption) {
-  const CaptionBelow below(canvas, caption);
-  const auto image = [&] { return with_caption(picture_image(canvas, factor, task), below, factor); };
+void export_picture(Canvas& canvas, const std::string& path, double factor, Task& task, const ExportExtras& extras) {
+  const CaptionBelow below(canvas, extras.caption);
+  const auto image = [&] {
+    QImage picture = picture_image(canvas, factor, task);
+    if (extras.above) draw_above(picture, factor, extras);
+    return with_caption(picture, below, factor);
+  };
   const std::string ending = ending_of(path);
   if (ending == "bmp") return write_image(image(), path, "BMP");
   if (ending == "png") return write_image(image(), path, "PNG");
-  if (ending == "svg") return write_bytes(svg_of(canvas, below, task), path);
-  if (ending == "pdf") return write_bytes(pdf_of(canvas, below, task), path);
+  if (ending == "svg") return write_bytes(svg_of(canvas, below, extras, task), path);
+  if (ending == "pdf") return write_bytes(pdf_of(canvas, below, extras, task), path);
   throw RunFailure("can't export to " + path + ": the name must end in .bmp, .png, .svg or .pdf");
 }
 

@@ -1,9 +1,11 @@
 // Pictures as files: pixels as BMP and PNG, lines and texts as SVG and PDF.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include <QImage>
+#include <QPainter>
 #include <QString>
 
 #include "core/task.h"
@@ -15,12 +17,18 @@ namespace zol {
 [[nodiscard]] QImage picture_image(Canvas& canvas, double factor, Task& task);
 [[nodiscard]] QImage picture_image(Canvas& canvas, double factor = 1.0);
 
+/// What an export shows of a picture besides.
+struct ExportExtras {
+  QString caption = {};                            ///< words below it
+  std::function<void(QPainter& painter)> above{};  ///< drawn over it, in canvas pixels
+};
+
 /// Writes the kind that the ending of the path names: .bmp, .png, .svg, .pdf.
 /// @param factor   pixels per canvas pixel, for .bmp and .png
-/// @param caption  words below the picture
 /// @throws RunFailure  another ending, or the file can't be written
 /// @throws Cancelled  the task stops; there is no file then
-void export_picture(Canvas& canvas, const std::string& path, double factor, Task& task, const QString& caption = {});
+void export_picture(Canvas& canvas, const std::string& path, double factor, Task& task,
+                    const ExportExtras& extras = {});
 
 /// Pictures of a program without a screen: starts Qt on its offscreen platform when the first one is asked for.
 class OffscreenPictures : public PictureMaker {

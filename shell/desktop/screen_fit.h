@@ -10,7 +10,7 @@ namespace zol {
 /// scroll.
 void fit_to_screen(QMainWindow& window);
 
-/// Moves a window to where it covers the least of another one.
+/// Moves a window to where it covers the least of another one, and then of the others.
 void place_beside(QWidget& window, const QWidget& other);
 
 }  // namespace zol

@@ -121,6 +121,13 @@ std::string source_tree() {
   return "";
 }
 
+std::string examples_folder() {
+  if (const std::string tree = source_tree(); !tree.empty()) return tree + "/examples";
+  std::error_code error;
+  const fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
+  return (folder.parent_path() / "share" / "doc" / "zol" / "examples").string();
+}
+
 std::string state_folder() { return user_folder("XDG_STATE_HOME", ".local/state").string(); }
 
 DataPlaces data_places() {

@@ -1,7 +1,6 @@
 // The window that the program starts with: the ways in, and the camera parameters read once.
 #pragma once
 
-#include "shell/services/guards.h"
 #include "shell/services/window_services.h"
 #include "shell/services/workbench.h"
 
@@ -10,10 +9,7 @@ namespace zol {
 struct MainMenuForm : Window {
   static constexpr auto window_name = "MAIN_MENU";
 
-  explicit MainMenuForm(Workbench& bench) : Window(window_name, "MAIN MENU") {
-    offers_kept_work = true;
-    Command2.warn_when = [&bench] { return guard::no_reflections(bench.seen()); };
-  }
+  explicit MainMenuForm(Workbench& bench);
 
   Label Label2{*this, "Label2", "Crystals, diffraction, Kikuchi patterns"};
   CommandButton Command1{*this, "Command1", "New Crystal Registration or Edit Crystal Data "};

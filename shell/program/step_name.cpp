@@ -30,7 +30,7 @@ std::string caption_of(const Control& control) {
 }  // namespace
 
 StepName step_of(const UserEvent& event, const Windows& windows) {
-  if (!event.step.empty()) return {event.step, ""};
+  if (!event.step.empty()) return {event.step, event.joins};
   const auto words = first_words(event.script);
   if (words.size() < 2) return {event.name, ""};
   const std::size_t dot = words[1].find('.');

@@ -30,7 +30,7 @@ Canvas::~Canvas() = default;
 Canvas::Contents Canvas::contents() const {
   std::shared_ptr<const Surface> stored;
   if (raster_.has_base() && raster_.made()) stored = raster_.copy_of(raster_.stored());
-  return {drawing_, raster_.picture(), raster_.has_base(), stored, mouse_pointer_};
+  return {drawing_, raster_.picture(), raster_.has_base(), stored, mouse_pointer_, marks_};
 }
 
 void Canvas::set_contents(const Contents& contents) {
@@ -43,6 +43,7 @@ void Canvas::set_contents(const Contents& contents) {
     raster_.stored().draw(*contents.stored, false);
   }
   mouse_pointer_ = contents.mouse_pointer;
+  marks_ = contents.marks;
   changed();
 }
 
@@ -56,6 +57,7 @@ void Canvas::clear() {
     raster_.set_base(true);
   }
   drawing_.clear();
+  marks_.clear();
   ++begun_;
   if (raster_.made()) {
     if (persistent) raster_.repaint_stored(drawing_);

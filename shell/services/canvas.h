@@ -13,9 +13,12 @@
 
 #include "shell/services/controls.h"
 #include "shell/services/drawing.h"
+#include "shell/services/picture_marks.h"
 #include "shell/services/raster.h"
 
 namespace zol {
+
+struct CurveOffer;
 
 /// An axis of a curve: what is laid off along it, and in which unit.
 struct Axis {
@@ -37,6 +40,7 @@ class Canvas : public Control {
     bool raster_base = false;                ///< the stored image holds more than picture and list tell
     std::shared_ptr<const Surface> stored;   ///< it then, where it has been made
     MousePointer mouse_pointer = MousePointer::Default;
+    PictureMarks marks = {};  ///< of what was drawn
   };
   [[nodiscard]] Contents contents() const;
   void set_contents(const Contents& contents);
@@ -55,6 +59,12 @@ class Canvas : public Control {
   /// Colour of the pixel, -1 outside the picture. @throws RunFailure  there are no pixels here
   [[nodiscard]] Colour point(double x, double y);
   void print(std::string_view text);  ///< at the drawing position, which stays
+  /// What was drawn has indices. No part of the drawing; the next clear forgets it.
+  void mark(const PictureMark& mark) {
+    marks_.push_back(mark);
+    touched();
+  }
+  [[nodiscard]] const PictureMarks& marks() const { return marks_; }
 
   [[nodiscard]] Colour fore_colour() const { return drawing_.pens.fore; }
   [[nodiscard]] Colour back_colour() const { return drawing_.pens.back; }
@@ -118,6 +128,14 @@ class Canvas : public Control {
   // What a view shows beside the picture
   std::optional<Axis> x_axis, y_axis;                             ///< rulers, where the picture is a curve
   std::function<std::string(double x, double y)> describe_place;  ///< the place under the pointer, in user coordinates
+  std::shared_ptr<const CurveOffer> curve;                        ///< what may be laid beside the curve, where it is one
+  std::string hint;                                               ///< what to do, as long as the picture is empty
+  std::optional<PictureGeometry> geometry;                        ///< where places can be measured
+  std::unique_ptr<PictureDrag> drag;                              ///< where a drag tilts and turns
+  const ListBox* rows = nullptr;                                  ///< whose rows the marks name
+  std::function<PictureMarks(int row)> row_marks;  ///< what a row of that list looks like over the picture
+  std::vector<PictureAction> actions;
+  bool loupe = false;  ///< while a line is drawn
 
   // For views and exports
   [[nodiscard]] Services& services() const { return services_; }
@@ -140,6 +158,8 @@ class Canvas : public Control {
   [[nodiscard]] const Surface& overlay_so_far() const { return raster_.overlay(); }
   /// Another number when more has changed than that something was drawn besides.
   [[nodiscard]] unsigned redrawn() const { return redrawn_; }
+  /// What lies beside the curve has changed.
+  void surroundings_changed() { changed(); }
 
  protected:
   [[nodiscard]] std::any copied_contents() const override { return contents(); }
@@ -161,6 +181,7 @@ class Canvas : public Control {
   Services& services_;
   Drawing drawing_;
   Raster raster_;
+  PictureMarks marks_;
   unsigned begun_ = 0;
   MousePointer mouse_pointer_ = MousePointer::Default;
   unsigned redrawn_ = 0;

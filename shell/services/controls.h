@@ -380,6 +380,7 @@ class MenuItem : public Control {
   [[nodiscard]] const std::string& menu() const { return menu_; }
   void click() const { on_click.fire(described() + " was clicked"); }
   Event<> on_click;
+  std::function<bool()> checked_when = {};  ///< a mode that it switches is on; none: it switches none
 
  private:
   std::string menu_;

@@ -21,6 +21,7 @@ struct UserEvent {
   bool stoppable = true;                    ///< else it is always short, and nothing is kept to be put back
   std::string step = {};                    ///< its name as a step of the history; empty: from the script
   std::string window = {};                  ///< that it comes from; empty where it comes from none
+  std::string joins = {};                   ///< events of one such name that follow each other are one step
 };
 
 /// A line of a script from its words in UTF-8, quoted where they need it.

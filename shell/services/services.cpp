@@ -46,6 +46,9 @@ const std::string& FileDialog::ask(FileKind kind, bool save, const NameEnding& e
       .ending = ending};
   memory_.file_name = answered_ ? *std::exchange(answered_, std::nullopt) : services_.ask_file(question);
   if (!memory_.file_name.empty()) last_name = memory_.file_name;
+  if (!memory_.file_name.empty() && services_.chosen_) {
+    services_.chosen_(question, ending.added_to(memory_.file_name));
+  }
   return memory_.file_name;
 }
 

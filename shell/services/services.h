@@ -1,12 +1,14 @@
 // What the program asks of its surroundings: questions to the user, the printer, pixels, and its own end.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/numbers.h"
@@ -36,6 +38,8 @@ inline constexpr auto atom_lists = "Lists of atoms|*.txt;*.cif|";
 inline constexpr auto bitmaps = "bmp|*.bmp|";
 inline constexpr auto pictures = "Pictures|*.bmp;*.png;*.jpg;*.jpeg;*.tif;*.tiff|bmp|*.bmp|";
 inline constexpr auto pages = "PDF|*.pdf|";
+/// Of the pictures, in small letters.
+inline constexpr std::array picture_endings{".bmp", ".png", ".jpg", ".jpeg", ".tif", ".tiff"};
 }  // namespace file_filters
 
 /// What a file holds. Folders and names are proposed by it: a name of another kind never is.
@@ -52,7 +56,9 @@ enum class FileKind {
   CameraParameters,
   Corrector,
   Export,
-  PrintedPage
+  PrintedPage,
+  MeasuredPattern,
+  LineList
 };
 
 struct FileQuestion {
@@ -122,8 +128,14 @@ class Services {
   /// Ends the program once the running handler has returned; no further event comes in.
   virtual void end_program() = 0;
 
+  /// Told of each file that a dialog of a window has answered, by the name that it bears.
+  using Chosen = std::function<void(const FileQuestion&, const std::string& path)>;
+  void set_chosen(Chosen chosen) { chosen_ = std::move(chosen); }
+
  private:
   friend class WindowTask;
+  friend class FileDialog;
+  Chosen chosen_;
   int tasks_ = 0;  ///< that are under way, one within the other
 };
 

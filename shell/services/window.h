@@ -15,6 +15,7 @@
 #include "shell/services/named_values.h"
 #include "shell/services/services.h"
 #include "shell/services/shared_state.h"
+#include "shell/services/uses.h"
 
 namespace zol {
 
@@ -38,6 +39,7 @@ struct FileDrop {
   std::string ending;  ///< as ".cry", small letters
   MenuItem* item = nullptr;
   FileDialog* dialog = nullptr;
+  FileKind kind = FileKind::Crystal;
 };
 
 class Window {
@@ -107,6 +109,8 @@ class Window {
   bool shows_crystal = false;             ///< its title tells which
   TextBox* crystal_file = nullptr;        ///< the box that holds the path of the present crystal, where it has that
   bool offers_kept_work = false;          ///< of earlier runs
+  std::vector<FileWay> file_ways = {};    ///< how it opens files by way of other windows
+  std::vector<WayIn> ways_in = {};        ///< offered at its foot
 
  private:
   friend class Control;

@@ -36,7 +36,7 @@ namespace zol {
 void wire(Workbench& bench, FiberTextureForm& form) {
   using namespace fiber_texture;
   const Wire on(bench, form);
-  spots::wire_spots(bench, form, PatternDisp3, -1);
+  spots::wire_spots(bench, form, PatternDisp3, -1, false);
   form.Text2.on_change = on(Text2_Change);  // dispersion
   form.Text3.on_change = on(Text3_Change);  // fiber direction H, and so on to Text5, L
   form.Text4.on_change = on(Text4_Change);

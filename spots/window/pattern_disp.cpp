@@ -1,5 +1,6 @@
 #include "spots/window/pattern_disp.h"
 
+#include "core/cell_geometry.h"
 #include "core/number_text.h"
 #include "reflections/window/main1_form.h"
 #include "spots/index_label.h"
@@ -32,6 +33,13 @@ void draw_spot(PatternForm& form, const CrystalState& state, const DiffractionSp
   form.Picture1.set_fill_colour(colour);
   form.Picture1.circle(spot.x, spot.y, double{state.SpotScale} / 2.0 * double{state.CamAcquisition}, colour);
   if (form.Check3.checked()) form.Picture1.print(index_label(spot.h, spot.k, spot.l));
+  form.Picture1.mark({.h = spot.h.value(),
+                      .k = spot.k.value(),
+                      .l = spot.l.value(),
+                      .x = spot.x,
+                      .y = spot.y,
+                      .d = 1 / double{DHKL(state, spot.h, spot.k, spot.l)},
+                      .intensity = spot.intensity});
 }
 
 }  // namespace

@@ -35,6 +35,16 @@ void draw_arcs(Canvas& picture, const FiberArcs& arcs, Task& task) {
   }
 }
 
+void mark_ring(Canvas& picture, const CrystalState& state, int i) {
+  const double radius = 2 * double{state.RefS(i)};
+  picture.mark({.h = state.RefH(i).value(),
+                .k = state.RefK(i).value(),
+                .l = state.RefL(i).value(),
+                .radius = radius,
+                .d = 1 / radius,
+                .intensity = state.RefI(i)});
+}
+
 }  // namespace
 
 void PatternDisp3(Workbench& bench) {
@@ -63,6 +73,7 @@ void PatternDisp3(Workbench& bench) {
     const auto arcs = fiber_arcs(state, i, settings, task);
     if (!arcs) continue;
     draw_arcs(picture, *arcs, task);
+    mark_ring(picture, state, i);
     if (!form.Check3.checked()) continue;
     picture.move_to(arcs->label_x, arcs->label_y);
     picture.print(index_label(state.RefH(i), state.RefK(i), state.RefL(i)));

@@ -52,7 +52,7 @@ namespace zol {
 void wire(Workbench& bench, PatternForm& form) {
   using namespace pattern;
   const Wire on(bench, form);
-  spots::wire_spots(bench, form, PatternDisp, 1);
+  spots::wire_spots(bench, form, PatternDisp, 1, true);
   form.Text2.on_change = on(Text2_Change);  // Laue level
   form.Text3.on_change = on(Text3_Change);  // zone axis u, and so on to Text5, w
   form.Text4.on_change = on(Text4_Change);

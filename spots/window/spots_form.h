@@ -27,6 +27,8 @@ struct SpotsForm : Window {
         CommonDialog1(*this, bench.services, "CommonDialog1"),
         Picture1(*this, bench.services, "Picture1", width, width) {
     fields().add("RotationPitch", RotationPitch);
+    Picture1.hint = "Type a direction and press Calc";
+    Picture1.geometry = PictureGeometry{per_spot};
     Picture1.describe_place = [per_spot](double x, double y) { return spacing_text(per_spot * std::hypot(x, y)); };
   }
 

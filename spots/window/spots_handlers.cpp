@@ -5,6 +5,7 @@
 #include "shell/services/wiring.h"
 #include "spots/window/pattern_disp.h"
 #include "spots/window/picture_controls.h"
+#include "spots/window/spots_drag.h"
 
 namespace zol::spots {
 namespace {
@@ -67,7 +68,7 @@ void change_image_size(Workbench& bench, SpotsForm& form, Draw draw) {
   if (ask_image_size(bench, form.Picture1)) draw(bench);
 }
 
-void wire_spots(Workbench& bench, SpotsForm& form, Draw draw, double clockwise) {
+void wire_spots(Workbench& bench, SpotsForm& form, Draw draw, double clockwise, bool tilts) {
   const Wire on(bench, form);
   form.Text1.on_change = on(Text1_Change);
   form.Text3.on_key_press = on(Text3_KeyPress);  // Enter moves on; in Text5 it draws
@@ -78,15 +79,18 @@ void wire_spots(Workbench& bench, SpotsForm& form, Draw draw, double clockwise) 
   form.Command8.on_click = on(draw);
   form.Command2.on_click = [&bench, &form, draw] { zoom(bench, form, bench.state.CamAcquisition / zoom_factor, draw); };
   form.Command3.on_click = [&bench, &form, draw] { zoom(bench, form, bench.state.CamAcquisition * zoom_factor, draw); };
-  for (const auto& [button, times, by] :
-       {Turn{form.Command6, clockwise, 1}, Turn{form.Command9, 5 * clockwise, 1}, Turn{form.Command11, clockwise, 5},
-        Turn{form.Command7, -clockwise, 1}, Turn{form.Command10, -5 * clockwise, 1},
-        Turn{form.Command12, -clockwise, 5}}) {
+  const std::array turns{Turn{form.Command6, clockwise, 1},       Turn{form.Command9, 5 * clockwise, 1},
+                         Turn{form.Command11, clockwise, 5},      Turn{form.Command7, -clockwise, 1},
+                         Turn{form.Command10, -5 * clockwise, 1}, Turn{form.Command12, -clockwise, 5}};
+  std::vector<TurnButton> turning;
+  for (const auto& [button, times, by] : turns) {
+    turning.push_back({&button, (clockwise > 0 ? -1 : 1) * times / by});
     button.on_click = [&bench, &form, draw, pitches_times = times, pitches_by = by] {
       turn(bench, form, pitches_times, pitches_by);
       draw(bench);
     };
   }
+  form.Picture1.drag = std::make_unique<SpotsDrag>(bench, form, tilts, std::move(turning));
   form.Command1.on_click = on(Command1_Click);
 }
 

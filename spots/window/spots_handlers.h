@@ -8,7 +8,8 @@ namespace zol::spots {
 using Draw = void (*)(Workbench&);  ///< the operation that draws a window's picture
 
 /// Ties what both windows have. @param clockwise  sign of the pattern's angle in a clockwise turn
-void wire_spots(Workbench& bench, SpotsForm& form, Draw draw, double clockwise);
+/// @param tilts  a drag tilts the zone axis of the state
+void wire_spots(Workbench& bench, SpotsForm& form, Draw draw, double clockwise, bool tilts);
 
 /// As a window comes up: pitch and width.
 void set_first_values(Workbench& bench, SpotsForm& form);

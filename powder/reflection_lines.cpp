@@ -1,0 +1,54 @@
+#include "powder/reflection_lines.h"
+
+#include <algorithm>
+#include <tuple>
+#include <vector>
+
+namespace zol {
+namespace {
+
+/// Spacings that agree to this part are one line; those of equivalent reflections differ by the rounding of the cell.
+constexpr double same_spacing = 2e-5;
+/// Intensities of equivalent reflections agree to this part.
+constexpr double same_intensity = 1e-4;
+
+int negatives(const ReflectionLine& line) { return int{line.h < 0} + int{line.k < 0} + int{line.l < 0}; }
+
+bool leads(const ReflectionLine& a, const ReflectionLine& b) {
+  if (a.intensity > b.intensity * (1 + same_intensity)) return true;
+  if (b.intensity > a.intensity * (1 + same_intensity)) return false;
+  if (negatives(a) != negatives(b)) return negatives(a) < negatives(b);
+  return std::tie(a.h, a.k, a.l) > std::tie(b.h, b.k, b.l);
+}
+
+}  // namespace
+
+SharedVector<ReflectionLine> reflection_lines(const CrystalState& state) {
+  std::vector<ReflectionLine> all;
+  for (int i = 1; i <= state.RefCount.value(); ++i) {
+    if (!(state.RefI(i) > 0)) continue;
+    all.push_back({2.0 * double{state.RefS(i)}, state.RefI(i), state.RefH(i).value(), state.RefK(i).value(),
+                   state.RefL(i).value()});
+  }
+  std::stable_sort(all.begin(), all.end(),
+                   [](const ReflectionLine& a, const ReflectionLine& b) { return a.d_star < b.d_star; });
+  SharedVector<ReflectionLine> lines;
+  for (std::size_t i = 0; i < all.size();) {
+    ReflectionLine leader = all[i];
+    double sum = 0;
+    const double end = all[i].d_star * (1 + same_spacing);
+    for (; i < all.size() && all[i].d_star <= end; ++i) {
+      sum += all[i].intensity;
+      if (leads(all[i], leader)) leader = all[i];
+    }
+    leader.intensity = sum;
+    lines.push_back(leader);
+  }
+  return lines;
+}
+
+std::string indices_text(const ReflectionLine& line) {
+  return std::to_string(line.h) + ' ' + std::to_string(line.k) + ' ' + std::to_string(line.l);
+}
+
+}  // namespace zol

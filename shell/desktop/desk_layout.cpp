@@ -1,0 +1,131 @@
+#include "shell/desktop/desk_layout.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace zol {
+namespace {
+
+qint64 area(const QRect& rect) { return qint64{rect.width()} * rect.height(); }
+
+qint64 overlap(const QRect& one, const QRect& other) {
+  const QRect both = one.intersected(other);
+  return both.isEmpty() ? 0 : area(both);
+}
+
+/// A place within the room; the size has to fit.
+QRect moved_into(const QRect& rect, const QRect& room) {
+  const int x = std::max(room.left(), std::min(rect.left(), room.right() + 1 - rect.width()));
+  const int y = std::max(room.top(), std::min(rect.top(), room.bottom() + 1 - rect.height()));
+  return {QPoint(x, y), rect.size()};
+}
+
+struct Row {
+  std::size_t first = 0;
+  std::vector<int> widths = {};
+  int height = 0;
+};
+using Page = std::vector<Row>;
+
+std::vector<Row> rows_of(const std::vector<QSize>& sizes, int width) {
+  std::vector<Row> rows;
+  int taken = 0;
+  for (std::size_t i = 0; i < sizes.size(); ++i) {
+    if (rows.empty() || taken + sizes[i].width() > width) {
+      rows.push_back({i});
+      taken = 0;
+    }
+    taken += sizes[i].width();
+    rows.back().widths.push_back(sizes[i].width());
+    rows.back().height = std::max(rows.back().height, sizes[i].height());
+  }
+  return rows;
+}
+
+std::vector<Page> pages_of(const std::vector<QSize>& least, const QSize& room) {
+  std::vector<QSize> sizes;
+  for (const QSize& size : least) sizes.push_back(size.boundedTo(room));
+  std::vector<Page> pages;
+  int taken = 0;
+  for (Row& row : rows_of(sizes, room.width())) {
+    if (pages.empty() || taken + row.height > room.height()) {
+      pages.emplace_back();
+      taken = 0;
+    }
+    taken += row.height;
+    pages.back().push_back(std::move(row));
+  }
+  return pages;
+}
+
+/// What is left goes to all alike.
+void stretch(std::vector<int>& lengths, int total) {
+  int left = total;
+  for (const int length : lengths) left -= length;
+  auto parts = static_cast<int>(lengths.size());
+  for (int& length : lengths) {
+    const int share = left / parts--;
+    length += share;
+    left -= share;
+  }
+}
+
+void place_page(Page& page, int number, const QRect& room, std::vector<Tile>& tiles) {
+  std::vector<int> heights;
+  for (const Row& row : page) heights.push_back(row.height);
+  stretch(heights, room.height());
+  int y = room.top();
+  for (std::size_t i = 0; i < page.size(); ++i) {
+    stretch(page[i].widths, room.width());
+    int x = room.left();
+    for (const int width : page[i].widths) {
+      tiles.push_back({{x, y, width, heights[i]}, number});
+      x += width;
+    }
+    y += heights[i];
+  }
+}
+
+}  // namespace
+
+QRect on_screens(const QRect& kept, const std::vector<QRect>& screens) {
+  const auto most = std::max_element(screens.begin(), screens.end(), [&kept](const QRect& a, const QRect& b) {
+    return overlap(a, kept) < overlap(b, kept);
+  });
+  return moved_into({kept.topLeft(), kept.size().boundedTo(most->size())}, *most);
+}
+
+QRect beside(const QSize& size, const QRect& opener, const std::vector<QRect>& others, const QRect& room) {
+  const QSize fitting = size.boundedTo(room.size());
+  std::tuple<qint64, qint64> least;
+  QRect best;
+  for (const QPoint at :
+       {QPoint(opener.right() + 1, opener.top()), QPoint(opener.left() - fitting.width(), opener.top()),
+        QPoint(opener.left(), opener.bottom() + 1), QPoint(opener.left(), opener.top() - fitting.height())}) {
+    const QRect place = moved_into({at, fitting}, room);
+    std::tuple<qint64, qint64> covered{overlap(place, opener), 0};
+    for (const QRect& other : others) std::get<1>(covered) += overlap(place, other);
+    if (!best.isNull() && covered >= least) continue;
+    least = covered;
+    best = place;
+  }
+  return best;
+}
+
+std::vector<Tile> arranged(const std::vector<QSize>& least, const QRect& room) {
+  const auto lowered = [&room](std::size_t strips) {
+    return room.adjusted(0, std::min(page_strip * static_cast<int>(strips), room.height() / 2), 0, 0);
+  };
+  std::vector<Page> pages = pages_of(least, room.size());
+  for (std::size_t before = 1; pages.size() > before;) {  // the strips take some of the room
+    before = pages.size();
+    pages = pages_of(least, lowered(before - 1).size());
+  }
+  std::vector<Tile> tiles;
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    place_page(pages[i], static_cast<int>(i), lowered(pages.size() - 1 - i), tiles);
+  }
+  return tiles;
+}
+
+}  // namespace zol

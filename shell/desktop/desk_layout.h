@@ -1,0 +1,34 @@
+// Where windows stand on screens: rectangles alone, frames included.
+#pragma once
+
+#include <vector>
+
+#include <QRect>
+
+namespace zol {
+
+constexpr QSize usual_frame(8, 34);  ///< of a window that has not been on the screen yet
+
+/// Where a window that stood somewhere in an earlier run comes up: there, or moved and made smaller until it stands on
+/// the screen that it covers most of; on the first one when its own is gone.
+/// @param screens  their usable parts, at least one
+[[nodiscard]] QRect on_screens(const QRect& kept, const std::vector<QRect>& screens);
+
+/// Where a window comes up that another one has opened: at the side where it covers the least of that one, then the
+/// least of the others.
+[[nodiscard]] QRect beside(const QSize& size, const QRect& opener, const std::vector<QRect>& others, const QRect& room);
+
+/// A place in an arrangement. The windows of a page do not overlap; of the pages behind the first one only a strip at
+/// the top is seen.
+struct Tile {
+  QRect place;
+  int page = 0;
+};
+
+constexpr int page_strip = 32;  // pixels, a title
+
+/// Side by side in rows, in their order, as far as the room goes; what is left over makes pages behind.
+/// @param least  the smallest size of each window; one that is larger than the room gets the room
+[[nodiscard]] std::vector<Tile> arranged(const std::vector<QSize>& least, const QRect& room);
+
+}  // namespace zol

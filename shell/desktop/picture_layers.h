@@ -1,0 +1,58 @@
+// What a view draws over a picture: scale, labels, what lies under the pointer, a measurement, a loupe, and what to do
+// as long as there is nothing. The picture and its files know nothing of it.
+#pragma once
+
+#include <array>
+#include <optional>
+#include <vector>
+
+#include <QPainter>
+#include <QPixmap>
+#include <QRectF>
+
+#include "shell/services/canvas.h"
+
+namespace zol {
+
+/// Where a picture stands in a view.
+struct PicturePlace {
+  const Canvas* canvas = nullptr;
+  QRectF rect;
+  [[nodiscard]] QPointF to_view(double x, double y) const;
+  [[nodiscard]] QPointF to_user(const QPointF& position) const;
+  /// Pixels of a length along x.
+  [[nodiscard]] double pixels(double length) const;
+};
+
+/// The angle of a circle that fits into so many user units: the largest round one; 0 where none does.
+[[nodiscard]] double circle_angle(const PictureGeometry& geometry, double most);
+
+class PictureLayers {
+ public:
+  using Place = std::array<double, 2>;
+
+  int lit = -1;                     ///< the mark under the pointer, or of the row under it
+  PictureMarks row_marks = {};      ///< of a row of the list
+  std::optional<Place> from, to;    ///< a measurement, in user coordinates
+  std::optional<QPointF> loupe_at;  ///< in the view
+
+  /// What the user wants to see, what is lit and what is measured.
+  void paint(QPainter& painter, const PicturePlace& place);
+  /// Scale and labels alone, for an export.
+  void paint_wanted(QPainter& painter, const PicturePlace& place);
+  void paint_loupe(QPainter& painter, const PicturePlace& place, const QPixmap& pixmap) const;
+  static void paint_hint(QPainter& painter, const QRectF& room, const Canvas& canvas);
+
+ private:
+  void paint_labels(QPainter& painter, const PicturePlace& place);
+  void place_all(const QPainter& painter, const PicturePlace& place);
+
+  // The labels as they were placed last
+  PictureMarks placed_of_;
+  QRectF placed_in_;
+  UserScale placed_scale_;
+  std::vector<LabelPlace> places_;  ///< which mark stands where
+  std::vector<int> families_;
+};
+
+}  // namespace zol

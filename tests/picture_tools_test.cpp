@@ -1,0 +1,206 @@
+// What the pointer does over pictures: marks and rows, measuring, dragging, lines of PATTERN3.
+#include <cmath>
+#include <type_traits>
+
+#include <QContextMenuEvent>
+#include <QFile>
+#include <QListView>
+#include <QMainWindow>
+#include <QMenu>
+#include <QStatusBar>
+#include <QTemporaryDir>
+
+#include "analysis/window/pattern3_form.h"
+#include "kikuchi/window/pattern2_form.h"
+#include "shell/desktop/canvas_view.h"
+#include "shell/desktop/note_line.h"
+#include "shell/desktop/picture_choices.h"
+#include "spots/window/pattern_form.h"
+#include "tests/offscreen_desktop.h"
+
+namespace zol {
+namespace {
+
+class PictureToolsTest : public DesktopTest {
+ protected:
+  PictureToolsTest() {
+    desktop.offer_undo(program);
+    program.watch(desktop.gate());
+  }
+  ~PictureToolsTest() override {
+    for (const auto choice : {PictureChoices::Scale, PictureChoices::Labels, PictureChoices::Caption}) {
+      PictureChoices::of_program().set(choice, false);
+    }
+  }
+  template <class Form>
+  Form& draw() {
+    show_main1();
+    load("NaCl.cry");
+    click("Main1", "Command10");
+    auto& form = program.windows().use<Form>();
+    desktop.enter("a test", [&form] {
+      form.show();
+      if constexpr (std::is_same_v<Form, PatternForm>) form.Text1.set_text("2");
+      form.Text5.set_text("1");
+      form.Command8.click();
+    });
+    return form;
+  }
+  CanvasView& view(const char* window) { return child<CanvasView>(window, "Picture1"); }
+  QPoint at(CanvasView& picture, double x, double y) {
+    return PicturePlace{picture.canvas(), picture.picture_rect()}.to_view(x, y).toPoint();
+  }
+  static void drag(CanvasView& view, QPoint from, QPoint to, Qt::KeyboardModifiers keys = {}) {
+    QTest::mousePress(&view, Qt::LeftButton, keys, from);
+    for (int i = 1; i <= 4; ++i) {
+      const QPointF position = from + (to - from) * i / 4.0;
+      QMouseEvent move(QEvent::MouseMove, position, view.mapToGlobal(position), Qt::NoButton, Qt::LeftButton, keys);
+      QApplication::sendEvent(&view, &move);
+    }
+    QTest::mouseRelease(&view, Qt::LeftButton, keys, to);
+  }
+  QString status(const char* window) {
+    return dynamic_cast<QMainWindow&>(widget(window)).statusBar()->currentMessage();
+  }
+  void choose(CanvasView& picture, const QString& entry) {
+    QContextMenuEvent event(QContextMenuEvent::Mouse, {5, 5}, picture.mapToGlobal(QPoint(5, 5)));
+    QApplication::sendEvent(&picture, &event);
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    for (QAction* action : menu->actions()) {
+      if (action->text().remove(u'&') == entry) action->trigger();
+    }
+    menu->close();
+  }
+};
+
+TEST_F(PictureToolsTest, ADragDrawsWhatTheButtonsDraw) {
+  auto& form = draw<Pattern2Form>();
+  const auto before = form.Picture1.contents().drawing;
+  const double step = std::tan(form.ShiftPitch * degree);
+  auto& picture = view("Pattern2");
+  drag(picture, at(picture, 0, 0), at(picture, 2.3 * step, 0.8 * step));
+  const auto dragged = form.Picture1.contents().drawing;
+  EXPECT_EQ(program.history().undo_name(), "tilt by dragging");
+  QTest::keyClick(&widget("Pattern2"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(form.Picture1.contents().drawing, before) << "one step";
+  desktop.enter("the same by hand", [&form] {
+    for (const int button : {0, 0, 1}) form.Command1(button).click();
+  });
+  EXPECT_EQ(form.Picture1.contents().drawing, dragged) << "to the bit";
+  EXPECT_NE(dragged, before);
+  EXPECT_TRUE(failures.empty());
+}
+
+TEST_F(PictureToolsTest, CtrlTurnsSoThatTheMarkFollowsThePointer) {
+  auto& form = draw<PatternForm>();
+  auto& picture = view("Pattern");
+  const auto find = [&form](int h, int k, int l) {
+    for (const PictureMark& mark : form.Picture1.marks()) {
+      if (mark.h == h && mark.k == k && mark.l == l) return QPointF(mark.x, mark.y);
+    }
+    return QPointF();
+  };
+  const QPointF spot = find(2, 2, 0);
+  ASSERT_FALSE(spot.isNull());
+  const QPointF turned(-spot.y(), spot.x());  // a quarter, anticlockwise
+  drag(picture, at(picture, spot.x(), spot.y()), at(picture, turned.x(), turned.y()), Qt::ControlModifier);
+  const double half_step = form.RotationPitch / 5 / 2 * degree * std::hypot(spot.x(), spot.y());
+  EXPECT_LT(std::hypot(find(2, 2, 0).x() - turned.x(), find(2, 2, 0).y() - turned.y()), 2 * half_step);
+  EXPECT_EQ(program.history().undo_name(), "turn by dragging");
+  // From [0 0 1] by 54.7 degrees to [1 1 1], a drag to the left along x; first back to the start.
+  QTest::keyClick(&widget("Pattern"), Qt::Key_Z, Qt::ControlModifier);
+  const double half_width = program.state().CamAcquisition;
+  drag(picture, at(picture, 0.6 * half_width, 0), at(picture, (0.6 - 54.74 / 45) * half_width, 0));
+  EXPECT_EQ(form.Text3.text() + form.Text4.text() + form.Text5.text(), "111");
+  EXPECT_TRUE(failures.empty());
+}
+
+TEST_F(PictureToolsTest, MarksAndRowsLightEachOtherUp) {
+  auto& form = draw<Pattern2Form>();
+  auto& picture = view("Pattern2");
+  auto& list = child<NotedList>("Pattern2", "List1");
+  const auto& marks = form.Picture1.marks();
+  const PictureMark mark = *std::find_if(marks.begin(), marks.end(),
+                                         [](const PictureMark& band) { return std::hypot(band.x, band.y) < 0.5; });
+  const QPointF pointer = at(picture, mark.x, mark.y);
+  QMouseEvent move(QEvent::MouseMove, pointer, picture.mapToGlobal(pointer), Qt::NoButton, Qt::NoButton, {});
+  QApplication::sendEvent(&picture, &move);
+  ASSERT_GE(list.lit(), 0);
+  const auto& lit = form.Picture1.marks()[static_cast<std::size_t>(list.lit())];
+  EXPECT_NEAR(distance_from(lit, mark.x, mark.y), 0, 0.01);
+  EXPECT_TRUE(status("Pattern2").contains(QString::fromStdString(mark_text(lit)))) << status("Pattern2").toStdString();
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&picture, &leave);
+  EXPECT_EQ(list.lit(), -1);
+  const QImage before = picture.grab().toImage();
+  emit list.entered(list.model()->index(mark.row, 0));
+  EXPECT_NE(picture.grab().toImage(), before) << "the band of the row";
+  EXPECT_EQ(list.lit(), mark.row);
+}
+
+TEST_F(PictureToolsTest, MeasuresUntilEsc) {
+  auto& form = draw<PatternForm>();
+  auto& picture = view("Pattern");
+  choose(picture, QStringLiteral("Measure"));
+  const auto spot = form.Picture1.marks()[0];
+  QTest::mouseClick(&picture, Qt::LeftButton, {}, at(picture, 0, 0));
+  QTest::mouseClick(&picture, Qt::LeftButton, {}, at(picture, spot.x, spot.y));
+  const double d = status("Pattern").section(QStringLiteral(" d "), 1).section(u' ', 0, 0).toDouble();
+  EXPECT_NEAR(d, spot.d, 0.05 * spot.d) << status("Pattern").toStdString();
+  QTest::keyClick(&picture, Qt::Key_Escape);
+  const auto drawing = form.Picture1.contents().drawing;
+  drag(picture, at(picture, 0.1, 0), at(picture, 0.1, 0.5));
+  EXPECT_NE(form.Picture1.contents().drawing, drawing) << "a drag tilts again";
+}
+
+TEST_F(PictureToolsTest, LayersAreOnTheScreenAndInExportsThatAskForThem) {
+  auto& form = draw<PatternForm>();
+  auto& picture = view("Pattern");
+  const QImage plain = picture.grab().toImage();
+  const auto drawing = form.Picture1.contents().drawing;
+  choose(picture, QStringLiteral("Scale bar"));
+  const QImage with_scale = picture.grab().toImage();
+  EXPECT_NE(with_scale, plain);
+  choose(picture, QStringLiteral("Labels h k l"));
+  EXPECT_NE(picture.grab().toImage(), with_scale);
+  EXPECT_EQ(form.Picture1.contents().drawing, drawing);
+  const QTemporaryDir folder;
+  services.answers = {(folder.path() + "/a").toStdString(), (folder.path() + "/b").toStdString()};
+  choose(picture, QStringLiteral("Export SVG..."));
+  choose(picture, QStringLiteral("With caption"));
+  choose(picture, QStringLiteral("Export SVG..."));
+  EXPECT_EQ(services.messages, std::vector<std::string>());
+  EXPECT_EQ(services.answers.size(), 0U);
+  const auto text_of = [&folder](const char* name) {
+    QFile file(folder.path() + QLatin1String(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    return QString::fromUtf8(file.readAll());
+  };
+  EXPECT_FALSE(text_of("/a.svg").contains(QStringLiteral("ZOL")));
+  EXPECT_TRUE(text_of("/b.svg").contains(QStringLiteral("ZOL"))) << "as text";
+  EXPECT_TRUE(text_of("/b.svg").contains(QStringLiteral("NaCl")));
+}
+
+TEST_F(PictureToolsTest, ALineOfPattern3IsTakenBack) {
+  auto& form = program.windows().use<Pattern3Form>();
+  desktop.enter("a test", [&form] { form.show(); });
+  auto& picture = view("PATTERN3");
+  const QImage with_hint = picture.grab().toImage();
+  for (const int y : {100, 200}) drag(picture, at(picture, 100, y), at(picture, 300, y));
+  EXPECT_EQ(form.lines.LineDone(1), 1);
+  EXPECT_NE(picture.grab().toImage(), with_hint);
+  choose(picture, QStringLiteral("Take back the last line"));
+  EXPECT_EQ(form.lines.LineDone(1), 0);
+  EXPECT_EQ(form.lines.LineDone(0), 1);
+  EXPECT_FALSE(form.Picture1.drawing().empty()) << "the other line stays";
+  auto& mode = child<QAction>("PATTERN3", "CenterPosition");
+  mode.trigger();
+  mode.setChecked(false);
+  emit qobject_cast<QMenu*>(mode.associatedObjects().constFirst())->aboutToShow();
+  EXPECT_TRUE(mode.isChecked());
+  EXPECT_TRUE(failures.empty());
+}
+
+}  // namespace
+}  // namespace zol
