@@ -100,6 +100,7 @@ TEST_P(CompleteWindow, ClipsNoText) {
   top.resize(1, 1);
   top.show();
   QApplication::processEvents();
+  QApplication::processEvents();  // a row that has become a column asks for its height
   for (auto* shown : top.findChildren<QWidget*>()) {
     const QString text = shown->property("text").toString();
     const bool adapts = shown->property("wordWrap").toBool() || qobject_cast<QProgressBar*>(shown) != nullptr;

@@ -54,7 +54,9 @@ std::string room_of(const std::string& file) {
   if (file.starts_with("Q")) return "Qt";
   const std::string folder = folder_of(file);
   if (folder.ends_with("/window")) return "windows";
-  return folder.starts_with("shell/") ? folder.substr(folder.find('/') + 1) : folder;
+  if (!folder.starts_with("shell/")) return folder;
+  const std::string inside = folder.substr(folder.find('/') + 1);
+  return inside.substr(0, inside.find('/'));  // a folder in a room belongs to it
 }
 
 /// In the rooms of the windows: forms, then operations, then handlers.

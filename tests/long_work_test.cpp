@@ -65,6 +65,8 @@ class LongWorkTest : public DesktopTest {
 };
 
 TEST_F(LongWorkTest, EndsByEscInAnyWindowAndSwallowsTheRest) {
+  show_main1();
+  QApplication::processEvents();
   const auto before = program.snapshot();
   int heard = 0;
   main1().Text2.on_change = [&heard] { ++heard; };

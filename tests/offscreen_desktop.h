@@ -5,16 +5,20 @@
 
 #include <memory>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QLineEdit>
+#include <QSettings>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "reflections/window/main1_form.h"
 #include "shell/desktop/desktop.h"
+#include "shell/desktop/look/folding.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/program/program.h"
 #include "tests/fake_services.h"
@@ -27,9 +31,16 @@ struct PixelServices : FakeServices {
   }
 };
 
+/// What windows keep goes to a folder of this process, not to the user's.
+inline void keep_settings_apart() {
+  static const QTemporaryDir folder;
+  QSettings::setPath(QSettings::IniFormat, QSettings::UserScope, folder.path());
+}
+
 class DesktopTest : public testing::Test {
  protected:
   explicit DesktopTest(const QString& settings_file = {}) {
+    keep_settings_apart();
     desktop.set_question([this](const std::string& reason) {
       questions.push_back(reason);
       return agrees;
@@ -46,6 +57,7 @@ class DesktopTest : public testing::Test {
   Kind& child(const std::string& window, const char* name) {
     auto* found = widget(window).findChild<Kind*>(QString::fromLatin1(name));
     EXPECT_NE(found, nullptr) << name;
+    if constexpr (std::is_base_of_v<QWidget, Kind>) reveal(*found);  // the windows of this small screen are narrow
     return *found;
   }
   QLineEdit& box(const char* name) { return child<QLineEdit>("Main1", name); }

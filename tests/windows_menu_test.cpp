@@ -80,8 +80,8 @@ TEST_F(Desks, EachWindowListsAllOpenOnesAndGoesToThem) {
 
 TEST_F(Desks, AddedMenusStandBehindTheGivenOnes) {
   for (const auto& [window, titles] :
-       {std::pair{"Main1", Names{"Crystal_Data", "OPTION", "Utility", "Edit", "Recent", "Windows"}},
-        {"Utility", {"Edit", "Windows"}}}) {
+       {std::pair{"Main1", Names{"Crystal_Data", "OPTION", "Utility", "Edit", "View", "Recent", "Windows"}},
+        {"Utility", {"Edit", "View", "Windows"}}}) {
     Names found;
     for (const auto* action : dynamic_cast<QMainWindow&>(widget(window)).menuBar()->actions()) {
       found.push_back(action->text().remove(u'&').toStdString());

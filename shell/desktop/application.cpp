@@ -11,10 +11,10 @@
 
 #include "shell/desktop/desktop_services.h"
 #include "shell/desktop/guarded_application.h"
+#include "shell/desktop/look/look.h"
 #include "shell/desktop/picture_choices.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/recovery.h"
-#include "shell/desktop/screen_fit.h"
 #include "shell/program/data_folders.h"
 #include "shell/program/program.h"
 
@@ -71,7 +71,7 @@ void name_application() {
   QApplication::setApplicationVersion(QString::fromLatin1(program_version));
   use_desktop_resources();
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/zol.svg")));
-  use_fitting_style();
+  use_look(kept_look());
   QApplication::setQuitOnLastWindowClosed(false);
   PictureChoices::of_program().keep_in(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
                                        QStringLiteral("/pictures.ini"));

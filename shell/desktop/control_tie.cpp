@@ -2,6 +2,8 @@
 
 #include <QLabel>
 
+#include "shell/desktop/look/folding.h"
+
 namespace zol {
 
 void ControlTie::show_visibility() const {
@@ -13,7 +15,9 @@ void ControlTie::show_visibility() const {
 }
 
 void ControlTie::take_focus() {
-  if (widget_ != nullptr) widget_->setFocus(Qt::OtherFocusReason);
+  if (widget_ == nullptr) return;
+  reveal(*widget_);
+  widget_->setFocus(Qt::OtherFocusReason);
 }
 
 std::unique_ptr<ControlTie> make_tie(const TiedWindow& owner, Control& control) {

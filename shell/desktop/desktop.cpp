@@ -25,6 +25,8 @@
 #include "shell/desktop/file_drops.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/guide.h"
+#include "shell/desktop/look/folding.h"
+#include "shell/desktop/look/look.h"
 #include "shell/desktop/note_line.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/screen_fit.h"
@@ -189,6 +191,9 @@ void Desktop::window_created(Window& window) {
   if (advice_) advice_->add(window, *widget);
   binder->show_everything();
   if (top != nullptr) {
+    offer_view(*top);
+    dress(*top);
+    offer_folding(*top);
     if (made_) made_(window, *top);
     if (desk_) desk_->add(window, *top);
     fit_to_screen(*top);

@@ -5,48 +5,12 @@
 
 #include <QApplication>
 #include <QMainWindow>
-#include <QProxyStyle>
 #include <QScreen>
 #include <QScrollArea>
 
 #include "shell/desktop/desk_layout.h"
 
 namespace zol {
-namespace {
-
-constexpr int small_screen = 640;  // lines
-
-class CompactStyle : public QProxyStyle {
- public:
-  CompactStyle() : QProxyStyle(QStringLiteral("Fusion")) {}
-  int pixelMetric(PixelMetric metric, const QStyleOption* option, const QWidget* widget) const override {
-    const int usual = QProxyStyle::pixelMetric(metric, option, widget);
-    constexpr int narrow = 3;
-    constexpr int at_side = 5;
-    switch (metric) {
-      case PM_LayoutTopMargin:
-      case PM_LayoutBottomMargin:
-      case PM_LayoutVerticalSpacing:
-        return std::min(usual, narrow);
-      case PM_LayoutLeftMargin:
-      case PM_LayoutRightMargin:
-      case PM_LayoutHorizontalSpacing:
-        return std::min(usual, at_side);
-      default:
-        return usual;
-    }
-  }
-};
-
-}  // namespace
-
-void use_fitting_style() {
-  if (QGuiApplication::primaryScreen()->availableSize().height() < small_screen) {
-    QApplication::setStyle(new CompactStyle);  // the application owns it
-  } else {
-    QApplication::setStyle(QStringLiteral("Fusion"));
-  }
-}
 
 void fit_to_screen(QMainWindow& window) {
   const QSize room = window.screen()->availableSize() - usual_frame;
@@ -55,6 +19,7 @@ void fit_to_screen(QMainWindow& window) {
     auto* area = new QScrollArea;
     area->setWidgetResizable(true);
     area->setFrameShape(QFrame::NoFrame);
+    area->setFocusPolicy(Qt::NoFocus);  // it follows the focus of what is in it
     area->setWidget(window.takeCentralWidget());
     window.setCentralWidget(area);
     window.setMinimumSize(least.boundedTo(room));
