@@ -247,7 +247,7 @@ void PictureTools::add_entries(QMenu& menu) {
   };
   if (!canvas_.geometry) return;
   const bool has_scale = canvas_.geometry->per_unit > 0 || canvas_.geometry->circle;
-  if (has_scale) add(canvas_.geometry->per_unit > 0 ? tr("Scale &bar") : tr("An&gle circle"), PictureChoices::Scale);
+  if (has_scale) add(canvas_.geometry->per_unit > 0 ? tr("Sc&ale bar") : tr("An&gle circle"), PictureChoices::Scale);
   if (has_scale && !canvas_.row_marks) {
     add(tr("&Labels h k l"), PictureChoices::Labels);
     add(tr("Labels in colours of fam&ilies"), PictureChoices::Families);
