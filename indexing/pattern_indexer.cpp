@@ -57,18 +57,31 @@ std::span<const IndexSolution> PatternIndexer::index(const PictureView& picture,
                                                      const IndexSettings& settings, Task& task) {
   solutions_.clear();
   bands_.clear();
-  if (!prepared_.prepare(picture, settings.preparation, task)) {
+  if (!take(picture, settings, task)) {
     throw RunFailure("the picture is blank: it has no contrast to find bands in");
   }
+  const auto found = index_taken(centre, models, settings, task);
+  if (bands_.size() < 3) {
+    throw RunFailure("only " + std::to_string(bands_.size()) + " bands were found, three are needed");
+  }
+  return found;
+}
+
+bool PatternIndexer::take(const PictureView& picture, const IndexSettings& settings, Task& task) {
+  if (!prepared_.prepare(picture, settings.preparation, task)) return false;
+  if (settings.fit_picture) fitter_.take(prepared_);
+  return true;
+}
+
+std::span<const IndexSolution> PatternIndexer::index_taken(const PatternCentre& centre,
+                                                           std::span<const CrystalModel* const> models,
+                                                           const IndexSettings& settings, Task& task) {
+  solutions_.clear();
   DetectionSettings detection = settings.detection;
   detection.most_bands = settings.band_count;
   const auto found = detection_.detect(prepared_, centre, detection);
   bands_.assign(found.begin(), found.end());
-  if (bands_.size() < 3) {
-    throw RunFailure("only " + std::to_string(bands_.size()) + " bands were found, three are needed");
-  }
-  if (settings.fit_picture) fitter_.take(prepared_);
-  double votes_of_others = 0;
+  if (bands_.size() < 3) return solutions_;
   int tried = 0;
   for (const CrystalModel* model : models) {
     task.report(tried++, static_cast<int>(models.size()));
@@ -96,6 +109,12 @@ std::span<const IndexSolution> PatternIndexer::index(const PictureView& picture,
       solutions_.push_back(solution);
     }
   }
+  rate(settings);
+  return solutions_;
+}
+
+/// Orders the solutions, and tells anew what fits of the bands where the picture has moved an orientation.
+void PatternIndexer::rate(const IndexSettings& settings) {
   std::sort(solutions_.begin(), solutions_.end(), [](const IndexSolution& a, const IndexSolution& b) {
     return a.correlation != b.correlation ? a.correlation > b.correlation : a.votes > b.votes;
   });
@@ -114,11 +133,11 @@ std::span<const IndexSolution> PatternIndexer::index(const PictureView& picture,
     }
     if (solution.matched > 0) solution.mean_deviation_deg /= solution.matched;
   }
+  double votes_of_others = 0;
   for (std::size_t i = 1; i < solutions_.size(); ++i) votes_of_others = std::max(votes_of_others, solutions_[i].votes);
   if (!solutions_.empty() && solutions_.front().votes > 0) {
     solutions_.front().confidence = std::clamp(1 - votes_of_others / solutions_.front().votes, 0.0, 1.0);
   }
-  return solutions_;
 }
 
 PictureFit PatternIndexer::refine_centre(const IndexSolution& solution, const PatternCentre& centre,

@@ -65,6 +65,20 @@ class PatternIndexer {
     return index(picture, centre, models, settings, task);
   }
 
+  // The parts of index, for whoever knows an orientation that the picture may have.
+
+  /// Makes a picture ready for the calls that follow. @returns false where it is blank
+  [[nodiscard]] bool take(const PictureView& picture, const IndexSettings& settings, Task& task);
+  /// Fits an orientation to the picture taken.
+  [[nodiscard]] PictureFit fit(const CrystalModel& model, const Rotation& start, const PatternCentre& centre,
+                               const IndexSettings& settings) {
+    return fitter_.fit(*model.sphere, start, centre, settings.fit);
+  }
+  /// Finds the bands of the picture taken, and orientations by them. @returns none where too few bands were found
+  std::span<const IndexSolution> index_taken(const PatternCentre& centre, std::span<const CrystalModel* const> models,
+                                             const IndexSettings& settings, Task& task);
+  [[nodiscard]] const PreparedPicture& prepared() const { return prepared_; }
+
   /// Pattern centre and orientation together on the picture of the last call, from one of its solutions: on the bands
   /// first, on the picture then.
   [[nodiscard]] PictureFit refine_centre(const IndexSolution& solution, const PatternCentre& centre,
@@ -75,6 +89,8 @@ class PatternIndexer {
   [[nodiscard]] std::vector<MatchedBand> matches(const IndexSolution& solution, double tolerance_deg) const;
 
  private:
+  void rate(const IndexSettings& settings);
+
   PreparedPicture prepared_;
   BandDetection detection_;
   std::vector<DetectedBand> bands_;

@@ -123,6 +123,7 @@ bool PreparedPicture::prepare(const PictureView& picture, const PreparationSetti
   double square = 0;
   for (const float value : spread_) square += static_cast<double>(value);
   square /= std::max(count, 1.0);
+  contrast_ = std::sqrt(square);
   if (!(square > 0) || !std::isfinite(square)) return false;
   blur(spread_, radius);
   const auto least = static_cast<float>(square * 0.01);  // dead regions stay quiet

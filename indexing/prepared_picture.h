@@ -32,6 +32,8 @@ class PreparedPicture {
   [[nodiscard]] const std::vector<float>& values() const { return values_; }
   /// 1 where there is a pattern, else 0.
   [[nodiscard]] const std::vector<float>& mask() const { return mask_; }
+  /// Spread of the grey values about their local mean, in those of the picture, of the last one.
+  [[nodiscard]] double contrast() const { return contrast_; }
   /// Changes with size and mask of the picture, for what depends on them alone.
   [[nodiscard]] int shape_version() const { return shape_version_; }
 
@@ -43,7 +45,7 @@ class PreparedPicture {
   int picture_width_ = 0, picture_height_ = 0;
   bool circle_ = false;
   int bin_ = 1, width_ = 0, height_ = 0, shape_version_ = 0;
-  double projection_width_ = 0;
+  double projection_width_ = 0, contrast_ = 0;
   std::vector<float> values_, mask_, mask_mean_, mean_, spread_, row_, column_;
 };
 

@@ -1,0 +1,45 @@
+// zol-batch: the program without windows, for people and for whole scans.
+#include <CLI/CLI.hpp>
+#include <csignal>
+#include <exception>
+#include <iostream>
+
+#include "batch/batch_status.h"
+#include "batch/map_command.h"
+#include "core/task.h"
+#include "shell/program/data_folders.h"
+#include "shell/program/program.h"
+#include "shell/script/stop_signal.h"
+#include "shell/services/latin1.h"
+
+namespace {
+
+int run(int argc, char** argv) {
+  CLI::App app("Diffraction of crystals without a window.", "zol-batch");
+  app.require_subcommand(1);
+  app.set_version_flag("--version", std::string(zol::program_version));
+  app.get_formatter()->column_width(34);
+  int status = zol::batch_done;
+  try {
+    const auto data = zol::find_data_root(zol::data_places());
+    zol::add_map_command(app, data, status);
+    app.parse(argc, argv);
+    return status;
+  } catch (const CLI::ParseError& error) {
+    return app.exit(error) == 0 ? zol::batch_done : zol::batch_words;
+  } catch (const zol::Cancelled&) {
+    std::cerr << "zol-batch: stopped\n";
+    return zol::batch_stopped;
+  } catch (...) {
+    std::cerr << "zol-batch: " << zol::readable_utf8(zol::failure_text(std::current_exception())) << '\n';
+    return zol::batch_failed;
+  }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  std::signal(SIGPIPE, SIG_IGN);  // NOLINT(cert-err33-c): a closed pipe fails the write
+  zol::take_stop_signals();
+  return run(argc, argv);
+}

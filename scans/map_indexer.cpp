@@ -1,0 +1,294 @@
+#include "scans/map_indexer.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+#include <numbers>
+#include <utility>
+
+#include "core/run_failure.h"
+
+namespace zol {
+namespace {
+
+constexpr int tile_columns = 32;
+constexpr int tile_rows = 8;
+/// What the neighbour's orientation has to reach of the neighbour's correlation to be taken without a look at the bands.
+constexpr double as_good = 0.85;
+/// Spread of a picture in steps of its grey values below which it shows nothing but their rounding, 0.29.
+constexpr double least_contrast = 0.5;
+
+std::size_t index(int n) { return static_cast<std::size_t>(n); }
+
+/// How smooth a picture is: the mean correlation of pixels with those beside and below them. It is the mean cosine of
+/// its power spectrum, 0 for white noise, and so akin to the measure of Krieger Lassen, Conradsen & Juul Jensen,
+/// Scanning Microscopy 7 (1993) 23.
+float smoothness(const PreparedPicture& picture) {
+  const auto& values = picture.values();
+  const int w = picture.width();
+  double product = 0;
+  double square = 0;
+  for (int y = 0; y + 1 < picture.height(); ++y) {
+    const float* row = &values[index(y) * index(w)];
+    const float* below = row + w;
+    float line_product = 0;
+    float line_square = 0;
+    for (int x = 0; x + 1 < w; ++x) {
+      line_product += row[x] * (row[x + 1] + below[x]);
+      line_square += row[x] * row[x];
+    }
+    product += static_cast<double>(line_product);
+    square += static_cast<double>(line_square);
+  }
+  return square > 0 ? static_cast<float>(std::clamp(product / (2 * square), 0.0, 1.0)) : 0.0F;
+}
+
+}  // namespace
+
+/// An orientation that was found beside a point.
+struct MapIndexer::Guess {
+  const CrystalModel* model = nullptr;
+  Rotation crystal_from_picture = Rotation::Identity();
+  double correlation = 0;
+};
+
+MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std::vector<const CrystalModel*> models,
+                       const MapSettings& settings)
+    : scan_(scan),
+      grid_(grid),
+      centres_(std::move(centres)),
+      models_(std::move(models)),
+      settings_(settings),
+      picture_from_sample_(
+          picture_from_sample(settings.geometry.sample_tilt_deg - settings.geometry.detector_tilt_deg)),
+      saturated_(static_cast<float>(std::ldexp(1.0, std::min(scan.header().bits, 24)) - 1)) {
+  settings_.index.fit_picture = settings.refinement == Refinement::pattern;
+  auto [left, top, width, height] = settings.region;
+  if (width == 0 && height == 0) {
+    width = grid.columns;
+    height = grid.rows;
+  }
+  if (left < 0 || top < 0 || width < 1 || height < 1 || width > grid.columns - left || height > grid.rows - top) {
+    throw RunFailure("the region lies outside the map of " + std::to_string(grid.columns) + " x " +
+                     std::to_string(grid.rows) + " points");
+  }
+  for (int row = top; row < top + height; row += tile_rows) {
+    for (int column = left; column < left + width; column += tile_columns) {
+      tiles_.push_back({column, row, std::min(tile_columns, left + width - column),
+                        std::min(tile_rows, top + height - row)});
+    }
+  }
+}
+
+void MapIndexer::read_tile(const MapTile& tile, int margin, Worker& worker) {
+  const std::size_t pixels = index(scan_.header().width) * index(scan_.header().height);
+  PatternTile& into = worker.tile;
+  into.columns = tile.columns + 2 * margin;
+  into.rows = tile.rows + 2 * margin;
+  into.pixels = pixels;
+  into.values.assign(index(into.columns) * index(into.rows) * pixels, 0);
+  into.present.assign(index(into.columns) * index(into.rows), 0);
+  const std::lock_guard lock(reading_);
+  for (int row = 0; row < into.rows; ++row) {
+    const int map_row = tile.row - margin + row;
+    const int first = std::max(0, tile.column - margin);
+    const int last = std::min(grid_.columns - 1, tile.column + tile.columns + margin - 1);
+    const auto begin = grid_.point(first, map_row);
+    if (!begin) continue;
+    const int end = grid_.point(last, map_row) ? last : last - 1;
+    if (end < first) continue;
+    scan_.read(*begin, index(end - first + 1), worker.block);
+    for (int i = 0; i <= end - first; ++i) {
+      const std::size_t to = into.place(first - (tile.column - margin) + i, row);
+      const auto pattern = std::as_const(worker.block).pattern(index(i));
+      std::copy(pattern.begin(), pattern.end(), into.values.begin() + static_cast<std::ptrdiff_t>(to * pixels));
+      into.present[to] = worker.block.present[index(i)];
+    }
+  }
+}
+
+void MapIndexer::prepare(Task& task) {
+  if (settings_.background == Background::automatic || settings_.background == Background::stored) {
+    find_background(task);
+  }
+  if (settings_.averaging == Averaging::likeness) find_likeness(task);
+}
+
+/// The file's own background, or the mean of many points: bands move from point to point and cancel.
+void MapIndexer::find_background(Task& task) {
+  constexpr std::size_t looked_at = 400;
+  constexpr std::size_t least = 100;  ///< fewer do not cancel
+  background_ = scan_.header().static_background;
+  if (background_.empty() && settings_.background == Background::stored) {
+    throw RunFailure("the scan holds no static background");
+  }
+  const std::size_t points = grid_.points();
+  if (background_.empty() && points >= least) {
+    background_.assign(index(scan_.header().width) * index(scan_.header().height), 0);
+    PatternBlock block;
+    std::size_t used = 0;
+    for (std::size_t i = 0; i < looked_at; ++i) {
+      task.check();
+      scan_.read(i * points / looked_at, 1, block);
+      if (block.present[0] == 0) continue;
+      ++used;
+      for (std::size_t p = 0; p < background_.size(); ++p) background_[p] += block.values[p];
+    }
+    if (used < least) background_.clear();
+    for (float& value : background_) value /= static_cast<float>(used);
+  }
+  background_mean_ = 0;
+  for (const float value : background_) background_mean_ += static_cast<double>(value);
+  background_mean_ /= static_cast<double>(std::max<std::size_t>(background_.size(), 1));
+  if (!(background_mean_ > 0)) background_.clear();
+}
+
+void MapIndexer::find_likeness(Task& task) {
+  constexpr std::size_t tiles_looked_at = 6;
+  Worker worker = make_worker();
+  std::vector<std::vector<double>> distances;
+  for (std::size_t i = 0; i < std::min(tiles_looked_at, tiles_.size()); ++i) {
+    task.check();
+    MapTile tile = tiles_[i * tiles_.size() / std::min(tiles_looked_at, tiles_.size())];
+    tile.columns = std::min(tile.columns, 8);
+    tile.rows = std::min(tile.rows, 4);
+    read_tile(tile, LikenessAverage::margin, worker);
+    worker.likeness.look_at(worker.tile);
+    for (int row = 0; row < tile.rows; ++row) {
+      for (int column = 0; column < tile.columns; ++column) {
+        const int x = column + LikenessAverage::margin;
+        const int y = row + LikenessAverage::margin;
+        if (worker.tile.present[worker.tile.place(x, y)] == 0) continue;
+        distances.push_back(worker.likeness.distances(x, y));
+      }
+    }
+  }
+  likeness_ = length_of_likeness(distances, settings_.own_share);
+}
+
+/// The pattern of a place of the worker's tile as it is indexed: averaged, without background, turned upside down so
+/// that its frame is right-handed.
+void MapIndexer::pattern_of(int column, int row, Worker& worker) const {
+  const PatternTile& tile = worker.tile;
+  worker.pattern.resize(tile.pixels);
+  worker.picture.resize(tile.pixels);
+  if (settings_.averaging == Averaging::likeness) {
+    worker.likeness.average(column, row, likeness_, worker.pattern);
+  } else {
+    const auto own = tile.pattern(tile.place(column, row));
+    std::copy(own.begin(), own.end(), worker.pattern.begin());
+    if (settings_.averaging == Averaging::plain) {
+      float count = 1;
+      for (const auto& [right, down] : {std::pair(1, 0), {-1, 0}, {0, 1}, {0, -1}}) {
+        const std::size_t there = tile.place(column + right, row + down);
+        if (tile.present[there] == 0) continue;
+        ++count;
+        const auto pattern = tile.pattern(there);
+        for (std::size_t i = 0; i < tile.pixels; ++i) worker.pattern[i] += pattern[i];
+      }
+      for (float& value : worker.pattern) value /= count;
+    }
+  }
+  if (!background_.empty()) {
+    double mean = 0;
+    for (const float value : worker.pattern) mean += static_cast<double>(value);
+    const auto scale = static_cast<float>(mean / static_cast<double>(tile.pixels) / background_mean_);
+    for (std::size_t i = 0; i < tile.pixels; ++i) worker.pattern[i] -= scale * background_[i];
+  }
+  const std::size_t width = index(scan_.header().width);
+  const std::size_t height = index(scan_.header().height);
+  for (std::size_t y = 0; y < height; ++y) {
+    const std::size_t from = settings_.flip ? y : height - 1 - y;
+    std::copy_n(worker.pattern.begin() + static_cast<std::ptrdiff_t>(from * width), width,
+                worker.picture.begin() + static_cast<std::ptrdiff_t>(y * width));
+  }
+}
+
+void MapIndexer::index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task) {
+  const int margin = settings_.averaging == Averaging::likeness ? LikenessAverage::margin
+                     : settings_.averaging == Averaging::plain  ? 1
+                                                                : 0;
+  read_tile(tile, margin, worker);
+  if (settings_.averaging == Averaging::likeness) worker.likeness.look_at(worker.tile);
+  found.assign(index(tile.columns) * index(tile.rows), {});
+  std::vector<Guess> known(found.size());
+  std::vector<Guess> guesses;
+  for (int row = 0; row < tile.rows; ++row) {
+    for (int column = 0; column < tile.columns; ++column) {
+      task.check();
+      const auto point = grid_.point(tile.column + column, tile.row + row);
+      const std::size_t here = index(row) * index(tile.columns) + index(column);
+      if (!point || worker.tile.present[worker.tile.place(column + margin, row + margin)] == 0) {
+        found[here].missing = 1;
+        continue;
+      }
+      pattern_of(column + margin, row + margin, worker);
+      guesses.clear();
+      if (column > 0 && known[here - 1].model != nullptr) guesses.push_back(known[here - 1]);
+      if (row > 0 && known[here - index(tile.columns)].model != nullptr) {
+        guesses.push_back(known[here - index(tile.columns)]);
+      }
+      found[here] = index_point(*point, guesses, worker, known[here], task);
+    }
+  }
+}
+
+PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> guesses, Worker& worker, Guess& known,
+                                    Task& task) const {
+  PointResult result;
+  const PictureSize size{scan_.header().width, scan_.header().height, 1};
+  const PictureView picture{worker.picture, size.width, size.height};
+  PatternIndexer& indexer = worker.indexer;
+  if (!indexer.take(picture, settings_.index, task)) return result;
+  if (indexer.prepared().contrast() < least_contrast) return result;
+  result.quality = smoothness(indexer.prepared());
+  const PatternCentre centre = upside_down(centres_.at(point), size);
+  const bool on_picture = settings_.index.fit_picture;
+  Guess best;
+  PictureFit best_fit;
+  int bands = 0;
+  double fit_deg = 0;
+  bool settled = false;
+  if (on_picture) {
+    for (const Guess& guess : guesses) {
+      const PictureFit fit = indexer.fit(*guess.model, guess.crystal_from_picture, centre, settings_.index);
+      if (fit.correlation <= best.correlation) continue;
+      best = {guess.model, fit.crystal_from_picture, fit.correlation};
+      best_fit = fit;
+      settled = fit.correlation >= as_good * guess.correlation;
+      if (settled) break;
+    }
+  }
+  if (!settled) {
+    for (const IndexSolution& solution : indexer.index_taken(centre, models_, settings_.index, task)) {
+      if (on_picture && solution.correlation <= best.correlation) continue;
+      if (!on_picture && best.model != nullptr) break;  // they stand in order
+      best = {solution.model, solution.crystal_from_picture,
+              on_picture ? solution.correlation : solution.confidence};
+      bands = solution.matched;
+      fit_deg = solution.mean_deviation_deg;
+      best_fit = {};
+    }
+    if (on_picture && best.model != nullptr && bands > 0) {
+      best_fit = indexer.fit(*best.model, best.crystal_from_picture, centre, settings_.index);
+      best.crystal_from_picture = best_fit.crystal_from_picture;
+      best.correlation = best_fit.correlation;
+    }
+  }
+  if (best.model == nullptr) return result;
+  if (on_picture) fit_deg = std::hypot(best_fit.errors[0], best_fit.errors[1], best_fit.errors[2]);
+  result.confidence = static_cast<float>(best.correlation);
+  result.fit_deg = static_cast<float>(fit_deg);
+  result.bands = static_cast<std::uint8_t>(std::clamp(bands, 0, 255));
+  if (best.correlation < settings_.least_confidence || fit_deg > settings_.most_fit_deg) return result;
+  const auto angles = bunge_deg(best.crystal_from_picture * picture_from_sample_);
+  for (std::size_t i = 0; i < 3; ++i) {
+    result.bunge_rad[i] = static_cast<float>(angles[i] * std::numbers::pi / 180);
+  }
+  const auto phase = std::find(models_.begin(), models_.end(), best.model) - models_.begin();
+  result.phase = static_cast<std::int8_t>(phase + 1);
+  known = best;
+  return result;
+}
+
+}  // namespace zol

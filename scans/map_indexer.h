@@ -1,0 +1,89 @@
+// All patterns of a scan to orientations.
+//
+// The map is cut into tiles, which are worked on one by one in any order and by any number of threads; what is found
+// depends on the tile alone. Within a tile the orientation of the neighbour before is tried first: where it fits as well
+// as it did there, bands need not be looked for. Where it does not, as at a boundary, bands and votes give more
+// orientations, all are fitted, and the best stays.
+#pragma once
+
+#include <functional>
+#include <mutex>
+#include <span>
+#include <vector>
+
+#include "indexing/pattern_indexer.h"
+#include "scans/map_geometry.h"
+#include "scans/map_result.h"
+#include "scans/neighbour_average.h"
+
+namespace zol {
+
+enum class Refinement { none, bands, pattern };
+enum class Background { automatic, stored, dynamic, none };
+
+struct MapSettings {
+  MapGeometry geometry;
+  IndexSettings index;
+  Refinement refinement = Refinement::pattern;
+  Background background = Background::automatic;
+  Averaging averaging = Averaging::likeness;
+  double own_share = 0.34;       ///< that the middle point keeps of itself when it is averaged by likeness
+  double least_confidence = 0.1; ///< below it a point counts as not indexed
+  double most_fit_deg = 3;
+  bool flip = false;             ///< patterns stand upside down in the file
+  std::array<int, 4> region{};   ///< x, y, width, height of the part of the map that is indexed; all 0: the whole
+};
+
+/// A part of the map that is worked on at once.
+struct MapTile {
+  int column = 0, row = 0, columns = 0, rows = 0;
+};
+
+/// @param scan  read by one thread at a time
+class MapIndexer {
+ public:
+  MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std::vector<const CrystalModel*> models,
+             const MapSettings& settings);
+
+  [[nodiscard]] const std::vector<MapTile>& tiles() const { return tiles_; }
+  /// Looks at a few points all over the map: mean picture, length of likeness. To be called first.
+  void prepare(Task& task);
+  [[nodiscard]] double likeness() const { return likeness_; }
+
+  /// The storage of one thread.
+  struct Worker {
+    explicit Worker(float saturated) : likeness(saturated) {}
+    PatternBlock block;
+    PatternTile tile;
+    LikenessAverage likeness;
+    PatternIndexer indexer;
+    std::vector<float> pattern, picture;
+  };
+  [[nodiscard]] Worker make_worker() const { return Worker(saturated_); }
+  /// What is found in a tile, row by row. Many threads may call it, each with a worker of its own.
+  void index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task);
+
+ private:
+  struct Guess;
+  void read_tile(const MapTile& tile, int margin, Worker& worker);
+  void find_background(Task& task);
+  void find_likeness(Task& task);
+  PointResult index_point(std::size_t point, std::span<const Guess> guesses, Worker& worker, Guess& known,
+                          Task& task) const;
+  void pattern_of(int column, int row, Worker& worker) const;
+
+  Scan& scan_;
+  std::mutex reading_;
+  ScanGrid grid_;
+  MapCentres centres_;
+  std::vector<const CrystalModel*> models_;
+  MapSettings settings_;
+  Rotation picture_from_sample_;
+  std::vector<MapTile> tiles_;
+  std::vector<float> background_;  ///< empty: none
+  double background_mean_ = 0;
+  double likeness_ = 0;
+  float saturated_;
+};
+
+}  // namespace zol
