@@ -41,5 +41,9 @@ int run(int argc, char** argv) {
 int main(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);  // NOLINT(cert-err33-c): a closed pipe fails the write
   zol::take_stop_signals();
-  return run(argc, argv);
+  try {
+    return run(argc, argv);
+  } catch (...) {  // no memory even for the words of the command line
+    return zol::batch_failed;
+  }
 }

@@ -47,8 +47,8 @@ std::array<double, count> numbers_of(const std::string& option, const std::strin
     const auto [stop, error] = std::from_chars(part.data(), part.data() + part.size(), numbers[i]);
     const bool last = i + 1 == count;
     if (error != std::errc() || stop != part.data() + part.size() || last != (end == text.size())) {
-      throw CLI::ValidationError(option, "\"" + text + "\" is not " + std::to_string(count) + " numbers with '" +
-                                             between + "' between");
+      throw CLI::ValidationError(
+          option, "\"" + text + "\" is not " + std::to_string(count) + " numbers with '" + between + "' between");
     }
     at = end + 1;
   }
@@ -80,7 +80,7 @@ MapSettings settings_of(const MapWords& words, const ScanHeader& header) {
                         : words.background == "static" ? Background::stored
                         : words.background == "none"   ? Background::none
                                                        : Background::dynamic;
-  settings.averaging = words.average == "none" ? Averaging::none
+  settings.averaging = words.average == "none"  ? Averaging::none
                        : words.average == "3x3" ? Averaging::plain
                                                 : Averaging::likeness;
   if (words.average.starts_with("nlpar=")) {
@@ -124,7 +124,9 @@ Centres centres_of(const MapWords& words, const ScanHeader& header, const MapSet
   if (header.centres.empty()) {
     throw RunFailure(words.scan + " tells no pattern centre: tell it by --pc X,Y,Z and --convention");
   }
-  const auto read = [&size](const StoredCentre& centre) { return read_centre(centre.numbers, centre.convention, size); };
+  const auto read = [&size](const StoredCentre& centre) {
+    return read_centre(centre.numbers, centre.convention, size);
+  };
   if (header.centres.size() == 1) {
     const PatternCentre centre = read(header.centres.front());
     return {MapCentres(centre, settings.geometry, grid), written(centre)};
@@ -167,9 +169,9 @@ class ProgressLine {
 /// What results depend on, beside the scan's own bytes.
 std::uint64_t fingerprint(const MapWords& words, const DataRoot& /*data*/) {
   std::string text;
-  for (const auto* part : {&words.scan, &words.centre, &words.convention, &words.size, &words.background,
-                           &words.average, &words.refine, &words.scan_x, &words.scan_y, &words.dataset, &words.region,
-                           &words.mask}) {
+  for (const auto* part :
+       {&words.scan, &words.centre, &words.convention, &words.size, &words.background, &words.average, &words.refine,
+        &words.scan_x, &words.scan_y, &words.dataset, &words.region, &words.mask}) {
     text += *part + '\n';
   }
   for (const auto& crystal : words.crystals) text += crystal + '\n';
@@ -221,19 +223,22 @@ int run(const MapWords& words, const DataRoot& data) {
   QuietTask task;
   MapResult map;
   std::vector<CrystalModel> models;
+  models.reserve(words.crystals.size());
   for (const auto& path : words.crystals) {
     const LoadedCrystal crystal = load_crystal(path, data, task);
     models.push_back(indexing_model(crystal, kilovolt, words.families, task));
     map.phases.push_back(map_phase(crystal, models.back()));
   }
   std::vector<const CrystalModel*> pointers;
+  pointers.reserve(models.size());
   for (const auto& model : models) pointers.push_back(&model);
 
   MapIndexer indexer(*scan, grid, std::move(centres.of_map), pointers, settings);
   indexer.prepare(task);
   ProgressLine line(words.quiet);
   MapRun running;
-  running.threads = words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  running.threads =
+      words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
   running.part_path = words.outputs.front() + ".part";
   running.resume = words.resume;
   running.fingerprint = fingerprint(words, data);
@@ -262,7 +267,8 @@ void add_map_command(CLI::App& app, const DataRoot& data, int& status) {
   const auto words = std::make_shared<MapWords>();
   CLI::App* map = app.add_subcommand("map", "index all patterns of a scan");
   map->footer("Example:\n  zol-batch map scan.h5 -c Ni.cif -o map.ang");
-  map->add_option("SCAN", words->scan, "scan: .h5, .oh5, .h5oina, .up1, .up2, .ebsp, Pattern.dat, a folder")->required();
+  map->add_option("SCAN", words->scan, "scan: .h5, .oh5, .h5oina, .up1, .up2, .ebsp, Pattern.dat, a folder")
+      ->required();
   map->add_option("-c,--crystal", words->crystals, "structure file or crystal of a phase; once for each")
       ->required()
       ->allow_extra_args(false);

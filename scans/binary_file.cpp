@@ -28,8 +28,7 @@ bool BinaryFile::read(std::uint64_t offset, std::span<std::byte> bytes) const {
   if (offset > size_ || bytes.size() > size_ - offset) return false;
   std::size_t done = 0;
   while (done < bytes.size()) {
-    const ssize_t got = pread(descriptor_, bytes.data() + done, bytes.size() - done,
-                              static_cast<off_t>(offset + done));
+    const ssize_t got = pread(descriptor_, bytes.data() + done, bytes.size() - done, static_cast<off_t>(offset + done));
     if (got < 0 && errno == EINTR) continue;
     if (got < 0) throw RunFailure("can't read " + path_ + ": " + std::strerror(errno));
     if (got == 0) return false;

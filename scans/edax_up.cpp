@@ -19,8 +19,8 @@ class EdaxUp : public Scan {
     constexpr std::uint32_t last_known = 32;  // beyond, it is the width of a file without a version
     const bool bare = version > last_known;
     if (bare) at = 0;
-    header_.format = std::string("EDAX .up") + (bytes_ == 1 ? "1" : "2") + ", version " +
-                     std::to_string(bare ? 0 : version);
+    header_.format =
+        std::string("EDAX .up") + (bytes_ == 1 ? "1" : "2") + ", version " + std::to_string(bare ? 0 : version);
     const auto width = file_.number<std::uint32_t>(at, "the width of a pattern");
     const auto height = file_.number<std::uint32_t>(at + 4, "the height of a pattern");
     check_pattern_size(width, height, path);
@@ -68,9 +68,8 @@ class EdaxUp : public Scan {
     grid.columns = static_cast<int>(columns);
     grid.rows = static_cast<int>(rows);
     if (grid.points() != header_.points) {
-      header_.remarks.push_back("the header tells " + std::to_string(grid.columns) + " x " +
-                                std::to_string(grid.rows) + " points, the file holds " +
-                                std::to_string(header_.points) + " whole patterns");
+      header_.remarks.push_back("the header tells " + std::to_string(grid.columns) + " x " + std::to_string(grid.rows) +
+                                " points, the file holds " + std::to_string(header_.points) + " whole patterns");
       if (grid.points() < header_.points) header_.points = grid.points();
       grid.rows = static_cast<int>(header_.points / columns);
       if (grid.rows == 0) return;

@@ -16,9 +16,9 @@ constexpr double degrees = 180 / std::numbers::pi;
 /// Where the patterns of one scan stand and what is said of them.
 struct Layout {
   std::string format;
-  std::string patterns;        ///< the array
-  std::string header;          ///< the group beside it
-  std::string columns, rows;   ///< names in the header
+  std::string patterns;       ///< the array
+  std::string header;         ///< the group beside it
+  std::string columns, rows;  ///< names in the header
   std::string step_x, step_y;
   std::string width, height;
   std::string background;
@@ -72,10 +72,18 @@ class Hdf5Scan : public Scan {
     return file_.number(in_header(name));
   }
 
-  Layout find_layout(const OpenScanSettings& settings) const {
+  [[nodiscard]] Layout find_layout(const OpenScanSettings& settings) const {
     if (file_.holds("EMData/EBSD/EBSDPatterns")) {
-      return {"EMsoft, simulated patterns", "EMData/EBSD/EBSDPatterns", "NMLparameters/EBSDNameList", "", "", "", "",
-              "numsx", "numsy", ""};
+      return {"EMsoft, simulated patterns",
+              "EMData/EBSD/EBSDPatterns",
+              "NMLparameters/EBSDNameList",
+              "",
+              "",
+              "",
+              "",
+              "numsx",
+              "numsy",
+              ""};
     }
     std::vector<std::string> tried;
     for (const std::string& name : file_.names("")) {
@@ -83,24 +91,27 @@ class Hdf5Scan : public Scan {
       const std::string data = name + "/EBSD/Data/";
       const std::string header = name + "/EBSD/Header";
       if (file_.holds(data + "patterns")) {
-        return {"kikuchipy h5ebsd", data + "patterns", header, "n_columns", "n_rows", "step_x", "step_y",
-                "pattern_width", "pattern_height", "static_background"};
+        return {"kikuchipy h5ebsd", data + "patterns", header,          "n_columns",      "n_rows",
+                "step_x",           "step_y",          "pattern_width", "pattern_height", "static_background"};
       }
       if (file_.holds(data + "Pattern")) {
-        return {"EDAX HDF5", data + "Pattern", header, "nColumns", "nRows", "Step X", "Step Y", "Pattern Width",
-                "Pattern Height", ""};
+        return {"EDAX HDF5", data + "Pattern", header,          "nColumns",       "nRows",
+                "Step X",    "Step Y",         "Pattern Width", "Pattern Height", ""};
       }
       if (file_.holds(data + "RawPatterns")) {
-        return {"Bruker HDF5", data + "RawPatterns", header, "NCOLS", "NROWS", "XSTEP", "YSTEP", "PatternWidth",
-                "PatternHeight", "StaticBackground"};
+        return {"Bruker HDF5", data + "RawPatterns", header,          "NCOLS",           "NROWS", "XSTEP",
+                "YSTEP",       "PatternWidth",       "PatternHeight", "StaticBackground"};
       }
       const bool processed = file_.holds(data + "Processed Patterns");
       const bool raw = file_.holds(data + "Unprocessed Patterns");
       if (processed || raw) {
         const bool take_raw = raw && (settings.raw || !processed);
         const std::string kind = take_raw ? "Unprocessed " : "Processed ";
-        return {"Oxford .h5oina", data + kind + "Patterns", header, "X Cells", "Y Cells", "X Step", "Y Step",
-                "Pattern Width", "Pattern Height", kind + "Static Background"};
+        return {"Oxford .h5oina", data + kind + "Patterns",
+                header,           "X Cells",
+                "Y Cells",        "X Step",
+                "Y Step",         "Pattern Width",
+                "Pattern Height", kind + "Static Background"};
       }
       tried.push_back('"' + name + '"');
     }
@@ -161,9 +172,8 @@ class Hdf5Scan : public Scan {
     if (!(grid.step_x > 0) || !std::isfinite(grid.step_x)) grid.step_x = 1;
     if (!(grid.step_y > 0) || !std::isfinite(grid.step_y)) grid.step_y = grid.step_x;
     if (grid.points() != header_.points) {
-      header_.remarks.push_back("the header tells " + std::to_string(grid.columns) + " x " +
-                                std::to_string(grid.rows) + " points, the file holds " +
-                                std::to_string(header_.points) + " patterns");
+      header_.remarks.push_back("the header tells " + std::to_string(grid.columns) + " x " + std::to_string(grid.rows) +
+                                " points, the file holds " + std::to_string(header_.points) + " patterns");
       said_ = grid;
       return;
     }
@@ -285,7 +295,8 @@ class Hdf5Scan : public Scan {
     const auto distance = header_number("L");
     if (x && y && distance && *distance > 0) {
       header_.centres = {{{*x, *y, *distance}, CentreConvention::Emsoft}};
-      header_.remarks.emplace_back("the centre is taken as EMsoft 5 writes it; earlier versions reverse its first number");
+      header_.remarks.emplace_back(
+          "the centre is taken as EMsoft 5 writes it; earlier versions reverse its first number");
     }
   }
 

@@ -50,8 +50,8 @@ std::size_t filter_lzf(unsigned flags, std::size_t parameters, const unsigned* v
   if (size == 0 || size > most) return 0;
   void* unpacked = std::malloc(size);  // HDF5 frees it
   if (unpacked == nullptr) return 0;
-  const auto written = unpack_lzf({static_cast<const std::byte*>(*block), bytes},
-                                  {static_cast<std::byte*>(unpacked), size});
+  const auto written =
+      unpack_lzf({static_cast<const std::byte*>(*block), bytes}, {static_cast<std::byte*>(unpacked), size});
   if (!written) {
     std::free(unpacked);
     return 0;

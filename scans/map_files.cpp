@@ -18,8 +18,8 @@ constexpr double turn_deg = 360;
 
 std::string fixed(double value, int decimals) {
   std::array<char, 64> text{};
-  const auto [end, error] = std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed,
-                                          decimals);
+  const auto [end, error] =
+      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals);
   return error == std::errc() ? std::string(text.data(), end) : "0";
 }
 
@@ -44,7 +44,8 @@ constexpr std::array<LaueClass, 11> classes{{{"-1", 1, 1},
                                              {"m-3m", 43, 11}}};
 
 const LaueClass& laue(const std::string& name) {
-  const auto found = std::find_if(classes.begin(), classes.end(), [&name](const LaueClass& c) { return c.name == name; });
+  const auto found =
+      std::find_if(classes.begin(), classes.end(), [&name](const LaueClass& c) { return c.name == name; });
   return found == classes.end() ? classes.front() : *found;
 }
 
@@ -145,8 +146,8 @@ std::string ctf_text(const MapResult& map) {
                      fixed(map.grid.step_x, 4) + "\nYStep\t" + fixed(map.grid.step_y, 4) +
                      "\nAcqE1\t0\nAcqE2\t0\nAcqE3\t0\n"
                      "Euler angles refer to Sample Coordinate system (CS0)!\tMag\t0\tCoverage\t100\tDevice\t0\tKV\t" +
-                     fixed(map.kilovolt, 4) + "\tTiltAngle\t" + fixed(map.sample_tilt_deg, 4) + "\tTiltAxis\t0\nPhases\t" +
-                     std::to_string(map.phases.size()) + '\n';
+                     fixed(map.kilovolt, 4) + "\tTiltAngle\t" + fixed(map.sample_tilt_deg, 4) +
+                     "\tTiltAxis\t0\nPhases\t" + std::to_string(map.phases.size()) + '\n';
   for (const auto& phase : map.phases) {
     const auto& cell = phase.cell;
     text += fixed(cell.a, 3) + ';' + fixed(cell.b, 3) + ';' + fixed(cell.c, 3) + '\t' + fixed(cell.alpha, 3) + ';' +
@@ -167,8 +168,8 @@ std::string ctf_text(const MapResult& map) {
             std::to_string(indexed ? int{point.bands} : 0) + '\t' + std::to_string(error);
     for (const double angle : angles) text += '\t' + fixed(angle, 4);
     const long contrast = std::lround(static_cast<double>(point.quality) * most_contrast);
-    text += '\t' + fixed(indexed ? static_cast<double>(point.fit_deg) : 0, 4) + '\t' + std::to_string(contrast) +
-            "\t0\n";
+    text +=
+        '\t' + fixed(indexed ? static_cast<double>(point.fit_deg) : 0, 4) + '\t' + std::to_string(contrast) + "\t0\n";
   }
   return text;
 }
@@ -201,7 +202,8 @@ bool ends_with_any(const std::string& path, std::initializer_list<std::string_vi
 }  // namespace
 
 void check_map_path(const std::string& path) {
-  if (std::any_of(endings.begin(), endings.end(), [&path](std::string_view one) { return path.ends_with(one); })) return;
+  if (std::any_of(endings.begin(), endings.end(), [&path](std::string_view one) { return path.ends_with(one); }))
+    return;
   throw RunFailure(path + ": its ending is none of .ang, .ctf, .csv, .h5, .oh5");
 }
 

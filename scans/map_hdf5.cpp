@@ -1,4 +1,5 @@
-// Maps as HDF5: EDAX's layout under "Scan 1/EBSD/Data" and "Header", and the crystal map of kikuchipy and orix beside it.
+// Maps as HDF5: EDAX's layout under "Scan 1/EBSD/Data" and "Header", and the crystal map of kikuchipy and orix beside
+// it.
 #include <hdf5.h>
 
 #include <array>
@@ -94,13 +95,19 @@ void write_edax(Hdf5Writer& out, const MapResult& map) {
   }
   const bool several = map.phases.size() > 1;
   out.array(data + "IQ", column_of<float>(map, [](const auto& p, std::size_t) { return p.quality * 1000; }));
-  out.array(data + "CI", column_of<float>(map, [](const auto& p, std::size_t) { return p.phase > 0 ? p.confidence : -1; }));
-  out.array(data + "Fit", column_of<float>(map, [](const auto& p, std::size_t) { return p.phase > 0 ? p.fit_deg : 180; }));
-  out.array(data + "Phase", column_of<std::int8_t>(map, [several](const auto& p, std::size_t) { return several ? p.phase : 0; }));
-  out.array(data + "Valid", column_of<std::int8_t>(map, [](const auto& p, std::size_t) { return p.missing == 0 ? 1 : 0; }));
+  out.array(data + "CI",
+            column_of<float>(map, [](const auto& p, std::size_t) { return p.phase > 0 ? p.confidence : -1; }));
+  out.array(data + "Fit",
+            column_of<float>(map, [](const auto& p, std::size_t) { return p.phase > 0 ? p.fit_deg : 180; }));
+  out.array(data + "Phase",
+            column_of<std::int8_t>(map, [several](const auto& p, std::size_t) { return several ? p.phase : 0; }));
+  out.array(data + "Valid",
+            column_of<std::int8_t>(map, [](const auto& p, std::size_t) { return p.missing == 0 ? 1 : 0; }));
   out.array(data + "SEM Signal", column_of<std::int32_t>(map, [](const auto&, std::size_t) { return 0; }));
-  out.array(data + "X Position", column_of<float>(map, [&map](const auto&, std::size_t i) { return position(map, i, true); }));
-  out.array(data + "Y Position", column_of<float>(map, [&map](const auto&, std::size_t i) { return position(map, i, false); }));
+  out.array(data + "X Position",
+            column_of<float>(map, [&map](const auto&, std::size_t i) { return position(map, i, true); }));
+  out.array(data + "Y Position",
+            column_of<float>(map, [&map](const auto&, std::size_t i) { return position(map, i, false); }));
   const std::string header = "Scan 1/EBSD/Header/";
   out.single<std::int32_t>(header + "nColumns", map.grid.columns);
   out.single<std::int32_t>(header + "nRows", map.grid.rows);
@@ -124,8 +131,12 @@ void write_edax(Hdf5Writer& out, const MapResult& map) {
     out.text(place + "Laue Group", phase.laue_class);
     out.single<std::int32_t>(place + "SpaceGroupNumber", phase.space_group);
     const auto& cell = phase.cell;
-    for (const auto& [name, value] :
-         {std::pair("a", cell.a), {"b", cell.b}, {"c", cell.c}, {"alpha", cell.alpha}, {"beta", cell.beta}, {"gamma", cell.gamma}}) {
+    for (const auto& [name, value] : {std::pair("a", cell.a),
+                                      {"b", cell.b},
+                                      {"c", cell.c},
+                                      {"alpha", cell.alpha},
+                                      {"beta", cell.beta},
+                                      {"gamma", cell.gamma}}) {
       out.single(place + "Lattice Constant " + name, static_cast<float>(value));
     }
   }
@@ -135,12 +146,15 @@ void write_crystal_map(Hdf5Writer& out, const MapResult& map) {
   const std::string place = "Scan 1/EBSD/CrystalMap/crystal_map/";
   constexpr std::array<const char*, 3> angles{"phi1", "Phi", "phi2"};
   for (std::size_t k = 0; k < 3; ++k) {
-    out.array(place + "data/" + angles[k], column_of<double>(map, [k](const auto& p, std::size_t) { return p.bunge_rad[k]; }));
+    out.array(place + "data/" + angles[k],
+              column_of<double>(map, [k](const auto& p, std::size_t) { return p.bunge_rad[k]; }));
   }
   out.array(place + "data/phase_id",
             column_of<std::int32_t>(map, [](const auto& p, std::size_t) { return p.phase > 0 ? p.phase - 1 : -1; }));
-  out.array(place + "data/x", column_of<double>(map, [&map](const auto&, std::size_t i) { return position(map, i, true); }));
-  out.array(place + "data/y", column_of<double>(map, [&map](const auto&, std::size_t i) { return position(map, i, false); }));
+  out.array(place + "data/x",
+            column_of<double>(map, [&map](const auto&, std::size_t i) { return position(map, i, true); }));
+  out.array(place + "data/y",
+            column_of<double>(map, [&map](const auto&, std::size_t i) { return position(map, i, false); }));
   out.array(place + "data/id", column_of<std::int32_t>(map, [](const auto&, std::size_t i) { return i; }));
   out.array(place + "data/is_in_data", column_of<std::uint8_t>(map, [](const auto&, std::size_t) { return 1; }));
   out.array(place + "data/scores", column_of<double>(map, [](const auto& p, std::size_t) { return p.confidence; }));

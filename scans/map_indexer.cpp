@@ -13,7 +13,8 @@ namespace {
 
 constexpr int tile_columns = 32;
 constexpr int tile_rows = 8;
-/// What the neighbour's orientation has to reach of the neighbour's correlation to be taken without a look at the bands.
+/// What the neighbour's orientation has to reach of the neighbour's correlation to be taken without a look at the
+/// bands.
 constexpr double as_good = 0.85;
 /// Spread of a picture in steps of its grey values below which it shows nothing but their rounding, 0.29.
 constexpr double least_contrast = 0.5;
@@ -74,8 +75,8 @@ MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std
   }
   for (int row = top; row < top + height; row += tile_rows) {
     for (int column = left; column < left + width; column += tile_columns) {
-      tiles_.push_back({column, row, std::min(tile_columns, left + width - column),
-                        std::min(tile_rows, top + height - row)});
+      tiles_.push_back(
+          {column, row, std::min(tile_columns, left + width - column), std::min(tile_rows, top + height - row)});
     }
   }
 }
@@ -263,8 +264,7 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
     for (const IndexSolution& solution : indexer.index_taken(centre, models_, settings_.index, task)) {
       if (on_picture && solution.correlation <= best.correlation) continue;
       if (!on_picture && best.model != nullptr) break;  // they stand in order
-      best = {solution.model, solution.crystal_from_picture,
-              on_picture ? solution.correlation : solution.confidence};
+      best = {solution.model, solution.crystal_from_picture, on_picture ? solution.correlation : solution.confidence};
       bands = solution.matched;
       fit_deg = solution.mean_deviation_deg;
       best_fit = {};

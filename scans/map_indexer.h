@@ -1,8 +1,8 @@
 // All patterns of a scan to orientations.
 //
 // The map is cut into tiles, which are worked on one by one in any order and by any number of threads; what is found
-// depends on the tile alone. Within a tile the orientation of the neighbour before is tried first: where it fits as well
-// as it did there, bands need not be looked for. Where it does not, as at a boundary, bands and votes give more
+// depends on the tile alone. Within a tile the orientation of the neighbour before is tried first: where it fits as
+// well as it did there, bands need not be looked for. Where it does not, as at a boundary, bands and votes give more
 // orientations, all are fitted, and the best stays.
 #pragma once
 
@@ -27,11 +27,11 @@ struct MapSettings {
   Refinement refinement = Refinement::pattern;
   Background background = Background::automatic;
   Averaging averaging = Averaging::likeness;
-  double own_share = 0.34;       ///< that the middle point keeps of itself when it is averaged by likeness
-  double least_confidence = 0.1; ///< below it a point counts as not indexed
+  double own_share = 0.34;        ///< that the middle point keeps of itself when it is averaged by likeness
+  double least_confidence = 0.1;  ///< below it a point counts as not indexed
   double most_fit_deg = 3;
-  bool flip = false;             ///< patterns stand upside down in the file
-  std::array<int, 4> region{};   ///< x, y, width, height of the part of the map that is indexed; all 0: the whole
+  bool flip = false;            ///< patterns stand upside down in the file
+  std::array<int, 4> region{};  ///< x, y, width, height of the part of the map that is indexed; all 0: the whole
 };
 
 /// A part of the map that is worked on at once.

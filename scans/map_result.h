@@ -15,11 +15,11 @@ namespace zol {
 struct PointResult {
   std::array<float, 3> bunge_rad{};  ///< sample to crystal, axes as detector.h has them
   float quality = 0;                 ///< of the picture: 0 noise, 1 smooth; 0 where there is none
-  float confidence = 0;              ///< correlation with the computed picture, or lead in votes where it was not fitted
-  float fit_deg = 0;                 ///< mean deviation of the bands, or the error of the fit on the picture
-  std::int8_t phase = 0;             ///< 1 the first crystal; 0 not indexed
-  std::uint8_t bands = 0;            ///< that agree; 0 where they were not looked for
-  std::uint8_t missing = 0;          ///< 1: there was no pattern
+  float confidence = 0;      ///< correlation with the computed picture, or lead in votes where it was not fitted
+  float fit_deg = 0;         ///< mean deviation of the bands, or the error of the fit on the picture
+  std::int8_t phase = 0;     ///< 1 the first crystal; 0 not indexed
+  std::uint8_t bands = 0;    ///< that agree; 0 where they were not looked for
+  std::uint8_t missing = 0;  ///< 1: there was no pattern
   std::uint8_t reserved = 0;
 
   bool operator==(const PointResult&) const = default;

@@ -70,7 +70,8 @@ class PartFile {
     const std::string bytes = read_file(path_, most);
     if (bytes.size() < head.size()) return 0;
     if (!std::string_view(bytes).starts_with(head)) {
-      throw RunFailure(path_ + " is that of a run with other settings or another scan; remove it, or run without resume");
+      throw RunFailure(path_ +
+                       " is that of a run with other settings or another scan; remove it, or run without resume");
     }
     std::size_t at = head.size();
     while (bytes.size() - at >= sizeof(Record)) {

@@ -71,9 +71,10 @@ class Nordif : public Scan {
     header_.height = (*size)[1];
     header_.kilovolt = leading_number(find("Microscope/Accelerating voltage"));
     header_.sample_tilt_deg = leading_number(find("Microscope/Tilt angle"));
-    if (const auto elevation = leading_number(find("Detector angles/Elevation"))) header_.detector_tilt_deg = -*elevation;
-    const std::uint64_t pixels = std::uint64_t{1} * static_cast<unsigned>(header_.width) *
-                                 static_cast<unsigned>(header_.height);
+    if (const auto elevation = leading_number(find("Detector angles/Elevation")))
+      header_.detector_tilt_deg = -*elevation;
+    const std::uint64_t pixels =
+        std::uint64_t{1} * static_cast<unsigned>(header_.width) * static_cast<unsigned>(header_.height);
     const std::uint64_t held = (file_.size() + pixels - 1) / pixels;
     header_.points = held;
     if (const auto samples = pair_of(find("Area/Number of samples"))) {  // rows x columns

@@ -36,8 +36,8 @@ void check_pattern_size(std::int64_t width, std::int64_t height, const std::stri
 std::unique_ptr<Scan> open_scan(const std::string& path, const OpenScanSettings& settings) {
   std::error_code error;
   if (fs::is_directory(path, error)) {
-    const bool nordif = fs::exists(fs::path(path) / "Pattern.dat", error) &&
-                        fs::exists(fs::path(path) / "Setting.txt", error);
+    const bool nordif =
+        fs::exists(fs::path(path) / "Pattern.dat", error) && fs::exists(fs::path(path) / "Setting.txt", error);
     return nordif ? open_nordif(path, settings) : open_picture_folder(path, settings);
   }
   if (is_hdf5(path)) return open_hdf5_scan(path, settings);
@@ -45,8 +45,9 @@ std::unique_ptr<Scan> open_scan(const std::string& path, const OpenScanSettings&
   if (ending == ".up1" || ending == ".up2") return open_edax_up(path, settings);
   if (ending == ".ebsp" || ending == ".uebsp") return open_oxford_ebsp(path, settings);
   if (ending == ".dat" || fs::path(path).filename() == "Setting.txt") return open_nordif(path, settings);
-  throw RunFailure(path + " is no scan that is known: expected is HDF5 (.h5, .oh5, .h5oina), .up1, .up2, .ebsp, "
-                          "NORDIF's Pattern.dat or a folder of pictures");
+  throw RunFailure(path +
+                   " is no scan that is known: expected is HDF5 (.h5, .oh5, .h5oina), .up1, .up2, .ebsp, "
+                   "NORDIF's Pattern.dat or a folder of pictures");
 }
 
 }  // namespace zol

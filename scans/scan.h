@@ -55,9 +55,9 @@ struct ScanHeader {
 /// A run of patterns. Its storage is used again.
 struct PatternBlock {
   std::size_t first = 0, count = 0;
-  std::size_t pixels = 0;      ///< of a pattern
-  std::vector<float> values;   ///< pattern by pattern
-  std::vector<char> present;   ///< of each, 0 where it is missing or damaged; its values are 0
+  std::size_t pixels = 0;     ///< of a pattern
+  std::vector<float> values;  ///< pattern by pattern
+  std::vector<char> present;  ///< of each, 0 where it is missing or damaged; its values are 0
 
   void begin(std::size_t first_point, std::size_t points, std::size_t pixels_of_each);
   [[nodiscard]] std::span<float> pattern(std::size_t i) { return std::span(values).subspan(i * pixels, pixels); }

@@ -128,11 +128,11 @@ class Canvas : public Control {
   // What a view shows beside the picture
   std::optional<Axis> x_axis, y_axis;                             ///< rulers, where the picture is a curve
   std::function<std::string(double x, double y)> describe_place;  ///< the place under the pointer, in user coordinates
-  std::shared_ptr<const CurveOffer> curve;                        ///< what may be laid beside the curve, where it is one
-  std::string hint;                                               ///< what to do, as long as the picture is empty
-  std::optional<PictureGeometry> geometry;                        ///< where places can be measured
-  std::unique_ptr<PictureDrag> drag;                              ///< where a drag tilts and turns
-  const ListBox* rows = nullptr;                                  ///< whose rows the marks name
+  std::shared_ptr<const CurveOffer> curve;         ///< what may be laid beside the curve, where it is one
+  std::string hint;                                ///< what to do, as long as the picture is empty
+  std::optional<PictureGeometry> geometry;         ///< where places can be measured
+  std::unique_ptr<PictureDrag> drag;               ///< where a drag tilts and turns
+  const ListBox* rows = nullptr;                   ///< whose rows the marks name
   std::function<PictureMarks(int row)> row_marks;  ///< what a row of that list looks like over the picture
   std::vector<PictureAction> actions;
   bool loupe = false;  ///< while a line is drawn

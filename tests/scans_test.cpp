@@ -1,0 +1,395 @@
+#include <gtest/gtest.h>
+#include <hdf5.h>
+
+#include <algorithm>
+#include <cmath>
+#include <cstring>
+#include <memory>
+#include <numbers>
+#include <string>
+#include <vector>
+
+#include "scans/lzf.h"
+#include "scans/map_files.h"
+#include "scans/map_run.h"
+#include "scans/readers.h"
+#include "tests/test_files.h"
+
+namespace zol {
+namespace {
+
+constexpr int columns = 3, rows = 2, width = 5, height = 4, pixels = width * height;
+QuietTask quiet;
+
+template <class Value>
+std::string bytes(Value value) {
+  return {reinterpret_cast<const char*>(&value), sizeof value};
+}
+
+/// Pixel p of point k is 10 k + p, so that each place in a file is known again.
+template <class Pixel = std::uint8_t>
+std::string pattern(int point) {
+  std::string text;
+  for (int p = 0; p < pixels; ++p) text += bytes(static_cast<Pixel>(10 * point + p));
+  return text;
+}
+template <class Pixel = std::uint8_t>
+std::string patterns() {
+  std::string text;
+  for (int point = 0; point < columns * rows; ++point) text += pattern<Pixel>(point);
+  return text;
+}
+
+std::string up(std::uint32_t version, const std::string& pixels_of_all) {
+  std::string text = bytes(version) + bytes(std::uint32_t{width}) + bytes(std::uint32_t{height});
+  if (version < 2) return text + bytes(std::uint32_t{16}) + pixels_of_all;
+  return text + bytes(std::uint32_t{42}) + std::string(1, '\0') + bytes(std::uint32_t{columns}) +
+         bytes(std::uint32_t{rows}) + std::string(1, '\0') + bytes(1.5) + bytes(2.5) + pixels_of_all;
+}
+
+/// Patterns stand the last first, beams where the points are; point 4 was not stored.
+std::string ebsp(int version) {
+  std::string text = version > 0 ? bytes(-std::int64_t{version}) : "";
+  if (version >= 4) text += '\0';
+  std::size_t at = text.size() + 8 * columns * rows;
+  std::vector<std::string> parts(columns * rows);
+  std::vector<std::int64_t> places(columns * rows);
+  for (int point = columns * rows - 1; point >= 0; --point) {
+    if (point == 4) continue;
+    std::string& part = parts[static_cast<std::size_t>(point)];
+    if (version >= 5) part += bytes(std::int32_t{point % columns}) + bytes(std::int32_t{point / columns});
+    part += bytes(std::int32_t{0}) + bytes(std::int32_t{height}) + bytes(std::int32_t{width}) +
+            bytes(std::int32_t{pixels}) + pattern(point);
+    const std::string flag = version >= 2 ? std::string(1, '\1') : "";
+    if (version > 0) part += flag + bytes(1.5 * (point % columns)) + flag + bytes(-2.5 * (point / columns));
+    places[static_cast<std::size_t>(point)] = static_cast<std::int64_t>(at);
+    at += part.size();
+  }
+  for (const auto place : places) text += bytes(place);
+  for (auto part = parts.rbegin(); part != parts.rend(); ++part) text += *part;
+  return text;
+}
+
+/// Writes arrays at paths.
+struct Hdf5Maker {
+  explicit Hdf5Maker(const std::string& path)
+      : file(H5Fcreate(path.c_str(), H5F_ACC_TRUNC, H5P_DEFAULT, H5P_DEFAULT)), links(H5Pcreate(H5P_LINK_CREATE)) {
+    H5Pset_create_intermediate_group(links, 1);
+  }
+  Hdf5Maker(const Hdf5Maker&) = delete;
+  Hdf5Maker& operator=(const Hdf5Maker&) = delete;
+  ~Hdf5Maker() {
+    H5Pclose(links);
+    H5Fclose(file);
+  }
+  void put(const std::string& path, hid_t type, std::vector<hsize_t> sides, const void* values) const {
+    const hid_t space = H5Screate_simple(static_cast<int>(sides.size()), sides.data(), nullptr);
+    const hid_t set = H5Dcreate2(file, path.c_str(), type, space, links, H5P_DEFAULT, H5P_DEFAULT);
+    H5Dwrite(set, type, H5S_ALL, H5S_ALL, H5P_DEFAULT, values);
+    H5Dclose(set);
+    H5Sclose(space);
+  }
+  void number(const std::string& path, double value) const { put(path, H5T_NATIVE_DOUBLE, {1}, &value); }
+  void numbers(const std::string& path, const std::vector<int>& values) const {
+    put(path, H5T_NATIVE_INT, {values.size()}, values.data());
+  }
+  hid_t file, links;
+};
+
+const std::string all_patterns = patterns();
+
+void make_kikuchipy(const std::string& path) {
+  const Hdf5Maker out(path);
+  out.put("Scan 1/EBSD/Data/patterns", H5T_NATIVE_UINT8, {columns * rows, height, width}, all_patterns.data());
+  const std::string header = "Scan 1/EBSD/Header/";
+  for (const auto& [name, value] : {std::pair{"n_columns", 1.0 * columns},
+                                    {"n_rows", 1.0 * rows},
+                                    {"step_x", 1.5},
+                                    {"step_y", 2.5},
+                                    {"sample_tilt", 71.0},
+                                    {"pcx", .4},
+                                    {"pcy", .3},
+                                    {"pcz", .5}}) {
+    out.number(header + name, value);
+  }
+}
+
+/// The last point first, with its column and row beside it.
+void make_bruker(const std::string& path) {
+  const Hdf5Maker out(path);
+  std::string turned;
+  std::vector<int> x;
+  std::vector<int> y;
+  for (int point = columns * rows - 1; point >= 0; --point) {
+    turned += pattern(point);
+    x.push_back(7 + point % columns);
+    y.push_back(9 + point / columns);
+  }
+  out.put("Area/EBSD/Data/RawPatterns", H5T_NATIVE_UINT8, {columns * rows, height, width}, turned.data());
+  out.number("Area/EBSD/Header/NCOLS", columns);
+  out.number("Area/EBSD/Header/NROWS", rows);
+  out.number("Area/EBSD/Header/XSTEP", 1.5);
+  out.number("Area/EBSD/Header/YSTEP", 2.5);
+  out.numbers("Area/EBSD/SEM/IX", x);
+  out.numbers("Area/EBSD/SEM/IY", y);
+}
+
+void make_edax(const std::string& path) {
+  const Hdf5Maker out(path);
+  out.put(" Scan 1/EBSD/Data/Pattern", H5T_NATIVE_UINT8, {columns * rows, height, width}, all_patterns.data());
+  out.number(" Scan 1/EBSD/Header/ nColumns", columns);
+  out.number(" Scan 1/EBSD/Header/nRows", rows);
+  out.number(" Scan 1/EBSD/Header/Step X", 1.5);
+  out.number(" Scan 1/EBSD/Header/Step Y", 2.5);
+}
+
+GreyImage fake_image(const std::string& path) {
+  GreyImage image{width, height, 8, {}};
+  const int point = path[path.size() - 7] - '0' + columns * (path[path.size() - 5] - '0') - 2;  // "..x2y0.png"
+  for (const char p : pattern(point)) image.values.push_back(static_cast<float>(static_cast<unsigned char>(p)));
+  return image;
+}
+
+// Each format holds the same six patterns; they come out in map order, with the grid where the file tells it.
+TEST(Scans, OfAllMakersGiveTheirPatternsInMapOrder) {
+  const ScratchFolder folder;
+  for (const auto* make : {"kikuchipy", "bruker", "edax"}) {
+    const std::string path = folder.path(std::string(make) + ".h5");
+    (make[0] == 'k' ? make_kikuchipy : make[0] == 'b' ? make_bruker : make_edax)(path);
+  }
+  folder.write("v1.up1", up(1, all_patterns));
+  folder.write("v3.up1", up(3, all_patterns));
+  folder.write("v3.up2", up(3, patterns<std::uint16_t>()));
+  for (const int version : {0, 1, 2, 4, 5}) folder.write("v" + std::to_string(version) + ".ebsp", ebsp(version));
+  folder.write("nordif/Pattern.dat", all_patterns);
+  folder.write("nordif/Setting.txt",
+               "[Acquisition settings]\nResolution\t5x4\tpx\n[Area]\nStep size\t1.5\tum\nNumber of samples\t2x3\t#\n");
+  for (int point = 0; point < columns * rows; ++point) {
+    folder.write("pictures/a_x" + std::to_string(2 + point % columns) + "y" + std::to_string(point / columns) + ".png",
+                 "");
+  }
+  struct Row {
+    const char* name;
+    bool tells_size, tells_steps, lacks_4;
+  };
+  for (const auto& [name, tells_size, tells_steps, lacks_4] :
+       {Row{"kikuchipy.h5", true, true, false}, Row{"bruker.h5", true, true, false}, Row{"edax.h5", true, true, false},
+        Row{"v1.up1", false, false, false}, Row{"v3.up1", true, true, false}, Row{"v3.up2", true, true, false},
+        Row{"v0.ebsp", false, false, true}, Row{"v1.ebsp", true, true, true}, Row{"v2.ebsp", true, true, true},
+        Row{"v4.ebsp", true, true, true}, Row{"v5.ebsp", true, true, true}, Row{"nordif", true, false, false},
+        Row{"pictures", true, false, false}}) {
+    SCOPED_TRACE(name);
+    OpenScanSettings settings;
+    settings.read_image = fake_image;
+    if (!tells_size) settings.size = {columns, rows};
+    const auto scan = open_scan(folder.path(name), settings);
+    const ScanHeader& header = scan->header();
+    ASSERT_TRUE(header.grid.has_value());
+    EXPECT_EQ(header.grid->columns, columns);
+    EXPECT_EQ(header.grid->rows, rows);
+    if (tells_steps) {
+      EXPECT_EQ(header.grid->step_x, 1.5);
+      EXPECT_EQ(header.grid->step_y, 2.5);
+    }
+    PatternBlock block;
+    scan->read(1, 4, block);
+    for (int i = 0; i < 4; ++i) {
+      const bool there = !lacks_4 || i + 1 != 4;
+      const auto k = static_cast<std::size_t>(i);
+      ASSERT_EQ(block.present[k] != 0, there);
+      EXPECT_EQ(block.pattern(k)[7], there ? 10.0F * static_cast<float>(i + 1) + 7 : 0);
+    }
+  }
+}
+
+TEST(Scans, ThatAreWrongAreRefusedWithTheReason) {
+  const ScratchFolder folder;
+  std::string far = ebsp(2);
+  far.replace(8, 8, bytes(std::int64_t{1} << 40U));
+  { const Hdf5Maker empty(folder.path("empty.h5")); }
+  struct Row {
+    std::string file, words;
+    std::optional<std::array<int, 2>> size;
+  };
+  for (const auto& [file, words, size] :
+       {Row{folder.write("short.up1", up(3, "").substr(0, 10)), "ends before byte 8", {}},
+        Row{folder.write("none.up1", up(1, "")), "no whole pattern", {}},
+        Row{folder.write("wide.up1", bytes(1U) + bytes(1U << 20U) + bytes(4U) + bytes(16U)), "1048576 x 4 pixels", {}},
+        Row{folder.write("size.up1", up(1, all_patterns)), "6 patterns, which is not 4 x 2", std::array{4, 2}},
+        Row{folder.write("far.ebsp", far), "outside the file", {}},
+        Row{folder.path("empty.h5"), "holds no patterns", {}},
+        Row{folder.write("a.txt", "text"), "no scan that is known", {}},
+        Row{folder.path("gone.up1"), "can't open", {}}}) {
+    EXPECT_TRUE(fails_with(words, [&] { (void)open_scan(file, {size, "", false, {}}); })) << file;
+  }
+}
+
+// The first by hand: two literal bytes, then a copy of five from two before.
+TEST(Lzf, UnpacksRunsAndCopiesAndNothingBeyondItsPlace) {
+  const auto unpacked = [](std::vector<unsigned char> packed, std::size_t room) -> std::string {
+    std::vector<std::byte> out(room);
+    const auto size = unpack_lzf(std::as_bytes(std::span(packed)), out);
+    return size ? std::string(reinterpret_cast<const char*>(out.data()), *size) : "damaged";
+  };
+  EXPECT_EQ(unpacked({1, 'a', 'b', 3U << 5U, 1}, 7), "abababa");
+  EXPECT_EQ(unpacked({0, 'x', 7U << 5U, 3, 0}, 20), std::string(13, 'x')) << "a long copy tells its length";
+  EXPECT_EQ(unpacked({1, 'a', 'b', 3U << 5U, 1}, 6), "damaged");
+  EXPECT_EQ(unpacked({1, 'a'}, 9), "damaged");
+  EXPECT_EQ(unpacked({0, 'a', 3U << 5U, 1}, 9), "damaged") << "from before the start";
+}
+
+TEST(ScanGrid, ShortRowsOfHexagonalGridsAreCounted) {
+  const ScanGrid grid{3, 3, 1, 1, true, true};
+  EXPECT_EQ(grid.points(), 8U);
+  for (std::size_t point = 0; point < grid.points(); ++point) {
+    const auto [column, row] = grid.place(point);
+    EXPECT_EQ(grid.point(column, row), point);
+  }
+  EXPECT_FALSE(grid.point(2, 1));
+}
+
+// The centre moves right with the beam, and down the slope down the screen and towards it: a = 90 - 70 + 5 degrees.
+TEST(MapCentres, DriftWithTheBeam) {
+  MapGeometry geometry;
+  geometry.detector_tilt_deg = 5;
+  geometry.screen_width_micrometre = 1000;
+  const MapCentres centres({.5, .3, .6}, geometry, {3, 3, 10, 20});
+  const auto corner = centres.at(8);
+  EXPECT_NEAR(corner.x, .51, 1e-12);
+  EXPECT_NEAR(corner.y, .3 + .02 * std::cos(25 * std::numbers::pi / 180), 1e-12);
+  EXPECT_NEAR(corner.z, .6 - .02 * std::sin(25 * std::numbers::pi / 180), 1e-12);
+  EXPECT_EQ(centres.at(4).x, .5);
+}
+
+/// Face-centred cubic, of signed permutations.
+const CrystalModel& metal() {
+  static const CrystalModel model = [] {
+    const Lattice lattice({3.52, 3.52, 3.52, 90, 90, 90});
+    std::vector<std::array<std::array<double, 3>, 3>> group;
+    std::array<std::size_t, 3> order{0, 1, 2};
+    do {
+      for (unsigned signs = 0; signs < 8; ++signs) {
+        auto& op = group.emplace_back();
+        for (std::size_t i = 0; i < 3; ++i) op[i][order[i]] = (signs >> i & 1U) != 0 ? -1 : 1;
+      }
+    } while (std::next_permutation(order.begin(), order.end()));
+    std::vector<ListedReflection> list;
+    for (int n = 0; n < 11 * 11 * 11 / 2; ++n) {
+      const std::array<int, 3> hkl{n / 121 - 5, n / 11 % 11 - 5, n % 11 - 5};
+      const bool odd = hkl[0] % 2 != 0;
+      if ((hkl[1] % 2 != 0) != odd || (hkl[2] % 2 != 0) != odd) continue;
+      const double square = hkl[0] * hkl[0] + hkl[1] * hkl[1] + hkl[2] * hkl[2];
+      list.push_back({hkl, std::exp(-square / 8)});
+    }
+    const auto rotations = proper_rotations(lattice, group);
+    auto set = make_reflectors(lattice, rotations, list, 0.0859, quiet);
+    auto families = voting_families(set, 6);
+    auto sphere = std::make_shared<const KinematicSphere>(set, 401, StripShape{}, quiet);
+    return make_crystal_model("metal", std::move(set), std::move(families), std::move(sphere), quiet);
+  }();
+  return model;
+}
+
+/// Two grains beside each other, and a point without a pattern, drawn by the program's own projection.
+class TwoGrains : public Scan {
+ public:
+  static constexpr int side = 48, across = 6, down = 4;
+  TwoGrains() {
+    header_.width = header_.height = side;
+    header_.points = across * down;
+    header_.grid = ScanGrid{across, down};
+  }
+  static Rotation truth(std::size_t point) {
+    return rotation_of_bunge(point % across < 3 ? std::array{40.0, 50.0, 60.0} : std::array{200.0, 30.0, 10.0});
+  }
+  void read(std::size_t first, std::size_t count, PatternBlock& block) override {
+    block.begin(first, count, side * side);
+    for (std::size_t i = 0; i < count; ++i) {
+      if (first + i == 8) continue;
+      std::vector<float> drawn;
+      const PatternCentre turned{.5, 1 - .3, .55};
+      draw_bands(*metal().sphere, truth(first + i) * picture_from_sample(70).transpose(), {turned, side}, side, side,
+                 drawn);
+      for (int y = 0; y < side; ++y) {
+        for (int x = 0; x < side; ++x) {
+          const auto noise = static_cast<float>((x * 7919 + y * 104729 + static_cast<int>(first + i) * 31) % 17);
+          block.pattern(i)[static_cast<std::size_t>((side - 1 - y) * side + x)] =
+              100 + 20 * drawn[static_cast<std::size_t>(y * side + x)] + noise;
+        }
+      }
+      block.present[i] = 1;
+    }
+  }
+};
+
+std::vector<PointResult> indexed(const MapRun& run) {
+  TwoGrains scan;
+  const ScanGrid grid = *scan.header().grid;
+  MapIndexer indexer(scan, grid, MapCentres({.5, .3, .55}, {}, grid), {&metal()}, {});
+  indexer.prepare(quiet);
+  std::vector<PointResult> points;
+  EXPECT_TRUE(run_map(indexer, grid, run, points));
+  return points;
+}
+
+TEST(MapIndexer, FindsBothGrainsAndTheHoleWithAnyNumberOfThreadsAndAfterAStop) {
+  const ScratchFolder folder;
+  const auto points = indexed({});
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    SCOPED_TRACE(i);
+    ASSERT_EQ(points[i].missing != 0, i == 8);
+    if (i == 8) continue;
+    ASSERT_EQ(points[i].phase, 1);
+    std::array<double, 3> angles{};
+    for (std::size_t k = 0; k < 3; ++k)
+      angles[k] = static_cast<double>(points[i].bunge_rad[k]) * 180 / std::numbers::pi;
+    EXPECT_LT(misorientation_deg(rotation_of_bunge(angles), TwoGrains::truth(i), metal().reflectors.symmetry), 0.2);
+  }
+  MapRun run;
+  run.threads = 3;
+  EXPECT_EQ(indexed(run), points);
+  run.part_path = folder.path("map.part");
+  run.fingerprint = 5;
+  TwoGrains scan;
+  const ScanGrid grid = *scan.header().grid;
+  MapIndexer indexer(scan, grid, MapCentres({.5, .3, .55}, {}, grid), {&metal()}, {});
+  indexer.prepare(quiet);
+  std::vector<PointResult> part;
+  MapRun stopped = run;
+  stopped.stop = [] { return true; };
+  EXPECT_FALSE(run_map(indexer, grid, stopped, part));
+  run.resume = true;
+  EXPECT_EQ(indexed(run), points);
+  EXPECT_EQ(folder.entries(), 0U) << "what was kept goes at the end";
+  folder.write("map.part", "ZOLMAP1\n" + bytes(std::uint64_t{6}));
+  EXPECT_TRUE(fails_with("other settings", [&] { (void)run_map(indexer, grid, run, part); }));
+}
+
+// 4 pi and -1 for what is not indexed; a quarter turn and, on a hexagonal cell, 30 degrees between the two makers.
+TEST(MapFiles, HaveTheirMakersAxes) {
+  MapResult map;
+  map.grid = {2, 1, 1.5, 1.5};
+  map.phases = {{"Ti", "Ti2", {2.95, 2.95, 4.68, 90, 90, 120}, 194, laue_class_of(194), {{{0, 1, 1}, 100}}},
+                {"Ni", "Ni4", {3.52, 3.52, 3.52, 90, 90, 90}, 225, laue_class_of(225), {}}};
+  const auto radian = [](double degree) { return static_cast<float>(degree * std::numbers::pi / 180); };
+  map.points = {{{radian(100), radian(20), radian(350)}, .5F, .25F, .125F, 1, 0, 0, 0}, {}};
+  const std::string ang = ang_text(map);
+  EXPECT_LT(ang.find("# Phase 2"), ang.find("# Phase 1"));
+  EXPECT_NE(ang.find("# Symmetry              62"), std::string::npos);
+  EXPECT_NE(ang.find("  1.74533   0.34907   6.10865      0.00000      0.00000   500.0  0.250  1      1   0.125\n"),
+            std::string::npos)
+      << ang;
+  EXPECT_NE(ang.find(" 12.56637  12.56637  12.56637      1.50000      0.00000     0.0 -1.000  0      1 180.000\n"),
+            std::string::npos)
+      << ang;
+  const std::string ctf = ctf_text(map);
+  EXPECT_NE(ctf.find("1\t0.0000\t0.0000\t0\t0\t10.0000\t20.0000\t20.0000\t0.1250\t128\t0\n"), std::string::npos) << ctf;
+  EXPECT_NE(ctf.find("0\t1.5000\t0.0000\t0\t3\t0.0000\t0.0000\t0.0000\t0.0000\t0\t0\n"), std::string::npos) << ctf;
+  const ScratchFolder folder;
+  write_map(map, folder.path("a.h5"));
+  EXPECT_GT(folder.read("a.h5").size(), 1000U);
+  EXPECT_TRUE(fails_with("none of .ang", [&] { write_map(map, folder.path("a.xyz")); }));
+}
+
+}  // namespace
+}  // namespace zol
