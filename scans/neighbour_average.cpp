@@ -95,13 +95,13 @@ double LikenessAverage::difference(std::size_t i, std::size_t offset, bool forwa
   const std::size_t points = variance_.size();
   const auto across = static_cast<std::ptrdiff_t>(tile_->columns);
   const std::ptrdiff_t shift = step.down * across + step.right;
-  const std::size_t there = static_cast<std::size_t>(static_cast<std::ptrdiff_t>(i) + (forward ? shift : -shift));
+  const auto there = static_cast<std::size_t>(static_cast<std::ptrdiff_t>(i) + (forward ? shift : -shift));
   const std::size_t first = forward ? i : there;
-  const double mean = static_cast<double>(squares_[offset * points + first]);
+  const auto mean = static_cast<double>(squares_[offset * points + first]);
   if (mean < 0) return -1;
   const double noise = static_cast<double>(variance_[i]) + static_cast<double>(variance_[there]);
   if (!(noise > 0) || noise >= static_cast<double>(std::numeric_limits<float>::max())) return -1;
-  const double count = static_cast<double>(counts_[offset * points + first]);
+  const auto count = static_cast<double>(counts_[offset * points + first]);
   return std::max((mean - noise) * std::sqrt(count) / (noise * std::sqrt(2.0)), 0.0);
 }
 

@@ -6,6 +6,7 @@
 #include <functional>
 #include <iostream>
 #include <optional>
+#include <type_traits>
 
 #include <QAbstractButton>
 #include <QAction>
@@ -28,6 +29,7 @@
 
 #include "shell/desktop/canvas_view.h"
 #include "shell/desktop/desktop.h"
+#include "shell/desktop/look/folding.h"
 
 namespace zol {
 
@@ -114,7 +116,18 @@ class User {
   Widget& widget(const char* window_name, const char* name) const {
     auto* found = window(window_name).findChild<Widget*>(QString::fromLatin1(name));
     expect(found != nullptr, std::string(window_name) + " has no " + name);
+    if constexpr (std::is_base_of_v<QWidget, Widget>) open_folds_around(*found);
     return *found;
+  }
+  /// By clicks on their titles, as in a narrow window.
+  static void open_folds_around(const QWidget& wanted) {
+    for (QWidget* around = wanted.parentWidget(); around != nullptr; around = around->parentWidget()) {
+      const Fold* fold = fold_of(around);
+      if (fold == nullptr || !fold->folded()) continue;
+      QTest::mouseClick(around, Qt::LeftButton, {}, {20, 10});
+      expect(!fold->folded(), "a group does not open");
+      QApplication::processEvents();
+    }
   }
 
   void click(const char* window_name, const char* button) const {
