@@ -2,13 +2,13 @@
 include(GNUInstallDirs)
 set(CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
   OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
-install(TARGETS zol zol-script RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS zol zol-batch zol-script RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/zol)
 install(FILES packaging/zol.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/io.github.zol.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME io.github.zol.xml)
 install(FILES packaging/io.github.zol.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES shell/desktop/images/zol.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES packaging/zol.1 packaging/zol-script.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES packaging/zol.1 packaging/zol-batch.1 packaging/zol-script.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
 install(DIRECTORY docs/user-guide docs/images DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN draw EXCLUDE)

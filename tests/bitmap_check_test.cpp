@@ -49,6 +49,8 @@ TEST(Bitmaps, HaveAllTheirPixels) {
         {"picture.gif", 0, "", "a bitmap (BMP) begins with the letters BM"}}) {
     refused(seed(name).replace(at, bytes.size(), bytes), message);
   }
+  // The oldest header has 12 bytes, and sides of two; a pixel of 24 bits fills a row of 4.
+  EXPECT_NO_THROW(check_bitmap("a.bmp", "BM\x1e\0\0\0\0\0\0\0\x1a\0\0\0\xc\0\0\0\1\0\1\0\1\0\x18\0xyz\0"s));
   refused("", "a bitmap (BMP) begins with the letters BM");
 }
 

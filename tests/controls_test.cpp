@@ -177,6 +177,7 @@ TEST(SaveDialogs, KnowTheNameThatWillBeWritten) {
        {std::tuple{"/a.b/pattern", NameEnding{".XDP", true}, "/a.b/pattern.XDP"},  // a dot in the name of the folder
         {"/a.b/pattern.txt", {".XDP", true}, "/a.b/pattern.txt"},
         {"pattern.", {".BMP", true}, "pattern."},
+        {".hidden", {".XDP", true}, ".hidden"},
         {"pattern.bmp", {".bmp"}, "pattern.bmp.bmp"},
         {"", {".bmp"}, ".bmp"},  // cancelled
         {"report", {}, "report"}}) {

@@ -44,6 +44,7 @@ std::vector<Row> rows_of(const std::vector<QSize>& sizes, int width) {
 
 std::vector<Page> pages_of(const std::vector<QSize>& least, const QSize& room) {
   std::vector<QSize> sizes;
+  sizes.reserve(least.size());
   for (const QSize& size : least) sizes.push_back(size.boundedTo(room));
   std::vector<Page> pages;
   int taken = 0;
