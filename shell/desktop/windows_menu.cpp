@@ -108,6 +108,7 @@ void WindowsMenu::arrange(QMainWindow& current) {
     if (entry->top != &current && entry->top->isVisible() && !entry->top->isMinimized()) tops.push_back(entry->top);
   }
   std::vector<QSize> least;
+  least.reserve(tops.size());
   for (const QMainWindow* top : tops) {
     least.push_back(top->minimumSizeHint().expandedTo(top->minimumSize()) + frame_of(*top));
   }
