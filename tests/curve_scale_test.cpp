@@ -55,6 +55,7 @@ TEST(LabelPlaces, NeverTouchAndTheHeaviestHasOne) {
   std::uniform_real_distribution<double> size(5, 90);
   for (int round = 0; round < 50; ++round) {
     std::vector<WantedLabel> wanted;
+    wanted.reserve(121);
     for (int i = 0; i < 120; ++i) wanted.push_back({{across(random), across(random), 14, size(random)}, size(random)});
     wanted.push_back({{100, 250, 14, 60}, 1000});
     const auto places = label_places(wanted, room);

@@ -52,7 +52,7 @@ std::string folder_of(const std::string& file) { return file.substr(0, file.rfin
 /// The room that a file stands in, by the name of its box in the picture.
 std::string room_of(const std::string& file) {
   if (file.starts_with("Q")) return "Qt";
-  const std::string folder = folder_of(file);
+  std::string folder = folder_of(file);
   if (folder.ends_with("/window")) return "windows";
   if (!folder.starts_with("shell/")) return folder;
   const std::string inside = folder.substr(folder.find('/') + 1);

@@ -27,8 +27,12 @@ TEST(PictureMarks, LabelsTouchNeitherEachOtherNorTheBorder) {
     const auto places = place_labels(wishes, 500, 500, 4);
     ASSERT_GT(places.size(), 20U);
     EXPECT_EQ(places.front().wish, 7) << "the heaviest stands first";
-    const auto right = [&](const LabelPlace& place) { return place.left + wishes[place.wish].width; };
-    const auto bottom = [&](const LabelPlace& place) { return place.top + wishes[place.wish].height; };
+    const auto right = [&](const LabelPlace& place) {
+      return place.left + wishes[static_cast<std::size_t>(place.wish)].width;
+    };
+    const auto bottom = [&](const LabelPlace& place) {
+      return place.top + wishes[static_cast<std::size_t>(place.wish)].height;
+    };
     for (std::size_t i = 0; i < places.size(); ++i) {
       const LabelPlace& a = places[i];
       EXPECT_TRUE(a.left >= 0 && a.top >= 0 && right(a) <= 500 && bottom(a) <= 500);
