@@ -209,8 +209,9 @@ TEST_F(Desks, AMissingRecentFileIsToldAndDropped) {
 
 TEST_F(Desks, FilesOfTheCommandLineOpenByTheirEndings) {
   const std::string broken = folder.write("broken.cry", "no crystal");
+  const std::string examples = ZOL_SOURCE_DIR "/examples/";
   desktop.open_files({crystals + std::string("NaCl.cry"), folder.path("none.cry"), broken, folder.path("."),
-                      ZOL_SOURCE_DIR "/examples/silicon-pattern.bmp", ZOL_SOURCE_DIR "/examples/cif/none.cif"});
+                      examples + "silicon-pattern.bmp", examples + "cif/none.cif"});
   EXPECT_EQ(main1().Text17.text(), std::string(crystals) + "NaCl.cry") << "what fails changes nothing";
   EXPECT_TRUE(main1().visible());
   EXPECT_TRUE(program.windows().use<Pattern3Form>().Picture1.has_picture());
