@@ -89,11 +89,10 @@ class PartFile {
   }
 
   void append(std::string_view bytes) const {
-    while (!bytes.empty()) {
-      const ssize_t written = write(file_, bytes.data(), bytes.size());
-      if (written < 0 && errno == EINTR) continue;
-      if (written < 0) fail();
-      bytes.remove_prefix(static_cast<std::size_t>(written));
+    for (std::size_t done = 0; done < bytes.size();) {
+      const ssize_t written = write(file_, bytes.data() + done, bytes.size() - done);
+      if (written < 0 && errno != EINTR) fail();
+      if (written > 0) done += static_cast<std::size_t>(written);
     }
   }
 
