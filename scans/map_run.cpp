@@ -88,7 +88,7 @@ class PartFile {
     return at;
   }
 
-  void append(std::string_view bytes) const {
+  void append(const std::string& bytes) const {
     for (std::size_t done = 0; done < bytes.size();) {
       const ssize_t written = write(file_, bytes.data() + done, bytes.size() - done);
       if (written < 0 && errno != EINTR) fail();

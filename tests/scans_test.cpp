@@ -211,7 +211,7 @@ TEST(Scans, ThatAreWrongAreRefusedWithTheReason) {
     std::string file, words;
     std::optional<std::array<int, 2>> size;
   };
-  for (const auto& [file, words, size] :
+  for (const Row& row :
        {Row{folder.write("short.up1", up(3, "").substr(0, 10)), "ends before byte 8", {}},
         Row{folder.write("none.up1", up(1, "")), "no whole pattern", {}},
         Row{folder.write("wide.up1", bytes(1U) + bytes(1U << 20U) + bytes(4U) + bytes(16U)), "1048576 x 4 pixels", {}},
@@ -220,7 +220,7 @@ TEST(Scans, ThatAreWrongAreRefusedWithTheReason) {
         Row{folder.path("empty.h5"), "holds no patterns", {}},
         Row{folder.write("a.txt", "text"), "no scan that is known", {}},
         Row{folder.path("gone.up1"), "can't open", {}}}) {
-    EXPECT_TRUE(fails_with(words, [&] { (void)open_scan(file, {size, "", false, {}}); })) << file;
+    EXPECT_TRUE(fails_with(row.words, [&] { (void)open_scan(row.file, {row.size, "", false, {}}); })) << row.file;
   }
 }
 
