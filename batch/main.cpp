@@ -7,7 +7,6 @@
 #include "batch/batch_status.h"
 #include "batch/map_command.h"
 #include "core/task.h"
-#include "shell/program/data_folders.h"
 #include "shell/program/program.h"
 #include "shell/script/stop_signal.h"
 #include "shell/services/latin1.h"
@@ -21,8 +20,7 @@ int run(int argc, char** argv) {
   app.get_formatter()->column_width(34);
   int status = zol::batch_done;
   try {
-    const auto data = zol::find_data_root(zol::data_places());
-    zol::add_map_command(app, data, status);
+    zol::add_map_command(app, status);
     app.parse(argc, argv);
     return status;
   } catch (const CLI::ParseError& error) {

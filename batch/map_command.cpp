@@ -16,9 +16,11 @@
 #include "batch/batch_status.h"
 #include "batch/crystal_source.h"
 #include "batch/grey_image.h"
+#include "core/read_file.h"
 #include "core/run_failure.h"
 #include "scans/map_files.h"
 #include "scans/map_run.h"
+#include "shell/program/data_folders.h"
 #include "shell/script/stop_signal.h"
 
 namespace zol {
@@ -73,19 +75,19 @@ MapSettings settings_of(const MapWords& words, const ScanHeader& header) {
   settings.index.band_count = words.bands;
   settings.index.candidates_fitted = 3;
   settings.index.preparation.circle = words.mask == "circle";
-  settings.refinement = words.refine == "pattern" ? Refinement::pattern
-                        : words.refine == "bands" ? Refinement::bands
-                                                  : Refinement::none;
+  settings.refinement = words.refine == "pattern" ? Refinement::pattern : Refinement::bands;
   settings.background = words.background == "auto"     ? Background::automatic
                         : words.background == "static" ? Background::stored
                         : words.background == "none"   ? Background::none
                                                        : Background::dynamic;
+  if (words.average.starts_with("nlpar=")) {
+    settings.own_share = numbers_of<1>("--average", words.average.substr(std::string_view("nlpar=").size()), ',')[0];
+  } else if (words.average != "nlpar" && words.average != "3x3" && words.average != "none") {
+    throw CLI::ValidationError("--average", words.average + " is none of nlpar, nlpar=SHARE, 3x3, none");
+  }
   settings.averaging = words.average == "none"  ? Averaging::none
                        : words.average == "3x3" ? Averaging::plain
                                                 : Averaging::likeness;
-  if (words.average.starts_with("nlpar=")) {
-    settings.own_share = numbers_of<1>("--average", words.average.substr(6), ',')[0];
-  }
   settings.least_confidence = words.min_ci;
   settings.most_fit_deg = words.max_fit;
   settings.flip = words.flip;
@@ -167,14 +169,14 @@ class ProgressLine {
 };
 
 /// What results depend on, beside the scan's own bytes.
-std::uint64_t fingerprint(const MapWords& words, const DataRoot& /*data*/) {
+std::uint64_t fingerprint(const MapWords& words) {
   std::string text;
   for (const auto* part :
        {&words.scan, &words.centre, &words.convention, &words.size, &words.background, &words.average, &words.refine,
         &words.scan_x, &words.scan_y, &words.dataset, &words.region, &words.mask}) {
     text += *part + '\n';
   }
-  for (const auto& crystal : words.crystals) text += crystal + '\n';
+  for (const auto& crystal : words.crystals) text += crystal + '\n' + read_file(crystal) + '\n';
   for (const double number : {words.tilt.value_or(-1), words.camera.value_or(-1), words.step.value_or(-1),
                               words.screen_mm, words.kilovolt, words.min_ci, words.max_fit}) {
     text += std::to_string(number) + '\n';
@@ -201,7 +203,8 @@ void summarise(const MapResult& map) {
   std::cout << '\n';
 }
 
-int run(const MapWords& words, const DataRoot& data) {
+int run(const MapWords& words) {
+  const DataRoot data = find_data_root(data_places());
   for (const auto& output : words.outputs) check_map_path(output);
   OpenScanSettings open;
   open.dataset = words.dataset;
@@ -241,7 +244,7 @@ int run(const MapWords& words, const DataRoot& data) {
       words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
   running.part_path = words.outputs.front() + ".part";
   running.resume = words.resume;
-  running.fingerprint = fingerprint(words, data);
+  running.fingerprint = fingerprint(words);
   running.stop = [] { return stop_signal() != 0; };
   running.progress = [&line](std::size_t done, std::size_t all) { line.show(done, all); };
   if (!run_map(indexer, grid, running, map.points)) {
@@ -263,7 +266,7 @@ int run(const MapWords& words, const DataRoot& data) {
 
 }  // namespace
 
-void add_map_command(CLI::App& app, const DataRoot& data, int& status) {
+void add_map_command(CLI::App& app, int& status) {
   const auto words = std::make_shared<MapWords>();
   CLI::App* map = app.add_subcommand("map", "index all patterns of a scan");
   map->footer("Example:\n  zol-batch map scan.h5 -c Ni.cif -o map.ang");
@@ -305,16 +308,16 @@ void add_map_command(CLI::App& app, const DataRoot& data, int& status) {
   const auto* indexing = "Indexing";
   map->add_option("--bands", words->bands, "that are looked for")->group(indexing)->check(CLI::Range(3, 40));
   map->add_option("--families", words->families, "of planes that vote")->group(indexing)->check(CLI::Range(1, 100));
-  map->add_option("--refine", words->refine, "pattern, bands, none")
+  map->add_option("--refine", words->refine, "pattern, bands")
       ->group(indexing)
-      ->check(CLI::IsMember({"pattern", "bands", "none"}));
+      ->check(CLI::IsMember({"pattern", "bands"}));
   map->add_option("--min-ci", words->min_ci, "confidence below which a point is not indexed")->group(indexing);
   map->add_option("--max-fit", words->max_fit, "degrees above which it is not")->group(indexing);
   const auto* running = "Running";
   map->add_option("-j,--threads", words->threads, "0: one for each core")->group(running)->check(CLI::Range(0, 4096));
   map->add_flag("--resume", words->resume, "go on with a run that was stopped")->group(running);
   map->add_flag("-q,--quiet", words->quiet, "nothing but failures")->group(running);
-  map->callback([words, &data, &status] { status = run(*words, data); });
+  map->callback([words, &status] { status = run(*words); });
 }
 
 }  // namespace zol

@@ -115,26 +115,6 @@ KinematicSphere::KinematicSphere(const ReflectorSet& reflectors, int size, const
   }
 }
 
-KinematicSphere::KinematicSphere(int size, const std::function<double(const Vector3&)>& brightness, Task& task)
-    : size_(size),
-      scale_(static_cast<float>((size - 1) / 2.0 - margin)),
-      middle_(static_cast<float>((size - 1) / 2.0)),
-      values_(static_cast<std::size_t>(size) * static_cast<std::size_t>(size)) {
-  std::size_t at = 0;
-  for (int row = 0; row < size; ++row) {
-    task.check();
-    for (int column = 0; column < size; ++column) {
-      const double x = (column - static_cast<double>(middle_)) / static_cast<double>(scale_);
-      const double y = (row - static_cast<double>(middle_)) / static_cast<double>(scale_);
-      const double square = x * x + y * y;
-      const Vector3 direction = Vector3(2 * x, 2 * y, 1 - square) / (1 + square);
-      // Beyond the equator stands what the inversion makes of the upper half.
-      const Vector3 upper = direction[2] < 0 ? Vector3(-direction) : direction;
-      values_[at++] = static_cast<float>(brightness(upper));
-    }
-  }
-}
-
 float KinematicSphere::at(const Vector3& direction) const {
   const double side = direction[2] < 0 ? -1 : 1;
   const double length = direction.norm() + std::abs(direction[2]);

@@ -5,7 +5,6 @@
 // equator, so that every direction of either half finds its neighbours.
 #pragma once
 
-#include <functional>
 #include <vector>
 
 #include "indexing/reflectors.h"
@@ -24,10 +23,6 @@ class KinematicSphere {
   /// @param reflectors  families whose strip is too faint to matter are left out
   /// @param size        points of the grid along a diameter
   KinematicSphere(const ReflectorSet& reflectors, int size, const StripShape& shape, Task& task);
-
-  /// A sphere that was worked out elsewhere, as a dynamical one.
-  /// @param brightness  in a direction of unit length with z >= 0
-  KinematicSphere(int size, const std::function<double(const Vector3&)>& brightness, Task& task);
 
   [[nodiscard]] int size() const { return size_; }
   [[nodiscard]] float scale() const { return scale_; }    ///< grid points per unit of the projection

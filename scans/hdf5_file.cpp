@@ -106,6 +106,11 @@ int Hdf5File::bits(const std::string& dataset) const {
   return kind == H5T_INTEGER || kind == H5T_FLOAT ? static_cast<int>(8 * H5Tget_size(type.id())) : 0;
 }
 
+bool Hdf5File::holds_whole_numbers(const std::string& dataset) const {
+  const auto opened = open_dataset(dataset);
+  return opened && H5Tget_class(type_of(opened).id()) == H5T_INTEGER;
+}
+
 std::vector<double> Hdf5File::numbers(const std::string& dataset) const {
   if (bits(dataset) == 0) return {};
   const auto opened = open_dataset(dataset);

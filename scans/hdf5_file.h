@@ -45,6 +45,7 @@ class Hdf5File {
   [[nodiscard]] std::vector<std::uint64_t> sides(const std::string& dataset) const;
   /// Bits of one number of an array, 0 where it holds none.
   [[nodiscard]] int bits(const std::string& dataset) const;
+  [[nodiscard]] bool holds_whole_numbers(const std::string& dataset) const;
   /// All of an array of numbers; empty where there is none, or more than most_numbers.
   [[nodiscard]] std::vector<double> numbers(const std::string& dataset) const;
   /// The first of them.

@@ -144,6 +144,7 @@ class Hdf5Scan : public Scan {
     header_.points = points;
     stored_ = points;
     header_.bits = file_.bits(layout_.patterns);
+    header_.whole = file_.holds_whole_numbers(layout_.patterns);
     if (rows_of_patterns_) row_length_ = sides[1];
     for (const auto& [name, side] : {std::pair(layout_.width, header_.width), {layout_.height, header_.height}}) {
       const auto said = header_number(name);

@@ -62,7 +62,8 @@ MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std
       settings_(settings),
       picture_from_sample_(
           picture_from_sample(settings.geometry.sample_tilt_deg - settings.geometry.detector_tilt_deg)),
-      saturated_(static_cast<float>(std::ldexp(1.0, std::min(scan.header().bits, 24)) - 1)) {
+      saturated_(static_cast<float>(std::ldexp(1.0, std::min(scan.header().bits, 24)) - 1)),
+      rounding_(scan.header().whole ? 1.0F / 12 : 0.0F) {
   settings_.index.fit_picture = settings.refinement == Refinement::pattern;
   auto [left, top, width, height] = settings.region;
   if (width == 0 && height == 0) {
@@ -241,7 +242,7 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
   const PictureView picture{worker.picture, size.width, size.height};
   PatternIndexer& indexer = worker.indexer;
   if (!indexer.take(picture, settings_.index, task)) return result;
-  if (indexer.prepared().contrast() < least_contrast) return result;
+  if (scan_.header().whole && indexer.prepared().contrast() < least_contrast) return result;
   result.quality = smoothness(indexer.prepared());
   const PatternCentre centre = upside_down(centres_.at(point), size);
   const bool on_picture = settings_.index.fit_picture;

@@ -18,7 +18,7 @@
 
 namespace zol {
 
-enum class Refinement { none, bands, pattern };
+enum class Refinement { bands, pattern };
 enum class Background { automatic, stored, dynamic, none };
 
 struct MapSettings {
@@ -52,14 +52,14 @@ class MapIndexer {
 
   /// The storage of one thread.
   struct Worker {
-    explicit Worker(float saturated) : likeness(saturated) {}
+    Worker(float saturated, float rounding) : likeness(saturated, rounding) {}
     PatternBlock block;
     PatternTile tile;
     LikenessAverage likeness;
     PatternIndexer indexer;
     std::vector<float> pattern, picture;
   };
-  [[nodiscard]] Worker make_worker() const { return Worker(saturated_); }
+  [[nodiscard]] Worker make_worker() const { return {saturated_, rounding_}; }
   /// What is found in a tile, row by row. Many threads may call it, each with a worker of its own.
   void index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task);
 
@@ -83,7 +83,7 @@ class MapIndexer {
   std::vector<float> background_;  ///< empty: none
   double background_mean_ = 0;
   double likeness_ = 0;
-  float saturated_;
+  float saturated_, rounding_;
 };
 
 }  // namespace zol

@@ -84,9 +84,8 @@ void LikenessAverage::look_at(const PatternTile& tile) {
   }
   // Identical twins, which some detectors deliver, tell nothing of the noise; many of them tell that there is none.
   constexpr int many = 3;
-  constexpr float of_rounding = 1.0F / 12;
   for (std::size_t i = 0; i < points; ++i) {
-    if (twins_[i] >= many) variance_[i] = of_rounding;
+    if (twins_[i] >= many) variance_[i] = rounding_;
   }
 }
 

@@ -35,7 +35,8 @@ class LikenessAverage {
   static constexpr int margin = radius + 1;  ///< of points around a tile that have to be known
 
   /// @param saturated  pixels from here on tell nothing
-  explicit LikenessAverage(float saturated) : saturated_(saturated) {}
+  /// @param rounding   variance of grey values by their rounding
+  LikenessAverage(float saturated, float rounding) : saturated_(saturated), rounding_(rounding) {}
 
   /// Looks at a tile: spread of the noise of each point, and how much each two points differ beyond it.
   void look_at(const PatternTile& tile);
@@ -53,7 +54,7 @@ class LikenessAverage {
   template <class Visit>
   void each_neighbour(int column, int row, const Visit& visit) const;
 
-  float saturated_;
+  float saturated_, rounding_;
   const PatternTile* tile_ = nullptr;
   std::vector<float> squares_;  ///< of each offset and point the mean squared difference to the point there; < 0: none
   std::vector<float> counts_;   ///< pixels that it was taken over

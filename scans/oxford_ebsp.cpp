@@ -93,7 +93,8 @@ class OxfordEbsp : public Scan {
   /// Where the beam stood, none where the file does not say.
   [[nodiscard]] std::optional<std::array<double, 2>> beam(std::size_t point) const {
     const auto at = static_cast<std::uint64_t>(places_[point]);
-    if (at == 0 || version_ == 0) return std::nullopt;
+    constexpr std::uint64_t longest_head = 24;
+    if (at == 0 || version_ == 0 || at + longest_head > file_.size()) return std::nullopt;
     const auto found = pattern_header(at);
     std::uint64_t foot = found.data + static_cast<std::uint64_t>(std::max(found.bytes, 0));
     std::array<double, 2> place{};

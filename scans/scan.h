@@ -44,12 +44,17 @@ struct ScanHeader {
   std::string format;         ///< as "EDAX .up1, version 3"
   int width = 0, height = 0;  ///< pixels of a pattern
   int bits = 8;               ///< of a pixel
+  bool whole = true;          ///< grey values are whole numbers, so that their step is 1
   std::size_t points = 0;     ///< patterns that there are places for
   std::optional<ScanGrid> grid;
   std::optional<double> sample_tilt_deg, detector_tilt_deg, kilovolt, pixel_micrometre;
   std::vector<StoredCentre> centres;     ///< none, one, or one of each point
   std::vector<float> static_background;  ///< empty, or of the size of a pattern
   std::vector<std::string> remarks;      ///< what is said wrongly, or was taken for granted
+
+  [[nodiscard]] std::size_t pixels() const {
+    return static_cast<std::size_t>(width) * static_cast<std::size_t>(height);
+  }
 };
 
 /// A run of patterns. Its storage is used again.
