@@ -3,15 +3,15 @@
 #include <filesystem>
 
 #include "core/run_failure.h"
-#include "scans/binary_file.h"
+#include "scans/raw_scan.h"
 #include "scans/readers.h"
 
 namespace zol {
 namespace {
 
-class EdaxUp : public Scan {
+class EdaxUp : public RawScan {
  public:
-  EdaxUp(const std::string& path, const OpenScanSettings& settings) : file_(path) {
+  EdaxUp(const std::string& path, const OpenScanSettings& settings) : RawScan(path) {
     bytes_ = path.ends_with("2") ? 2 : 1;
     header_.bits = 8 * bytes_;
     const auto version = file_.number<std::uint32_t>(0, "the version");
@@ -38,18 +38,11 @@ class EdaxUp : public Scan {
     if (settings.size) take_size(header_, *settings.size, path);
   }
 
-  void read(std::size_t first, std::size_t count, PatternBlock& block) override {
-    const auto pixels = static_cast<std::size_t>(header_.width) * static_cast<std::size_t>(header_.height);
-    block.begin(first, count, pixels);
-    bytes_read_.resize(pixels * static_cast<std::size_t>(bytes_));
-    for (std::size_t i = 0; i < count; ++i) {
-      if (!file_.read(start_ + (first + i) * of_pattern_, bytes_read_)) continue;
-      widen_pixels(bytes_read_, bytes_, block.pattern(i));
-      block.present[i] = 1;
-    }
+ private:
+  [[nodiscard]] std::optional<std::uint64_t> place_of_pixels(std::size_t point) const override {
+    return start_ + point * of_pattern_;
   }
 
- private:
   void read_grid() {
     ScanGrid grid;
     const bool extra = file_.number<std::uint8_t>(16, "the flag of extra patterns") != 0;
@@ -78,10 +71,8 @@ class EdaxUp : public Scan {
     header_.grid = grid;
   }
 
-  BinaryFile file_;
   int bytes_ = 1;
   std::uint64_t start_ = 0, of_pattern_ = 0;
-  std::vector<std::byte> bytes_read_;
 };
 
 }  // namespace

@@ -53,7 +53,7 @@ class Hdf5Scan : public Scan {
   }
 
   void read(std::size_t first, std::size_t count, PatternBlock& block) override {
-    const std::size_t pixels = static_cast<std::size_t>(header_.width) * static_cast<std::size_t>(header_.height);
+    const std::size_t pixels = header_.pixels();
     block.begin(first, count, pixels);
     if (order_.empty() && !rows_of_patterns_ &&
         file_.read_entries(layout_.patterns, first, count, std::span(block.values).first(count * pixels))) {
@@ -184,7 +184,7 @@ class Hdf5Scan : public Scan {
   void read_background() {
     if (layout_.background.empty()) return;
     const auto values = file_.numbers(in_header(layout_.background));
-    if (values.size() != static_cast<std::size_t>(header_.width) * static_cast<std::size_t>(header_.height)) return;
+    if (values.size() != header_.pixels()) return;
     header_.static_background.assign(values.begin(), values.end());
   }
 

@@ -83,7 +83,7 @@ MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std
 }
 
 void MapIndexer::read_tile(const MapTile& tile, int margin, Worker& worker) {
-  const std::size_t pixels = index(scan_.header().width) * index(scan_.header().height);
+  const std::size_t pixels = scan_.header().pixels();
   PatternTile& into = worker.tile;
   into.columns = tile.columns + 2 * margin;
   into.rows = tile.rows + 2 * margin;
@@ -126,7 +126,7 @@ void MapIndexer::find_background(Task& task) {
   }
   const std::size_t points = grid_.points();
   if (background_.empty() && points >= least) {
-    background_.assign(index(scan_.header().width) * index(scan_.header().height), 0);
+    background_.assign(scan_.header().pixels(), 0);
     PatternBlock block;
     std::size_t used = 0;
     for (std::size_t i = 0; i < looked_at; ++i) {

@@ -6,7 +6,7 @@
 #include "core/read_file.h"
 #include "core/run_failure.h"
 #include "core/trimmed.h"
-#include "scans/binary_file.h"
+#include "scans/raw_scan.h"
 #include "scans/readers.h"
 
 namespace zol {
@@ -54,9 +54,9 @@ std::optional<std::array<int, 2>> pair_of(std::string_view text) {
   return std::array{static_cast<int>(*first), static_cast<int>(*second)};
 }
 
-class Nordif : public Scan {
+class Nordif : public RawScan {
  public:
-  Nordif(const fs::path& folder, const OpenScanSettings& settings) : file_((folder / "Pattern.dat").string()) {
+  Nordif(const fs::path& folder, const OpenScanSettings& settings) : RawScan((folder / "Pattern.dat").string()) {
     const std::string beside = (folder / "Setting.txt").string();
     const auto said = read_settings(beside);
     const auto find = [&said](const std::string& name) {
@@ -73,8 +73,7 @@ class Nordif : public Scan {
     header_.sample_tilt_deg = leading_number(find("Microscope/Tilt angle"));
     if (const auto elevation = leading_number(find("Detector angles/Elevation")))
       header_.detector_tilt_deg = -*elevation;
-    const std::uint64_t pixels =
-        std::uint64_t{1} * static_cast<unsigned>(header_.width) * static_cast<unsigned>(header_.height);
+    const std::uint64_t pixels = header_.pixels();
     const std::uint64_t held = (file_.size() + pixels - 1) / pixels;
     header_.points = held;
     if (const auto samples = pair_of(find("Area/Number of samples"))) {  // rows x columns
@@ -100,20 +99,10 @@ class Nordif : public Scan {
     if (settings.size) take_size(header_, *settings.size, file_.path());
   }
 
-  void read(std::size_t first, std::size_t count, PatternBlock& block) override {
-    const std::size_t pixels = static_cast<std::size_t>(header_.width) * static_cast<std::size_t>(header_.height);
-    block.begin(first, count, pixels);
-    bytes_.resize(pixels);
-    for (std::size_t i = 0; i < count; ++i) {
-      if (!file_.read((first + i) * pixels, bytes_)) continue;
-      widen_pixels(bytes_, 1, block.pattern(i));
-      block.present[i] = 1;
-    }
-  }
-
  private:
-  BinaryFile file_;
-  std::vector<std::byte> bytes_;
+  [[nodiscard]] std::optional<std::uint64_t> place_of_pixels(std::size_t point) const override {
+    return point * header_.pixels();
+  }
 };
 
 }  // namespace

@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "core/run_failure.h"
-#include "scans/binary_file.h"
+#include "scans/raw_scan.h"
 #include "scans/readers.h"
 
 namespace zol {
@@ -15,9 +15,9 @@ struct PatternHeader {
   std::uint64_t data = 0;  ///< where the pixels stand
 };
 
-class OxfordEbsp : public Scan {
+class OxfordEbsp : public RawScan {
  public:
-  OxfordEbsp(const std::string& path, const OpenScanSettings& settings) : file_(path) {
+  OxfordEbsp(const std::string& path, const OpenScanSettings& settings) : RawScan(path) {
     const auto first = file_.number<std::int64_t>(0, "the version");
     constexpr std::int64_t last_version = 64;
     if (first < -last_version) throw RunFailure(path + " is no .ebsp file: it begins with " + std::to_string(first));
@@ -44,23 +44,22 @@ class OxfordEbsp : public Scan {
     if (settings.size) take_size(header_, *settings.size, path);
   }
 
-  void read(std::size_t first, std::size_t count, PatternBlock& block) override {
-    const auto pixels = static_cast<std::size_t>(header_.width) * static_cast<std::size_t>(header_.height);
-    block.begin(first, count, pixels);
-    bytes_read_.resize(pixels * static_cast<std::size_t>(bytes_));
-    for (std::size_t i = 0; i < count; ++i) {
-      const std::int64_t at = places_[first + i];
-      if (at <= 0 || static_cast<std::uint64_t>(at) + 32 > file_.size()) continue;
-      const auto found = pattern_header(static_cast<std::uint64_t>(at));
-      const bool fits = found.compressed == 0 && found.columns == header_.width && found.rows == header_.height &&
-                        found.bytes == static_cast<std::int32_t>(bytes_read_.size());
-      if (!fits || !file_.read(found.data, bytes_read_)) continue;
-      widen_pixels(bytes_read_, bytes_, block.pattern(i));
-      block.present[i] = 1;
-    }
+ private:
+  [[nodiscard]] std::optional<std::uint64_t> place_of_pixels(std::size_t point) const override {
+    const auto at = static_cast<std::uint64_t>(places_[point]);
+    if (!holds_head(at)) return std::nullopt;
+    const auto found = pattern_header(at);
+    const bool fits = found.compressed == 0 && found.columns == header_.width && found.rows == header_.height &&
+                      found.bytes == static_cast<std::int32_t>(header_.pixels()) * bytes_;
+    return fits ? std::optional(found.data) : std::nullopt;
   }
 
- private:
+  /// Whether a pattern is stored there, and the file does not end within its header.
+  [[nodiscard]] bool holds_head(std::uint64_t at) const {
+    constexpr std::uint64_t longest_head = 24;
+    return at != 0 && at + longest_head <= file_.size();
+  }
+
   /// The table ends where the first pattern begins.
   void read_table(std::uint64_t table) {
     std::uint64_t end = std::numeric_limits<std::uint64_t>::max();
@@ -93,8 +92,7 @@ class OxfordEbsp : public Scan {
   /// Where the beam stood, none where the file does not say.
   [[nodiscard]] std::optional<std::array<double, 2>> beam(std::size_t point) const {
     const auto at = static_cast<std::uint64_t>(places_[point]);
-    constexpr std::uint64_t longest_head = 24;
-    if (at == 0 || version_ == 0 || at + longest_head > file_.size()) return std::nullopt;
+    if (version_ == 0 || !holds_head(at)) return std::nullopt;
     const auto found = pattern_header(at);
     std::uint64_t foot = found.data + static_cast<std::uint64_t>(std::max(found.bytes, 0));
     std::array<double, 2> place{};
@@ -129,10 +127,8 @@ class OxfordEbsp : public Scan {
     if (grid.points() == header_.points) header_.grid = grid;
   }
 
-  BinaryFile file_;
   int version_ = 0, bytes_ = 1;
   std::vector<std::int64_t> places_;
-  std::vector<std::byte> bytes_read_;
 };
 
 }  // namespace

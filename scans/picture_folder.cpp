@@ -54,7 +54,7 @@ class PictureFolder : public Scan {
   }
 
   void read(std::size_t first, std::size_t count, PatternBlock& block) override {
-    const std::size_t pixels = static_cast<std::size_t>(header_.width) * static_cast<std::size_t>(header_.height);
+    const std::size_t pixels = header_.pixels();
     block.begin(first, count, pixels);
     for (std::size_t i = 0; i < count; ++i) {
       const std::string& file = files_[first + i];

@@ -294,7 +294,8 @@ const CrystalModel& metal() {
 class TwoGrains : public Scan {
  public:
   static constexpr int side = 48, across = 6, down = 4;
-  TwoGrains() {
+  explicit TwoGrains(float scale = 1) : scale_(scale) {
+    header_.whole = scale == 1;
     header_.width = header_.height = side;
     header_.points = across * down;
     header_.grid = ScanGrid{across, down};
@@ -314,16 +315,19 @@ class TwoGrains : public Scan {
         for (int x = 0; x < side; ++x) {
           const auto noise = static_cast<float>((x * 7919 + y * 104729 + static_cast<int>(first + i) * 31) % 17);
           block.pattern(i)[static_cast<std::size_t>((side - 1 - y) * side + x)] =
-              100 + 20 * drawn[static_cast<std::size_t>(y * side + x)] + noise;
+              scale_ * (100 + 20 * drawn[static_cast<std::size_t>(y * side + x)] + noise);
         }
       }
       block.present[i] = 1;
     }
   }
+
+ private:
+  float scale_;
 };
 
-std::vector<PointResult> indexed(const MapRun& run) {
-  TwoGrains scan;
+std::vector<PointResult> indexed(const MapRun& run, float scale = 1) {
+  TwoGrains scan(scale);
   const ScanGrid grid = *scan.header().grid;
   MapIndexer indexer(scan, grid, MapCentres({.5, .3, .55}, {}, grid), {&metal()}, {});
   indexer.prepare(quiet);
@@ -345,6 +349,10 @@ TEST(MapIndexer, FindsBothGrainsAndTheHoleWithAnyNumberOfThreadsAndAfterAStop) {
       angles[k] = static_cast<double>(points[i].bunge_rad[k]) * 180 / std::numbers::pi;
     EXPECT_LT(misorientation_deg(rotation_of_bunge(angles), TwoGrains::truth(i), metal().reflectors.symmetry), 0.2);
   }
+  const auto of_fractions = indexed({}, 1.0F / 512);
+  EXPECT_TRUE(std::all_of(of_fractions.begin(), of_fractions.end(), [](const PointResult& point) {
+    return point.phase == 1 || point.missing != 0;
+  })) << "grey values from 0 to 1";
   MapRun run;
   run.threads = 3;
   EXPECT_EQ(indexed(run), points);
