@@ -19,6 +19,7 @@ namespace zol {
 namespace {
 
 constexpr int columns = 3, rows = 2, width = 5, height = 4, pixels = width * height;
+constexpr std::size_t points_of_all = 6;
 QuietTask quiet;
 
 template <class Value>
@@ -51,22 +52,24 @@ std::string up(std::uint32_t version, const std::string& pixels_of_all) {
 std::string ebsp(int version) {
   std::string text = version > 0 ? bytes(-std::int64_t{version}) : "";
   if (version >= 4) text += '\0';
-  std::size_t at = text.size() + 8 * columns * rows;
-  std::vector<std::string> parts(columns * rows);
-  std::vector<std::int64_t> places(columns * rows);
+  std::size_t at = text.size() + 8 * points_of_all;
+  std::vector<std::string> parts(points_of_all);
+  std::vector<std::int64_t> places(points_of_all);
   for (int point = columns * rows - 1; point >= 0; --point) {
     if (point == 4) continue;
+    const int row = point / columns;
     std::string& part = parts[static_cast<std::size_t>(point)];
     if (version >= 5) part += bytes(std::int32_t{point % columns}) + bytes(std::int32_t{point / columns});
     part += bytes(std::int32_t{0}) + bytes(std::int32_t{height}) + bytes(std::int32_t{width}) +
             bytes(std::int32_t{pixels}) + pattern(point);
     const std::string flag = version >= 2 ? std::string(1, '\1') : "";
-    if (version > 0) part += flag + bytes(1.5 * (point % columns)) + flag + bytes(-2.5 * (point / columns));
+    if (version > 0) part += flag + bytes(1.5 * (point % columns)) + flag + bytes(-2.5 * row);
     places[static_cast<std::size_t>(point)] = static_cast<std::int64_t>(at);
     at += part.size();
   }
   for (const auto place : places) text += bytes(place);
-  for (auto part = parts.rbegin(); part != parts.rend(); ++part) text += *part;
+  std::reverse(parts.begin(), parts.end());
+  for (const auto& part : parts) text += part;
   return text;
 }
 
@@ -100,7 +103,7 @@ const std::string all_patterns = patterns();
 
 void make_kikuchipy(const std::string& path) {
   const Hdf5Maker out(path);
-  out.put("Scan 1/EBSD/Data/patterns", H5T_NATIVE_UINT8, {columns * rows, height, width}, all_patterns.data());
+  out.put("Scan 1/EBSD/Data/patterns", H5T_NATIVE_UINT8, {points_of_all, height, width}, all_patterns.data());
   const std::string header = "Scan 1/EBSD/Header/";
   for (const auto& [name, value] : {std::pair{"n_columns", 1.0 * columns},
                                     {"n_rows", 1.0 * rows},
@@ -125,7 +128,7 @@ void make_bruker(const std::string& path) {
     x.push_back(7 + point % columns);
     y.push_back(9 + point / columns);
   }
-  out.put("Area/EBSD/Data/RawPatterns", H5T_NATIVE_UINT8, {columns * rows, height, width}, turned.data());
+  out.put("Area/EBSD/Data/RawPatterns", H5T_NATIVE_UINT8, {points_of_all, height, width}, turned.data());
   out.number("Area/EBSD/Header/NCOLS", columns);
   out.number("Area/EBSD/Header/NROWS", rows);
   out.number("Area/EBSD/Header/XSTEP", 1.5);
@@ -136,7 +139,7 @@ void make_bruker(const std::string& path) {
 
 void make_edax(const std::string& path) {
   const Hdf5Maker out(path);
-  out.put(" Scan 1/EBSD/Data/Pattern", H5T_NATIVE_UINT8, {columns * rows, height, width}, all_patterns.data());
+  out.put(" Scan 1/EBSD/Data/Pattern", H5T_NATIVE_UINT8, {points_of_all, height, width}, all_patterns.data());
   out.number(" Scan 1/EBSD/Header/ nColumns", columns);
   out.number(" Scan 1/EBSD/Header/nRows", rows);
   out.number(" Scan 1/EBSD/Header/Step X", 1.5);
@@ -293,12 +296,12 @@ const CrystalModel& metal() {
 /// Two grains beside each other, and a point without a pattern, drawn by the program's own projection.
 class TwoGrains : public Scan {
  public:
-  static constexpr int side = 48, across = 6, down = 4;
+  static constexpr std::size_t side = 48, across = 6, down = 4;
   explicit TwoGrains(float scale = 1) : scale_(scale) {
     header_.whole = scale == 1;
-    header_.width = header_.height = side;
+    header_.width = header_.height = int{side};
     header_.points = across * down;
-    header_.grid = ScanGrid{across, down};
+    header_.grid = ScanGrid{int{across}, int{down}};
   }
   static Rotation truth(std::size_t point) {
     return rotation_of_bunge(point % across < 3 ? std::array{40.0, 50.0, 60.0} : std::array{200.0, 30.0, 10.0});
@@ -309,13 +312,12 @@ class TwoGrains : public Scan {
       if (first + i == 8) continue;
       std::vector<float> drawn;
       const PatternCentre turned{.5, 1 - .3, .55};
-      draw_bands(*metal().sphere, truth(first + i) * picture_from_sample(70).transpose(), {turned, side}, side, side,
-                 drawn);
-      for (int y = 0; y < side; ++y) {
-        for (int x = 0; x < side; ++x) {
-          const auto noise = static_cast<float>((x * 7919 + y * 104729 + static_cast<int>(first + i) * 31) % 17);
-          block.pattern(i)[static_cast<std::size_t>((side - 1 - y) * side + x)] =
-              scale_ * (100 + 20 * drawn[static_cast<std::size_t>(y * side + x)] + noise);
+      draw_bands(*metal().sphere, truth(first + i) * picture_from_sample(70).transpose(), {turned, double{side}},
+                 int{side}, int{side}, drawn);
+      for (std::size_t y = 0; y < side; ++y) {
+        for (std::size_t x = 0; x < side; ++x) {
+          const auto noise = static_cast<float>((x * 7919 + y * 104729 + (first + i) * 31) % 17);
+          block.pattern(i)[(side - 1 - y) * side + x] = scale_ * (100 + 20 * drawn[y * side + x] + noise);
         }
       }
       block.present[i] = 1;
