@@ -32,7 +32,7 @@ double luminance(Rgb colour) {
 }
 
 double contrast(Rgb one, Rgb other) {
-  const auto [low, high] = std::minmax(luminance(one), luminance(other));
+  const auto [low, high] = std::minmax({luminance(one), luminance(other)});
   return (high + 0.05) / (low + 0.05);
 }
 

@@ -90,7 +90,8 @@ TEST(PictureMarks, TurnsByTheCoarsestButtonsThatDoNotGoTooFar) {
   drag.begin(1, 0, buttons, 5);
   std::vector<double> clicked;
   double left = 90.2;
-  while (const auto* turn = button_towards({{nullptr, -50}, {nullptr, 50}, {nullptr, 5}, {nullptr, 0.5}}, left)) {
+  const std::vector<TurnButton> coarse{{nullptr, -50}, {nullptr, 50}, {nullptr, 5}, {nullptr, 0.5}};
+  while (const auto* turn = button_towards(coarse, left)) {
     clicked.push_back(turn->degrees);
     left -= turn->degrees;
   }
