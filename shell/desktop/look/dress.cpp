@@ -59,8 +59,9 @@ QString name_for(const QMainWindow& window, const QWidget& widget) {
 
 bool says_its_name(const QWidget& widget) {
   const auto* button = qobject_cast<const QAbstractButton*>(&widget);
-  return button != nullptr &&
-         std::any_of(button->text().begin(), button->text().end(), [](QChar letter) { return letter.isLetter(); });
+  if (button == nullptr) return false;
+  const QString text = button->text();  // each call of text() is a string of its own
+  return std::any_of(text.begin(), text.end(), [](QChar letter) { return letter.isLetter(); });
 }
 
 }  // namespace
