@@ -206,10 +206,29 @@ void MapIndexer::pattern_of(int column, int row, Worker& worker) const {
   }
 }
 
+/// Points about a tile that its own ones are averaged with.
+int MapIndexer::margin() const {
+  if (settings_.averaging == Averaging::likeness) return LikenessAverage::margin;
+  return settings_.averaging == Averaging::plain ? 1 : 0;
+}
+
+bool MapIndexer::shows_something(const Worker& worker) const {
+  return !scan_.header().whole || worker.indexer.prepared().contrast() >= least_contrast;
+}
+
+bool MapIndexer::take_point(std::size_t point, Worker& worker, Task& task) {
+  const int margin = this->margin();
+  const auto [column, row] = grid_.place(point);
+  read_tile({column, row, 1, 1}, margin, worker);
+  if (worker.tile.present[worker.tile.place(margin, margin)] == 0) return false;
+  if (settings_.averaging == Averaging::likeness) worker.likeness.look_at(worker.tile);
+  pattern_of(margin, margin, worker);
+  const PictureView picture{worker.picture, scan_.header().width, scan_.header().height};
+  return worker.indexer.take(picture, settings_.index, task) && shows_something(worker);
+}
+
 void MapIndexer::index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task) {
-  const int margin = settings_.averaging == Averaging::likeness ? LikenessAverage::margin
-                     : settings_.averaging == Averaging::plain  ? 1
-                                                                : 0;
+  const int margin = this->margin();
   read_tile(tile, margin, worker);
   if (settings_.averaging == Averaging::likeness) worker.likeness.look_at(worker.tile);
   found.assign(index(tile.columns) * index(tile.rows), {});
@@ -242,7 +261,7 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
   const PictureView picture{worker.picture, size.width, size.height};
   PatternIndexer& indexer = worker.indexer;
   if (!indexer.take(picture, settings_.index, task)) return result;
-  if (scan_.header().whole && indexer.prepared().contrast() < least_contrast) return result;
+  if (!shows_something(worker)) return result;
   result.quality = smoothness(indexer.prepared());
   const PatternCentre centre = upside_down(centres_.at(point), size);
   const bool on_picture = settings_.index.fit_picture;

@@ -50,6 +50,17 @@ class MapIndexer {
   void prepare(Task& task);
   [[nodiscard]] double likeness() const { return likeness_; }
 
+  [[nodiscard]] const ScanGrid& grid() const { return grid_; }
+  [[nodiscard]] const std::vector<const CrystalModel*>& models() const { return models_; }
+  [[nodiscard]] const IndexSettings& index_settings() const { return settings_.index; }
+  [[nodiscard]] PictureSize picture_size() const { return {scan_.header().width, scan_.header().height, 1}; }
+  /// The pattern centre of a point in its picture turned upside down, as it is indexed.
+  [[nodiscard]] PatternCentre turned_centre(std::size_t point) const {
+    return upside_down(centres_.at(point), picture_size());
+  }
+  /// Centres that were found meanwhile. Not while other threads index.
+  void set_centres(MapCentres centres) { centres_ = std::move(centres); }
+
   /// The storage of one thread.
   struct Worker {
     Worker(float saturated, float rounding) : likeness(saturated, rounding) {}
@@ -62,6 +73,9 @@ class MapIndexer {
   [[nodiscard]] Worker make_worker() const { return {saturated_, rounding_}; }
   /// What is found in a tile, row by row. Many threads may call it, each with a worker of its own.
   void index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task);
+  /// Makes the pattern of one point ready in the worker's indexer, as the map has it.
+  /// @returns false where there is none, or it is blank
+  [[nodiscard]] bool take_point(std::size_t point, Worker& worker, Task& task);
 
  private:
   struct Guess;
@@ -71,6 +85,8 @@ class MapIndexer {
   PointResult index_point(std::size_t point, std::span<const Guess> guesses, Worker& worker, Guess& known,
                           Task& task) const;
   void pattern_of(int column, int row, Worker& worker) const;
+  [[nodiscard]] bool shows_something(const Worker& worker) const;
+  [[nodiscard]] int margin() const;
 
   Scan& scan_;
   std::mutex reading_;
