@@ -5,6 +5,7 @@
 #include <iostream>
 
 #include "batch/batch_status.h"
+#include "batch/centre_command.h"
 #include "batch/map_command.h"
 #include "core/task.h"
 #include "shell/program/program.h"
@@ -20,6 +21,7 @@ int run(int argc, char** argv) {
   app.get_formatter()->column_width(34);
   int status = zol::batch_done;
   try {
+    zol::add_centre_command(app);
     zol::add_map_command(app, status);
     app.parse(argc, argv);
     return status;
