@@ -6,6 +6,7 @@
 
 #include "batch/batch_status.h"
 #include "batch/centre_command.h"
+#include "batch/index_command.h"
 #include "batch/info_command.h"
 #include "batch/map_command.h"
 #include "batch/pattern_command.h"
@@ -30,6 +31,7 @@ int run(int argc, char** argv) {
     zol::add_powder_command(app);
     zol::add_rings_command(app);
     zol::add_pattern_command(app);
+    zol::add_index_command(app, status);
     zol::add_centre_command(app);
     zol::add_map_command(app, status);
     app.parse(argc, argv);

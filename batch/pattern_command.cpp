@@ -23,6 +23,8 @@ struct PatternWords {
   bool index = false, roots = false;
 };
 
+constexpr double usual_dispersion_deg = 5;
+
 void set_number(TextBox& box, std::optional<double> number) {
   if (number) box.set_text(plain_text(to_single(*number)));
 }
@@ -49,8 +51,9 @@ Canvas& draw_fiber(BatchProgram& program, const PatternWords& words, const std::
   program.window<Main1Form>().Command12.click();
   auto& form = program.window<FiberTextureForm>();
   set_axis(axis, {&form.Text3, &form.Text4, &form.Text5});
-  set_number(form.Text1, words.area);
-  set_number(form.Text2, words.dispersion);
+  const double whole_list = 1 / double{program.state().Dmin};
+  set_number(form.Text1, words.area.value_or(whole_list));
+  set_number(form.Text2, words.dispersion.value_or(usual_dispersion_deg));
   form.Command8.click();
   return form.Picture1;
 }
@@ -121,7 +124,8 @@ void add_pattern_command(CLI::App& app) {
                    "half the width: degrees, of spots and fiber inverse angstroms; left out: the window's")
       ->check(CLI::PositiveNumber);
   pattern->add_option("--bands", words->bands, "reflections of a Kikuchi pattern")->check(CLI::Range(1, 32767));
-  pattern->add_option("--dispersion", words->dispersion, "of a fiber, degrees")->check(CLI::NonNegativeNumber);
+  pattern->add_option("--dispersion", words->dispersion, "of a fiber, degrees; left out: 5")
+      ->check(CLI::NonNegativeNumber);
   pattern->add_option("--scale", words->scale, "pixels of .png and .bmp per pixel of the window")
       ->check(CLI::Range(0.1, 20.0))
       ->capture_default_str();
