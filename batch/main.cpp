@@ -3,6 +3,7 @@
 #include <csignal>
 #include <exception>
 #include <iostream>
+#include <string_view>
 
 #include "batch/batch_status.h"
 #include "batch/centre_command.h"
@@ -11,6 +12,7 @@
 #include "batch/map_command.h"
 #include "batch/pattern_command.h"
 #include "batch/powder_command.h"
+#include "batch/reference.h"
 #include "batch/reflections_command.h"
 #include "core/task.h"
 #include "shell/program/program.h"
@@ -22,6 +24,7 @@ namespace {
 int run(int argc, char** argv) {
   CLI::App app("Diffraction of crystals without a window.", "zol-batch");
   app.require_subcommand(1);
+  app.set_help_flag("-h,--help", "this text");
   app.set_version_flag("--version", std::string(zol::program_version));
   app.get_formatter()->column_width(34);
   int status = zol::batch_done;
@@ -34,6 +37,11 @@ int run(int argc, char** argv) {
     zol::add_index_command(app, status);
     zol::add_centre_command(app);
     zol::add_map_command(app, status);
+    // For whoever packs the program; no command of it.
+    if (argc == 3 && std::string_view(argv[1]) == "--write-reference") {
+      zol::write_reference(app, argv[2]);
+      return status;
+    }
     app.parse(argc, argv);
     return status;
   } catch (const CLI::ParseError& error) {

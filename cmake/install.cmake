@@ -8,7 +8,14 @@ install(FILES packaging/zol.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applica
 install(FILES packaging/io.github.zol.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME io.github.zol.xml)
 install(FILES packaging/io.github.zol.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES shell/desktop/images/zol.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES packaging/zol.1 packaging/zol-batch.1 packaging/zol-script.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES packaging/zol.1 packaging/zol-script.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+# Those of zol-batch are made with it.
+set(batch_reference ${CMAKE_BINARY_DIR}/batch/reference)
+install(DIRECTORY ${batch_reference}/ DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 FILES_MATCHING PATTERN *.1)
+install(FILES ${batch_reference}/zol-batch.bash
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME zol-batch)
+install(FILES ${batch_reference}/_zol-batch DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
+install(FILES ${batch_reference}/zol-batch.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 
 install(DIRECTORY docs/user-guide docs/images DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN draw EXCLUDE)
