@@ -61,7 +61,11 @@ int main(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);  // NOLINT(cert-err33-c): a closed pipe fails the write
   zol::take_stop_signals();
   try {
-    return run(argc, argv);
+    const int status = run(argc, argv);
+    std::cout.flush();
+    if (std::cout || status != zol::batch_done) return status;
+    std::cerr << "zol-batch: can't write to standard output\n";
+    return zol::batch_failed;
   } catch (...) {  // no memory even for the words of the command line
     return zol::batch_failed;
   }
