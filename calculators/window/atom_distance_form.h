@@ -3,6 +3,7 @@
 
 #include "calculators/atom_distances.h"
 #include "shell/services/guards.h"
+#include "shell/services/list_columns.h"
 #include "shell/services/window_services.h"
 #include "shell/services/workbench.h"
 
@@ -24,6 +25,18 @@ struct AtomDistanceForm : Window {
       return guard::first_of({guard::when(seen.NAtom < 1, "there are no atoms"),
                               guard::when(!(DistanceMax > 0), "the largest distance is not above 0")});
     });
+    constexpr auto word = ListColumn::Word;
+    List1.table = std::make_shared<const ListColumns>(
+        ListColumns{"Distances",
+                    always({{"atom 1", "", 7, word},
+                            {"", "", 0, word, '('},
+                            {"element 1", "", 0, word, ')'},
+                            {"", "", 0, word, '-'},
+                            {"atom 2", "", 7, word},
+                            {"", "", 0, word, '('},
+                            {"element 2", "", 0, word, ')'},
+                            {"distance", "Å"}}),
+                    [](std::string_view line) { return !line.starts_with("---"); }});
     List1.made_from = Origin{{inputs::crystal(), inputs::settings({}, {&Text1})}, {&Command1}};
   }
 
