@@ -43,7 +43,7 @@ Canvas& draw_spots(BatchProgram& program, const PatternWords& words, const std::
   form.Option1.set_on(!words.roots);
   form.Option2.set_on(words.roots);
   form.Check3.set_value(words.index ? 1 : 0);
-  form.Command8.click();
+  BatchProgram::click(form.Command8);
   return form.Picture1;
 }
 
@@ -54,7 +54,7 @@ Canvas& draw_fiber(BatchProgram& program, const PatternWords& words, const std::
   const double whole_list = 1 / double{program.state().Dmin};
   set_number(form.Text1, words.area.value_or(whole_list));
   set_number(form.Text2, words.dispersion.value_or(usual_dispersion_deg));
-  form.Command8.click();
+  BatchProgram::click(form.Command8);
   return form.Picture1;
 }
 
@@ -66,7 +66,7 @@ Pattern2Form& draw_kikuchi(BatchProgram& program, const PatternWords& words, con
   if (words.bands) form.Text19.set_text(std::to_string(*words.bands));
   form.Option1.set_on(!words.roots);
   form.Option2.set_on(words.roots);
-  form.Command8.click();
+  BatchProgram::click(form.Command8);
   return form;
 }
 
@@ -76,7 +76,7 @@ Canvas& draw(BatchProgram& program, const PatternWords& words, const std::array<
   Pattern2Form& form = draw_kikuchi(program, words, axis);
   if (words.kind == "map") {
     form.Check2.click();
-    form.Command8.click();
+    BatchProgram::click(form.Command8);
     return program.window<ZaxisForm>().Picture1;
   }
   if (words.kind == "picture") {

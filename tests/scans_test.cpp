@@ -329,7 +329,7 @@ class TwoGrains : public Scan {
   float scale_;
 };
 
-/// One crystal under a beam that moves: the centre is another one at each point.
+/// Nine grains under a beam that moves: the centre is another one at each point.
 class DriftingScan : public Scan {
  public:
   static constexpr std::size_t side = 60;
@@ -343,7 +343,8 @@ class DriftingScan : public Scan {
     block.begin(first, count, side * side);
     for (std::size_t i = 0; i < count; ++i) {
       std::vector<float> drawn;
-      draw_bands(*metal().sphere, rotation_of_bunge({40, 50, 60}) * picture_from_sample(70).transpose(),
+      const double grain = static_cast<double>((first + i) % 12 / 4 + 3 * ((first + i) / 36));  // 4 x 3 points
+      draw_bands(*metal().sphere, rotation_of_bunge({37 * grain, 50, 23 * grain}) * picture_from_sample(70).transpose(),
                  {upside_down(truth().at(first + i), {int{side}, int{side}}), double{side}}, int{side}, int{side},
                  drawn);
       for (std::size_t p = 0; p < side * side; ++p) {
