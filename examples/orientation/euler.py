@@ -66,9 +66,9 @@ def euler_angles(cell, uvw, rotation, tilt):
 def main():
     words = argparse.ArgumentParser(description=__doc__.split("\n")[0])
     words.add_argument("crystal", help="crystal file (.cry)")
-    words.add_argument("numbers", nargs=4, type=float, metavar=("u", "v", "w", "rotation")[0], help="u v w rotation")
+    words.add_argument("numbers", nargs=4, type=float, metavar="NUMBER", help="u v w and the rotation")
     words.add_argument("--tilt", type=float, default=70, help="of the sample less that of the screen, degrees")
-    given = words.parse_args()
+    given = words.parse_args([word.rstrip(".") for word in sys.argv[1:]])  # "-571." as the list has it
     try:
         with open(given.crystal, encoding="latin-1", newline="") as file:
             cell = [float(field) for field in next(csv.reader(file))[:6]]
