@@ -8,7 +8,7 @@ test_packages="locales python3"
 # For the test that uses the program in real windows, and the pictures of the guide.
 screen_packages="xvfb openbox"
 # With the last three the installation test looks at the desktop entry, the metainfo and the man pages too.
-style_packages="clang-format-14 clang-tidy-14 clang-14 cppcheck desktop-file-utils appstream mandoc"
+style_packages="codespell clang-format-14 clang-tidy-14 clang-14 cppcheck desktop-file-utils appstream mandoc"
 fuzz_packages="clang-14 libclang-rt-14-dev"
 
 # Installs the packages among the arguments that are not there, and says so.

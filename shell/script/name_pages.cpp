@@ -50,8 +50,8 @@ std::vector<Row> rows_of(const Window& window) {
 std::string controls_table(const Window& window) {
   std::string page = "| Control | Kind | Caption |\n|---|---|---|\n";
   for (const Row& row : rows_of(window)) {
-    const std::string upto = row.last == row.name ? "" : " to `" + row.last + "`";
-    page += "| `" + row.name + "`" + upto + " | " +
+    const std::string up_to = row.last == row.name ? "" : " to `" + row.last + "`";
+    page += "| `" + row.name + "`" + up_to + " | " +
             std::string(kind_words.at(static_cast<std::size_t>(row.control->kind()))) + " | " +
             cell_text(row.control->caption()) + " |\n";
   }
