@@ -39,6 +39,9 @@ void use_main_window(const User& user) {
   user.load_crystal("Quartz.cry");
   expect(user.lines("Main1", "List2") > 100, "the list of quartz is too short");
   user.take_picture("Main1", "main1");
+  user.take_numbered_picture("Main1", "main1-numbered",
+                             {"menubar", "Text1", "Text7", "Command1", "Combo1", "Text15", "Command6", "List2", "Command7",
+                              "Command13", "List1"});
   user.click("Main1", "Command1");
   User::type_on(user.widget<QTableView>("InputAtom", "G"), "0.2");
   user.take_picture("InputAtom", "input-atom");
@@ -208,6 +211,11 @@ void use_kikuchi_windows(const User& user) {
     user.fill("Pattern2", {{"Text3", u}, {"Text4", v}, {"Text5", w}});
     user.click("Pattern2", "Command8");
     user.take_picture("Pattern2", picture);
+    if (picture == std::string_view("kikuchi-silicon")) {
+      user.take_numbered_picture("Pattern2", "kikuchi-numbered",
+                                 {"menubar", "Text3", "Command8", "Text1", "Text21", "Check2", "Command1(0)", "Command2",
+                                  "Command6", "List1", "Picture1"});
+    }
   }
   user.save("kikuchi", "kikuchi.bmp", [&user] { user.choose("Pattern2", "ISAVE"); });
   user.click("Pattern2", "Check2");
@@ -349,6 +357,8 @@ void index_pattern(const User& user) {
   for (const auto* button : {"Check1", "Command1"}) user.click("PATTERN3", button);
   expect(user.lines("PATTERN3", "List1") > 1, "the pattern of silicon has no solution");
   user.take_picture("PATTERN3", "analysis");
+  user.take_numbered_picture("PATTERN3", "analysis-numbered",
+                             {"menubar", "Picture1", "Text3", "Text5", "Text2", "Check1", "Command1", "List1"});
   for (const auto* mode : {"CPS_Si001", "CP_Setting_Show"}) user.choose("PATTERN3", mode);
   user.take_picture("PATTERN3", "analysis-calibration");
   for (const auto* mode : {"CPS_Si001", "CP_Setting_Show"}) user.choose("PATTERN3", mode);
@@ -365,6 +375,9 @@ void index_automatically(const User& user) {
   expect(user.lines("AutoIndex", "Bands") == 9 && user.lines("AutoIndex", "Solutions") > 0,
          "the pattern of silicon is not indexed");
   user.take_picture("AutoIndex", "automatic-indexing");
+  user.take_numbered_picture("AutoIndex", "automatic-indexing-numbered",
+                             {"BandCount", "CircleMask", "Index", "RefineCentre", "Show", "Status", "Solutions", "Bands",
+                              "Families", "Crystals"});
   user.take_picture("PATTERN3", "automatic-indexing-bands");
   user.click("AutoIndex", "Over");
   user.save("simulated", "simulated.bmp", [&user] { user.choose("AutoIndex", "SaveSimulated"); });
