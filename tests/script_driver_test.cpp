@@ -124,6 +124,7 @@ TEST(Script, ReachesAllNamesOfThePages) {
   std::ostringstream output;
   ScriptServices services(output, nullptr);
   Program program({ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services);
+  program.start();
   for (const auto& [name, text] : name_pages(program)) {
     EXPECT_EQ(text, read_file(ZOL_SOURCE_DIR "/docs/names/" + name)) << "zol-script --names docs/names writes them";
   }
