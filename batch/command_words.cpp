@@ -40,8 +40,11 @@ std::string value_name(const std::string& kind) {
 WordOption option_of(const CLI::Option& option) {
   WordOption found;
   found.place = option.get_positional();
-  found.name = found.place ? option.get_name(true) : "--" + option.get_lnames().front();
-  if (!option.get_snames().empty()) found.letter = "-" + option.get_snames().front();
+  const auto& long_names = option.get_lnames();
+  const auto& letters = option.get_snames();
+  const bool letter_alone = long_names.empty();
+  found.name = found.place ? option.get_name(true) : letter_alone ? "-" + letters.front() : "--" + long_names.front();
+  if (!letters.empty() && !letter_alone) found.letter = "-" + letters.front();
   found.group = option.get_group();
   found.description = option.get_description();
   found.required = option.get_required();

@@ -8,7 +8,7 @@
 namespace zol {
 
 struct WordOption {
-  std::string name;         ///< "--crystal", or of a place "FILE"
+  std::string name;         ///< "--crystal", "-v" of a letter alone, or of a place "FILE"
   std::string letter;       ///< "-c", empty without one
   std::string group;        ///< heading of the help
   std::string description;  ///< with bounds and what holds when it is left out

@@ -122,7 +122,8 @@ std::string fish_completion(const std::vector<WordCommand>& commands) {
   for (const auto& command : commands) {
     for (const auto& option : command.options) {
       if (option.place) continue;
-      text += "complete -c zol-batch -n '__fish_seen_subcommand_from " + command.name + "' -l " + option.name.substr(2);
+      text += "complete -c zol-batch -n '__fish_seen_subcommand_from " + command.name + "' ";
+      text += option.name.starts_with("--") ? "-l " + option.name.substr(2) : "-s " + option.name.substr(1);
       if (!option.letter.empty()) text += " -s " + option.letter.substr(1);
       if (!option.choices.empty()) {
         text += " -x -a " + quoted(joined(option.choices), "\\");
