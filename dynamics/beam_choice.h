@@ -1,0 +1,37 @@
+// The beams that matter for a direction: those of the smallest deviation from Bragg's law against their potential.
+#pragma once
+
+#include <array>
+#include <utility>
+#include <vector>
+
+#include "dynamics/potential.h"
+
+namespace zol {
+
+/// Holds storage from one direction to the next; one thread at a time. What it chooses does not depend on what it chose
+/// before.
+class BeamChoice {
+ public:
+  explicit BeamChoice(const CrystalPotential& potential);
+
+  /// Electrons leave in a direction, a unit vector of the frame of core/lattice.h: by reciprocity the wave of a
+  /// detector there comes in against it. 000 and count - 1 others.
+  void choose(const std::array<double, 3>& direction, int count);
+  [[nodiscard]] const std::vector<int>& offsets() const { return offsets_; }
+  /// Of each, as CoupledBeams wants them.
+  [[nodiscard]] const std::vector<float>& deviations() const { return deviations_; }
+
+ private:
+  void gather(float limit);
+
+  const CrystalPotential* potential_;
+  std::size_t padded_;
+  std::vector<float> x_, y_, z_, square_, weight_, deviation_, rank_;
+  float limit_ = 0;  ///< a guess from the direction before
+  std::vector<std::pair<float, int>> near_;
+  std::vector<int> chosen_, offsets_;
+  std::vector<float> deviations_;
+};
+
+}  // namespace zol
