@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "scans/lzf.h"
+#include "hdf5/lzf.h"
 #include "scans/map_files.h"
 #include "scans/map_run.h"
 #include "scans/readers.h"
