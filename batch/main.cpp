@@ -6,6 +6,7 @@
 
 #include "batch/batch_status.h"
 #include "batch/map_command.h"
+#include "batch/master_command.h"
 #include "core/task.h"
 #include "shell/program/program.h"
 #include "shell/script/stop_signal.h"
@@ -21,6 +22,7 @@ int run(int argc, char** argv) {
   int status = zol::batch_done;
   try {
     zol::add_map_command(app, status);
+    zol::add_master_command(app, status);
     app.parse(argc, argv);
     return status;
   } catch (const CLI::ParseError& error) {

@@ -98,6 +98,20 @@ void add_atoms(DynamicCrystal& crystal, const CrystalState& state) {
   crystal.assumed_b = static_cast<int>(assumed.size());
 }
 
+void add_sites(DynamicCrystal& crystal, const CrystalState& state) {
+  for (int n = 1; n <= state.NAtom.value(); ++n) {
+    const auto b_iso = static_cast<double>(state.AtomB(n));
+    DynamicSite site{kind_of(state, without_charge(state.AtomElement(n)), b_iso).atomic_number,
+                     static_cast<double>(state.AtomOcc(n)),
+                     {},
+                     b_iso > 0 ? b_iso : usual_b_iso};
+    for (int axis = 1; axis <= 3; ++axis) {
+      site.position[static_cast<std::size_t>(axis - 1)] = static_cast<double>(state.AtomPos(n, axis));
+    }
+    crystal.sites.push_back(site);
+  }
+}
+
 }  // namespace
 
 DynamicCrystal dynamic_crystal(const CrystalState& state, const SpaceGroup* group) {
@@ -108,6 +122,7 @@ DynamicCrystal dynamic_crystal(const CrystalState& state, const SpaceGroup* grou
   crystal.space_group = state.SGNumber.value();
   if (!(state.NCell > 0)) throw RunFailure("the crystal has no atoms: dynamical patterns need them");
   add_atoms(crystal, state);
+  add_sites(crystal, state);
   std::vector<SymmetryOperator> operators;
   if (group != nullptr) {
     for (const auto& op : group->operators) operators.push_back(permute_axes(op, state.AxisSetting));

@@ -29,8 +29,17 @@ struct DynamicAtom {
   std::array<double, 3> position{};  ///< fractional
 };
 
+/// Of the asymmetric unit, as the crystal's setting has it.
+struct DynamicSite {
+  int atomic_number = 0;
+  double occupancy = 1;
+  std::array<double, 3> position{};  ///< fractional
+  double b_iso = 0;                  ///< square angstroms
+};
+
 struct DynamicCrystal {
   CellConstants cell;
+  std::vector<DynamicSite> sites;
   std::vector<AtomKind> kinds;
   std::vector<DynamicAtom> atoms;
   /// Of the point group, not the Laue group: on directions in the frame of core/lattice.h; the identity first.

@@ -223,6 +223,7 @@ MasterPattern master_pattern(const DynamicCrystal& crystal, const MasterSettings
   master.size = settings.size;
   master.kilovolts = settings.kilovolts;
   master.cell = crystal.cell;
+  master.sites = crystal.sites;
   master.space_group = crystal.space_group;
   const SquareGrid square(settings.size);
   // Rings a quarter closer than the square grid, from which it is read.

@@ -42,6 +42,7 @@ struct MasterPattern {
   std::vector<Halves> patterns;  ///< of each voltage
   MasterChoice choice;
   CellConstants cell;
+  std::vector<DynamicSite> sites;
   int space_group = 1;
   std::size_t directions = 0;  ///< that were computed, of one voltage
 

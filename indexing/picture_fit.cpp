@@ -21,8 +21,8 @@ struct DirectionRow {
 };
 
 /// Where a row of directions falls on the sphere's grid: the point below, and the parts of a step beyond it.
-ZOL_VECTOR_CLONES void places_of(const DirectionRow& row, int count, float scale, float middle, int size, int* places,
-                                 float* parts_x, float* parts_y) {
+ZOL_VECTOR_CLONES void places_of(const DirectionRow& row, int count, float scale, float middle, int size, int opposite,
+                                 int* places, float* parts_x, float* parts_y) {
   for (int i = 0; i < count; ++i) {
     const auto n = static_cast<float>(i);
     const float x = row.x + n * row.dx;
@@ -33,7 +33,7 @@ ZOL_VECTOR_CLONES void places_of(const DirectionRow& row, int count, float scale
     const float gy = y * per + middle;
     const int column = static_cast<int>(gx);
     const int line = static_cast<int>(gy);
-    places[i] = line * size + column;
+    places[i] = line * size + column + (z < 0 ? opposite : 0);
     parts_x[i] = gx - static_cast<float>(column);
     parts_y[i] = gy - static_cast<float>(line);
   }
@@ -154,7 +154,8 @@ void draw_row(const KinematicSphere& sphere, const Rotation& crystal_from_pictur
   const Vector3 first = crystal_from_picture * projection.direction(0.5, y + 0.5);
   const DirectionRow row{static_cast<float>(first[0]), static_cast<float>(first[1]), static_cast<float>(first[2]),
                          static_cast<float>(step[0]),  static_cast<float>(step[1]),  static_cast<float>(step[2])};
-  places_of(row, picture.width, sphere.scale(), sphere.middle(), sphere.size(), places, parts, parts + picture.width);
+  places_of(row, picture.width, sphere.scale(), sphere.middle(), sphere.size(), sphere.opposite(), places, parts,
+            parts + picture.width);
   look_up(sphere.values().data(), sphere.size(), picture.width, places, parts, parts + picture.width,
           picture.values + index(y) * index(picture.width));
 }
