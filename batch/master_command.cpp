@@ -24,7 +24,7 @@ namespace {
 struct MasterWords {
   std::string crystal, output;
   double kilovolt = 20;
-  std::vector<double> kilovolts;
+  std::vector<double> kilovolts, rule;
   MasterSettings settings;
   bool png = false, check = true, quiet = false;
 };
@@ -84,14 +84,14 @@ void tell(const DynamicCrystal& crystal, const MasterPattern& master, const Mast
     std::cout << crystal.assumed_b << " sites tell no B: " << Format(usual_b_iso, "0.0#")
               << " square angstroms taken\n";
   }
-  std::cout << choice.beams << " beams, spacings down to " << Format(choice.smallest_spacing, "0.0##")
-            << " angstroms, mean depth " << Format(choice.depth_nm, "0.0##") << " nm, " << master.directions
-            << " directions\n";
+  std::cout << (choice.rule ? "beams by coupling" : std::to_string(choice.beams) + " beams") << ", spacings down to "
+            << Format(choice.smallest_spacing, "0.0##") << " angstroms, mean depth " << Format(choice.depth_nm, "0.0##")
+            << " nm, " << master.directions << " directions\n";
   if (choice.depth_nm < settings.depth_nm) {
     std::cout << "the depth of " << Format(settings.depth_nm, "0.0##")
               << " nm is beyond what the absorption of this crystal lets through\n";
   }
-  if (!check) return;
+  if (!check || choice.rule) return;
   const auto convergence = master_convergence(crystal, settings, task);
   std::cout << "twice the beams changes " << percent(convergence.twice_beams) << ", spacings down to "
             << Format(0.8 * choice.smallest_spacing, "0.0##") << " angstroms change "
@@ -105,6 +105,7 @@ int run(MasterWords words) {
   MasterSettings& settings = words.settings;
   settings.kilovolts = words.kilovolts.empty() ? std::vector{words.kilovolt} : words.kilovolts;
   if (settings.threads == 0) settings.threads = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  if (!words.rule.empty()) settings.rule = {words.rule[0], words.rule[1], words.rule[2]};
   try {
     const DynamicCrystal crystal = dynamic_crystal(loaded.state, &loaded.group);
     const MasterPattern master = master_pattern(crystal, settings, task);
@@ -146,6 +147,10 @@ void add_master_command(CLI::App& app, int& status) {
       ->check(CLI::Range(0.2, 5.0));
   master->add_option("--beams", words->settings.beams, "of each direction; left out: by the cell")
       ->check(CLI::Range(2, 1000));
+  master->add_option("--coupling", words->rule, "STRONG,WEAK,LISTED in place of --beams, as 4,8,50")
+      ->delimiter(',')
+      ->expected(3)
+      ->check(CLI::PositiveNumber);
   master->add_flag("--png", words->png, "the stereographic picture beside it, of both halves where they differ");
   master->add_flag("!--no-check", words->check, "do not compare a sample with more beams and finer spacings");
   master->add_option("-j,--threads", words->settings.threads, "0: one for each core")->check(CLI::Range(0, 4096));

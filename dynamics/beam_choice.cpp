@@ -66,12 +66,26 @@ void BeamChoice::gather(float limit) {
   }
 }
 
-void BeamChoice::choose(const std::array<double, 3>& direction, int count) {
+void BeamChoice::rank(const std::array<double, 3>& direction) {
   rank_all({x_.data(), y_.data(), z_.data(), square_.data(), weight_.data()}, padded_, static_cast<float>(direction[0]),
            static_cast<float>(direction[1]), static_cast<float>(direction[2]), deviation_.data(), rank_.data());
+  for (auto* part : {&offsets_, &weak_offsets_}) part->clear();
+  for (auto* part : {&deviations_, &weak_deviations_}) part->clear();
+}
+
+void BeamChoice::take(int candidate, std::vector<int>& offsets, std::vector<float>& deviations) const {
+  const auto i = static_cast<std::size_t>(candidate);
+  const double per_depth = std::numbers::pi / potential_->wave_number();
+  offsets.push_back(potential_->candidates()[i].offset);
+  deviations.push_back(static_cast<float>(-per_depth * static_cast<double>(deviation_[i])));
+}
+
+void BeamChoice::choose(const std::array<double, 3>& direction, int count) {
+  rank(direction);
   const std::size_t wanted = std::min(static_cast<std::size_t>(std::max(1, count)), potential_->candidates().size());
+  near_.clear();
   if (limit_ > 0) gather(limit_);
-  if (near_.size() < wanted || !(limit_ > 0)) gather(endless);
+  if (near_.size() < wanted) gather(endless);
   constexpr float reserve = 1.3F;
   if (near_.size() > wanted) {
     const auto last = near_.begin() + static_cast<std::ptrdiff_t>(wanted) - 1;
@@ -82,13 +96,30 @@ void BeamChoice::choose(const std::array<double, 3>& direction, int count) {
   chosen_.clear();
   for (const auto& [rank, index] : near_) chosen_.push_back(index);
   std::sort(chosen_.begin(), chosen_.end());
-  offsets_.clear();
-  deviations_.clear();
+  for (const int index : chosen_) take(index, offsets_, deviations_);
+}
+
+void BeamChoice::choose(const std::array<double, 3>& direction, const CouplingRule& rule) {
+  rank(direction);
+  near_.clear();
+  gather(static_cast<float>(rule.listed));
+  const PairTerm* pairs = potential_->pairs();
+  const auto& candidates = potential_->candidates();
   const double per_depth = std::numbers::pi / potential_->wave_number();
-  for (const int index : chosen_) {
+  for (const auto& [rank, index] : near_) {
     const auto i = static_cast<std::size_t>(index);
-    offsets_.push_back(potential_->candidates()[i].offset);
-    deviations_.push_back(static_cast<float>(-per_depth * static_cast<double>(deviation_[i])));
+    double strongest = 0;
+    for (const auto& [other_rank, other] : near_) {
+      // The beam itself counts too, by the mean potential.
+      const PairTerm& pair = pairs[candidates[i].offset - candidates[static_cast<std::size_t>(other)].offset];
+      strongest = std::max(strongest, std::hypot(static_cast<double>(pair.re), static_cast<double>(pair.im)));
+    }
+    const double deviation = std::abs(static_cast<double>(deviation_[i])) / 2 * per_depth;
+    if (index == 0 || deviation <= rule.strong * strongest) {
+      take(index, offsets_, deviations_);
+    } else if (deviation <= rule.weak * strongest) {
+      take(index, weak_offsets_, weak_deviations_);
+    }
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <complex>
 #include <vector>
 
 #include "dynamics/tiles.h"
@@ -40,6 +41,7 @@ struct DepthSolver::Storage {
   [[nodiscard]] Tile& at(std::size_t row, std::size_t column) { return matrix[row * blocks + column]; }
   void assemble(const CoupledBeams& beams, float shift);
   void clear_padding(std::size_t count);
+  void fold_weak(const CoupledBeams& beams);
   void factorise(bool symmetric);
   void solve(const std::vector<TileVector>& right);
   [[nodiscard]] double summed_yield() const;
@@ -82,6 +84,25 @@ void DepthSolver::Storage::clear_padding(std::size_t count) {
       for (std::size_t j = 0; j < tile_side; ++j) {
         std::fill(tile->re[j].values.begin() + static_cast<std::ptrdiff_t>(first), tile->re[j].values.end(), 0.0F);
         std::fill(tile->im[j].values.begin() + static_cast<std::ptrdiff_t>(first), tile->im[j].values.end(), 0.0F);
+      }
+    }
+  }
+}
+
+/// M_ij -= M_iw M_wj / M_ww. Source: Wang & De Graef, Ultramicroscopy 160 (2016) 35.
+void DepthSolver::Storage::fold_weak(const CoupledBeams& beams) {
+  const std::size_t count = beams.offsets.size();
+  for (std::size_t w = 0; w < beams.weak_offsets.size(); ++w) {
+    const std::complex<float> own(0, beams.weak_deviations[w]);
+    for (std::size_t j = 0; j < count; ++j) {
+      const PairTerm& from = beams.pairs[beams.weak_offsets[w] - beams.offsets[j]];
+      const std::complex<float> factor = std::complex<float>(from.re, from.im) / own;
+      for (std::size_t i = 0; i < count; ++i) {
+        const PairTerm& to = beams.pairs[beams.offsets[i] - beams.weak_offsets[w]];
+        const std::complex<float> change = std::complex<float>(to.re, to.im) * factor;
+        Tile& tile = at(i / tile_side, j / tile_side);
+        tile.re[j % tile_side].values[i % tile_side] -= change.real();
+        tile.im[j % tile_side].values[i % tile_side] -= change.imag();
       }
     }
   }
@@ -137,6 +158,7 @@ double DepthSolver::yield(const CoupledBeams& beams, const DepthSettings& settin
   Storage& s = *storage_;
   const double decay = 1 / (2 * settings.mean_depth);
   s.assemble(beams, static_cast<float>(decay + settings.scale));
+  s.fold_weak(beams);
   s.factorise(beams.symmetric);
   const std::size_t blocks = s.blocks;
   std::vector<TileVector> now(blocks);

@@ -29,6 +29,9 @@ struct CoupledBeams {
   std::span<const int> offsets;       ///< that of the beam which comes in first
   std::span<const float> deviations;  ///< diagonal of M is i times these, 1/angstrom
   bool symmetric = false;             ///< elements (i, j) and (j, i) are the same, those of S real
+  /// Beams that are not followed but folded into the others to first order, as Bethe did.
+  std::span<const int> weak_offsets = {};
+  std::span<const float> weak_deviations = {};
 };
 
 /// Holds storage from one direction to the next; one thread at a time.

@@ -11,7 +11,6 @@
 
 #include "core/number_text.h"
 #include "core/run_failure.h"
-#include "dynamics/beam_choice.h"
 #include "dynamics/depth_solver.h"
 #include "dynamics/potential.h"
 
@@ -32,17 +31,23 @@ DepthSettings depth_settings(double depth_nm) {
 class Directions {
  public:
   Directions(const CrystalPotential& potential, const MasterChoice& choice)
-      : potential_(potential), beams_(potential), count_(choice.beams), depth_(depth_settings(choice.depth_nm)) {}
+      : potential_(potential), beams_(potential), choice_(choice), depth_(depth_settings(choice.depth_nm)) {}
   [[nodiscard]] double yield(const GridDirection& direction) {
-    beams_.choose(direction, count_);
-    return solver_.yield({potential_.pairs(), beams_.offsets(), beams_.deviations(), potential_.symmetric()}, depth_);
+    if (choice_.rule) {
+      beams_.choose(direction, *choice_.rule);
+    } else {
+      beams_.choose(direction, choice_.beams);
+    }
+    return solver_.yield({potential_.pairs(), beams_.offsets(), beams_.deviations(), potential_.symmetric(),
+                          beams_.weak_offsets(), beams_.weak_deviations()},
+                         depth_);
   }
 
  private:
   const CrystalPotential& potential_;
   BeamChoice beams_;
   DepthSolver solver_;
-  int count_;
+  MasterChoice choice_;
   DepthSettings depth_;
 };
 
@@ -180,7 +185,7 @@ MasterChoice master_choice(const DynamicCrystal& crystal, const MasterSettings& 
   check_range("the depth in nm", settings.depth_nm, 0.1, 100);
   if (settings.kilovolts.empty()) throw RunFailure("master pattern: no voltage");
   for (const double kilovolt : settings.kilovolts) check_range("the voltage in kV", kilovolt, 1, 400);
-  MasterChoice choice{settings.smallest_spacing, settings.beams, settings.depth_nm};
+  MasterChoice choice{settings.smallest_spacing, settings.beams, settings.depth_nm, settings.rule};
   const double volume = crystal.lattice().volume() / static_cast<double>(1 + crystal.centring.size());
   if (choice.beams == 0) {
     constexpr double small = 60;

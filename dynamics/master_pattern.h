@@ -5,10 +5,12 @@
 // docs/theory-dynamical.md has the formulas with their sources.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "core/task.h"
+#include "dynamics/beam_choice.h"
 #include "dynamics/direction_grid.h"
 #include "dynamics/dynamic_crystal.h"
 
@@ -20,6 +22,7 @@ struct MasterSettings {
   double depth_nm = 8;                ///< mean depth that electrons come from
   double smallest_spacing = 0;        ///< angstroms; 0: by the volume of the cell
   int beams = 0;                      ///< 0: by the volume of the cell
+  std::optional<CouplingRule> rule;   ///< in place of a number of beams
   int threads = 1;
 };
 
@@ -28,6 +31,7 @@ struct MasterChoice {
   double smallest_spacing = 0;
   int beams = 0;
   double depth_nm = 0;  ///< at most that in which electrons lose their coherence
+  std::optional<CouplingRule> rule = {};
 };
 /// @throws RunFailure  a setting out of its range
 [[nodiscard]] MasterChoice master_choice(const DynamicCrystal& crystal, const MasterSettings& settings);
