@@ -49,6 +49,7 @@ struct MasterPattern {
   std::vector<DynamicSite> sites;
   int space_group = 1;
   std::size_t directions = 0;  ///< that were computed, of one voltage
+  std::string key;             ///< of what it was made of, where it is kept in a cache
 
   /// In a direction of any length but 0, linear between grid points. @param pattern  number of the voltage
   [[nodiscard]] double at(const GridDirection& direction, std::size_t pattern = 0) const;
