@@ -31,7 +31,7 @@ namespace {
 struct MapWords {
   std::string scan;
   std::vector<std::string> crystals, outputs;
-  std::string centre, convention = "bruker", size, background = "auto", average = "nlpar", refine = "pattern";
+  std::string centre, convention = "bruker", size, background = "auto", average, refine = "pattern";
   std::string scan_x = "right", scan_y = "down", dataset, region, mask;
   std::optional<double> tilt, camera, step;
   double screen_mm = 0, kilovolt = 0, min_ci = 0.1, max_fit = 3;
@@ -65,6 +65,12 @@ CentreConvention convention_of(const std::string& name) {
   return *convention;
 }
 
+/// Dynamical patterns are fitted so closely that neighbours, turned by a little, only blur what is fitted.
+std::string usual_average(const MapWords& words) {
+  if (!words.average.empty()) return words.average;
+  return words.master.masters.empty() ? "nlpar" : "none";
+}
+
 MapSettings settings_of(const MapWords& words, const ScanHeader& header) {
   MapSettings settings;
   constexpr double usual_tilt = 70;
@@ -82,14 +88,13 @@ MapSettings settings_of(const MapWords& words, const ScanHeader& header) {
                         : words.background == "static" ? Background::stored
                         : words.background == "none"   ? Background::none
                                                        : Background::dynamic;
-  if (words.average.starts_with("nlpar=")) {
-    settings.own_share = numbers_of<1>("--average", words.average.substr(std::string_view("nlpar=").size()), ',')[0];
-  } else if (words.average != "nlpar" && words.average != "3x3" && words.average != "none") {
-    throw CLI::ValidationError("--average", words.average + " is none of nlpar, nlpar=SHARE, 3x3, none");
+  const std::string average = usual_average(words);
+  if (average.starts_with("nlpar=")) {
+    settings.own_share = numbers_of<1>("--average", average.substr(std::string_view("nlpar=").size()), ',')[0];
+  } else if (average != "nlpar" && average != "3x3" && average != "none") {
+    throw CLI::ValidationError("--average", average + " is none of nlpar, nlpar=SHARE, 3x3, none");
   }
-  settings.averaging = words.average == "none"  ? Averaging::none
-                       : words.average == "3x3" ? Averaging::plain
-                                                : Averaging::likeness;
+  settings.averaging = average == "none" ? Averaging::none : average == "3x3" ? Averaging::plain : Averaging::likeness;
   settings.least_confidence = words.min_ci;
   settings.most_fit_deg = words.max_fit;
   settings.flip = words.flip;
@@ -305,7 +310,8 @@ void add_map_command(CLI::App& app, int& status) {
   map->add_option("--background", words->background, "auto, static, dynamic, none")
       ->group(patterns)
       ->check(CLI::IsMember({"auto", "static", "dynamic", "none"}));
-  map->add_option("--average", words->average, "nlpar, nlpar=SHARE, 3x3, none")->group(patterns);
+  map->add_option("--average", words->average, "nlpar, nlpar=SHARE, 3x3, none; left out: nlpar, none with --master")
+      ->group(patterns);
   map->add_option("--mask", words->mask, "circle")->group(patterns)->check(CLI::IsMember({"circle"}));
   map->add_option("--region", words->region, "X,Y,W,H of the map, in points")->group(patterns);
   map->add_option("--dataset", words->dataset, "name of the scan in a file of several")->group(patterns);

@@ -14,12 +14,13 @@
 namespace zol {
 namespace {
 
-/// Standard deviation of a pixel's width in the middle of the picture, degrees. A large picture is gathered first.
+/// Standard deviation by which the sphere is smoothed, degrees: less than that of a pixel itself, since what is too
+/// sharp costs a fit less than what is too smooth. A large picture is gathered first.
 double blur_deg(const MasterView& view) {
   constexpr int gathered = 128;
+  constexpr double of_pixel = 0.12;
   const double pixels = std::min(view.width, gathered);
-  const double pixel = std::atan(1 / (view.centre.z * pixels)) * 180 / std::numbers::pi;
-  return pixel / std::sqrt(12.0);
+  return of_pixel * std::atan(1 / (view.centre.z * pixels)) * 180 / std::numbers::pi;
 }
 
 MasterPattern made_master(const MapMasterWords& words, const LoadedCrystal& crystal, const MasterView& view,

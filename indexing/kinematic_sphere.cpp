@@ -120,7 +120,8 @@ KinematicSphere::KinematicSphere(const std::function<double(const Vector3&)>& br
     : size_(size),
       scale_(static_cast<float>((size - 1) / 2.0 - margin)),
       middle_(static_cast<float>((size - 1) / 2.0)),
-      opposite_(inversion ? 0 : size * size) {
+      opposite_(inversion ? 0 : size * size),
+      continuous_(true) {
   values_.reserve(static_cast<std::size_t>(size * size + opposite_));
   for (const int side : {1, -1}) {
     if (side < 0 && inversion) break;

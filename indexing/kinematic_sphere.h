@@ -34,6 +34,8 @@ class KinematicSphere {
   [[nodiscard]] float scale() const { return scale_; }    ///< grid points per unit of the projection
   [[nodiscard]] float middle() const { return middle_; }  ///< grid coordinate of the pole
   [[nodiscard]] const std::vector<float>& values() const { return values_; }
+  /// Whether it holds all greys of a pattern, not its bands alone.
+  [[nodiscard]] bool continuous() const { return continuous_; }
   /// From a place of the first grid to that of the opposite direction; 0 where both are the same.
   [[nodiscard]] int opposite() const { return opposite_; }
   /// Brightness in a direction of the crystal's frame, of any length but 0; mean 0 over the sphere.
@@ -43,6 +45,7 @@ class KinematicSphere {
   int size_;
   float scale_, middle_;
   int opposite_ = 0;
+  bool continuous_ = false;
   std::vector<float> values_;  ///< row by row, x fastest
 };
 
