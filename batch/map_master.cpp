@@ -18,7 +18,7 @@ namespace {
 /// sharp costs a fit less than what is too smooth. A large picture is gathered first.
 double blur_deg(const MasterView& view) {
   constexpr int gathered = 128;
-  constexpr double of_pixel = 0.12;
+  constexpr double of_pixel = 0.14;
   const double pixels = std::min(view.width, gathered);
   return of_pixel * std::atan(1 / (view.centre.z * pixels)) * 180 / std::numbers::pi;
 }
