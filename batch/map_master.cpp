@@ -14,14 +14,15 @@
 namespace zol {
 namespace {
 
-/// Standard deviation by which the sphere is smoothed, degrees: less than that of a pixel itself, since what is too
-/// sharp costs a fit less than what is too smooth. A large picture is gathered first.
-double blur_deg(const MasterView& view) {
+/// Of a pixel in the middle of the picture as it is fitted: a large one is gathered first.
+double pixel_deg(const MasterView& view) {
   constexpr int gathered = 128;
-  constexpr double of_pixel = 0.14;
-  const double pixels = std::min(view.width, gathered);
-  return of_pixel * std::atan(1 / (view.centre.z * pixels)) * 180 / std::numbers::pi;
+  return std::atan(1 / (view.centre.z * std::min(view.width, gathered))) * 180 / std::numbers::pi;
 }
+
+/// Standard deviation by which the sphere is smoothed: less than that of a pixel itself, since what is too sharp costs
+/// a fit less than what is too smooth.
+constexpr double blur_of_pixel = 0.14;
 
 MasterPattern made_master(const MapMasterWords& words, const LoadedCrystal& crystal, const MasterView& view,
                           Task& task) {
@@ -32,7 +33,14 @@ MasterPattern made_master(const MapMasterWords& words, const LoadedCrystal& crys
   const std::string folder = cache_folder();
   const MasterCache cache(folder.empty() ? "" : folder + "/masters");
   try {
-    return cache.get(dynamic_crystal(crystal.state, &crystal.group), settings, task);
+    const DynamicCrystal dynamic = dynamic_crystal(crystal.state, &crystal.group);
+    // Coarse pixels see nothing of the finest lines.
+    constexpr double coarse_deg = 0.75;
+    constexpr double coarse_spacing = 0.5;
+    if (pixel_deg(view) > coarse_deg) {
+      settings.smallest_spacing = std::max(coarse_spacing, master_choice(dynamic, settings).smallest_spacing);
+    }
+    return cache.get(dynamic, settings, task);
   } catch (const RunFailure& failure) {
     throw RunFailure(crystal.title + ": " + failure.message());
   }
@@ -69,8 +77,8 @@ std::shared_ptr<const KinematicSphere> master_sphere_of(const MapMasterWords& wo
     throw RunFailure("--master: the crystal " + crystal.title + " has none; tell auto, or a file for each crystal");
   }
   const std::string& master = all_made ? words.masters.front() : words.masters[number];
-  return master_sphere(master == "auto" ? made_master(words, crystal, view, task) : read_master(master), blur_deg(view),
-                       task);
+  return master_sphere(master == "auto" ? made_master(words, crystal, view, task) : read_master(master),
+                       blur_of_pixel * pixel_deg(view), task);
 }
 
 }  // namespace zol

@@ -103,6 +103,20 @@ class SharedWork {
   std::exception_ptr failure_;
 };
 
+/// Waves that keep between the atoms are absorbed less than the mean, which the depths already hold; where they grew
+/// against it as fast as fewer electrons come from deeper, there would be no yield.
+double deepest_nm(const DynamicCrystal& crystal, double kilovolt) {
+  const FastElectron fast = fast_electron(kilovolt);
+  double absorption = 0;
+  for (const auto& atom : crystal.atoms) {
+    const AtomKind& kind = crystal.kinds[atom.kind];
+    absorption += atom.occupancy * absorptive_factor(kind.factor, 0, kind.b_iso, fast);
+  }
+  absorption *= fast.mass_ratio * fast.wavelength / crystal.lattice().volume();  // pi U'_0 / K, 1/angstrom
+  constexpr double share = 2.0 / 3;
+  return absorption > 0 ? share / (2 * absorption) / nanometre : 1e6;
+}
+
 template <class Grid>
 std::size_t kept(const DynamicCrystal& crystal) {
   return static_cast<std::size_t>(std::count_if(crystal.operations.begin(), crystal.operations.end(),
@@ -197,6 +211,7 @@ MasterChoice master_choice(const DynamicCrystal& crystal, const MasterSettings& 
     constexpr double most_candidates = 10000;
     choice.smallest_spacing = std::max(usual, std::cbrt(4 * pi / 3 * volume / most_candidates));
   }
+  choice.depth_nm = std::min(choice.depth_nm, deepest_nm(crystal, settings.kilovolts.back()));
   check_range("the number of beams", choice.beams, 2, 1000);
   check_range("the smallest spacing in angstroms", choice.smallest_spacing, 0.2, 5);
   return choice;
