@@ -10,6 +10,7 @@
 #include "batch/index_command.h"
 #include "batch/info_command.h"
 #include "batch/map_command.h"
+#include "batch/master_command.h"
 #include "batch/pattern_command.h"
 #include "batch/powder_command.h"
 #include "batch/reference.h"
@@ -37,6 +38,7 @@ int run(int argc, char** argv) {
     zol::add_index_command(app, status);
     zol::add_centre_command(app);
     zol::add_map_command(app, status);
+    zol::add_master_command(app, status);
     // For whoever packs the program; no command of it.
     if (argc == 3 && std::string_view(argv[1]) == "--write-reference") {
       zol::write_reference(app, argv[2]);

@@ -16,6 +16,7 @@
 #include "batch/batch_status.h"
 #include "batch/crystal_source.h"
 #include "batch/grey_image.h"
+#include "batch/map_master.h"
 #include "core/read_file.h"
 #include "core/run_failure.h"
 #include "scans/map_files.h"
@@ -30,12 +31,13 @@ namespace {
 struct MapWords {
   std::string scan;
   std::vector<std::string> crystals, outputs;
-  std::string centre, convention = "bruker", size, background = "auto", average = "nlpar", refine = "pattern";
+  std::string centre, convention = "bruker", size, background = "auto", average, refine = "pattern";
   std::string scan_x = "right", scan_y = "down", dataset, region, mask;
   std::optional<double> tilt, camera, step;
   double screen_mm = 0, kilovolt = 0, min_ci = 0.1, max_fit = 3;
   int bands = 9, families = 6, threads = 0;
   bool flip = false, resume = false, check = false, quiet = false, raw = false;
+  MapMasterWords master;
 };
 
 /// "3,4,5" @throws CLI::ValidationError  it has another count of numbers
@@ -63,6 +65,12 @@ CentreConvention convention_of(const std::string& name) {
   return *convention;
 }
 
+/// Dynamical patterns are fitted so closely that neighbours, turned by a little, only blur what is fitted.
+std::string usual_average(const MapWords& words) {
+  if (!words.average.empty()) return words.average;
+  return words.master.masters.empty() ? "nlpar" : "none";
+}
+
 MapSettings settings_of(const MapWords& words, const ScanHeader& header) {
   MapSettings settings;
   constexpr double usual_tilt = 70;
@@ -80,14 +88,13 @@ MapSettings settings_of(const MapWords& words, const ScanHeader& header) {
                         : words.background == "static" ? Background::stored
                         : words.background == "none"   ? Background::none
                                                        : Background::dynamic;
-  if (words.average.starts_with("nlpar=")) {
-    settings.own_share = numbers_of<1>("--average", words.average.substr(std::string_view("nlpar=").size()), ',')[0];
-  } else if (words.average != "nlpar" && words.average != "3x3" && words.average != "none") {
-    throw CLI::ValidationError("--average", words.average + " is none of nlpar, nlpar=SHARE, 3x3, none");
+  const std::string average = usual_average(words);
+  if (average.starts_with("nlpar=")) {
+    settings.own_share = numbers_of<1>("--average", average.substr(std::string_view("nlpar=").size()), ',')[0];
+  } else if (average != "nlpar" && average != "3x3" && average != "none") {
+    throw CLI::ValidationError("--average", average + " is none of nlpar, nlpar=SHARE, 3x3, none");
   }
-  settings.averaging = words.average == "none"  ? Averaging::none
-                       : words.average == "3x3" ? Averaging::plain
-                                                : Averaging::likeness;
+  settings.averaging = average == "none" ? Averaging::none : average == "3x3" ? Averaging::plain : Averaging::likeness;
   settings.least_confidence = words.min_ci;
   settings.most_fit_deg = words.max_fit;
   settings.flip = words.flip;
@@ -182,7 +189,7 @@ std::uint64_t fingerprint(const MapWords& words) {
     text += std::to_string(number) + '\n';
   }
   text += std::to_string(words.bands) + '\n' + std::to_string(words.families) + '\n' + (words.flip ? '1' : '0') +
-          (words.raw ? '1' : '0');
+          (words.raw ? '1' : '0') + fingerprint_text(words.master);
   std::error_code error;
   const auto time = std::filesystem::last_write_time(words.scan, error).time_since_epoch().count();
   return fingerprint_of(text + std::to_string(time));
@@ -223,13 +230,17 @@ int run(const MapWords& words) {
   constexpr double usual_kilovolt = 20;
   const double kilovolt = words.kilovolt > 0 ? words.kilovolt : header.kilovolt.value_or(usual_kilovolt);
 
+  const int threads =
+      words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
   QuietTask task;
   MapResult map;
   std::vector<CrystalModel> models;
   models.reserve(words.crystals.size());
   for (const auto& path : words.crystals) {
     const LoadedCrystal crystal = load_crystal(path, data, task);
-    models.push_back(indexing_model(crystal, kilovolt, words.families, task));
+    const MasterView view{kilovolt, centres.of_map.at(grid.points() / 2), header.width, header.height, threads};
+    models.push_back(indexing_model(crystal, kilovolt, words.families, task,
+                                    master_sphere_of(words.master, models.size(), crystal, view, task)));
     map.phases.push_back(map_phase(crystal, models.back()));
   }
   std::vector<const CrystalModel*> pointers;
@@ -240,8 +251,7 @@ int run(const MapWords& words) {
   indexer.prepare(task);
   ProgressLine line(words.quiet);
   MapRun running;
-  running.threads =
-      words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  running.threads = threads;
   running.part_path = words.outputs.front() + ".part";
   running.resume = words.resume;
   running.fingerprint = fingerprint(words);
@@ -300,7 +310,8 @@ void add_map_command(CLI::App& app, int& status) {
   map->add_option("--background", words->background, "auto, static, dynamic, none")
       ->group(patterns)
       ->check(CLI::IsMember({"auto", "static", "dynamic", "none"}));
-  map->add_option("--average", words->average, "nlpar, nlpar=SHARE, 3x3, none")->group(patterns);
+  map->add_option("--average", words->average, "nlpar, nlpar=SHARE, 3x3, none; left out: nlpar, none with --master")
+      ->group(patterns);
   map->add_option("--mask", words->mask, "circle")->group(patterns)->check(CLI::IsMember({"circle"}));
   map->add_option("--region", words->region, "X,Y,W,H of the map, in points")->group(patterns);
   map->add_option("--dataset", words->dataset, "name of the scan in a file of several")->group(patterns);
@@ -313,6 +324,7 @@ void add_map_command(CLI::App& app, int& status) {
       ->check(CLI::IsMember({"pattern", "bands"}));
   map->add_option("--min-ci", words->min_ci, "confidence below which a point is not indexed")->group(indexing);
   map->add_option("--max-fit", words->max_fit, "degrees above which it is not")->group(indexing);
+  add_master_options(*map, words->master);
   const auto* running = "Running";
   map->add_option("-j,--threads", words->threads, "0: one for each core")->group(running)->check(CLI::Range(0, 4096));
   map->add_flag("--resume", words->resume, "go on with a run that was stopped")->group(running);

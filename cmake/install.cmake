@@ -23,8 +23,8 @@ install(PROGRAMS examples/batch/crystallite-sizes examples/batch/reflection-list
   DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples/batch)
 install(PROGRAMS examples/orientation/euler.py DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples/orientation)
 install(DIRECTORY docs/names DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(FILES docs/data-files.md docs/scripting.md docs/theory.md docs/validation.md CHANGELOG.md CITATION.cff
-  DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES docs/data-files.md docs/scripting.md docs/theory.md docs/theory-dynamical.md docs/validation.md
+  CHANGELOG.md CITATION.cff DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES packaging/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 # The examples name their crystals as in the source tree, from the folder above them.
 install(CODE "file(CREATE_LINK ../../zol \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DOCDIR}/data\" SYMBOLIC)")

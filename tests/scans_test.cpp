@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "hdf5/lzf.h"
 #include "scans/centre_plane.h"
-#include "scans/lzf.h"
 #include "scans/map_files.h"
 #include "scans/map_run.h"
 #include "scans/readers.h"
