@@ -1,0 +1,144 @@
+#include "batch/map_job.h"
+
+#include <iostream>
+#include <utility>
+
+#include "batch/crystal_source.h"
+#include "batch/grey_image.h"
+#include "core/run_failure.h"
+#include "shell/program/data_folders.h"
+
+namespace zol {
+namespace {
+
+Background background_of(const std::string& word) {
+  if (word.starts_with("static")) return Background::stored;
+  return word == "auto" ? Background::automatic : word == "none" ? Background::none : Background::dynamic;
+}
+
+void read_average(const std::string& word, MapSettings& settings) {
+  constexpr std::string_view with_share = "nlpar=";
+  if (word.starts_with(with_share)) {
+    settings.own_share = numbers_of<1>("--average", word.substr(with_share.size()), ',')[0];
+    if (!(settings.own_share > 0 && settings.own_share <= 1)) {
+      throw CLI::ValidationError("--average", word + ": the share lies between 0 and 1");
+    }
+  } else if (word != "nlpar" && word != "3x3" && word != "none") {
+    throw CLI::ValidationError("--average", word + " is none of nlpar, nlpar=SHARE, 3x3, none");
+  }
+  settings.averaging = word == "none" ? Averaging::none : word == "3x3" ? Averaging::plain : Averaging::likeness;
+}
+
+MapSettings settings_of(const MapWords& words, const ScanHeader& header) {
+  MapSettings settings;
+  constexpr double usual_tilt = 70;
+  settings.geometry.sample_tilt_deg = words.tilt.value_or(header.sample_tilt_deg.value_or(usual_tilt));
+  settings.geometry.detector_tilt_deg = words.camera.value_or(header.detector_tilt_deg.value_or(0));
+  constexpr double micrometres = 1000;
+  settings.geometry.screen_width_micrometre = words.screen_mm * micrometres;
+  settings.geometry.scan_left = words.scan_x == "left";
+  settings.geometry.scan_up = words.scan_y == "up";
+  settings.index.band_count = words.bands;
+  settings.index.candidates_fitted = 3;
+  settings.index.preparation.circle = words.mask == "circle";
+  settings.refinement = words.refine == "pattern" ? Refinement::pattern : Refinement::bands;
+  settings.background = background_of(words.background);
+  read_average(words.average, settings);
+  settings.least_confidence = words.min_ci;
+  settings.most_fit_deg = words.max_fit;
+  settings.flip = words.flip;
+  if (!words.region.empty()) {
+    const auto numbers = numbers_of<4>("--region", words.region, ',');
+    for (std::size_t i = 0; i < 4; ++i) settings.region[i] = static_cast<int>(numbers[i]);
+  }
+  return settings;
+}
+
+std::unique_ptr<Scan> open_scan_of(const MapWords& words) {
+  OpenScanSettings open;
+  open.dataset = words.dataset;
+  open.raw = words.raw;
+  open.read_image = read_grey_image;
+  if (!words.size.empty()) {
+    const auto numbers = numbers_of<2>("--size", words.size, 'x');
+    open.size = std::array{static_cast<int>(numbers[0]), static_cast<int>(numbers[1])};
+  }
+  return open_scan(words.scan, open);
+}
+
+ScanGrid grid_of(const MapWords& words, const ScanHeader& header) {
+  if (!header.grid) {
+    throw RunFailure(words.scan + " holds " + std::to_string(header.points) +
+                     " patterns and does not tell the size of the map: tell it by --size COLUMNSxROWS");
+  }
+  ScanGrid grid = *header.grid;
+  if (words.step) grid.step_x = grid.step_y = *words.step;
+  return grid;
+}
+
+PictureSize picture_size(const ScanHeader& header) {
+  return {header.width, header.height, header.pixel_micrometre.value_or(1)};
+}
+
+struct Centres {
+  MapCentres of_map;
+  PatternCentre middle;
+};
+
+Centres centres_of(const MapWords& words, const ScanHeader& header, const MapSettings& settings, const ScanGrid& grid) {
+  const PictureSize size = picture_size(header);
+  if (!words.centre.empty()) {
+    const PatternCentre centre =
+        read_centre(numbers_of<3>("--pc", words.centre, ','), convention_of(words.convention), size);
+    return {MapCentres(centre, settings.geometry, grid), centre};
+  }
+  if (header.centres.empty()) {
+    throw RunFailure(words.scan + " tells no pattern centre: tell it by --pc X,Y,Z and --convention");
+  }
+  const auto read = [&size](const StoredCentre& centre) {
+    return read_centre(centre.numbers, centre.convention, size);
+  };
+  if (header.centres.size() == 1) {
+    const PatternCentre centre = read(header.centres.front());
+    return {MapCentres(centre, settings.geometry, grid), centre};
+  }
+  std::vector<PatternCentre> all;
+  all.reserve(header.centres.size());
+  for (const auto& centre : header.centres) all.push_back(read(centre));
+  const PatternCentre middle = all[all.size() / 2];
+  return {MapCentres(std::move(all)), middle};
+}
+
+}  // namespace
+
+StoredCentre centre_of_ang(const MapJob& job) {
+  return {written_centre(job.centre, CentreConvention::Edax, picture_size(job.scan->header())), CentreConvention::Edax};
+}
+
+MapJob make_map_job(const MapWords& words, Task& task) {
+  MapJob job;
+  const DataRoot data = find_data_root(data_places());
+  job.scan = open_scan_of(words);
+  const ScanHeader& header = job.scan->header();
+  for (const auto& remark : header.remarks) std::cerr << words.scan << ": " << remark << '\n';
+  job.grid = grid_of(words, header);
+  job.settings = settings_of(words, header);
+  Centres centres = centres_of(words, header, job.settings, job.grid);
+  job.centre = centres.middle;
+  constexpr double usual_kilovolt = 20;
+  job.kilovolt = words.kilovolt > 0 ? words.kilovolt : header.kilovolt.value_or(usual_kilovolt);
+  job.models.reserve(words.crystals.size());
+  for (const auto& path : words.crystals) {
+    const LoadedCrystal crystal = load_crystal(path, data, task);
+    job.models.push_back(indexing_model(crystal, job.kilovolt, words.families, task));
+    job.phases.push_back(map_phase(crystal, job.models.back()));
+  }
+  std::vector<const CrystalModel*> pointers;
+  pointers.reserve(job.models.size());
+  for (const auto& model : job.models) pointers.push_back(&model);
+  job.indexer =
+      std::make_unique<MapIndexer>(*job.scan, job.grid, std::move(centres.of_map), std::move(pointers), job.settings);
+  return job;
+}
+
+}  // namespace zol
