@@ -13,7 +13,10 @@
 
 #include "batch/batch_status.h"
 #include "batch/map_job.h"
+#include "batch/map_report.h"
 #include "batch/map_words.h"
+#include "batch/word_file.h"
+#include "core/atomic_file.h"
 #include "core/read_file.h"
 #include "scans/map_files.h"
 #include "scans/map_run.h"
@@ -52,22 +55,17 @@ class ProgressLine {
 
 /// What results depend on, beside the scan's own bytes.
 std::uint64_t fingerprint(const MapWords& words) {
-  std::string text;
-  for (const auto* part :
-       {&words.scan, &words.centre, &words.convention, &words.size, &words.background, &words.average, &words.refine,
-        &words.scan_x, &words.scan_y, &words.dataset, &words.region, &words.mask}) {
-    text += *part + '\n';
+  std::string text = words.results_text;
+  for (const auto& crystal : words.crystals) text += read_file(crystal) + '\n';
+  std::vector<std::string> files{words.scan};
+  if (words.background.find('=') != std::string::npos) {
+    files.push_back(words.background.substr(words.background.find('=') + 1));
   }
-  for (const auto& crystal : words.crystals) text += crystal + '\n' + read_file(crystal) + '\n';
-  for (const double number : {words.tilt.value_or(-1), words.camera.value_or(-1), words.step.value_or(-1),
-                              words.screen_mm, words.kilovolt, words.min_ci, words.max_fit}) {
-    text += std::to_string(number) + '\n';
+  for (const auto& file : files) {
+    std::error_code error;
+    text += std::to_string(std::filesystem::last_write_time(file, error).time_since_epoch().count()) + '\n';
   }
-  text += std::to_string(words.bands) + '\n' + std::to_string(words.families) + '\n' + (words.flip ? '1' : '0') +
-          (words.raw ? '1' : '0');
-  std::error_code error;
-  const auto time = std::filesystem::last_write_time(words.scan, error).time_since_epoch().count();
-  return fingerprint_of(text + std::to_string(time));
+  return fingerprint_of(text);
 }
 
 void summarise(const MapResult& map) {
@@ -95,30 +93,50 @@ MapResult empty_result(const MapJob& job, const MapWords& words) {
   map.kilovolt = job.kilovolt;
   map.width = job.scan->header().width;
   map.height = job.scan->header().height;
+  map.settings = words.settings_text;
   map.source = std::filesystem::path(words.scan).filename().string();
   return map;
 }
 
+int threads_of(const MapWords& words) {
+  return words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+}
+
+void write_text(const std::string& path, const std::string& text) {
+  AtomicFile file(path);
+  file.contain(text);
+  file.commit();
+}
+
 int run(const MapWords& words) {
+  if (words.outputs.empty() && !words.check) throw CLI::RequiredError("--output");
   for (const auto& output : words.outputs) check_map_path(output);
   QuietTask task;
-  const MapJob job = make_map_job(words, task);
-  job.indexer->prepare(task);
+  MapJob job = make_map_job(words, task);
+  prepare_map_job(job, words, task);
+  if (words.check) {
+    check_map(job, threads_of(words), task);
+    return batch_done;
+  }
+  if (words.verbose) std::cerr << header_text(job) << decisions_text(job);
+  if (!words.write_settings.empty()) write_text(words.write_settings, words.settings_text);
   ProgressLine line(words.quiet);
+  StepTimes times;
   MapRun running;
-  running.threads =
-      words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  running.threads = threads_of(words);
   running.part_path = words.outputs.front() + ".part";
   running.resume = words.resume;
   running.fingerprint = fingerprint(words);
   running.stop = [] { return stop_signal() != 0; };
   running.progress = [&line](std::size_t done, std::size_t all) { line.show(done, all); };
+  running.times = &times;
   MapResult map = empty_result(job, words);
   if (!run_map(*job.indexer, job.grid, running, map.points)) {
     std::cerr << "stopped; what is done stands in " << running.part_path << ", --resume goes on with it\n";
     return batch_stopped;
   }
   for (const auto& output : words.outputs) write_map(map, output);
+  if (words.verbose) std::cerr << times_text(times, map.points.size());
   if (!words.quiet) summarise(map);
   return batch_done;
 }
@@ -129,9 +147,16 @@ void add_map_command(CLI::App& app, int& status) {
   const auto words = std::make_shared<MapWords>();
   CLI::App* map = app.add_subcommand("map", "index all patterns of a scan");
   map->footer("Example:\n  zol-batch map scan.h5 -c Ni.cif -o map.ang");
+  add_settings_words(*map, words->settings_file, words->write_settings);
   add_scan_words(*map, *words);
   add_map_words(*map, *words);
-  map->callback([words, &status] { status = run(*words); });
+  map->callback([words, map, &status] {
+    std::vector<std::string> of_this_run{"resume", "check", "quiet", "verbose"};
+    words->settings_text = words_text(*map, of_this_run);
+    of_this_run.insert(of_this_run.end(), {"output", "threads", "pictures"});
+    words->results_text = words_text(*map, of_this_run);
+    status = run(*words);
+  });
 }
 
 }  // namespace zol

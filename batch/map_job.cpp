@@ -5,7 +5,9 @@
 
 #include "batch/crystal_source.h"
 #include "batch/grey_image.h"
+#include "core/number_text.h"
 #include "core/run_failure.h"
+#include "scans/centre_plane.h"
 #include "shell/program/data_folders.h"
 
 namespace zol {
@@ -29,6 +31,19 @@ void read_average(const std::string& word, MapSettings& settings) {
   settings.averaging = word == "none" ? Averaging::none : word == "3x3" ? Averaging::plain : Averaging::likeness;
 }
 
+constexpr std::string_view static_picture = "static=";
+
+std::vector<float> background_picture(const MapWords& words, const ScanHeader& header) {
+  const std::string path = words.background.substr(static_picture.size());
+  GreyImage image = read_grey_image(path);
+  if (image.width != header.width || image.height != header.height) {
+    throw RunFailure("the background " + path + " has " + std::to_string(image.width) + " x " +
+                     std::to_string(image.height) + " pixels, the patterns have " + std::to_string(header.width) +
+                     " x " + std::to_string(header.height));
+  }
+  return std::move(image.values);
+}
+
 MapSettings settings_of(const MapWords& words, const ScanHeader& header) {
   MapSettings settings;
   constexpr double usual_tilt = 70;
@@ -41,8 +56,11 @@ MapSettings settings_of(const MapWords& words, const ScanHeader& header) {
   settings.index.band_count = words.bands;
   settings.index.candidates_fitted = 3;
   settings.index.preparation.circle = words.mask == "circle";
-  settings.refinement = words.refine == "pattern" ? Refinement::pattern : Refinement::bands;
+  settings.refinement = words.refine == "pattern" ? Refinement::pattern
+                        : words.refine == "bands" ? Refinement::bands
+                                                  : Refinement::none;
   settings.background = background_of(words.background);
+  if (words.background.starts_with(static_picture)) settings.background_picture = background_picture(words, header);
   read_average(words.average, settings);
   settings.least_confidence = words.min_ci;
   settings.most_fit_deg = words.max_fit;
@@ -83,6 +101,7 @@ PictureSize picture_size(const ScanHeader& header) {
 struct Centres {
   MapCentres of_map;
   PatternCentre middle;
+  std::string source;
 };
 
 Centres centres_of(const MapWords& words, const ScanHeader& header, const MapSettings& settings, const ScanGrid& grid) {
@@ -90,7 +109,7 @@ Centres centres_of(const MapWords& words, const ScanHeader& header, const MapSet
   if (!words.centre.empty()) {
     const PatternCentre centre =
         read_centre(numbers_of<3>("--pc", words.centre, ','), convention_of(words.convention), size);
-    return {MapCentres(centre, settings.geometry, grid), centre};
+    return {MapCentres(centre, settings.geometry, grid), centre, "as --pc tells"};
   }
   if (header.centres.empty()) {
     throw RunFailure(words.scan + " tells no pattern centre: tell it by --pc X,Y,Z and --convention");
@@ -100,19 +119,30 @@ Centres centres_of(const MapWords& words, const ScanHeader& header, const MapSet
   };
   if (header.centres.size() == 1) {
     const PatternCentre centre = read(header.centres.front());
-    return {MapCentres(centre, settings.geometry, grid), centre};
+    return {MapCentres(centre, settings.geometry, grid), centre, "of the scan"};
   }
   std::vector<PatternCentre> all;
   all.reserve(header.centres.size());
   for (const auto& centre : header.centres) all.push_back(read(centre));
   const PatternCentre middle = all[all.size() / 2];
-  return {MapCentres(std::move(all)), middle};
+  return {MapCentres(std::move(all)), middle, "of the scan, which has one for each point"};
 }
 
 }  // namespace
 
 StoredCentre centre_of_ang(const MapJob& job) {
   return {written_centre(job.centre, CentreConvention::Edax, picture_size(job.scan->header())), CentreConvention::Edax};
+}
+
+void prepare_map_job(MapJob& job, const MapWords& words, Task& task) {
+  job.indexer->prepare(task);
+  if (words.fit_centre == 0) return;
+  const CentrePlane plane = fit_centre_plane(*job.indexer, words.fit_centre, task);
+  job.centre = plane.at(0, 0);
+  job.centre_source = "fitted at " + std::to_string(plane.points.size()) + " points, errors " +
+                      short_text(plane.middle_error[0], 5) + ", " + short_text(plane.middle_error[1], 5) + ", " +
+                      short_text(plane.middle_error[2], 5);
+  job.indexer->set_centres(plane.centres());
 }
 
 MapJob make_map_job(const MapWords& words, Task& task) {
@@ -125,6 +155,7 @@ MapJob make_map_job(const MapWords& words, Task& task) {
   job.settings = settings_of(words, header);
   Centres centres = centres_of(words, header, job.settings, job.grid);
   job.centre = centres.middle;
+  job.centre_source = centres.source;
   constexpr double usual_kilovolt = 20;
   job.kilovolt = words.kilovolt > 0 ? words.kilovolt : header.kilovolt.value_or(usual_kilovolt);
   job.models.reserve(words.crystals.size());

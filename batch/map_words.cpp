@@ -28,6 +28,10 @@ void add_geometry(CLI::App& command, MapWords& words) {
       ->group(group)
       ->check(CLI::IsMember({"down", "up"}))
       ->capture_default_str();
+  command
+      .add_option("--fit-pc", words.fit_centre, "fit the centre at so many clear points first, a plane through them")
+      ->group(group)
+      ->check(CLI::Range(5, 10000));
   command.add_flag("--flip", words.flip, "patterns stand upside down in the file")->group(group);
   command.add_option("--voltage", words.kilovolt, "kV; left out: the scan's own, else 20")->group(group);
 }
@@ -103,12 +107,15 @@ void add_scan_words(CLI::App& command, MapWords& words) {
 }
 
 void add_map_words(CLI::App& command, MapWords& words) {
-  command.add_option("-o,--output", words.outputs, "result: .ang, .ctf, .h5, .oh5, .csv; once for each")
-      ->required()
+  command
+      .add_option("-o,--output", words.outputs,
+                  "result: .ang, .ctf, .h5, .oh5, .csv; once for each; needed but with --check")
       ->allow_extra_args(false);
   add_indexing(command, words);
   const auto* running = "Running";
   command.add_option("-j,--threads", words.threads, "0: one for each core")->group(running)->check(CLI::Range(0, 4096));
+  command.add_flag("--check", words.check, "look at nine places of the map, tell rate and fit, write nothing")
+      ->group(running);
   command.add_flag("--resume", words.resume, "go on with a run that was stopped")->group(running);
   auto* quiet = command.add_flag("-q,--quiet", words.quiet, "nothing but failures")->group(running);
   command.add_flag("-v,--verbose", words.verbose, "what was decided, and the time of each step")

@@ -21,6 +21,7 @@ struct MapWords {
   std::string settings_file;   ///< where words are read that the command line does not tell
   std::string write_settings;  ///< where all words are written
   std::string settings_text;   ///< of all words, as they are written there
+  std::string results_text;    ///< of those that results depend on
   std::optional<double> tilt, camera, step;
   double screen_mm = 0, kilovolt = 0, min_ci = 0.1, max_fit = 3;
   int bands = 9, families = 6, threads = 0, fit_centre = 0;

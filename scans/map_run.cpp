@@ -11,6 +11,7 @@
 #include <mutex>
 #include <system_error>
 #include <thread>
+#include <utility>
 
 #include "core/read_file.h"
 #include "core/run_failure.h"
@@ -157,6 +158,7 @@ void work(Shared& shared) {
       shared.part.keep(tile, results);
       shared.put(tile, results);
       shared.run.progress(shared.done, shared.points.size());
+      if (shared.run.times != nullptr) *shared.run.times += std::exchange(worker.times, {});
     }
     shared.stopped = true;
   } catch (const Cancelled&) {

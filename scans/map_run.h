@@ -17,6 +17,7 @@ struct MapRun {
   std::uint64_t fingerprint = 0;  ///< of scan and settings: tiles of another run are not taken
   /// Asked every now and then, by any thread.
   std::function<bool()> stop = [] { return false; };
+  StepTimes* times = nullptr;  ///< where the time of all threads is added
   /// Points that are done, of all; by one thread at a time.
   std::function<void(std::size_t done, std::size_t all)> progress = [](std::size_t, std::size_t) {};
 };
