@@ -5,7 +5,12 @@
 #include <iostream>
 
 #include "batch/batch_status.h"
+#include "batch/centre_command.h"
+#include "batch/info_command.h"
 #include "batch/map_command.h"
+#include "batch/pattern_command.h"
+#include "batch/powder_command.h"
+#include "batch/reflections_command.h"
 #include "core/task.h"
 #include "shell/program/program.h"
 #include "shell/script/stop_signal.h"
@@ -20,6 +25,12 @@ int run(int argc, char** argv) {
   app.get_formatter()->column_width(34);
   int status = zol::batch_done;
   try {
+    zol::add_info_command(app, status);
+    zol::add_reflections_command(app);
+    zol::add_powder_command(app);
+    zol::add_rings_command(app);
+    zol::add_pattern_command(app);
+    zol::add_centre_command(app);
     zol::add_map_command(app, status);
     app.parse(argc, argv);
     return status;

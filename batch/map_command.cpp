@@ -1,16 +1,12 @@
 #include "batch/map_command.h"
 
-#include <unistd.h>
-
 #include <algorithm>
-#include <array>
-#include <chrono>
-#include <cstdio>
 #include <filesystem>
 #include <iostream>
 #include <memory>
 #include <thread>
 
+#include "batch/batch_progress.h"
 #include "batch/batch_status.h"
 #include "batch/map_job.h"
 #include "batch/map_report.h"
@@ -24,34 +20,6 @@
 
 namespace zol {
 namespace {
-
-/// Points, rate and time left on standard error, where that is a terminal.
-class ProgressLine {
- public:
-  explicit ProgressLine(bool quiet) : shown_(!quiet && isatty(STDERR_FILENO) != 0) {}
-  ~ProgressLine() {
-    if (shown_ && begun_) std::cerr << '\n';
-  }
-  ProgressLine(const ProgressLine&) = delete;
-  ProgressLine& operator=(const ProgressLine&) = delete;
-
-  void show(std::size_t done, std::size_t all) {
-    const auto now = std::chrono::steady_clock::now();
-    if (!shown_ || (begun_ && now - last_ < std::chrono::milliseconds(200) && done < all)) return;
-    last_ = now;
-    begun_ = true;
-    const double seconds = std::chrono::duration<double>(now - start_).count();
-    const double rate = static_cast<double>(done) / std::max(seconds, 1e-3);
-    std::array<char, 96> line{};
-    (void)std::snprintf(line.data(), line.size(), "\r%zu of %zu points, %.0f a second, %.0f s left   ", done, all, rate,
-                        static_cast<double>(all - done) / std::max(rate, 1e-3));
-    std::cerr << line.data() << std::flush;
-  }
-
- private:
-  bool shown_, begun_ = false;
-  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now(), last_ = start_;
-};
 
 /// What results depend on, beside the scan's own bytes.
 std::uint64_t fingerprint(const MapWords& words) {
@@ -111,7 +79,7 @@ void write_text(const std::string& path, const std::string& text) {
 int run(const MapWords& words) {
   if (words.outputs.empty() && !words.check) throw CLI::RequiredError("--output");
   for (const auto& output : words.outputs) check_map_path(output);
-  QuietTask task;
+  BatchTask task;
   MapJob job = make_map_job(words, task);
   prepare_map_job(job, words, task);
   if (words.check) {
@@ -120,7 +88,7 @@ int run(const MapWords& words) {
   }
   if (words.verbose) std::cerr << header_text(job) << decisions_text(job);
   if (!words.write_settings.empty()) write_text(words.write_settings, words.settings_text);
-  ProgressLine line(words.quiet);
+  BatchProgress line("points", words.quiet);
   StepTimes times;
   MapRun running;
   running.threads = threads_of(words);

@@ -5,6 +5,7 @@
 
 #include "batch/crystal_source.h"
 #include "batch/grey_image.h"
+#include "batch/words.h"
 #include "core/number_text.h"
 #include "core/run_failure.h"
 #include "scans/centre_plane.h"

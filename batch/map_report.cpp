@@ -50,16 +50,23 @@ void tell_looks(const MapJob& job, const std::vector<Look>& looks) {
   }
 }
 
-/// The part of a tile about a place of the map's nine.
-MapTile tile_about(const MapTile& area, int i) {
+/// One of nine points of the area, and a tile about it that lies within the area.
+struct Sample {
+  MapTile tile;
+  int column = 0, row = 0;
+};
+Sample sample_of(const MapTile& area, int i) {
   constexpr int across = 8;
   constexpr int down = 4;
-  MapTile tile;
+  Sample sample;
+  sample.column = area.column + (area.columns - 1) * (i % 3) / 2;
+  sample.row = area.row + (area.rows - 1) * (i / 3) / 2;
+  MapTile& tile = sample.tile;
   tile.columns = std::min(across, area.columns);
   tile.rows = std::min(down, area.rows);
-  tile.column = area.column + (area.columns - tile.columns) * (i % 3) / 2;
-  tile.row = area.row + (area.rows - tile.rows) * (i / 3) / 2;
-  return tile;
+  tile.column = std::clamp(sample.column - across / 2, area.column, area.column + area.columns - tile.columns);
+  tile.row = std::clamp(sample.row - down / 2, area.row, area.row + area.rows - tile.rows);
+  return sample;
 }
 
 }  // namespace
@@ -128,13 +135,10 @@ void check_map(const MapJob& job, int threads, Task& task) {
   const auto start = std::chrono::steady_clock::now();
   constexpr int places = 9;
   for (int i = 0; i < places; ++i) {
-    const MapTile tile = tile_about(area, i);
+    const auto [tile, column, row] = sample_of(area, i);
     job.indexer->index_tile(tile, worker, found, task);
-    const int column = tile.columns / 2;
-    const int row = tile.rows / 2;
-    looks.push_back({{tile.column + column, tile.row + row},
-                     found[static_cast<std::size_t>(row) * static_cast<std::size_t>(tile.columns) +
-                           static_cast<std::size_t>(column)]});
+    const auto at = static_cast<std::size_t>((row - tile.row) * tile.columns + column - tile.column);
+    looks.push_back({{column, row}, found[at]});
     points += found.size();
     indexed += static_cast<std::size_t>(
         std::count_if(found.begin(), found.end(), [](const PointResult& point) { return point.phase > 0; }));

@@ -1,8 +1,5 @@
 #include "batch/map_words.h"
 
-#include <algorithm>
-#include <charconv>
-
 namespace zol {
 namespace {
 
@@ -74,27 +71,6 @@ void add_indexing(CLI::App& command, MapWords& words) {
 }
 
 }  // namespace
-
-void read_numbers(const std::string& option, const std::string& text, char between, std::span<double> numbers) {
-  std::size_t at = 0;
-  for (std::size_t i = 0; i < numbers.size(); ++i) {
-    const std::size_t end = std::min(text.find(between, at), text.size());
-    const std::string part = text.substr(at, end - at);
-    const auto [stop, error] = std::from_chars(part.data(), part.data() + part.size(), numbers[i]);
-    const bool last = i + 1 == numbers.size();
-    if (error != std::errc() || stop != part.data() + part.size() || last != (end == text.size())) {
-      throw CLI::ValidationError(option, "\"" + text + "\" is not " + std::to_string(numbers.size()) +
-                                             " numbers with '" + between + "' between");
-    }
-    at = end + 1;
-  }
-}
-
-CentreConvention convention_of(const std::string& name) {
-  const auto convention = centre_convention(name);
-  if (!convention) throw CLI::ValidationError("--convention", name + " is none of bruker, edax, oxford, emsoft");
-  return *convention;
-}
 
 void add_scan_words(CLI::App& command, MapWords& words) {
   command.add_option("SCAN", words.scan, "scan: .h5, .oh5, .h5oina, .up1, .up2, .ebsp, Pattern.dat, a folder")

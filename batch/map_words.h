@@ -2,13 +2,9 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
-#include <array>
 #include <optional>
-#include <span>
 #include <string>
 #include <vector>
-
-#include "indexing/detector.h"
 
 namespace zol {
 
@@ -32,18 +28,5 @@ struct MapWords {
 void add_scan_words(CLI::App& command, MapWords& words);
 /// What else a map needs: indexing, results, running.
 void add_map_words(CLI::App& command, MapWords& words);
-
-/// Numbers with a character between. @throws CLI::ValidationError  another count of them
-void read_numbers(const std::string& option, const std::string& text, char between, std::span<double> numbers);
-/// "3,4,5" @throws CLI::ValidationError  it has another count of numbers
-template <std::size_t count>
-std::array<double, count> numbers_of(const std::string& option, const std::string& text, char between) {
-  std::array<double, count> numbers{};
-  read_numbers(option, text, between, numbers);
-  return numbers;
-}
-
-/// @throws CLI::ValidationError  there is no such convention
-[[nodiscard]] CentreConvention convention_of(const std::string& name);
 
 }  // namespace zol
