@@ -11,6 +11,7 @@
 #include "batch/map_job.h"
 #include "batch/map_report.h"
 #include "batch/map_words.h"
+#include "batch/picture_files.h"
 #include "batch/word_file.h"
 #include "core/atomic_file.h"
 #include "core/read_file.h"
@@ -104,6 +105,7 @@ int run(const MapWords& words) {
     return batch_stopped;
   }
   for (const auto& output : words.outputs) write_map(map, output);
+  if (!words.pictures.empty()) write_map_pictures(map, words.pictures);
   if (words.verbose) std::cerr << times_text(times, map.points.size());
   if (!words.quiet) summarise(map);
   return batch_done;

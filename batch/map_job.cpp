@@ -108,8 +108,7 @@ struct Centres {
 Centres centres_of(const MapWords& words, const ScanHeader& header, const MapSettings& settings, const ScanGrid& grid) {
   const PictureSize size = picture_size(header);
   if (!words.centre.empty()) {
-    const PatternCentre centre =
-        read_centre(numbers_of<3>("--pc", words.centre, ','), convention_of(words.convention), size);
+    const PatternCentre centre = centre_of_words(words.centre, words.convention, size);
     return {MapCentres(centre, settings.geometry, grid), centre, "as --pc tells"};
   }
   if (header.centres.empty()) {

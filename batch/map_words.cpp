@@ -87,6 +87,8 @@ void add_map_words(CLI::App& command, MapWords& words) {
       .add_option("-o,--output", words.outputs,
                   "result: .ang, .ctf, .h5, .oh5, .csv; once for each; needed but with --check")
       ->allow_extra_args(false);
+  command.add_option("--pictures", words.pictures,
+                     "PREFIX of pictures: ipf-x, ipf-y, ipf-z, iq, ci, fit, phase, kam, legend; .png");
   add_indexing(command, words);
   const auto* running = "Running";
   command.add_option("-j,--threads", words.threads, "0: one for each core")->group(running)->check(CLI::Range(0, 4096));
