@@ -4,11 +4,11 @@
 #include <filesystem>
 #include <iostream>
 #include <memory>
-#include <thread>
 
 #include "batch/batch_progress.h"
 #include "batch/batch_status.h"
 #include "batch/map_job.h"
+#include "batch/map_ranks.h"
 #include "batch/map_report.h"
 #include "batch/map_words.h"
 #include "batch/picture_files.h"
@@ -17,7 +17,9 @@
 #include "core/read_file.h"
 #include "scans/map_files.h"
 #include "scans/map_run.h"
+#include "shell/program/program.h"
 #include "shell/script/stop_signal.h"
+#include "shell/services/latin1.h"
 
 namespace zol {
 namespace {
@@ -67,48 +69,76 @@ MapResult empty_result(const MapJob& job, const MapWords& words) {
   return map;
 }
 
-int threads_of(const MapWords& words) {
-  return words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
-}
-
 void write_text(const std::string& path, const std::string& text) {
   AtomicFile file(path);
   file.contain(text);
   file.commit();
 }
 
-int run(const MapWords& words) {
-  if (words.outputs.empty() && !words.check) throw CLI::RequiredError("--output");
-  for (const auto& output : words.outputs) check_map_path(output);
-  BatchTask task;
-  MapJob job = make_map_job(words, task);
-  prepare_map_job(job, words, task);
-  if (words.check) {
-    check_map(job, threads_of(words), task);
-    return batch_done;
-  }
-  if (words.verbose) std::cerr << header_text(job) << decisions_text(job);
-  if (!words.write_settings.empty()) write_text(words.write_settings, words.settings_text);
+/// What all processes do; the first one goes on with the result. @returns false where it was stopped
+bool index_map(const MapJob& job, const MapWords& words, const MapRanks& ranks, MapResult& map) {
   BatchProgress line("points", words.quiet);
   StepTimes times;
   MapRun running;
-  running.threads = threads_of(words);
-  running.part_path = words.outputs.front() + ".part";
+  running.threads = words.threads > 0 ? words.threads : ranks.cores();
   running.resume = words.resume;
-  running.fingerprint = fingerprint(words);
   running.stop = [] { return stop_signal() != 0; };
-  running.progress = [&line](std::size_t done, std::size_t all) { line.show(done, all); };
   running.times = &times;
-  MapResult map = empty_result(job, words);
-  if (!run_map(*job.indexer, job.grid, running, map.points)) {
-    std::cerr << "stopped; what is done stands in " << running.part_path << ", --resume goes on with it\n";
-    return batch_stopped;
+  if (ranks.first()) {
+    running.part_path = words.outputs.front() + ".part";
+    running.fingerprint = fingerprint(words);
+    running.progress = [&line](std::size_t done, std::size_t all) { line.show(done, all); };
   }
+  if (!ranks.run(*job.indexer, job.grid, running, map.points)) {
+    if (ranks.first()) {
+      std::cerr << "stopped; what is done stands in " << running.part_path << ", --resume goes on with it\n";
+    }
+    return false;
+  }
+  if (words.verbose && ranks.first()) std::cerr << times_text(times, map.points.size());
+  return true;
+}
+
+int run(const MapWords& words, const MapRanks& ranks) {
+  if (words.outputs.empty() && !words.check) throw CLI::RequiredError("--output");
+  for (const auto& output : words.outputs) check_map_path(output);
+  if (words.check && !ranks.first()) return batch_done;
+  BatchTask task;
+  MapJob job = make_map_job(words, task);
+  if (ranks.first()) {
+    for (const auto& remark : job.scan->header().remarks) std::cerr << words.scan << ": " << remark << '\n';
+  }
+  prepare_map_job(job, words, task);
+  if (words.check) {
+    check_map(job, words.threads > 0 ? words.threads : ranks.cores(), task);
+    return batch_done;
+  }
+  if (ranks.first()) {
+    if (words.verbose) std::cerr << header_text(job) << decisions_text(job);
+    if (!words.write_settings.empty()) write_text(words.write_settings, words.settings_text);
+  }
+  MapResult map = empty_result(job, words);
+  if (!index_map(job, words, ranks, map)) return batch_stopped;
+  if (!ranks.first()) return batch_done;
   for (const auto& output : words.outputs) write_map(map, output);
   if (!words.pictures.empty()) write_map_pictures(map, words.pictures);
-  if (words.verbose) std::cerr << times_text(times, map.points.size());
   if (!words.quiet) summarise(map);
   return batch_done;
+}
+
+/// Runs it, and takes the other processes down where this one fails: they would wait for ever.
+int run_with_others(const MapWords& words) {
+  const MapRanks ranks;
+  try {
+    return run(words, ranks);
+  } catch (const CLI::ParseError&) {
+    throw;  // all have the same words
+  } catch (...) {
+    if (ranks.count() == 1) throw;
+    std::cerr << "zol-batch: " << readable_utf8(failure_text(std::current_exception())) << std::endl;
+    ranks.abandon();
+    throw;
+  }
 }
 
 }  // namespace
@@ -125,7 +155,7 @@ void add_map_command(CLI::App& app, int& status) {
     words->settings_text = words_text(*map, of_this_run);
     of_this_run.insert(of_this_run.end(), {"output", "threads", "pictures"});
     words->results_text = words_text(*map, of_this_run);
-    status = run(*words);
+    status = run_with_others(*words);
   });
 }
 

@@ -1,6 +1,5 @@
 #include "batch/map_job.h"
 
-#include <iostream>
 #include <utility>
 
 #include "batch/crystal_source.h"
@@ -150,7 +149,6 @@ MapJob make_map_job(const MapWords& words, Task& task) {
   const DataRoot data = find_data_root(data_places());
   job.scan = open_scan_of(words);
   const ScanHeader& header = job.scan->header();
-  for (const auto& remark : header.remarks) std::cerr << words.scan << ": " << remark << '\n';
   job.grid = grid_of(words, header);
   job.settings = settings_of(words, header);
   Centres centres = centres_of(words, header, job.settings, job.grid);

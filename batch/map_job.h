@@ -23,8 +23,7 @@ struct MapJob {
   std::unique_ptr<MapIndexer> indexer;
 };
 
-/// Opens the scan, loads the crystals and makes the indexer, which is not prepared yet. What the file says wrongly is
-/// told on standard error.
+/// Opens the scan, loads the crystals and makes the indexer, which is not prepared yet.
 /// @throws RunFailure  a file can't be read, or leaves open what an option has to tell; the message names it
 /// @throws CLI::ValidationError  wrong words
 [[nodiscard]] MapJob make_map_job(const MapWords& words, Task& task);

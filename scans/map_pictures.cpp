@@ -47,7 +47,7 @@ double round_end(std::vector<float> values) {
   std::nth_element(values.begin(), place, values.end());
   double end = 0.001;
   constexpr std::array factors{2.0, 2.5, 2.0};
-  constexpr double rounding = 1 - 1e-6;
+  constexpr double rounding = 1 - 1e-4;
   for (std::size_t i = 0; end < static_cast<double>(*place) * rounding; ++i) end *= factors[i % factors.size()];
   return end;
 }

@@ -117,56 +117,96 @@ class RunTask : public Task {
   int asked_ = 0;
 };
 
-/// What the threads share.
-struct Shared {
-  MapIndexer& indexer;
-  const ScanGrid& grid;
-  const MapRun& run;
-  PartFile& part;
-  std::vector<PointResult>& points;
-  std::atomic<std::size_t> next = 0;
-  std::atomic<bool> stopped = false;
-  std::mutex mutex;
-  std::size_t done = 0;
-  std::exception_ptr failure;
+/// Hands out the tiles of a map that are not finished, and keeps what is found.
+class Ledger : public TileDesk {
+ public:
+  Ledger(MapIndexer& indexer, const ScanGrid& grid, const MapRun& run, std::vector<PointResult>& points)
+      : indexer_(indexer), grid_(grid), run_(run), points_(points), part_(run, indexer.tiles().size()) {
+    for (std::size_t tile = 0; tile < indexer.tiles().size(); ++tile) {
+      const auto& kept = part_.finished(tile);
+      const auto& place = indexer.tiles()[tile];
+      if (kept.empty()) continue;
+      if (kept.size() != static_cast<std::size_t>(place.columns) * static_cast<std::size_t>(place.rows)) {
+        throw RunFailure(run.part_path + " does not fit the map; remove it, or run without resume");
+      }
+      put(tile, kept);
+    }
+  }
 
+  std::optional<std::size_t> next() override {
+    while (true) {
+      const std::size_t tile = next_++;
+      if (tile >= indexer_.tiles().size()) return std::nullopt;
+      if (part_.finished(tile).empty()) return tile;
+    }
+  }
+  void deliver(std::size_t tile, const std::vector<PointResult>& results) override {
+    const std::lock_guard lock(mutex_);
+    part_.keep(tile, results);
+    put(tile, results);
+    run_.progress(done_, points_.size());
+  }
+  void remove_part() { part_.remove(); }
+
+ private:
   void put(std::size_t number, const std::vector<PointResult>& results) {
-    const MapTile& tile = indexer.tiles()[number];
+    const MapTile& tile = indexer_.tiles()[number];
     std::size_t i = 0;
     for (int row = 0; row < tile.rows; ++row) {
       for (int column = 0; column < tile.columns; ++column, ++i) {
-        const auto point = grid.point(tile.column + column, tile.row + row);
-        if (point) points[*point] = results[i];
+        const auto point = grid_.point(tile.column + column, tile.row + row);
+        if (point) points_[*point] = results[i];
       }
     }
-    done += results.size();
+    done_ += results.size();
+  }
+
+  MapIndexer& indexer_;
+  const ScanGrid& grid_;
+  const MapRun& run_;
+  std::vector<PointResult>& points_;
+  PartFile part_;
+  std::atomic<std::size_t> next_ = 0;
+  std::mutex mutex_;
+  std::size_t done_ = 0;
+};
+
+/// What the threads of a process share.
+struct Crew {
+  MapIndexer& indexer;
+  TileDesk& desk;
+  const MapRun& run;
+  std::atomic<bool> stopped = false;
+  std::mutex mutex;
+  std::exception_ptr failure;
+
+  [[nodiscard]] bool stop() const { return stopped || run.stop(); }
+  void fail() {
+    const std::lock_guard lock(mutex);
+    stopped = true;
+    if (!failure) failure = std::current_exception();
   }
 };
 
-void work(Shared& shared) {
+void work(Crew& crew) {
   try {
-    MapIndexer::Worker worker = shared.indexer.make_worker();
-    const std::function<bool()> stop = [&shared] { return shared.stopped || shared.run.stop(); };
+    MapIndexer::Worker worker = crew.indexer.make_worker();
+    const std::function<bool()> stop = [&crew] { return crew.stop(); };
     RunTask task(stop);
     std::vector<PointResult> results;
     while (!stop()) {
-      const std::size_t tile = shared.next++;
-      if (tile >= shared.indexer.tiles().size()) return;
-      if (!shared.part.finished(tile).empty()) continue;
-      shared.indexer.index_tile(shared.indexer.tiles()[tile], worker, results, task);
-      const std::lock_guard lock(shared.mutex);
-      shared.part.keep(tile, results);
-      shared.put(tile, results);
-      shared.run.progress(shared.done, shared.points.size());
-      if (shared.run.times != nullptr) *shared.run.times += std::exchange(worker.times, {});
+      const auto tile = crew.desk.next();
+      if (!tile) return;
+      crew.indexer.index_tile(crew.indexer.tiles()[*tile], worker, results, task);
+      crew.desk.deliver(*tile, results);
+      const std::lock_guard lock(crew.mutex);
+      if (crew.run.times != nullptr) *crew.run.times += std::exchange(worker.times, {});
     }
-    shared.stopped = true;
+    crew.stopped = true;
   } catch (const Cancelled&) {
-    shared.stopped = true;
+    crew.stopped = true;
   } catch (...) {
-    const std::lock_guard lock(shared.mutex);
-    shared.stopped = true;
-    if (!shared.failure) shared.failure = std::current_exception();
+    crew.fail();
   }
 }
 
@@ -178,33 +218,36 @@ std::uint64_t fingerprint_of(std::string_view bytes, std::uint64_t before) {
   return before;
 }
 
-bool run_map(MapIndexer& indexer, const ScanGrid& grid, const MapRun& run, std::vector<PointResult>& points) {
-  points.assign(grid.points(), {});
-  for (auto& point : points) point.missing = 1;
-  PartFile part(run, indexer.tiles().size());
-  Shared shared{indexer, grid, run, part, points, {}, {}, {}, 0, {}};
-  for (std::size_t tile = 0; tile < indexer.tiles().size(); ++tile) {
-    const auto& kept = part.finished(tile);
-    const auto& place = indexer.tiles()[tile];
-    if (kept.empty()) continue;
-    if (kept.size() != static_cast<std::size_t>(place.columns) * static_cast<std::size_t>(place.rows)) {
-      throw RunFailure(run.part_path + " does not fit the map; remove it, or run without resume");
-    }
-    shared.put(tile, kept);
-  }
+bool work_on_tiles(MapIndexer& indexer, TileDesk& desk, const MapRun& run, const AlongsideWork& alongside) {
+  Crew crew{indexer, desk, run, {}, {}, {}};
   std::vector<std::thread> threads;
-  for (int i = 1; i < run.threads; ++i) {
+  for (int i = alongside ? 0 : 1; i < run.threads; ++i) {
     try {
-      threads.emplace_back(work, std::ref(shared));
+      threads.emplace_back(work, std::ref(crew));
     } catch (const std::system_error&) {  // no more are to be had: those that run do the work
       break;
     }
   }
-  work(shared);
+  if (alongside) {
+    try {
+      if (!alongside(desk, [&crew] { return crew.stop(); })) crew.stopped = true;
+    } catch (...) {
+      crew.fail();
+    }
+  }
+  if (!alongside || threads.empty()) work(crew);
   for (auto& thread : threads) thread.join();
-  if (shared.failure) std::rethrow_exception(shared.failure);
-  if (shared.stopped) return false;
-  part.remove();
+  if (crew.failure) std::rethrow_exception(crew.failure);
+  return !crew.stopped;
+}
+
+bool run_map(MapIndexer& indexer, const ScanGrid& grid, const MapRun& run, std::vector<PointResult>& points,
+             const AlongsideWork& alongside) {
+  points.assign(grid.points(), {});
+  for (auto& point : points) point.missing = 1;
+  Ledger ledger(indexer, grid, run, points);
+  if (!work_on_tiles(indexer, ledger, run, alongside)) return false;
+  ledger.remove_part();
   return true;
 }
 
