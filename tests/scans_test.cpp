@@ -379,8 +379,8 @@ TEST(MapIndexer, FindsBothGrainsAndTheHoleWithAnyNumberOfThreadsAndAfterAStop) {
 TEST(MapFiles, HaveTheirMakersAxes) {
   MapResult map;
   map.grid = {2, 1, 1.5, 1.5};
-  map.phases = {{"Ti", "Ti2", {2.95, 2.95, 4.68, 90, 90, 120}, 194, laue_class_of(194), {{{0, 1, 1}, 100}}},
-                {"Ni", "Ni4", {3.52, 3.52, 3.52, 90, 90, 90}, 225, laue_class_of(225), {}}};
+  map.phases = {{"Ti", "Ti2", {2.95, 2.95, 4.68, 90, 90, 120}, 194, laue_class_of(194), {{{0, 1, 1}, 100}}, {}},
+                {"Ni", "Ni4", {3.52, 3.52, 3.52, 90, 90, 90}, 225, laue_class_of(225), {}, {}}};
   const auto radian = [](double degree) { return static_cast<float>(degree * std::numbers::pi / 180); };
   map.points = {{{radian(100), radian(20), radian(350)}, .5F, .25F, .125F, 1, 0, 0, 0}, {}};
   const std::string ang = ang_text(map);
