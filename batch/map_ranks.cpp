@@ -100,9 +100,12 @@ class Server {
       int there = 0;
       MPI_Iprobe(MPI_ANY_SOURCE, to_first, MPI_COMM_WORLD, &there, &status);
       if (there == 0) {
+        // One that is dead does not leave any more, and a launcher that has noticed allows a second.
+        if (stopped() && std::chrono::steady_clock::now() - last_heard_ > std::chrono::milliseconds(300)) return false;
         std::this_thread::sleep_for(std::chrono::microseconds(500));
         continue;
       }
+      last_heard_ = std::chrono::steady_clock::now();
       answer(status, stopped);
     }
     if (!failure_.empty()) throw RunFailure(failure_);
@@ -144,6 +147,7 @@ class Server {
 
   TileDesk& desk_;
   int others_;
+  std::chrono::steady_clock::time_point last_heard_ = std::chrono::steady_clock::now();
   bool one_stopped_ = false;
   std::string failure_;
 };
