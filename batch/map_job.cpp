@@ -104,25 +104,27 @@ struct Centres {
   std::string source;
 };
 
-Centres centres_of(const MapWords& words, const ScanHeader& header, const MapSettings& settings, const ScanGrid& grid) {
+Centres centres_of(const MapWords& words, Scan& scan, const MapSettings& settings, const ScanGrid& grid) {
+  const ScanHeader& header = scan.header();
+  const std::vector<StoredCentre> stored = scan.take_centres();
   const PictureSize size = picture_size(header);
   if (!words.centre.empty()) {
     const PatternCentre centre = centre_of_words(words.centre, words.convention, size);
     return {MapCentres(centre, settings.geometry, grid), centre, "as --pc tells"};
   }
-  if (header.centres.empty()) {
+  if (stored.empty()) {
     throw RunFailure(words.scan + " tells no pattern centre: tell it by --pc X,Y,Z and --convention");
   }
   const auto read = [&size](const StoredCentre& centre) {
     return read_centre(centre.numbers, centre.convention, size);
   };
-  if (header.centres.size() == 1) {
-    const PatternCentre centre = read(header.centres.front());
+  if (stored.size() == 1) {
+    const PatternCentre centre = read(stored.front());
     return {MapCentres(centre, settings.geometry, grid), centre, "of the scan"};
   }
   std::vector<PatternCentre> all;
-  all.reserve(header.centres.size());
-  for (const auto& centre : header.centres) all.push_back(read(centre));
+  all.reserve(stored.size());
+  for (const auto& centre : stored) all.push_back(read(centre));
   const PatternCentre middle = all[all.size() / 2];
   return {MapCentres(std::move(all)), middle, "of the scan, which has one for each point"};
 }
@@ -151,7 +153,7 @@ MapJob make_map_job(const MapWords& words, Task& task) {
   const ScanHeader& header = job.scan->header();
   job.grid = grid_of(words, header);
   job.settings = settings_of(words, header);
-  Centres centres = centres_of(words, header, job.settings, job.grid);
+  Centres centres = centres_of(words, *job.scan, job.settings, job.grid);
   job.centre = centres.middle;
   job.centre_source = centres.source;
   constexpr double usual_kilovolt = 20;
