@@ -85,6 +85,7 @@ std::unique_ptr<Scan> open_scan_of(const MapWords& words) {
 }
 
 ScanGrid grid_of(const MapWords& words, const ScanHeader& header) {
+  if (!header.grid && header.points == 1) return {1, 1};
   if (!header.grid) {
     throw RunFailure(words.scan + " holds " + std::to_string(header.points) +
                      " patterns and does not tell the size of the map: tell it by --size COLUMNSxROWS");
