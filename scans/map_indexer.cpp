@@ -98,12 +98,28 @@ MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std
     throw RunFailure("the region lies outside the map of " + std::to_string(grid.columns) + " x " +
                      std::to_string(grid.rows) + " points");
   }
-  for (int row = top; row < top + height; row += tile_rows) {
-    for (int column = left; column < left + width; column += tile_columns) {
-      tiles_.push_back(
-          {column, row, std::min(tile_columns, left + width - column), std::min(tile_rows, top + height - row)});
+  const auto [across, down] = tile_size();
+  for (int row = top; row < top + height; row += down) {
+    for (int column = left; column < left + width; column += across) {
+      tiles_.push_back({column, row, std::min(across, left + width - column), std::min(down, top + height - row)});
     }
   }
+}
+
+/// Smaller for large patterns, so that a tile with its margin takes no more than some memory.
+std::array<int, 2> MapIndexer::tile_size() const {
+  constexpr std::size_t most_bytes = std::size_t{192} << 20U;
+  constexpr int least_columns = 8;
+  constexpr int least_rows = 2;
+  int columns = tile_columns;
+  int rows = tile_rows;
+  const auto too_large = [&] {
+    return index(columns + 2 * margin()) * index(rows + 2 * margin()) * scan_.header().pixels() * sizeof(float) >
+           most_bytes;
+  };
+  while (too_large() && columns > least_columns) columns /= 2;
+  while (too_large() && rows > least_rows) rows /= 2;
+  return {columns, rows};
 }
 
 void MapIndexer::read_tile(const MapTile& tile, int margin, Worker& worker) {

@@ -6,6 +6,7 @@
 // orientations, all are fitted, and the best stays.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <mutex>
 #include <span>
@@ -105,6 +106,7 @@ class MapIndexer {
   void pattern_of(int column, int row, Worker& worker) const;
   [[nodiscard]] bool shows_something(const Worker& worker) const;
   [[nodiscard]] int margin() const;
+  [[nodiscard]] std::array<int, 2> tile_size() const;
 
   Scan& scan_;
   std::mutex reading_;
