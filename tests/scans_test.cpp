@@ -206,6 +206,30 @@ TEST(Scans, OfAllMakersGiveTheirPatternsInMapOrder) {
   }
 }
 
+// By hand, 5 pixels wide: version 4 counts x to the right of the middle, version 5 to the left.
+TEST(Scans, OfEMsoftHaveTheSignOfTheirVersion) {
+  const ScratchFolder folder;
+  for (const auto& [version, x] : {std::pair{"4_2_0_0", .7}, {"5_0_3", .3}}) {
+    const std::string path = folder.path(std::string(version) + ".h5");
+    {
+      const Hdf5Maker out(path);
+      out.put("EMData/EBSD/EBSDPatterns", H5T_NATIVE_UINT8, {1, height, width}, all_patterns.data());
+      for (const auto& [name, value] : {std::pair{"xpc", 1.0}, {"ypc", 0.0}, {"L", 100.0}, {"delta", 50.0}}) {
+        out.number(std::string("NMLparameters/EBSDNameList/") + name, value);
+      }
+      const hid_t text = H5Tcopy(H5T_C_S1);
+      H5Tset_size(text, 8);
+      std::string padded = version;
+      padded.resize(8);
+      out.put("EMheader/EBSD/Version", text, {1}, padded.data());
+      H5Tclose(text);
+    }
+    const auto scan = open_scan(path, {});
+    const StoredCentre centre = scan->header().centres.at(0);
+    EXPECT_NEAR(read_centre(centre.numbers, centre.convention, {width, height, 50}).x, x, 1e-9) << version;
+  }
+}
+
 TEST(Scans, ThatAreWrongAreRefusedWithTheReason) {
   const ScratchFolder folder;
   std::string far = ebsp(2);
@@ -454,8 +478,8 @@ TEST(CentrePlane, FindsTheDriftOfAScan) {
 TEST(MapFiles, HaveTheirMakersAxes) {
   MapResult map;
   map.grid = {2, 1, 1.5, 1.5};
-  map.phases = {{"Ti", "Ti2", {2.95, 2.95, 4.68, 90, 90, 120}, 194, laue_class_of(194), {{{0, 1, 1}, 100}}},
-                {"Ni", "Ni4", {3.52, 3.52, 3.52, 90, 90, 90}, 225, laue_class_of(225), {}}};
+  map.phases = {{"Ti", "Ti2", {2.95, 2.95, 4.68, 90, 90, 120}, 194, laue_class_of(194), {{{0, 1, 1}, 100}}, {}},
+                {"Ni", "Ni4", {3.52, 3.52, 3.52, 90, 90, 90}, 225, laue_class_of(225), {}, {}}};
   const auto radian = [](double degree) { return static_cast<float>(degree * std::numbers::pi / 180); };
   map.points = {{{radian(100), radian(20), radian(350)}, .5F, .25F, .125F, 1, 0, 0, 0}, {}};
   const std::string ang = ang_text(map);
