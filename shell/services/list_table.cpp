@@ -135,11 +135,13 @@ std::string ListTable::head(int at) const {
 }
 
 int ListTable::column_named(std::string_view name) const {
+  int found = -1;
   const auto wanted = small_letters(name);
-  for (int i = 0; i < columns(); ++i) {
-    if (small_letters(column(i).name) == wanted) return i;
+  for (int i = columns() - 1; i >= 0; --i) {
+    if (column(i).name == name) return i;
+    if (small_letters(column(i).name) == wanted) found = i;
   }
-  return -1;
+  return found;
 }
 
 int ListTable::row_of(int line) const {
