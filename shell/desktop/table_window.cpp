@@ -11,6 +11,7 @@
 #include <QKeyEvent>
 #include <QMenu>
 #include <QPushButton>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "core/atomic_file.h"
@@ -133,12 +134,10 @@ void TableWindow::fill_columns_menu() {
 void TableWindow::open() {
   const bool first = read_revision_ < 0;
   if (first) {
-    read();
-    constexpr int around = 48;  // margins and the scroll bar
-    const int wanted = view_.horizontalHeader()->length() + around;
     constexpr int least = 480;
     constexpr int height = 520;
-    resize(std::max(least, wanted), height);
+    resize(least, height);
+    read();
     place_beside(*this, *parentWidget());
   }
   show();
@@ -157,9 +156,20 @@ void TableWindow::read() {
     const QSignalBlocker quiet(view_.horizontalHeader());
     view_.horizontalHeader()->setSortIndicator(model_.sorted_by(), model_.order());
   }
-  if (model_.heads() != heads_before) view_.resizeColumnsToContents();
+  if (model_.heads() != heads_before) {
+    view_.resizeColumnsToContents();
+    show_all_columns();
+  }
   showing_ = false;
   show_after_change();
+}
+
+/// Grows to the right as far as the screen goes.
+void TableWindow::show_all_columns() {
+  constexpr int around = 48;  // margins and the scroll bar
+  const int wanted = view_.horizontalHeader()->length() + around;
+  const int room = screen()->availableGeometry().right() - (isVisible() ? x() : 0);
+  if (wanted > width() && room > width()) resize(std::min(wanted, room), height());
 }
 
 void TableWindow::update_rows() {

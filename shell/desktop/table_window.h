@@ -36,6 +36,7 @@ class TableWindow : public QWidget {
   void add_command(const QString& text, const QKeySequence& keys, const std::function<void()>& run);
   void fill_columns_menu();
   void read();
+  void show_all_columns();
   void show_after_change();
   void show_line();
   void pick(int row);
