@@ -46,10 +46,7 @@ class Neighbours {
           const CartesianVector along = lattice_.cartesian(DirectVector{apart.u + p, apart.v + q, apart.w + r});
           const double distance = length(along);
           if (distance < same_place || distance > limit || share_a_place(site, atom, distance)) continue;
-          found.push_back({number,
-                           distance,
-                           {atom.position.u + p, atom.position.v + q, atom.position.w + r},
-                           along});
+          found.push_back({number, distance, {atom.position.u + p, atom.position.v + q, atom.position.w + r}, along});
         }
       }
     }
@@ -90,8 +87,8 @@ Coordination up_to_limit(const Neighbours& neighbours, const BondAtom& site, dou
   constexpr double look_beyond = 1.5;  // for the next one, where it is near
   Coordination found;
   found.bonds = neighbours.within(site, limit * look_beyond);
-  const auto end = std::find_if(found.bonds.begin(), found.bonds.end(),
-                                [limit](const Bond& bond) { return bond.distance > limit; });
+  const auto end =
+      std::find_if(found.bonds.begin(), found.bonds.end(), [limit](const Bond& bond) { return bond.distance > limit; });
   if (end != found.bonds.end()) found.next = end->distance;
   found.bonds.erase(end, found.bonds.end());
   return found;

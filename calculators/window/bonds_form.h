@@ -19,8 +19,7 @@ struct BondsForm : Window {
   CommandButton Calc{*this, "Calc", "Calc"};
   Label SitesHeading{*this, "SitesHeading", "atom    elem.    CN  shortest      mean   longest      next"};
   ListBox Sites{*this, "Sites"};
-  Label BondsHeading{*this, "BondsHeading",
-                     "atom 1  elem. atom 2  elem.   distance         x         y         z"};
+  Label BondsHeading{*this, "BondsHeading", "atom 1  elem. atom 2  elem.   distance         x         y         z"};
   ListBox BondList{*this, "BondList"};
   Label AnglesHeading{*this, "AnglesHeading", "atom 1  centre  atom 2      angle       d 1       d 2"};
   ListBox Angles{*this, "Angles"};

@@ -98,7 +98,8 @@ void TableWindow::tie() {
   view_.setContextMenuPolicy(Qt::ActionsContextMenu);
   add_command(tr("&Copy"), QKeySequence::Copy, [this] { copy(); });
   add_command(tr("Select &All"), QKeySequence::SelectAll, [this] { view_.selectAll(); });
-  add_command(tr("S&ort by this column"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O), [this] { sort_by_current(); });
+  add_command(tr("S&ort by this column"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O),
+              [this] { sort_by_current(); });
   add_command(tr("&Save as CSV..."), QKeySequence::Save, [this] { save(); });
   add_command(tr("&Filter"), QKeySequence::Find, [this] {
     filter_.setFocus(Qt::ShortcutFocusReason);

@@ -119,8 +119,7 @@ void ListTable::add_family_heads() {
 
 ListCells ListTable::family_cells(int at) const {
   if (!families_) return {};
-  const Family& family =
-      all_families_[static_cast<std::size_t>(family_of_line_[static_cast<std::size_t>(at)])];
+  const Family& family = all_families_[static_cast<std::size_t>(family_of_line_[static_cast<std::size_t>(at)])];
   ListCells cells{plain_text(family.number), family.name};
   if (!merged_) return cells;
   constexpr int places = 3;
