@@ -23,6 +23,7 @@ class TableWindowTest : public DesktopTest {
     load("Quartz.cry");
   }
   TableWindow& open(const char* window = "Main1", const char* list = "List2") {
+    activate(window);
     auto& view = child<QListView>(window, list);
     view.setFocus();
     QTest::keyClick(&view, Qt::Key_T, Qt::ControlModifier);

@@ -17,6 +17,8 @@ class QMenu;
 namespace zol {
 
 class TableWindow : public QWidget {
+  Q_OBJECT
+
  public:
   /// @param owner  the window that holds the list; it goes with that one
   TableWindow(ListBox& list, QWidget& owner, Services& services, UserEvents& events);
