@@ -174,7 +174,8 @@ std::string coordination_line(const BondAtom& site, const Coordination& found) {
 std::string bond_line(const BondedCrystal& crystal, const BondAtom& site, const Bond& bond) {
   std::string line = name_fields(site) + name_fields(at_end_of(crystal, bond)) + length_field(bond.distance);
   for (const double x : {bond.position.u, bond.position.v, bond.position.w}) {
-    line += right_field(Format(x, "0.00000"), 10);
+    constexpr double shown = 5e-6;  // what is nearer to 0 has no sign
+    line += right_field(Format(std::abs(x) < shown ? 0 : x, "0.00000"), 10);
   }
   return line;
 }
