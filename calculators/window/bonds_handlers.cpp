@@ -61,8 +61,8 @@ std::string counts(const BondLines& lines) {
 }
 
 void calculate(Workbench& bench, BondsForm& form) {
+  if (bench.seen().NAtom < 1) throw RunFailure("there are no atoms");
   const CrystalState& state = main1_state(bench);
-  if (state.NAtom < 1) throw RunFailure("there are no atoms");
   const BondSettings settings = settings_of(form);
   const BondedCrystal crystal = bonded_crystal(state);
   WindowTask task(bench.services);
@@ -84,6 +84,11 @@ void Calc_Click(Workbench& bench, BondsForm& form) {
   }
 }
 
+/// At once of the crystal as it is, where there is one.
+void Form_Load(Workbench& bench, BondsForm& form) {
+  if (bench.seen().NAtom > 0) Calc_Click(bench, form);
+}
+
 void Box_KeyPress(Workbench& bench, BondsForm& form, int& key) {
   if (swallow_enter(key)) Calc_Click(bench, form);
 }
@@ -99,7 +104,7 @@ void wire(Workbench& bench, BondsForm& form) {
   form.Calc.on_click = on(Calc_Click);
   form.Limit.on_key_press = on(Box_KeyPress);
   form.Gap.on_key_press = on(Box_KeyPress);
-  form.on_load = on(Calc_Click);  // at once of the crystal as it is
+  form.on_load = on(Form_Load);
 }
 
 template void add_window<BondsForm>(Workbench&);

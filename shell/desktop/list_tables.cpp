@@ -17,7 +17,6 @@ void ListTables::add(Window& window, QMainWindow& top) {
 /// The table is made when it is first wanted.
 void ListTables::offer(ListBox& list, QListView& view, QMainWindow& top) {
   auto* action = new QAction(tr("Show as &table"), &view);
-  action->setObjectName(QStringLiteral("ShowAsTable"));
   action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_T));
   action->setShortcutContext(Qt::WidgetShortcut);
   view.addAction(action);

@@ -94,6 +94,10 @@ void TableWindow::tie() {
             const bool by_keyboard = !showing_ && QApplication::mouseButtons() == Qt::NoButton;
             if (by_keyboard && current.isValid()) pick(current.row());
           });
+  connect(&view_, &QTableView::activated, this, [this](const QModelIndex& index) {
+    if (QApplication::mouseButtons() == Qt::NoButton) pick(index.row());
+  });
+  view_.installEventFilter(this);
   connect(columns_, &QMenu::aboutToShow, this, &TableWindow::fill_columns_menu);
   view_.setContextMenuPolicy(Qt::ActionsContextMenu);
   add_command(tr("&Copy"), QKeySequence::Copy, [this] { copy(); });
@@ -255,6 +259,12 @@ void TableWindow::save() {
 
 bool TableWindow::eventFilter(QObject* watched, QEvent* event) {
   if (watched == parent() && event->type() == QEvent::Hide) hide();
+  // Qt makes the first row the current one then, which is no choice of the user.
+  if (watched == &view_ && event->type() == QEvent::FocusIn && !view_.currentIndex().isValid()) {
+    showing_ = true;
+    view_.selectionModel()->setCurrentIndex(model_.index(0, 0), QItemSelectionModel::NoUpdate);
+    showing_ = false;
+  }
   return QWidget::eventFilter(watched, event);
 }
 
