@@ -97,9 +97,10 @@ void copy_lines(const User& user) {
 /// By keys alone: the list as a table, merged, sorted by d, filtered and saved; the file says what was seen.
 void save_table(const User& user) {
   user.pick_line("Main1", "List2", 0);
-  QTest::keyClick(&user.widget<QListView>("Main1", "List2"), Qt::Key_T, Qt::ControlModifier);
-  auto* table = user.window("Main1").findChild<TableWindow*>();
-  expect(table != nullptr && QTest::qWaitForWindowActive(table), "Ctrl+T shows no table");
+  auto& list = user.widget<QListView>("Main1", "List2");
+  QTest::keyClick(&list, Qt::Key_T, Qt::ControlModifier);
+  auto* table = list.window()->findChild<TableWindow*>();
+  expect(table != nullptr && QTest::qWaitFor([table] { return table->isActiveWindow(); }), "Ctrl+T shows no table");
   auto& rows = *table->findChild<QTableView*>();
   QTest::keyClick(&rows, Qt::Key_O, Qt::AltModifier);
   const auto menu_is_open = [] { return QApplication::activePopupWidget() != nullptr; };
