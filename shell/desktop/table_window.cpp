@@ -169,12 +169,14 @@ void TableWindow::read() {
   show_after_change();
 }
 
-/// Grows to the right as far as the screen goes.
+/// Grows to the right, and where the screen ends there, to the left.
 void TableWindow::show_all_columns() {
   constexpr int around = 48;  // margins and the scroll bar
-  const int wanted = view_.horizontalHeader()->length() + around;
-  const int room = screen()->availableGeometry().right() - (isVisible() ? x() : 0);
-  if (wanted > width() && room > width()) resize(std::min(wanted, room), height());
+  const QRect room = screen()->availableGeometry();
+  const int wanted = std::min(view_.horizontalHeader()->length() + around, room.width());
+  if (wanted <= width()) return;
+  if (isVisible() && x() + wanted > room.right()) move(std::max(room.left(), room.right() - wanted), y());
+  resize(wanted, height());
 }
 
 void TableWindow::update_rows() {
