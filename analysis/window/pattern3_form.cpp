@@ -56,7 +56,8 @@ std::shared_ptr<const ListColumns> Pattern3Form::solution_table(const CrystalSta
     }
     const bool has_widths = Heading.caption().ends_with("w3");
     for (const auto* error : {"w1", "w2", "w3"}) {
-      if (has_widths) all.push_back({error, "%", 6, ListColumn::Number, ' ', "width of a band, computed less measured"});
+      if (has_widths)
+        all.push_back({error, "%", 6, ListColumn::Number, ' ', "width of a band, computed less measured"});
     }
     all.push_back({"solved by", "", ListColumn::to_the_end, ListColumn::Word});
     return all;
@@ -69,8 +70,8 @@ std::shared_ptr<const ListColumns> Pattern3Form::solution_table(const CrystalSta
     }
     return directions;
   };
-  return std::make_shared<const ListColumns>(ListColumns{
-      "Solutions", columns, [](std::string_view line) { return !line.starts_with("    No. of"); }, added});
+  return std::make_shared<const ListColumns>(
+      ListColumns{"Solutions", columns, [](std::string_view line) { return !line.starts_with("    No. of"); }, added});
 }
 
 std::string Pattern3Form::lines_missing() const {

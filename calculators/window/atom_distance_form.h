@@ -26,6 +26,7 @@ struct AtomDistanceForm : Window {
                               guard::when(!(DistanceMax > 0), "the largest distance is not above 0")});
     });
     constexpr auto word = ListColumn::Word;
+    BondsAndAngles.warn_when = [&seen = bench.seen()] { return guard::when(seen.NAtom < 1, "there are no atoms"); };
     List1.table = std::make_shared<const ListColumns>(
         ListColumns{"Distances",
                     always({{"atom 1", "", 7, word},
@@ -43,6 +44,7 @@ struct AtomDistanceForm : Window {
   TextBox Text1{*this, "Text1", "distance maximum (A)="};
   CommandButton Command1{*this, "Command1", "Calc"};
   ListBox List1{*this, "List1"};
+  CommandButton BondsAndAngles{*this, "BondsAndAngles", "Bonds and angles"};
 
   DistanceCell cell;       ///< as it was at the last calculation
   Single DistanceMax = 0;  ///< angstroms

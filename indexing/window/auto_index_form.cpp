@@ -184,25 +184,24 @@ void AutoIndexForm::declare_tables() {
   constexpr auto number = ListColumn::Number;
   constexpr auto word = ListColumn::Word;
   const auto table = [](ListColumns columns) { return std::make_shared<const ListColumns>(std::move(columns)); };
-  Families.table = table({"Families of planes",
-                          always({{"taken", "", 2, word, ' ', "x: used, -: left out"},
-                                  {"h", "", 3},
-                                  {"k", "", 3},
-                                  {"l", "", 3},
-                                  {"n", "", 4, number, ' ', "planes of the family"},
-                                  {"d", "Å", 8},
-                                  {"width", "°", 8},
-                                  {"F2", "%", 8, number, ' ', "|F|^2, of the strongest family"}})});
-  Bands.table = table({"Bands",
-                       always({{"no", "", 3},
-                               {"azimuth", "°", 9},
-                               {"distance", "°", 9},
-                               {"width", "°", 7},
-                               {"strength", "", 9},
-                               {"h", "", 4},
-                               {"k", "", 3},
-                               {"l", "", 3},
-                               {"off", "°", 6, number, ' ', "from the plane of the picked solution"}})});
+  Families.table =
+      table({"Families of planes", always({{"taken", "", 2, word, ' ', "x: used, -: left out"},
+                                           {"h", "", 3},
+                                           {"k", "", 3},
+                                           {"l", "", 3},
+                                           {"n", "", 4, number, ' ', "planes of the family"},
+                                           {"d", "Å", 8},
+                                           {"width", "°", 8},
+                                           {"F2", "%", 8, number, ' ', "|F|^2, of the strongest family"}})});
+  Bands.table = table({"Bands", always({{"no", "", 3},
+                                        {"azimuth", "°", 9},
+                                        {"distance", "°", 9},
+                                        {"width", "°", 7},
+                                        {"strength", "", 9},
+                                        {"h", "", 4},
+                                        {"k", "", 3},
+                                        {"l", "", 3},
+                                        {"off", "°", 6, number, ' ', "from the plane of the picked solution"}})});
   constexpr int u = 6;
   const auto hexagonal = [this](const ListCells& row) {
     const auto rank = static_cast<std::size_t>(Val(row[0]));

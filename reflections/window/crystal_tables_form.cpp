@@ -38,16 +38,14 @@ std::vector<AddedColumns> reflection_columns(const CrystalState& seen) {
                      },
                      k});
   }
-  added.push_back({"Multiplicity",
-                   {{"m", "", 0, number, ' ', "how many reflections are equivalent, Friedel mates included"}},
-                   [symmetry](const ListCells& row) {
-                     return ListCells{plain_text(symmetry->multiplicity(indices_of(row)))};
-                   }});
-  added.push_back({"Systematic absences",
-                   {{"absent", "", 0, word, ' ', "where a screw axis or a glide plane leaves nothing of it"}},
-                   [symmetry](const ListCells& row) {
-                     return ListCells{symmetry->absent(indices_of(row)) ? "extinct" : ""};
-                   }});
+  added.push_back(
+      {"Multiplicity",
+       {{"m", "", 0, number, ' ', "how many reflections are equivalent, Friedel mates included"}},
+       [symmetry](const ListCells& row) { return ListCells{plain_text(symmetry->multiplicity(indices_of(row)))}; }});
+  added.push_back(
+      {"Systematic absences",
+       {{"absent", "", 0, word, ' ', "where a screw axis or a glide plane leaves nothing of it"}},
+       [symmetry](const ListCells& row) { return ListCells{symmetry->absent(indices_of(row)) ? "extinct" : ""}; }});
   return added;
 }
 
@@ -72,15 +70,14 @@ std::shared_ptr<const ListColumns> space_group_table() {
 }
 
 std::shared_ptr<const ListColumns> atom_table() {
-  return std::make_shared<const ListColumns>(ListColumns{"Atoms of the unit cell",
-                                                         always({{"number", "", 8},
-                                                                 {"label", "", 8, word},
-                                                                 {"element", "", 8, word},
-                                                                 {"occupancy", "", 10},
-                                                                 {"x", "", 10},
-                                                                 {"y", "", 10},
-                                                                 {"z", "", 10},
-                                                                 {"B", "Å²", 10}})});
+  return std::make_shared<const ListColumns>(ListColumns{"Atoms of the unit cell", always({{"number", "", 8},
+                                                                                           {"label", "", 8, word},
+                                                                                           {"element", "", 8, word},
+                                                                                           {"occupancy", "", 10},
+                                                                                           {"x", "", 10},
+                                                                                           {"y", "", 10},
+                                                                                           {"z", "", 10},
+                                                                                           {"B", "Å²", 10}})});
 }
 
 std::shared_ptr<const ListColumns> reflection_table(const CrystalState& seen) {

@@ -119,8 +119,7 @@ void ListTable::add_family_heads() {
 
 ListCells ListTable::family_cells(int at) const {
   if (!families_) return {};
-  const Family& family =
-      all_families_[static_cast<std::size_t>(family_of_line_[static_cast<std::size_t>(at)])];
+  const Family& family = all_families_[static_cast<std::size_t>(family_of_line_[static_cast<std::size_t>(at)])];
   ListCells cells{plain_text(family.number), family.name};
   if (!merged_) return cells;
   constexpr int places = 3;
@@ -135,11 +134,13 @@ std::string ListTable::head(int at) const {
 }
 
 int ListTable::column_named(std::string_view name) const {
+  int found = -1;
   const auto wanted = small_letters(name);
-  for (int i = 0; i < columns(); ++i) {
-    if (small_letters(column(i).name) == wanted) return i;
+  for (int i = columns() - 1; i >= 0; --i) {
+    if (column(i).name == name) return i;
+    if (small_letters(column(i).name) == wanted) found = i;
   }
-  return -1;
+  return found;
 }
 
 int ListTable::row_of(int line) const {

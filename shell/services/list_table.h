@@ -28,7 +28,7 @@ class ListTable {
   [[nodiscard]] int columns() const { return static_cast<int>(heads_.size()); }
   [[nodiscard]] const ListColumn& column(int column) const { return heads_[static_cast<std::size_t>(column)].column; }
   [[nodiscard]] std::string head(int column) const;  ///< name and unit
-  /// -1 when there is none; small and capital letters are the same.
+  /// -1 when there is none. Where no column has the very name, small and capital letters are the same.
   [[nodiscard]] int column_named(std::string_view name) const;
 
   /// Rows from 0, in the order of the list.

@@ -46,9 +46,8 @@ TableFilter::Part TableFilter::part_of(std::string_view word, const ListTable& t
   const int column = table.column_named(word.substr(0, place));
   if (column < 0) return anywhere;
   const auto comparison = word.substr(place);
-  const auto* const sign = std::find_if(signs.begin(), signs.end(), [comparison](std::string_view known) {
-    return comparison.starts_with(known);
-  });
+  const auto* const sign = std::find_if(signs.begin(), signs.end(),
+                                        [comparison](std::string_view known) { return comparison.starts_with(known); });
   Part part{column, *sign, small_letters(comparison.substr(sign->size()))};
   std::string number = part.text;
   std::replace(number.begin(), number.end(), ',', '.');
