@@ -11,6 +11,7 @@
 #include "core/number_text.h"
 #include "shell/desktop/group_search_box.h"
 #include "shell/desktop/library/library_panel.h"
+#include "shell/desktop/lit_reflection.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/ways_in_bar.h"
 #include "shell/program/program.h"
@@ -51,6 +52,7 @@ void Desk::add(Window& window, QMainWindow& top) {
   recent_.add(window, top);
   windows_menu_.add(window, top);
   offer_group_search(top);
+  tie_lists_of_reflections(top);
   if (window.crystal_file != nullptr) offer_crystals(window, top);
   const auto ways = open_ways(window);
   if (ways.empty()) return;

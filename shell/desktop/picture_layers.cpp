@@ -103,13 +103,17 @@ void paint_circle(QPainter& painter, const PicturePlace& place) {
   constexpr double share = 0.4;  // of the smaller side
   const PictureGeometry& geometry = *place.canvas->geometry;
   const double room = share * std::min(place.rect.width(), place.rect.height());
-  const double angle = circle_angle(geometry, room / place.pixels(1));
+  const CircleFrame frame = geometry.circle_frame ? geometry.circle_frame() : CircleFrame{};
+  const QPointF centre = place.to_view(frame.x, frame.y);
+  const QPointF unit = place.to_view(frame.x + frame.unit_x, frame.y + frame.unit_y) - centre;
+  const double longer = std::max(std::abs(unit.x()), std::abs(unit.y()));
+  const double angle = longer > 0 ? circle_angle(geometry, room / longer) : 0;
   if (angle <= 0) return;
-  const double radius = place.pixels(geometry.circle(angle));
-  const QPointF centre = place.to_view(0, 0);
+  const double across = std::abs(unit.x()) * geometry.circle(angle);
+  const double radius = std::abs(unit.y()) * geometry.circle(angle);
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(accent, 1.5, Qt::DashLine));
-  painter.drawEllipse(centre, radius, radius);
+  painter.drawEllipse(centre, across, radius);
   painter.drawLine(centre - QPointF(5, 0), centre + QPointF(5, 0));
   painter.drawLine(centre - QPointF(0, 5), centre + QPointF(0, 5));
   draw_words(painter, centre + QPointF(3, radius - 7), to_qt(plain_text(angle) + "°"), place.rect);
@@ -170,7 +174,11 @@ void PictureLayers::paint(QPainter& painter, const PicturePlace& place) {
   painter.setClipRect(place.rect);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setFont(layer_font());
-  for (const PictureMark& mark : row_marks) draw_mark(painter, mark, place, QColor(0xff, 0xb0, 0x00));
+  const QColor amber(0xff, 0xb0, 0x00);
+  for (const PictureMark& mark : row_marks) draw_mark(painter, mark, place, amber);
+  for (const PictureMark& mark : linked ? place.canvas->marks() : PictureMarks()) {
+    if (mark.is_of(*linked)) draw_mark(painter, mark, place, amber);
+  }
   paint_wanted(painter, place);
   const auto& marks = place.canvas->marks();
   if (lit >= 0 && lit < static_cast<int>(marks.size())) {
@@ -184,7 +192,8 @@ void PictureLayers::paint_wanted(QPainter& painter, const PicturePlace& place) {
   const PictureChoices& choices = PictureChoices::of_program();
   painter.setFont(layer_font());
   if (choices.on(PictureChoices::Labels)) paint_labels(painter, place);
-  if (choices.on(PictureChoices::Scale) && !place.canvas->drawing().empty()) paint_scale(painter, place);
+  if (choices.on(PictureChoices::Scale) && (place.canvas->has_picture() || !place.canvas->drawing().empty()))
+    paint_scale(painter, place);
 }
 
 void PictureLayers::place_all(const QPainter& painter, const PicturePlace& place) {

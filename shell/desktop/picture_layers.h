@@ -33,6 +33,7 @@ class PictureLayers {
 
   int lit = -1;                     ///< the mark under the pointer, or of the row under it
   PictureMarks row_marks = {};      ///< of a row of the list
+  std::optional<std::array<int, 3>> linked;  ///< the reflection that is lit in another window
   std::optional<Place> from, to;    ///< a measurement, in user coordinates
   std::optional<QPointF> loupe_at;  ///< in the view
 

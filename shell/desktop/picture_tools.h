@@ -48,6 +48,7 @@ class PictureTools : public QObject {
   void link_rows();
   void light_row(int row);
   void light_in_list(int row);
+  void tell_lit();
   void walk(int by);
   void set_measuring(bool on);
   void tell_distance();
