@@ -13,6 +13,7 @@
 #include "core/read_file.h"
 #include "core/run_failure.h"
 #include "kikuchi/window/pattern2_form.h"
+#include "shell/script/name_pages.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
 
@@ -118,24 +119,14 @@ TEST(Script, QuotesTextsOfPictures) {
       << output.str();
 }
 
-// What scripts of users may print and call, by given names.
-TEST(Script, ReachesAllPublicNames) {
+// What scripts of users may name: controls, fields and operations, as the pages of names list them.
+TEST(Script, ReachesAllNamesOfThePages) {
   std::ostringstream output;
   ScriptServices services(output, nullptr);
   Program program({ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services);
-  const auto list = [&output](const std::string& owner, const NamedValues& values) {
-    for (const auto& name : values.names()) {
-      output << "print " << owner << '.' << name
-             << std::array{"", "(i)", "(i,j)"}.at(std::size_t(values.dimensions(name))) << '\n';
-    }
-  };
-  list("Module1", program.module1());
-  for (const auto& name : program.windows().names()) {
-    Window& window = program.windows().use(name);
-    list(name, window.fields());
-    for (const auto& operation : window.operation_names()) output << "call " << name << '.' << operation << '\n';
+  for (const auto& [name, text] : name_pages(program)) {
+    EXPECT_EQ(text, read_file(ZOL_SOURCE_DIR "/docs/names/" + name)) << "zol-script --names docs/names writes them";
   }
-  EXPECT_EQ(output.str(), read_file(ZOL_SOURCE_DIR "/tests/public_names.txt"));
 }
 
 // Å is one byte in a box and in a file, and two where the script meets them.

@@ -71,6 +71,7 @@ void name_application() {
   use_desktop_resources();
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/zol.svg")));
   use_look(kept_look());
+  follow_desktop();
   QApplication::setQuitOnLastWindowClosed(false);
   PictureChoices::of_program().keep_in(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
                                        QStringLiteral("/pictures.ini"));

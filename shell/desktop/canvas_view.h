@@ -91,6 +91,7 @@ class CanvasView : public QWidget {
   void add_exports(QMenu& menu);
   void press_at(const QPointF& position);
   void point_at(const QPointF& position);
+  void paint_mat(QPainter& painter) const;
   void paint_layers(QPainter& painter, const QRectF& place);
 
   Canvas* canvas_ = nullptr;

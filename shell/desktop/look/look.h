@@ -21,7 +21,10 @@ enum class Look { AsDesktop, Light, Dark, Plain };
 /// Shows all windows so. Nothing of it goes into pictures, files or exports.
 void use_look(Look look);
 [[nodiscard]] Look look_in_use();
-/// The shade that a look has now; the desktop's is told by the palette that the program was given at its start.
+/// From now on "as the desktop" changes with the desktop, where that says what it is.
+void follow_desktop();
+/// The shade that a look has now. The desktop's is what its settings portal says, else that of the palette that the
+/// program was given at its start.
 [[nodiscard]] Shade shade_of(Look look);
 
 /// The style sheet of what the style does not draw, with the colours put in.
