@@ -25,14 +25,6 @@ QFont layer_font() {
   return font;
 }
 
-/// Colours that are told apart, also by the colour-blind, and readable on white. Source: Okabe & Ito (2008), the two
-/// pale ones darkened.
-QColor family_colour(int family) {
-  constexpr std::array<QRgb, 7> colours{0xff0072b2, 0xffb34700, 0xff00795a, 0xff9c4a7c,
-                                        0xff7a6a00, 0xff2f6f9f, 0xff000000};
-  return QColor::fromRgb(colours.at(static_cast<std::size_t>(family) % colours.size()));
-}
-
 /// Words on a pale ground, inside the room as far as they fit.
 void draw_words(QPainter& painter, QPointF at, const QString& words, const QRectF& room) {
   constexpr double margin = 3;
@@ -176,6 +168,12 @@ QPointF PicturePlace::to_user(const QPointF& position) const {
 double PicturePlace::pixels(double length) const {
   const UserScale& scale = canvas->user_scale();
   return std::abs(length / (scale.right - scale.left)) * rect.width();
+}
+
+QColor family_colour(int family) {
+  constexpr std::array<QRgb, family_colours> colours{0xff0060c8, 0xff802010, 0xff008550, 0xff9c4a7c,
+                                                     0xff807400, 0xff202080, 0xff000000};
+  return QColor::fromRgb(colours.at(static_cast<std::size_t>(family) % colours.size()));
 }
 
 double circle_angle(const PictureGeometry& geometry, double most) {

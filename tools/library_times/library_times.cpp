@@ -1,5 +1,5 @@
-// How long the crystal library takes with many files: their first reading, a later start with the index, one changed file,
-// and a query.
+// How long the crystal library takes with many files: their first reading, a later start with the index, one changed
+// file, and a query.
 //
 // library_times [FILES]     made of the shipped crystals with other cells, half of them as CIF; default 10 000
 #include <unistd.h>
@@ -25,9 +25,8 @@ using namespace zol;
 namespace fs = std::filesystem;
 
 const SpaceGroupLibrary& groups() {
-  static const SpaceGroupLibrary library([](int number) {
-    return ZOL_SOURCE_DIR "/data/ZOL/SpaceGr/No" + Format(number, "000") + ".dat";
-  });
+  static const SpaceGroupLibrary library(
+      [](int number) { return ZOL_SOURCE_DIR "/data/ZOL/SpaceGr/No" + Format(number, "000") + ".dat"; });
   return library;
 }
 
@@ -78,7 +77,8 @@ int main(int argc, char** argv) {
   LibraryEntries entries;
   const auto update = [&] {
     QuietTask task;
-    update_library(folder, index, groups(), [&entries](LibraryEntries now) { entries = std::move(now); }, task);
+    update_library(
+        folder, index, groups(), [&entries](LibraryEntries now) { entries = std::move(now); }, task);
   };
   std::printf("%d files: first reading %.0f ms", count, milliseconds(update));
   std::printf(", with the index %.0f ms", milliseconds(update));
