@@ -45,13 +45,21 @@ PictureLayers::Place user_place(const PicturePlace& place, const QPointF& positi
 PictureTools::PictureTools(Canvas& canvas, UserEvents& events, QWidget& view, std::function<PicturePlace()> place,
                            std::function<void(const QString&)> tell)
     : canvas_(canvas), events_(events), view_(view), place_(std::move(place)), tell_(std::move(tell)) {
-  if (canvas_.rows != nullptr) link_rows();
-  if (canvas_.row_marks) view_.setFocusPolicy(Qt::StrongFocus);
+  view_.installEventFilter(this);
   connect(&LitReflection::of_program(), &LitReflection::changed, this,
           [this](const QObject* source, const LitReflection::Indices& hkl) {
             if (source == this || std::exchange(layers_.linked, hkl) == hkl || canvas_.marks().empty()) return;
             show();
           });
+}
+
+/// What a handler declares of its picture is there when the window is shown.
+bool PictureTools::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Show && list_ == nullptr) {
+    if (canvas_.rows != nullptr) link_rows();
+    if (canvas_.row_marks) view_.setFocusPolicy(Qt::StrongFocus);
+  }
+  return QObject::eventFilter(watched, event);
 }
 
 /// The mark that is lit, in the other windows.

@@ -43,6 +43,9 @@ class PictureTools : public QObject {
   void add_entries(QMenu& menu);
   [[nodiscard]] PictureLayers& layers() { return layers_; }
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   enum class Lit { ByPointer, ByRow };
   void link_rows();

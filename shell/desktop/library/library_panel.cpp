@@ -235,8 +235,8 @@ void LibraryPanel::tell() {
   if (!mistake_.isEmpty()) return state_->setText(mistake_);
   if (!fault_.isEmpty()) return state_->setText(fault_);
   const auto all = entries_ ? static_cast<int>(entries_->size()) : 0;
-  QString text = search_->text().isEmpty() ? tr("%n crystal(s)", nullptr, all)
-                                           : tr("%1 of %2 crystals").arg(model_->found()).arg(all);
+  QString text =
+      search_->text().isEmpty() ? tr("%1 crystals").arg(all) : tr("%1 of %2 crystals").arg(model_->found()).arg(all);
   if (!progress_.isEmpty()) text += QStringLiteral(", ") + progress_;
   state_->setText(text);
 }
