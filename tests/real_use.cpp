@@ -80,6 +80,30 @@ void find_windows(const User& user) {
   expect(user.window("Main1").isActiveWindow(), "Ctrl+2 leads elsewhere");
 }
 
+/// From a search in the library to a pattern, by the keyboard.
+void search_library(const User& user) {
+  QWidget& main1 = user.window("Main1");
+  QTest::keyClick(&main1, Qt::Key_L, Qt::ControlModifier);
+  auto& search = user.widget<QLineEdit>("Main1", "librarySearch");
+  const auto& state = user.widget<QLabel>("Main1", "libraryState");
+  expect(QTest::qWaitFor([&state] { return state.text() == QStringLiteral("31 crystals"); }, 20000),
+         "the library says: " + state.text().toStdString());
+  expect(QTest::qWaitFor([&search] { return search.hasFocus(); }), "the search has not the focus");
+  QTest::keyClicks(&search, QStringLiteral("+Si -O"));
+  user.take_picture("Main1", "library");
+  QTest::keyClick(&search, Qt::Key_Return);
+  expect(main1.windowTitle().contains(QStringLiteral("Silicon")), "the library opens no crystal");
+  user.click("Main1", "Command9");
+  user.fill("Pattern", {{"Text3", "1"}, {"Text4", "1"}, {"Text5", "0"}});
+  user.click("Pattern", "Command8");
+  const auto& picture = user.widget<CanvasView>("Pattern", "Picture1");
+  expect(picture.canvas()->marks().size() > 10, "there are no spots");
+  user.window("Pattern").close();
+  QTest::keyClick(&main1, Qt::Key_L, Qt::ControlModifier);
+  expect(!search.isVisible(), "Ctrl+L does not close the library");
+  user.load_crystal("Quartz.cry");
+}
+
 void copy_lines(const User& user) {
   auto& list = user.widget<QListView>("Main1", "List2");
   user.pick_line("Main1", "List2", 2);
@@ -433,9 +457,9 @@ void read_guide(const User& user) {
 }
 
 void walk(const User& user) {
-  for (auto* step : {use_main_window, find_windows, copy_lines, save_table, use_powder_windows, use_spot_windows,
-                     use_kikuchi_windows, use_calculators, use_files, undo_and_redo, index_pattern, index_automatically,
-                     read_guide}) {
+  for (auto* step : {use_main_window, find_windows, search_library, copy_lines, save_table, use_powder_windows,
+                     use_spot_windows, use_kikuchi_windows, use_calculators, use_files, undo_and_redo, index_pattern,
+                     index_automatically, read_guide}) {
     step(user);
   }
   user.click("MAIN_MENU", "Command5");

@@ -41,6 +41,7 @@ class Desk {
 
  private:
   void show_ways_in();
+  void offer_crystals(Window& window, QMainWindow& top);
 
   Program& program_;
   std::unique_ptr<QSettings> settings_;
