@@ -3,12 +3,13 @@
 //     zol-real-use FILES [PICTURES]
 //     zol-real-use FILES failure KIND
 //     zol-real-use FILES recovery STEP [WINDOW BOX TEXT]
+//     zol-real-use FILES day [PICTURES]
 //
 // FILES is a folder for what is saved on the way. With PICTURES a PNG of each window goes to that folder. The program
 // ends by "Exit" with status 0; a step that does not do what it should ends it with status 3 and a line that says
 // which. With "failure" one kind of failure of the run is brought about and the text of its message printed: status 1.
 // With "recovery" a crystal is changed and the program ended, in the way of the step, or what such a run left is looked
-// for and restored: the box then holds the text.
+// for and restored: the box then holds the text. With "day" a day's work is done, as the guide tells it.
 #include <unistd.h>
 
 #include <array>
@@ -27,7 +28,7 @@
 
 #include "shell/desktop/application.h"
 #include "shell/desktop/table_window.h"
-#include "tests/real_user.h"
+#include "tests/real_day.h"
 
 namespace zol {
 namespace {
@@ -540,12 +541,17 @@ void recover(const User& user, int argc, char** argv) {
 int main(int argc, char** argv) {
   if (argc < 2) zol::give_up("usage: zol-real-use FILES [PICTURES | failure KIND | recovery STEP]");
   const QString files = QFile::decodeName(argv[1]);
-  const std::optional<QString> pictures = argc == 3 ? std::optional(QFile::decodeName(argv[2])) : std::nullopt;
+  const bool is_day = argc > 2 && std::string_view(argv[2]) == "day";
+  const int pictures_at = is_day ? 3 : 2;
+  const std::optional<QString> pictures =
+      argc == pictures_at + 1 ? std::optional(QFile::decodeName(argv[pictures_at])) : std::nullopt;
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // those of a desktop can't be filled in from here
   return zol::run_application(argc, argv, [&](zol::Desktop& desktop) {
     const zol::User user(desktop, files, pictures);
     const std::string_view mode = argc > 3 ? argv[2] : "";
-    if (mode == "failure") {
+    if (is_day) {
+      zol::work_a_day(user);
+    } else if (mode == "failure") {
       zol::fail(user, argv[3]);
     } else if (mode == "recovery") {
       desktop.set_question([](const std::string& /*reason*/) { return true; });  // all the same
