@@ -38,6 +38,14 @@ void BatchProgram::choose_radiation(const std::string& word) {
 
 void BatchProgram::set_dmin(double dmin) { window<Main1Form>().Text15.set_text(plain_text(to_single(dmin))); }
 
+void BatchProgram::click(const CommandButton& button) {
+  if (button.warn_when) {
+    const std::string reason = button.warn_when();
+    if (!reason.empty()) throw RunFailure(reason);
+  }
+  button.click();
+}
+
 void BatchProgram::naming(const std::string& path, const std::function<void()>& action) {
   try {
     action();

@@ -48,6 +48,8 @@ class BatchProgram {
   /// Any structure file, or a crystal file of the program; makes the reflection list.
   /// @throws RunFailure  the message names the file
   void load(const std::string& path);
+  /// Clicks, unless the window warns of it: what ends in nonsense there fails here.
+  static void click(const CommandButton& button);
   /// Runs what may fail for a file. @throws RunFailure  the message names the file
   static void naming(const std::string& path, const std::function<void()>& action);
 

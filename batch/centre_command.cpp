@@ -165,10 +165,12 @@ void run(const CentreWords& words) {
   constexpr double usual_kilovolt = 20;
   const double kilovolt = words.kilovolt.value_or(header.kilovolt.value_or(usual_kilovolt));
   std::vector<CrystalModel> models;
+  models.reserve(words.crystals.size());
   for (const auto& path : words.crystals) {
     models.push_back(indexing_model(load_crystal(path, data, quiet), kilovolt, words.families, quiet));
   }
   std::vector<const CrystalModel*> pointers;
+  pointers.reserve(models.size());
   for (const auto& model : models) pointers.push_back(&model);
 
   MapIndexer indexer(*scan, *header.grid, start, pointers, settings);

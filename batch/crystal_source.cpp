@@ -89,11 +89,12 @@ LoadedCrystal load_crystal(const std::string& path, const DataRoot& data, Task& 
   return crystal;
 }
 
-CrystalModel indexing_model(const LoadedCrystal& crystal, double kilovolt, int families, Task& task) {
+CrystalModel indexing_model(const LoadedCrystal& crystal, double kilovolt, int families, Task& task,
+                            std::shared_ptr<const KinematicSphere> sphere) {
   try {
     ReflectorSet reflectors = crystal_reflectors(crystal.state, &crystal.group, kilovolt, task);
     auto used = voting_families(reflectors, families);
-    return make_crystal_model(crystal.title, std::move(reflectors), std::move(used), nullptr, task);
+    return make_crystal_model(crystal.title, std::move(reflectors), std::move(used), std::move(sphere), task);
   } catch (const RunFailure& failure) {
     throw RunFailure(crystal.title + ": " + failure.message());
   }

@@ -8,6 +8,7 @@
 #include "batch/batch_progress.h"
 #include "batch/batch_status.h"
 #include "batch/map_job.h"
+#include "batch/map_master.h"
 #include "batch/map_ranks.h"
 #include "batch/map_report.h"
 #include "batch/map_words.h"
@@ -36,7 +37,7 @@ std::uint64_t fingerprint(const MapWords& words) {
     std::error_code error;
     text += std::to_string(std::filesystem::last_write_time(file, error).time_since_epoch().count()) + '\n';
   }
-  return fingerprint_of(text);
+  return fingerprint_of(text + fingerprint_text(words.master));
 }
 
 void summarise(const MapResult& map) {

@@ -1,5 +1,7 @@
 #include "batch/map_job.h"
 
+#include <algorithm>
+#include <thread>
 #include <utility>
 
 #include "batch/crystal_source.h"
@@ -12,6 +14,12 @@
 
 namespace zol {
 namespace {
+
+/// Dynamical patterns are fitted so closely that neighbours, turned by a little, only blur what is fitted.
+std::string average_of(const MapWords& words) {
+  if (!words.average.empty()) return words.average;
+  return words.master.masters.empty() ? "nlpar" : "none";
+}
 
 Background background_of(const std::string& word) {
   if (word.starts_with("static")) return Background::stored;
@@ -61,7 +69,7 @@ MapSettings settings_of(const MapWords& words, const ScanHeader& header) {
                                                   : Refinement::none;
   settings.background = background_of(words.background);
   if (words.background.starts_with(static_picture)) settings.background_picture = background_picture(words, header);
-  read_average(words.average, settings);
+  read_average(average_of(words), settings);
   settings.least_confidence = words.min_ci;
   settings.most_fit_deg = words.max_fit;
   settings.flip = words.flip;
@@ -159,10 +167,14 @@ MapJob make_map_job(const MapWords& words, Task& task) {
   job.centre_source = centres.source;
   constexpr double usual_kilovolt = 20;
   job.kilovolt = words.kilovolt > 0 ? words.kilovolt : header.kilovolt.value_or(usual_kilovolt);
+  const int threads =
+      words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
   job.models.reserve(words.crystals.size());
   for (const auto& path : words.crystals) {
     const LoadedCrystal crystal = load_crystal(path, data, task);
-    job.models.push_back(indexing_model(crystal, job.kilovolt, words.families, task));
+    const MasterView view{job.kilovolt, centres.of_map.at(job.grid.points() / 2), header.width, header.height, threads};
+    job.models.push_back(indexing_model(crystal, job.kilovolt, words.families, task,
+                                        master_sphere_of(words.master, job.models.size(), crystal, view, task)));
     job.phases.push_back(map_phase(crystal, job.models.back()));
   }
   std::vector<const CrystalModel*> pointers;

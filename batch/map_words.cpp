@@ -43,7 +43,8 @@ void add_patterns(CLI::App& command, MapWords& words) {
         return text + " is none of auto, static, static=PICTURE, dynamic, none";
       })
       ->capture_default_str();
-  command.add_option("--average", words.average, "nlpar, nlpar=SHARE, 3x3, none")->group(group)->capture_default_str();
+  command.add_option("--average", words.average, "nlpar, nlpar=SHARE, 3x3, none; left out: nlpar, none with --master")
+      ->group(group);
   command.add_option("--mask", words.mask, "circle")->group(group)->check(CLI::IsMember({"circle"}));
   command.add_option("--region", words.region, "X,Y,W,H of the map, in points")->group(group);
   command.add_option("--dataset", words.dataset, "name of the scan in a file of several")->group(group);
@@ -68,6 +69,7 @@ void add_indexing(CLI::App& command, MapWords& words) {
       ->group(group)
       ->capture_default_str();
   command.add_option("--max-fit", words.max_fit, "degrees above which it is not")->group(group)->capture_default_str();
+  add_master_options(command, words.master);
 }
 
 }  // namespace

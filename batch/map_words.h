@@ -6,12 +6,14 @@
 #include <string>
 #include <vector>
 
+#include "batch/map_master.h"
+
 namespace zol {
 
 struct MapWords {
   std::string scan;
   std::vector<std::string> crystals, outputs;
-  std::string centre, convention = "bruker", size, background = "auto", average = "nlpar", refine = "pattern";
+  std::string centre, convention = "bruker", size, background = "auto", average, refine = "pattern";
   std::string scan_x = "right", scan_y = "down", dataset, region, mask;
   std::string pictures;        ///< what their names begin with; empty: none
   std::string settings_file;   ///< where words are read that the command line does not tell
@@ -22,6 +24,7 @@ struct MapWords {
   double screen_mm = 0, kilovolt = 0, min_ci = 0.1, max_fit = 3;
   int bands = 9, families = 6, threads = 0, fit_centre = 0;
   bool flip = false, resume = false, check = false, quiet = false, verbose = false, raw = false;
+  MapMasterWords master;
 };
 
 /// Scan, crystals, geometry and patterns.

@@ -23,6 +23,8 @@ struct PatternWords {
   bool index = false, roots = false;
 };
 
+constexpr double usual_dispersion_deg = 5;
+
 void set_number(TextBox& box, std::optional<double> number) {
   if (number) box.set_text(plain_text(to_single(*number)));
 }
@@ -41,7 +43,7 @@ Canvas& draw_spots(BatchProgram& program, const PatternWords& words, const std::
   form.Option1.set_on(!words.roots);
   form.Option2.set_on(words.roots);
   form.Check3.set_value(words.index ? 1 : 0);
-  form.Command8.click();
+  BatchProgram::click(form.Command8);
   return form.Picture1;
 }
 
@@ -49,9 +51,10 @@ Canvas& draw_fiber(BatchProgram& program, const PatternWords& words, const std::
   program.window<Main1Form>().Command12.click();
   auto& form = program.window<FiberTextureForm>();
   set_axis(axis, {&form.Text3, &form.Text4, &form.Text5});
-  set_number(form.Text1, words.area);
-  set_number(form.Text2, words.dispersion);
-  form.Command8.click();
+  const double whole_list = 1 / double{program.state().Dmin};
+  set_number(form.Text1, words.area.value_or(whole_list));
+  set_number(form.Text2, words.dispersion.value_or(usual_dispersion_deg));
+  BatchProgram::click(form.Command8);
   return form.Picture1;
 }
 
@@ -63,7 +66,7 @@ Pattern2Form& draw_kikuchi(BatchProgram& program, const PatternWords& words, con
   if (words.bands) form.Text19.set_text(std::to_string(*words.bands));
   form.Option1.set_on(!words.roots);
   form.Option2.set_on(words.roots);
-  form.Command8.click();
+  BatchProgram::click(form.Command8);
   return form;
 }
 
@@ -73,7 +76,7 @@ Canvas& draw(BatchProgram& program, const PatternWords& words, const std::array<
   Pattern2Form& form = draw_kikuchi(program, words, axis);
   if (words.kind == "map") {
     form.Check2.click();
-    form.Command8.click();
+    BatchProgram::click(form.Command8);
     return program.window<ZaxisForm>().Picture1;
   }
   if (words.kind == "picture") {
@@ -121,7 +124,8 @@ void add_pattern_command(CLI::App& app) {
                    "half the width: degrees, of spots and fiber inverse angstroms; left out: the window's")
       ->check(CLI::PositiveNumber);
   pattern->add_option("--bands", words->bands, "reflections of a Kikuchi pattern")->check(CLI::Range(1, 32767));
-  pattern->add_option("--dispersion", words->dispersion, "of a fiber, degrees")->check(CLI::NonNegativeNumber);
+  pattern->add_option("--dispersion", words->dispersion, "of a fiber, degrees; left out: 5")
+      ->check(CLI::NonNegativeNumber);
   pattern->add_option("--scale", words->scale, "pixels of .png and .bmp per pixel of the window")
       ->check(CLI::Range(0.1, 20.0))
       ->capture_default_str();

@@ -111,8 +111,8 @@ void calculate_powder(BatchProgram& program, const PowderWords& words) {
   set_number(form.Text3, words.width);
   set_number(form.Text4, words.gauss);
   set_cells(words.cells, {&form.Text6, &form.Text7, &form.Text8});
-  form.Picture1.clear();
-  XDCalc(program.bench());
+  form.Command2.click();
+  BatchProgram::click(form.Command1);
 }
 
 void run_powder(const PowderWords& words) {
@@ -154,17 +154,16 @@ void run_powder(const PowderWords& words) {
 
 void calculate_rings(BatchProgram& program, const PowderWords& words) {
   auto& form = program.window<DringForm>();
-  form.Check1.set_value(words.roots ? 1 : 0);
-  form.Check2.set_value(words.centred ? 1 : 0);
-  form.Check3.set_value(words.inverse ? 1 : 0);
   open_dring(program.bench());
+  for (const auto& [box, wanted] :
+       {std::pair(&form.Check1, words.roots), {&form.Check2, words.centred}, {&form.Check3, words.inverse}}) {
+    if (box->checked() != wanted) box->click();
+  }
   set_number(form.Text2, words.to);
   set_number(form.Text3, words.width);
   set_cells(words.cells, {&form.Text6, &form.Text7, &form.Text8});
-  form.DisplayMax = 0;
-  form.Picture1.clear();
-  form.Picture2.clear();
-  DRCalc(program.bench());
+  form.Command2.click();
+  BatchProgram::click(form.Command1);
 }
 
 void run_rings(PowderWords words) {

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "core/run_failure.h"
-#include "scans/hdf5_file.h"
+#include "hdf5/hdf5_file.h"
 #include "scans/readers.h"
 
 namespace zol {

@@ -350,6 +350,11 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
     }
   }
   if (best.model == nullptr) return result;
+  if (on_picture) {
+    best_fit.crystal_from_picture = best.crystal_from_picture;
+    best_fit = indexer.settle(*best.model, best_fit, centre, settings_.index);
+    best.crystal_from_picture = best_fit.crystal_from_picture;
+  }
   if (on_picture) fit_deg = std::hypot(best_fit.errors[0], best_fit.errors[1], best_fit.errors[2]);
   result.confidence = static_cast<float>(best.correlation);
   result.fit_deg = static_cast<float>(fit_deg);
