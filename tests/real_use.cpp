@@ -40,8 +40,8 @@ void use_main_window(const User& user) {
   expect(user.lines("Main1", "List2") > 100, "the list of quartz is too short");
   user.take_picture("Main1", "main1");
   user.take_numbered_picture("Main1", "main1-numbered",
-                             {"menubar", "Text1", "Text7", "Command1", "Combo1", "Text15", "Command6", "List2", "Command7",
-                              "Command13", "List1"});
+                             {"menubar", "Text1", "Text7", "Command1", "Combo1", "Text15", "Command6", "List2",
+                              "Command7", "Command13", "List1"});
   user.click("Main1", "Command1");
   User::type_on(user.widget<QTableView>("InputAtom", "G"), "0.2");
   user.take_picture("InputAtom", "input-atom");
@@ -89,6 +89,8 @@ void search_library(const User& user) {
          "the library says: " + state.text().toStdString());
   expect(QTest::qWaitFor([&search] { return search.hasFocus(); }), "the search has not the focus");
   QTest::keyClicks(&search, QStringLiteral("+Si -O"));
+  expect(QTest::qWaitFor([&state] { return state.text() == QStringLiteral("1 of 31 crystals"); }, 20000),
+         "the library says: " + state.text().toStdString());
   user.take_picture("Main1", "library");
   QTest::keyClick(&search, Qt::Key_Return);
   expect(main1.windowTitle().contains(QStringLiteral("Silicon")), "the library opens no crystal");
@@ -237,8 +239,8 @@ void use_kikuchi_windows(const User& user) {
     user.take_picture("Pattern2", picture);
     if (picture == std::string_view("kikuchi-silicon")) {
       user.take_numbered_picture("Pattern2", "kikuchi-numbered",
-                                 {"menubar", "Text3", "Command8", "Text1", "Text21", "Check2", "Command1(0)", "Command2",
-                                  "Command6", "List1", "Picture1"});
+                                 {"menubar", "Text3", "Command8", "Text1", "Text21", "Check2", "Command1(0)",
+                                  "Command2", "Command6", "List1", "Picture1"});
     }
   }
   user.save("kikuchi", "kikuchi.bmp", [&user] { user.choose("Pattern2", "ISAVE"); });
@@ -400,8 +402,8 @@ void index_automatically(const User& user) {
          "the pattern of silicon is not indexed");
   user.take_picture("AutoIndex", "automatic-indexing");
   user.take_numbered_picture("AutoIndex", "automatic-indexing-numbered",
-                             {"BandCount", "CircleMask", "Index", "RefineCentre", "Show", "Status", "Solutions", "Bands",
-                              "Families", "Crystals"});
+                             {"BandCount", "CircleMask", "Index", "RefineCentre", "Show", "Status", "Solutions",
+                              "Bands", "Families", "Crystals"});
   user.take_picture("PATTERN3", "automatic-indexing-bands");
   user.click("AutoIndex", "Over");
   user.save("simulated", "simulated.bmp", [&user] { user.choose("AutoIndex", "SaveSimulated"); });
@@ -421,9 +423,9 @@ void read_guide(const User& user) {
 }
 
 void walk(const User& user) {
-  for (auto* step :
-       {use_main_window, find_windows, search_library, copy_lines, use_powder_windows, use_spot_windows, use_kikuchi_windows,
-        use_calculators, use_files, undo_and_redo, index_pattern, index_automatically, read_guide}) {
+  for (auto* step : {use_main_window, find_windows, search_library, copy_lines, use_powder_windows, use_spot_windows,
+                     use_kikuchi_windows, use_calculators, use_files, undo_and_redo, index_pattern, index_automatically,
+                     read_guide}) {
     step(user);
   }
   user.click("MAIN_MENU", "Command5");
