@@ -13,7 +13,7 @@
 
 namespace zol {
 
-/// What depends on the crystal alone: the planes that vote, the angles between them, and which is near a direction.
+/// What depends only on the crystal: the planes that vote, the angles between them, and which is near a direction.
 class VoteTable {
  public:
   /// @param families_used  of each family of the set, whether it votes; shorter: the others do not
@@ -41,6 +41,7 @@ class VoteTable {
 struct VoteSettings {
   double tolerance_deg = 2.5;  ///< between a band and the plane that it is taken for
   int most_solutions = 10;
+  bool turn_onto_bands = true;  ///< by least squares over all that match; else two bands alone tell the orientation
 };
 
 struct MatchedBand {

@@ -26,6 +26,7 @@
 #include <QTimer>
 
 #include "shell/desktop/application.h"
+#include "shell/desktop/table_window.h"
 #include "tests/real_user.h"
 
 namespace zol {
@@ -117,6 +118,41 @@ void copy_lines(const User& user) {
   QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
   expect(QGuiApplication::clipboard()->text().count(u'\n') + 1 == user.lines("Main1", "List2"),
          "Ctrl+A selects not all lines");
+}
+
+/// By keys alone: the list as a table, merged, sorted by d, filtered and saved; the file says what was seen.
+void save_table(const User& user) {
+  user.pick_line("Main1", "List2", 0);
+  auto& list = user.widget<QListView>("Main1", "List2");
+  QTest::keyClick(&list, Qt::Key_T, Qt::ControlModifier);
+  auto* table = list.window()->findChild<TableWindow*>();
+  expect(table != nullptr && QTest::qWaitFor([table] { return table->isActiveWindow(); }), "Ctrl+T shows no table");
+  auto& rows = *table->findChild<QTableView*>();
+  QTest::keyClick(&rows, Qt::Key_O, Qt::AltModifier);
+  const auto menu_is_open = [] { return QApplication::activePopupWidget() != nullptr; };
+  expect(QTest::qWaitFor(menu_is_open), "the menu of columns does not open");
+  for (const int key : {Qt::Key_Up, Qt::Key_Return}) {  // the last entry
+    QTest::keyClick(QApplication::activePopupWidget(), static_cast<Qt::Key>(key));
+  }
+  QTest::keyClick(&rows, Qt::Key_F, Qt::ControlModifier);
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("d>2"));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  constexpr int spacing = 4;
+  rows.selectionModel()->setCurrentIndex(rows.model()->index(0, spacing), QItemSelectionModel::NoUpdate);
+  QTest::keyClick(&rows, Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
+  user.save("reflections", "reflections.csv", [&rows] { QTest::keyClick(&rows, Qt::Key_S, Qt::ControlModifier); });
+  QFile file(user.file("reflections.csv"));
+  expect(file.open(QIODevice::ReadOnly), "the table can't be read");
+  const QList<QByteArray> lines = file.readAll().trimmed().split('\n');
+  expect(lines.front().startsWith("h,k,l,") && lines.front().endsWith(",sum I"), "the heads of the table are others");
+  double before = 2;
+  for (const auto& line : lines.mid(1)) {
+    const double d = line.split(',')[spacing].toDouble();
+    expect(d >= before, "the saved table is not sorted");
+    before = d;
+  }
+  expect(lines.size() == rows.model()->rowCount() + 1 && lines.size() > 5, "the saved table has other rows");
+  table->close();
 }
 
 /// A pattern as a diffractometer would have it: the saved one over a background, 0.08 degrees off, not quite even.
@@ -423,9 +459,9 @@ void read_guide(const User& user) {
 }
 
 void walk(const User& user) {
-  for (auto* step : {use_main_window, find_windows, search_library, copy_lines, use_powder_windows, use_spot_windows,
-                     use_kikuchi_windows, use_calculators, use_files, undo_and_redo, index_pattern, index_automatically,
-                     read_guide}) {
+  for (auto* step : {use_main_window, find_windows, search_library, copy_lines, save_table, use_powder_windows,
+                     use_spot_windows, use_kikuchi_windows, use_calculators, use_files, undo_and_redo, index_pattern,
+                     index_automatically, read_guide}) {
     step(user);
   }
   user.click("MAIN_MENU", "Command5");

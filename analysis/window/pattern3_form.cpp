@@ -2,7 +2,9 @@
 
 #include <filesystem>
 
+#include "core/miller_bravais.h"
 #include "core/number_text.h"
+#include "reflections/window/crystal_tables_form.h"
 #include "shell/services/guards.h"
 #include "shell/services/place_text.h"
 
@@ -40,7 +42,36 @@ Pattern3Form::Pattern3Form(Workbench& bench)
                                              {&Text1, &Check1, &Check2, &Text17})},
                            {&Command1},
                            "Main1.List2"};
+  List1.table = solution_table(bench.seen());
   reads = {shared::radiation, shared::half_angle, shared::shifts, shared::order};
+}
+
+std::shared_ptr<const ListColumns> Pattern3Form::solution_table(const CrystalState& seen) const {
+  const auto columns = [this] {
+    std::vector<ListColumn> all{{"no"}};
+    for (const auto* index : {"h1", "k1", "l1", "h2", "k2", "l2", "h3", "k3", "l3"}) all.push_back({index, "", 4});
+    for (const auto* component : {"u", "v", "w"}) all.push_back({component, "", 7});
+    for (const auto* error : {"d12", "d23", "d31"}) {
+      all.push_back({error, "°", 5, ListColumn::Number, ' ', "angle between two bands, computed less measured"});
+    }
+    const bool has_widths = Heading.caption().ends_with("w3");
+    for (const auto* error : {"w1", "w2", "w3"}) {
+      if (has_widths)
+        all.push_back({error, "%", 6, ListColumn::Number, ' ', "width of a band, computed less measured"});
+    }
+    all.push_back({"solved by", "", ListColumn::to_the_end, ListColumn::Word});
+    return all;
+  };
+  constexpr int u = 10;
+  const auto added = [&seen] {
+    std::vector<AddedColumns> directions;
+    if (has_hexagonal_axes(seen.CellA, seen.CellB, seen.CellAlpha, seen.CellBeta, seen.CellGamma)) {
+      directions.push_back(direction_columns(u, [](const ListCells&) { return true; }));
+    }
+    return directions;
+  };
+  return std::make_shared<const ListColumns>(
+      ListColumns{"Solutions", columns, [](std::string_view line) { return !line.starts_with("    No. of"); }, added});
 }
 
 std::string Pattern3Form::lines_missing() const {
@@ -57,7 +88,7 @@ void Pattern3Form::declare_guards(const Workbench& bench) {
   warn({&Command1, &Command7, &Command8, &Command11, &Command12, &Command13, &Command14, &Command15}, [this, &seen] {
     const bool unknown = AdjustShown == 1 && (AdjustSolution < 1 || AdjustSolution > solutions.SolutionCount);
     return first_of({no_reflections(seen, 3), lines_missing(), when(Val(Text3.text()) == 0, "the area is 0 degrees"),
-                     when(unknown, "there is no solution of the number that is adjusted for")});
+                     when(unknown, "there is no solution of this number to adjust")});
   });
   const Reason no_picture = [this] { return when(!Picture1.has_picture(), "no picture is loaded"); };
   warn({&ImageFlip, &ImageMirror}, no_picture);
@@ -72,11 +103,11 @@ void Pattern3Form::declare_guards(const Workbench& bench) {
                 "the markers of the two poles are not set, or at the same height");
   };
   List1.warn_row = [this](int row) {
-    return when(row >= solutions.SolutionCount.value(), "the line of the number is no solution");
+    return when(row >= solutions.SolutionCount.value(), "this line is the number of solutions, not a solution");
   };
   Picture1.warn_click = [this] {
     const bool begins_line = SiMode == 0 && CenterMode == 0 && unfinished_line(lines);
-    return when(begins_line, "a click without a drag lays the line to the corner");
+    return when(begins_line, "a click without a drag draws the line to the corner");
   };
   for (TextBox* box : {&Text10, &Text11}) whole_number(*box);
   Text2.warn_text = [](const std::string& text) { return when(Val(text) < 0, "no list has fewer than 0 reflections"); };

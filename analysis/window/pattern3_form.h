@@ -116,7 +116,7 @@ struct Pattern3Form : Window {
   Single YShiftStep = 0;
   Integer AdjustSteps;     ///< of the search, to each side
   Integer AdjustSolution;  ///< number of the solution that is adjusted for
-  Integer AdjustShown;     ///< 1 while matching looks for that solution alone
+  Integer AdjustShown;     ///< 1 while matching looks only for that solution
   Single BestError = 0;    ///< squared degrees
 
   WorkingDistance working_distance;
@@ -126,6 +126,7 @@ struct Pattern3Form : Window {
  private:
   void name_fields();
   void declare_guards(const Workbench& bench);
+  [[nodiscard]] std::shared_ptr<const ListColumns> solution_table(const CrystalState& seen) const;
   [[nodiscard]] std::string lines_missing() const;
   /// An element of a triple table under its name.
   template <auto element>

@@ -140,6 +140,7 @@ void DringForm::declare(const Workbench& bench) {
   Picture1.made_from = made;
   Picture2.made_from = made.without_button();
   List1.made_from = made.without_button();
+  List1.table = peak_table({{"d", "Å"}});
   Picture1.remarks = [this, &bench] {
     auto words = PowderPattern::remarks(DStarMax, " Å⁻¹");
     const auto* main1 = dynamic_cast<const Main1Form*>(bench.windows.find(Main1Form::window_name));

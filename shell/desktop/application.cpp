@@ -27,8 +27,8 @@ void show_failure(const std::string& message, bool kept) {
                   QApplication::activeWindow());
   QString text =
       QCoreApplication::translate("zol",
-                                  "The program ends here. Files are as they were saved last. Start it again with "
-                                  "this mended; \"Known behaviour\" in the user guide tells more.");
+                                  "The program ends here. Files are as they were saved last. Correct this and start it "
+                                  "again; see \"Known behaviour\" in the user guide.");
   if (kept) {
     text += QStringLiteral("\n\n") +
             QCoreApplication::translate("zol", "Your work as it was before is kept: the next start offers it.");

@@ -41,7 +41,8 @@ Desk::Desk(Program& program, UserEvents& events, const QString& settings_file)
       opening_(program, events, [this] { recent_.forget_chosen(); }),
       recent_(settings_.get(), opening_,
               [this](const std::string& fault) { program_.bench().services.message(fault, "ZOL"); }),
-      places_(settings_.get()) {
+      places_(settings_.get()),
+      tables_(program.bench().services, events) {
   program_.bench().services.set_chosen(
       [this](const FileQuestion& question, const std::string& path) { recent_.chosen(question, path); });
 }
@@ -51,6 +52,7 @@ Desk::~Desk() { program_.bench().services.set_chosen({}); }
 void Desk::add(Window& window, QMainWindow& top) {
   recent_.add(window, top);
   windows_menu_.add(window, top);
+  tables_.add(window, top);
   offer_group_search(top);
   tie_lists_of_reflections(top);
   if (window.crystal_file != nullptr) offer_crystals(window, top);
@@ -88,6 +90,7 @@ void Desk::remove(const Window& window) {
 void Desk::update() {
   recent_.settle();
   windows_menu_.update();
+  tables_.update();
   show_ways_in();
 }
 

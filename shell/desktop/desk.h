@@ -11,6 +11,7 @@
 #include <QString>
 
 #include "shell/desktop/file_opening.h"
+#include "shell/desktop/list_tables.h"
 #include "shell/desktop/recent_menu.h"
 #include "shell/desktop/window_places.h"
 #include "shell/desktop/windows_menu.h"
@@ -48,6 +49,7 @@ class Desk {
   WindowsMenu windows_menu_;
   RecentMenu recent_;
   WindowPlaces places_;
+  ListTables tables_;
   std::map<std::string, QWidget*> ways_in_;  ///< the bar of each window that has one
 };
 

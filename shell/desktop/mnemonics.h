@@ -1,4 +1,4 @@
-// Letters behind Alt for menus that are added to those of a layout.
+// Letters after Alt for menus that are added to those of a layout.
 #pragma once
 
 #include <QString>

@@ -1,4 +1,4 @@
-// Which folders stand for the data root and the crystal folder on this machine.
+// Which folders are the data root and the crystal folder on this machine.
 #pragma once
 
 #include <string>
@@ -28,6 +28,9 @@ struct DataPlaces {
 
 /// The user's folder for what is kept between runs; empty where the system names none.
 [[nodiscard]] std::string state_folder();
+
+/// The user's folder for what can be made again; empty where the system names none.
+[[nodiscard]] std::string cache_folder();
 
 /// The folder of the examples: of the installation or, for a program run from its build, of the source tree.
 [[nodiscard]] std::string examples_folder();

@@ -27,7 +27,7 @@ enum ExitStatus { ended = 0, run_failed = 1, script_wrong = 2, question_unanswer
 constexpr auto usage = R"(usage: zol-script [--data DIR] [SCRIPT]
        zol-script [--data DIR] --names FOLDER
 
-Runs the program by the operations in SCRIPT, or on standard input, a line each.
+Runs the program by the operations in SCRIPT, or on standard input, one per line.
 
   --data DIR   DIR stands for the data root "ZOL"; crystals are in ZOLDATA beside it
   --names FOLDER
@@ -36,7 +36,7 @@ Runs the program by the operations in SCRIPT, or on standard input, a line each.
   --version    the version of the program
 
 Exit status: 0 end of the script or of the program, 1 failure of the run, or a script or
-an output that breaks off, 2 an operation that can't be read or names no control, 3 a
+an output that breaks off, 2 an operation that cannot be read or names no control, 3 a
 dialog without a queued answer, 130 or 143 stopped by SIGINT or SIGTERM.
 docs/scripting.md lists the operations.
 )";

@@ -1,6 +1,6 @@
 // Drives the program by a text of operations, one a line, instead of a mouse and a keyboard.
 //
-// The script and what it prints are UTF-8, the texts of the program Latin-1; names of files go through as they stand.
+// The script and what it prints are UTF-8, the texts of the program Latin-1; names of files go through as they are.
 #pragma once
 
 #include <iosfwd>
@@ -40,6 +40,7 @@ class ScriptDriver {
   void choose(const Words& words);
   void print(const Words& words);
   void print_value(const std::string& owner, const NamedValues& values, const std::string& name);
+  void print_table(const Words& words);
   void call(const Words& words);
   void print_pages();
   void go_in_history(std::shared_ptr<const Snapshot> (History::*go)(), const std::string& (History::*name)() const,

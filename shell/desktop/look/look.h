@@ -23,8 +23,8 @@ void use_look(Look look);
 [[nodiscard]] Look look_in_use();
 /// From now on "as the desktop" changes with the desktop, where that says what it is.
 void follow_desktop();
-/// The shade that a look has now. The desktop's is what its settings portal says, else that of the palette that the
-/// program was given at its start.
+/// The shade that a look has now. The desktop's is what its settings portal says, otherwise that of the palette that
+/// the program was given at its start.
 [[nodiscard]] Shade shade_of(Look look);
 
 /// The style sheet of what the style does not draw, with the colours put in.
@@ -32,7 +32,7 @@ void follow_desktop();
 
 /// The menu "View" of a window, made when there is none.
 [[nodiscard]] QMenu& view_menu(QMainWindow& window);
-/// The choice of the look and, where there is a picture, F9 for the picture alone.
+/// The choice of the look and, where there is a picture, F9 for only the picture.
 void offer_view(QMainWindow& window);
 
 /// What the layout declares by properties and a designer does not know: widths by digits (`digits`), icons (`ink`),
