@@ -91,6 +91,8 @@ void search_library(const User& user) {
          "the library says: " + state.text().toStdString());
   expect(QTest::qWaitFor([&search] { return search.hasFocus(); }), "the search has not the focus");
   QTest::keyClicks(&search, QStringLiteral("+Si -O"));
+  expect(QTest::qWaitFor([&state] { return state.text() == QStringLiteral("1 of 31 crystals"); }, 20000),
+         "the library says: " + state.text().toStdString());
   user.take_picture("Main1", "library");
   QTest::keyClick(&search, Qt::Key_Return);
   expect(main1.windowTitle().contains(QStringLiteral("Silicon")), "the library opens no crystal");
