@@ -102,7 +102,7 @@ void search_library(const User& user) {
   const auto& picture = user.widget<CanvasView>("Pattern", "Picture1");
   expect(picture.canvas()->marks().size() > 10, "there are no spots");
   user.window("Pattern").close();
-  QTest::keyClick(&main1, Qt::Key_L, Qt::ControlModifier);
+  QTest::keyClick(&user.window("Main1"), Qt::Key_L, Qt::ControlModifier);
   expect(!search.isVisible(), "Ctrl+L does not close the library");
   user.load_crystal("Quartz.cry");
 }
