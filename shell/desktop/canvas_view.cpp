@@ -14,6 +14,7 @@
 #include "core/number_text.h"
 #include "core/run_failure.h"
 #include "shell/desktop/drawing_painter.h"
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/picture_choices.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
@@ -28,7 +29,7 @@ constexpr double large_tick = 6;  // pixels
 constexpr double small_tick = 3;
 constexpr double gap = 3;
 
-QString title_of(const Axis& axis) { return to_qt(axis.quantity + " (" + axis.unit + ")"); }
+QString title_of(const Axis& axis) { return shown(to_qt(axis.quantity)) + to_qt(" (" + axis.unit + ")"); }
 
 /// How many large ticks have room. @param wanted  pixels for one of them
 int room_for(double length, double wanted) { return std::max(1, static_cast<int>(length / wanted)); }
@@ -129,7 +130,7 @@ void CanvasView::paint() {
 
 void CanvasView::paint_layers(QPainter& painter, const QRectF& place) {
   if (!shows_something()) {
-    if (!canvas_->hint.empty()) PictureLayers::paint_hint(painter, place, *canvas_);
+    if (!canvas_->hint.empty()) PictureLayers::paint_hint(painter, place, *canvas_, shown(to_qt(canvas_->hint)));
     return;
   }
   const PicturePlace at{canvas_, place};

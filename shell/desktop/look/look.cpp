@@ -11,6 +11,7 @@
 #include <QScreen>
 #include <QStyleFactory>
 
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/look/look_style.h"
 #include "shell/desktop/look/picture_alone.h"
 
@@ -152,6 +153,7 @@ void offer_view(QMainWindow& window) {
   QObject::connect(choices, &QMenu::aboutToShow, group, [group] {
     for (auto* action : group->actions()) action->setChecked(action->data().toInt() == static_cast<int>(kept_look()));
   });
+  offer_language(view_menu(window));
 }
 
 }  // namespace zol
