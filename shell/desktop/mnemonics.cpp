@@ -14,10 +14,10 @@
 namespace zol {
 namespace {
 
-/// The letter behind a single "&"; none: 0.
-QChar mnemonic(const QString& text) {
+/// The letter behind a single "&", if any.
+QString mnemonic(const QString& text) {
   const qsizetype at = mnemonic_at(text);
-  return at < 0 ? QChar() : text[at].toLower();
+  return at < 0 ? QString() : text.mid(at, 1).toLower();
 }
 
 /// Of a window, without those of the objects that are left out.
@@ -37,13 +37,19 @@ QString letters_in(const QWidget& window, const std::vector<const QObject*>& wit
   return used;
 }
 
-/// The menu that an action stands in, else the window.
+/// The window; for an action in a menu, that menu.
 const QWidget* scope_of(const QObject& owner) {
   if (const auto* action = qobject_cast<const QAction*>(&owner)) {
-    for (const QObject* place : action->associatedObjects()) {
-      if (const auto* menu = qobject_cast<const QMenu*>(place)) return menu;
+    const auto places = action->associatedObjects();
+    // What has no room in a menu bar stands in a menu behind it, too.
+    for (const QObject* place : places) {
+      if (const auto* bar = qobject_cast<const QMenuBar*>(place)) return bar->window();
     }
-    for (const QObject* place : action->associatedObjects()) {
+    for (const QObject* place : places) {
+      const auto* menu = qobject_cast<const QMenu*>(place);
+      if (menu != nullptr && menu != action->menu()) return menu;
+    }
+    for (const QObject* place : places) {
       if (const auto* widget = qobject_cast<const QWidget*>(place)) return widget->window();
     }
     return nullptr;

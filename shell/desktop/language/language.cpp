@@ -76,16 +76,16 @@ QString kept_language() {
   return is_known(kept) ? kept : QString();
 }
 
-QString desktop_language() {
-  for (const QString& wanted : QLocale::system().uiLanguages()) {
-    const QString code = wanted.section(u'-', 0, 0);
+QString first_known_language(const QStringList& wanted) {
+  for (const QString& language : wanted) {
+    const QString code = language.section(u'-', 0, 0);
     if (is_known(code)) return code;
   }
   return english();
 }
 
 void use_language(const QString& code) {
-  const QString wanted = code.isEmpty() ? desktop_language() : code;
+  const QString wanted = code.isEmpty() ? first_known_language(QLocale::system().uiLanguages()) : code;
   if (wanted == in_use().code) return;
   in_use().code = wanted;
   in_use().phrases = phrases_of(wanted);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include <QString>
+#include <QStringList>
 
 class QMenu;
 
@@ -21,8 +22,8 @@ struct Language {
 
 /// The code that is kept; empty: as the desktop has it.
 [[nodiscard]] QString kept_language();
-/// The desktop's first language that there is a table for, else English.
-[[nodiscard]] QString desktop_language();
+/// The first that there is a table for, else English. @param wanted  codes of languages and countries, as "de-AT"
+[[nodiscard]] QString first_known_language(const QStringList& wanted);
 /// Shows all windows in a language from now on. An empty code is the desktop's.
 void use_language(const QString& code);
 [[nodiscard]] QString language_in_use();

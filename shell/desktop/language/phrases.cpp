@@ -19,6 +19,19 @@ bool has_letter(const QString& text) {
   return std::any_of(text.begin(), text.end(), [](QChar c) { return c.isLetter(); });
 }
 
+const QLatin1String sentence_end(". ");  // of abbreviations, too
+
+/// What the program puts between the parts of a text.
+const QStringList& joints() {
+  static const QStringList all{QStringLiteral("\n"), QStringLiteral(", while "), QStringLiteral("   "),
+                               QStringLiteral("; "), QStringLiteral(" - "),      QStringLiteral(". ")};
+  return all;
+}
+
+bool has_joint(const QString& part) {
+  return std::any_of(joints().begin(), joints().end(), [&part](const QString& joint) { return part.contains(joint); });
+}
+
 /// Blanks, signs of equality and colons at the end of a caption.
 qsizetype tail_of(const QString& text) {
   qsizetype at = text.size();
@@ -130,10 +143,11 @@ std::optional<QString> Phrases::fill(const Template& form, const QStringList& pa
   return filled;
 }
 
-std::optional<QString> Phrases::by_template(const QString& text, int depth) const {
+/// @param strict  what stands in a place is no more than one part of a sentence
+std::optional<QString> Phrases::by_template(const QString& text, bool strict, int depth) const {
   for (const Template& form : templates_) {
     const auto parts = places(form, text);
-    if (!parts) continue;
+    if (!parts || (strict && std::any_of(parts->begin(), parts->end(), has_joint))) continue;
     if (auto filled = fill(form, *parts, depth)) return filled;
   }
   return std::nullopt;
@@ -158,18 +172,19 @@ std::optional<QString> Phrases::look_up_words(const QString& text) const {
 }
 
 /// Sentences and lists are put together of parts; each that is known is shown in the language.
-std::optional<QString> Phrases::by_parts(const QString& text, int depth) const {
-  for (const auto& mark : {QStringLiteral("\n"), QStringLiteral("   "), QStringLiteral("; "), QStringLiteral(" - "),
-                           QStringLiteral(". ")}) {
-    QStringList parts = text.split(mark);
+/// @param all  only where all are known
+std::optional<QString> Phrases::by_parts(const QString& text, bool all, int depth) const {
+  for (const QString& joint : joints()) {
+    QStringList parts = text.split(joint);
     if (parts.size() < 2) continue;
-    bool any = false;
+    qsizetype found = 0;
     for (QString& part : parts) {
       const auto known = look_up(part, depth + 1);
-      any = any || known;
+      if (known || !has_letter(part)) ++found;
       if (known) part = *known;
     }
-    if (any) return parts.join(mark);
+    if (found == parts.size() || (found > 0 && !all && joint != sentence_end))
+      return parts.join(exact_.value(joint, joint));
   }
   return std::nullopt;
 }
@@ -177,8 +192,10 @@ std::optional<QString> Phrases::by_parts(const QString& text, int depth) const {
 std::optional<QString> Phrases::look_up(const QString& text, int depth) const {
   if (depth > deepest || !has_letter(text)) return std::nullopt;
   if (auto found = look_up_words(text)) return found;
-  if (auto found = by_template(text, depth)) return found;
-  if (auto found = by_parts(text, depth)) return found;
+  if (auto found = by_template(text, true, depth)) return found;
+  if (auto found = by_parts(text, true, depth)) return found;
+  if (auto found = by_template(text, false, depth)) return found;
+  if (auto found = by_parts(text, false, depth)) return found;
   if (mnemonic_at(text) >= 0) return look_up(without_mnemonic(text), depth + 1);
   if (!text.front().isUpper()) return std::nullopt;
   QString small = text;  // a reason that begins a sentence

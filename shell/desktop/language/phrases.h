@@ -49,8 +49,8 @@ class Phrases {
   [[nodiscard]] std::optional<QString> look_up(const QString& text, int depth) const;
   [[nodiscard]] std::optional<QString> look_up_words(const QString& text) const;
   [[nodiscard]] std::optional<QString> fill(const Template& form, const QStringList& parts, int depth) const;
-  [[nodiscard]] std::optional<QString> by_template(const QString& text, int depth) const;
-  [[nodiscard]] std::optional<QString> by_parts(const QString& text, int depth) const;
+  [[nodiscard]] std::optional<QString> by_template(const QString& text, bool strict, int depth) const;
+  [[nodiscard]] std::optional<QString> by_parts(const QString& text, bool all, int depth) const;
 
   QHash<QString, QString> exact_;
   std::vector<Template> templates_;  ///< those that tell most first

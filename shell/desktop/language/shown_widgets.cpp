@@ -91,6 +91,13 @@ struct Change {
   QChar mnemonic;
 };
 
+/// A widget without a name of its own is called by what its tool tip says first.
+QString shown_name(const QObject& object, const QString& name) {
+  const QString tip = source_text(object, "toolTip");
+  if (is_translated(name) || !tip.startsWith(name)) return shown(name);
+  return shown(tip).section(u';', 0, 0).section(u'\n', 0, 0);
+}
+
 bool takes_mnemonic(const QObject& object, const char* property) {
   const QLatin1String name(property);
   if (name != QLatin1String("text") && name != QLatin1String("title")) return false;
@@ -105,7 +112,8 @@ std::optional<Change> change_of(QObject& object, const char* property) {
   const QString code = language_in_use();
   if (done && done->shown == now && done->code == code) return std::nullopt;
   Change change{&object, property, {source_of(now, done), {}, code}, {}};
-  change.done.shown = shown(change.done.source);
+  const bool name = qstrcmp(property, "accessibleName") == 0;
+  change.done.shown = name ? shown_name(object, change.done.source) : shown(change.done.source);
   if (change.done.shown == now && (!done || change.done.source == change.done.shown)) {
     if (done) object.setProperty(mark_of(property), {});
     return std::nullopt;
@@ -147,10 +155,12 @@ void collect(QObject& object, std::vector<Change>& changes) {
   }
 }
 
-void show_texts(const QObjectList& objects) {
+/// @returns whether any was changed
+bool show_texts(const QObjectList& objects) {
   std::vector<Change> changes;
   for (QObject* object : objects) collect(*object, changes);
-  if (!changes.empty()) make_all(changes);
+  make_all(changes);
+  return !changes.empty();
 }
 
 /// The status line shows what it is told in the language, too.
@@ -207,17 +217,16 @@ void show_widget_texts(QWidget& top) {
   QObjectList objects{&top};
   for (auto* widget : top.findChildren<QWidget*>()) objects += widget;
   for (auto* action : top.findChildren<QAction*>()) objects += action;
-  show_texts(objects);
+  const bool changed = show_texts(objects);
   if (auto* window = qobject_cast<QMainWindow*>(&top)) follow_status(*window);
+  if (!changed) return;
+  QEvent event(QEvent::LanguageChange);
+  QCoreApplication::sendEvent(&top, &event);
 }
 
 void show_all_widgets() {
   const TextsHeld held_here;
   for (auto* top : QApplication::topLevelWidgets()) show_widget_texts(*top);
-  for (auto* top : QApplication::topLevelWidgets()) {
-    QEvent changed(QEvent::LanguageChange);
-    QCoreApplication::sendEvent(top, &changed);
-  }
 }
 
 void follow_widgets(bool follow) {

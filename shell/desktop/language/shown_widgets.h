@@ -9,10 +9,10 @@ class QWidget;
 
 namespace zol {
 
-/// The texts of a widget, of its menus and of all in it. Mnemonics are shared out anew, each letter once in a window
-/// and once in a menu.
+/// The texts of a window, of its menus and of all in it. Mnemonics are shared out anew, each letter once in the window
+/// and once in a menu. The window is told by QEvent::LanguageChange when any has changed.
 void show_widget_texts(QWidget& top);
-/// Those of all windows; each is told by QEvent::LanguageChange.
+/// Those of all windows.
 void show_all_widgets();
 /// Whether widgets that come up or change are followed: in English nothing has to be done.
 void follow_widgets(bool follow);

@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>axis change</source>
-        <translation>Achsenwechsel</translation>
+        <translation>Achsen</translation>
     </message>
     <message>
         <source>turns the operators of the space group to another choice of axes</source>
@@ -1126,6 +1126,10 @@
     <message>
         <source>largest deviation of a band width, percent</source>
         <translation>größte Abweichung einer Bandbreite, Prozent</translation>
+    </message>
+    <message>
+        <source>No. of Ref.</source>
+        <translation>Reflexe</translation>
     </message>
     <message>
         <source>Area (deg.)</source>
@@ -2900,8 +2904,20 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>FEHLER</translation>
     </message>
     <message>
-        <source>%1, while %2</source>
-        <translation>%L1 (bei: %L2)</translation>
+        <source>, while </source>
+        <translation>, bei: </translation>
+    </message>
+    <message>
+        <source>%1 (!)</source>
+        <translation>%L1 (!)</translation>
+    </message>
+    <message>
+        <source>it has %1 x %2 pixels</source>
+        <translation>es hat %1 x %2 Pixel</translation>
+    </message>
+    <message>
+        <source>the list of recent files does not name it any more</source>
+        <translation>die Liste der letzten Dateien nennt sie nicht mehr</translation>
     </message>
     <message>
         <source>%1 was pressed</source>
@@ -4870,6 +4886,238 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
     <message>
         <source>cubic</source>
         <translation>kubisch</translation>
+    </message>
+    <message>
+        <source>the position of the site "%1" is no finite number</source>
+        <translation>die Lage des Platzes „%1“ ist keine endliche Zahl</translation>
+    </message>
+    <message>
+        <source>the product of two symmetry operators has no exact form</source>
+        <translation>das Produkt zweier Symmetrieoperatoren hat keine genaue Form</translation>
+    </message>
+    <message>
+        <source>its first letter is no lattice</source>
+        <translation>sein erster Buchstabe ist kein Gitter</translation>
+    </message>
+    <message>
+        <source>"%1" is no translation</source>
+        <translation>„%1“ ist keine Translation</translation>
+    </message>
+    <message>
+        <source>"%1" has no order of a rotation</source>
+        <translation>„%1“ hat keine Zähligkeit</translation>
+    </message>
+    <message>
+        <source>three numbers are expected in its brackets</source>
+        <translation>in seinen Klammern werden drei Zahlen erwartet</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>es ist leer</translation>
+    </message>
+    <message>
+        <source>images of %1 lie closer than %2 angstroms; by their occupancies they are a split site, and stay apart</source>
+        <translation>Bilder von %1 liegen näher als %2 Ångström; nach den Besetzungen ist es ein aufgespaltener Platz, sie bleiben getrennt</translation>
+    </message>
+    <message>
+        <source>the %1 symmetry operators are no group; the %2 that they make are taken</source>
+        <translation>die %1 Symmetrieoperatoren sind keine Gruppe; die %2, die sie erzeugen, werden genommen</translation>
+    </message>
+    <message>
+        <source>the %1 symmetry operators do not belong to %2, which has %3; the operators count</source>
+        <translation>die %1 Symmetrieoperatoren gehören nicht zu %2, das %3 hat; die Operatoren gelten</translation>
+    </message>
+    <message>
+        <source>the only symmetry operator is the identity, although the file says %1; the atoms are taken as they are listed</source>
+        <translation>der einzige Symmetrieoperator ist die Identität, obwohl die Datei %1 sagt; die Atome werden genommen, wie sie dastehen</translation>
+    </message>
+    <message>
+        <source>the only symmetry operator is the identity; those of %1 are taken</source>
+        <translation>der einzige Symmetrieoperator ist die Identität; die von %1 werden genommen</translation>
+    </message>
+    <message>
+        <source>the symmetry operators make no finite group</source>
+        <translation>die Symmetrieoperatoren ergeben keine endliche Gruppe</translation>
+    </message>
+    <message>
+        <source>H   K   L     k/2    D(A)   2-Theta     A       B       F      I(powder)</source>
+        <translation>H   K   L     k/2    D(A)   2-Theta     A       B       F      I(Pulver)</translation>
+    </message>
+    <message>
+        <source>%1 begins with other bytes, expected is %2</source>
+        <translation>%1 beginnt mit anderen Bytes, erwartet wird %2</translation>
+    </message>
+    <message>
+        <source>%1, %2: expected are two finite numbers</source>
+        <translation>%1, %L2: erwartet werden zwei endliche Zahlen</translation>
+    </message>
+    <message>
+        <source>%1, %2: %3 after %4, expected are places that %5 from one line to the next</source>
+        <translation>%1, %L2: %3 nach %4, erwartet werden Stellen, die von Zeile zu Zeile %L5</translation>
+    </message>
+    <message>
+        <source>rise</source>
+        <translation>steigen</translation>
+    </message>
+    <message>
+        <source>fall</source>
+        <translation>fallen</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>Zeile %1</translation>
+    </message>
+    <message>
+        <source>point %1</source>
+        <translation>Punkt %1</translation>
+    </message>
+    <message>
+        <source>crystal axes from picture axes</source>
+        <translation>Kristallachsen aus Bildachsen</translation>
+    </message>
+    <message>
+        <source>%1 has indices from 1 to 3</source>
+        <translation>%1 hat Indizes von 1 bis 3</translation>
+    </message>
+    <message>
+        <source>h  k  l   n   d (A)   width  F2 (%)</source>
+        <translation>h  k  l   n   d (A)  Breite  F2 (%)</translation>
+    </message>
+    <message>
+        <source>no  azimuth distance  width strength   h  k  l   off</source>
+        <translation>Nr   Azimut  Abstand Breite   Stärke   h  k  l   Abw</translation>
+    </message>
+    <message>
+        <source>no bands    off  corr. conf.      u      v      w   phi1    Phi   phi2</source>
+        <translation>Nr Bänd.    Abw  Korr. Sich.      u      v      w   phi1    Phi   phi2</translation>
+    </message>
+    <message>
+        <source>can't read %1 as a bitmap: %2</source>
+        <translation>%1 ist nicht als Bitmap lesbar: %L2</translation>
+    </message>
+    <message>
+        <source>it is cut short: %1 goes to byte %2, there are %3</source>
+        <translation>sie ist abgeschnitten: %L1 geht bis Byte %2, da sind %3</translation>
+    </message>
+    <message>
+        <source>its header</source>
+        <translation>ihr Kopf</translation>
+    </message>
+    <message>
+        <source>its palette</source>
+        <translation>ihre Palette</translation>
+    </message>
+    <message>
+        <source>a bitmap (BMP) begins with the letters BM</source>
+        <translation>eine Bitmap (BMP) beginnt mit den Buchstaben BM</translation>
+    </message>
+    <message>
+        <source>its header is said to have %1 bytes; known are 12, 40, 64, 108 and 124</source>
+        <translation>ihr Kopf soll %1 Bytes haben; bekannt sind 12, 40, 64, 108 und 124</translation>
+    </message>
+    <message>
+        <source>its header tells %1 x %2 pixels; %3</source>
+        <translation>ihr Kopf nennt %1 x %2 Pixel; %L3</translation>
+    </message>
+    <message>
+        <source>a side has 1 to 32767, and 8192 x 8192 in all are possible</source>
+        <translation>eine Seite hat 1 bis 32767, und 8192 x 8192 insgesamt sind möglich</translation>
+    </message>
+    <message>
+        <source>its header tells %1 bits a pixel in %2 planes with compression %3; 1, 4, 8, 16, 24 or 32 bits in 1 plane are possible, plain, run-length encoded or with bit fields</source>
+        <translation>ihr Kopf nennt %1 Bits je Pixel in %2 Ebenen mit Kompression %3; möglich sind 1, 4, 8, 16, 24 oder 32 Bits in 1 Ebene, schlicht, lauflängenkodiert oder mit Bitfeldern</translation>
+    </message>
+    <message>
+        <source>its palette is said to have %1 colours; at most 256 are possible</source>
+        <translation>ihre Palette soll %1 Farben haben; höchstens 256 sind möglich</translation>
+    </message>
+    <message>
+        <source>it is cut short: %1 rows of %2 bytes need %3, there are %4, for %5 rows</source>
+        <translation>sie ist abgeschnitten: %1 Zeilen zu %2 Bytes brauchen %3, da sind %4, für %5 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 behind pixel %2 of %3 in row %4 of %5</source>
+        <translation>%L1 hinter Pixel %2 von %3 in Zeile %4 von %5</translation>
+    </message>
+    <message>
+        <source>it is cut short: it ends</source>
+        <translation>sie ist abgeschnitten: sie endet</translation>
+    </message>
+    <message>
+        <source>its run-length code leaves pixels out</source>
+        <translation>ihr Lauflängencode lässt Pixel aus</translation>
+    </message>
+    <message>
+        <source>its run-length code ends</source>
+        <translation>ihr Lauflängencode endet</translation>
+    </message>
+    <message>
+        <source>its run-length code goes beyond the row</source>
+        <translation>ihr Lauflängencode geht über die Zeile hinaus</translation>
+    </message>
+    <message>
+        <source>the picture %1 has no pixels here</source>
+        <translation>das Bild %1 hat hier keine Pixel</translation>
+    </message>
+    <message>
+        <source>there is no field %1</source>
+        <translation>es gibt kein Feld %1</translation>
+    </message>
+    <message>
+        <source>%1 takes %2 indices</source>
+        <translation>%1 nimmt %2 Indizes</translation>
+    </message>
+    <message>
+        <source>there are no pixel images here</source>
+        <translation>hier gibt es keine Pixelbilder</translation>
+    </message>
+    <message>
+        <source>what is to be kept has %1 parts, at most 4294967295 can be</source>
+        <translation>was aufzubewahren ist, hat %1 Teile, höchstens 4294967295 gehen</translation>
+    </message>
+    <message>
+        <source>%1 takes no file</source>
+        <translation>%1 nimmt keine Datei</translation>
+    </message>
+    <message>
+        <source>there is no %1 to be used</source>
+        <translation>es gibt kein %1 zum Benutzen</translation>
+    </message>
+    <message>
+        <source>there is no window %1</source>
+        <translation>es gibt kein Fenster %1</translation>
+    </message>
+    <message>
+        <source>can't lock a file in %1: %2</source>
+        <translation>eine Datei in %1 lässt sich nicht sperren: %L2</translation>
+    </message>
+    <message>
+        <source>neither HOME nor XDG_STATE_HOME names a folder</source>
+        <translation>weder HOME noch XDG_STATE_HOME nennt einen Ordner</translation>
+    </message>
+    <message>
+        <source>it is of format %1, this program reads format %2</source>
+        <translation>sie hat Format %1, dieses Programm liest Format %2</translation>
+    </message>
+    <message>
+        <source>new crystal</source>
+        <translation>neuer Kristall</translation>
+    </message>
+    <message>
+        <source>The pages of the user guide are not installed: %1 is missing.</source>
+        <translation>Die Seiten des Handbuchs sind nicht installiert: %1 fehlt.</translation>
+    </message>
+    <message>
+        <source>ended by a failure</source>
+        <translation>durch einen Fehler beendet</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>Qt's plug-in for it is missing (in Debian's package qt6-image-formats-plugins)</source>
+        <translation>das Plug-in von Qt dafür fehlt (im Debian-Paket qt6-image-formats-plugins)</translation>
     </message>
 </context>
 </TS>

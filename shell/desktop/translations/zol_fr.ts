@@ -721,7 +721,7 @@
     </message>
     <message>
         <source>axis change</source>
-        <translation>changement d'axes</translation>
+        <translation>axes</translation>
     </message>
     <message>
         <source>turns the operators of the space group to another choice of axes</source>
@@ -1126,6 +1126,10 @@
     <message>
         <source>largest deviation of a band width, percent</source>
         <translation>plus grand écart d'une largeur de bande, pour cent</translation>
+    </message>
+    <message>
+        <source>No. of Ref.</source>
+        <translation>Réflexions</translation>
     </message>
     <message>
         <source>Area (deg.)</source>
@@ -2900,8 +2904,20 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>ERREUR</translation>
     </message>
     <message>
-        <source>%1, while %2</source>
-        <translation>%L1 (pendant : %L2)</translation>
+        <source>, while </source>
+        <translation>, pendant : </translation>
+    </message>
+    <message>
+        <source>%1 (!)</source>
+        <translation>%L1 (!)</translation>
+    </message>
+    <message>
+        <source>it has %1 x %2 pixels</source>
+        <translation>elle a %1 x %2 pixels</translation>
+    </message>
+    <message>
+        <source>the list of recent files does not name it any more</source>
+        <translation>la liste des fichiers récents ne le nomme plus</translation>
     </message>
     <message>
         <source>%1 was pressed</source>
@@ -4870,6 +4886,238 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
     <message>
         <source>cubic</source>
         <translation>cubique</translation>
+    </message>
+    <message>
+        <source>the position of the site "%1" is no finite number</source>
+        <translation>la position du site « %1 » n'est pas un nombre fini</translation>
+    </message>
+    <message>
+        <source>the product of two symmetry operators has no exact form</source>
+        <translation>le produit de deux opérateurs de symétrie n'a pas de forme exacte</translation>
+    </message>
+    <message>
+        <source>its first letter is no lattice</source>
+        <translation>sa première lettre n'est pas un réseau</translation>
+    </message>
+    <message>
+        <source>"%1" is no translation</source>
+        <translation>« %1 » n'est pas une translation</translation>
+    </message>
+    <message>
+        <source>"%1" has no order of a rotation</source>
+        <translation>« %1 » n'a pas d'ordre de rotation</translation>
+    </message>
+    <message>
+        <source>three numbers are expected in its brackets</source>
+        <translation>trois nombres sont attendus entre ses parenthèses</translation>
+    </message>
+    <message>
+        <source>it is empty</source>
+        <translation>il est vide</translation>
+    </message>
+    <message>
+        <source>images of %1 lie closer than %2 angstroms; by their occupancies they are a split site, and stay apart</source>
+        <translation>des images de %1 sont à moins de %2 angströms ; d'après les occupations c'est un site dédoublé, elles restent séparées</translation>
+    </message>
+    <message>
+        <source>the %1 symmetry operators are no group; the %2 that they make are taken</source>
+        <translation>les %1 opérateurs de symétrie ne sont pas un groupe ; les %2 qu'ils engendrent sont pris</translation>
+    </message>
+    <message>
+        <source>the %1 symmetry operators do not belong to %2, which has %3; the operators count</source>
+        <translation>les %1 opérateurs de symétrie n'appartiennent pas à %2, qui en a %3 ; les opérateurs comptent</translation>
+    </message>
+    <message>
+        <source>the only symmetry operator is the identity, although the file says %1; the atoms are taken as they are listed</source>
+        <translation>le seul opérateur de symétrie est l'identité, bien que le fichier dise %1 ; les atomes sont pris comme ils sont listés</translation>
+    </message>
+    <message>
+        <source>the only symmetry operator is the identity; those of %1 are taken</source>
+        <translation>le seul opérateur de symétrie est l'identité ; ceux de %1 sont pris</translation>
+    </message>
+    <message>
+        <source>the symmetry operators make no finite group</source>
+        <translation>les opérateurs de symétrie ne forment pas un groupe fini</translation>
+    </message>
+    <message>
+        <source>H   K   L     k/2    D(A)   2-Theta     A       B       F      I(powder)</source>
+        <translation>H   K   L     k/2    D(A)   2-Theta     A       B       F      I(poudre)</translation>
+    </message>
+    <message>
+        <source>%1 begins with other bytes, expected is %2</source>
+        <translation>%1 commence par d'autres octets, il faut %2</translation>
+    </message>
+    <message>
+        <source>%1, %2: expected are two finite numbers</source>
+        <translation>%1, %L2 : deux nombres finis sont attendus</translation>
+    </message>
+    <message>
+        <source>%1, %2: %3 after %4, expected are places that %5 from one line to the next</source>
+        <translation>%1, %L2 : %3 après %4, des places qui %L5 d'une ligne à l'autre sont attendues</translation>
+    </message>
+    <message>
+        <source>rise</source>
+        <translation>montent</translation>
+    </message>
+    <message>
+        <source>fall</source>
+        <translation>descendent</translation>
+    </message>
+    <message>
+        <source>line %1</source>
+        <translation>ligne %1</translation>
+    </message>
+    <message>
+        <source>point %1</source>
+        <translation>point %1</translation>
+    </message>
+    <message>
+        <source>crystal axes from picture axes</source>
+        <translation>axes du cristal d'après les axes de l'image</translation>
+    </message>
+    <message>
+        <source>%1 has indices from 1 to 3</source>
+        <translation>%1 a des indices de 1 à 3</translation>
+    </message>
+    <message>
+        <source>h  k  l   n   d (A)   width  F2 (%)</source>
+        <translation>h  k  l   n   d (A) largeur  F2 (%)</translation>
+    </message>
+    <message>
+        <source>no  azimuth distance  width strength   h  k  l   off</source>
+        <translation>no   azimut distance  larg.    force   h  k  l   éc.</translation>
+    </message>
+    <message>
+        <source>no bands    off  corr. conf.      u      v      w   phi1    Phi   phi2</source>
+        <translation>no band.    éc.  corr. conf.      u      v      w   phi1    Phi   phi2</translation>
+    </message>
+    <message>
+        <source>can't read %1 as a bitmap: %2</source>
+        <translation>impossible de lire %1 comme bitmap : %L2</translation>
+    </message>
+    <message>
+        <source>it is cut short: %1 goes to byte %2, there are %3</source>
+        <translation>il est tronqué : %L1 va jusqu'à l'octet %2, il y en a %3</translation>
+    </message>
+    <message>
+        <source>its header</source>
+        <translation>son en-tête</translation>
+    </message>
+    <message>
+        <source>its palette</source>
+        <translation>sa palette</translation>
+    </message>
+    <message>
+        <source>a bitmap (BMP) begins with the letters BM</source>
+        <translation>un bitmap (BMP) commence par les lettres BM</translation>
+    </message>
+    <message>
+        <source>its header is said to have %1 bytes; known are 12, 40, 64, 108 and 124</source>
+        <translation>son en-tête aurait %1 octets ; connus sont 12, 40, 64, 108 et 124</translation>
+    </message>
+    <message>
+        <source>its header tells %1 x %2 pixels; %3</source>
+        <translation>son en-tête dit %1 x %2 pixels ; %L3</translation>
+    </message>
+    <message>
+        <source>a side has 1 to 32767, and 8192 x 8192 in all are possible</source>
+        <translation>un côté a 1 à 32767, et 8192 x 8192 en tout sont possibles</translation>
+    </message>
+    <message>
+        <source>its header tells %1 bits a pixel in %2 planes with compression %3; 1, 4, 8, 16, 24 or 32 bits in 1 plane are possible, plain, run-length encoded or with bit fields</source>
+        <translation>son en-tête dit %1 bits par pixel en %2 plans avec compression %3 ; possibles sont 1, 4, 8, 16, 24 ou 32 bits en 1 plan, simples, codés par plages ou avec champs de bits</translation>
+    </message>
+    <message>
+        <source>its palette is said to have %1 colours; at most 256 are possible</source>
+        <translation>sa palette aurait %1 couleurs ; 256 au plus sont possibles</translation>
+    </message>
+    <message>
+        <source>it is cut short: %1 rows of %2 bytes need %3, there are %4, for %5 rows</source>
+        <translation>il est tronqué : %1 lignes de %2 octets demandent %3, il y a %4, pour %5 lignes</translation>
+    </message>
+    <message>
+        <source>%1 behind pixel %2 of %3 in row %4 of %5</source>
+        <translation>%L1 après le pixel %2 sur %3 dans la ligne %4 sur %5</translation>
+    </message>
+    <message>
+        <source>it is cut short: it ends</source>
+        <translation>il est tronqué : il finit</translation>
+    </message>
+    <message>
+        <source>its run-length code leaves pixels out</source>
+        <translation>son code par plages omet des pixels</translation>
+    </message>
+    <message>
+        <source>its run-length code ends</source>
+        <translation>son code par plages finit</translation>
+    </message>
+    <message>
+        <source>its run-length code goes beyond the row</source>
+        <translation>son code par plages dépasse la ligne</translation>
+    </message>
+    <message>
+        <source>the picture %1 has no pixels here</source>
+        <translation>l'image %1 n'a pas de pixels ici</translation>
+    </message>
+    <message>
+        <source>there is no field %1</source>
+        <translation>il n'y a pas de champ %1</translation>
+    </message>
+    <message>
+        <source>%1 takes %2 indices</source>
+        <translation>%1 prend %2 indices</translation>
+    </message>
+    <message>
+        <source>there are no pixel images here</source>
+        <translation>il n'y a pas d'images en pixels ici</translation>
+    </message>
+    <message>
+        <source>what is to be kept has %1 parts, at most 4294967295 can be</source>
+        <translation>ce qui est à garder a %1 parties, 4294967295 au plus sont possibles</translation>
+    </message>
+    <message>
+        <source>%1 takes no file</source>
+        <translation>%1 ne prend pas de fichier</translation>
+    </message>
+    <message>
+        <source>there is no %1 to be used</source>
+        <translation>il n'y a pas de %1 à utiliser</translation>
+    </message>
+    <message>
+        <source>there is no window %1</source>
+        <translation>il n'y a pas de fenêtre %1</translation>
+    </message>
+    <message>
+        <source>can't lock a file in %1: %2</source>
+        <translation>impossible de verrouiller un fichier dans %1 : %L2</translation>
+    </message>
+    <message>
+        <source>neither HOME nor XDG_STATE_HOME names a folder</source>
+        <translation>ni HOME ni XDG_STATE_HOME ne nomme un dossier</translation>
+    </message>
+    <message>
+        <source>it is of format %1, this program reads format %2</source>
+        <translation>il est au format %1, ce programme lit le format %2</translation>
+    </message>
+    <message>
+        <source>new crystal</source>
+        <translation>nouveau cristal</translation>
+    </message>
+    <message>
+        <source>The pages of the user guide are not installed: %1 is missing.</source>
+        <translation>Les pages du guide ne sont pas installées : %1 manque.</translation>
+    </message>
+    <message>
+        <source>ended by a failure</source>
+        <translation>terminé par une erreur</translation>
+    </message>
+    <message>
+        <source>%1 min %2 s</source>
+        <translation>%1 min %2 s</translation>
+    </message>
+    <message>
+        <source>Qt's plug-in for it is missing (in Debian's package qt6-image-formats-plugins)</source>
+        <translation>le greffon de Qt pour cela manque (paquet Debian qt6-image-formats-plugins)</translation>
     </message>
 </context>
 </TS>
