@@ -29,7 +29,7 @@ constexpr double large_tick = 6;  // pixels
 constexpr double small_tick = 3;
 constexpr double gap = 3;
 
-QString title_of(const Axis& axis) { return shown(to_qt(axis.quantity)) + to_qt(" (" + axis.unit + ")"); }
+QString title_of(const Axis& axis) { return shown(to_qt(axis.quantity + " (" + axis.unit + ")")); }
 
 /// How many large ticks have room. @param wanted  pixels for one of them
 int room_for(double length, double wanted) { return std::max(1, static_cast<int>(length / wanted)); }

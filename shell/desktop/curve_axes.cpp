@@ -16,7 +16,7 @@ constexpr double large_tick = curve_room::large_tick;
 constexpr double small_tick = 3;  // pixels
 constexpr double gap = curve_room::gap;
 
-QString title_of(const Axis& axis) { return shown(to_qt(axis.quantity)) + to_qt(" (" + axis.unit + ")"); }
+QString title_of(const Axis& axis) { return shown(to_qt(axis.quantity + " (" + axis.unit + ")")); }
 
 /// How many large ticks have room. @param wanted  pixels for one of them
 int room_for(double length, double wanted) { return std::max(1, static_cast<int>(length / wanted)); }

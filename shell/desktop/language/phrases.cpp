@@ -194,8 +194,8 @@ std::optional<QString> Phrases::look_up(const QString& text, int depth) const {
   if (auto found = look_up_words(text)) return found;
   if (auto found = by_template(text, true, depth)) return found;
   if (auto found = by_parts(text, true, depth)) return found;
-  if (auto found = by_template(text, false, depth)) return found;
   if (auto found = by_parts(text, false, depth)) return found;
+  if (auto found = by_template(text, false, depth)) return found;
   if (mnemonic_at(text) >= 0) return look_up(without_mnemonic(text), depth + 1);
   if (!text.front().isUpper()) return std::nullopt;
   QString small = text;  // a reason that begins a sentence

@@ -3124,8 +3124,12 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>d ab %1 Å</translation>
     </message>
     <message>
-        <source>I (%1 of full height)</source>
-        <translation>I (%1 der vollen Höhe)</translation>
+        <source>I (% of full height)</source>
+        <translation>I (% der vollen Höhe)</translation>
+    </message>
+    <message>
+        <source>S.G</source>
+        <translation>RG</translation>
     </message>
     <message>
         <source>crystal</source>

@@ -3124,8 +3124,12 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>d à partir de %1 Å</translation>
     </message>
     <message>
-        <source>I (%1 of full height)</source>
-        <translation>I (%1 de la pleine hauteur)</translation>
+        <source>I (% of full height)</source>
+        <translation>I (% de la pleine hauteur)</translation>
+    </message>
+    <message>
+        <source>S.G</source>
+        <translation>G.E.</translation>
     </message>
     <message>
         <source>crystal</source>
