@@ -35,7 +35,7 @@ struct TwoDirections {
 
 /// Directions of unit length that make the angles of the given cosines with the first two planes; the third plane is
 /// not used. The case is that of the first minor different from 0, of u, w and v.
-/// @returns MatchStatus: 2, 3 without a real root, 4 for parallel planes (the directions stay), else one or two roots
+/// @returns MatchStatus: 2, 3 without a real root, 4 for parallel planes (the directions stay); one or two roots
 /// @throws RunFailure  a minor beyond 16 bits, or a quadratic without its square term
 [[nodiscard]] Integer SolveTwoPlanes(const Main1State& cell, const std::array<Indices<Integer>, 3>& planes,
                                      const SingleTriple& cosines, TwoDirections& directions);

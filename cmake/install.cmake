@@ -14,8 +14,11 @@ install(DIRECTORY docs/user-guide docs/images DESTINATION ${CMAKE_INSTALL_DOCDIR
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN draw EXCLUDE)
 install(PROGRAMS examples/batch/crystallite-sizes examples/batch/reflection-lists
   DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples/batch)
-install(FILES docs/data-files.md docs/scripting.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(FILES LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR} RENAME copyright)
+install(PROGRAMS examples/orientation/euler.py DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples/orientation)
+install(DIRECTORY docs/names DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES docs/data-files.md docs/scripting.md docs/theory.md docs/validation.md CHANGELOG.md CITATION.cff
+  DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES packaging/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 # The examples name their crystals as in the source tree, from the folder above them.
 install(CODE "file(CREATE_LINK ../../zol \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DOCDIR}/data\" SYMBOLIC)")
 

@@ -21,7 +21,7 @@ CartesianVector scaled(const CartesianVector& vector, double factor) {
   return {vector.x * factor, vector.y * factor, vector.z * factor};
 }
 
-std::string shown(double value) { return std::isfinite(value) ? plain_text(value) : "no finite number"; }
+std::string shown(double value) { return std::isfinite(value) ? plain_text(value) : "not a finite number"; }
 
 void check_edge(double length, const char* name) {
   if (length > 0.0 && std::isfinite(length)) return;

@@ -18,7 +18,7 @@ double folded(double x) {
 
 DirectVector folded(const DirectVector& position, const std::string& label) {
   if (!std::isfinite(position.u) || !std::isfinite(position.v) || !std::isfinite(position.w))
-    throw RunFailure("the position of the site \"" + label + "\" is no finite number");
+    throw RunFailure("the position of the site \"" + label + "\" is not a finite number");
   return {folded(position.u), folded(position.v), folded(position.w)};
 }
 

@@ -30,7 +30,7 @@ std::string doubt_behind_end(const TableTexts& table, int end, int row, int colu
 std::string doubt_of_number(const std::string& text) {
   const auto number = trimmed(text);
   if (number.empty() || strict_number(number)) return "";
-  return "\"" + text + "\" is no number, it counts as " + short_text(Val(text), 7);
+  return "\"" + text + "\" is not a number, it counts as " + short_text(Val(text), 7);
 }
 
 double value_at(const TableTexts& table, int row, int column) { return Val(table.text(row, column)); }

@@ -13,15 +13,15 @@ struct TableTexts {
 };
 
 /// Columns: site name, element, occupancy, x, y, z, B. Asked for are an element without scattering factors, what is no
-/// number, coordinates outside -1 to 2, occupancies outside 0 to 1, a B below 0, sites in one place, and rows behind
+/// number, coordinates outside -1 to 2, occupancies outside 0 to 1, a B below 0, sites in one place, and rows after
 /// the end of the table.
 /// @param scatters  whether there are scattering factors of an element
 /// @returns why the cell is doubtful; empty: it is not
 [[nodiscard]] std::string site_doubt(const TableTexts& table, const std::function<bool(const std::string&)>& scatters,
                                      int row, int column);
 
-/// Columns: intensity, h, k, l. Asked for are what is no number, indices that are not whole, an intensity below 0, the
-/// same indices twice, and rows behind the end of the table.
+/// Columns: intensity, h, k, l. Asked for are texts that are no numbers, indices that are not whole, an intensity below
+/// 0, the same indices twice, and rows after the end of the table.
 [[nodiscard]] std::string line_doubt(const TableTexts& table, int row, int column);
 
 }  // namespace zol

@@ -37,7 +37,7 @@ class WordTable {
   /// Takes the next line. @throws RunFailure  it has more than 100 words
   void take(std::string_view line);
 
-  [[nodiscard]] int count() const { return count_; }  ///< words of this line alone
+  [[nodiscard]] int count() const { return count_; }  ///< words only of this line
   [[nodiscard]] int line() const { return line_; }    ///< from 1
   [[nodiscard]] const std::string& operator()(int index) const { return words_(index); }
   void strip(int index) { words_(index) = without_uncertainty(words_(index)); }

@@ -1,4 +1,4 @@
-# A measured pattern of silicon indexed without a hand, as docs/user-guide/automatic-indexing.md tells it.
+# The simulated pattern of silicon indexed automatically, as in docs/user-guide/automatic-indexing.md.
 show Main1
 answer data/ZOLDATA/Silicon.cry
 click Main1.DATA_LOAD

@@ -1,4 +1,4 @@
-# The reflections of rock salt for electrons of 20 kV, then for copper radiation.
+# The unit cell of rock salt, and its reflections for copper radiation.
 show Main1
 answer data/ZOLDATA/NaCl.cry
 click Main1.DATA_LOAD

@@ -1,4 +1,4 @@
-# A measured Kikuchi pattern of silicon, from picture to orientation.
+# A simulated Kikuchi pattern of silicon at 20 kV, from picture to orientation.
 show Main1
 answer data/ZOLDATA/Silicon.cry
 click Main1.DATA_LOAD

@@ -24,7 +24,7 @@ enum class CentreConvention { Bruker, Edax, Oxford, Emsoft };
 
 struct PictureSize {
   int width = 0, height = 0;    ///< pixels
-  double pixel_micrometre = 1;  ///< of one pixel of the picture on the screen; Emsoft's z alone needs it
+  double pixel_micrometre = 1;  ///< of one pixel of the picture on the screen; only Emsoft's z needs it
 };
 
 /// Three numbers of a maker for a picture as stored (not turned), and the centre in widths from its upper left corner.
@@ -37,7 +37,7 @@ struct PictureSize {
 [[nodiscard]] PatternCentre upside_down(const PatternCentre& centre, const PictureSize& size);
 
 /// The three angles of the window of measured patterns: half the angle that the picture's width takes, and the shifts
-/// of the pattern centre to the right and down from the middle of the picture as it stands, degrees.
+/// of the pattern centre to the right and down from the middle of the picture as it is, degrees.
 struct DetectorAngles {
   double half_width_deg = 45, x_shift_deg = 0, y_shift_deg = 0;
 };

@@ -15,7 +15,7 @@ struct ReportedSolution {
   std::span<const DetectedBand> bands;
   std::span<const MatchedBand> matches;
   PictureSize size;
-  PatternCentre centre;  ///< of the picture as it stands, turned upside down
+  PatternCentre centre;  ///< of the picture as it is, turned upside down
   double sample_tilt_deg = 70;
 };
 

@@ -13,7 +13,7 @@
 
 namespace zol {
 
-/// What depends on the crystal alone: the planes that vote, the angles between them, and which is near a direction.
+/// What depends only on the crystal: the planes that vote, the angles between them, and which is near a direction.
 class VoteTable {
  public:
   /// @param families_used  of each family of the set, whether it votes; shorter: the others do not

@@ -19,7 +19,7 @@ struct PictureView {
 };
 
 /// The pattern centre, the foot of the perpendicular from the specimen onto the screen, in widths of the picture: x to
-/// the right and y down from the upper left corner of the picture as it stands, z the distance of the specimen.
+/// the right and y down from the upper left corner of the picture as it is, z the distance of the specimen.
 struct PatternCentre {
   double x = 0.5, y = 0.5, z = 0.5;
 };

@@ -1,8 +1,8 @@
 // The picture of the crystal's bands fitted to the measured one: the last step of indexing, and the most exact.
 //
 // Orientation and, where asked for, pattern centre are changed until the normalised correlation of both pictures is
-// highest, by Gauss and Newton's steps. How the computed picture changes with each is told by its own slopes along x
-// and y: a rotation or a shift of the centre moves what stands at a place by a known way.
+// highest, by Gauss and Newton's steps. How the computed picture changes with each follows from its own slopes along x
+// and y: a rotation or a shift of the centre moves what is at a place by a known way.
 #pragma once
 
 #include <Eigen/Core>

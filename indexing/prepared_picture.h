@@ -30,11 +30,11 @@ class PreparedPicture {
   [[nodiscard]] Projection projection(const PatternCentre& centre) const { return {centre, projection_width_}; }
   /// Mean about 0, spread about 1; 0 where there is no pattern.
   [[nodiscard]] const std::vector<float>& values() const { return values_; }
-  /// 1 where there is a pattern, else 0.
+  /// 1 where there is a pattern, otherwise 0.
   [[nodiscard]] const std::vector<float>& mask() const { return mask_; }
   /// Spread of the grey values about their local mean, in those of the picture, of the last one.
   [[nodiscard]] double contrast() const { return contrast_; }
-  /// Changes with size and mask of the picture, for what depends on them alone.
+  /// Changes with size and mask of the picture, for what depends only on them.
   [[nodiscard]] int shape_version() const { return shape_version_; }
 
  private:

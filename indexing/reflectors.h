@@ -23,10 +23,10 @@ struct ReflectorFamily {
   double spacing = 0;        ///< angstroms
   double weight = 0;         ///< of one reflection
   double bragg_rad = 0;      ///< Bragg angle, half the width of the band
-  int first = 0, count = 0;  ///< where its members stand
+  int first = 0, count = 0;  ///< where its members are
 };
 
-/// One plane of a family, of (h k l) and (-h -k -l) one alone.
+/// One plane of a family, of (h k l) and (-h -k -l) only one.
 struct Reflector {
   std::array<int, 3> hkl{};
   Vector3 normal = Vector3::UnitZ();  ///< unit, in the crystal's frame

@@ -5,7 +5,7 @@ string(TIMESTAMP date "%a, %d %b %Y %H:%M:%S +0000" UTC)
 file(WRITE ${share}/doc/zol/changelog
 "zol (${CPACK_PACKAGE_VERSION}) unstable; urgency=medium
 
-  * CHANGELOG.md in this folder tells what there is.
+  * CHANGELOG.md in this folder lists what there is.
 
  -- ${CPACK_PACKAGE_CONTACT}  ${date}
 ")

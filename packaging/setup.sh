@@ -3,12 +3,13 @@
 build_packages="cmake ninja-build g++ libgtest-dev libbenchmark-dev
   qt6-base-dev libqt6opengl6-dev qt6-tools-dev qt6-svg-dev libqt6svg6 qt6-image-formats-plugins fonts-dejavu-core
   gemmi-dev tao-pegtl-dev libstb-dev libxy-dev libcli11-dev libhdf5-dev zlib1g-dev libeigen3-dev nlohmann-json3-dev"
-# For the locale with decimal commas that the tests run in.
-test_packages="locales"
+# For the locale with decimal commas that the tests run in, a session bus with a settings portal of the test, and the
+# tests of documents.
+test_packages="locales dbus-daemon python3"
 # For the test that uses the program in real windows, and the pictures of the guide.
 screen_packages="xvfb openbox"
 # With the last three the installation test looks at the desktop entry, the metainfo and the man pages too.
-style_packages="clang-format-14 clang-tidy-14 clang-14 cppcheck desktop-file-utils appstream mandoc"
+style_packages="codespell clang-format-14 clang-tidy-14 clang-14 cppcheck desktop-file-utils appstream mandoc"
 fuzz_packages="clang-14 libclang-rt-14-dev"
 
 # Installs the packages among the arguments that are not there, and says so.

@@ -12,7 +12,7 @@ namespace zol {
 
 /// The longest scan of the file, points as they come.
 /// @param bytes  of the file
-/// @param path   tells the kind, and the name for messages
+/// @param path   gives the kind, and the name for messages
 /// @throws RunFailure  it is none of its kind, or has no two columns
 [[nodiscard]] MeasuredCurve diffractometer_curve(const std::string& bytes, const std::string& path);
 

@@ -41,7 +41,7 @@ struct LineList {
 /// @throws RunFailure  the file can't be read, or is none; it names file, line and what was expected
 [[nodiscard]] MeasuredCurve read_measured_curve(const std::string& path, Task& task);
 
-/// The columns alone, of a text. @param file  its name, which may end in .xye
+/// Only the columns, of a text. @param file  its name, which may end in .xye
 [[nodiscard]] MeasuredCurve measured_columns(std::string_view text, const std::string& file, Task& task);
 
 /// A text file with a spacing d in angstroms and an intensity in each line; what follows is left out.

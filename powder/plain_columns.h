@@ -14,8 +14,8 @@ struct PlainRow {
   int line = 0;  ///< of the file, from 1
 };
 
-/// Rows of two numbers or more. Between them stand blanks, tabs, semicolons or commas; a number may have a decimal
-/// comma where no number of the file has a point and something else stands between the columns. Left out are empty
+/// Rows of two numbers or more. Between them are blanks, tabs, semicolons or commas; a number may have a decimal
+/// comma where no number of the file has a point and something else is between the columns. Left out are empty
 /// lines, lines that begin with # ! ; ' / * % or a quote, what follows # or ! in a line, and all before the first row
 /// that does not begin with a number.
 /// @param what  the two columns, for messages

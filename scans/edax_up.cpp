@@ -29,8 +29,8 @@ class EdaxUp : public RawScan {
     start_ = bare ? 8 : file_.number<std::uint32_t>(12, "the place of the first pattern");
     of_pattern_ = std::uint64_t{width} * height * static_cast<std::uint64_t>(bytes_);
     if (start_ > file_.size()) {
-      throw RunFailure(path + ": the first pattern is said to stand at byte " + std::to_string(start_) +
-                       ", behind the end of the file");
+      throw RunFailure(path + ": the first pattern is said to be at byte " + std::to_string(start_) +
+                       ", after the end of the file");
     }
     header_.points = (file_.size() - start_) / of_pattern_;
     if (header_.points == 0) throw RunFailure(path + " holds no whole pattern");
@@ -61,7 +61,7 @@ class EdaxUp : public RawScan {
     grid.columns = static_cast<int>(columns);
     grid.rows = static_cast<int>(rows);
     if (grid.points() != header_.points) {
-      header_.remarks.push_back("the header tells " + std::to_string(grid.columns) + " x " + std::to_string(grid.rows) +
+      header_.remarks.push_back("the header says " + std::to_string(grid.columns) + " x " + std::to_string(grid.rows) +
                                 " points, the file holds " + std::to_string(header_.points) + " whole patterns");
       if (grid.points() < header_.points) header_.points = grid.points();
       grid.rows = static_cast<int>(header_.points / columns);

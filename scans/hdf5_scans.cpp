@@ -149,7 +149,7 @@ class Hdf5Scan : public Scan {
     for (const auto& [name, side] : {std::pair(layout_.width, header_.width), {layout_.height, header_.height}}) {
       const auto said = header_number(name);
       if (said && static_cast<int>(*said) != side) {
-        header_.remarks.push_back("the header tells " + std::to_string(static_cast<int>(*said)) + " for \"" + name +
+        header_.remarks.push_back("the header says " + std::to_string(static_cast<int>(*said)) + " for \"" + name +
                                   "\", the patterns have " + std::to_string(side));
       }
     }
@@ -173,7 +173,7 @@ class Hdf5Scan : public Scan {
     if (!(grid.step_x > 0) || !std::isfinite(grid.step_x)) grid.step_x = 1;
     if (!(grid.step_y > 0) || !std::isfinite(grid.step_y)) grid.step_y = grid.step_x;
     if (grid.points() != header_.points) {
-      header_.remarks.push_back("the header tells " + std::to_string(grid.columns) + " x " + std::to_string(grid.rows) +
+      header_.remarks.push_back("the header says " + std::to_string(grid.columns) + " x " + std::to_string(grid.rows) +
                                 " points, the file holds " + std::to_string(header_.points) + " patterns");
       said_ = grid;
       return;
@@ -274,7 +274,7 @@ class Hdf5Scan : public Scan {
     }
     header_.points = grid.points();
     header_.grid = grid;
-    std::erase_if(header_.remarks, [](const std::string& one) { return one.starts_with("the header tells "); });
+    std::erase_if(header_.remarks, [](const std::string& one) { return one.starts_with("the header says "); });
   }
 
   void read_oxford() {

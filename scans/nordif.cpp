@@ -64,7 +64,7 @@ class Nordif : public RawScan {
       return found == said.end() ? std::string() : found->second;
     };
     const auto size = pair_of(find("Acquisition settings/Resolution"));
-    if (!size) throw RunFailure(beside + " tells no \"Resolution\" under [Acquisition settings], as 60x60");
+    if (!size) throw RunFailure(beside + " has no \"Resolution\" under [Acquisition settings], as 60x60");
     check_pattern_size((*size)[0], (*size)[1], beside);
     header_.format = "NORDIF";
     header_.width = (*size)[0];

@@ -46,7 +46,7 @@ std::unique_ptr<Scan> open_scan(const std::string& path, const OpenScanSettings&
   if (ending == ".ebsp" || ending == ".uebsp") return open_oxford_ebsp(path, settings);
   if (ending == ".dat" || fs::path(path).filename() == "Setting.txt") return open_nordif(path, settings);
   throw RunFailure(path +
-                   " is no scan that is known: expected is HDF5 (.h5, .oh5, .h5oina), .up1, .up2, .ebsp, "
+                   " is not a known kind of scan; expected are HDF5 (.h5, .oh5, .h5oina), .up1, .up2, .ebsp, "
                    "NORDIF's Pattern.dat or a folder of pictures");
 }
 

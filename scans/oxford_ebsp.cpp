@@ -20,7 +20,8 @@ class OxfordEbsp : public RawScan {
   OxfordEbsp(const std::string& path, const OpenScanSettings& settings) : RawScan(path) {
     const auto first = file_.number<std::int64_t>(0, "the version");
     constexpr std::int64_t last_version = 64;
-    if (first < -last_version) throw RunFailure(path + " is no .ebsp file: it begins with " + std::to_string(first));
+    if (first < -last_version)
+      throw RunFailure(path + " is not an .ebsp file: it begins with " + std::to_string(first));
     version_ = first < 0 ? static_cast<int>(-first) : 0;
     std::uint64_t table = version_ == 0 ? 0U : 8U;
     if (version_ >= 4) ++table;
@@ -67,8 +68,8 @@ class OxfordEbsp : public RawScan {
       if (places_.size() >= most_points) throw RunFailure(file_.path() + ": its table of patterns has no end");
       const auto place = file_.number<std::int64_t>(at, "the place of a pattern");
       if (place < 0 || static_cast<std::uint64_t>(place) >= file_.size()) {
-        throw RunFailure(file_.path() + ": pattern " + std::to_string(places_.size() + 1) +
-                         " is said to stand at byte " + std::to_string(place) + ", outside the file");
+        throw RunFailure(file_.path() + ": pattern " + std::to_string(places_.size() + 1) + " is said to be at byte " +
+                         std::to_string(place) + ", outside the file");
       }
       if (place != 0) end = std::min(end, static_cast<std::uint64_t>(place));
       places_.push_back(place);

@@ -11,7 +11,7 @@ double power(double base, double exponent, std::string_view quantity) {
   const double value = std::pow(base, exponent);
   if (!std::isfinite(value)) {
     throw RunFailure("overflow: " + std::string(quantity) + " is " + plain_text(base) + ", its power " +
-                     plain_text(exponent) + " is no number");
+                     plain_text(exponent) + " is not a number");
   }
   return value;
 }

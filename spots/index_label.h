@@ -7,7 +7,7 @@
 
 namespace zol {
 
-/// Three printed numbers: each has a blank behind it and, unless it is negative, one in front.
+/// Three printed numbers: each has a blank after it and, unless it is negative, one in front.
 [[nodiscard]] inline std::string index_label(Integer h, Integer k, Integer l) {
   return Str(h) + ' ' + Str(k) + ' ' + Str(l) + ' ';
 }

@@ -10,7 +10,7 @@
 
 namespace zol {
 
-/// The picture's frame in the lattice, as it stands when a drag begins.
+/// The picture's frame in the lattice, as it is when a drag begins.
 struct PictureFrame {
   std::array<double, 3> right{}, up{}, towards{};  ///< Cartesian unit vectors; towards the viewer: the zone axis
 };

@@ -15,7 +15,7 @@ namespace zol {
 struct CifColumn {
   std::vector<std::optional<std::string>> values;
   int loop = 0;  ///< columns of one loop share its number; 0 outside loops
-  int line = 0;  ///< of the tag, or of the loop that it stands in
+  int line = 0;  ///< of the tag, or of the loop that it is in
 };
 
 struct CifBlock {

@@ -38,7 +38,7 @@ struct ShortestDistance {
   std::string first, second;  ///< labels of the sites
 };
 
-/// Between atoms of different places that may stand there at the same time (their occupancies sum up to above 1).
+/// Between atoms of different places that may be there at the same time (their occupancies sum up to above 1).
 /// @param with_hydrogen  also between pairs of which one is hydrogen
 /// @returns none where no two atoms lie closer than 4 angstroms
 [[nodiscard]] std::optional<ShortestDistance> shortest_distance(const Structure& structure, bool with_hydrogen,

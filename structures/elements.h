@@ -22,12 +22,12 @@ using Formula = std::map<std::string, double>;
 [[nodiscard]] Formula parse_formula(std::string_view text);
 [[nodiscard]] std::string formula_text(const Formula& formula);
 
-/// What stands on a site, or on a part of it.
+/// What is on a site, or on a part of it.
 struct Species {
   std::string element;
   int charge = 0;          ///< in elementary charges
   double share = 1;        ///< of the site
-  bool hydrogens = false;  ///< the text means a water molecule or a hydroxyl group, whose hydrogens are not told
+  bool hydrogens = false;  ///< the text means a water molecule or a hydroxyl group, whose hydrogens are not listed
   bool operator==(const Species&) const = default;
 };
 
@@ -36,7 +36,7 @@ struct Species {
 /// @returns none where there is no element in it
 [[nodiscard]] std::vector<Species> species_of(std::string_view text, bool is_label, const Formula& formula);
 
-/// Key of the table of scattering factors: the ion where there is one, as "Fe3+", else the neutral atom.
+/// Key of the table of scattering factors: the ion where there is one, as "Fe3+", otherwise the neutral atom.
 [[nodiscard]] std::string species_key(const std::string& element, int charge);
 
 }  // namespace zol

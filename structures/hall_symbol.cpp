@@ -76,7 +76,7 @@ std::vector<Translation> lattice_translations(char letter) {
     case 'F':
       return {{0, half, half}, {half, 0, half}};
     default:
-      throw RunFailure("its first letter is no lattice");
+      throw RunFailure("its first letter is not a lattice");
   }
 }
 
@@ -100,7 +100,7 @@ Translation letter_translation(char letter) {
     case 'd':
       return {quarter, quarter, quarter};
     default:
-      throw RunFailure(std::string("\"") + letter + "\" is no translation");
+      throw RunFailure(std::string("\"") + letter + "\" is not a translation");
   }
 }
 
@@ -195,7 +195,7 @@ Operators read_hall(std::string_view symbol) {
     generators.push_back(moved(inversion, shift));
     word.erase(0, 1);
   }
-  if (word.size() != 1) throw RunFailure("its first letter is no lattice");
+  if (word.size() != 1) throw RunFailure("its first letter is not a lattice");
   for (const auto& translation : lattice_translations(word[0])) {
     ExactOperator centring;
     centring.translation = translation;

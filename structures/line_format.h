@@ -23,9 +23,9 @@ struct NumberedLine {
 
 /// @throws RunFailure  always, with the number of the line
 [[noreturn]] void fail_in_line(int line, const std::string& why);
-/// @throws RunFailure  the word is no number
+/// @throws RunFailure  the word is not a number
 [[nodiscard]] double number_in(const std::string& word, int line, const std::string& what);
-/// @throws RunFailure  the word is no whole number from lowest to highest
+/// @throws RunFailure  the word is not a whole number from lowest to highest
 [[nodiscard]] int whole_number_in(const std::string& word, int line, const std::string& what, int lowest, int highest);
 
 }  // namespace zol

@@ -1,4 +1,4 @@
-// What a reader has to tell beside the crystal: what it assumed, and what it doubts.
+// What a reader has to say beside the crystal: what it assumed, and what it doubts.
 #pragma once
 
 #include <algorithm>

@@ -35,7 +35,7 @@ class Terms {
   }
 
  private:
-  [[noreturn]] static void fail() { throw RunFailure("it is no sum of x, y, z and numbers"); }
+  [[noreturn]] static void fail() { throw RunFailure("it is not a sum of x, y, z and numbers"); }
   void skip_blanks() {
     while (at_ < text_.size() && (text_[at_] == ' ' || text_[at_] == '\t')) ++at_;
   }
@@ -97,7 +97,7 @@ int in_24ths(double value) {
   constexpr double most_off = 0.1;
   const double scaled = value * operator_unit;
   if (!(std::abs(scaled) < 1000) || std::abs(scaled - std::round(scaled)) > most_off) {
-    throw RunFailure("it is no whole number of 24ths");
+    throw RunFailure("it is not a whole number of 24ths");
   }
   return static_cast<int>(std::lround(scaled));
 }

@@ -41,7 +41,7 @@ class PoscarReader {
     read_sites(at, names, counts, task);
     read_.structure.operators = {ExactOperator{}};
     read_.structure.space_group_symbol = "P 1";
-    read_.notes.assume("the file tells no symmetry and no displacement parameters; B = 0.5 square angstroms is taken");
+    read_.notes.assume("the file gives no symmetry and no displacement parameters; B = 0.5 square angstroms is taken");
     return std::move(read_);
   }
 
@@ -101,7 +101,7 @@ class PoscarReader {
       if (!is_number(word)) break;  // a comment may follow
       const double count = number_in(word, lines_[line].number, "a count of atoms");
       if (count < 0 || count != std::floor(count) || count > 1e6) {
-        fail_in_line(lines_[line].number, "\"" + word + "\" is no count of atoms");
+        fail_in_line(lines_[line].number, "\"" + word + "\" is not a count of atoms");
       }
       counts.push_back(static_cast<int>(count));
     }
@@ -125,7 +125,7 @@ class PoscarReader {
                        " elements");
     }
     for (std::size_t i = 0; i < count; ++i) {
-      if (atomic_number(element_name(names[i])) == 0) throw RunFailure("\"" + names[i] + "\" is no element");
+      if (atomic_number(element_name(names[i])) == 0) throw RunFailure("\"" + names[i] + "\" is not an element");
     }
   }
 

@@ -44,13 +44,13 @@ struct PlacedStructure {
   Notes notes;
 };
 
-/// As it is where its operators are those of a file under one of the choices of axes; else transformed to the file of
-/// its space group; where that does not go, with all atoms of the cell in P1.
+/// As it is where its operators are those of a file under one of the choices of axes; if not, transformed to the file
+/// of its space group; where that does not go, with all atoms of the cell in P1.
 [[nodiscard]] PlacedStructure in_program_setting(const Structure& structure, const SpaceGroupLibrary& groups,
                                                  Task& task);
 
 /// For a setting that has no name in the tables: with the origin of the file of its space group where nothing else
-/// differs, since some programs read the symbol and number alone; with other axes its number is set.
+/// differs, since some programs read only the symbol and number; with other axes its number is set.
 [[nodiscard]] Structure with_known_origin(const Structure& structure, const SpaceGroupLibrary& groups, Task& task);
 
 /// With all atoms of the cell as sites, labels numbered, in P1.

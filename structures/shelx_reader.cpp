@@ -158,7 +158,7 @@ class ShelxReader {
   }
 
   bool take_atom(const std::vector<std::string>& words, int line) {
-    if (words.size() < 5) fail_in_line(line, "\"" + words[0] + "\" is no instruction and has no coordinates");
+    if (words.size() < 5) fail_in_line(line, "\"" + words[0] + "\" is not an instruction and has no coordinates");
     if (elements_.empty()) fail_in_line(line, "an atom before SFAC");
     const int kind =
         whole_number_in(words[1], line, "the element of " + words[0], 1, static_cast<int>(elements_.size()));

@@ -27,7 +27,7 @@ struct TabulatedSetting {
 
 /// The group of a Hall symbol, sorted.
 /// Source: Hall, Acta Cryst. A37 (1981) 517; the origin shift in brackets as in the International Tables B A1.4.2.3.
-/// @throws RunFailure  it is no Hall symbol
+/// @throws RunFailure  it is not a Hall symbol
 [[nodiscard]] Operators hall_group(std::string_view symbol);
 
 /// A setting that a name may mean.
@@ -39,11 +39,11 @@ struct NamedGroup {
 };
 
 /// Settings that a Hermann-Mauguin symbol may mean, the likeliest first: with or without blanks, underscores and
-/// brackets, full or short, with an origin or axes behind a colon or as the tails S, Z, H, R, with the letter e of new
-/// symbols, cubic ones without the bar of -3, orthorhombic ones in any order of the axes. The cell tells the unique
+/// brackets, full or short, with an origin or axes after a colon or as the tails S, Z, H, R, with the letter e of new
+/// symbols, cubic ones without the bar of -3, orthorhombic ones in any order of the axes. The cell gives the unique
 /// axis of a short monoclinic symbol, and the axes of a rhombohedral one. More than one only where the symbol leaves
 /// open which of two origins is meant.
-/// @returns none where it is no symbol
+/// @returns none where it is not a symbol
 [[nodiscard]] std::vector<NamedGroup> groups_of_symbol(std::string_view symbol, const CellConstants& cell);
 
 /// The same by number, 1 to 230: the standard setting, and the other origin where there are two.

@@ -1,4 +1,4 @@
-// A structure file as the program's crystal: read, checked, brought into a setting of the program, and told of.
+// A structure file as the program's crystal: read, checked, brought into a setting of the program, and reported.
 #pragma once
 
 #include <set>

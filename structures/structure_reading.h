@@ -30,7 +30,7 @@ using ImportAnswers = std::map<std::string, std::string>;
 struct ReadStructure {
   Structure structure;
   std::string format;                  ///< as "CIF"
-  Formula formula;                     ///< as the file tells it, of one formula unit; empty where it does not
+  Formula formula;                     ///< as the file has it, of one formula unit; empty where it does not
   std::optional<double> units;         ///< Z
   std::optional<double> file_density;  ///< grams per cubic centimetre
   Notes notes;
@@ -38,9 +38,9 @@ struct ReadStructure {
 
 using Reading = std::variant<ReadStructure, Question>;
 
-/// Reads a file of any known format, told by its contents: CIF, SHELX (.res, .ins), VASP (POSCAR), crystal files of
+/// Reads a file of any known format, by its contents: CIF, SHELX (.res, .ins), VASP (POSCAR), crystal files of
 /// this program; each may be compressed by gzip.
-/// @param name    of the file, which tells a POSCAR apart
+/// @param name    of the file, by which a POSCAR is recognised
 /// @param groups  hold the operators of crystal files
 /// @throws RunFailure  it is none of these, or holds no crystal; the message has line and tag
 [[nodiscard]] Reading read_structure(std::string_view bytes, const std::string& name, const ImportAnswers& answers,

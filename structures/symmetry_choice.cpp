@@ -142,14 +142,14 @@ class Choice {
     }
     const bool usable = !closed.empty() && closed.size() <= most;
     if (!named_.empty() && (!usable || closed != named_.front().operators)) {
-      read_.notes.doubt("the symmetry operators are no group; those of " + named_.front().symbol + " are taken");
+      read_.notes.doubt("the symmetry operators do not form a group; those of " + named_.front().symbol + " are taken");
       return {};
     }
     if (!usable) {
-      read_.notes.doubt("the symmetry operators are no group and are left out");
+      read_.notes.doubt("the symmetry operators do not form a group and are left out");
       return {};
     }
-    read_.notes.doubt("the " + std::to_string(operators.size()) + " symmetry operators are no group; the " +
+    read_.notes.doubt("the " + std::to_string(operators.size()) + " symmetry operators do not form a group; the " +
                       std::to_string(closed.size()) + " that they make are taken");
     return closed;
   }
@@ -178,7 +178,7 @@ class Choice {
   std::optional<Question> choose_named() {
     if (named_.empty()) {
       if (claims_.symbol.empty() && claims_.number == 0) {
-        read_.notes.doubt("the file tells no symmetry; the atoms are taken as they are listed");
+        read_.notes.doubt("the file gives no symmetry; the atoms are taken as they are listed");
       } else {
         read_.notes.doubt("without symmetry operators the atoms are taken as they are listed");
       }
@@ -200,7 +200,7 @@ class Choice {
   Question origin_question() {
     const int first = evidence_for(read_, named_[0].operators, task_).points();
     const int second = evidence_for(read_, named_[1].operators, task_).points();
-    std::string text = named_.front().symbol + " has two origins, and the file tells neither origin nor operators.\n" +
+    std::string text = named_.front().symbol + " has two origins, and the file gives neither origin nor operators.\n" +
                        "1: origin choice 1\n2: origin choice 2, on a centre of inversion\n";
     if (first != second) {
       text += std::string("Proposed is ") + (first > second ? "1" : "2") + ", which fits formula and distances.";

@@ -48,7 +48,7 @@ struct SettingChange {
 /// @returns none where one has no exact form
 [[nodiscard]] std::optional<Operators> transformed(const Operators& group, const SettingChange& change);
 
-/// Searches the change that makes one group the other: first the axes as they stand, then exchanged and combined axes,
+/// Searches the change that makes one group the other: first the axes as they are, then exchanged and combined axes,
 /// then other cells of the same lattice; of several that do, the one nearest to no change.
 /// @param cell   of the first setting; decides between equivalent choices of axes
 /// @returns none where there is none: the groups are of other types

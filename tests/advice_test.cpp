@@ -110,9 +110,10 @@ TEST_F(AdviceTest, RefusedTextsAndChoicesGoBack) {
   auto& list = child<QListView>("PATTERN3", "List1");
   const QModelIndex count = list.model()->index(0, 0);
   EXPECT_TRUE(count.data(Qt::FontRole).value<QFont>().italic());
-  EXPECT_EQ(count.data(Qt::ToolTipRole).toString(), QStringLiteral("the line of the number is no solution"));
+  EXPECT_EQ(count.data(Qt::ToolTipRole).toString(),
+            QStringLiteral("this line is the number of solutions, not a solution"));
   QTest::mouseClick(list.viewport(), Qt::LeftButton, {}, list.visualRect(count).center());
-  EXPECT_EQ(questions.back(), "the line of the number is no solution");
+  EXPECT_EQ(questions.back(), "this line is the number of solutions, not a solution");
   EXPECT_FALSE(list.currentIndex().isValid());
   EXPECT_TRUE(failures.empty());
 }

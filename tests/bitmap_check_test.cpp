@@ -36,16 +36,16 @@ TEST(Bitmaps, HaveAllTheirPixels) {
   for (const auto& [name, at, bytes, message] :
        {Broken{"24-bit.bmp", 10, "\xff\xff\xff\xff", "it is cut short: 3 rows of 16 bytes need 48, there are 0"},
         {"24-bit.bmp", 14, "8", "its header is said to have 56 bytes"},
-        {"24-bit.bmp", 18, "\0\0\0\0"s, "its header tells "},
-        {"24-bit.bmp", 18, "\xff\xff\xff\x7f", "its header tells "},
-        {"24-bit.bmp", 22, "\0\0\0\x80"s, "its header tells "},
-        {"24-bit.bmp", 28, "\7", "its header tells 7 bits a pixel in 1 planes"},
+        {"24-bit.bmp", 18, "\0\0\0\0"s, "its header says "},
+        {"24-bit.bmp", 18, "\xff\xff\xff\x7f", "its header says "},
+        {"24-bit.bmp", 22, "\0\0\0\x80"s, "its header says "},
+        {"24-bit.bmp", 28, "\7", "its header says 7 bits per pixel in 1 planes"},
         {"8-bit.bmp", 47, "\1", "its palette is said to have 272 colours"},
-        {"rle.bmp", 1084, "\0\1"s, "its run-length code ends behind pixel 0 of 6 in row 2 of 4"},
-        {"rle.bmp", 1084, "\3\1\2\1", "its run-length code ends behind pixel 5 of 6 in row 2 of 4"},
-        {"rle.bmp", 1084, "\7", "its run-length code goes beyond the row behind pixel 7 of 6 in row 2 of 4"},
+        {"rle.bmp", 1084, "\0\1"s, "its run-length code ends after pixel 0 of 6 in row 2 of 4"},
+        {"rle.bmp", 1084, "\3\1\2\1", "its run-length code ends after pixel 5 of 6 in row 2 of 4"},
+        {"rle.bmp", 1084, "\7", "its run-length code goes beyond the row after pixel 7 of 6 in row 2 of 4"},
         {"rle.bmp", 1084, "\0\2"s, "its run-length code leaves pixels out"},
-        {"rle.bmp", 1096, "\0\6"s, "it is cut short: it ends behind pixel 0 of 6 in row 4 of 4"},
+        {"rle.bmp", 1096, "\0\6"s, "it is cut short: it ends after pixel 0 of 6 in row 4 of 4"},
         {"picture.gif", 0, "", "a bitmap (BMP) begins with the letters BM"}}) {
     refused(seed(name).replace(at, bytes.size(), bytes), message);
   }

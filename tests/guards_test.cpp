@@ -110,7 +110,7 @@ const std::string spots = silicon + "set Pattern.Text1 2\nset Pattern.Text5 1\nc
 const std::vector<Row>& rows() {
   static const std::vector<Row> table{
       {"", "click MAIN_MENU.Command2\nclick Pattern2.Command6", empty_list, Outcome::Ends},
-      {"", "click Main1.Command6", "there is no cell: the main window takes it", Outcome::Ends},
+      {"", "click Main1.Command6", "there is no cell: type one in the main window", Outcome::Ends},
       {"", "click Main1.Command7", empty_list, Outcome::Dead},
       {"", "click Main1.Command8", empty_list, Outcome::Dead},
       {"", "click Main1.Command9", empty_list, Outcome::Dead},
@@ -181,13 +181,13 @@ const std::vector<Row>& rows() {
        Outcome::Prints, "65\n", silicon + lines_drawn},
       {lines_drawn, "click PATTERN3.Command1", empty_list, Outcome::Dead, "", silicon + lines_drawn},
       {silicon + lines_drawn + "set PATTERN3.Text1 0\nclick PATTERN3.Command1\n", "select PATTERN3.List1 0",
-       "the line of the number is no solution", Outcome::Ends, "",
+       "this line is the number of solutions, not a solution", Outcome::Ends, "",
        silicon + lines_drawn + "set PATTERN3.Text1 20\nclick PATTERN3.Command1\n"},
       {silicon + lines_drawn + "click PATTERN3.CP_Setting_Show\nset PATTERN3.Text11 20000\n", "click PATTERN3.Command7",
-       "there is no solution of the number that is adjusted for", Outcome::Ends, "",
+       "there is no solution of this number to adjust", Outcome::Ends, "",
        silicon + lines_drawn + "set PATTERN3.Text1 20\nclick PATTERN3.Command1\nclick PATTERN3.CP_Setting_Show\n"},
       {"", "press PATTERN3.Picture1 100 100\nrelease PATTERN3.Picture1 100 100\nprint PATTERN3.LineX(0,1)",
-       "a click without a drag lays the line to the corner", Outcome::Prints, "0\n", lines_drawn},
+       "a click without a drag draws the line to the corner", Outcome::Prints, "0\n", lines_drawn},
       {"", "click PATTERN3.ImageFlip", "no picture is loaded", Outcome::Dead, "", "-"},
       {"", "click PATTERN3.Command3", "no lines are picked", Outcome::Dead, "", line_drawn},
       {"", "click PATTERN3.Command9", "the markers of the two poles are not set, or at the same height", Outcome::Ends,
@@ -237,8 +237,8 @@ TEST(GuardTable, PromptsTellWhatAnAnswerDoes) {
     std::string follow, printed;
   };
   for (const auto& [state, click, answer, reason, outcome, follow, printed] :
-       {Answer{spots, "Pattern.Fsize", "", "this is no size of a font", Outcome::Ends, "", ""},
-        Answer{spots, "Pattern.Fsize", "3000", "this is no size of a font", Outcome::Ends, "", ""},
+       {Answer{spots, "Pattern.Fsize", "", "this is not a font size", Outcome::Ends, "", ""},
+        Answer{spots, "Pattern.Fsize", "3000", "this is not a font size", Outcome::Ends, "", ""},
         Answer{spots, "Pattern.Fsize", "8", "", Outcome::Prints, "", ""},
         Answer{spots, "Pattern.Spotsize", "", "without a size above 0 the first one is taken", Outcome::Prints,
                "print Main1.SpotScale", ".015\n"},

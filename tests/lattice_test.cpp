@@ -55,7 +55,7 @@ TEST(LatticeTest, FrameHasAAlongE1AndCStarAlongE3ThereAndBack) {
 
 TEST(LatticeTest, RefusesWhatIsNoCell) {
   for (const auto& [cell, words] : {std::pair{CellConstants{0, 1, 1, 90, 90, 90}, "edge a is 0"},
-                                    {{1, NAN, 1, 90, 90, 90}, "edge b is no finite number"},
+                                    {{1, NAN, 1, 90, 90, 90}, "edge b is not a finite number"},
                                     {{1, 1, -2, 90, 90, 90}, "edge c is -2"},
                                     {{1, 1, 1, 0, 90, 90}, "angle alpha is 0"},
                                     {{1, 1, 1, 90, -1, 90}, "angle beta is -1"},
@@ -90,7 +90,7 @@ TEST(StructureTest, CellAtomsMergeOnSymmetryElementsAndAcrossTheEdge) {
   ASSERT_EQ(cell_atoms(structure, 0.1, quiet).size(), 2U);
   EXPECT_EQ(cell_atoms(structure, 0.1, quiet)[0].position, (DirectVector{0.25, 0.1, 0}));
   structure.sites[0].position.v = NAN;
-  EXPECT_TRUE(fails_with("\"Na\" is no finite number", [&] { (void)cell_atoms(structure, 0.1, quiet); }));
+  EXPECT_TRUE(fails_with("\"Na\" is not a finite number", [&] { (void)cell_atoms(structure, 0.1, quiet); }));
 }
 
 TEST(StructureTest, OperatorsMultiplyFromTheRight) {

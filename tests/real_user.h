@@ -23,6 +23,7 @@
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
+#include <QPainter>
 #include <QPointer>
 #include <QStatusBar>
 #include <QTest>
@@ -217,6 +218,30 @@ class User {
     QTest::qWait(50);
     const QString path = *pictures_ + u'/' + QString::fromLatin1(name) + QStringLiteral(".png");
     expect(shown.grab().save(path), "a picture can't be saved");
+  }
+  /// The same with a number beside each of these controls, from 1 on, as the guide's legends have them.
+  void take_numbered_picture(const char* window_name, const char* name,
+                             std::initializer_list<const char*> controls) const {
+    if (!pictures_) return;
+    QWidget& shown = window(window_name);
+    QPixmap picture = shown.grab();
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setFont(QFont(QStringLiteral("sans-serif"), 9, QFont::Bold));
+    int number = 0;
+    for (const char* control : controls) {
+      const auto& numbered = widget<QWidget>(window_name, control);
+      const QPoint corner = numbered.mapTo(&shown, QPoint(0, 0));
+      constexpr int size = 18;
+      const QRect disc(std::max(0, corner.x() - size / 2), std::max(0, corner.y() - size / 2), size, size);
+      painter.setPen(QPen(Qt::white, 1.5));
+      painter.setBrush(QColor(0xB3, 0x26, 0x1E));
+      painter.drawEllipse(disc);
+      painter.drawText(disc, Qt::AlignCenter, QString::number(++number));
+    }
+    painter.end();
+    const QString path = *pictures_ + u'/' + QString::fromLatin1(name) + QStringLiteral(".png");
+    expect(picture.save(path), "a picture can't be saved");
   }
   /// Lets a file fall on a window.
   void drop_file(const char* window_name, const QString& path) const {

@@ -209,7 +209,7 @@ TEST_F(RecoveryTest, TheTenLatestStayAndWhatCantBeReadSaysWhy) {
   folder.write("state/work-nobody.lock", "");
   const auto left = left_overs(state);
   ASSERT_EQ(left.size(), 10U);
-  EXPECT_EQ(left.front().fault, "it is no file of kept work");
+  EXPECT_EQ(left.front().fault, "it is not a file of kept work");
   EXPECT_EQ(left.back().note.time_ms, 4);
   EXPECT_EQ(folder.entries(), 1U);
   EXPECT_EQ(files().size(), 10U);
@@ -217,7 +217,7 @@ TEST_F(RecoveryTest, TheTenLatestStayAndWhatCantBeReadSaysWhy) {
 
   Session next(state);
   ASSERT_EQ(next.offers().size(), 4) << "three of them and the count of the others";
-  EXPECT_TRUE(next.offers()[0].contains(QStringLiteral(": can't be restored, it is no file of kept work")));
+  EXPECT_TRUE(next.offers()[0].contains(QStringLiteral(": can't be restored, it is not a file of kept work")));
   next.press("Restore");
   EXPECT_TRUE(next.offers().value(1).endsWith(QStringLiteral("damaged: its checksum is another one")));
   EXPECT_TRUE(next.failures.empty());

@@ -25,7 +25,7 @@ TEST(Remarks, StandBesideWhatIsRightByRuleAlone) {
         Remark{silicon + "set Main1.Text1 1.5\nset Main1.Text2 1.5\nset Main1.Text3 1.5\ncall Main1.AtomCcalc\n",
                "Main1.List1", "Si and Si are 0.65 Å apart, nearer than any bond"},
         Remark{silicon + "set Main1.Text7 1\ncall Main1.AtomCcalc\n", "Main1.List1",
-               "P 1 has no symmetry operators: the sites alone fill the cell"},
+               "P 1 has no symmetry operators: only the sites fill the cell"},
         Remark{silicon + "set Main1.Text7 300\ncall Main1.AtomCcalc\n", "Main1.List1",
                "group 300 has no operators: those of the group before stay"}}) {
     SCOPED_TRACE(script);

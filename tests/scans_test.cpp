@@ -221,7 +221,7 @@ TEST(Scans, ThatAreWrongAreRefusedWithTheReason) {
         Row{folder.write("size.up1", up(1, all_patterns)), "6 patterns, which is not 4 x 2", std::array{4, 2}},
         Row{folder.write("far.ebsp", far), "outside the file", {}},
         Row{folder.path("empty.h5"), "holds no patterns", {}},
-        Row{folder.write("a.txt", "text"), "no scan that is known", {}},
+        Row{folder.write("a.txt", "text"), "not a known kind of scan", {}},
         Row{folder.path("gone.up1"), "can't open", {}}}) {
     EXPECT_TRUE(fails_with(row.words, [&] { (void)open_scan(row.file, {row.size, "", false, {}}); })) << row.file;
   }

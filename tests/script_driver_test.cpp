@@ -13,6 +13,7 @@
 #include "core/read_file.h"
 #include "core/run_failure.h"
 #include "kikuchi/window/pattern2_form.h"
+#include "shell/script/name_pages.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
 
@@ -59,7 +60,7 @@ TEST(Script, TellsWhatIsWrongWithItsLine) {
         {"set Main9.Text1 1", "line 2: there is no window Main9"},
         {"set Main1.Text99 1", "line 2: window Main1 has no control Text99"},
         {"set Main1.Command6 1", "line 2: Main1.Command6 is a control of another kind"},
-        {"set Main1 1", "line 2: \"Main1\" is no name of the form Window.Control"},
+        {"set Main1 1", "line 2: \"Main1\" is not a name of the form Window.Control"},
         {"click Main1.Text1", "line 2: Main1.Text1 can't be clicked"},
         {"select Main1.Text1 1", "line 2: Main1.Text1 has no items"},
         {"select Main1.List3 x", "line 2: INDEX is \"x\", a whole number is expected"},
@@ -73,9 +74,9 @@ TEST(Script, TellsWhatIsWrongWithItsLine) {
         {"echo \"x", "line 2: a quote is not closed"},
         {R"(echo "\q")", R"(line 2: unknown \q in a quoted word; known are \" \\ \n \r \t \b)"},
         {"set Main1.Text1 4α", "line 2: \"α\" (U+03B1) is outside Latin-1"},
-        {"type Main1.Text1 \xC5", "line 2: \"Å\" is no UTF-8"},
+        {"type Main1.Text1 \xC5", "line 2: \"Å\" is not UTF-8"},
         {"choose Main1.Combo1 😀", "line 2: \"😀\" (U+1F600) is outside Latin-1"},
-        {"echo \xED\xA0\x80", "line 2: \"í\xC2\xA0\xC2\x80\" is no UTF-8"},
+        {"echo \xED\xA0\x80", "line 2: \"í\xC2\xA0\xC2\x80\" is not UTF-8"},
         {"answer α\nclick Pattern.Fsize", "line 2: \"α\" (U+03B1) is outside Latin-1"}}) {
     const auto result = run(std::string("echo before\n") + script + "\necho after\n");
     EXPECT_EQ(result.error, error);
@@ -118,24 +119,15 @@ TEST(Script, QuotesTextsOfPictures) {
       << output.str();
 }
 
-// What scripts of users may print and call, by given names.
-TEST(Script, ReachesAllPublicNames) {
+// What scripts of users may name: controls, fields and operations, as the pages of names list them.
+TEST(Script, ReachesAllNamesOfThePages) {
   std::ostringstream output;
   ScriptServices services(output, nullptr);
   Program program({ZOL_SOURCE_DIR "/data/ZOL", ZOL_SOURCE_DIR "/data/ZOLDATA"}, services);
-  const auto list = [&output](const std::string& owner, const NamedValues& values) {
-    for (const auto& name : values.names()) {
-      output << "print " << owner << '.' << name
-             << std::array{"", "(i)", "(i,j)"}.at(std::size_t(values.dimensions(name))) << '\n';
-    }
-  };
-  list("Module1", program.module1());
-  for (const auto& name : program.windows().names()) {
-    Window& window = program.windows().use(name);
-    list(name, window.fields());
-    for (const auto& operation : window.operation_names()) output << "call " << name << '.' << operation << '\n';
+  program.start();
+  for (const auto& [name, text] : name_pages(program)) {
+    EXPECT_EQ(text, read_file(ZOL_SOURCE_DIR "/docs/names/" + name)) << "zol-script --names docs/names writes them";
   }
-  EXPECT_EQ(output.str(), read_file(ZOL_SOURCE_DIR "/tests/public_names.txt"));
 }
 
 // Å is one byte in a box and in a file, and two where the script meets them.
@@ -216,9 +208,9 @@ TEST(ScriptProgram, EndsWithItsStatusAndTellsWhatIsLost) {
         {"timeout --preserve-status -s INT 0.3 $zol long.zs", 130, stopped},
         {"timeout --preserve-status -s TERM 0.3 $zol long.zs", 143, stopped},
         {"sleep 1 | timeout --preserve-status -s INT 0.3 $zol", 130, stopped},
-        {"$zol .", 1, "failure of the run: can't read the script behind line 0: Is a directory\n"},
-        {"$zol <.", 1, "failure of the run: can't read the script behind line 0: Is a directory\n"},
-        {"$zol /proc/self/mem", 1, "failure of the run: can't read the script behind line 0: Input/output error\n"}}) {
+        {"$zol .", 1, "failure of the run: can't read the script after line 0: Is a directory\n"},
+        {"$zol <.", 1, "failure of the run: can't read the script after line 0: Is a directory\n"},
+        {"$zol /proc/self/mem", 1, "failure of the run: can't read the script after line 0: Input/output error\n"}}) {
     const std::string line = "cd " + folder.path("") + "; zol=" ZOL_SCRIPT "; exec >out 2>err; " + command;
     EXPECT_EQ(WEXITSTATUS(std::system(line.c_str())), status) << command;  // NOLINT(cert-env33-c,concurrency-mt-unsafe)
     const std::string told = folder.read("err");

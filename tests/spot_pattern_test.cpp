@@ -111,7 +111,7 @@ TEST(SpotGrey, FollowsThePower) {
   EXPECT_EQ(failure_of([] {
               (void)spot_grey(0, 1, {false, -1.0});
             }),
-            "overflow: the relative intensity is 0, its power -1 is no number");
+            "overflow: the relative intensity is 0, its power -1 is not a number");
 }
 
 TEST(ZoneGeometry, ReferenceLiesInTheZone) {

@@ -142,11 +142,11 @@ TEST(StructureImport, TakesTheSymmetryThatIsMeant) {
        {"an identity beside a symbol", "data_x\n" + cubic + fm3m + identity + halite_atoms, "? symmetry"},
        {"operators that are no group",
         "data_x\n" + cubic + "loop_\n_symmetry_equiv_pos_as_xyz\nx,y,z\n-x,-y,z\n-x,y,-z\n" + xyz + "Na1 .1 .2 .3\n",
-        "Na4 | 16 abc | 0.50\nWarning: the 3 symmetry operators are no group; the 4 that they make are taken"},
+        "Na4 | 16 abc | 0.50\nWarning: the 3 symmetry operators do not form a group; the 4 that they make are taken"},
        {"a cell of another symmetry", "data_x\n" + hexagonal("5", "7") + symbol("P m -3 m") + xyz + "Na1 0 0 0\n",
         "Na | 221 abc | 0.50\nWarning: the cell does not fit the symmetry"},
        {"no symmetry at all", "data_x\n" + cubic + xyz + "Na1 0 0 0\n",
-        "Na | 1 abc | 0.50\nWarning: the file tells no symmetry; the atoms are taken as they are listed"},
+        "Na | 1 abc | 0.50\nWarning: the file gives no symmetry; the atoms are taken as they are listed"},
        {"a setting of no table", quartz + quartz_operators + quartz_atoms, "O6 Si3 | 154 abc | 0.50"},
        {"rhombohedral axes",
         "data_x\n_cell_length_a 5\n_cell_length_b 5\n_cell_length_c 5\n_cell_angle_alpha 60\n"

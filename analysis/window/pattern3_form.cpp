@@ -57,7 +57,7 @@ void Pattern3Form::declare_guards(const Workbench& bench) {
   warn({&Command1, &Command7, &Command8, &Command11, &Command12, &Command13, &Command14, &Command15}, [this, &seen] {
     const bool unknown = AdjustShown == 1 && (AdjustSolution < 1 || AdjustSolution > solutions.SolutionCount);
     return first_of({no_reflections(seen, 3), lines_missing(), when(Val(Text3.text()) == 0, "the area is 0 degrees"),
-                     when(unknown, "there is no solution of the number that is adjusted for")});
+                     when(unknown, "there is no solution of this number to adjust")});
   });
   const Reason no_picture = [this] { return when(!Picture1.has_picture(), "no picture is loaded"); };
   warn({&ImageFlip, &ImageMirror}, no_picture);
@@ -72,11 +72,11 @@ void Pattern3Form::declare_guards(const Workbench& bench) {
                 "the markers of the two poles are not set, or at the same height");
   };
   List1.warn_row = [this](int row) {
-    return when(row >= solutions.SolutionCount.value(), "the line of the number is no solution");
+    return when(row >= solutions.SolutionCount.value(), "this line is the number of solutions, not a solution");
   };
   Picture1.warn_click = [this] {
     const bool begins_line = SiMode == 0 && CenterMode == 0 && unfinished_line(lines);
-    return when(begins_line, "a click without a drag lays the line to the corner");
+    return when(begins_line, "a click without a drag draws the line to the corner");
   };
   for (TextBox* box : {&Text10, &Text11}) whole_number(*box);
   Text2.warn_text = [](const std::string& text) { return when(Val(text) < 0, "no list has fewer than 0 reflections"); };

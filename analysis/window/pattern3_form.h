@@ -116,7 +116,7 @@ struct Pattern3Form : Window {
   Single YShiftStep = 0;
   Integer AdjustSteps;     ///< of the search, to each side
   Integer AdjustSolution;  ///< number of the solution that is adjusted for
-  Integer AdjustShown;     ///< 1 while matching looks for that solution alone
+  Integer AdjustShown;     ///< 1 while matching looks only for that solution
   Single BestError = 0;    ///< squared degrees
 
   WorkingDistance working_distance;

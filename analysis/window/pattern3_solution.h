@@ -5,7 +5,7 @@
 
 namespace zol {
 
-/// The strongest bands that a solution asks for, in the coordinates of the picture; none for a row that is no solution.
+/// The strongest bands that a solution asks for, in the coordinates of the picture; none where the row has none.
 [[nodiscard]] PictureMarks bands_of_solution(const CrystalState& seen, const Pattern3Form& form, int row);
 
 /// The gnomonic direction of a place in the picture, whose y counts downward while the plane lies upside down in it.

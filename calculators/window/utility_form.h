@@ -38,7 +38,7 @@ struct UtilityForm : Window {
   CommandButton Command2{*this, "Command2", "Calc"};
 
   // "Equivalent vector"
-  TextBox Text10{*this, "Text10", "u, v, w ="};  // the caption stands before all three
+  TextBox Text10{*this, "Text10", "u, v, w ="};  // the caption is before all three
   TextBox Text11{*this, "Text11"};
   TextBox Text12{*this, "Text12"};
   CommandButton Command4{*this, "Command4", "Calc"};  // h, k, l from u, v, w

@@ -19,7 +19,7 @@ struct InputAtomForm : TableForm {
     };
   }
 
-  TextBox Text2{*this, "Text2", "origin shift ="};  // in x; the caption stands for all three
+  TextBox Text2{*this, "Text2", "origin shift ="};  // in x; the caption is for all three
   TextBox Text3{*this, "Text3"};                    // in y
   TextBox Text4{*this, "Text4"};                    // in z
   MenuItem Import_MINCRYST{*this, "Import_MINCRYST", "MINCRYST", "Import"};

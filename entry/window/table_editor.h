@@ -1,4 +1,4 @@
-// What the two table editors do alike: typing, deleting, closing. What "OK" takes over is their own.
+// What the two table editors do alike: typing, deleting, closing. What "OK" does is their own.
 #pragma once
 
 #include <functional>
@@ -22,19 +22,19 @@ void put_row(Grid& grid, int row, std::span<const std::string> texts);
 /// Row numbers, then headers of columns 1 on.
 void write_frame(Grid& grid, std::span<const std::string_view> headers);
 
-/// Fills a new table; the first cell behind the filled rows becomes the current one.
+/// Fills a new table; the first cell after the filled rows becomes the current one.
 /// @param texts_of  texts of a row, from 1
-/// @throws RunFailure  no row is left behind the filled ones
+/// @throws RunFailure  no row is left after the filled ones
 void fill_table(Grid& grid, std::span<const std::string_view> headers, int rows,
                 const std::function<std::vector<std::string>(int row)>& texts_of);
 
-/// Rows before the first one with an empty first column; what stands behind is not counted.
+/// Rows before the first one with an empty first column; later rows are not counted.
 [[nodiscard]] int filled_rows(const Grid& grid);
 
 /// The next opening is fresh.
 void close_table(Workbench& bench, TableForm& form);
 
-/// The texts of the table as they stand, for what looks for doubtful ones.
+/// The texts of the table as they are, for what looks for doubtful ones.
 [[nodiscard]] TableTexts texts_of(const Grid& grid);
 
 /// Ties all events but those of loading and of "OK".

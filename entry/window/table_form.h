@@ -1,5 +1,5 @@
 // What the two table editors have in common: a grid of 200 numbered rows, the buffer by way of which it is typed into,
-// and the buttons beside it. They are told apart by their columns.
+// and the buttons beside it. They differ by their columns.
 #pragma once
 
 #include <string>

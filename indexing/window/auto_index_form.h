@@ -27,7 +27,7 @@ struct IndexResult {
     std::vector<MatchedBand> matches;
   };
   PictureSize size;
-  PatternCentre centre;  ///< of the picture as it stands in PATTERN3
+  PatternCentre centre;  ///< of the picture as it is in PATTERN3
   std::vector<DetectedBand> bands;
   std::vector<Solution> solutions;
   std::size_t picked = 0;

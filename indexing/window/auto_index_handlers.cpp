@@ -213,17 +213,17 @@ PatternCentre typed_centre(const std::string& text, PictureSize size) {
   const auto convention = words.empty() ? std::nullopt : centre_convention(words.front());
   const bool has_pixel = convention == CentreConvention::Emsoft;
   if (!convention || words.size() != (has_pixel ? 5U : 4U))
-    throw RunFailure("\"" + text + "\" is no pattern centre: " + form);
+    throw RunFailure("\"" + text + "\" is not a pattern centre: " + form);
   std::array<double, 4> numbers{0, 0, 0, 1};
   for (std::size_t i = 1; i < words.size(); ++i) {
     const auto number = strict_number(words[i]);
-    if (!number) throw RunFailure("\"" + words[i] + "\" is no number: " + form);
+    if (!number) throw RunFailure("\"" + words[i] + "\" is not a number: " + form);
     numbers[i - 1] = *number;
   }
   size.pixel_micrometre = numbers[3];
   const PatternCentre centre = read_centre({numbers[0], numbers[1], numbers[2]}, *convention, size);
   if (!(centre.z > 0.05 && centre.z < 20 && size.pixel_micrometre > 0)) {
-    throw RunFailure("the specimen would stand " + plain_text(centre.z) +
+    throw RunFailure("the specimen would be " + plain_text(centre.z) +
                      " widths from the screen; expected are 0.05 to 20");
   }
   constexpr double most_off = 3;  // widths: beyond, a number stands in the wrong place or unit
@@ -239,8 +239,7 @@ void MakerCentre_Click(Workbench& bench, AutoIndexForm& form) {
   attempt(bench, form, [&] {
     const auto picture = measured_picture(bench);
     const std::string answer = bench.services.prompt(
-        "Pattern centre as the detector's software tells it: bruker, edax, oxford or emsoft and its three numbers",
-        title);
+        "Pattern centre of the detector software: bruker, edax, oxford or emsoft and its three numbers", title);
     if (answer.empty()) return;
     const PictureSize size{picture->width, picture->height, 1};
     write_centre(bench, typed_centre(answer, size), size);

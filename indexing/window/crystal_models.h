@@ -14,7 +14,7 @@ namespace zol {
 /// @throws RunFailure  a crystal can't be read or has too few reflections; the message names it
 [[nodiscard]] std::vector<std::shared_ptr<const CrystalModel>> crystal_models(Workbench& bench, AutoIndexForm& form);
 
-/// The present crystal alone. @returns a null pointer where there is none
+/// Only the present crystal. @returns a null pointer where there is none
 [[nodiscard]] std::shared_ptr<const CrystalModel> present_crystal_model(Workbench& bench, AutoIndexForm& form);
 
 /// The list of families with its marks.

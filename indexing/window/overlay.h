@@ -6,7 +6,7 @@
 
 namespace zol {
 
-/// The computed bands and zone axes of the picked solution over the picture of PATTERN3; nothing else stays there.
+/// The computed bands and zone axes of the picked solution over the picture of PATTERN3; nothing else remains there.
 void draw_solution(Pattern3Form& pattern, const IndexResult& result);
 
 /// Marks one measured band over what is drawn.

@@ -11,7 +11,7 @@ namespace zol {
 void show_orientation(Workbench& bench, const Rotation& crystal_from_picture);
 
 /// "Bands as a picture": the soft bands of the present crystal in the orientation and view of Pattern2 become its
-/// picture. What is missing is told.
+/// picture. Reports what is missing.
 void draw_bands_as_picture(Workbench& bench);
 
 /// The orientation that Pattern2 shows: zone axis in the pattern centre, turned by the pattern's angle.

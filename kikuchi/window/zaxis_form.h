@@ -39,7 +39,7 @@ struct ZaxisForm : Window {
   TextBox Text1{*this, "Text1", "U Max="};
   TextBox Text2{*this, "Text2", "V Max="};
   TextBox Text3{*this, "Text3", "W Max="};
-  TextBox Text4{*this, "Text4", "[uvw]"};  // direction to look up; the caption stands for all three
+  TextBox Text4{*this, "Text4", "[uvw]"};  // direction to look up; the caption is for all three
   TextBox Text5{*this, "Text5"};
   TextBox Text6{*this, "Text6"};
   TextBox Text7{*this, "Text7", "Phi"};    // azimuth, degrees

@@ -49,7 +49,7 @@ CurveControls::CurveControls(Window& window, Services& services, PowderPattern& 
 void CurveControls::declare(Window& window) {
   using namespace guard;
   Window::warn({&FitMeasured, &FitBoxes, &RemoveMeasured}, [this] {
-    return when(data.measured.points.empty(), "there is no measured pattern: \"Add measured pattern...\" takes one");
+    return when(data.measured.points.empty(), "there is no measured pattern: \"Add measured pattern...\" reads one");
   });
   RemoveLines.warn_when = [this] { return when(data.lists.empty(), "there is no list of lines"); };
   if (Doublet) {
@@ -69,7 +69,7 @@ CurveOffer CurveControls::offer() {
   offer.layers = [this] { return layers(); };
   offer.radiation = [this] { return data.radiation; };
   offer.commands = {
-      {&AddMeasured, {}, "a pattern from a file, laid under the curve: .xy, .xye, .csv, .xrdml, .raw and others"},
+      {&AddMeasured, {}, "a pattern from a file, shown under the curve: .xy, .xye, .csv, .xrdml, .raw and others"},
       {&RemoveMeasured, {}, "takes the measured pattern away"},
       {&FitMeasured, {}, "scale, offset and zero by least squares"},
       {&AddLines, {}, "a text file with d and I in each line, shown as sticks"},

@@ -35,7 +35,7 @@ struct CurveData {
   MeasuredCurve measured;
   SharedVector<LineList> lists;
   bool doublet = false;         ///< the curve is that of K-alpha 1 and 2
-  SharedVector<double> second;  ///< samples of K-alpha 2 alone, of a third of the intensity
+  SharedVector<double> second;  ///< samples of only K-alpha 2, of a third of the intensity
   SharedVector<double> both;    ///< of both lines together
   bool operator==(const CurveData&) const = default;
 };
@@ -61,7 +61,7 @@ struct CurveControls {
 
   /// Samples in per cent of the highest one of the pattern; none where there is no curve.
   [[nodiscard]] std::optional<SampledCurve> sampled() const;
-  /// As the boxes tell it; none where the scale is not above 0.
+  /// As the boxes have it; none where the scale is not above 0.
   [[nodiscard]] std::optional<CurveMatch> match() const;
   /// The offer without its second axis and its list of peaks.
   [[nodiscard]] CurveOffer offer();

@@ -9,7 +9,7 @@ namespace zol {
 /// Ties the events of the controls.
 void wire_curves(Workbench& bench, CurveControls& curves);
 
-/// Notes what a calculation was made with, its reflections and its radiation, and makes the second radiation anew.
+/// Notes what a calculation was made with, its reflections and its radiation, and makes the second radiation again.
 void curve_calculated(Workbench& bench, CurveControls& curves, const CalculatedWith& with);
 
 }  // namespace zol

@@ -8,7 +8,7 @@ namespace zol {
 /// Shows the window and calculates the pattern of the list with the settings that every opening starts from.
 void open_xd(Workbench& bench);
 
-/// Calculates the pattern from the list as it stands and draws it over what is there; fills the peak list.
+/// Calculates the pattern from the list as it is and draws it over what is there; fills the peak list.
 /// @throws RunFailure  a division by 0, an overflow or a bin out of range; see the functions it is made of
 void XDCalc(Workbench& bench);
 

@@ -12,7 +12,7 @@ inline constexpr std::string_view peak_max = "the largest intensity (PeakMax, wh
 /// @param name  of that value, for the message when it is 0
 void draw(XdForm& form, Single full_height, std::string_view name);
 
-/// Draws the curve anew with DisplayMax, without calculating.
+/// Draws the curve again with DisplayMax, without calculating.
 void redraw(XdForm& form);
 
 }  // namespace zol::xd

@@ -47,7 +47,7 @@ struct Main1Form : Window {
   CheckBox Check1{*this, "Check1", "-H calc"};
   CheckBox Check2{*this, "Check2", "-K calc"};
   CheckBox Check3{*this, "Check3", "-L calc"};
-  TextBox Text18{*this, "Text18", "h       k       l"};  // fixed h; the caption stands over all three
+  TextBox Text18{*this, "Text18", "h       k       l"};  // fixed h; the caption is over all three
   TextBox Text19{*this, "Text19"};                       // fixed k
   TextBox Text20{*this, "Text20"};                       // fixed l
   CheckBox Check4{*this, "Check4", " k mod 3=0"};

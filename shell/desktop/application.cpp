@@ -28,8 +28,8 @@ void show_failure(const std::string& message, bool kept) {
                   QApplication::activeWindow());
   QString text =
       QCoreApplication::translate("zol",
-                                  "The program ends here. Files are as they were saved last. Start it again with "
-                                  "this mended; \"Known behaviour\" in the user guide tells more.");
+                                  "The program ends here. Files are as they were saved last. Correct this and start it "
+                                  "again; see \"Known behaviour\" in the user guide.");
   if (kept) {
     text += QStringLiteral("\n\n") +
             QCoreApplication::translate("zol", "Your work as it was before is kept: the next start offers it.");
@@ -73,6 +73,7 @@ void name_application() {
   use_desktop_resources();
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/zol.svg")));
   use_look(kept_look());
+  follow_desktop();
   use_language(kept_language());
   QApplication::setQuitOnLastWindowClosed(false);
   PictureChoices::of_program().keep_in(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +

@@ -40,7 +40,7 @@ class Binder {
   void window_shown();
   /// The top level beside which the window comes up, if any.
   void set_neighbour(QWidget* neighbour) { neighbour_ = neighbour; }
-  /// What the title says behind the caption, with Qt's mark [*] for changed work; empty: nothing.
+  /// What the title says after the caption, with Qt's mark [*] for changed work; empty: nothing.
   void set_title_end(const QString& end, bool unsaved);
   /// Shows what has changed since the last time. In the middle of a handler lists wait for its end: a view lays out all
   /// of a list that has changed.

@@ -15,6 +15,8 @@
 #include "core/run_failure.h"
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/language/language.h"
+#include "shell/desktop/look/look.h"
+#include "shell/desktop/look/look_style.h"
 #include "shell/desktop/picture_choices.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
@@ -120,12 +122,24 @@ void CanvasView::paint() {
   // What is printed or saved has to be whole.
   const bool on_screen =
       backingStore() != nullptr && painter.paintEngine()->paintDevice() == backingStore()->paintDevice();
+  if (on_screen) paint_mat(painter);
   if (!up_to_date_) draw_some(!on_screen);
   painter.drawPixmap(place, painting_->pixmap(), QRectF(QPointF(), QSizeF(device_size)));
   paint_layers(painter, place);
   painter.setPen(palette().color(QPalette::WindowText));
   if (canvas_->x_axis) draw_x_ruler(painter, place);
   if (canvas_->y_axis) draw_y_ruler(painter, place);
+}
+
+/// Where the picture does not fill its view. Curves, with their rulers, stand on the ground of the window.
+void CanvasView::paint_mat(QPainter& painter) const {
+  if (look_in_use() == Look::Plain || canvas_->x_axis || canvas_->y_axis) return;
+  constexpr double corner = 6;
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(to_colour("well", shade_of(look_in_use())));
+  painter.drawRoundedRect(QRectF(rect()).adjusted(0, note_room_, 0, 0), corner, corner);
+  painter.setRenderHint(QPainter::Antialiasing, false);
 }
 
 void CanvasView::paint_layers(QPainter& painter, const QRectF& place) {

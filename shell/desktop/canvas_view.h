@@ -34,7 +34,7 @@ class CanvasView : public QWidget {
 
   [[nodiscard]] Canvas* canvas() const { return canvas_; }
   [[nodiscard]] QSize sizeHint() const override;
-  /// Where the picture stands inside the view.
+  /// Where the picture is inside the view.
   [[nodiscard]] QRectF picture_rect() const;
 
   /// All of the picture is shown.
@@ -47,7 +47,7 @@ class CanvasView : public QWidget {
     caption_ = std::move(caption);
     file_name_ = std::move(file_name);
   }
-  /// What is copied and exported in the place of the picture alone.
+  /// What is copied and exported in place of the picture.
   struct StandIn {
     std::function<QImage()> image;
     std::function<void(const std::string& path, double factor, Task& task, const QString& caption)> write;
@@ -57,7 +57,7 @@ class CanvasView : public QWidget {
   void set_menu(QMenu& menu);
 
  signals:
-  /// The pointer stands over this place; an empty text when it has left the picture.
+  /// The pointer is over this place; an empty text when it has left the picture.
   void pointed_at(const QString& place);
   /// The canvas has changed.
   void refreshed();
@@ -91,6 +91,7 @@ class CanvasView : public QWidget {
   void add_exports(QMenu& menu);
   void press_at(const QPointF& position);
   void point_at(const QPointF& position);
+  void paint_mat(QPainter& painter) const;
   void paint_layers(QPainter& painter, const QRectF& place);
 
   Canvas* canvas_ = nullptr;

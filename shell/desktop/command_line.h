@@ -1,4 +1,4 @@
-// What the desktop program is told at its start.
+// The command line of the desktop program.
 #pragma once
 
 #include <string>

@@ -29,7 +29,7 @@ struct TiedWindow {
 
 class ControlTie : public QObject {
  public:
-  /// @param shown_by  nullptr for a menu item, which is no widget
+  /// @param shown_by  nullptr for a menu item, which is not a widget
   ControlTie(const TiedWindow& owner, Control& bound, QWidget* shown_by)
       : owner_(owner), control_(bound), widget_(shown_by) {}
 
@@ -46,7 +46,7 @@ class ControlTie : public QObject {
   void enter(UserEvent event, UserEvents::Warning against) const {
     owner_.events.enter(owner_.window, std::move(event), std::move(against));
   }
-  /// Hands over an action, told as the words of its script operation. The box that the user is in is left first, and
+  /// Hands over an action, as the words of its script operation. The box that the user is in is left first, and
   /// where there is a reason against the action, the user is asked.
   /// @param reason  none: that of the control
   void act(std::initializer_list<std::string> words, std::function<void()> run, Reason reason = {}) {

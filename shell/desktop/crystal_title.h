@@ -1,4 +1,4 @@
-// What the titles of windows tell of the crystal.
+// What the titles of windows say of the crystal.
 #pragma once
 
 #include <QString>
@@ -7,7 +7,7 @@ namespace zol {
 
 class Program;
 
-/// What stands behind the caption: " - Quartz, 20 kV[*]", with the wavelength where there is no voltage; empty without
+/// What follows the caption: " - Quartz, 20 kV[*]", with the wavelength where there is no voltage; empty without
 /// a crystal.
 [[nodiscard]] QString crystal_title_end(Program& program);
 

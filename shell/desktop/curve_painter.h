@@ -39,7 +39,7 @@ inline constexpr double gap = 3;
 
 class CurvePainter {
  public:
-  /// @param picture  where picture and strips go; the axes stand around it, the second one inside its upper end
+  /// @param picture  where picture and strips go; the axes are around it, the second one inside its upper end
   CurvePainter(const Canvas& canvas, const CurveScene& scene, const CurveLook& look, const QRectF& picture,
                const QFont& font);
   [[nodiscard]] const CurveLayout& layout() const { return layout_; }

@@ -34,7 +34,7 @@ class CurveView : public QObject {
   void go_to(double x);
   /// Looks at what the window offers, where that has changed.
   void look_again();
-  /// Whether anything is shown that the picture alone has not.
+  /// Whether anything is shown that the picture does not have.
   [[nodiscard]] bool in_use() const;
   /// The place of a pixel of the view in user coordinates.
   [[nodiscard]] CurvePoint user_place(const QPointF& position) const;

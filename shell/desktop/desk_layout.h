@@ -1,4 +1,4 @@
-// Where windows stand on screens: rectangles alone, frames included.
+// Where windows stand on screens: only rectangles, frames included.
 #pragma once
 
 #include <vector>
@@ -18,7 +18,7 @@ constexpr QSize usual_frame(8, 34);  ///< of a window that has not been on the s
 /// least of the others.
 [[nodiscard]] QRect beside(const QSize& size, const QRect& opener, const std::vector<QRect>& others, const QRect& room);
 
-/// A place in an arrangement. The windows of a page do not overlap; of the pages behind the first one only a strip at
+/// A place in an arrangement. The windows of a page do not overlap; of the pages after the first one only a strip at
 /// the top is seen.
 struct Tile {
   QRect place;

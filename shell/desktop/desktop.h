@@ -37,13 +37,13 @@ class Desktop : public QObject, public WindowView {
   Q_OBJECT
 
  public:
-  /// @param failed  takes the message of a failure of the run; the program ends behind it
+  /// @param failed  takes the message of a failure of the run; the program ends after it
   explicit Desktop(Windows& windows, std::function<void(const std::string&)> failed);
   ~Desktop() override;
 
   /// Runs an action as an event: a failure ends the program, changes are shown afterwards.
   void enter(std::string name, std::function<void()> action) { gate_.enter({std::move(name), "", std::move(action)}); }
-  /// Undo and redo by menu and keys in all windows; the titles tell the crystal.
+  /// Undo and redo by menu and keys in all windows; the titles show the crystal.
   void offer_undo(Program& program);
   /// Told of each window before it is fitted to the screen.
   void set_made(std::function<void(const Window&, QMainWindow&)> made) { made_ = std::move(made); }
@@ -51,7 +51,7 @@ class Desktop : public QObject, public WindowView {
   void offer_advice(Program& program);
   /// Menus of windows and of recent files, kept places, first things to do. @param settings_file  see Desk
   void offer_desk(Program& program, const QString& settings_file);
-  /// By the ways that a window declares. @throws nothing  what can't be opened is told
+  /// By the ways that a window declares. @throws nothing  what cannot be opened is reported
   void open_files(const std::vector<std::string>& paths);
   /// Asks whether what would end the run is to be done all the same, in the place of a message box.
   void set_question(std::function<bool(const std::string& reason)> question) {
@@ -113,7 +113,7 @@ class Desktop : public QObject, public WindowView {
   std::unique_ptr<Advice> advice_;
   std::unique_ptr<Desk> desk_;
   std::unique_ptr<Guide> guide_;
-  Program* program_ = nullptr;  ///< whose steps can be undone, and whose crystal the titles tell
+  Program* program_ = nullptr;  ///< whose steps can be undone, and whose crystal the titles show
   std::function<void(const Window&, QMainWindow&)> made_;
   QElapsedTimer since_breath_;
   qint64 work_ms_ = 0;  ///< between two breaths

@@ -31,7 +31,7 @@ namespace zol {
 void paint_canvas(QPainter& painter, Canvas& canvas, Task& task);
 
 /// A picture for a view, drawn bit by bit and brought up to date when something was drawn besides: in its own size the
-/// stored image and the overlay, else the list at the resolution of the view.
+/// stored image and the overlay, otherwise the list at the resolution of the view.
 class CanvasPainting {
  public:
   /// @param pixmap  of the size of the view
@@ -51,7 +51,7 @@ class CanvasPainting {
   bool begun_ = false;
   unsigned redrawn_ = 0;   ///< Canvas::redrawn() when the list was begun
   std::size_t drawn_ = 0;  ///< entries of the list
-  UserScale scale_;        ///< in force behind those
+  UserScale scale_;        ///< in force after those
 };
 
 }  // namespace zol

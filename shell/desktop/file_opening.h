@@ -1,5 +1,5 @@
 // Files that are opened past the file dialog, and other ways through the program that a window declares. The controls
-// are used as a user would; what fails on the way ends nothing: it is told, and all is as it was before.
+// are used as a user would; what fails on the way ends nothing: it is reported, and all is as it was before.
 #pragma once
 
 #include <functional>
@@ -26,7 +26,7 @@ class Window;
 
 class FileOpening {
  public:
-  /// @param failed  told of each failure, behind which all is as it was
+  /// @param failed  hears of each failure, after which all is as it was
   FileOpening(Program& program, UserEvents& events, std::function<void()> failed)
       : program_(program), events_(events), failed_(std::move(failed)) {}
 

@@ -31,7 +31,7 @@ class LongWork : public QObject {
   ~LongWork() override;
 
   void begin(const UserEvent& event);
-  /// @param stopped  by the user, which is told in the window
+  /// @param stopped  by the user, which the window says
   void end(bool stopped);
 
   /// done rises to total; another total is another part of the work.

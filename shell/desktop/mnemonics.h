@@ -1,4 +1,4 @@
-// Letters behind Alt for menus that are added to those of a layout, and for texts in other languages.
+// Letters after Alt for menus that are added to those of a layout, and for texts in other languages.
 #pragma once
 
 #include <vector>

@@ -75,7 +75,7 @@ NoteLine::NoteLine(QWidget& view, std::function<void(int)> make_room, std::funct
   row->addWidget(&line_, 1);
   row->addWidget(&button_);
   button_.setText(tr("Draw again"));
-  button_.setToolTip(tr("Makes it anew with what holds now"));
+  button_.setToolTip(tr("Makes it again for the present crystal and settings"));
   button_.setAutoRaise(false);
   setCursor(Qt::ArrowCursor);
   connect(&button_, &QToolButton::clicked, this, std::move(clicked));

@@ -4,7 +4,7 @@ namespace zol {
 namespace {
 
 QString key_of(int choice) {
-  static const char* const names[] = {"scale", "labels", "families", "caption", "layersInExports"};
+  static const char* const names[] = {"scale", "labels", "families", "caption", "layersInExports", "halos"};
   return QStringLiteral("pictures/") + QLatin1String(names[choice]);
 }
 

@@ -10,7 +10,7 @@ namespace zol {
 
 class PictureChoices {
  public:
-  enum Choice { Scale, Labels, Families, Caption, LayersInExports, count };
+  enum Choice { Scale, Labels, Families, Caption, LayersInExports, Halos, count };
 
   /// Of the program.
   [[nodiscard]] static PictureChoices& of_program();
@@ -20,7 +20,7 @@ class PictureChoices {
   void set(Choice choice, bool on);
 
  private:
-  bool on_[count] = {false, false, true, false, false};  // NOLINT(modernize-avoid-c-arrays): indexed by the enum
+  bool on_[count] = {false, false, true, false, false, false};  // NOLINT(modernize-avoid-c-arrays): indexed by the enum
   std::unique_ptr<QSettings> settings_;
 };
 

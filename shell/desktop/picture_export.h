@@ -13,7 +13,7 @@
 
 namespace zol {
 
-/// The picture with its overlay. A factor above 1 draws it anew at that resolution.
+/// The picture with its overlay. A factor above 1 draws it again at that resolution.
 [[nodiscard]] QImage picture_image(Canvas& canvas, double factor, Task& task);
 [[nodiscard]] QImage picture_image(Canvas& canvas, double factor = 1.0);
 

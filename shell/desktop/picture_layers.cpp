@@ -121,6 +121,24 @@ void paint_scale(QPainter& painter, const PicturePlace& place) {
   if (place.canvas->geometry->circle) paint_circle(painter, place);
 }
 
+/// Lines of red, green or blue are hard to see on grey: once more, over a dark one three times as wide.
+void paint_halos(QPainter& painter, const PicturePlace& place) {
+  constexpr std::size_t most = 400;  // those of a user, not of a whole pattern
+  const auto& drawn = place.canvas->drawing();
+  if (drawn.size() > most) return;
+  for (const double width : {3.0, 1.0}) {
+    for (const Primitive& primitive : drawn) {
+      const auto* line = std::get_if<DrawnLine>(&primitive.what);
+      if (line == nullptr) continue;
+      const QColor colour = to_qt(line->colour);
+      constexpr int pure = 200;  // of 255
+      if (colour.saturation() < pure) continue;
+      painter.setPen(QPen(width > 1 ? QColor(0, 0, 0, 190) : colour, width, Qt::SolidLine, Qt::RoundCap));
+      painter.drawLine(place.to_view(line->x1, line->y1), place.to_view(line->x2, line->y2));
+    }
+  }
+}
+
 void paint_measurement(QPainter& painter, const PicturePlace& place, const PictureLayers::Place& from,
                        const std::optional<PictureLayers::Place>& to) {
   constexpr double dot = 4;
@@ -170,6 +188,8 @@ void PictureLayers::paint(QPainter& painter, const PicturePlace& place) {
   painter.setClipRect(place.rect);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setFont(layer_font());
+  if (PictureChoices::of_program().on(PictureChoices::Halos) && place.canvas->has_picture())
+    paint_halos(painter, place);
   for (const PictureMark& mark : row_marks) draw_mark(painter, mark, place, QColor(0xff, 0xb0, 0x00));
   paint_wanted(painter, place);
   const auto& marks = place.canvas->marks();

@@ -14,7 +14,7 @@
 
 namespace zol {
 
-/// Where a picture stands in a view.
+/// Where a picture is in a view.
 struct PicturePlace {
   const Canvas* canvas = nullptr;
   QRectF rect;
@@ -38,7 +38,7 @@ class PictureLayers {
 
   /// What the user wants to see, what is lit and what is measured.
   void paint(QPainter& painter, const PicturePlace& place);
-  /// Scale and labels alone, for an export.
+  /// Only scale and labels, for an export.
   void paint_wanted(QPainter& painter, const PicturePlace& place);
   void paint_loupe(QPainter& painter, const PicturePlace& place, const QPixmap& pixmap) const;
   /// What to do, in the place of a picture.
@@ -52,7 +52,7 @@ class PictureLayers {
   PictureMarks placed_of_;
   QRectF placed_in_;
   UserScale placed_scale_;
-  std::vector<LabelPlace> places_;  ///< which mark stands where
+  std::vector<LabelPlace> places_;  ///< which mark is where
   std::vector<int> families_;
 };
 

@@ -252,6 +252,7 @@ void PictureTools::add_entries(QMenu& menu) {
     add(tr("&Labels h k l"), PictureChoices::Labels);
     add(tr("Labels in colours of fam&ilies"), PictureChoices::Families);
   }
+  if (canvas_.has_picture()) add(tr("Dark &halo behind coloured lines"), PictureChoices::Halos);
   QAction* measure = menu.addAction(tr("&Measure"));
   measure->setCheckable(true);
   measure->setChecked(measuring_);

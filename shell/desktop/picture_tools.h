@@ -23,12 +23,12 @@ namespace zol {
 
 class PictureTools : public QObject {
  public:
-  /// @param place  where the picture stands now
+  /// @param place  where the picture is now
   /// @param tell   shows words in the status line
   PictureTools(Canvas& canvas, UserEvents& events, QWidget& view, std::function<PicturePlace()> place,
                std::function<void(const QString&)> tell);
 
-  // Each @returns whether it was for a tool: it is no event of the picture then
+  // Each @returns whether it was for a tool: then it is not an event of the picture
   bool press(const QMouseEvent& event);
   bool move(const QMouseEvent& event);
   bool release(const QMouseEvent& event);
@@ -36,7 +36,7 @@ class PictureTools : public QObject {
   /// A press that may become a drag, to be handed to the picture when the button goes up before it did.
   [[nodiscard]] std::optional<QPointF> take_held() { return std::exchange(held_, std::nullopt); }
 
-  /// The pointer stands here, or nowhere.
+  /// The pointer is here, or nowhere.
   void point_at(const std::optional<QPointF>& position);
   /// Of the mark under the pointer.
   [[nodiscard]] QString words() const;

@@ -36,7 +36,7 @@ class QtSurface final : public Surface {
   [[nodiscard]] QImage& pixels();
 
   QImage image_;
-  QImage deep_;  ///< the same of 16 bits, where it was loaded so; else null
+  QImage deep_;  ///< the same of 16 bits, where it was loaded so; otherwise null
 };
 
 /// Writes an image to a file of a kind that Qt knows ("BMP", "PNG"), whole or not at all.

@@ -23,7 +23,7 @@ class Recovery {
 
   /// Keeps the work as it was before the event that failed. @returns whether it is on the disk
   bool keep_behind_failure(const std::string& message) noexcept;
-  /// The user's end: a crystal that was not saved is kept, else nothing.
+  /// The user's end: a crystal that was not saved is kept, otherwise nothing.
   void end() noexcept;
 
  private:
@@ -33,7 +33,7 @@ class Recovery {
   Program& program_;
   Desktop& desktop_;
   std::vector<LeftOver> left_;
-  std::shared_ptr<const Snapshot> seen_;  ///< behind the last event
+  std::shared_ptr<const Snapshot> seen_;  ///< after the last event
   std::shared_ptr<const KeptWork> last_;  ///< that was handed to the file; none while there is nothing to lose
   RecoveryFile file_;
 };

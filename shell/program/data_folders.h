@@ -1,4 +1,4 @@
-// Which folders stand for the data root and the crystal folder on this machine.
+// Which folders are the data root and the crystal folder on this machine.
 #pragma once
 
 #include <string>

@@ -24,7 +24,7 @@ MainMenuForm::MainMenuForm(Workbench& bench) : Window(window_name, "MAIN MENU") 
               {crystal_window, {"Main1.ImportStructure"}}},
              {"Take an example", "quartz, with its reflections", {crystal_window, load("Quartz.cry")}},
              {"Index the example picture",
-              "a measured Kikuchi pattern of silicon, indexed without a hand",
+              "a simulated Kikuchi pattern of silicon, indexed automatically",
               {load("Silicon.cry"),
                analysis_window,
                {"PATTERN3.Text3", half_angle_deg},

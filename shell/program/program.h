@@ -57,7 +57,7 @@ class Program {
   /// Whether there is a crystal, and its file would hold another one than that which was loaded or saved last.
   [[nodiscard]] bool crystal_unsaved() const;
 
-  /// A snapshot with what is told of it.
+  /// A snapshot with what is said of it.
   [[nodiscard]] KeptWork kept_work(std::shared_ptr<const Snapshot> snapshot) const;
   /// @throws RunFailure  see snapshot_file.h; nothing has changed then
   [[nodiscard]] KeptWork read_work(std::string_view bytes);
@@ -78,7 +78,7 @@ class Program {
   NamedValues module1_;
   NamedValues state_fields_;
   History history_;
-  bool went_back_ = false;  ///< in the present event, which then is no step
+  bool went_back_ = false;  ///< in the present event, which then is not a step
   std::function<void(const std::shared_ptr<const Snapshot>&)> changed_;
   std::shared_ptr<const Snapshot> began_;  ///< as the present event began
   std::shared_ptr<const Snapshot> last_ = std::make_shared<const Snapshot>();

@@ -65,7 +65,7 @@ class ClaimedWork {
   HeldLock lock_;
 };
 
-/// The file of this run. Nothing here ends the run: what goes wrong is told once by fault().
+/// The file of this run. Nothing here ends the run: fault() reports once what goes wrong.
 class RecoveryFile {
  public:
   using Clock = std::chrono::steady_clock;

@@ -1,5 +1,5 @@
 // What is to be said beside the lists and pictures of all windows: what each was made for, what has changed since, and
-// words beside results that are right by rule alone.
+// words beside results that are right only by rule.
 //
 // Forms declare it (Control::made_from, Control::remarks). What has been noted goes with the contents of a control:
 // where an earlier contents comes back by undoing, its note does too.
@@ -28,7 +28,7 @@ class ResultNotes {
     std::string made;     ///< as "drawn for Quartz, 20 kV"; empty where nothing is shown
     std::string changed;  ///< as "crystal and settings changed since"; empty where nothing has
     std::vector<std::string> remarks;
-    std::vector<const CommandButton*> again;    ///< what makes it anew, one after the other; empty where it isn't old
+    std::vector<const CommandButton*> again;    ///< what makes it again, one after the other; empty where it isn't old
     [[nodiscard]] std::string line() const;     ///< what is to be said now; empty: nothing
     [[nodiscard]] std::string caption() const;  ///< what goes with an exported picture
   };
@@ -49,7 +49,7 @@ class ResultNotes {
   };
   struct Result {
     Noted present;
-    unsigned begun = 0;  ///< another number: made anew
+    unsigned begun = 0;  ///< another number: made again
     std::vector<Noted> known;
   };
 

@@ -32,7 +32,7 @@ std::string_view next_part(StoreReader& file) {
 
 StoreReader behind_format(std::string_view bytes) {
   StoreReader file(bytes);
-  if (!bytes.starts_with(magic)) throw RunFailure("it is no file of kept work");
+  if (!bytes.starts_with(magic)) throw RunFailure("it is not a file of kept work");
   (void)file.raw(magic.size());
   if (const auto found = file.number<std::uint32_t>(); found != format) {
     throw RunFailure("it is of format " + std::to_string(found) + ", this program reads format " +
@@ -88,7 +88,7 @@ KeptWork read_work(std::string_view bytes, const NamedValues& state, const Windo
     throw RunFailure("it was kept by version " + work.note.version + " of the program, this is " + program_version);
   }
   StoreReader body(next_part(file), &services);
-  if (!file.at_end()) StoreReader::fail("something stands behind its end");
+  if (!file.at_end()) StoreReader::fail("there is something after its end");
   work.saved_crystal = body.text();
   auto fields = state.load(body);
   work.snapshot = std::make_shared<const Snapshot>(Snapshot{std::move(fields), windows.load(body)});

@@ -1,4 +1,4 @@
-// The file form of a snapshot: the work of one run, kept for a later one. First stands a note of what it is, which can
+// The file form of a snapshot: the work of one run, kept for a later one. First is a note of what it is, which can
 // be read by itself; then all of it. Each has a checksum.
 #pragma once
 
@@ -18,7 +18,7 @@ enum class RunEnd : std::uint8_t {
   Unsaved,  ///< the user's end, with a crystal that was not saved
 };
 
-/// What is told of kept work.
+/// What is said of kept work.
 struct WorkNote {
   std::string version;       ///< of the program
   std::int64_t time_ms = 0;  ///< since the beginning of 1970, UTC
@@ -37,7 +37,7 @@ struct KeptWork {
 /// The bytes of a file. May run in a thread of its own.
 [[nodiscard]] std::string bytes_of(const KeptWork& work);
 
-/// A note stands within so many bytes from the beginning of its file.
+/// A note is within so many bytes from the beginning of its file.
 inline constexpr std::size_t most_note_bytes = 16384;
 
 /// @param beginning  of the file, as much as a note may take

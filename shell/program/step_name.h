@@ -14,7 +14,7 @@ struct StepName {
   bool ends = false;  ///< what follows is another step, also with the same key
 };
 
-/// By the first operation of a script that repeats the event, and what its control holds behind it.
+/// By the first operation of a script that repeats the event, and what its control holds after it.
 [[nodiscard]] StepName step_of(const UserEvent& event, const Windows& windows);
 
 }  // namespace zol

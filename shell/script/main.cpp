@@ -5,13 +5,16 @@
 #include <cerrno>
 #include <csignal>
 #include <cstring>
+#include <filesystem>
 #include <fstream>
 #include <iostream>
 #include <optional>
 #include <string>
 
+#include "core/atomic_file.h"
 #include "shell/program/data_folders.h"
 #include "shell/program/program.h"
+#include "shell/script/name_pages.h"
 #include "shell/script/offscreen_pictures.h"
 #include "shell/script/script_driver.h"
 #include "shell/script/stop_signal.h"
@@ -22,15 +25,18 @@ namespace {
 enum ExitStatus { ended = 0, run_failed = 1, script_wrong = 2, question_unanswered = 3, died_of_signal = 128 };
 
 constexpr auto usage = R"(usage: zol-script [--data DIR] [SCRIPT]
+       zol-script [--data DIR] --names FOLDER
 
-Runs the program by the operations in SCRIPT, or on standard input, a line each.
+Runs the program by the operations in SCRIPT, or on standard input, one per line.
 
   --data DIR   DIR stands for the data root "ZOL"; crystals are in ZOLDATA beside it
+  --names FOLDER
+               writes pages with all names of windows, controls and fields
   --help       this text
   --version    the version of the program
 
 Exit status: 0 end of the script or of the program, 1 failure of the run, or a script or
-an output that breaks off, 2 an operation that can't be read or names no control, 3 a
+an output that breaks off, 2 an operation that cannot be read or names no control, 3 a
 dialog without a queued answer, 130 or 143 stopped by SIGINT or SIGTERM.
 docs/scripting.md lists the operations.
 )";
@@ -38,6 +44,7 @@ docs/scripting.md lists the operations.
 struct Arguments {
   std::optional<std::string> data;
   std::optional<std::string> script;
+  std::optional<std::string> names;  ///< folder for the pages of names
 };
 
 /// How the program ends, and what it says of it on standard error.
@@ -60,6 +67,8 @@ std::optional<Outcome> read_arguments(int argc, char** argv, Arguments& argument
     }
     if (word == "--data" && i + 1 < argc) {
       arguments.data = argv[++i];
+    } else if (word == "--names" && i + 1 < argc) {
+      arguments.names = argv[++i];
     } else if (word.starts_with("--data=")) {
       arguments.data = word.substr(std::strlen("--data="));
     } else if (word.starts_with("-") && word != "-") {
@@ -73,12 +82,21 @@ std::optional<Outcome> read_arguments(int argc, char** argv, Arguments& argument
   return std::nullopt;
 }
 
+void write_names(zol::Program& program, const std::string& folder) {
+  for (const auto& [name, text] : zol::name_pages(program)) {
+    zol::AtomicFile file((std::filesystem::path(folder) / name).string());
+    file.contain(text);
+    file.commit();
+  }
+}
+
 void run(const Arguments& arguments, std::istream& script) {
   const auto data = arguments.data ? zol::data_root_at(*arguments.data) : zol::find_data_root(zol::data_places());
   const auto pictures = zol::offscreen_pictures();
   zol::ScriptServices services(std::cout, pictures.get());
   zol::Program program(data, services);
   program.start();
+  if (arguments.names) return write_names(program, *arguments.names);
   zol::ScriptDriver(program, services, std::cout).run(script);
 }
 

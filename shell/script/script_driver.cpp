@@ -79,7 +79,7 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
        [](ScriptDriver& d, const Words& w) {
          for (std::size_t i = 1; i < w.size(); ++i) {
            if (const auto readable = readable_utf8(w[i]); readable != w[i])
-             fail_script("\"" + readable + "\" is no UTF-8");
+             fail_script("\"" + readable + "\" is not UTF-8");
            d.output_ << (i > 1 ? " " : "") << w[i];
          }
          d.output_ << '\n';
@@ -119,7 +119,7 @@ void ScriptDriver::run(std::istream& script) {
     }
   }
   if (script.bad()) {
-    throw RunFailure("can't read the script behind line " + std::to_string(line_) + ": " + std::strerror(errno));
+    throw RunFailure("can't read the script after line " + std::to_string(line_) + ": " + std::strerror(errno));
   }
 }
 

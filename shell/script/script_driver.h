@@ -1,6 +1,6 @@
 // Drives the program by a text of operations, one a line, instead of a mouse and a keyboard.
 //
-// The script and what it prints are UTF-8, the texts of the program Latin-1; names of files go through as they stand.
+// The script and what it prints are UTF-8, the texts of the program Latin-1; names of files go through as they are.
 #pragma once
 
 #include <iosfwd>

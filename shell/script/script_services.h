@@ -18,7 +18,7 @@ namespace zol {
 /// An operation that can't be read or names no control.
 class ScriptError : public std::exception {
  public:
-  /// @param line  where it stands when that is not the line that runs
+  /// @param line  where it is when that is not the line that runs
   explicit ScriptError(const std::string& message, int line = 0)
       : message_(line > 0 ? "line " + std::to_string(line) + ": " + message : message), line_(line) {}
   [[nodiscard]] const char* what() const noexcept override { return message_.c_str(); }
@@ -41,7 +41,7 @@ class UnansweredQuestion : public std::exception {
 
 class ScriptServices : public Services {
  public:
-  /// @param output    takes the line that stands for a message box
+  /// @param output    receives the line that represents a message box
   /// @param pictures  makes pixels; without it there are none
   explicit ScriptServices(std::ostream& output, PictureMaker* pictures = nullptr)
       : output_(output), pictures_(pictures) {}

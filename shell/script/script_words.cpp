@@ -91,7 +91,7 @@ double number(const std::string& word, const std::string& what) {
 std::pair<std::string, std::string> split_name(const std::string& name) {
   const std::size_t dot = name.find('.');
   if (dot == std::string::npos || dot == 0 || dot + 1 == name.size()) {
-    fail_script("\"" + name + "\" is no name of the form Window.Control");
+    fail_script("\"" + name + "\" is not a name of the form Window.Control");
   }
   return {name.substr(0, dot), name.substr(dot + 1)};
 }

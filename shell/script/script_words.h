@@ -1,4 +1,4 @@
-// The words of a script line and what they stand for. All texts are UTF-8.
+// The words of a script line and what they mean. All texts are UTF-8.
 #pragma once
 
 #include <string>
@@ -21,14 +21,14 @@ namespace zol {
 [[nodiscard]] std::string box_text(const std::string& word);
 
 /// @param what  the word's name in the message
-/// @throws ScriptError  the word is no number, or no whole one
+/// @throws ScriptError  the word is not a number, or not a whole one
 [[nodiscard]] int whole_number(const std::string& word, const std::string& what);
 [[nodiscard]] double number(const std::string& word, const std::string& what);
 
 /// "Window.Rest" as a pair. @throws ScriptError  a part is missing
 [[nodiscard]] std::pair<std::string, std::string> split_name(const std::string& name);
 
-/// "NAME(i,j)" as name and indices. @throws ScriptError  an open bracket or an index that is no whole number
+/// "NAME(i,j)" as name and indices. @throws ScriptError  an open bracket or an index that is not a whole number
 [[nodiscard]] std::pair<std::string, std::vector<int>> split_indices(const std::string& text);
 
 }  // namespace zol

@@ -92,7 +92,7 @@ class BitmapCheck {
     const std::int64_t rows = std::abs(header_.height);
     if (header_.width < 1 || rows < 1 || std::max(header_.width, rows) > most_picture_side ||
         header_.width * rows > std::int64_t{most_picture_pixels}) {
-      fail("its header tells " + std::to_string(header_.width) + " x " + std::to_string(header_.height) + " pixels; " +
+      fail("its header says " + std::to_string(header_.width) + " x " + std::to_string(header_.height) + " pixels; " +
            possible_picture_sizes);
     }
     const auto bits = header_.bits;
@@ -103,7 +103,7 @@ class BitmapCheck {
                        : compression == run_length_4 ? bits == 4
                                                      : compression == bit_fields && (bits == 16 || bits == 32);
     if (!known || header_.planes != 1) {
-      fail("its header tells " + std::to_string(bits) + " bits a pixel in " + std::to_string(header_.planes) +
+      fail("its header says " + std::to_string(bits) + " bits per pixel in " + std::to_string(header_.planes) +
            " planes with compression " + std::to_string(compression) +
            "; 1, 4, 8, 16, 24 or 32 bits in 1 plane are possible, plain, run-length encoded or with bit fields");
     }
@@ -143,7 +143,7 @@ class BitmapCheck {
     std::int64_t row = 0;
     std::int64_t pixel = 0;
     const auto stop = [&](const char* why) {
-      fail(std::string(why) + " behind pixel " + std::to_string(pixel) + " of " + std::to_string(header_.width) +
+      fail(std::string(why) + " after pixel " + std::to_string(pixel) + " of " + std::to_string(header_.width) +
            " in row " + std::to_string(row + 1) + " of " + std::to_string(rows));
     };
     while (row < rows - 1 || pixel < header_.width) {

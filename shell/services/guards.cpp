@@ -13,7 +13,7 @@ std::string first_of(std::initializer_list<std::string> reasons) {
 }
 
 std::string no_cell(const CrystalState& state) {
-  return when(state.CellVolume == 0, "there is no cell: the main window takes it");
+  return when(state.CellVolume == 0, "there is no cell: type one in the main window");
 }
 
 std::string no_reflections(const CrystalState& state, int least) {

@@ -64,7 +64,7 @@ Latin1 latin1_of_utf8(std::string_view text) {
   std::string result;
   for (std::size_t at = 0; at < text.size();) {
     const auto character = character_at(text, at);
-    if (!character) return {"", "\"" + readable_utf8(text) + "\" is no UTF-8"};
+    if (!character) return {"", "\"" + readable_utf8(text) + "\" is not UTF-8"};
     if (character->code > last) {
       return {"", "\"" + std::string(text.substr(at, character->length)) + "\" (U+" + hexadecimal(character->code) +
                       ") is outside Latin-1"};

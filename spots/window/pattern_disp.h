@@ -6,7 +6,7 @@
 namespace zol {
 
 /// Draws the spot pattern of the present crystal, zone axis and level in Pattern. With DisplayScale 0 the strongest
-/// spot becomes black; else the grey scale of the last picture stays.
+/// spot becomes black; otherwise the grey scale of the last picture stays.
 /// @throws RunFailure  zero zone axis, no intensity in any spot, indices beyond 16 bits
 void PatternDisp(Workbench& bench);
 

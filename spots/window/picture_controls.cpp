@@ -22,7 +22,7 @@ void ask_font_size(Workbench& bench, Canvas& picture) {
       {bracketed(present) + " input fontsize", "Font Size", "Points, above 0 and up to 2160; 8 is usual.",
        [](const std::string& typed) {
          const auto points = strict_number(typed);
-         return guard::when(!points || !(*points > 0 && *points <= largest_pt), "this is no size of a font");
+         return guard::when(!points || !(*points > 0 && *points <= largest_pt), "this is not a font size");
        }});
   const auto points = strict_number(answer);
   if (!points) throw RunFailure("the font size is \"" + answer + "\", must be a number of points");

@@ -5,7 +5,7 @@
 
 namespace zol {
 
-/// Font size of the labels in points. @throws RunFailure  the answer is no number, or cancelled
+/// Font size of the labels in points. @throws RunFailure  the answer is not a number, or cancelled
 void ask_font_size(Workbench& bench, Canvas& picture);
 
 /// Spot size in percent; an empty answer gives 0, for which the next drawing takes its default.

@@ -55,7 +55,7 @@ struct SpotsForm : Window {
   CheckBox Check3{*this, "Check3", "Index"};
   CommandButton Command1{*this, "Command1", "close"};
 
-  /// Guards all that draws, and tells what a drawing is made from.
+  /// Guards all that draws, and says what a drawing is made from.
   /// @param drawing  what draws besides the controls of both windows
   void declare(const Reason& reason, std::initializer_list<Control*> drawing, Origin origin) {
     warn({&Command8, &Command2, &Command3, &Command6, &Command9, &Command11, &Command7, &Command10, &Command12, &Text5},

@@ -17,7 +17,7 @@ void set_first_values(Workbench& bench, SpotsForm& form);
 // Menu items
 /// The ending is always added, so that a cancelled dialog writes ".bmp".
 void save_picture(SpotsForm& form);
-/// Draws the spot pattern anew, also from the other window: the size belongs to its spots.
+/// Draws the spot pattern again, also from the other window: the size belongs to its spots.
 void change_spot_size(Workbench& bench);
 void change_font_size(Workbench& bench, SpotsForm& form, Draw draw);
 void change_image_size(Workbench& bench, SpotsForm& form, Draw draw);

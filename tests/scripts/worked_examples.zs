@@ -141,3 +141,25 @@ choose Main1.Combo2 -cba
 show InputAtom
 click InputAtom.Command1
 print Main1.List1
+
+echo peaks of silicon in a part of the curve, and its list; {111} for MoKa, then for 0.7107 angstroms
+choose Main1.Combo1 CuKa
+answer data/ZOLDATA/Silicon.cry
+click Main1.DATA_LOAD
+set Main1.Text15 2.7
+click Main1.Command6
+print Main1.List2
+set Main1.Text15 1
+click Main1.Command6
+click Main1.Command7
+set Xd.Text1 87
+set Xd.Text2 89
+click Xd.Command1
+print Xd.List1
+set Main1.Text15 3
+choose Main1.Combo1 MoKa
+click Main1.Command6
+print Main1.List2
+set Main1.Text16 0.7107
+click Main1.Command6
+print Main1.List2

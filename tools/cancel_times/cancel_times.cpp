@@ -405,7 +405,7 @@ int main(int argc, char** argv) {
   std::mt19937 random(1);
   std::uniform_real_distribution<double> moment(0, 1000);
   std::cout
-      << "| Work | whole run (s) | estimate (s, MB) | gap (ms) | behind it (ms) | Esc to the end (ms) | and painted "
+      << "| Work | whole run (s) | estimate (s, MB) | gap (ms) | after it (ms) | Esc to the end (ms) | and painted "
          "(ms) | as before |\n|---|---|---|---|---|---|---|---|\n"
       << std::flush;
   for (const Kind& kind : kinds()) {

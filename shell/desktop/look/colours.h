@@ -1,4 +1,4 @@
-// The colours of the windows, light and dark: the one place that tells them. Palette, style sheet and the ink of icons
+// The colours of the windows, light and dark, defined only here. Palette, style sheet and the ink of icons
 // are made from this table.
 //
 // Text on any ground has a contrast of at least 4.5 and a shape of at least 3.0 (WCAG 2.1, 1.4.3 and 1.4.11), which

@@ -1,6 +1,7 @@
 #include "shell/desktop/look/look.h"
 
 #include <array>
+#include <memory>
 
 #include <QActionGroup>
 #include <QApplication>
@@ -12,6 +13,7 @@
 #include <QStyleFactory>
 
 #include "shell/desktop/language/language.h"
+#include "shell/desktop/look/desktop_shade.h"
 #include "shell/desktop/look/look_style.h"
 #include "shell/desktop/look/picture_alone.h"
 
@@ -37,6 +39,11 @@ const QPalette& given_palette() {
   return given;
 }
 
+std::unique_ptr<DesktopShade>& followed() {
+  static std::unique_ptr<DesktopShade> shade;
+  return shade;
+}
+
 Look& in_use() {
   static Look look = Look::Plain;
   return look;
@@ -59,9 +66,18 @@ Look kept_look() {
 
 Look look_in_use() { return in_use(); }
 
+void follow_desktop() {
+  followed() = std::make_unique<DesktopShade>([] {
+    if (look_in_use() == Look::AsDesktop) use_look(Look::AsDesktop);
+  });
+  // It must go before the bus does.
+  QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [] { followed().reset(); });
+}
+
 Shade shade_of(Look look) {
   if (look == Look::Light) return Shade::Light;
   if (look == Look::Dark) return Shade::Dark;
+  if (followed() && followed()->shade()) return *followed()->shade();
   const QPalette& given = given_palette();
   const bool dark = given.color(QPalette::Window).lightness() < given.color(QPalette::WindowText).lightness();
   return dark ? Shade::Dark : Shade::Light;

@@ -21,7 +21,10 @@ enum class Look { AsDesktop, Light, Dark, Plain };
 /// Shows all windows so. Nothing of it goes into pictures, files or exports.
 void use_look(Look look);
 [[nodiscard]] Look look_in_use();
-/// The shade that a look has now; the desktop's is told by the palette that the program was given at its start.
+/// From now on "as the desktop" changes with the desktop, where that says what it is.
+void follow_desktop();
+/// The shade that a look has now. The desktop's is what its settings portal says, otherwise that of the palette that
+/// the program was given at its start.
 [[nodiscard]] Shade shade_of(Look look);
 
 /// The style sheet of what the style does not draw, with the colours put in.
@@ -29,7 +32,7 @@ void use_look(Look look);
 
 /// The menu "View" of a window, made when there is none.
 [[nodiscard]] QMenu& view_menu(QMainWindow& window);
-/// The choice of the look and, where there is a picture, F9 for the picture alone.
+/// The choice of the look and, where there is a picture, F9 for only the picture.
 void offer_view(QMainWindow& window);
 
 /// What the layout declares by properties and a designer does not know: widths by digits (`digits`), icons (`ink`),

@@ -1,6 +1,6 @@
 // How controls are drawn: a style of our own on Qt's Fusion. Sizes in pixels at scale 1, on a grid of 4.
 //
-// What a control is for stands in its layout as the property `look`: a button is "primary" (computes; one a window),
+// What a control is for is in its layout as the property `look`: a button is "primary" (computes; one a window),
 // "quiet" (a link), "go" (opens a window, its text at the left) or "step" (narrow); a group is "plain" without a title.
 #pragma once
 

@@ -1,4 +1,4 @@
-// F9 in a window with a picture: the picture alone, and back.
+// F9 in a window with a picture: only the picture, and back.
 #pragma once
 
 class QMainWindow;

@@ -36,7 +36,7 @@
         <translation>Bänder</translation>
     </message>
     <message>
-        <source>bands that are looked for, 3 to 30; the strongest of the picture</source>
+        <source>bands to be looked for, 3 to 30; the strongest of the picture</source>
         <translation>Bänder, die gesucht werden, 3 bis 30; die stärksten des Bildes</translation>
     </message>
     <message>
@@ -60,7 +60,7 @@
         <translation>Rundes Bild</translation>
     </message>
     <message>
-        <source>the pattern fills a circle; what lies outside is left alone</source>
+        <source>the pattern fills a circle; what lies outside is left out</source>
         <translation>das Beugungsbild füllt einen Kreis; was außerhalb liegt, bleibt unbeachtet</translation>
     </message>
     <message>
@@ -140,7 +140,7 @@
         <translation>Darüber</translation>
     </message>
     <message>
-        <source>one over the other; the slider tells how much of each</source>
+        <source>one over the other; the slider sets the share of each</source>
         <translation>eines über dem anderen; der Schieber sagt, wie viel von jedem</translation>
     </message>
     <message>
@@ -180,7 +180,7 @@
         <translation>Andere Kristalle zum Versuch</translation>
     </message>
     <message>
-        <source>crystal files tried beside the present crystal; the ranking tells which fits</source>
+        <source>crystal files tried beside the present crystal; the ranking shows which fits</source>
         <translation>Kristalldateien, die neben dem jetzigen Kristall versucht werden; die Rangfolge sagt, welcher passt</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@
         <translation>Entfernen</translation>
     </message>
     <message>
-        <source>takes the picked crystal off the list</source>
+        <source>removes the picked crystal from the list</source>
         <translation>nimmt den gewählten Kristall von der Liste</translation>
     </message>
     <message>
@@ -212,8 +212,8 @@
         <translation>Zentrum aus Zahlen...</translation>
     </message>
     <message>
-        <source>takes the pattern centre as the software of a detector tells it into the boxes of PATTERN3</source>
-        <translation>übernimmt das Zentrum, wie es die Software eines Detektors angibt, in die Felder von PATTERN3</translation>
+        <source>converts the pattern centre of the detector software to the boxes of PATTERN3</source>
+        <translation>rechnet das Zentrum der Detektorsoftware in die Felder von PATTERN3 um</translation>
     </message>
     <message>
         <source>Save picture...</source>
@@ -356,7 +356,7 @@
         <translation>I höher</translation>
     </message>
     <message>
-        <source>halves the value at full height and brightness, and calculates anew</source>
+        <source>halves the value at full height and brightness, and calculates again</source>
         <translation>halbiert den Wert bei voller Höhe und Helligkeit und rechnet neu</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>I tiefer</translation>
     </message>
     <message>
-        <source>doubles the value at full height and brightness, and calculates anew</source>
+        <source>doubles the value at full height and brightness, and calculates again</source>
         <translation>verdoppelt den Wert bei voller Höhe und Helligkeit und rechnet neu</translation>
     </message>
     <message>
@@ -376,7 +376,7 @@
         <translation>RECHNEN</translation>
     </message>
     <message>
-        <source>calculates profile and rings from the reflection list as it stands</source>
+        <source>calculates profile and rings from the present reflection list</source>
         <translation>berechnet Profil und Ringe aus der Reflexliste, wie sie dasteht</translation>
     </message>
     <message>
@@ -420,7 +420,7 @@
         <translation>Wurzel( I )</translation>
     </message>
     <message>
-        <source>square roots of the intensities, to bring up weak rings; acts at the next CALC</source>
+        <source>square roots of the intensities, which show weak rings better; acts at the next CALC</source>
         <translation>Quadratwurzeln der Intensitäten, um schwache Ringe zu heben; gilt bei der nächsten Rechnung</translation>
     </message>
     <message>
@@ -428,7 +428,7 @@
         <translation>Ursprung in der Mitte</translation>
     </message>
     <message>
-        <source>the beam in the middle of the picture, else in the lower left corner, with its red point just outside the picture; acts at the next CALC</source>
+        <source>the beam in the middle of the picture, otherwise in the lower left corner, with its red point just outside the picture; acts at the next CALC</source>
         <translation>der Strahl in der Bildmitte, sonst in der unteren linken Ecke mit seinem roten Punkt knapp außerhalb des Bildes; gilt bei der nächsten Rechnung</translation>
     </message>
     <message>
@@ -436,7 +436,7 @@
         <translation>Farben umkehren</translation>
     </message>
     <message>
-        <source>dark rings on white, else bright rings on black; acts at the next CALC</source>
+        <source>dark rings on white, otherwise bright rings on black; acts at the next CALC</source>
         <translation>dunkle Ringe auf Weiß, sonst helle Ringe auf Schwarz; gilt bei der nächsten Rechnung</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Größe der Reflexe</translation>
     </message>
     <message>
-        <source>size of the spots in percent; draws the spot pattern anew</source>
+        <source>size of the spots in per cent; draws the spot pattern again</source>
         <translation>Größe der Reflexe in Prozent; zeichnet das Punktdiagramm neu</translation>
     </message>
     <message>
@@ -588,7 +588,7 @@
         <translation>Atomkoordinaten</translation>
     </message>
     <message>
-        <source>type a value, Enter takes it and walks on; F2 or a double click changes the text of a cell; rows can be pasted; right button: more; site name, element as in the table of scattering factors, occupancy, fractional coordinates, B in square angstroms; the first empty site name ends the table</source>
+        <source>type a value, Enter accepts it and moves on; F2 or a double click changes the text of a cell; rows can be pasted; right button: more; site name, element as in the table of scattering factors, occupancy, fractional coordinates, B in square angstroms; the first empty site name ends the table</source>
         <translation>einen Wert tippen, Enter nimmt ihn und geht weiter; F2 oder Doppelklick ändert den Text einer Zelle; Zeilen lassen sich einfügen; rechte Taste: mehr; Name des Platzes, Element wie in der Tabelle der Streufaktoren, Besetzung, relative Koordinaten, B in Quadratångström; der erste leere Name beendet die Tabelle</translation>
     </message>
     <message>
@@ -624,7 +624,7 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>take the table over into the crystal</source>
+        <source>accept the table for the crystal</source>
         <translation>übernimmt die Tabelle in den Kristall</translation>
     </message>
     <message>
@@ -644,7 +644,7 @@
         <translation>JCPDS-Eingabe</translation>
     </message>
     <message>
-        <source>type a value, Enter takes it and walks on; F2 or a double click changes the text of a cell; rows can be pasted; right button: more; relative intensity, then the indices h, k, l; the first empty intensity ends the table</source>
+        <source>type a value, Enter accepts it and moves on; F2 or a double click changes the text of a cell; rows can be pasted; right button: more; relative intensity, then the indices h, k, l; the first empty intensity ends the table</source>
         <translation>einen Wert tippen, Enter nimmt ihn und geht weiter; F2 oder Doppelklick ändert den Text einer Zelle; Zeilen lassen sich einfügen; rechte Taste: mehr; relative Intensität, dann die Indizes h, k, l; die erste leere Intensität beendet die Tabelle</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Raumgruppe</translation>
     </message>
     <message>
-        <source>number of the space group, 1 to 230; 231 to 250 are further settings; its file is read at each key</source>
+        <source>space group number, 1 to 230; 231 to 250 are further settings; its file is read at each key</source>
         <translation>Nummer der Raumgruppe, 1 bis 230; 231 bis 250 sind weitere Aufstellungen; ihre Datei wird bei jeder Taste gelesen</translation>
     </message>
     <message>
@@ -724,7 +724,7 @@
         <translation>Achsen</translation>
     </message>
     <message>
-        <source>turns the operators of the space group to another choice of axes</source>
+        <source>changes the operators of the space group to another choice of axes</source>
         <translation>dreht die Operatoren der Raumgruppe auf eine andere Wahl der Achsen</translation>
     </message>
     <message>
@@ -732,7 +732,7 @@
         <translation>Alle Gruppen</translation>
     </message>
     <message>
-        <source>all space groups; a click takes one</source>
+        <source>all space groups; a click chooses one</source>
         <translation>alle Raumgruppen; ein Klick nimmt eine</translation>
     </message>
     <message>
@@ -776,7 +776,7 @@
         <translation>Wellenlänge (A)</translation>
     </message>
     <message>
-        <source>wavelength in angstroms; may be overtyped</source>
+        <source>wavelength in angstroms; you may type another one</source>
         <translation>Wellenlänge in Ångström; darf überschrieben werden</translation>
     </message>
     <message>
@@ -1012,11 +1012,11 @@
         <translation>AUSWERTUNG VON KIKUCHI-BILDERN</translation>
     </message>
     <message>
-        <source>press at one end of a line, drag to the other; once all lines stand, the nearest end follows</source>
+        <source>press at one end of a line, drag to the other; once all lines are drawn, the nearest end moves</source>
         <translation>an einem Ende einer Linie drücken, zum anderen ziehen; stehen alle Linien, folgt das nächste Ende</translation>
     </message>
     <message>
-        <source>take all lines away</source>
+        <source>remove all lines</source>
         <translation>nimmt alle Linien weg</translation>
     </message>
     <message>
@@ -1040,7 +1040,7 @@
         <translation>KORREKTOR</translation>
     </message>
     <message>
-        <source>shift the rows of the picture as the corrector file tells</source>
+        <source>shift the rows of the picture by the numbers in the corrector file</source>
         <translation>verschiebt die Zeilen des Bildes, wie die Korrekturdatei sagt</translation>
     </message>
     <message>
@@ -1108,7 +1108,7 @@
         <translation>gleichwertige Richtung weglassen</translation>
     </message>
     <message>
-        <source>of solutions whose planes have the same spacings and intensities list the first alone</source>
+        <source>of solutions whose planes have the same spacings and intensities list only the first</source>
         <translation>von Lösungen, deren Ebenen gleiche Abstände und Intensitäten haben, nur die erste aufführen</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>Bandbreite beachten (6 Linien nötig)</translation>
     </message>
     <message>
-        <source>pick both edges of each band and compare the widths too; takes all lines away</source>
+        <source>pick both edges of each band and compare the widths too; removes all lines</source>
         <translation>beide Kanten jedes Bandes setzen und auch die Breiten vergleichen; nimmt alle Linien weg</translation>
     </message>
     <message>
@@ -1124,7 +1124,7 @@
         <translation>Breitentoleranz (%)</translation>
     </message>
     <message>
-        <source>largest deviation of a band width, percent</source>
+        <source>largest deviation of a band width, per cent</source>
         <translation>größte Abweichung einer Bandbreite, Prozent</translation>
     </message>
     <message>
@@ -1140,7 +1140,7 @@
         <translation>Detektorposition (mm)</translation>
     </message>
     <message>
-        <source>distance of the detector from the source, mm; Enter takes it</source>
+        <source>distance of the detector from the source, mm; Enter accepts it</source>
         <translation>Abstand des Detektors von der Quelle, mm; Enter übernimmt ihn</translation>
     </message>
     <message>
@@ -1156,7 +1156,7 @@
         <translation>X-Verschiebung (mm)</translation>
     </message>
     <message>
-        <source>offset of the pattern centre to the right, mm on the detector; Enter takes it</source>
+        <source>offset of the pattern centre to the right, mm on the detector; Enter accepts it</source>
         <translation>Versatz des Zentrums nach rechts, mm auf dem Detektor; Enter übernimmt ihn</translation>
     </message>
     <message>
@@ -1172,7 +1172,7 @@
         <translation>Y-Verschiebung (mm)</translation>
     </message>
     <message>
-        <source>offset of the pattern centre downward, mm on the detector; Enter takes it</source>
+        <source>offset of the pattern centre downward, mm on the detector; Enter accepts it</source>
         <translation>Versatz des Zentrums nach unten, mm auf dem Detektor; Enter übernimmt ihn</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>Nr   h   k   l   h   k   l   h   k   l      u      v      w  d12  d23  d31</translation>
     </message>
     <message>
-        <source>solutions: indices of the three bands, direction towards the screen, deviations of the angles in degrees, of the widths in percent; a click shows it in the simulation</source>
+        <source>solutions: indices of the three bands, direction towards the screen, deviations of the angles in degrees, of the widths in per cent; a click shows it in the simulation</source>
         <translation>Lösungen: Indizes der drei Bänder, Richtung zum Schirm, Abweichungen der Winkel in Grad, der Breiten in Prozent; ein Klick zeigt sie in der Simulation</translation>
     </message>
     <message>
@@ -1336,7 +1336,7 @@
         <translation>Kameraparameter_setzen</translation>
     </message>
     <message>
-        <source>take a picture (BMP, PNG, JPEG, TIFF) as the measured pattern</source>
+        <source>load a picture (BMP, PNG, JPEG, TIFF) as the measured pattern</source>
         <translation>nimmt ein Bild (BMP, PNG, JPEG, TIFF) als gemessenes Beugungsbild</translation>
     </message>
     <message>
@@ -1348,7 +1348,7 @@
         <translation>LÖSCHEN</translation>
     </message>
     <message>
-        <source>take the picture away</source>
+        <source>remove the picture</source>
         <translation>nimmt das Bild weg</translation>
     </message>
     <message>
@@ -1372,7 +1372,7 @@
         <translation>Vergleichsmethode</translation>
     </message>
     <message>
-        <source>0: angles and sense of rotation must fit; 1: angles alone</source>
+        <source>0: angles and sense of rotation must fit; 1: only angles</source>
         <translation>0: Winkel und Drehsinn müssen passen; 1: nur die Winkel</translation>
     </message>
     <message>
@@ -1452,11 +1452,11 @@
         <translation>Grauwerte</translation>
     </message>
     <message>
-        <source>darkness goes with the intensity</source>
+        <source>darkness follows the intensity</source>
         <translation>die Schwärze geht mit der Intensität</translation>
     </message>
     <message>
-        <source>darkness goes with the square root of the intensity, which brings out weak spots</source>
+        <source>darkness follows the square root of the intensity, which shows weak spots better</source>
         <translation>die Schwärze geht mit der Wurzel der Intensität, was schwache Reflexe hebt</translation>
     </message>
     <message>
@@ -1468,7 +1468,7 @@
         <translation>eine andere Potenz der Intensität</translation>
     </message>
     <message>
-        <source>darkness goes with the intensity to this power; empty: as chosen above</source>
+        <source>darkness follows the intensity to this power; empty: as chosen above</source>
         <translation>die Schwärze geht mit dieser Potenz der Intensität; leer: wie oben gewählt</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Größe der Reflexe</translation>
     </message>
     <message>
-        <source>radius of the direct beam in percent of half the picture; a spot has half of it</source>
+        <source>radius of the direct beam in per cent of half the picture; a spot has half of it</source>
         <translation>Radius des direkten Strahls in Prozent des halben Bildes; ein Reflex hat die Hälfte davon</translation>
     </message>
     <message>
@@ -1512,8 +1512,8 @@
         <translation>KIKUCHI-BILD</translation>
     </message>
     <message>
-        <source>a click finds the axis there, a double click takes it over</source>
-        <translation>ein Klick findet dort die Achse, ein Doppelklick übernimmt sie</translation>
+        <source>a click finds the axis there, a double click draws its pattern</source>
+        <translation>ein Klick findet dort die Achse, ein Doppelklick zeichnet ihr Bild</translation>
     </message>
     <message>
         <source>draw the pattern of this axis</source>
@@ -1528,15 +1528,15 @@
         <translation>Übernehmen</translation>
     </message>
     <message>
-        <source>take the axis that was found into the pattern</source>
-        <translation>übernimmt die gefundene Achse in das Bild</translation>
+        <source>draw the pattern of the axis that was found</source>
+        <translation>zeichnet das Bild der gefundenen Achse</translation>
     </message>
     <message>
         <source>turn</source>
         <translation>Drehung</translation>
     </message>
     <message>
-        <source>turn of the pattern at the next transfer, degrees</source>
+        <source>rotation of the pattern at the next transfer, degrees</source>
         <translation>Drehung des Bildes bei der nächsten Übernahme, Grad</translation>
     </message>
     <message>
@@ -1660,7 +1660,7 @@
         <translation>Grauwerte der Linien</translation>
     </message>
     <message>
-        <source>exponent of the grey scale; wins over I and Sqr( I ) when not empty</source>
+        <source>exponent of the grey scale; used in place of I and Sqr( I ) when not empty</source>
         <translation>Exponent der Grauwerte; gilt vor I und Wurzel( I ), wenn nicht leer</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Inverse Matrix</translation>
     </message>
     <message>
-        <source>the inverse matrix stands on the right</source>
+        <source>the inverse matrix is on the right</source>
         <translation>die inverse Matrix steht rechts</translation>
     </message>
     <message>
@@ -1972,7 +1972,7 @@
         <translation>verdoppelt die Höhe der Kurve: der Wert bei voller Höhe wird halbiert</translation>
     </message>
     <message>
-        <source>intensity that is drawn at full height; Enter takes a new one over</source>
+        <source>intensity that is drawn at full height; Enter accepts a new one</source>
         <translation>Intensität, die mit voller Höhe gezeichnet wird; Enter übernimmt eine neue</translation>
     </message>
     <message>
@@ -1984,7 +1984,7 @@
         <translation>Maxima von mindestens 1 % des höchsten: 2-theta in Grad, d in Ångström, Höhe in Prozent</translation>
     </message>
     <message>
-        <source>calculates the pattern from the reflection list as it stands and draws it over the old one</source>
+        <source>calculates the pattern from the present reflection list and draws it over the old one</source>
         <translation>berechnet das Diagramm aus der Reflexliste, wie sie dasteht, und zeichnet es über das alte</translation>
     </message>
     <message>
@@ -2228,7 +2228,7 @@
         <translation>Komponente %1 der gefundenen Achse</translation>
     </message>
     <message>
-        <source>index %1 of the plane normal to that axis, percent of the sum</source>
+        <source>index %1 of the plane normal to that axis, per cent of the sum</source>
         <translation>Index %1 der Ebene senkrecht zu dieser Achse, Prozent der Summe</translation>
     </message>
     <message>
@@ -2312,8 +2312,8 @@
         <translation>%L1. Trotzdem tun?</translation>
     </message>
     <message>
-        <source>The program ends here. Files are as they were saved last. Start it again with this mended; "Known behaviour" in the user guide tells more.</source>
-        <translation>Das Programm endet hier. Die Dateien sind, wie sie zuletzt gespeichert wurden. Starten Sie es neu, wenn dies behoben ist; „Known behaviour“ im Handbuch sagt mehr.</translation>
+        <source>The program ends here. Files are as they were saved last. Correct this and start it again; see "Known behaviour" in the user guide.</source>
+        <translation>Das Programm endet hier. Die Dateien sind, wie sie zuletzt gespeichert wurden. Beheben Sie dies und starten Sie es neu; siehe „Known behaviour“ im Handbuch.</translation>
     </message>
     <message>
         <source>Your work as it was before is kept: the next start offers it.</source>
@@ -2708,8 +2708,8 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Neu zeichnen</translation>
     </message>
     <message>
-        <source>Makes it anew with what holds now</source>
-        <translation>Macht es neu mit dem, was jetzt gilt</translation>
+        <source>Makes it again for the present crystal and settings</source>
+        <translation>Macht es neu für den jetzigen Kristall und die jetzigen Einstellungen</translation>
     </message>
     <message>
         <source>Measure: click two places, or drag from one to the other; Esc ends it</source>
@@ -2984,8 +2984,8 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>das Programm ist fehlerhaft, es sagt nicht wie</translation>
     </message>
     <message>
-        <source>there is no cell: the main window takes it</source>
-        <translation>es gibt keine Zelle: das Hauptfenster nimmt sie</translation>
+        <source>there is no cell: type one in the main window</source>
+        <translation>es gibt keine Zelle: eine im Hauptfenster eingeben</translation>
     </message>
     <message>
         <source>the list of reflections is empty: "Calc" of the main window makes it</source>
@@ -3248,7 +3248,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>ihre Prüfsumme ist eine andere</translation>
     </message>
     <message>
-        <source>it is no file of kept work</source>
+        <source>it is not a file of kept work</source>
         <translation>es ist keine Datei aufbewahrter Arbeit</translation>
     </message>
     <message>
@@ -3588,7 +3588,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>%1 und %2 sind %3 Å voneinander entfernt, näher als jede Bindung</translation>
     </message>
     <message>
-        <source>P 1 has no symmetry operators: the sites alone fill the cell</source>
+        <source>P 1 has no symmetry operators: only the sites fill the cell</source>
         <translation>P 1 hat keine Symmetrieoperatoren: allein die Plätze füllen die Zelle</translation>
     </message>
     <message>
@@ -3720,11 +3720,11 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>das Hall-Symbol „%1“: %L2</translation>
     </message>
     <message>
-        <source>it is no sum of x, y, z and numbers</source>
+        <source>it is not a sum of x, y, z and numbers</source>
         <translation>er ist keine Summe aus x, y, z und Zahlen</translation>
     </message>
     <message>
-        <source>it is no whole number of 24ths</source>
+        <source>it is not a whole number of 24ths</source>
         <translation>es ist keine ganze Zahl von 24steln</translation>
     </message>
     <message>
@@ -3736,7 +3736,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Die Datei nennt ihre Elemente nicht. Welche sind ihre %1, in ihrer Reihenfolge (wie Na Cl)?</translation>
     </message>
     <message>
-        <source>the file tells no symmetry and no displacement parameters; B = 0.5 square angstroms is taken</source>
+        <source>the file gives no symmetry and no displacement parameters; B = 0.5 square angstroms is taken</source>
         <translation>die Datei nennt keine Symmetrie und keine Auslenkungsparameter; B = 0.5 Quadratångström wird genommen</translation>
     </message>
     <message>
@@ -3768,7 +3768,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>es gibt %1 Atomzahlen und %2 Elemente</translation>
     </message>
     <message>
-        <source>"%1" is no element</source>
+        <source>"%1" is not an element</source>
         <translation>„%1“ ist kein Element</translation>
     </message>
     <message>
@@ -3912,11 +3912,11 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>%L1; es wird ausgelassen</translation>
     </message>
     <message>
-        <source>the symmetry operators are no group; those of %1 are taken</source>
+        <source>the symmetry operators do not form a group; those of %1 are taken</source>
         <translation>die Symmetrieoperatoren sind keine Gruppe; die von %1 werden genommen</translation>
     </message>
     <message>
-        <source>the symmetry operators are no group and are left out</source>
+        <source>the symmetry operators do not form a group and are left out</source>
         <translation>die Symmetrieoperatoren sind keine Gruppe und werden ausgelassen</translation>
     </message>
     <message>
@@ -3924,7 +3924,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>als Antwort wird 1 oder 2 erwartet, nicht „%1“</translation>
     </message>
     <message>
-        <source>the file tells no symmetry; the atoms are taken as they are listed</source>
+        <source>the file gives no symmetry; the atoms are taken as they are listed</source>
         <translation>die Datei nennt keine Symmetrie; die Atome werden genommen, wie sie dastehen</translation>
     </message>
     <message>
@@ -4268,7 +4268,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>K-alpha 1 und K-alpha 2</translation>
     </message>
     <message>
-        <source>there is no measured pattern: "Add measured pattern..." takes one</source>
+        <source>there is no measured pattern: "Add measured pattern..." reads one</source>
         <translation>es gibt kein gemessenes Diagramm: „Gemessenes Diagramm hinzufügen...“ nimmt eines</translation>
     </message>
     <message>
@@ -4396,7 +4396,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>eine Fasertextur braucht zwei oder mehr Reflexe, die Liste hat %1</translation>
     </message>
     <message>
-        <source>overflow: %1 is %2, its power %3 is no number</source>
+        <source>overflow: %1 is %2, its power %3 is not a number</source>
         <translation>Überlauf: %L1 ist %2, die Potenz %3 davon ist keine Zahl</translation>
     </message>
     <message>
@@ -4660,7 +4660,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>die Öffnung ist 0 Grad</translation>
     </message>
     <message>
-        <source>there is no solution of the number that is adjusted for</source>
+        <source>there is no solution of this number to adjust</source>
         <translation>es gibt keine Lösung mit der Nummer, für die eingestellt wird</translation>
     </message>
     <message>
@@ -4676,11 +4676,11 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>die Marken der zwei Pole sind nicht gesetzt oder auf gleicher Höhe</translation>
     </message>
     <message>
-        <source>the line of the number is no solution</source>
-        <translation>die Zeile der Nummer ist keine Lösung</translation>
+        <source>this line is the number of solutions, not a solution</source>
+        <translation>diese Zeile ist die Zahl der Lösungen, keine Lösung</translation>
     </message>
     <message>
-        <source>a click without a drag lays the line to the corner</source>
+        <source>a click without a drag draws the line to the corner</source>
         <translation>ein Klick ohne Ziehen legt die Linie zur Ecke</translation>
     </message>
     <message>
@@ -4768,15 +4768,15 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>erwartet werden ein Hersteller und seine Zahlen, wie „bruker 0.5 0.25 0.6“ oder „emsoft 10 -20 15000 70“ mit der Pixelgröße in Mikrometern</translation>
     </message>
     <message>
-        <source>"%1" is no pattern centre: %2</source>
+        <source>"%1" is not a pattern centre: %2</source>
         <translation>„%1“ ist kein Zentrum: %L2</translation>
     </message>
     <message>
-        <source>"%1" is no number: %2</source>
+        <source>"%1" is not a number: %2</source>
         <translation>„%1“ ist keine Zahl: %L2</translation>
     </message>
     <message>
-        <source>the specimen would stand %1 widths from the screen; expected are 0.05 to 20</source>
+        <source>the specimen would be %1 widths from the screen; expected are 0.05 to 20</source>
         <translation>die Probe stünde %1 Breiten vom Schirm; erwartet werden 0.05 bis 20</translation>
     </message>
     <message>
@@ -4784,7 +4784,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>das Zentrum läge %1, %2 Breiten von der oberen linken Ecke; erwartet werden weniger als 3</translation>
     </message>
     <message>
-        <source>Pattern centre as the detector's software tells it: bruker, edax, oxford or emsoft and its three numbers</source>
+        <source>Pattern centre of the detector software: bruker, edax, oxford or emsoft and its three numbers</source>
         <translation>Zentrum, wie die Software des Detektors es angibt: bruker, edax, oxford oder emsoft und seine drei Zahlen</translation>
     </message>
     <message>
@@ -4892,7 +4892,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>kubisch</translation>
     </message>
     <message>
-        <source>the position of the site "%1" is no finite number</source>
+        <source>the position of the site "%1" is not a finite number</source>
         <translation>die Lage des Platzes „%1“ ist keine endliche Zahl</translation>
     </message>
     <message>
@@ -4900,11 +4900,11 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>das Produkt zweier Symmetrieoperatoren hat keine genaue Form</translation>
     </message>
     <message>
-        <source>its first letter is no lattice</source>
+        <source>its first letter is not a lattice</source>
         <translation>sein erster Buchstabe ist kein Gitter</translation>
     </message>
     <message>
-        <source>"%1" is no translation</source>
+        <source>"%1" is not a translation</source>
         <translation>„%1“ ist keine Translation</translation>
     </message>
     <message>
@@ -4924,7 +4924,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Bilder von %1 liegen näher als %2 Ångström; nach den Besetzungen ist es ein aufgespaltener Platz, sie bleiben getrennt</translation>
     </message>
     <message>
-        <source>the %1 symmetry operators are no group; the %2 that they make are taken</source>
+        <source>the %1 symmetry operators do not form a group; the %2 that they make are taken</source>
         <translation>die %1 Symmetrieoperatoren sind keine Gruppe; die %2, die sie erzeugen, werden genommen</translation>
     </message>
     <message>
@@ -5020,7 +5020,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>ihr Kopf soll %1 Bytes haben; bekannt sind 12, 40, 64, 108 und 124</translation>
     </message>
     <message>
-        <source>its header tells %1 x %2 pixels; %3</source>
+        <source>its header says %1 x %2 pixels; %3</source>
         <translation>ihr Kopf nennt %1 x %2 Pixel; %L3</translation>
     </message>
     <message>
@@ -5028,7 +5028,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>eine Seite hat 1 bis 32767, und 8192 x 8192 insgesamt sind möglich</translation>
     </message>
     <message>
-        <source>its header tells %1 bits a pixel in %2 planes with compression %3; 1, 4, 8, 16, 24 or 32 bits in 1 plane are possible, plain, run-length encoded or with bit fields</source>
+        <source>its header says %1 bits per pixel in %2 planes with compression %3; 1, 4, 8, 16, 24 or 32 bits in 1 plane are possible, plain, run-length encoded or with bit fields</source>
         <translation>ihr Kopf nennt %1 Bits je Pixel in %2 Ebenen mit Kompression %3; möglich sind 1, 4, 8, 16, 24 oder 32 Bits in 1 Ebene, schlicht, lauflängenkodiert oder mit Bitfeldern</translation>
     </message>
     <message>
@@ -5040,7 +5040,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>sie ist abgeschnitten: %1 Zeilen zu %2 Bytes brauchen %3, da sind %4, für %5 Zeilen</translation>
     </message>
     <message>
-        <source>%1 behind pixel %2 of %3 in row %4 of %5</source>
+        <source>%1 after pixel %2 of %3 in row %4 of %5</source>
         <translation>%L1 hinter Pixel %2 von %3 in Zeile %4 von %5</translation>
     </message>
     <message>
@@ -5122,6 +5122,10 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
     <message>
         <source>Qt's plug-in for it is missing (in Debian's package qt6-image-formats-plugins)</source>
         <translation>das Plug-in von Qt dafür fehlt (im Debian-Paket qt6-image-formats-plugins)</translation>
+    </message>
+    <message>
+        <source>Dark halo behind coloured lines</source>
+        <translation>Dunkler Saum hinter farbigen Linien</translation>
     </message>
 </context>
 </TS>

@@ -36,7 +36,7 @@
         <translation>Bandes</translation>
     </message>
     <message>
-        <source>bands that are looked for, 3 to 30; the strongest of the picture</source>
+        <source>bands to be looked for, 3 to 30; the strongest of the picture</source>
         <translation>bandes cherchées, 3 à 30 ; les plus fortes de l'image</translation>
     </message>
     <message>
@@ -60,7 +60,7 @@
         <translation>Image ronde</translation>
     </message>
     <message>
-        <source>the pattern fills a circle; what lies outside is left alone</source>
+        <source>the pattern fills a circle; what lies outside is left out</source>
         <translation>le cliché remplit un cercle ; ce qui est dehors est ignoré</translation>
     </message>
     <message>
@@ -140,7 +140,7 @@
         <translation>Dessus</translation>
     </message>
     <message>
-        <source>one over the other; the slider tells how much of each</source>
+        <source>one over the other; the slider sets the share of each</source>
         <translation>l'une sur l'autre ; le curseur dit combien de chacune</translation>
     </message>
     <message>
@@ -180,7 +180,7 @@
         <translation>Autres cristaux à essayer</translation>
     </message>
     <message>
-        <source>crystal files tried beside the present crystal; the ranking tells which fits</source>
+        <source>crystal files tried beside the present crystal; the ranking shows which fits</source>
         <translation>fichiers de cristaux essayés outre le cristal présent ; le classement dit lequel convient</translation>
     </message>
     <message>
@@ -196,7 +196,7 @@
         <translation>Retirer</translation>
     </message>
     <message>
-        <source>takes the picked crystal off the list</source>
+        <source>removes the picked crystal from the list</source>
         <translation>retire de la liste le cristal choisi</translation>
     </message>
     <message>
@@ -212,8 +212,8 @@
         <translation>Centre par des nombres...</translation>
     </message>
     <message>
-        <source>takes the pattern centre as the software of a detector tells it into the boxes of PATTERN3</source>
-        <translation>reprend le centre du cliché, tel que le logiciel d'un détecteur le donne, dans les champs de PATTERN3</translation>
+        <source>converts the pattern centre of the detector software to the boxes of PATTERN3</source>
+        <translation>convertit le centre donné par le logiciel du détecteur dans les champs de PATTERN3</translation>
     </message>
     <message>
         <source>Save picture...</source>
@@ -356,7 +356,7 @@
         <translation>I plus</translation>
     </message>
     <message>
-        <source>halves the value at full height and brightness, and calculates anew</source>
+        <source>halves the value at full height and brightness, and calculates again</source>
         <translation>divise par deux la valeur à pleine hauteur et clarté, et recalcule</translation>
     </message>
     <message>
@@ -368,7 +368,7 @@
         <translation>I moins</translation>
     </message>
     <message>
-        <source>doubles the value at full height and brightness, and calculates anew</source>
+        <source>doubles the value at full height and brightness, and calculates again</source>
         <translation>double la valeur à pleine hauteur et clarté, et recalcule</translation>
     </message>
     <message>
@@ -376,7 +376,7 @@
         <translation>CALCULER</translation>
     </message>
     <message>
-        <source>calculates profile and rings from the reflection list as it stands</source>
+        <source>calculates profile and rings from the present reflection list</source>
         <translation>calcule profil et anneaux à partir de la liste des réflexions telle qu'elle est</translation>
     </message>
     <message>
@@ -420,7 +420,7 @@
         <translation>Racine( I )</translation>
     </message>
     <message>
-        <source>square roots of the intensities, to bring up weak rings; acts at the next CALC</source>
+        <source>square roots of the intensities, which show weak rings better; acts at the next CALC</source>
         <translation>racines carrées des intensités, pour montrer les anneaux faibles ; vaut au prochain calcul</translation>
     </message>
     <message>
@@ -428,7 +428,7 @@
         <translation>Origine au centre</translation>
     </message>
     <message>
-        <source>the beam in the middle of the picture, else in the lower left corner, with its red point just outside the picture; acts at the next CALC</source>
+        <source>the beam in the middle of the picture, otherwise in the lower left corner, with its red point just outside the picture; acts at the next CALC</source>
         <translation>le faisceau au milieu de l'image, sinon dans le coin inférieur gauche avec son point rouge juste hors de l'image ; vaut au prochain calcul</translation>
     </message>
     <message>
@@ -436,7 +436,7 @@
         <translation>Inverser les couleurs</translation>
     </message>
     <message>
-        <source>dark rings on white, else bright rings on black; acts at the next CALC</source>
+        <source>dark rings on white, otherwise bright rings on black; acts at the next CALC</source>
         <translation>anneaux sombres sur blanc, sinon clairs sur noir ; vaut au prochain calcul</translation>
     </message>
     <message>
@@ -580,7 +580,7 @@
         <translation>Taille des taches</translation>
     </message>
     <message>
-        <source>size of the spots in percent; draws the spot pattern anew</source>
+        <source>size of the spots in per cent; draws the spot pattern again</source>
         <translation>taille des taches en pour cent ; redessine le cliché de taches</translation>
     </message>
     <message>
@@ -588,7 +588,7 @@
         <translation>Coordonnées atomiques</translation>
     </message>
     <message>
-        <source>type a value, Enter takes it and walks on; F2 or a double click changes the text of a cell; rows can be pasted; right button: more; site name, element as in the table of scattering factors, occupancy, fractional coordinates, B in square angstroms; the first empty site name ends the table</source>
+        <source>type a value, Enter accepts it and moves on; F2 or a double click changes the text of a cell; rows can be pasted; right button: more; site name, element as in the table of scattering factors, occupancy, fractional coordinates, B in square angstroms; the first empty site name ends the table</source>
         <translation>taper une valeur, Entrée la prend et avance ; F2 ou double clic change le texte d'une cellule ; des lignes peuvent être collées ; bouton droit : plus ; nom du site, élément comme dans la table des facteurs de diffusion, occupation, coordonnées fractionnaires, B en angströms carrés ; le premier nom vide termine la table</translation>
     </message>
     <message>
@@ -624,7 +624,7 @@
         <translation>OK</translation>
     </message>
     <message>
-        <source>take the table over into the crystal</source>
+        <source>accept the table for the crystal</source>
         <translation>reprend la table dans le cristal</translation>
     </message>
     <message>
@@ -644,7 +644,7 @@
         <translation>Saisie JCPDS</translation>
     </message>
     <message>
-        <source>type a value, Enter takes it and walks on; F2 or a double click changes the text of a cell; rows can be pasted; right button: more; relative intensity, then the indices h, k, l; the first empty intensity ends the table</source>
+        <source>type a value, Enter accepts it and moves on; F2 or a double click changes the text of a cell; rows can be pasted; right button: more; relative intensity, then the indices h, k, l; the first empty intensity ends the table</source>
         <translation>taper une valeur, Entrée la prend et avance ; F2 ou double clic change le texte d'une cellule ; des lignes peuvent être collées ; bouton droit : plus ; intensité relative, puis les indices h, k, l ; la première intensité vide termine la table</translation>
     </message>
     <message>
@@ -708,7 +708,7 @@
         <translation>Groupe d'espace</translation>
     </message>
     <message>
-        <source>number of the space group, 1 to 230; 231 to 250 are further settings; its file is read at each key</source>
+        <source>space group number, 1 to 230; 231 to 250 are further settings; its file is read at each key</source>
         <translation>numéro du groupe d'espace, 1 à 230 ; 231 à 250 sont d'autres choix d'axes ; son fichier est lu à chaque touche</translation>
     </message>
     <message>
@@ -724,7 +724,7 @@
         <translation>axes</translation>
     </message>
     <message>
-        <source>turns the operators of the space group to another choice of axes</source>
+        <source>changes the operators of the space group to another choice of axes</source>
         <translation>tourne les opérateurs du groupe d'espace vers un autre choix d'axes</translation>
     </message>
     <message>
@@ -732,7 +732,7 @@
         <translation>Tous les groupes</translation>
     </message>
     <message>
-        <source>all space groups; a click takes one</source>
+        <source>all space groups; a click chooses one</source>
         <translation>tous les groupes d'espace ; un clic en prend un</translation>
     </message>
     <message>
@@ -776,7 +776,7 @@
         <translation>Long. d'onde (A)</translation>
     </message>
     <message>
-        <source>wavelength in angstroms; may be overtyped</source>
+        <source>wavelength in angstroms; you may type another one</source>
         <translation>longueur d'onde en angströms ; peut être remplacée</translation>
     </message>
     <message>
@@ -1012,11 +1012,11 @@
         <translation>ANALYSE DE CLICHÉS DE KIKUCHI</translation>
     </message>
     <message>
-        <source>press at one end of a line, drag to the other; once all lines stand, the nearest end follows</source>
+        <source>press at one end of a line, drag to the other; once all lines are drawn, the nearest end moves</source>
         <translation>presser à un bout d'une ligne, tirer jusqu'à l'autre ; quand toutes sont là, le bout le plus proche suit</translation>
     </message>
     <message>
-        <source>take all lines away</source>
+        <source>remove all lines</source>
         <translation>enlève toutes les lignes</translation>
     </message>
     <message>
@@ -1040,7 +1040,7 @@
         <translation>CORRECTEUR</translation>
     </message>
     <message>
-        <source>shift the rows of the picture as the corrector file tells</source>
+        <source>shift the rows of the picture by the numbers in the corrector file</source>
         <translation>décale les lignes de l'image comme le dit le fichier de correction</translation>
     </message>
     <message>
@@ -1108,7 +1108,7 @@
         <translation>omettre direction équivalente</translation>
     </message>
     <message>
-        <source>of solutions whose planes have the same spacings and intensities list the first alone</source>
+        <source>of solutions whose planes have the same spacings and intensities list only the first</source>
         <translation>des solutions dont les plans ont mêmes distances et intensités, ne lister que la première</translation>
     </message>
     <message>
@@ -1116,7 +1116,7 @@
         <translation>largeur des bandes (6 lignes requises)</translation>
     </message>
     <message>
-        <source>pick both edges of each band and compare the widths too; takes all lines away</source>
+        <source>pick both edges of each band and compare the widths too; removes all lines</source>
         <translation>poser les deux bords de chaque bande et comparer aussi les largeurs ; enlève toutes les lignes</translation>
     </message>
     <message>
@@ -1124,7 +1124,7 @@
         <translation>Tolérance de largeur (%)</translation>
     </message>
     <message>
-        <source>largest deviation of a band width, percent</source>
+        <source>largest deviation of a band width, per cent</source>
         <translation>plus grand écart d'une largeur de bande, pour cent</translation>
     </message>
     <message>
@@ -1140,7 +1140,7 @@
         <translation>Position du détecteur (mm)</translation>
     </message>
     <message>
-        <source>distance of the detector from the source, mm; Enter takes it</source>
+        <source>distance of the detector from the source, mm; Enter accepts it</source>
         <translation>distance du détecteur à la source, mm ; Entrée la prend</translation>
     </message>
     <message>
@@ -1156,7 +1156,7 @@
         <translation>Décalage X (mm)</translation>
     </message>
     <message>
-        <source>offset of the pattern centre to the right, mm on the detector; Enter takes it</source>
+        <source>offset of the pattern centre to the right, mm on the detector; Enter accepts it</source>
         <translation>décalage du centre du cliché vers la droite, mm sur le détecteur ; Entrée le prend</translation>
     </message>
     <message>
@@ -1172,7 +1172,7 @@
         <translation>Décalage Y (mm)</translation>
     </message>
     <message>
-        <source>offset of the pattern centre downward, mm on the detector; Enter takes it</source>
+        <source>offset of the pattern centre downward, mm on the detector; Enter accepts it</source>
         <translation>décalage du centre vers le bas, mm sur le détecteur ; Entrée le prend</translation>
     </message>
     <message>
@@ -1320,7 +1320,7 @@
         <translation>No   h   k   l   h   k   l   h   k   l      u      v      w  d12  d23  d31</translation>
     </message>
     <message>
-        <source>solutions: indices of the three bands, direction towards the screen, deviations of the angles in degrees, of the widths in percent; a click shows it in the simulation</source>
+        <source>solutions: indices of the three bands, direction towards the screen, deviations of the angles in degrees, of the widths in per cent; a click shows it in the simulation</source>
         <translation>solutions : indices des trois bandes, direction vers l'écran, écarts des angles en degrés, des largeurs en pour cent ; un clic la montre dans la simulation</translation>
     </message>
     <message>
@@ -1336,7 +1336,7 @@
         <translation>Régler_la_caméra</translation>
     </message>
     <message>
-        <source>take a picture (BMP, PNG, JPEG, TIFF) as the measured pattern</source>
+        <source>load a picture (BMP, PNG, JPEG, TIFF) as the measured pattern</source>
         <translation>prend une image (BMP, PNG, JPEG, TIFF) comme cliché mesuré</translation>
     </message>
     <message>
@@ -1348,7 +1348,7 @@
         <translation>EFFACER</translation>
     </message>
     <message>
-        <source>take the picture away</source>
+        <source>remove the picture</source>
         <translation>enlève l'image</translation>
     </message>
     <message>
@@ -1372,7 +1372,7 @@
         <translation>Méthode de comparaison</translation>
     </message>
     <message>
-        <source>0: angles and sense of rotation must fit; 1: angles alone</source>
+        <source>0: angles and sense of rotation must fit; 1: only angles</source>
         <translation>0 : angles et sens de rotation doivent convenir ; 1 : les angles seuls</translation>
     </message>
     <message>
@@ -1452,11 +1452,11 @@
         <translation>Échelle de gris</translation>
     </message>
     <message>
-        <source>darkness goes with the intensity</source>
+        <source>darkness follows the intensity</source>
         <translation>la noirceur suit l'intensité</translation>
     </message>
     <message>
-        <source>darkness goes with the square root of the intensity, which brings out weak spots</source>
+        <source>darkness follows the square root of the intensity, which shows weak spots better</source>
         <translation>la noirceur suit la racine de l'intensité, ce qui montre les taches faibles</translation>
     </message>
     <message>
@@ -1468,7 +1468,7 @@
         <translation>une autre puissance de l'intensité</translation>
     </message>
     <message>
-        <source>darkness goes with the intensity to this power; empty: as chosen above</source>
+        <source>darkness follows the intensity to this power; empty: as chosen above</source>
         <translation>la noirceur suit cette puissance de l'intensité ; vide : comme choisi ci-dessus</translation>
     </message>
     <message>
@@ -1500,7 +1500,7 @@
         <translation>Taille des taches</translation>
     </message>
     <message>
-        <source>radius of the direct beam in percent of half the picture; a spot has half of it</source>
+        <source>radius of the direct beam in per cent of half the picture; a spot has half of it</source>
         <translation>rayon du faisceau direct en pour cent de la demi-image ; une tache en a la moitié</translation>
     </message>
     <message>
@@ -1512,8 +1512,8 @@
         <translation>CLICHÉ DE KIKUCHI</translation>
     </message>
     <message>
-        <source>a click finds the axis there, a double click takes it over</source>
-        <translation>un clic trouve l'axe à cet endroit, un double clic le reprend</translation>
+        <source>a click finds the axis there, a double click draws its pattern</source>
+        <translation>un clic trouve l'axe à cet endroit, un double clic dessine son cliché</translation>
     </message>
     <message>
         <source>draw the pattern of this axis</source>
@@ -1528,15 +1528,15 @@
         <translation>Reprendre</translation>
     </message>
     <message>
-        <source>take the axis that was found into the pattern</source>
-        <translation>reprend dans le cliché l'axe trouvé</translation>
+        <source>draw the pattern of the axis that was found</source>
+        <translation>dessine le cliché de l'axe trouvé</translation>
     </message>
     <message>
         <source>turn</source>
         <translation>rotation</translation>
     </message>
     <message>
-        <source>turn of the pattern at the next transfer, degrees</source>
+        <source>rotation of the pattern at the next transfer, degrees</source>
         <translation>rotation du cliché à la prochaine reprise, degrés</translation>
     </message>
     <message>
@@ -1660,7 +1660,7 @@
         <translation>échelle de gris des lignes</translation>
     </message>
     <message>
-        <source>exponent of the grey scale; wins over I and Sqr( I ) when not empty</source>
+        <source>exponent of the grey scale; used in place of I and Sqr( I ) when not empty</source>
         <translation>exposant de l'échelle de gris ; prime sur I et Racine( I ) s'il n'est pas vide</translation>
     </message>
     <message>
@@ -1864,7 +1864,7 @@
         <translation>Matrice inverse</translation>
     </message>
     <message>
-        <source>the inverse matrix stands on the right</source>
+        <source>the inverse matrix is on the right</source>
         <translation>la matrice inverse est à droite</translation>
     </message>
     <message>
@@ -1972,7 +1972,7 @@
         <translation>double la hauteur de la courbe : la valeur à pleine hauteur est divisée par deux</translation>
     </message>
     <message>
-        <source>intensity that is drawn at full height; Enter takes a new one over</source>
+        <source>intensity that is drawn at full height; Enter accepts a new one</source>
         <translation>intensité dessinée à pleine hauteur ; Entrée en prend une nouvelle</translation>
     </message>
     <message>
@@ -1984,7 +1984,7 @@
         <translation>maximums d'au moins 1 % du plus haut : 2-thêta en degrés, d en angströms, hauteur en pour cent</translation>
     </message>
     <message>
-        <source>calculates the pattern from the reflection list as it stands and draws it over the old one</source>
+        <source>calculates the pattern from the present reflection list and draws it over the old one</source>
         <translation>calcule le diagramme d'après la liste des réflexions telle qu'elle est et le dessine sur l'ancien</translation>
     </message>
     <message>
@@ -2228,7 +2228,7 @@
         <translation>composante %1 de l'axe trouvé</translation>
     </message>
     <message>
-        <source>index %1 of the plane normal to that axis, percent of the sum</source>
+        <source>index %1 of the plane normal to that axis, per cent of the sum</source>
         <translation>indice %1 du plan normal à cet axe, pour cent de la somme</translation>
     </message>
     <message>
@@ -2312,8 +2312,8 @@
         <translation>%L1. Le faire quand même ?</translation>
     </message>
     <message>
-        <source>The program ends here. Files are as they were saved last. Start it again with this mended; "Known behaviour" in the user guide tells more.</source>
-        <translation>Le programme s'arrête ici. Les fichiers sont tels qu'ils ont été enregistrés en dernier. Relancez-le une fois ceci réparé ; « Known behaviour » dans le guide en dit plus.</translation>
+        <source>The program ends here. Files are as they were saved last. Correct this and start it again; see "Known behaviour" in the user guide.</source>
+        <translation>Le programme s'arrête ici. Les fichiers sont tels qu'ils ont été enregistrés en dernier. Corrigez ceci et relancez-le ; voir « Known behaviour » dans le guide.</translation>
     </message>
     <message>
         <source>Your work as it was before is kept: the next start offers it.</source>
@@ -2708,8 +2708,8 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Redessiner</translation>
     </message>
     <message>
-        <source>Makes it anew with what holds now</source>
-        <translation>Le refait avec ce qui vaut à présent</translation>
+        <source>Makes it again for the present crystal and settings</source>
+        <translation>Le refait pour le cristal et les réglages présents</translation>
     </message>
     <message>
         <source>Measure: click two places, or drag from one to the other; Esc ends it</source>
@@ -2984,8 +2984,8 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>le programme est en faute, il ne dit pas comment</translation>
     </message>
     <message>
-        <source>there is no cell: the main window takes it</source>
-        <translation>il n'y a pas de maille : la fenêtre principale la prend</translation>
+        <source>there is no cell: type one in the main window</source>
+        <translation>il n'y a pas de maille : en saisir une dans la fenêtre principale</translation>
     </message>
     <message>
         <source>the list of reflections is empty: "Calc" of the main window makes it</source>
@@ -3248,7 +3248,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>sa somme de contrôle est autre</translation>
     </message>
     <message>
-        <source>it is no file of kept work</source>
+        <source>it is not a file of kept work</source>
         <translation>ce n'est pas un fichier de travail gardé</translation>
     </message>
     <message>
@@ -3588,7 +3588,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>%1 et %2 sont à %3 Å, plus près qu'aucune liaison</translation>
     </message>
     <message>
-        <source>P 1 has no symmetry operators: the sites alone fill the cell</source>
+        <source>P 1 has no symmetry operators: only the sites fill the cell</source>
         <translation>P 1 n'a pas d'opérateurs de symétrie : les sites seuls remplissent la maille</translation>
     </message>
     <message>
@@ -3720,11 +3720,11 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>le symbole de Hall « %1 » : %L2</translation>
     </message>
     <message>
-        <source>it is no sum of x, y, z and numbers</source>
+        <source>it is not a sum of x, y, z and numbers</source>
         <translation>ce n'est pas une somme de x, y, z et de nombres</translation>
     </message>
     <message>
-        <source>it is no whole number of 24ths</source>
+        <source>it is not a whole number of 24ths</source>
         <translation>ce n'est pas un nombre entier de 24es</translation>
     </message>
     <message>
@@ -3736,7 +3736,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Le fichier ne nomme pas ses éléments. Quels sont ses %1, dans leur ordre (comme Na Cl) ?</translation>
     </message>
     <message>
-        <source>the file tells no symmetry and no displacement parameters; B = 0.5 square angstroms is taken</source>
+        <source>the file gives no symmetry and no displacement parameters; B = 0.5 square angstroms is taken</source>
         <translation>le fichier ne dit ni symétrie ni paramètres de déplacement ; B = 0.5 angströms carrés est pris</translation>
     </message>
     <message>
@@ -3768,7 +3768,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>il y a %1 nombres d'atomes et %2 éléments</translation>
     </message>
     <message>
-        <source>"%1" is no element</source>
+        <source>"%1" is not an element</source>
         <translation>« %1 » n'est pas un élément</translation>
     </message>
     <message>
@@ -3912,11 +3912,11 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>%L1 ; il est omis</translation>
     </message>
     <message>
-        <source>the symmetry operators are no group; those of %1 are taken</source>
+        <source>the symmetry operators do not form a group; those of %1 are taken</source>
         <translation>les opérateurs de symétrie ne sont pas un groupe ; ceux de %1 sont pris</translation>
     </message>
     <message>
-        <source>the symmetry operators are no group and are left out</source>
+        <source>the symmetry operators do not form a group and are left out</source>
         <translation>les opérateurs de symétrie ne sont pas un groupe et sont omis</translation>
     </message>
     <message>
@@ -3924,7 +3924,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>1 ou 2 est attendu comme réponse, pas « %1 »</translation>
     </message>
     <message>
-        <source>the file tells no symmetry; the atoms are taken as they are listed</source>
+        <source>the file gives no symmetry; the atoms are taken as they are listed</source>
         <translation>le fichier ne dit pas de symétrie ; les atomes sont pris comme ils sont listés</translation>
     </message>
     <message>
@@ -4268,7 +4268,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>K-alpha 1 et K-alpha 2</translation>
     </message>
     <message>
-        <source>there is no measured pattern: "Add measured pattern..." takes one</source>
+        <source>there is no measured pattern: "Add measured pattern..." reads one</source>
         <translation>il n'y a pas de diagramme mesuré : « Ajouter un diagramme mesuré... » en prend un</translation>
     </message>
     <message>
@@ -4396,7 +4396,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>une texture de fibre demande deux réflexions ou plus, la liste en a %1</translation>
     </message>
     <message>
-        <source>overflow: %1 is %2, its power %3 is no number</source>
+        <source>overflow: %1 is %2, its power %3 is not a number</source>
         <translation>dépassement : %L1 vaut %2, sa puissance %3 n'est pas un nombre</translation>
     </message>
     <message>
@@ -4660,7 +4660,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>l'ouverture est de 0 degré</translation>
     </message>
     <message>
-        <source>there is no solution of the number that is adjusted for</source>
+        <source>there is no solution of this number to adjust</source>
         <translation>il n'y a pas de solution du numéro pour lequel on ajuste</translation>
     </message>
     <message>
@@ -4676,11 +4676,11 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>les repères des deux pôles ne sont pas posés, ou à la même hauteur</translation>
     </message>
     <message>
-        <source>the line of the number is no solution</source>
-        <translation>la ligne du numéro n'est pas une solution</translation>
+        <source>this line is the number of solutions, not a solution</source>
+        <translation>cette ligne est le nombre de solutions, pas une solution</translation>
     </message>
     <message>
-        <source>a click without a drag lays the line to the corner</source>
+        <source>a click without a drag draws the line to the corner</source>
         <translation>un clic sans tirer mène la ligne au coin</translation>
     </message>
     <message>
@@ -4768,15 +4768,15 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>un fabricant et ses nombres sont attendus, comme « bruker 0.5 0.25 0.6 », ou « emsoft 10 -20 15000 70 » avec la taille d'un pixel en micromètres</translation>
     </message>
     <message>
-        <source>"%1" is no pattern centre: %2</source>
+        <source>"%1" is not a pattern centre: %2</source>
         <translation>« %1 » n'est pas un centre de cliché : %L2</translation>
     </message>
     <message>
-        <source>"%1" is no number: %2</source>
+        <source>"%1" is not a number: %2</source>
         <translation>« %1 » n'est pas un nombre : %L2</translation>
     </message>
     <message>
-        <source>the specimen would stand %1 widths from the screen; expected are 0.05 to 20</source>
+        <source>the specimen would be %1 widths from the screen; expected are 0.05 to 20</source>
         <translation>l'échantillon serait à %1 largeurs de l'écran ; 0.05 à 20 sont attendus</translation>
     </message>
     <message>
@@ -4784,7 +4784,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>le centre serait à %1, %2 largeurs du coin supérieur gauche ; moins de 3 sont attendus</translation>
     </message>
     <message>
-        <source>Pattern centre as the detector's software tells it: bruker, edax, oxford or emsoft and its three numbers</source>
+        <source>Pattern centre of the detector software: bruker, edax, oxford or emsoft and its three numbers</source>
         <translation>Centre du cliché donné par le logiciel du détecteur : bruker, edax, oxford ou emsoft et ses trois nombres</translation>
     </message>
     <message>
@@ -4892,7 +4892,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>cubique</translation>
     </message>
     <message>
-        <source>the position of the site "%1" is no finite number</source>
+        <source>the position of the site "%1" is not a finite number</source>
         <translation>la position du site « %1 » n'est pas un nombre fini</translation>
     </message>
     <message>
@@ -4900,11 +4900,11 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>le produit de deux opérateurs de symétrie n'a pas de forme exacte</translation>
     </message>
     <message>
-        <source>its first letter is no lattice</source>
+        <source>its first letter is not a lattice</source>
         <translation>sa première lettre n'est pas un réseau</translation>
     </message>
     <message>
-        <source>"%1" is no translation</source>
+        <source>"%1" is not a translation</source>
         <translation>« %1 » n'est pas une translation</translation>
     </message>
     <message>
@@ -4924,7 +4924,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>des images de %1 sont à moins de %2 angströms ; d'après les occupations c'est un site dédoublé, elles restent séparées</translation>
     </message>
     <message>
-        <source>the %1 symmetry operators are no group; the %2 that they make are taken</source>
+        <source>the %1 symmetry operators do not form a group; the %2 that they make are taken</source>
         <translation>les %1 opérateurs de symétrie ne sont pas un groupe ; les %2 qu'ils engendrent sont pris</translation>
     </message>
     <message>
@@ -5020,7 +5020,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>son en-tête aurait %1 octets ; connus sont 12, 40, 64, 108 et 124</translation>
     </message>
     <message>
-        <source>its header tells %1 x %2 pixels; %3</source>
+        <source>its header says %1 x %2 pixels; %3</source>
         <translation>son en-tête dit %1 x %2 pixels ; %L3</translation>
     </message>
     <message>
@@ -5028,7 +5028,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>un côté a 1 à 32767, et 8192 x 8192 en tout sont possibles</translation>
     </message>
     <message>
-        <source>its header tells %1 bits a pixel in %2 planes with compression %3; 1, 4, 8, 16, 24 or 32 bits in 1 plane are possible, plain, run-length encoded or with bit fields</source>
+        <source>its header says %1 bits per pixel in %2 planes with compression %3; 1, 4, 8, 16, 24 or 32 bits in 1 plane are possible, plain, run-length encoded or with bit fields</source>
         <translation>son en-tête dit %1 bits par pixel en %2 plans avec compression %3 ; possibles sont 1, 4, 8, 16, 24 ou 32 bits en 1 plan, simples, codés par plages ou avec champs de bits</translation>
     </message>
     <message>
@@ -5040,7 +5040,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>il est tronqué : %1 lignes de %2 octets demandent %3, il y a %4, pour %5 lignes</translation>
     </message>
     <message>
-        <source>%1 behind pixel %2 of %3 in row %4 of %5</source>
+        <source>%1 after pixel %2 of %3 in row %4 of %5</source>
         <translation>%L1 après le pixel %2 sur %3 dans la ligne %4 sur %5</translation>
     </message>
     <message>
@@ -5122,6 +5122,10 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
     <message>
         <source>Qt's plug-in for it is missing (in Debian's package qt6-image-formats-plugins)</source>
         <translation>le greffon de Qt pour cela manque (paquet Debian qt6-image-formats-plugins)</translation>
+    </message>
+    <message>
+        <source>Dark halo behind coloured lines</source>
+        <translation>Halo sombre derrière les lignes colorées</translation>
     </message>
 </context>
 </TS>
