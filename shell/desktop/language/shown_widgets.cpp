@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
+#include <QSignalBlocker>
 #include <QStatusBar>
 #include <QToolBar>
 #include <QVariant>
@@ -170,6 +171,7 @@ void follow_status(QMainWindow& top) {
   if (line == nullptr || line->property(mark).toBool()) return;
   line->setProperty(mark, true);
   QObject::connect(line, &QStatusBar::messageChanged, line, [line](const QString& message) {
+    const QSignalBlocker once(line);
     if (const QString text = shown(message); text != message) line->showMessage(text);
   });
 }

@@ -4149,7 +4149,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1: %L2</translation>
+        <translation>%L1: %L2</translation>
     </message>
     <message>
         <source>the measured pattern has %1 points where the curve is calculated, expected are four or more</source>
@@ -5126,6 +5126,18 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
     <message>
         <source>Dark halo behind coloured lines</source>
         <translation>Dunkler Saum hinter farbigen Linien</translation>
+    </message>
+    <message>
+        <source>&lt;qt&gt;%1&lt;/qt&gt;</source>
+        <translation>&lt;qt&gt;%L1&lt;/qt&gt;</translation>
+    </message>
+    <message>
+        <source>%1= %2</source>
+        <translation>%L1= %2</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%L1 = %2</translation>
     </message>
 </context>
 </TS>

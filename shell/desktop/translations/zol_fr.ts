@@ -4149,7 +4149,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %L2</translation>
+        <translation>%L1 : %L2</translation>
     </message>
     <message>
         <source>the measured pattern has %1 points where the curve is calculated, expected are four or more</source>
@@ -5126,6 +5126,18 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
     <message>
         <source>Dark halo behind coloured lines</source>
         <translation>Halo sombre derrière les lignes colorées</translation>
+    </message>
+    <message>
+        <source>&lt;qt&gt;%1&lt;/qt&gt;</source>
+        <translation>&lt;qt&gt;%L1&lt;/qt&gt;</translation>
+    </message>
+    <message>
+        <source>%1= %2</source>
+        <translation>%L1= %2</translation>
+    </message>
+    <message>
+        <source>%1 = %2</source>
+        <translation>%L1 = %2</translation>
     </message>
 </context>
 </TS>
