@@ -3204,10 +3204,6 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Das Beispielbild indizieren</translation>
     </message>
     <message>
-        <source>a measured Kikuchi pattern of silicon, indexed without a hand</source>
-        <translation>ein gemessenes Kikuchi-Bild von Silizium, von selbst indiziert</translation>
-    </message>
-    <message>
         <source>Crystals, diffraction, Kikuchi patterns</source>
         <translation>Kristalle, Beugung, Kikuchi-Bilder</translation>
     </message>
@@ -4280,10 +4276,6 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>die Wellenlänge gehört zu keiner bekannten Röhre: Cr, Fe, Co, Cu oder Mo</translation>
     </message>
     <message>
-        <source>a pattern from a file, laid under the curve: .xy, .xye, .csv, .xrdml, .raw and others</source>
-        <translation>ein Diagramm aus einer Datei, unter die Kurve gelegt: .xy, .xye, .csv, .xrdml, .raw und andere</translation>
-    </message>
-    <message>
         <source>takes the measured pattern away</source>
         <translation>nimmt das gemessene Diagramm weg</translation>
     </message>
@@ -5138,6 +5130,30 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
     <message>
         <source>%1 = %2</source>
         <translation>%L1 = %2</translation>
+    </message>
+    <message>
+        <source>a pattern from a file, shown under the curve: .xy, .xye, .csv, .xrdml, .raw and others</source>
+        <translation>ein Diagramm aus einer Datei, unter der Kurve gezeigt: .xy, .xye, .csv, .xrdml, .raw und andere</translation>
+    </message>
+    <message>
+        <source>a simulated Kikuchi pattern of silicon, indexed automatically</source>
+        <translation>ein simuliertes Kikuchi-Bild von Silizium, von selbst indiziert</translation>
+    </message>
+    <message>
+        <source>an orientation is none</source>
+        <translation>eine Orientierung ist keine</translation>
+    </message>
+    <message>
+        <source>the planes of a crystal don't fit together</source>
+        <translation>die Ebenen eines Kristalls passen nicht zusammen</translation>
+    </message>
+    <message>
+        <source>an orientation is of no crystal</source>
+        <translation>eine Orientierung gehört zu keinem Kristall</translation>
+    </message>
+    <message>
+        <source>the bands of an orientation are others</source>
+        <translation>die Bänder einer Orientierung sind andere</translation>
     </message>
 </context>
 </TS>

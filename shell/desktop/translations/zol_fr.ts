@@ -3204,10 +3204,6 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Indexer l'image d'exemple</translation>
     </message>
     <message>
-        <source>a measured Kikuchi pattern of silicon, indexed without a hand</source>
-        <translation>un cliché de Kikuchi mesuré de silicium, indexé tout seul</translation>
-    </message>
-    <message>
         <source>Crystals, diffraction, Kikuchi patterns</source>
         <translation>Cristaux, diffraction, clichés de Kikuchi</translation>
     </message>
@@ -4280,10 +4276,6 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>la longueur d'onde n'est celle d'aucun tube connu : Cr, Fe, Co, Cu ou Mo</translation>
     </message>
     <message>
-        <source>a pattern from a file, laid under the curve: .xy, .xye, .csv, .xrdml, .raw and others</source>
-        <translation>un diagramme d'un fichier, mis sous la courbe : .xy, .xye, .csv, .xrdml, .raw et autres</translation>
-    </message>
-    <message>
         <source>takes the measured pattern away</source>
         <translation>enlève le diagramme mesuré</translation>
     </message>
@@ -5138,6 +5130,30 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
     <message>
         <source>%1 = %2</source>
         <translation>%L1 = %2</translation>
+    </message>
+    <message>
+        <source>a pattern from a file, shown under the curve: .xy, .xye, .csv, .xrdml, .raw and others</source>
+        <translation>un diagramme d'un fichier, montré sous la courbe : .xy, .xye, .csv, .xrdml, .raw et autres</translation>
+    </message>
+    <message>
+        <source>a simulated Kikuchi pattern of silicon, indexed automatically</source>
+        <translation>un cliché de Kikuchi simulé de silicium, indexé automatiquement</translation>
+    </message>
+    <message>
+        <source>an orientation is none</source>
+        <translation>une orientation n'en est pas une</translation>
+    </message>
+    <message>
+        <source>the planes of a crystal don't fit together</source>
+        <translation>les plans d'un cristal ne vont pas ensemble</translation>
+    </message>
+    <message>
+        <source>an orientation is of no crystal</source>
+        <translation>une orientation n'est d'aucun cristal</translation>
+    </message>
+    <message>
+        <source>the bands of an orientation are others</source>
+        <translation>les bandes d'une orientation sont autres</translation>
     </message>
 </context>
 </TS>
