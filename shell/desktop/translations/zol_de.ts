@@ -905,7 +905,7 @@
     </message>
     <message>
         <source>Powder XRD Pattern</source>
-        <translation>Röntgen-Pulverdiagramm</translation>
+        <translation>Pulverdiagramm</translation>
     </message>
     <message>
         <source>simulated X-ray powder diagram</source>
@@ -913,7 +913,7 @@
     </message>
     <message>
         <source>Electron Debye-ring</source>
-        <translation>Elektronen-Beugungsringe</translation>
+        <translation>Beugungsringe</translation>
     </message>
     <message>
         <source>simulated electron ring pattern</source>
@@ -945,7 +945,7 @@
     </message>
     <message>
         <source>KP ANALYSIS(A)</source>
-        <translation>KIKUCHI-AUSWERTUNG</translation>
+        <translation>KIKUCHI-ANALYSE</translation>
     </message>
     <message>
         <source>distances between atoms</source>
@@ -1009,7 +1009,7 @@
     </message>
     <message>
         <source>KIKUCHI PATTERN ANALYSIS</source>
-        <translation>AUSWERTUNG VON KIKUCHI-BILDERN</translation>
+        <translation>ANALYSE VON KIKUCHI-BILDERN</translation>
     </message>
     <message>
         <source>press at one end of a line, drag to the other; once all lines are drawn, the nearest end moves</source>
@@ -5154,6 +5154,38 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
     <message>
         <source>the bands of an orientation are others</source>
         <translation>die Bänder einer Orientierung sind andere</translation>
+    </message>
+    <message>
+        <source>TRICLINIC</source>
+        <translation>TRIKLIN</translation>
+    </message>
+    <message>
+        <source>MONOCLINIC</source>
+        <translation>MONOKLIN</translation>
+    </message>
+    <message>
+        <source>ORTHORHOMBIC</source>
+        <translation>ORTHORHOMBISCH</translation>
+    </message>
+    <message>
+        <source>TETRAGONAL</source>
+        <translation>TETRAGONAL</translation>
+    </message>
+    <message>
+        <source>TRIGONAL</source>
+        <translation>TRIGONAL</translation>
+    </message>
+    <message>
+        <source>RHOMBOHEDRAL</source>
+        <translation>RHOMBOEDRISCH</translation>
+    </message>
+    <message>
+        <source>HEXAGONAL</source>
+        <translation>HEXAGONAL</translation>
+    </message>
+    <message>
+        <source>CUBIC</source>
+        <translation>KUBISCH</translation>
     </message>
 </context>
 </TS>
