@@ -5156,34 +5156,6 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>die Bänder einer Orientierung sind andere</translation>
     </message>
     <message>
-        <source>TRICLINIC</source>
-        <translation>TRIKLIN</translation>
-    </message>
-    <message>
-        <source>MONOCLINIC</source>
-        <translation>MONOKLIN</translation>
-    </message>
-    <message>
-        <source>ORTHORHOMBIC</source>
-        <translation>ORTHORHOMBISCH</translation>
-    </message>
-    <message>
-        <source>TETRAGONAL</source>
-        <translation>TETRAGONAL</translation>
-    </message>
-    <message>
-        <source>TRIGONAL</source>
-        <translation>TRIGONAL</translation>
-    </message>
-    <message>
-        <source>RHOMBOHEDRAL</source>
-        <translation>RHOMBOEDRISCH</translation>
-    </message>
-    <message>
-        <source>HEXAGONAL</source>
-        <translation>HEXAGONAL</translation>
-    </message>
-    <message>
         <source>CUBIC</source>
         <translation>KUBISCH</translation>
     </message>

@@ -5156,34 +5156,6 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>les bandes d'une orientation sont autres</translation>
     </message>
     <message>
-        <source>TRICLINIC</source>
-        <translation>TRICLINIQUE</translation>
-    </message>
-    <message>
-        <source>MONOCLINIC</source>
-        <translation>MONOCLINIQUE</translation>
-    </message>
-    <message>
-        <source>ORTHORHOMBIC</source>
-        <translation>ORTHORHOMBIQUE</translation>
-    </message>
-    <message>
-        <source>TETRAGONAL</source>
-        <translation>TÉTRAGONAL</translation>
-    </message>
-    <message>
-        <source>TRIGONAL</source>
-        <translation>TRIGONAL</translation>
-    </message>
-    <message>
-        <source>RHOMBOHEDRAL</source>
-        <translation>RHOMBOÉDRIQUE</translation>
-    </message>
-    <message>
-        <source>HEXAGONAL</source>
-        <translation>HEXAGONAL</translation>
-    </message>
-    <message>
         <source>CUBIC</source>
         <translation>CUBIQUE</translation>
     </message>
