@@ -78,7 +78,7 @@ QString kept_language() {
 
 QString first_known_language(const QStringList& wanted) {
   for (const QString& language : wanted) {
-    const QString code = language.section(u'-', 0, 0);
+    QString code = language.section(u'-', 0, 0);
     if (is_known(code)) return code;
   }
   return english();
