@@ -9,6 +9,7 @@
 #include "core/number_text.h"
 #include "core/read_file.h"
 #include "core/run_failure.h"
+#include "scans/pole_colour.h"
 #include "core/unit_cell.h"
 #include "indexing/crystal_reflectors.h"
 #include "reflections/scattering.h"
@@ -88,11 +89,12 @@ LoadedCrystal load_crystal(const std::string& path, const DataRoot& data, Task& 
   return crystal;
 }
 
-CrystalModel indexing_model(const LoadedCrystal& crystal, double kilovolt, int families, Task& task) {
+CrystalModel indexing_model(const LoadedCrystal& crystal, double kilovolt, int families, Task& task,
+                            std::shared_ptr<const KinematicSphere> sphere) {
   try {
     ReflectorSet reflectors = crystal_reflectors(crystal.state, &crystal.group, kilovolt, task);
     auto used = voting_families(reflectors, families);
-    return make_crystal_model(crystal.title, std::move(reflectors), std::move(used), nullptr, task);
+    return make_crystal_model(crystal.title, std::move(reflectors), std::move(used), std::move(sphere), task);
   } catch (const RunFailure& failure) {
     throw RunFailure(crystal.title + ": " + failure.message());
   }
@@ -104,7 +106,8 @@ MapPhase map_phase(const LoadedCrystal& crystal, const CrystalModel& model) {
   phase.formula = crystal.formula;
   phase.cell = model.reflectors.cell;
   phase.space_group = crystal.state.SGNumber.value();
-  phase.laue_class = laue_class_of(phase.space_group);
+  phase.rotations = model.reflectors.symmetry;
+  phase.laue_class = laue_class_of(phase.rotations);
   constexpr double full = 100;
   double strongest = 0;
   for (const auto& family : model.reflectors.families) strongest = std::max(strongest, family.weight);

@@ -1,6 +1,7 @@
 // Crystals of the command line: any structure file, or a crystal file of the program.
 #pragma once
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -24,8 +25,10 @@ struct LoadedCrystal {
 /// @throws RunFailure  it can't be read, or leaves something open that an option has to tell; the message names it
 [[nodiscard]] LoadedCrystal load_crystal(const std::string& path, const DataRoot& data, Task& task);
 
+/// @param sphere  null: the bands of its planes
 /// @throws RunFailure  too few reflections
-[[nodiscard]] CrystalModel indexing_model(const LoadedCrystal& crystal, double kilovolt, int families, Task& task);
+[[nodiscard]] CrystalModel indexing_model(const LoadedCrystal& crystal, double kilovolt, int families, Task& task,
+                                          std::shared_ptr<const KinematicSphere> sphere = nullptr);
 
 /// What files of maps tell of it.
 [[nodiscard]] MapPhase map_phase(const LoadedCrystal& crystal, const CrystalModel& model);

@@ -8,7 +8,14 @@ install(FILES packaging/zol.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applica
 install(FILES packaging/io.github.zol.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME io.github.zol.xml)
 install(FILES packaging/io.github.zol.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES shell/desktop/images/zol.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES packaging/zol.1 packaging/zol-batch.1 packaging/zol-script.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES packaging/zol.1 packaging/zol-script.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+# Those of zol-batch are made with it.
+set(batch_reference ${CMAKE_BINARY_DIR}/batch/reference)
+install(DIRECTORY ${batch_reference}/ DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 FILES_MATCHING PATTERN *.1)
+install(FILES ${batch_reference}/zol-batch.bash
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions RENAME zol-batch)
+install(FILES ${batch_reference}/_zol-batch DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions)
+install(FILES ${batch_reference}/zol-batch.fish DESTINATION ${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d)
 
 install(DIRECTORY docs/user-guide docs/images DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} PATTERN draw EXCLUDE)
@@ -16,8 +23,8 @@ install(PROGRAMS examples/batch/crystallite-sizes examples/batch/reflection-list
   DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples/batch)
 install(PROGRAMS examples/orientation/euler.py DESTINATION ${CMAKE_INSTALL_DOCDIR}/examples/orientation)
 install(DIRECTORY docs/names DESTINATION ${CMAKE_INSTALL_DOCDIR})
-install(FILES docs/data-files.md docs/scripting.md docs/theory.md docs/validation.md CHANGELOG.md CITATION.cff
-  DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES docs/data-files.md docs/scripting.md docs/theory.md docs/theory-dynamical.md docs/validation.md
+  CHANGELOG.md CITATION.cff DESTINATION ${CMAKE_INSTALL_DOCDIR})
 install(FILES packaging/copyright DESTINATION ${CMAKE_INSTALL_DOCDIR})
 # The examples name their crystals as in the source tree, from the folder above them.
 install(CODE "file(CREATE_LINK ../../zol \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_DOCDIR}/data\" SYMBOLIC)")

@@ -203,12 +203,20 @@ void AtomicFile::commit(Task* task) {
   }
 }
 
+void AtomicFile::flush() {
+  if (!temporary_) return;
+  if (const int reason = write_all(temporary_->descriptor(), text_); reason != 0) fail(reason);
+  text_.clear();
+  flushed_ = true;
+}
+
 void AtomicFile::commit_temporary(Task* task) {
   if (const int reason = write_all(temporary_->descriptor(), text_, task); reason != 0) fail(reason);
   if (const int reason = bring_to_disk(temporary_->descriptor(), task); reason != 0) fail(reason);
   if (std::rename(temporary_->path().c_str(), target_.c_str()) == 0) {
     temporary_->renamed();
-  } else if (const int reason = errno; replaces_ && (reason == EACCES || reason == EPERM || reason == EBUSY)) {
+  } else if (const int reason = errno;
+             replaces_ && !flushed_ && (reason == EACCES || reason == EPERM || reason == EBUSY)) {
     open_in_place();  // the folder lets none but the owner take a name away, or something is mounted on the file
     commit_in_place();
   } else {

@@ -31,6 +31,8 @@ class AtomicFile {
   void write(std::string_view text) { text_ += text; }
   /// All of the file.
   void contain(std::string text) { text_ = std::move(text); }
+  /// Takes what was written so far out of memory, where a file stands beside. @throws RunFailure  it can't be written
+  void flush();
   /// Renames the file once all of it is on the disk, so that even a crash of the machine leaves either the old file or
   /// the new one.
   /// @throws RunFailure  the file cannot be written or renamed
@@ -56,6 +58,7 @@ class AtomicFile {
   int in_place_ = -1;                   // the target, open for writing
   bool replaces_ = false;               // a regular file
   bool is_stream_ = false;              // a pipe or a device
+  bool flushed_ = false;                // a part stands in the temporary file alone
   std::string text_;
 };
 

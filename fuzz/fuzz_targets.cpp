@@ -18,6 +18,7 @@
 #include "entry/atom_lists.h"
 #include "entry/structure_readers.h"
 #include "fuzz/memory_file.h"
+#include "fuzz/scan_targets.h"
 #include "fuzz/script_target.h"
 #include "powder/measured_curve.h"
 #include "reflections/scattering.h"
@@ -192,6 +193,11 @@ const std::vector<Target>& targets() {
       {"structure", structure},
       {"bitmap", bitmap},
       {"measured_curve", measured_curve},
+      {"scan_edax_up", scan_edax_up},
+      {"scan_oxford_ebsp", scan_oxford_ebsp},
+      {"scan_hdf5", scan_hdf5},
+      {"scan_nordif", scan_nordif},
+      {"lzf", lzf},
       {"script", run_script},
       {"kept_work", restore_changed_work},
   };

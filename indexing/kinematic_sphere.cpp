@@ -115,6 +115,28 @@ KinematicSphere::KinematicSphere(const ReflectorSet& reflectors, int size, const
   }
 }
 
+KinematicSphere::KinematicSphere(const std::function<double(const Vector3&)>& brightness, int size, bool inversion,
+                                 Task& task)
+    : size_(size),
+      scale_(static_cast<float>((size - 1) / 2.0 - margin)),
+      middle_(static_cast<float>((size - 1) / 2.0)),
+      opposite_(inversion ? 0 : size * size),
+      continuous_(true) {
+  values_.reserve(static_cast<std::size_t>(size * size + opposite_));
+  for (const int side : {1, -1}) {
+    if (side < 0 && inversion) break;
+    for (int row = 0; row < size; ++row) {
+      task.check();
+      for (int column = 0; column < size; ++column) {
+        const double x = (column - static_cast<double>(middle_)) / static_cast<double>(scale_);
+        const double y = (row - static_cast<double>(middle_)) / static_cast<double>(scale_);
+        const double square = x * x + y * y;
+        values_.push_back(static_cast<float>(brightness(Vector3(2 * x, 2 * y, 1 - square) * (side / (1 + square)))));
+      }
+    }
+  }
+}
+
 float KinematicSphere::at(const Vector3& direction) const {
   const double side = direction[2] < 0 ? -1 : 1;
   const double length = direction.norm() + std::abs(direction[2]);
@@ -122,10 +144,11 @@ float KinematicSphere::at(const Vector3& direction) const {
   const double y = side * direction[1] / length * static_cast<double>(scale_) + static_cast<double>(middle_);
   const auto column = static_cast<int>(x);
   const auto row = static_cast<int>(y);
+  const std::size_t half = direction[2] < 0 ? static_cast<std::size_t>(opposite_) : 0;
   const double px = x - column;
   const double py = y - row;
-  const auto value = [this, row, column](int down, int right) {
-    return static_cast<double>(values_[static_cast<std::size_t>(row + down) * static_cast<std::size_t>(size_) +
+  const auto value = [this, half, row, column](int down, int right) {
+    return static_cast<double>(values_[half + static_cast<std::size_t>(row + down) * static_cast<std::size_t>(size_) +
                                        static_cast<std::size_t>(column + right)]);
   };
   const double upper = value(0, 0) + px * (value(0, 1) - value(0, 0));

@@ -195,7 +195,7 @@ std::span<const Orientation> OrientationVote::vote(const VoteTable& table, std::
     };
     if (std::any_of(solutions_.begin(), solutions_.end(), same)) continue;
     Orientation solution{candidate.rotation, 0, 0, 0};
-    for (int round = 0; round < 3; ++round) {
+    for (int round = 0; settings.turn_onto_bands && round < 3; ++round) {
       match_bands(table, bands, solution.crystal_from_picture, settings.tolerance_deg, matches_);
       solution.crystal_from_picture = fit_orientation(table, bands, matches_, solution.crystal_from_picture);
     }

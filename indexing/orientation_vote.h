@@ -41,6 +41,7 @@ class VoteTable {
 struct VoteSettings {
   double tolerance_deg = 2.5;  ///< between a band and the plane that it is taken for
   int most_solutions = 10;
+  bool turn_onto_bands = true;  ///< by least squares over all that match; else two bands alone tell the orientation
 };
 
 struct MatchedBand {

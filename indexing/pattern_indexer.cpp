@@ -113,6 +113,18 @@ std::span<const IndexSolution> PatternIndexer::index_taken(const PatternCentre& 
   return solutions_;
 }
 
+PictureFit PatternIndexer::settle(const CrystalModel& model, const PictureFit& fit, const PatternCentre& centre,
+                                  const IndexSettings& settings) {
+  if (!model.sphere->continuous()) return fit;
+  FitSettings last = settings.fit;
+  last.evened = true;
+  last.most_steps = 3;
+  const PictureFit settled = fitter_.fit(*model.sphere, fit.crystal_from_picture, centre, last);
+  const bool near =
+      misorientation_deg(settled.crystal_from_picture, fit.crystal_from_picture) < settings.vote.tolerance_deg;
+  return near && settled.correlation > 0 ? settled : fit;
+}
+
 /// Orders the solutions, and tells anew what fits of the bands where the picture has moved an orientation.
 void PatternIndexer::rate(const IndexSettings& settings) {
   std::sort(solutions_.begin(), solutions_.end(), [](const IndexSolution& a, const IndexSolution& b) {

@@ -74,6 +74,9 @@ class PatternIndexer {
                                const IndexSettings& settings) {
     return fitter_.fit(*model.sphere, start, centre, settings.fit);
   }
+  /// The last steps of a fit that is nearly done: with the computed picture made even as well, where it has all greys.
+  [[nodiscard]] PictureFit settle(const CrystalModel& model, const PictureFit& fit, const PatternCentre& centre,
+                                  const IndexSettings& settings);
   /// Finds the bands of the picture taken, and orientations by them. @returns none where too few bands were found
   std::span<const IndexSolution> index_taken(const PatternCentre& centre, std::span<const CrystalModel* const> models,
                                              const IndexSettings& settings, Task& task);

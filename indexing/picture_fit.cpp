@@ -5,6 +5,7 @@
 #include <cmath>
 #include <cstddef>
 #include <numbers>
+#include <utility>
 
 #include "indexing/vector_clones.h"
 
@@ -21,8 +22,8 @@ struct DirectionRow {
 };
 
 /// Where a row of directions falls on the sphere's grid: the point below, and the parts of a step beyond it.
-ZOL_VECTOR_CLONES void places_of(const DirectionRow& row, int count, float scale, float middle, int size, int* places,
-                                 float* parts_x, float* parts_y) {
+ZOL_VECTOR_CLONES void places_of(const DirectionRow& row, int count, float scale, float middle, int size, int opposite,
+                                 int* places, float* parts_x, float* parts_y) {
   for (int i = 0; i < count; ++i) {
     const auto n = static_cast<float>(i);
     const float x = row.x + n * row.dx;
@@ -33,7 +34,7 @@ ZOL_VECTOR_CLONES void places_of(const DirectionRow& row, int count, float scale
     const float gy = y * per + middle;
     const int column = static_cast<int>(gx);
     const int line = static_cast<int>(gy);
-    places[i] = line * size + column;
+    places[i] = line * size + column + (z < 0 ? opposite : 0);
     parts_x[i] = gx - static_cast<float>(column);
     parts_y[i] = gy - static_cast<float>(line);
   }
@@ -127,6 +128,7 @@ void PictureFitter::take(const PreparedPicture& picture) {
         if (x == 0 || y == 0 || x == w - 1 || y == h - 1) mask_[index(y) * index(w) + index(x)] = 0;
       }
     }
+    even_.shape(w, h, picture.mask(), picture.background_radius());
     places_.resize(index(w));
     parts_.resize(2 * index(w));
     slopes_.resize(most_parameters * size);
@@ -154,7 +156,8 @@ void draw_row(const KinematicSphere& sphere, const Rotation& crystal_from_pictur
   const Vector3 first = crystal_from_picture * projection.direction(0.5, y + 0.5);
   const DirectionRow row{static_cast<float>(first[0]), static_cast<float>(first[1]), static_cast<float>(first[2]),
                          static_cast<float>(step[0]),  static_cast<float>(step[1]),  static_cast<float>(step[2])};
-  places_of(row, picture.width, sphere.scale(), sphere.middle(), sphere.size(), places, parts, parts + picture.width);
+  places_of(row, picture.width, sphere.scale(), sphere.middle(), sphere.size(), sphere.opposite(), places, parts,
+            parts + picture.width);
   look_up(sphere.values().data(), sphere.size(), picture.width, places, parts, parts + picture.width,
           picture.values + index(y) * index(picture.width));
 }
@@ -190,6 +193,7 @@ double PictureFitter::correlation(const KinematicSphere& sphere, const Rotation&
 void PictureFitter::draw(const KinematicSphere& sphere, const Place& place) {
   draw_bands(sphere, place.crystal_from_picture, picture_->projection(place.centre),
              {computed_.data(), picture_->width(), picture_->height()}, places_.data(), parts_.data());
+  if (evened_) (void)even_.even(computed_);
 }
 
 double PictureFitter::correlate() {
@@ -222,11 +226,14 @@ void PictureFitter::slopes_from_picture(const Projection& projection) {
 }
 
 /// By pictures to both sides: rotation and centre do nearly the same, so that their small difference must be exact.
-void PictureFitter::slopes_from_draws(const KinematicSphere& sphere, const Place& place) {
+void PictureFitter::slopes_from_draws(const KinematicSphere& sphere, const Place& place, int parameters) {
   constexpr double turn = 0.1 * radians;
   kept_ = computed_;
   const double shift = turn * picture_->projection(place.centre).distance();
-  for (int p = 0; p < most_parameters; ++p) {
+  // What evens a picture hardly changes with a small step.
+  const bool evened = std::exchange(evened_, false);
+  if (evened) gain_ = even_.gain();
+  for (int p = 0; p < parameters; ++p) {
     Parameters step = Parameters::Zero();
     const double size = p < 3 ? turn : shift;
     step[p] = size;
@@ -236,7 +243,9 @@ void PictureFitter::slopes_from_draws(const KinematicSphere& sphere, const Place
     draw(sphere, moved(place, -step));
     const auto per = static_cast<float>(0.5 / size);
     for (std::size_t i = 0; i < kept_.size(); ++i) slope[i] = (slope[i] - computed_[i]) * per * mask_[i];
+    for (std::size_t i = 0; evened && i < kept_.size(); ++i) slope[i] *= gain_[i];
   }
+  evened_ = evened;
   std::swap(computed_, kept_);
 }
 
@@ -282,6 +291,7 @@ PictureFitter::Place PictureFitter::moved(const Place& place, const Parameters& 
 PictureFit PictureFitter::fit(const KinematicSphere& sphere, const Rotation& start, const PatternCentre& centre,
                               const FitSettings& settings) {
   const int parameters = settings.centre ? most_parameters : 3;
+  evened_ = settings.evened;
   Place place{start, centre};
   draw(sphere, place);
   PictureFit best{start, centre, correlate(), 0, {}};
@@ -291,8 +301,8 @@ PictureFit PictureFitter::fit(const KinematicSphere& sphere, const Rotation& sta
   bool fresh = true;  // whether the sums are to be made anew
   while (best.correlation > 0 && best.steps < settings.most_steps) {
     if (fresh) {
-      if (settings.centre) {
-        slopes_from_draws(sphere, place);
+      if (settings.centre || settings.evened) {
+        slopes_from_draws(sphere, place, parameters);
       } else {
         slopes_from_picture(picture_->projection(place.centre));
       }
@@ -324,6 +334,7 @@ PictureFit PictureFitter::fit(const KinematicSphere& sphere, const Rotation& sta
     }
     if (size < settings.least_turn_deg || damping > most_damping) break;
   }
+  evened_ = false;
   return best;
 }
 

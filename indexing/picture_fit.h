@@ -19,6 +19,7 @@ struct FitSettings {
   double least_turn_deg = 0.003;  ///< a smaller step is the last
   bool centre = false;            ///< whether the pattern centre is free too
   double most_turn_deg = 3;       ///< of one step
+  bool evened = false;            ///< the computed picture is made even as the measured one was
 };
 
 struct PictureFit {
@@ -58,7 +59,7 @@ class PictureFitter {
   double correlate();
   // How what was drawn changes with each parameter, and the sums for one step from it
   void slopes_from_picture(const Projection& projection);
-  void slopes_from_draws(const KinematicSphere& sphere, const Place& place);
+  void slopes_from_draws(const KinematicSphere& sphere, const Place& place, int parameters);
   void sum_up(int parameters, Normal& normal, Parameters& right) const;
   void note_errors(int parameters, const Normal& normal, PictureFit& fit) const;
 
@@ -67,9 +68,11 @@ class PictureFitter {
   };
   const PreparedPicture* picture_ = nullptr;
   int shape_version_ = -1;
+  EvenContrast even_;
+  bool evened_ = false;  ///< what is drawn now is to be made even
   double count_ = 0, norm_ = 0;
   Sums sums_;
-  std::vector<float> mask_, measured_, computed_, kept_, parts_, slopes_;
+  std::vector<float> mask_, measured_, computed_, kept_, gain_, parts_, slopes_;
   std::vector<int> places_;
 };
 

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/task.h"
+#include "indexing/even_contrast.h"
 #include "indexing/picture.h"
 
 namespace zol {
@@ -34,19 +35,21 @@ class PreparedPicture {
   [[nodiscard]] const std::vector<float>& mask() const { return mask_; }
   /// Spread of the grey values about their local mean, in those of the picture, of the last one.
   [[nodiscard]] double contrast() const { return contrast_; }
+  /// Pixels over which the local mean was taken.
+  [[nodiscard]] int background_radius() const { return background_radius_; }
   /// Changes with size and mask of the picture, for what depends only on them.
   [[nodiscard]] int shape_version() const { return shape_version_; }
 
  private:
   void shape(const PictureView& picture, const PreparationSettings& settings);
   void gather(const PictureView& picture, Task& task);
-  void blur(std::vector<float>& image, int radius);
 
   int picture_width_ = 0, picture_height_ = 0;
   bool circle_ = false;
-  int bin_ = 1, width_ = 0, height_ = 0, shape_version_ = 0;
+  int bin_ = 1, width_ = 0, height_ = 0, shape_version_ = 0, background_radius_ = 0;
   double projection_width_ = 0, contrast_ = 0;
-  std::vector<float> values_, mask_, mask_mean_, mean_, spread_, row_, column_;
+  EvenContrast even_;
+  std::vector<float> values_, mask_;
 };
 
 }  // namespace zol

@@ -12,6 +12,9 @@ screen_packages="xvfb openbox"
 style_packages="codespell clang-format-14 clang-tidy-14 clang-14 cppcheck desktop-file-utils appstream mandoc"
 fuzz_packages="clang-14 libclang-rt-14-dev"
 
+# For zol-batch in many processes (ZOL_BUILD_MPI).
+mpi_packages="libopenmpi-dev openmpi-bin"
+
 # Installs the packages among the arguments that are not there, and says so.
 ensure_packages() {
   local missing=()

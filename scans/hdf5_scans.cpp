@@ -1,11 +1,12 @@
 // Scans in HDF5 files: kikuchipy, EDAX, Bruker, Oxford and EMsoft, told apart by the names of their arrays.
 #include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <numbers>
 #include <utility>
 
 #include "core/run_failure.h"
-#include "scans/hdf5_file.h"
+#include "hdf5/hdf5_file.h"
 #include "scans/readers.h"
 
 namespace zol {
@@ -294,10 +295,16 @@ class Hdf5Scan : public Scan {
     const auto x = header_number("xpc");
     const auto y = header_number("ypc");
     const auto distance = header_number("L");
-    if (x && y && distance && *distance > 0) {
-      header_.centres = {{{*x, *y, *distance}, CentreConvention::Emsoft}};
+    if (!x || !y || !distance || !(*distance > 0)) return;
+    // Up to version 4 the first number grows to the right, from version 5 on to the left.
+    const std::string version = file_.text("EMheader/EBSD/Version");
+    const bool told = !version.empty() && version[0] >= '1' && version[0] <= '9';
+    const bool to_the_right = told && std::atoi(version.c_str()) < 5;
+    header_.centres = {{{to_the_right ? -*x : *x, *y, *distance}, CentreConvention::Emsoft}};
+    if (!told) {
       header_.remarks.emplace_back(
-          "the centre is taken as EMsoft 5 writes it; earlier versions reverse its first number");
+          "the file tells no version of EMsoft; the centre is taken as 5 writes it, earlier ones reverse its first "
+          "number");
     }
   }
 

@@ -126,21 +126,7 @@ std::array<double, 3> oxford_angles_deg(const PointResult& point, const CellCons
           within_turn(phi2 + cell.gamma - quarter)};
 }
 
-}  // namespace
-
-int edax_symmetry(const std::string& laue_class) { return laue(laue_class).edax; }
-int oxford_laue_group(const std::string& laue_class) { return laue(laue_class).oxford; }
-
-std::string ang_text(const MapResult& map) {
-  std::string text = ang_header(map);
-  constexpr std::size_t of_line = 84;
-  text.reserve(text.size() + map.points.size() * of_line);
-  for (std::size_t i = 0; i < map.points.size(); ++i) text += line_of_ang(map, i);
-  return text;
-}
-
-std::string ctf_text(const MapResult& map) {
-  if (map.grid.hexagonal) throw RunFailure(".ctf holds square grids only; write .ang or .h5");
+std::string ctf_header(const MapResult& map) {
   std::string text = "Channel Text File\nPrj\t" + map.source + "\nAuthor\t[Unknown]\nJobMode\tGrid\nXCells\t" +
                      std::to_string(map.grid.columns) + "\nYCells\t" + std::to_string(map.grid.rows) + "\nXStep\t" +
                      fixed(map.grid.step_x, 4) + "\nYStep\t" + fixed(map.grid.step_y, 4) +
@@ -155,41 +141,75 @@ std::string ctf_text(const MapResult& map) {
             std::to_string(laue(phase.laue_class).oxford) + '\t' + std::to_string(phase.space_group) + "\t\t\t\n";
   }
   text += "Phase\tX\tY\tBands\tError\tEuler1\tEuler2\tEuler3\tMAD\tBC\tBS\n";
-  constexpr double most_contrast = 255;
-  for (std::size_t i = 0; i < map.points.size(); ++i) {
-    const PointResult& point = map.points[i];
-    const bool indexed = point.phase > 0;
-    const auto [x, y] = place_of(map.grid, i);
-    const std::array<double, 3> none{};
-    const auto angles =
-        indexed ? oxford_angles_deg(point, map.phases[static_cast<std::size_t>(point.phase - 1)].cell) : none;
-    const int error = indexed ? 0 : point.missing != 0 ? 5 : 3;
-    text += std::to_string(int{point.phase}) + '\t' + fixed(x, 4) + '\t' + fixed(y, 4) + '\t' +
-            std::to_string(indexed ? int{point.bands} : 0) + '\t' + std::to_string(error);
-    for (const double angle : angles) text += '\t' + fixed(angle, 4);
-    const long contrast = std::lround(static_cast<double>(point.quality) * most_contrast);
-    text +=
-        '\t' + fixed(indexed ? static_cast<double>(point.fit_deg) : 0, 4) + '\t' + std::to_string(contrast) + "\t0\n";
-  }
   return text;
 }
 
-std::string csv_text(const MapResult& map) {
-  std::string text = "column,row,x,y,phase,phi1,Phi,phi2,quality,confidence,fit,bands\n";
-  for (std::size_t i = 0; i < map.points.size(); ++i) {
-    const PointResult& point = map.points[i];
-    const auto [column, row] = map.grid.place(i);
-    const auto [x, y] = place_of(map.grid, i);
-    text += std::to_string(column) + ',' + std::to_string(row) + ',' + fixed(x, 4) + ',' + fixed(y, 4) + ',' +
-            std::to_string(int{point.phase});
-    for (const float angle : point.bunge_rad) {
-      text += point.phase > 0 ? ',' + fixed(static_cast<double>(angle) * degrees, 4) : ",";
-    }
-    text += ',' + fixed(static_cast<double>(point.quality), 4) + ',' + fixed(static_cast<double>(point.confidence), 4) +
-            ',' + fixed(static_cast<double>(point.fit_deg), 4) + ',' + std::to_string(int{point.bands}) + '\n';
-  }
+std::string line_of_ctf(const MapResult& map, std::size_t i) {
+  constexpr double most_contrast = 255;
+  std::string text;
+  const PointResult& point = map.points[i];
+  const bool indexed = point.phase > 0;
+  const auto [x, y] = place_of(map.grid, i);
+  const std::array<double, 3> none{};
+  const auto angles =
+      indexed ? oxford_angles_deg(point, map.phases[static_cast<std::size_t>(point.phase - 1)].cell) : none;
+  const int error = indexed ? 0 : point.missing != 0 ? 5 : 3;
+  text += std::to_string(int{point.phase}) + '\t' + fixed(x, 4) + '\t' + fixed(y, 4) + '\t' +
+          std::to_string(indexed ? int{point.bands} : 0) + '\t' + std::to_string(error);
+  for (const double angle : angles) text += '\t' + fixed(angle, 4);
+  const long contrast = std::lround(static_cast<double>(point.quality) * most_contrast);
+  text += '\t' + fixed(indexed ? static_cast<double>(point.fit_deg) : 0, 4) + '\t' + std::to_string(contrast) + "\t0\n";
   return text;
 }
+
+std::string line_of_csv(const MapResult& map, std::size_t i) {
+  std::string text;
+  const PointResult& point = map.points[i];
+  const auto [column, row] = map.grid.place(i);
+  const auto [x, y] = place_of(map.grid, i);
+  text += std::to_string(column) + ',' + std::to_string(row) + ',' + fixed(x, 4) + ',' + fixed(y, 4) + ',' +
+          std::to_string(int{point.phase});
+  for (const float angle : point.bunge_rad) {
+    text += point.phase > 0 ? ',' + fixed(static_cast<double>(angle) * degrees, 4) : ",";
+  }
+  text += ',' + fixed(static_cast<double>(point.quality), 4) + ',' + fixed(static_cast<double>(point.confidence), 4) +
+          ',' + fixed(static_cast<double>(point.fit_deg), 4) + ',' + std::to_string(int{point.bands}) + '\n';
+  return text;
+}
+
+/// What the text of a file of maps is made of.
+struct MapText {
+  std::string (*head)(const MapResult& map);
+  std::string (*line)(const MapResult& map, std::size_t point);
+};
+constexpr MapText ang{ang_header, line_of_ang};
+constexpr MapText ctf{ctf_header, line_of_ctf};
+constexpr MapText csv{[](const MapResult& /*map*/) -> std::string {
+                        return "column,row,x,y,phase,phi1,Phi,phi2,quality,confidence,fit,bands\n";
+                      },
+                      line_of_csv};
+
+std::string whole(const MapText& kind, const MapResult& map) {
+  std::string text = kind.head(map);
+  for (std::size_t i = 0; i < map.points.size(); ++i) text += kind.line(map, i);
+  return text;
+}
+
+void check_grid_of_ctf(const MapResult& map) {
+  if (map.grid.hexagonal) throw RunFailure(".ctf holds square grids only; write .ang or .h5");
+}
+
+}  // namespace
+
+int edax_symmetry(const std::string& laue_class) { return laue(laue_class).edax; }
+int oxford_laue_group(const std::string& laue_class) { return laue(laue_class).oxford; }
+
+std::string ang_text(const MapResult& map) { return whole(ang, map); }
+std::string ctf_text(const MapResult& map) {
+  check_grid_of_ctf(map);
+  return whole(ctf, map);
+}
+std::string csv_text(const MapResult& map) { return whole(csv, map); }
 
 namespace {
 
@@ -210,8 +230,15 @@ void check_map_path(const std::string& path) {
 void write_map(const MapResult& map, const std::string& path) {
   check_map_path(path);
   if (ends_with_any(path, {".h5", ".oh5"})) return write_map_hdf5(map, path);
+  if (path.ends_with(".ctf")) check_grid_of_ctf(map);
+  const MapText& kind = path.ends_with(".ang") ? ang : path.ends_with(".ctf") ? ctf : csv;
   AtomicFile file(path);
-  file.contain(path.ends_with(".ang") ? ang_text(map) : path.ends_with(".ctf") ? ctf_text(map) : csv_text(map));
+  file.write(kind.head(map));
+  constexpr std::size_t in_memory = 8192;  // lines
+  for (std::size_t i = 0; i < map.points.size(); ++i) {
+    file.write(kind.line(map, i));
+    if (i % in_memory == in_memory - 1) file.flush();
+  }
   file.commit();
 }
 

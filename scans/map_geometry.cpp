@@ -25,8 +25,8 @@ PatternCentre MapCentres::at(std::size_t point) const {
   const auto [column, row] = grid_.place(point);
   const double right = column - (grid_.columns - 1) / 2.0;
   const double down = row - (grid_.rows - 1) / 2.0;
-  return {middle_.x + right * per_column_[0], middle_.y + down * per_row_[1],
-          middle_.z + right * per_column_[2] + down * per_row_[2]};
+  const auto moved = [&](double middle, std::size_t i) { return middle + right * per_column_[i] + down * per_row_[i]; };
+  return {moved(middle_.x, 0), moved(middle_.y, 1), moved(middle_.z, 2)};
 }
 
 }  // namespace zol

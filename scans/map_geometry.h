@@ -23,6 +23,10 @@ class MapCentres {
   MapCentres(const PatternCentre& middle, const MapGeometry& geometry, const ScanGrid& grid);
   /// One for each point.
   explicit MapCentres(std::vector<PatternCentre> of_points) : of_points_(std::move(of_points)) {}
+  /// x, y, z of the middle of the map and what they grow by from one column or row to the next.
+  MapCentres(const PatternCentre& middle, const std::array<double, 3>& per_column, const std::array<double, 3>& per_row,
+             const ScanGrid& grid)
+      : middle_(middle), grid_(grid), per_column_(per_column), per_row_(per_row) {}
 
   [[nodiscard]] PatternCentre at(std::size_t point) const;
 

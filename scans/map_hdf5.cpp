@@ -1,72 +1,15 @@
 // Maps as HDF5: EDAX's layout under "Scan 1/EBSD/Data" and "Header", and the crystal map of kikuchipy and orix beside
 // it.
-#include <hdf5.h>
-
 #include <array>
 #include <cstdint>
-#include <filesystem>
 #include <numbers>
 #include <utility>
 
-#include "core/run_failure.h"
-#include "scans/hdf5_file.h"
+#include "hdf5/hdf5_writer.h"
 #include "scans/map_files.h"
 
 namespace zol {
 namespace {
-
-/// Writes values; the first failure is remembered.
-class Hdf5Writer {
- public:
-  explicit Hdf5Writer(const std::string& path)
-      : file_(H5Fcreate(path.c_str(), H5F_ACC_TRUNC, H5P_DEFAULT, H5P_DEFAULT),
-              [](std::int64_t id) { return H5Fclose(id); }),
-        links_(H5Pcreate(H5P_LINK_CREATE), [](std::int64_t id) { return H5Pclose(id); }) {
-    (void)H5Pset_create_intermediate_group(links_.id(), 1);
-    good_ = bool(file_);
-  }
-  [[nodiscard]] bool good() const { return good_; }
-  [[nodiscard]] bool flush() { return good_ && H5Fflush(file_.id(), H5F_SCOPE_GLOBAL) >= 0; }
-
-  template <class Value>
-  void array(const std::string& place, const std::vector<Value>& values) {
-    put(place, type_of<Value>(), {values.size()}, values.data());
-  }
-  template <class Value>
-  void single(const std::string& place, Value value) {
-    put(place, type_of<Value>(), {1}, &value);
-  }
-  void text(const std::string& place, const std::string& value) {
-    const Hdf5Handle type(H5Tcopy(H5T_C_S1), [](std::int64_t id) { return H5Tclose(id); });
-    (void)H5Tset_size(type.id(), H5T_VARIABLE);
-    (void)H5Tset_cset(type.id(), H5T_CSET_UTF8);
-    const char* held = value.c_str();
-    put(place, type.id(), {1}, &held);
-  }
-
- private:
-  template <class Value>
-  static hid_t type_of() {
-    if constexpr (std::is_same_v<Value, float>) return H5T_NATIVE_FLOAT;
-    if constexpr (std::is_same_v<Value, double>) return H5T_NATIVE_DOUBLE;
-    if constexpr (std::is_same_v<Value, std::int8_t>) return H5T_NATIVE_INT8;
-    if constexpr (std::is_same_v<Value, std::uint8_t>) return H5T_NATIVE_UINT8;
-    return H5T_NATIVE_INT32;
-  }
-
-  void put(const std::string& place, hid_t type, const std::vector<hsize_t>& sides, const void* values) {
-    if (!good_) return;
-    const Hdf5Handle space(H5Screate_simple(static_cast<int>(sides.size()), sides.data(), nullptr),
-                           [](std::int64_t id) { return H5Sclose(id); });
-    const Hdf5Handle dataset(
-        H5Dcreate2(file_.id(), place.c_str(), type, space.id(), links_.id(), H5P_DEFAULT, H5P_DEFAULT),
-        [](std::int64_t id) { return H5Dclose(id); });
-    good_ = dataset && H5Dwrite(dataset.id(), type, H5S_ALL, H5S_ALL, H5P_DEFAULT, values) >= 0;
-  }
-
-  Hdf5Handle file_, links_;
-  bool good_ = false;
-};
 
 template <class Value, class Get>
 std::vector<Value> column_of(const MapResult& map, const Get& get) {
@@ -182,23 +125,12 @@ void write_crystal_map(Hdf5Writer& out, const MapResult& map) {
 }  // namespace
 
 void write_map_hdf5(const MapResult& map, const std::string& path) {
-  // The library writes the file itself: beside its place first, so that no half one stands there.
-  const std::string beside = path + ".part-hdf5";
-  bool good = false;
-  {
-    Hdf5Writer out(beside);
+  write_hdf5(path, [&map](Hdf5Writer& out) {
     write_edax(out, map);
     write_crystal_map(out, map);
     out.text("ZOL/settings", map.settings);
     out.text("ZOL/source", map.source);
-    good = out.flush();
-  }
-  std::error_code error;
-  if (good) std::filesystem::rename(beside, path, error);
-  if (!good || error) {
-    std::filesystem::remove(beside, error);
-    throw RunFailure("can't write " + path);
-  }
+  });
 }
 
 }  // namespace zol

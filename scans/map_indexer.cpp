@@ -1,6 +1,7 @@
 #include "scans/map_indexer.h"
 
 #include <algorithm>
+#include <chrono>
 #include <cmath>
 #include <cstddef>
 #include <numbers>
@@ -44,7 +45,29 @@ float smoothness(const PreparedPicture& picture) {
   return square > 0 ? static_cast<float>(std::clamp(product / (2 * square), 0.0, 1.0)) : 0.0F;
 }
 
+/// Adds the time until it goes.
+class Timed {
+ public:
+  explicit Timed(double& seconds) : seconds_(seconds) {}
+  Timed(const Timed&) = delete;
+  Timed& operator=(const Timed&) = delete;
+  ~Timed() { seconds_ += std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count(); }
+
+ private:
+  double& seconds_;
+  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
+};
+
 }  // namespace
+
+StepTimes& StepTimes::operator+=(const StepTimes& other) {
+  reading += other.reading;
+  averaging += other.averaging;
+  preparing += other.preparing;
+  trying += other.trying;
+  finding += other.finding;
+  return *this;
+}
 
 /// An orientation that was found beside a point.
 struct MapIndexer::Guess {
@@ -65,6 +88,7 @@ MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std
       saturated_(static_cast<float>(std::ldexp(1.0, std::min(scan.header().bits, 24)) - 1)),
       rounding_(scan.header().whole ? 1.0F / 12 : 0.0F) {
   settings_.index.fit_picture = settings.refinement == Refinement::pattern;
+  settings_.index.vote.turn_onto_bands = settings.refinement != Refinement::none;
   auto [left, top, width, height] = settings.region;
   if (width == 0 && height == 0) {
     width = grid.columns;
@@ -74,15 +98,32 @@ MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std
     throw RunFailure("the region lies outside the map of " + std::to_string(grid.columns) + " x " +
                      std::to_string(grid.rows) + " points");
   }
-  for (int row = top; row < top + height; row += tile_rows) {
-    for (int column = left; column < left + width; column += tile_columns) {
-      tiles_.push_back(
-          {column, row, std::min(tile_columns, left + width - column), std::min(tile_rows, top + height - row)});
+  const auto [across, down] = tile_size();
+  for (int row = top; row < top + height; row += down) {
+    for (int column = left; column < left + width; column += across) {
+      tiles_.push_back({column, row, std::min(across, left + width - column), std::min(down, top + height - row)});
     }
   }
 }
 
+/// Smaller for large patterns, so that a tile with its margin takes no more than some memory.
+std::array<int, 2> MapIndexer::tile_size() const {
+  constexpr std::size_t most_bytes = std::size_t{192} << 20U;
+  constexpr int least_columns = 8;
+  constexpr int least_rows = 2;
+  int columns = tile_columns;
+  int rows = tile_rows;
+  const auto too_large = [&] {
+    return index(columns + 2 * margin()) * index(rows + 2 * margin()) * scan_.header().pixels() * sizeof(float) >
+           most_bytes;
+  };
+  while (too_large() && columns > least_columns) columns /= 2;
+  while (too_large() && rows > least_rows) rows /= 2;
+  return {columns, rows};
+}
+
 void MapIndexer::read_tile(const MapTile& tile, int margin, Worker& worker) {
+  const Timed timed(worker.times.reading);
   const std::size_t pixels = scan_.header().pixels();
   PatternTile& into = worker.tile;
   into.columns = tile.columns + 2 * margin;
@@ -120,12 +161,15 @@ void MapIndexer::prepare(Task& task) {
 void MapIndexer::find_background(Task& task) {
   constexpr std::size_t looked_at = 400;
   constexpr std::size_t least = 100;  ///< fewer do not cancel
-  background_ = scan_.header().static_background;
+  const bool given = !settings_.background_picture.empty();
+  background_ = given ? settings_.background_picture : scan_.header().static_background;
+  background_kind_ = given ? BackgroundKind::given : BackgroundKind::of_scan;
   if (background_.empty() && settings_.background == Background::stored) {
     throw RunFailure("the scan holds no static background");
   }
   const std::size_t points = grid_.points();
   if (background_.empty() && points >= least) {
+    background_kind_ = BackgroundKind::mean_of_points;
     background_.assign(scan_.header().pixels(), 0);
     PatternBlock block;
     std::size_t used = 0;
@@ -143,6 +187,7 @@ void MapIndexer::find_background(Task& task) {
   for (const float value : background_) background_mean_ += static_cast<double>(value);
   background_mean_ /= static_cast<double>(std::max<std::size_t>(background_.size(), 1));
   if (!(background_mean_ > 0)) background_.clear();
+  if (background_.empty()) background_kind_ = BackgroundKind::none;
 }
 
 void MapIndexer::find_likeness(Task& task) {
@@ -171,6 +216,7 @@ void MapIndexer::find_likeness(Task& task) {
 /// The pattern of a place of the worker's tile as it is indexed: averaged, without background, turned upside down so
 /// that its frame is right-handed.
 void MapIndexer::pattern_of(int column, int row, Worker& worker) const {
+  const Timed timed(worker.times.averaging);
   const PatternTile& tile = worker.tile;
   worker.pattern.resize(tile.pixels);
   worker.picture.resize(tile.pixels);
@@ -206,12 +252,34 @@ void MapIndexer::pattern_of(int column, int row, Worker& worker) const {
   }
 }
 
-void MapIndexer::index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task) {
-  const int margin = settings_.averaging == Averaging::likeness ? LikenessAverage::margin
-                     : settings_.averaging == Averaging::plain  ? 1
-                                                                : 0;
-  read_tile(tile, margin, worker);
+/// Points about a tile that its own ones are averaged with.
+int MapIndexer::margin() const {
+  if (settings_.averaging == Averaging::likeness) return LikenessAverage::margin;
+  return settings_.averaging == Averaging::plain ? 1 : 0;
+}
+
+bool MapIndexer::shows_something(const Worker& worker) const {
+  return !scan_.header().whole || worker.indexer.prepared().contrast() >= least_contrast;
+}
+
+bool MapIndexer::take_point(std::size_t point, Worker& worker, Task& task) {
+  const int margin = this->margin();
+  const auto [column, row] = grid_.place(point);
+  read_tile({column, row, 1, 1}, margin, worker);
+  if (worker.tile.present[worker.tile.place(margin, margin)] == 0) return false;
   if (settings_.averaging == Averaging::likeness) worker.likeness.look_at(worker.tile);
+  pattern_of(margin, margin, worker);
+  const PictureView picture{worker.picture, scan_.header().width, scan_.header().height};
+  return worker.indexer.take(picture, settings_.index, task) && shows_something(worker);
+}
+
+void MapIndexer::index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task) {
+  const int margin = this->margin();
+  read_tile(tile, margin, worker);
+  if (settings_.averaging == Averaging::likeness) {
+    const Timed timed(worker.times.averaging);
+    worker.likeness.look_at(worker.tile);
+  }
   found.assign(index(tile.columns) * index(tile.rows), {});
   std::vector<Guess> known(found.size());
   std::vector<Guess> guesses;
@@ -241,9 +309,12 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
   const PictureSize size{scan_.header().width, scan_.header().height, 1};
   const PictureView picture{worker.picture, size.width, size.height};
   PatternIndexer& indexer = worker.indexer;
-  if (!indexer.take(picture, settings_.index, task)) return result;
-  if (scan_.header().whole && indexer.prepared().contrast() < least_contrast) return result;
-  result.quality = smoothness(indexer.prepared());
+  {
+    const Timed timed(worker.times.preparing);
+    if (!indexer.take(picture, settings_.index, task)) return result;
+    if (!shows_something(worker)) return result;
+    result.quality = smoothness(indexer.prepared());
+  }
   const PatternCentre centre = upside_down(centres_.at(point), size);
   const bool on_picture = settings_.index.fit_picture;
   Guess best;
@@ -252,6 +323,7 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
   double fit_deg = 0;
   bool settled = false;
   if (on_picture) {
+    const Timed timed(worker.times.trying);
     for (const Guess& guess : guesses) {
       const PictureFit fit = indexer.fit(*guess.model, guess.crystal_from_picture, centre, settings_.index);
       if (fit.correlation <= best.correlation) continue;
@@ -262,6 +334,7 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
     }
   }
   if (!settled) {
+    const Timed timed(worker.times.finding);
     for (const IndexSolution& solution : indexer.index_taken(centre, models_, settings_.index, task)) {
       if (on_picture && solution.correlation <= best.correlation) continue;
       if (!on_picture && best.model != nullptr) break;  // they stand in order
@@ -277,6 +350,11 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
     }
   }
   if (best.model == nullptr) return result;
+  if (on_picture) {
+    best_fit.crystal_from_picture = best.crystal_from_picture;
+    best_fit = indexer.settle(*best.model, best_fit, centre, settings_.index);
+    best.crystal_from_picture = best_fit.crystal_from_picture;
+  }
   if (on_picture) fit_deg = std::hypot(best_fit.errors[0], best_fit.errors[1], best_fit.errors[2]);
   result.confidence = static_cast<float>(best.correlation);
   result.fit_deg = static_cast<float>(fit_deg);

@@ -6,6 +6,7 @@
 // orientations, all are fitted, and the best stays.
 #pragma once
 
+#include <array>
 #include <functional>
 #include <mutex>
 #include <span>
@@ -18,20 +19,35 @@
 
 namespace zol {
 
-enum class Refinement { bands, pattern };
+enum class Refinement { none, bands, pattern };
 enum class Background { automatic, stored, dynamic, none };
+
+/// What static background was found.
+enum class BackgroundKind { none, given, of_scan, mean_of_points };
 
 struct MapSettings {
   MapGeometry geometry;
   IndexSettings index;
   Refinement refinement = Refinement::pattern;
   Background background = Background::automatic;
+  std::vector<float> background_picture;  ///< to be taken as the stored one instead of the scan's own
   Averaging averaging = Averaging::likeness;
   double own_share = 0.34;        ///< that the middle point keeps of itself when it is averaged by likeness
   double least_confidence = 0.1;  ///< below it a point counts as not indexed
   double most_fit_deg = 3;
   bool flip = false;            ///< patterns stand upside down in the file
   std::array<int, 4> region{};  ///< x, y, width, height of the part of the map that is indexed; all 0: the whole
+};
+
+/// Seconds of a thread.
+struct StepTimes {
+  double reading = 0;    ///< with the wait for other threads that read
+  double averaging = 0;  ///< and the background
+  double preparing = 0;
+  double trying = 0;   ///< of the neighbours' orientations
+  double finding = 0;  ///< bands, votes, and the fits of what they give
+
+  StepTimes& operator+=(const StepTimes& other);
 };
 
 /// A part of the map that is worked on at once.
@@ -48,7 +64,20 @@ class MapIndexer {
   [[nodiscard]] const std::vector<MapTile>& tiles() const { return tiles_; }
   /// Looks at a few points all over the map: mean picture, length of likeness. To be called first.
   void prepare(Task& task);
+  /// Of averaging by likeness: the length at which weights have fallen to 1/e.
   [[nodiscard]] double likeness() const { return likeness_; }
+  [[nodiscard]] BackgroundKind background_kind() const { return background_kind_; }
+
+  [[nodiscard]] const ScanGrid& grid() const { return grid_; }
+  [[nodiscard]] const std::vector<const CrystalModel*>& models() const { return models_; }
+  [[nodiscard]] const IndexSettings& index_settings() const { return settings_.index; }
+  [[nodiscard]] PictureSize picture_size() const { return {scan_.header().width, scan_.header().height, 1}; }
+  /// The pattern centre of a point in its picture turned upside down, as it is indexed.
+  [[nodiscard]] PatternCentre turned_centre(std::size_t point) const {
+    return upside_down(centres_.at(point), picture_size());
+  }
+  /// Centres that were found meanwhile. Not while other threads index.
+  void set_centres(MapCentres centres) { centres_ = std::move(centres); }
 
   /// The storage of one thread.
   struct Worker {
@@ -58,10 +87,14 @@ class MapIndexer {
     LikenessAverage likeness;
     PatternIndexer indexer;
     std::vector<float> pattern, picture;
+    StepTimes times;
   };
   [[nodiscard]] Worker make_worker() const { return {saturated_, rounding_}; }
   /// What is found in a tile, row by row. Many threads may call it, each with a worker of its own.
   void index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task);
+  /// Makes the pattern of one point ready in the worker's indexer, as the map has it.
+  /// @returns false where there is none, or it is blank
+  [[nodiscard]] bool take_point(std::size_t point, Worker& worker, Task& task);
 
  private:
   struct Guess;
@@ -71,6 +104,9 @@ class MapIndexer {
   PointResult index_point(std::size_t point, std::span<const Guess> guesses, Worker& worker, Guess& known,
                           Task& task) const;
   void pattern_of(int column, int row, Worker& worker) const;
+  [[nodiscard]] bool shows_something(const Worker& worker) const;
+  [[nodiscard]] int margin() const;
+  [[nodiscard]] std::array<int, 2> tile_size() const;
 
   Scan& scan_;
   std::mutex reading_;
@@ -82,6 +118,7 @@ class MapIndexer {
   std::vector<MapTile> tiles_;
   std::vector<float> background_;  ///< empty: none
   double background_mean_ = 0;
+  BackgroundKind background_kind_ = BackgroundKind::none;
   double likeness_ = 0;
   float saturated_, rounding_;
 };

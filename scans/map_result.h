@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/lattice.h"
+#include "indexing/orientation.h"
 #include "scans/scan.h"
 
 namespace zol {
@@ -36,6 +37,7 @@ struct MapPhase {
     double intensity = 0;  ///< of the strongest, 100
   };
   std::vector<Family> families;
+  std::vector<Rotation> rotations;  ///< proper ones of the Laue group, in the crystal's frame
 };
 
 /// "-1" to "m-3m" of a space group's number, 1 to 230; files of other settings bear higher ones: "-1".

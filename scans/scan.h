@@ -11,6 +11,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "indexing/detector.h"
@@ -80,6 +81,8 @@ class Scan {
   virtual ~Scan() = default;
 
   [[nodiscard]] const ScanHeader& header() const { return header_; }
+  /// Hands the centres over; the header has none then. Those of a large map take much memory.
+  [[nodiscard]] std::vector<StoredCentre> take_centres() { return std::exchange(header_.centres, {}); }
   /// Patterns first to first + count - 1, which there are.
   /// @throws RunFailure  the file can't be read any more; a damaged or missing pattern is none
   virtual void read(std::size_t first, std::size_t count, PatternBlock& block) = 0;

@@ -144,6 +144,7 @@ class Report {
  public:
   void add(const std::string& line) { facts_.push_back(line); }
   void add(const Notes& notes) {
+    notes_.add(notes);
     for (const auto& note : notes.list())
       (note.doubt ? doubts_ : facts_).push_back((note.doubt ? "Warning: " : "") + note.text);
   }
@@ -152,9 +153,11 @@ class Report {
     all.insert(all.end(), facts_.begin(), facts_.end());
     return all;
   }
+  [[nodiscard]] const Notes& notes() const { return notes_; }
 
  private:
   std::vector<std::string> doubts_, facts_;
+  Notes notes_;
 };
 
 /// The largest number that all whole counts are multiples of, for the formula.
@@ -170,18 +173,20 @@ double units_of(const Formula& contents) {
   return 1;
 }
 
-void compare_contents(const ReadStructure& read, const Formula& contents, const CellConstants& cell,
-                      double volume_ratio, Report& report) {
+/// Formula and Z of a crystal, which are told, and held against what the file says of the contents.
+void compare_contents(const ReadStructure& read, const Formula& contents, double volume_ratio, ImportedCrystal& crystal,
+                      Report& report) {
   const double units = read.units ? *read.units * volume_ratio : units_of(contents);
-  Formula formula;
+  Formula& formula = crystal.formula;
   for (const auto& [element, count] : contents) formula[element] = count / units;
+  crystal.units = units;
   std::string line =
       "formula: " + formula_text(formula) + ", Z = " + rounded(units, units == std::floor(units) ? 0 : 2);
   Notes notes;
   if (!read.formula.empty() && !formula_units(contents, read.formula)) {
     notes.doubt("the cell holds " + formula_text(contents) + ", the file's formula is " + formula_text(read.formula));
   }
-  const double ours = density(contents, cell);
+  const double ours = density(contents, crystal.structure.cell);
   std::string text = "density: " + rounded(ours, 3) + " g/cm3";
   if (read.file_density) {
     text += " (the file says " + rounded(*read.file_density, 3) + ")";
@@ -233,16 +238,23 @@ Import import_structure(std::string_view bytes, const std::string& name, const I
   const std::size_t atoms = cell_atoms(placed.structure, settled_angstrom, task).size();
   Report report;
   report.add(read.format + ": " + (read.structure.title.empty() ? name : read.structure.title));
-  compare_contents(read, contents, placed.structure.cell, placed.change ? placed.change->volume_ratio() : 1, report);
+  ImportedCrystal crystal;
+  crystal.structure = placed.structure;
+  crystal.file_number = placed.file_number;
+  crystal.axis_setting = placed.axis_setting;
+  compare_contents(read, contents, placed.change ? placed.change->volume_ratio() : 1, crystal, report);
   report.add("cell: " + cell_text(placed.structure.cell));
   const auto* group = groups.find(placed.file_number);
-  report.add("space group: " + (group == nullptr ? std::string("P1") : group->symbol) + " (number " +
-             std::to_string(placed.file_number) + ", axes " + placed.axis_setting + ")");
+  crystal.group_symbol = group == nullptr ? "P1" : group->symbol;
+  report.add("space group: " + crystal.group_symbol + " (number " + std::to_string(placed.file_number) + ", axes " +
+             placed.axis_setting + ")");
   report.add(counted(placed.structure.sites.size(), "site") + ", " + counted(atoms, "atom") + " in the cell");
   tell_distances(placed.structure, task, report);
   report.add(read.notes);
   report.add(placed.notes);
-  return ImportedCrystal{placed.structure, placed.file_number, placed.axis_setting, report.lines()};
+  crystal.report = report.lines();
+  crystal.notes = report.notes();
+  return crystal;
 }
 
 void fill_sites(Module1State& state, const Structure& structure) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "core/crystal_state.h"
+#include "structures/notes.h"
 #include "structures/structure_reading.h"
 
 namespace zol {
@@ -18,6 +19,10 @@ struct ImportedCrystal {
   std::string axis_setting;
   /// What was read, line by line; doubts first, each beginning with "Warning:".
   std::vector<std::string> report;
+  Notes notes;               ///< what was assumed and what is doubtful, out of the report
+  Formula formula;           ///< of one formula unit
+  double units = 1;          ///< Z
+  std::string group_symbol;  ///< of the space group file
 };
 
 using Import = std::variant<ImportedCrystal, Question>;

@@ -134,6 +134,8 @@ const std::vector<Row>& rows() {
       {"", "click InputAtom.Command1", "no space group has been chosen", Outcome::Ends},
       {"cell InputAtom.G 200 7\n", R"(type InputAtom.G "\r")", "this is the last cell: there is no next row",
        Outcome::Ends, "", "cell InputAtom.G 200 6\n"},
+      {"", "click Bonds.Calc\nprint Bonds.BondList", "there are no atoms", Outcome::Prints},
+      {"", "click AtomDistance.BondsAndAngles\nprint Bonds.BondList", "there are no atoms", Outcome::Prints},
       {"", "click AtomDistance.Command1\nprint AtomDistance.List1", "there are no atoms", Outcome::Prints, "",
        silicon + "set AtomDistance.Text1 3\n"},
       {powder + "click Xd.Command2\n", "press Xd.Picture1 2 0.5", R"("Clear" has taken the curve away: "CALC" first)",

@@ -7,6 +7,7 @@
 #include <set>
 
 #include <QAccessible>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMainWindow>
@@ -106,6 +107,38 @@ TEST_P(Windows, ShowTextThatCanBeReadInBothShades) {
       EXPECT_GE(contrast_of(picture.copy(place)), 4.5) << name_of(*part) << (look == Look::Dark ? ", dark" : "");
     }
   }
+}
+
+/// What a label or a button shows has the room that it asks for; what wraps or is cut by intention has a height alone.
+void expect_whole_texts(const QMainWindow& top, int points) {
+  for (const auto* part : top.findChildren<QWidget*>()) {
+    const auto* label = qobject_cast<const QLabel*>(part);
+    const auto* combo = qobject_cast<const QComboBox*>(part);
+    const bool button = qobject_cast<const QAbstractButton*>(part) != nullptr;
+    if ((label == nullptr && combo == nullptr && !button) || !part->isVisibleTo(&top)) continue;
+    if (part->property("text").toString().isEmpty() && combo == nullptr) continue;
+    const bool wraps = label != nullptr && label->wordWrap();
+    const QSize wanted = part->minimumSizeHint();
+    if (!wraps) {
+      EXPECT_GE(part->width(), wanted.width()) << name_of(*part) << ", " << points << " pt";
+    }
+    EXPECT_GE(part->height(), wraps ? part->heightForWidth(part->width()) : wanted.height())
+        << name_of(*part) << ", " << points << " pt";
+  }
+}
+
+TEST_P(Windows, CutNoTextAtUsualSizesOfTheFont) {
+  const QFont before = QApplication::font();
+  for (const int points : {9, 10, 11}) {
+    QFont font = before;
+    font.setPointSize(points);
+    QApplication::setFont(font);
+    QMainWindow& top = shown();
+    top.resize(top.sizeHint());
+    QApplication::processEvents();
+    expect_whole_texts(top, points);
+  }
+  QApplication::setFont(before);
 }
 
 void expect_names(QAccessibleInterface& at, int depth) {

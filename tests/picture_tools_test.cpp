@@ -12,7 +12,9 @@
 
 #include "analysis/window/pattern3_form.h"
 #include "kikuchi/window/pattern2_form.h"
+#include "powder/window/dring_form.h"
 #include "shell/desktop/canvas_view.h"
+#include "shell/desktop/lit_reflection.h"
 #include "shell/desktop/note_line.h"
 #include "shell/desktop/picture_choices.h"
 #include "spots/window/pattern_form.h"
@@ -58,6 +60,10 @@ class PictureToolsTest : public DesktopTest {
       QApplication::sendEvent(&view, &move);
     }
     QTest::mouseRelease(&view, Qt::LeftButton, keys, to);
+  }
+  static void move_to(CanvasView& view, QPointF position) {
+    QMouseEvent move(QEvent::MouseMove, position, view.mapToGlobal(position), Qt::NoButton, Qt::NoButton, {});
+    QApplication::sendEvent(&view, &move);
   }
   QString status(const char* window) {
     return dynamic_cast<QMainWindow&>(widget(window)).statusBar()->currentMessage();
@@ -139,6 +145,105 @@ TEST_F(PictureToolsTest, MarksAndRowsLightEachOtherUp) {
   EXPECT_EQ(list.lit(), mark.row);
 }
 
+TEST_F(PictureToolsTest, RingsAndTheirPeaksLightEachOtherUp) {
+  show_main1();
+  load("NaCl.cry");
+  click("Main1", "Command8");
+  auto& form = program.windows().use<DringForm>();
+  auto& picture = child<CanvasView>("Dring", "Picture2");
+  auto& list = child<NotedList>("Dring", "List1");
+  const auto& marks = form.Picture2.marks();
+  // Rings of rock salt: d of h k l is a / sqrt(h2 + k2 + l2), a = 5.64; the samples lie 0.001 / angstrom apart.
+  const auto ring = std::find_if(marks.begin(), marks.end(), [](const PictureMark& mark) {
+    return std::abs(mark.h) == 2 && std::abs(mark.k) == 2 && mark.l == 0;
+  });
+  ASSERT_NE(ring, marks.end());
+  EXPECT_NEAR(ring->radius, std::sqrt(8.0) / 5.64, 0.002);
+  EXPECT_NEAR(Val(form.List1.items()[static_cast<std::size_t>(ring->row)]), ring->d, 0.02);
+  move_to(picture, at(picture, ring->radius * 0.6, ring->radius * 0.8));
+  EXPECT_EQ(list.lit(), ring->row);
+  const QImage before = picture.grab().toImage();
+  emit list.entered(list.model()->index(ring->row + 1, 0));
+  EXPECT_NE(picture.grab().toImage(), before);
+  EXPECT_TRUE(failures.empty());
+}
+
+TEST_F(PictureToolsTest, TheListOfReflectionsAndOpenPicturesLightEachOtherUp) {
+  auto& form = draw<PatternForm>();
+  auto& picture = view("Pattern");
+  auto& list = child<NotedList>("Main1", "List2");
+  const auto& marks = form.Picture1.marks();
+  const PictureMark spot = *std::find_if(marks.begin(), marks.end(), [](const auto& mark) { return mark.d > 1.2; });
+  move_to(picture, at(picture, spot.x, spot.y));
+  ASSERT_GE(list.lit(), 0);
+  const QString row = list.model()->index(list.lit(), 0).data().toString();
+  EXPECT_EQ(indices_at_head(row), (std::array{spot.h, spot.k, spot.l})) << row.toStdString();
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&picture, &leave);
+  EXPECT_EQ(list.lit(), -1);
+  const QImage before = picture.grab().toImage();
+  emit list.entered(
+      list.model()->index(list.model()->match(list.model()->index(0, 0), Qt::DisplayRole, row)[0].row(), 0));
+  EXPECT_NE(picture.grab().toImage(), before);
+  QApplication::sendEvent(list.viewport(), &leave);
+  EXPECT_EQ(picture.grab().toImage(), before);
+}
+
+TEST(Colours, OfFamiliesAreToldApartByTheColourBlind) {
+  // Machado, Oliveira & Fernandes, IEEE Trans. Vis. Comput. Graph. 15 (2009) 1291: protanopia, deuteranopia.
+  constexpr double views[3][3][3] = {
+      {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
+      {{0.152286, 1.052583, -0.204868}, {0.114503, 0.786281, 0.099216}, {-0.003882, -0.048116, 1.051998}},
+      {{0.367322, 0.860646, -0.227968}, {0.280085, 0.672501, 0.047413}, {-0.011820, 0.042940, 0.968881}}};
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  const auto lab = [&](const QColor& colour, const auto& seen_as) {
+    const double given[3] = {linear(colour.redF()), linear(colour.greenF()), linear(colour.blueF())};
+    double rgb[3] = {};
+    for (int i = 0; i < 3; ++i) {
+      for (int j = 0; j < 3; ++j) rgb[i] += seen_as[i][j] * given[j];
+      rgb[i] = std::clamp(rgb[i], 0.0, 1.0);
+    }
+    const auto root = [](double t) { return t > 216.0 / 24389 ? std::cbrt(t) : (24389.0 / 27 * t + 16) / 116; };
+    const double x = root((0.4124564 * rgb[0] + 0.3575761 * rgb[1] + 0.1804375 * rgb[2]) / 0.95047);
+    const double y = root(0.2126729 * rgb[0] + 0.7151522 * rgb[1] + 0.0721750 * rgb[2]);
+    const double z = root((0.0193339 * rgb[0] + 0.1191920 * rgb[1] + 0.9503041 * rgb[2]) / 1.08883);
+    return std::array{116 * y - 16, 500 * (x - y), 200 * (y - z)};
+  };
+  EXPECT_NEAR(lab(Qt::red, views[0])[0], 53.24, 0.01);  // CIE L* of the red of sRGB
+  for (const auto& seen_as : views) {
+    for (int one = 0; one < family_colours; ++one) {
+      const auto a = lab(family_colour(one), seen_as);
+      for (int other = 0; other < one; ++other) {
+        const auto b = lab(family_colour(other), seen_as);
+        EXPECT_GE(std::hypot(a[0] - b[0], a[1] - b[1], a[2] - b[2]), 20) << one << " and " << other;
+      }
+    }
+  }
+}
+
+TEST(PictureChoicesTest, AreKeptInTheirFile) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath(QStringLiteral("pictures.ini"));
+  const auto kept = [&file](PictureChoices::Choice choice) {
+    PictureChoices choices;
+    choices.keep_in(file);
+    return choices.on(choice);
+  };
+  EXPECT_FALSE(kept(PictureChoices::Scale));
+  EXPECT_TRUE(kept(PictureChoices::Families));
+  {
+    PictureChoices choices;
+    choices.keep_in(file);
+    choices.set(PictureChoices::Scale, true);
+    choices.set(PictureChoices::Families, false);
+  }
+  EXPECT_TRUE(kept(PictureChoices::Scale));
+  EXPECT_FALSE(kept(PictureChoices::Families));
+  EXPECT_FALSE(kept(PictureChoices::Labels));
+}
+
 TEST_F(PictureToolsTest, MeasuresUntilEsc) {
   auto& form = draw<PatternForm>();
   auto& picture = view("Pattern");
@@ -180,6 +285,45 @@ TEST_F(PictureToolsTest, LayersAreOnTheScreenAndInExportsThatAskForThem) {
   EXPECT_FALSE(text_of("/a.svg").contains(QStringLiteral("ZOL")));
   EXPECT_TRUE(text_of("/b.svg").contains(QStringLiteral("ZOL"))) << "as text";
   EXPECT_TRUE(text_of("/b.svg").contains(QStringLiteral("NaCl")));
+}
+
+TEST_F(PictureToolsTest, ALoupeShowsWhileALineIsDrawnAndSolutionsAreWalkedByKeys) {
+  show_main1();
+  load("Silicon.cry");
+  auto& form = program.windows().use<Pattern3Form>();
+  desktop.enter("a test", [&form] { form.show(); });
+  services.answers = {ZOL_SOURCE_DIR "/examples/silicon-pattern.bmp"};
+  child<QAction>("PATTERN3", "ImageLoad").trigger();
+  auto& picture = view("PATTERN3");
+  QTest::mousePress(&picture, Qt::LeftButton, {}, at(picture, 100, 100));
+  // Above the pointer and to the right of it, where the line is not
+  const QRect place(at(picture, 150, 400) + QPoint(50, -90), QSize(40, 40));
+  move_to(picture, at(picture, 150, 400));
+  const QImage with_loupe = picture.grab().toImage().copy(place);
+  QTest::mouseRelease(&picture, Qt::LeftButton, {}, at(picture, 150, 400));
+  EXPECT_NE(picture.grab().toImage().copy(place), with_loupe);
+  desktop.enter("a test", [&form] {
+    (*form.operation("TakeBackLine"))();
+    form.Text3.set_text("33");
+  });
+  for (const auto& [from, to] :
+       {std::pair{QPointF(20, 75), QPointF(490, 293)}, {{60, 490}, {480, 245}}, {{24, 20}, {259, 490}}}) {
+    drag(picture, at(picture, from.x(), from.y()), at(picture, to.x(), to.y()));
+  }
+  for (const auto* button : {"Check1", "Command1"}) click("PATTERN3", button);
+  ASSERT_GT(form.List1.list_count(), 1);
+  EXPECT_FALSE(form.Picture1.row_marks(0).empty()) << form.List1.items()[0];
+  auto& list = child<NotedList>("PATTERN3", "List1");
+  const QImage unlit = picture.grab().toImage();
+  for (const auto& [key, row] : {std::pair{Qt::Key_Down, 0}, {Qt::Key_Down, 0}, {Qt::Key_Up, 0}}) {
+    QTest::keyClick(&picture, key);
+    EXPECT_EQ(list.lit(), row);
+    EXPECT_NE(picture.grab().toImage(), unlit) << "the bands of the solution";
+  }
+  EXPECT_EQ(status("PATTERN3").simplified(), QString::fromStdString(form.List1.items()[0]).simplified());
+  QTest::keyClick(&picture, Qt::Key_Escape);
+  EXPECT_EQ(list.lit(), -1);
+  EXPECT_TRUE(failures.empty());
 }
 
 TEST_F(PictureToolsTest, ALineOfPattern3IsTakenBack) {

@@ -26,6 +26,7 @@
 #include <QTimer>
 
 #include "shell/desktop/application.h"
+#include "shell/desktop/table_window.h"
 #include "tests/real_user.h"
 
 namespace zol {
@@ -40,8 +41,8 @@ void use_main_window(const User& user) {
   expect(user.lines("Main1", "List2") > 100, "the list of quartz is too short");
   user.take_picture("Main1", "main1");
   user.take_numbered_picture("Main1", "main1-numbered",
-                             {"menubar", "Text1", "Text7", "Command1", "Combo1", "Text15", "Command6", "List2", "Command7",
-                              "Command13", "List1"});
+                             {"menubar", "Text1", "Text7", "Command1", "Combo1", "Text15", "Command6", "List2",
+                              "Command7", "Command13", "List1"});
   user.click("Main1", "Command1");
   User::type_on(user.widget<QTableView>("InputAtom", "G"), "0.2");
   user.take_picture("InputAtom", "input-atom");
@@ -79,6 +80,30 @@ void find_windows(const User& user) {
   expect(user.window("Main1").isActiveWindow(), "Ctrl+2 leads elsewhere");
 }
 
+/// From a search in the library to a pattern, by the keyboard.
+void search_library(const User& user) {
+  QWidget& main1 = user.window("Main1");
+  QTest::keyClick(&main1, Qt::Key_L, Qt::ControlModifier);
+  auto& search = user.widget<QLineEdit>("Main1", "librarySearch");
+  const auto& state = user.widget<QLabel>("Main1", "libraryState");
+  expect(QTest::qWaitFor([&state] { return state.text() == QStringLiteral("31 crystals"); }, 20000),
+         "the library says: " + state.text().toStdString());
+  expect(QTest::qWaitFor([&search] { return search.hasFocus(); }), "the search has not the focus");
+  QTest::keyClicks(&search, QStringLiteral("+Si -O"));
+  user.take_picture("Main1", "library");
+  QTest::keyClick(&search, Qt::Key_Return);
+  expect(main1.windowTitle().contains(QStringLiteral("Silicon")), "the library opens no crystal");
+  user.click("Main1", "Command9");
+  user.fill("Pattern", {{"Text3", "1"}, {"Text4", "1"}, {"Text5", "0"}});
+  user.click("Pattern", "Command8");
+  const auto& picture = user.widget<CanvasView>("Pattern", "Picture1");
+  expect(picture.canvas()->marks().size() > 10, "there are no spots");
+  user.window("Pattern").close();
+  QTest::keyClick(&main1, Qt::Key_L, Qt::ControlModifier);
+  expect(!search.isVisible(), "Ctrl+L does not close the library");
+  user.load_crystal("Quartz.cry");
+}
+
 void copy_lines(const User& user) {
   auto& list = user.widget<QListView>("Main1", "List2");
   user.pick_line("Main1", "List2", 2);
@@ -91,6 +116,41 @@ void copy_lines(const User& user) {
   QTest::keyClick(&list, Qt::Key_C, Qt::ControlModifier);
   expect(QGuiApplication::clipboard()->text().count(u'\n') + 1 == user.lines("Main1", "List2"),
          "Ctrl+A selects not all lines");
+}
+
+/// By keys alone: the list as a table, merged, sorted by d, filtered and saved; the file says what was seen.
+void save_table(const User& user) {
+  user.pick_line("Main1", "List2", 0);
+  auto& list = user.widget<QListView>("Main1", "List2");
+  QTest::keyClick(&list, Qt::Key_T, Qt::ControlModifier);
+  auto* table = list.window()->findChild<TableWindow*>();
+  expect(table != nullptr && QTest::qWaitFor([table] { return table->isActiveWindow(); }), "Ctrl+T shows no table");
+  auto& rows = *table->findChild<QTableView*>();
+  QTest::keyClick(&rows, Qt::Key_O, Qt::AltModifier);
+  const auto menu_is_open = [] { return QApplication::activePopupWidget() != nullptr; };
+  expect(QTest::qWaitFor(menu_is_open), "the menu of columns does not open");
+  for (const int key : {Qt::Key_Up, Qt::Key_Return}) {  // the last entry
+    QTest::keyClick(QApplication::activePopupWidget(), static_cast<Qt::Key>(key));
+  }
+  QTest::keyClick(&rows, Qt::Key_F, Qt::ControlModifier);
+  QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("d>2"));
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+  constexpr int spacing = 4;
+  rows.selectionModel()->setCurrentIndex(rows.model()->index(0, spacing), QItemSelectionModel::NoUpdate);
+  QTest::keyClick(&rows, Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
+  user.save("reflections", "reflections.csv", [&rows] { QTest::keyClick(&rows, Qt::Key_S, Qt::ControlModifier); });
+  QFile file(user.file("reflections.csv"));
+  expect(file.open(QIODevice::ReadOnly), "the table can't be read");
+  const QList<QByteArray> lines = file.readAll().trimmed().split('\n');
+  expect(lines.front().startsWith("h,k,l,") && lines.front().endsWith(",sum I"), "the heads of the table are others");
+  double before = 2;
+  for (const auto& line : lines.mid(1)) {
+    const double d = line.split(',')[spacing].toDouble();
+    expect(d >= before, "the saved table is not sorted");
+    before = d;
+  }
+  expect(lines.size() == rows.model()->rowCount() + 1 && lines.size() > 5, "the saved table has other rows");
+  table->close();
 }
 
 /// A pattern as a diffractometer would have it: the saved one over a background, 0.08 degrees off, not quite even.
@@ -213,8 +273,8 @@ void use_kikuchi_windows(const User& user) {
     user.take_picture("Pattern2", picture);
     if (picture == std::string_view("kikuchi-silicon")) {
       user.take_numbered_picture("Pattern2", "kikuchi-numbered",
-                                 {"menubar", "Text3", "Command8", "Text1", "Text21", "Check2", "Command1(0)", "Command2",
-                                  "Command6", "List1", "Picture1"});
+                                 {"menubar", "Text3", "Command8", "Text1", "Text21", "Check2", "Command1(0)",
+                                  "Command2", "Command6", "List1", "Picture1"});
     }
   }
   user.save("kikuchi", "kikuchi.bmp", [&user] { user.choose("Pattern2", "ISAVE"); });
@@ -376,8 +436,8 @@ void index_automatically(const User& user) {
          "the pattern of silicon is not indexed");
   user.take_picture("AutoIndex", "automatic-indexing");
   user.take_numbered_picture("AutoIndex", "automatic-indexing-numbered",
-                             {"BandCount", "CircleMask", "Index", "RefineCentre", "Show", "Status", "Solutions", "Bands",
-                              "Families", "Crystals"});
+                             {"BandCount", "CircleMask", "Index", "RefineCentre", "Show", "Status", "Solutions",
+                              "Bands", "Families", "Crystals"});
   user.take_picture("PATTERN3", "automatic-indexing-bands");
   user.click("AutoIndex", "Over");
   user.save("simulated", "simulated.bmp", [&user] { user.choose("AutoIndex", "SaveSimulated"); });
@@ -397,9 +457,9 @@ void read_guide(const User& user) {
 }
 
 void walk(const User& user) {
-  for (auto* step :
-       {use_main_window, find_windows, copy_lines, use_powder_windows, use_spot_windows, use_kikuchi_windows,
-        use_calculators, use_files, undo_and_redo, index_pattern, index_automatically, read_guide}) {
+  for (auto* step : {use_main_window, find_windows, search_library, copy_lines, save_table, use_powder_windows,
+                     use_spot_windows, use_kikuchi_windows, use_calculators, use_files, undo_and_redo, index_pattern,
+                     index_automatically, read_guide}) {
     step(user);
   }
   user.click("MAIN_MENU", "Command5");

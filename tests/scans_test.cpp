@@ -9,7 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "scans/lzf.h"
+#include "hdf5/lzf.h"
+#include "scans/centre_plane.h"
 #include "scans/map_files.h"
 #include "scans/map_run.h"
 #include "scans/readers.h"
@@ -205,6 +206,30 @@ TEST(Scans, OfAllMakersGiveTheirPatternsInMapOrder) {
   }
 }
 
+// By hand, 5 pixels wide: version 4 counts x to the right of the middle, version 5 to the left.
+TEST(Scans, OfEMsoftHaveTheSignOfTheirVersion) {
+  const ScratchFolder folder;
+  for (const auto& [version, x] : {std::pair{"4_2_0_0", .7}, {"5_0_3", .3}}) {
+    const std::string path = folder.path(std::string(version) + ".h5");
+    {
+      const Hdf5Maker out(path);
+      out.put("EMData/EBSD/EBSDPatterns", H5T_NATIVE_UINT8, {1, height, width}, all_patterns.data());
+      for (const auto& [name, value] : {std::pair{"xpc", 1.0}, {"ypc", 0.0}, {"L", 100.0}, {"delta", 50.0}}) {
+        out.number(std::string("NMLparameters/EBSDNameList/") + name, value);
+      }
+      const hid_t text = H5Tcopy(H5T_C_S1);
+      H5Tset_size(text, 8);
+      std::string padded = version;
+      padded.resize(8);
+      out.put("EMheader/EBSD/Version", text, {1}, padded.data());
+      H5Tclose(text);
+    }
+    const auto scan = open_scan(path, {});
+    const StoredCentre centre = scan->header().centres.at(0);
+    EXPECT_NEAR(read_centre(centre.numbers, centre.convention, {width, height, 50}).x, x, 1e-9) << version;
+  }
+}
+
 TEST(Scans, ThatAreWrongAreRefusedWithTheReason) {
   const ScratchFolder folder;
   std::string far = ebsp(2);
@@ -328,6 +353,33 @@ class TwoGrains : public Scan {
   float scale_;
 };
 
+/// Nine grains under a beam that moves: the centre is another one at each point.
+class DriftingScan : public Scan {
+ public:
+  static constexpr std::size_t side = 60;
+  DriftingScan() {
+    header_.width = header_.height = int{side};
+    header_.grid = ScanGrid{12, 9};
+    header_.points = header_.grid->points();
+  }
+  static MapCentres truth() { return {{.5, .3, .55}, {.001, 0, 0}, {0, .0009, -.0004}, {12, 9}}; }
+  void read(std::size_t first, std::size_t count, PatternBlock& block) override {
+    block.begin(first, count, side * side);
+    for (std::size_t i = 0; i < count; ++i) {
+      std::vector<float> drawn;
+      const double grain = static_cast<double>((first + i) % 12 / 4 + 3 * ((first + i) / 36));  // 4 x 3 points
+      draw_bands(*metal().sphere, rotation_of_bunge({37 * grain, 50, 23 * grain}) * picture_from_sample(70).transpose(),
+                 {upside_down(truth().at(first + i), {int{side}, int{side}}), double{side}}, int{side}, int{side},
+                 drawn);
+      for (std::size_t p = 0; p < side * side; ++p) {
+        const auto noise = static_cast<float>((p * 7919 + (first + i) * 31) % 17);
+        block.pattern(i)[(side - 1 - p / side) * side + p % side] = 100 + 20 * drawn[p] + noise;
+      }
+      block.present[i] = 1;
+    }
+  }
+};
+
 std::vector<PointResult> indexed(const MapRun& run, float scale = 1) {
   TwoGrains scan(scale);
   const ScanGrid grid = *scan.header().grid;
@@ -376,11 +428,58 @@ TEST(MapIndexer, FindsBothGrainsAndTheHoleWithAnyNumberOfThreadsAndAfterAStop) {
 }
 
 // 4 pi and -1 for what is not indexed; a quarter turn and, on a hexagonal cell, 30 degrees between the two makers.
+TEST(CentrePlane, GoesThroughPointsAndLeavesOutWhatLiesApart) {
+  // x = .5 + .001 c, y = .3 - .002 r about the middle of 5 x 5 points, z with +-e: e of four points of the rest 0.
+  const ScanGrid grid{5, 5};
+  std::vector<CentrePoint> points;
+  for (int i = 0; i < 25; ++i) {
+    const int column = i % 5;
+    const int row = i / 5;
+    points.push_back({column, row, {.5 + .001 * (column - 2), .3 - .002 * (row - 2), i % 2 == 0 ? .601 : .599}, 1});
+  }
+  points[7].centre.x += .1;
+  const CentrePlane plane = plane_through(points, grid);
+  EXPECT_NEAR(plane.middle[0], .5, 1e-12);
+  EXPECT_NEAR(plane.per_column[0], .001, 1e-12);
+  EXPECT_NEAR(plane.per_row[1], -.002, 1e-12);
+  EXPECT_NEAR(plane.centres().at(24).y, .3 - .004, 1e-12);
+  for (std::size_t i = 0; i < 25; ++i) EXPECT_EQ(plane.points[i].left_out, i == 7) << i;
+  // The scatter of z is nearly .001 over 24 points; sums of squares of columns about their middle are 50.
+  EXPECT_NEAR(plane.scatter[2], .001 * std::sqrt(24 / 21.0), 2e-5);
+  EXPECT_NEAR(plane.middle_error[2], plane.scatter[2] / std::sqrt(24.0), 1e-5);
+  EXPECT_NEAR(plane.per_column_error[2], plane.scatter[2] / std::sqrt(50.0), 1e-5);
+
+  std::vector<CentrePoint> line(points.begin(), points.begin() + 5);
+  const CentrePlane along = plane_through(line, {5, 1});
+  EXPECT_NEAR(along.per_column[0], .001, 1e-12);
+  EXPECT_EQ(along.per_row[0], 0);
+  EXPECT_EQ(along.per_row_error[0], 0);
+  line.pop_back();
+  EXPECT_EQ(failure_of([&] { (void)plane_through(line, grid); }),
+            "a plane of pattern centres needs 5 clear points at least, and there are 4");
+}
+
+TEST(CentrePlane, FindsTheDriftOfAScan) {
+  DriftingScan scan;
+  const ScanGrid grid = *scan.header().grid;
+  MapIndexer indexer(scan, grid, MapCentres({.51, .29, .56}, {}, grid), {&metal()}, {});
+  indexer.prepare(quiet);
+  const CentrePlane plane = fit_centre_plane(indexer, 9, quiet);
+  const MapCentres truth = DriftingScan::truth();
+  indexer.set_centres(plane.centres());
+  for (const std::size_t point : {std::size_t{0}, grid.points() - 1}) {
+    const auto found = upside_down(indexer.turned_centre(point), indexer.picture_size());
+    EXPECT_NEAR(found.x, truth.at(point).x, 0.002) << point;
+    EXPECT_NEAR(found.y, truth.at(point).y, 0.002) << point;
+    EXPECT_NEAR(found.z, truth.at(point).z, 0.002) << point;
+  }
+}
+
 TEST(MapFiles, HaveTheirMakersAxes) {
   MapResult map;
   map.grid = {2, 1, 1.5, 1.5};
-  map.phases = {{"Ti", "Ti2", {2.95, 2.95, 4.68, 90, 90, 120}, 194, laue_class_of(194), {{{0, 1, 1}, 100}}},
-                {"Ni", "Ni4", {3.52, 3.52, 3.52, 90, 90, 90}, 225, laue_class_of(225), {}}};
+  map.phases = {{"Ti", "Ti2", {2.95, 2.95, 4.68, 90, 90, 120}, 194, laue_class_of(194), {{{0, 1, 1}, 100}}, {}},
+                {"Ni", "Ni4", {3.52, 3.52, 3.52, 90, 90, 90}, 225, laue_class_of(225), {}, {}}};
   const auto radian = [](double degree) { return static_cast<float>(degree * std::numbers::pi / 180); };
   map.points = {{{radian(100), radian(20), radian(350)}, .5F, .25F, .125F, 1, 0, 0, 0}, {}};
   const std::string ang = ang_text(map);

@@ -25,6 +25,7 @@ seeds() {
     structure) echo examples/cif/*.cif fuzz/seeds/structure/* data/ZOLDATA/Quartz.cry ;;
     icsd | atom_lists | measured_curve) echo fuzz/seeds/"$1"/* ;;
     bitmap) echo fuzz/seeds/bitmap/* shell/desktop/images/* ;;
+    scan_* | lzf) echo fuzz/seeds/"$1"/* ;;
     kept_work) echo fuzz/seeds/kept_work/* ;;
     script) echo examples/*.zs examples/cif/*.zs tests/scripts/*.zs ;;
   esac

@@ -2,7 +2,9 @@
 
 #include <filesystem>
 
+#include "core/miller_bravais.h"
 #include "core/number_text.h"
+#include "reflections/window/crystal_tables_form.h"
 #include "shell/services/guards.h"
 #include "shell/services/place_text.h"
 
@@ -40,7 +42,36 @@ Pattern3Form::Pattern3Form(Workbench& bench)
                                              {&Text1, &Check1, &Check2, &Text17})},
                            {&Command1},
                            "Main1.List2"};
+  List1.table = solution_table(bench.seen());
   reads = {shared::radiation, shared::half_angle, shared::shifts, shared::order};
+}
+
+std::shared_ptr<const ListColumns> Pattern3Form::solution_table(const CrystalState& seen) const {
+  const auto columns = [this] {
+    std::vector<ListColumn> all{{"no"}};
+    for (const auto* index : {"h1", "k1", "l1", "h2", "k2", "l2", "h3", "k3", "l3"}) all.push_back({index, "", 4});
+    for (const auto* component : {"u", "v", "w"}) all.push_back({component, "", 7});
+    for (const auto* error : {"d12", "d23", "d31"}) {
+      all.push_back({error, "°", 5, ListColumn::Number, ' ', "angle between two bands, computed less measured"});
+    }
+    const bool has_widths = Heading.caption().ends_with("w3");
+    for (const auto* error : {"w1", "w2", "w3"}) {
+      if (has_widths)
+        all.push_back({error, "%", 6, ListColumn::Number, ' ', "width of a band, computed less measured"});
+    }
+    all.push_back({"solved by", "", ListColumn::to_the_end, ListColumn::Word});
+    return all;
+  };
+  constexpr int u = 10;
+  const auto added = [&seen] {
+    std::vector<AddedColumns> directions;
+    if (has_hexagonal_axes(seen.CellA, seen.CellB, seen.CellAlpha, seen.CellBeta, seen.CellGamma)) {
+      directions.push_back(direction_columns(u, [](const ListCells&) { return true; }));
+    }
+    return directions;
+  };
+  return std::make_shared<const ListColumns>(
+      ListColumns{"Solutions", columns, [](std::string_view line) { return !line.starts_with("    No. of"); }, added});
 }
 
 std::string Pattern3Form::lines_missing() const {

@@ -126,6 +126,7 @@ struct Pattern3Form : Window {
  private:
   void name_fields();
   void declare_guards(const Workbench& bench);
+  [[nodiscard]] std::shared_ptr<const ListColumns> solution_table(const CrystalState& seen) const;
   [[nodiscard]] std::string lines_missing() const;
   /// An element of a triple table under its name.
   template <auto element>

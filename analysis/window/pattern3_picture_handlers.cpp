@@ -1,6 +1,7 @@
 #include "analysis/window/pattern3_handlers.h"
 // PATTERN3: the picture, the lines on it, and its menu.
 #include <array>
+#include <cmath>
 
 #include "analysis/window/corrector.h"
 #include "analysis/window/pattern3_solution.h"
@@ -230,6 +231,8 @@ void declare_picture(Workbench& bench, Pattern3Form& form) {
   const CrystalState& seen = bench.seen();
   picture.geometry =
       PictureGeometry{.direction = [&seen](double x, double y) { return direction_in_picture(seen, x, y); },
+                      .circle = [](double angle_deg) { return std::tan(angle_deg * degree); },
+                      .circle_frame = [&seen] { return circle_frame_of_picture(seen); },
                       .wavelength = [&seen] { return double{seen.WaveLength}; }};
   picture.rows = &form.List1;
   picture.row_marks = [&seen, &form](int row) { return bands_of_solution(seen, form, row); };

@@ -71,6 +71,14 @@ std::array<double, 3> direction_in_picture(const CrystalState& seen, double x, d
                                view.bottom + y / last_pixel * (view.top - view.bottom));
 }
 
+CircleFrame circle_frame_of_picture(const CrystalState& seen) {
+  const auto view = gnomonic_view(seen);
+  const double width = view.right - view.left;
+  const double height = view.top - view.bottom;
+  if (!(width > 0) || height == 0) return {.unit_x = 0, .unit_y = 0};  // the camera is not set
+  return {-view.left / width * last_pixel, -view.bottom / height * last_pixel, last_pixel / width, last_pixel / height};
+}
+
 bool take_back_line(PickedLines& lines) {
   for (int line = lines.LastLine.value(); line >= 0; --line) {
     if (lines.LineDone(line) == 0) continue;

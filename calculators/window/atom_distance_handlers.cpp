@@ -57,6 +57,7 @@ void wire(Workbench& bench, AtomDistanceForm& form) {
   form.Text1.on_change = on(Text1_Change);
   form.Text1.on_key_press = on(Text1_KeyPress);  // Enter calculates
   form.Command1.on_click = on(Command1_Click);
+  form.BondsAndAngles.on_click = [&bench] { bench.windows.use("Bonds").show(); };
 }
 
 template void add_window<AtomDistanceForm>(Workbench&);

@@ -5,7 +5,9 @@
 #include <cstring>
 #include <utility>
 
+#include "core/miller_bravais.h"
 #include "core/number_text.h"
+#include "reflections/window/crystal_tables_form.h"
 
 namespace zol {
 namespace {
@@ -175,6 +177,54 @@ AutoIndexForm::AutoIndexForm(Workbench& bench)
                                 {"detector", {"CamAcquisition", "CamXShift", "CamYShift"}},
                                 inputs::settings({}, {&BandCount, &CircleMask})},
                                {&Index}};
+  declare_tables();
+}
+
+void AutoIndexForm::declare_tables() {
+  constexpr auto number = ListColumn::Number;
+  constexpr auto word = ListColumn::Word;
+  const auto table = [](ListColumns columns) { return std::make_shared<const ListColumns>(std::move(columns)); };
+  Families.table =
+      table({"Families of planes", always({{"taken", "", 2, word, ' ', "x: used, -: left out"},
+                                           {"h", "", 3},
+                                           {"k", "", 3},
+                                           {"l", "", 3},
+                                           {"n", "", 4, number, ' ', "planes of the family"},
+                                           {"d", "Å", 8},
+                                           {"width", "°", 8},
+                                           {"F2", "%", 8, number, ' ', "|F|^2, of the strongest family"}})});
+  Bands.table = table({"Bands", always({{"no", "", 3},
+                                        {"azimuth", "°", 9},
+                                        {"distance", "°", 9},
+                                        {"width", "°", 7},
+                                        {"strength", "", 9},
+                                        {"h", "", 4},
+                                        {"k", "", 3},
+                                        {"l", "", 3},
+                                        {"off", "°", 6, number, ' ', "from the plane of the picked solution"}})});
+  constexpr int u = 6;
+  const auto hexagonal = [this](const ListCells& row) {
+    const auto rank = static_cast<std::size_t>(Val(row[0]));
+    if (rank < 1 || rank > result.solutions.size()) return false;
+    const CellConstants& cell = result.solutions[rank - 1].model->reflectors.cell;
+    return has_hexagonal_axes(cell.a, cell.b, cell.alpha, cell.beta, cell.gamma);
+  };
+  Solutions.table = table({"Solutions",
+                           always({{"no"},
+                                   {"matched", "", 0, number, '/', "bands that are explained"},
+                                   {"bands"},
+                                   {"off", "°", 0, number, ' ', "mean deviation of the bands"},
+                                   {"corr", "", 0, number, ' ', "correlation with the picture"},
+                                   {"conf", "", 0, number, ' ', "confidence"},
+                                   {"u"},
+                                   {"v"},
+                                   {"w"},
+                                   {"phi1", "°"},
+                                   {"Phi", "°"},
+                                   {"phi2", "°"},
+                                   {"crystal", "", ListColumn::to_the_end, word}}),
+                           {},
+                           [hexagonal] { return std::vector{direction_columns(u, hexagonal)}; }});
 }
 
 void AutoIndexForm::name_fields() {

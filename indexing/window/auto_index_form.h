@@ -100,6 +100,7 @@ struct AutoIndexForm : Window {
 
  private:
   void name_fields();
+  void declare_tables();
 };
 
 }  // namespace zol

@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "shell/services/guards.h"
+#include "shell/services/list_columns.h"
 #include "shell/services/place_text.h"
 
 namespace zol {
@@ -68,6 +69,13 @@ void Pattern2Form::declare_results() {
       "Main1.List2"};
   Picture1.made_from = drawn;
   List1.made_from = drawn.without_button();
+  List1.table = std::make_shared<const ListColumns>(ListColumns{"Bands", always({{"number", "", 4},
+                                                                                 {"h", "", 4},
+                                                                                 {"k", "", 4},
+                                                                                 {"l", "", 4},
+                                                                                 {"latitude", "°", 6},
+                                                                                 {"azimuth", "°", 6},
+                                                                                 {"grey", "", 4}})});
   reads = {shared::radiation, shared::half_angle, shared::shifts, shared::zone_axis, shared::turn, shared::order};
 }
 

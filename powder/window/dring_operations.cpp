@@ -44,11 +44,38 @@ void draw(DringForm& form) {
   form.Picture2.set_point(0, 0, red);  // the beam
 }
 
-void list_peaks(DringForm& form) {
+/// The reflection whose 1/d is nearest to that of a peak; of equally near ones the first. 0 where there is none.
+int nearest_reflection(const CrystalState& state, double d_star) {
+  int nearest = 0;
+  double least = 0;
+  for (int i = 1; i <= state.RefCount.value(); ++i) {
+    const double away = std::abs(2 * double{state.RefS(i)} - d_star);
+    if (nearest == 0 || away < least) {
+      nearest = i;
+      least = away;
+    }
+  }
+  return nearest;
+}
+
+void mark_ring(DringForm& form, const CrystalState& state, int sample) {
+  const double d_star = d_star_at(form.DStarMax, sample);
+  PictureMark mark{
+      .radius = d_star, .d = 1 / d_star, .intensity = form.Profile(sample), .row = form.List1.list_count() - 1};
+  if (const int i = nearest_reflection(state, d_star); i > 0) {
+    mark.h = state.RefH(i).value();
+    mark.k = state.RefK(i).value();
+    mark.l = state.RefL(i).value();
+  }
+  form.Picture2.mark(mark);
+}
+
+void list_peaks(DringForm& form, const CrystalState& state) {
   form.List1.clear();
   form.List1.add_item("d     I/Io");
   for (const int m : maxima(form.Profile, form.DisplayMax)) {
     form.List1.add_item(peak_line(ring_spacing(form.DStarMax, m), form.Profile(m), form.DisplayMax));
+    mark_ring(form, state, m);
   }
 }
 
@@ -68,6 +95,7 @@ DringForm::DringForm(Workbench& bench)
   };
   for (Canvas* picture : {&Picture1, &Picture2}) picture->hint = "CALC draws the diagram";
   Picture2.geometry = PictureGeometry{1};
+  Picture2.rows = &List1;
   Picture2.describe_place = [](double x, double y) { return spacing_text(std::hypot(x, y)); };
   Picture2.set_solid_fill(false);
   fields().add("DStarMax", DStarMax);
@@ -112,6 +140,7 @@ void DringForm::declare(const Workbench& bench) {
   Picture1.made_from = made;
   Picture2.made_from = made.without_button();
   List1.made_from = made.without_button();
+  List1.table = peak_table({{"d", "Å"}});
   Picture1.remarks = [this, &bench] {
     auto words = PowderPattern::remarks(DStarMax, " Å⁻¹");
     const auto* main1 = dynamic_cast<const Main1Form*>(bench.windows.find(Main1Form::window_name));
@@ -144,7 +173,7 @@ void DRCalc(Workbench& bench) {
   set_scales(form);
   form.Text5.set_text(Str(std::floor(form.DisplayMax)));  // a new text cuts DisplayMax and clears both pictures
   draw(form);
-  list_peaks(form);
+  list_peaks(form, state);
   curve_calculated(bench, form.Curves, {0, form.DStarMax, state.WaveLength, state.Dmin, {}, 1});
 }
 

@@ -40,4 +40,11 @@ void PowderPattern::allocate(Single dmin, int least_bins) {
   Profile.allocate(last_sample);
 }
 
+std::shared_ptr<const ListColumns> peak_table(std::vector<ListColumn> columns) {
+  columns.push_back({"I/Io", "%"});
+  return std::make_shared<const ListColumns>(
+      ListColumns{"Peaks", always(std::move(columns)),
+                  [](std::string_view line) { return line.find("I/Io") == std::string_view::npos; }});
+}
+
 }  // namespace zol

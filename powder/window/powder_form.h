@@ -2,6 +2,7 @@
 #pragma once
 
 #include "powder/interference.h"
+#include "shell/services/list_columns.h"
 #include "shell/services/window.h"
 
 namespace zol {
@@ -25,5 +26,8 @@ struct PowderPattern {
   /// Empty arrays for a list down to a spacing in angstroms, with a number of bins at least.
   void allocate(Single dmin, int least_bins);
 };
+
+/// How the list of peaks is read as a table; the line of its heads is no row.
+[[nodiscard]] std::shared_ptr<const ListColumns> peak_table(std::vector<ListColumn> columns);
 
 }  // namespace zol

@@ -111,6 +111,7 @@ void XdForm::declare(const Workbench& bench) {
                     "Main1.List2"};
   Picture1.made_from = made;
   List1.made_from = made.without_button();
+  List1.table = peak_table({{"2theta", "°"}, {"d", "Å"}});
   Picture1.remarks = [this, &bench] {
     auto words = PowderPattern::remarks(double{TwoThetaMax} - double{TwoThetaMin}, "°");
     const auto* main1 = dynamic_cast<const Main1Form*>(bench.windows.find(Main1Form::window_name));

@@ -2,6 +2,7 @@
 
 #include "core/number_text.h"
 #include "core/site_remarks.h"
+#include "reflections/window/crystal_tables_form.h"
 #include "shell/services/guards.h"
 #include "shell/services/latin1.h"
 
@@ -75,6 +76,9 @@ void Main1Form::declare_results() {
     for (auto& remark : words) remark = utf8_of_latin1(remark);
     return words;
   };
+  List1.table = atom_table();
+  List2.table = reflection_table(state);
+  List3.table = space_group_table();
   reads = {shared::radiation, shared::smallest_d, shared::order};
 }
 

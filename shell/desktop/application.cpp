@@ -68,7 +68,6 @@ void show_read_only(const DataRoot& data) {
 
 void name_application() {
   QApplication::setApplicationName(QStringLiteral("zol"));
-  QApplication::setApplicationDisplayName(QStringLiteral("ZOL"));
   QApplication::setApplicationVersion(QString::fromLatin1(program_version));
   use_desktop_resources();
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/zol.svg")));

@@ -8,7 +8,7 @@
 #include <QPainter>
 #include <QWheelEvent>
 
-#include "shell/desktop/drawn_file.h"
+#include "shell/desktop/curve_drawing.h"
 #include "shell/desktop/qt_text.h"
 
 namespace zol {
@@ -89,23 +89,7 @@ void CurveView::paint() {
 }
 
 FileDrawing CurveView::drawing(const QString& caption) const {
-  QFont font = view_.font();
-  constexpr int pixels = 12;
-  font.setPixelSize(pixels);
-  const QFontMetricsF metrics(font);
-  const QMarginsF margins = CurvePainter::margins(canvas_, font);
-  const QRectF picture(margins.left(), margins.top(), canvas_.pixel_width(), canvas_.pixel_height());
-  QSizeF size = picture.marginsAdded(margins).size();
-  const QRectF words = caption.isEmpty() ? QRectF()
-                                         : metrics.boundingRect(QRectF(0, size.height(), size.width(), size.height()),
-                                                                Qt::TextWordWrap, caption);
-  size.rheight() += words.height();
-  return {size, QString::fromStdString(canvas_.path()), [this, font, picture, words, caption](QPainter& to) {
-            CurvePainter(canvas_, scene_, look_, picture, font).paint(to, Qt::black);
-            to.setPen(Qt::black);
-            to.setFont(font);
-            if (!caption.isEmpty()) to.drawText(words, Qt::TextWordWrap, caption);
-          }};
+  return curve_drawing(canvas_, scene_, look_, view_.font(), caption);
 }
 
 bool CurveView::eventFilter(QObject* watched, QEvent* event) {

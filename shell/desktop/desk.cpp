@@ -2,9 +2,16 @@
 
 #include <algorithm>
 
+#include <QCryptographicHash>
+#include <QFile>
 #include <QMainWindow>
 #include <QSettings>
+#include <QStandardPaths>
 
+#include "core/number_text.h"
+#include "shell/desktop/group_search_box.h"
+#include "shell/desktop/library/library_panel.h"
+#include "shell/desktop/lit_reflection.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/ways_in_bar.h"
 #include "shell/program/program.h"
@@ -34,7 +41,8 @@ Desk::Desk(Program& program, UserEvents& events, const QString& settings_file)
       opening_(program, events, [this] { recent_.forget_chosen(); }),
       recent_(settings_.get(), opening_,
               [this](const std::string& fault) { program_.bench().services.message(fault, "ZOL"); }),
-      places_(settings_.get()) {
+      places_(settings_.get()),
+      tables_(program.bench().services, events) {
   program_.bench().services.set_chosen(
       [this](const FileQuestion& question, const std::string& path) { recent_.chosen(question, path); });
 }
@@ -44,12 +52,34 @@ Desk::~Desk() { program_.bench().services.set_chosen({}); }
 void Desk::add(Window& window, QMainWindow& top) {
   recent_.add(window, top);
   windows_menu_.add(window, top);
+  tables_.add(window, top);
+  offer_group_search(top);
+  tie_lists_of_reflections(top);
+  if (window.crystal_file != nullptr) offer_crystals(window, top);
   const auto ways = open_ways(window);
   if (ways.empty()) return;
   auto* bar = new WaysInBar(ways, [this, &window](const WayIn& way) { opening_.go(window, way.text, way.uses); });
   WaysInBar::add_to(top, bar);
   ways_in_[window.name()] = bar;
   show_ways_in();
+}
+
+/// The library of the crystal folder, beside the window that opens crystals. A folder has an index of its own.
+void Desk::offer_crystals(Window& window, QMainWindow& top) {
+  const DataRoot& data = program_.bench().data;
+  LibrarySetup setup{data.crystal_folder, "",
+                     [data](int number) { return data.path("SpaceGr/No" + Format(number, "000") + ".dat"); },
+                     [this, &window](const std::string& path) {
+                       const auto ways = file_ways(window);
+                       if (const FileWay* way = way_for(ways, path)) opening_.open(window, *way, path);
+                     }};
+  const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
+  if (settings_ && !cache.isEmpty()) {
+    const QByteArray folder = QByteArray::fromStdString(data.crystal_folder);
+    const QByteArray name = QCryptographicHash::hash(folder, QCryptographicHash::Md5).toHex();
+    setup.index_file = QFile::encodeName(cache).toStdString() + "/zol/library-" + name.toStdString() + ".index";
+  }
+  offer_library(top, setup, settings_.get());
 }
 
 void Desk::remove(const Window& window) {
@@ -60,6 +90,7 @@ void Desk::remove(const Window& window) {
 void Desk::update() {
   recent_.settle();
   windows_menu_.update();
+  tables_.update();
   show_ways_in();
 }
 

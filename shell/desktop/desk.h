@@ -11,6 +11,7 @@
 #include <QString>
 
 #include "shell/desktop/file_opening.h"
+#include "shell/desktop/list_tables.h"
 #include "shell/desktop/recent_menu.h"
 #include "shell/desktop/window_places.h"
 #include "shell/desktop/windows_menu.h"
@@ -40,6 +41,7 @@ class Desk {
 
  private:
   void show_ways_in();
+  void offer_crystals(Window& window, QMainWindow& top);
 
   Program& program_;
   std::unique_ptr<QSettings> settings_;
@@ -47,6 +49,7 @@ class Desk {
   WindowsMenu windows_menu_;
   RecentMenu recent_;
   WindowPlaces places_;
+  ListTables tables_;
   std::map<std::string, QWidget*> ways_in_;  ///< the bar of each window that has one
 };
 

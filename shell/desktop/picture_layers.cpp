@@ -25,14 +25,6 @@ QFont layer_font() {
   return font;
 }
 
-/// Colours that are told apart, also by the colour-blind, and readable on white. Source: Okabe & Ito (2008), the two
-/// pale ones darkened.
-QColor family_colour(int family) {
-  constexpr std::array<QRgb, 7> colours{0xff0072b2, 0xffb34700, 0xff00795a, 0xff9c4a7c,
-                                        0xff7a6a00, 0xff2f6f9f, 0xff000000};
-  return QColor::fromRgb(colours.at(static_cast<std::size_t>(family) % colours.size()));
-}
-
 /// Words on a pale ground, inside the room as far as they fit.
 void draw_words(QPainter& painter, QPointF at, const QString& words, const QRectF& room) {
   constexpr double margin = 3;
@@ -103,13 +95,17 @@ void paint_circle(QPainter& painter, const PicturePlace& place) {
   constexpr double share = 0.4;  // of the smaller side
   const PictureGeometry& geometry = *place.canvas->geometry;
   const double room = share * std::min(place.rect.width(), place.rect.height());
-  const double angle = circle_angle(geometry, room / place.pixels(1));
+  const CircleFrame frame = geometry.circle_frame ? geometry.circle_frame() : CircleFrame{};
+  const QPointF centre = place.to_view(frame.x, frame.y);
+  const QPointF unit = place.to_view(frame.x + frame.unit_x, frame.y + frame.unit_y) - centre;
+  const double longer = std::max(std::abs(unit.x()), std::abs(unit.y()));
+  const double angle = longer > 0 ? circle_angle(geometry, room / longer) : 0;
   if (angle <= 0) return;
-  const double radius = place.pixels(geometry.circle(angle));
-  const QPointF centre = place.to_view(0, 0);
+  const double across = std::abs(unit.x()) * geometry.circle(angle);
+  const double radius = std::abs(unit.y()) * geometry.circle(angle);
   painter.setBrush(Qt::NoBrush);
   painter.setPen(QPen(accent, 1.5, Qt::DashLine));
-  painter.drawEllipse(centre, radius, radius);
+  painter.drawEllipse(centre, across, radius);
   painter.drawLine(centre - QPointF(5, 0), centre + QPointF(5, 0));
   painter.drawLine(centre - QPointF(0, 5), centre + QPointF(0, 5));
   draw_words(painter, centre + QPointF(3, radius - 7), to_qt(plain_text(angle) + "°"), place.rect);
@@ -174,6 +170,12 @@ double PicturePlace::pixels(double length) const {
   return std::abs(length / (scale.right - scale.left)) * rect.width();
 }
 
+QColor family_colour(int family) {
+  constexpr std::array<QRgb, family_colours> colours{0xff0060c8, 0xff802010, 0xff008550, 0xff9c4a7c,
+                                                     0xff807400, 0xff202080, 0xff000000};
+  return QColor::fromRgb(colours.at(static_cast<std::size_t>(family) % colours.size()));
+}
+
 double circle_angle(const PictureGeometry& geometry, double most) {
   double best = 0;
   for (const double angle : {0.1, 0.2, 0.5, 1.0, 2.0, 5.0, 10.0, 20.0, 30.0, 45.0, 60.0}) {
@@ -190,7 +192,11 @@ void PictureLayers::paint(QPainter& painter, const PicturePlace& place) {
   painter.setFont(layer_font());
   if (PictureChoices::of_program().on(PictureChoices::Halos) && place.canvas->has_picture())
     paint_halos(painter, place);
-  for (const PictureMark& mark : row_marks) draw_mark(painter, mark, place, QColor(0xff, 0xb0, 0x00));
+  const QColor amber(0xff, 0xb0, 0x00);
+  for (const PictureMark& mark : row_marks) draw_mark(painter, mark, place, amber);
+  for (const PictureMark& mark : linked ? place.canvas->marks() : PictureMarks()) {
+    if (mark.is_of(*linked)) draw_mark(painter, mark, place, amber);
+  }
   paint_wanted(painter, place);
   const auto& marks = place.canvas->marks();
   if (lit >= 0 && lit < static_cast<int>(marks.size())) {
@@ -204,7 +210,8 @@ void PictureLayers::paint_wanted(QPainter& painter, const PicturePlace& place) {
   const PictureChoices& choices = PictureChoices::of_program();
   painter.setFont(layer_font());
   if (choices.on(PictureChoices::Labels)) paint_labels(painter, place);
-  if (choices.on(PictureChoices::Scale) && !place.canvas->drawing().empty()) paint_scale(painter, place);
+  if (choices.on(PictureChoices::Scale) && (place.canvas->has_picture() || !place.canvas->drawing().empty()))
+    paint_scale(painter, place);
 }
 
 void PictureLayers::place_all(const QPainter& painter, const PicturePlace& place) {

@@ -27,14 +27,19 @@ struct PicturePlace {
 /// The angle of a circle that fits into so many user units: the largest round one; 0 where none does.
 [[nodiscard]] double circle_angle(const PictureGeometry& geometry, double most);
 
+/// Colours of families of reflections, a row that repeats: told apart also by the colour-blind, readable on white.
+inline constexpr int family_colours = 7;
+[[nodiscard]] QColor family_colour(int family);
+
 class PictureLayers {
  public:
   using Place = std::array<double, 2>;
 
-  int lit = -1;                     ///< the mark under the pointer, or of the row under it
-  PictureMarks row_marks = {};      ///< of a row of the list
-  std::optional<Place> from, to;    ///< a measurement, in user coordinates
-  std::optional<QPointF> loupe_at;  ///< in the view
+  int lit = -1;                              ///< the mark under the pointer, or of the row under it
+  PictureMarks row_marks = {};               ///< of a row of the list
+  std::optional<std::array<int, 3>> linked;  ///< the reflection that is lit in another window
+  std::optional<Place> from, to;             ///< a measurement, in user coordinates
+  std::optional<QPointF> loupe_at;           ///< in the view
 
   /// What the user wants to see, what is lit and what is measured.
   void paint(QPainter& painter, const PicturePlace& place);

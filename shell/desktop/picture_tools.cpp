@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 
+#include "shell/desktop/lit_reflection.h"
 #include "shell/desktop/note_line.h"
 #include "shell/desktop/picture_choices.h"
 #include "shell/desktop/qt_text.h"
@@ -44,8 +45,33 @@ PictureLayers::Place user_place(const PicturePlace& place, const QPointF& positi
 PictureTools::PictureTools(Canvas& canvas, UserEvents& events, QWidget& view, std::function<PicturePlace()> place,
                            std::function<void(const QString&)> tell)
     : canvas_(canvas), events_(events), view_(view), place_(std::move(place)), tell_(std::move(tell)) {
-  if (canvas_.rows != nullptr) link_rows();
-  if (canvas_.row_marks) view_.setFocusPolicy(Qt::StrongFocus);
+  view_.installEventFilter(this);
+  connect(&LitReflection::of_program(), &LitReflection::changed, this,
+          [this](const QObject* source, const LitReflection::Indices& hkl) {
+            if (source == this || std::exchange(layers_.linked, hkl) == hkl || canvas_.marks().empty()) return;
+            show();
+          });
+}
+
+/// What a handler declares of its picture is there when the window is shown.
+bool PictureTools::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::Show && list_ == nullptr) {
+    if (canvas_.rows != nullptr) link_rows();
+    if (canvas_.row_marks) view_.setFocusPolicy(Qt::StrongFocus);
+  }
+  return QObject::eventFilter(watched, event);
+}
+
+/// The mark that is lit, in the other windows.
+void PictureTools::tell_lit() {
+  const auto& marks = canvas_.marks();
+  LitReflection::Indices hkl;
+  if (layers_.lit >= 0 && layers_.lit < static_cast<int>(marks.size())) {
+    const PictureMark& mark = marks[static_cast<std::size_t>(layers_.lit)];
+    if (mark.d > 0) hkl = {mark.h, mark.k, mark.l};  // else it is a direction
+  }
+  layers_.linked.reset();
+  LitReflection::of_program().light(*this, hkl);
 }
 
 void PictureTools::link_rows() {
@@ -73,6 +99,7 @@ void PictureTools::light_row(int row) {
   layers_.lit = row < 0 || found == marks.end() ? -1 : static_cast<int>(found - marks.begin());
   if (canvas_.row_marks) events_.guard([&] { layers_.row_marks = row < 0 ? PictureMarks() : canvas_.row_marks(row); });
   light_in_list(row);
+  tell_lit();
   show();
 }
 
@@ -110,6 +137,7 @@ void PictureTools::point_at(const std::optional<QPointF>& position) {
   if (lit == layers_.lit) return;
   layers_.lit = lit;
   if (canvas_.rows != nullptr) light_in_list(lit < 0 ? -1 : canvas_.marks()[static_cast<std::size_t>(lit)].row);
+  tell_lit();
   show();
 }
 

@@ -43,11 +43,15 @@ class PictureTools : public QObject {
   void add_entries(QMenu& menu);
   [[nodiscard]] PictureLayers& layers() { return layers_; }
 
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   enum class Lit { ByPointer, ByRow };
   void link_rows();
   void light_row(int row);
   void light_in_list(int row);
+  void tell_lit();
   void walk(int by);
   void set_measuring(bool on);
   void tell_distance();

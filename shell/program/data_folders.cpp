@@ -129,6 +129,7 @@ std::string examples_folder() {
 }
 
 std::string state_folder() { return user_folder("XDG_STATE_HOME", ".local/state").string(); }
+std::string cache_folder() { return user_folder("XDG_CACHE_HOME", ".cache").string(); }
 
 DataPlaces data_places() {
   std::error_code error;

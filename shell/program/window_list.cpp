@@ -17,6 +17,7 @@ constexpr void (*window_list[])(Workbench&) = {
     add_window<struct ZaxisForm>,
     add_window<struct CameraParametersForm>,
     add_window<struct AtomDistanceForm>,
+    add_window<struct BondsForm>,
     add_window<struct UtilityForm>,
     add_window<struct PatternForm>,
     add_window<struct FiberTextureForm>,

@@ -9,6 +9,7 @@
 #include "shell/script/control_text.h"
 #include "shell/script/script_words.h"
 #include "shell/services/latin1.h"
+#include "shell/services/list_table.h"
 
 namespace zol {
 
@@ -55,6 +56,7 @@ const std::vector<ScriptDriver::Operation>& ScriptDriver::operations() {
       {"answer TEXT", [](ScriptDriver& d, const Words& w) { d.services_.queue_answer(w[1], d.line_); }},
       {"cancel", [](ScriptDriver& d, const Words&) { d.services_.queue_answer(""); }},
       {"print W.C", [](ScriptDriver& d, const Words& w) { d.print(w); }},
+      {"table W.C WORDS", [](ScriptDriver& d, const Words& w) { d.print_table(w); }},
       {"call W.OPERATION", [](ScriptDriver& d, const Words& w) { d.call(w); }},
       {"snapshot",
        [](ScriptDriver& d, const Words&) {
@@ -212,6 +214,24 @@ void ScriptDriver::print_value(const std::string& owner, const NamedValues& valu
                 std::to_string(indices.size()));
   }
   output_ << values.text(field, indices) << '\n';
+}
+
+/// As CSV, with the columns that the words ask for.
+void ScriptDriver::print_table(const Words& words) {
+  if (words.size() < 2) fail_script("the form is: table W.C WORDS");
+  const auto& list = control<ListBox>(words[1]);
+  if (!list.table) fail_script(words[1] + " has no columns");
+  const auto choices = ListTable::choices(*list.table);
+  const TableChoices wanted(words.begin() + 2, words.end());
+  for (const auto& choice : wanted) {
+    if (std::find(choices.begin(), choices.end(), choice) == choices.end()) {
+      std::string known;
+      for (const auto& caption : choices) known += (known.empty() ? "" : ", ") + caption;
+      fail_script("the table of " + words[1] + " has no choice \"" + choice + "\"; it has: " + known);
+    }
+  }
+  const ListTable table(*list.table, list.contents().items, wanted);
+  output_ << table.text(table.arranged(-1, false, ""), ',');
 }
 
 void ScriptDriver::call(const Words& words) {

@@ -40,6 +40,7 @@ class ScriptDriver {
   void choose(const Words& words);
   void print(const Words& words);
   void print_value(const std::string& owner, const NamedValues& values, const std::string& name);
+  void print_table(const Words& words);
   void call(const Words& words);
   void print_pages();
   void go_in_history(std::shared_ptr<const Snapshot> (History::*go)(), const std::string& (History::*name)() const,

@@ -25,6 +25,7 @@
 namespace zol {
 
 class Window;
+struct ListColumns;
 
 /// Why an action would end the run, or be of no use, in the present state; empty where it is fine. It begins with a
 /// small letter, has no full stop, and changes nothing. A script knows nothing of it.
@@ -359,6 +360,7 @@ class ListBox : public ControlWith<ListBoxContents> {
   void pick(int index);
   Event<> on_click;
   std::function<std::string(int index)> warn_row = {};  ///< why this line should not be picked
+  std::shared_ptr<const ListColumns> table = {};        ///< how its lines are read as rows of a table; none: not at all
 
  private:
   void contents_replaced() override { ++revision_; }

@@ -30,14 +30,27 @@ struct PictureMark {
   int row = -1;                     ///< of the list beside the picture; -1: it stands in none
   bool operator==(const PictureMark&) const = default;
   [[nodiscard]] bool is_line() const { return along_x != 0 || along_y != 0; }
+  /// Whether it is that of a reflection; a line or a ring is that of its opposite, too. Directions have no spacing.
+  [[nodiscard]] bool is_of(const std::array<int, 3>& hkl) const {
+    if (!(d > 0)) return false;
+    if (hkl == std::array{h, k, l}) return true;
+    return (is_line() || radius > 0) && hkl == std::array{-h, -k, -l};
+  }
 };
 using PictureMarks = SharedVector<PictureMark>;
+
+/// Where circles of an angle stand, in user coordinates: their centre, and how long their unit is along x and y.
+struct CircleFrame {
+  double x = 0, y = 0;
+  double unit_x = 1, unit_y = 1;
+};
 
 /// What places stand for: points of a plane in reciprocal space, or directions.
 struct PictureGeometry {
   double per_unit = 0;  ///< 1/angstrom of a user unit; 0: places are directions
   std::function<std::array<double, 3>(double x, double y)> direction = {};  ///< a unit vector
   std::function<double(double angle_deg)> circle = {};                      ///< radius of an angle around the centre
+  std::function<CircleFrame()> circle_frame = {};                           ///< none: around the origin, in user units
   std::function<double()> wavelength = {};                                  ///< angstrom, 0 where there is none
 };
 

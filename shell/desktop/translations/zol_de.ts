@@ -5159,5 +5159,319 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <source>CUBIC</source>
         <translation>KUBISCH</translation>
     </message>
+    <message>
+        <source>Bonds and angles</source>
+        <translation>Bindungen und Winkel</translation>
+    </message>
+    <message>
+        <source>the bonds of each atom, the angles between them and the coordination numbers, in a window of their own</source>
+        <translation>die Bindungen jedes Atoms, die Winkel dazwischen und die Koordinationszahlen, in einem eigenen Fenster</translation>
+    </message>
+    <message>
+        <source>Bonds up to (A)</source>
+        <translation>Bindungen bis (A)</translation>
+    </message>
+    <message>
+        <source>longest bond, in angstroms; empty: the bonds of an atom end at the first gap; Enter calculates</source>
+        <translation>längste Bindung, in Ångström; leer: die Bindungen eines Atoms enden an der ersten Lücke; Enter rechnet</translation>
+    </message>
+    <message>
+        <source>First gap (%)</source>
+        <translation>Erste Lücke (%)</translation>
+    </message>
+    <message>
+        <source>the bonds of an atom end where the next atom is farther by more than this share of the distance; not used where a longest bond is given</source>
+        <translation>die Bindungen eines Atoms enden, wo das nächste Atom um mehr als diesen Anteil des Abstands weiter weg ist; gilt nicht, wo eine längste Bindung steht</translation>
+    </message>
+    <message>
+        <source>bonds, angles and coordination numbers in the crystal as it is now</source>
+        <translation>Bindungen, Winkel und Koordinationszahlen im jetzigen Kristall</translation>
+    </message>
+    <message>
+        <source>each atom of the asymmetric unit: element, coordination number, shortest, mean and longest bond, and the nearest atom that is not bonded, in angstroms</source>
+        <translation>jedes Atom der asymmetrischen Einheit: Element, Koordinationszahl, kürzeste, mittlere und längste Bindung und das nächste nicht gebundene Atom, in Ångström</translation>
+    </message>
+    <message>
+        <source>each bond: its two atoms, the distance in angstroms, and where the second atom is, in cell edges</source>
+        <translation>jede Bindung: ihre zwei Atome, der Abstand in Ångström und wo das zweite Atom liegt, in Zellkanten</translation>
+    </message>
+    <message>
+        <source>each two bonds of an atom: the angle at it in degrees, and the two distances in angstroms</source>
+        <translation>je zwei Bindungen eines Atoms: der Winkel an ihm in Grad und die zwei Abstände in Ångström</translation>
+    </message>
+    <message>
+        <source>it asks more than is known of it</source>
+        <translation>sie fragt mehr, als von ihr bekannt ist</translation>
+    </message>
+    <message>
+        <source>%1: a number is expected, as in a=5.43</source>
+        <translation>%1: erwartet wird eine Zahl, wie in a=5.43</translation>
+    </message>
+    <message>
+        <source>%1: an element is expected behind the sign, as in +Si</source>
+        <translation>%1: hinter dem Zeichen wird ein Element erwartet, wie in +Si</translation>
+    </message>
+    <message>
+        <source>%1: there is no such space group or crystal system</source>
+        <translation>%1: eine solche Raumgruppe oder ein solches Kristallsystem gibt es nicht</translation>
+    </message>
+    <message>
+        <source>%1: a, b, c, alpha, beta, gamma, V, density or group are expected before the sign</source>
+        <translation>%1: vor dem Zeichen werden a, b, c, alpha, beta, gamma, V, density oder group erwartet</translation>
+    </message>
+    <message>
+        <source>how many reflections are equivalent, Friedel mates included</source>
+        <translation>wie viele Reflexe gleichwertig sind, samt den Friedel-Partnern</translation>
+    </message>
+    <message>
+        <source>where a screw axis or a glide plane leaves nothing of it</source>
+        <translation>wo eine Schraubenachse oder Gleitspiegelebene nichts davon lässt</translation>
+    </message>
+    <message>
+        <source>the reflection that stands for all of the family</source>
+        <translation>der Reflex, der für die ganze Familie steht</translation>
+    </message>
+    <message>
+        <source>Atoms of the unit cell</source>
+        <translation>Atome der Elementarzelle</translation>
+    </message>
+    <message>
+        <source>sin(theta)/lambda = 1/(2d), k/2 in the list</source>
+        <translation>sin(theta)/lambda = 1/(2d), k/2 in der Liste</translation>
+    </message>
+    <message>
+        <source>real part of the structure factor</source>
+        <translation>Realteil des Strukturfaktors</translation>
+    </message>
+    <message>
+        <source>imaginary part of the structure factor</source>
+        <translation>Imaginärteil des Strukturfaktors</translation>
+    </message>
+    <message>
+        <source>modulus of the structure factor</source>
+        <translation>Betrag des Strukturfaktors</translation>
+    </message>
+    <message>
+        <source>width of a band, computed less measured</source>
+        <translation>Breite eines Bandes, berechnet weniger gemessen</translation>
+    </message>
+    <message>
+        <source>planes of the family</source>
+        <translation>Ebenen der Familie</translation>
+    </message>
+    <message>
+        <source>x: used, -: left out</source>
+        <translation>x: benutzt, -: ausgelassen</translation>
+    </message>
+    <message>
+        <source>from the plane of the picked solution</source>
+        <translation>von der Ebene der gewählten Lösung</translation>
+    </message>
+    <message>
+        <source>bands that are explained</source>
+        <translation>erklärte Bänder</translation>
+    </message>
+    <message>
+        <source>mean deviation of the bands</source>
+        <translation>mittlere Abweichung der Bänder</translation>
+    </message>
+    <message>
+        <source>correlation with the picture</source>
+        <translation>Korrelation mit dem Bild</translation>
+    </message>
+    <message>
+        <source>confidence</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>coordination number</source>
+        <translation>Koordinationszahl</translation>
+    </message>
+    <message>
+        <source>nearest atom that is not bonded</source>
+        <translation>nächstes nicht gebundenes Atom</translation>
+    </message>
+    <message>
+        <source>of the second atom</source>
+        <translation>des zweiten Atoms</translation>
+    </message>
+    <message>
+        <source>Space groups</source>
+        <translation>Raumgruppen</translation>
+    </message>
+    <message>
+        <source>Bonds</source>
+        <translation>Bindungen</translation>
+    </message>
+    <message>
+        <source>Angles</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>Coordination</source>
+        <translation>Koordination</translation>
+    </message>
+    <message>
+        <source>Multiplicity</source>
+        <translation>Multiplizität</translation>
+    </message>
+    <message>
+        <source>Systematic absences</source>
+        <translation>Systematische Auslöschungen</translation>
+    </message>
+    <message>
+        <source>Families of equivalents</source>
+        <translation>Familien gleichwertiger Reflexe</translation>
+    </message>
+    <message>
+        <source>Four indices h k i l</source>
+        <translation>Vier Indizes h k i l</translation>
+    </message>
+    <message>
+        <source>Four indices U V T W</source>
+        <translation>Vier Indizes U V T W</translation>
+    </message>
+    <message>
+        <source>atom    elem.    CN  shortest      mean   longest      next</source>
+        <translation>Atom    Elem.    KZ  kürzeste   mittlere  längste      nächst</translation>
+    </message>
+    <message>
+        <source>atom 1  elem. atom 2  elem.   distance         x         y         z</source>
+        <translation>Atom 1  Elem. Atom 2  Elem.    Abstand         x         y         z</translation>
+    </message>
+    <message>
+        <source>atom 1  centre  atom 2      angle       d 1       d 2</source>
+        <translation>Atom 1  Mitte   Atom 2     Winkel       d 1       d 2</translation>
+    </message>
+    <message>
+        <source>%1 is "%2"; expected is a number above 0, or nothing</source>
+        <translation>%L1 ist „%2“; erwartet wird eine Zahl über 0 oder nichts</translation>
+    </message>
+    <message>
+        <source>search for a space group</source>
+        <translation>Suche nach einer Raumgruppe</translation>
+    </message>
+    <message>
+        <source>Fm-3m, 225, cubic</source>
+        <translation>Fm-3m, 225, cubic</translation>
+    </message>
+    <message>
+        <source>number, symbol or crystal system of a space group; Enter takes the first one found</source>
+        <translation>Nummer, Symbol oder Kristallsystem (englisch) einer Raumgruppe; Enter nimmt die erste gefundene</translation>
+    </message>
+    <message>
+        <source>Show as table</source>
+        <translation>Als Tabelle zeigen</translation>
+    </message>
+    <message>
+        <source>Table: %1</source>
+        <translation>Tabelle: %L1</translation>
+    </message>
+    <message>
+        <source>d&gt;1.5 h=1, or a word</source>
+        <translation>d&gt;1.5 h=1 oder ein Wort</translation>
+    </message>
+    <message>
+        <source>only rows for which all parts hold: a column compared by = &lt;&gt; &lt; &gt; &lt;= &gt;=, or any text</source>
+        <translation>nur Zeilen, für die alle Teile gelten: eine Spalte verglichen durch = &lt;&gt; &lt; &gt; &lt;= &gt;=, oder irgendein Text</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Spalten</translation>
+    </message>
+    <message>
+        <source>what may stand beside the columns of the list</source>
+        <translation>was neben den Spalten der Liste stehen kann</translation>
+    </message>
+    <message>
+        <source>the selected rows, or all, with their heads, tabs between the cells</source>
+        <translation>die ausgewählten Zeilen oder alle, mit ihren Köpfen, Tabulatoren zwischen den Zellen</translation>
+    </message>
+    <message>
+        <source>Save as CSV...</source>
+        <translation>Als CSV speichern...</translation>
+    </message>
+    <message>
+        <source>all rows that are shown, in their order, to a file of comma-separated values</source>
+        <translation>alle gezeigten Zeilen in ihrer Reihenfolge, in eine Datei mit Kommas zwischen den Werten</translation>
+    </message>
+    <message>
+        <source>Sort by this column</source>
+        <translation>Nach dieser Spalte sortieren</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 Zeilen</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation>%1 von %2 Zeilen</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>Als CSV speichern</translation>
+    </message>
+    <message>
+        <source>Crystal library</source>
+        <translation>Kristallbibliothek</translation>
+    </message>
+    <message>
+        <source>reading file %1 of %2</source>
+        <translation>liest Datei %1 von %2</translation>
+    </message>
+    <message>
+        <source>search in the crystal library</source>
+        <translation>Suche in der Kristallbibliothek</translation>
+    </message>
+    <message>
+        <source>quartz, +Si -Al, Fm-3m, a=5.43</source>
+        <translation>Quarz, +Si -Al, Fm-3m, a=5.43</translation>
+    </message>
+    <message>
+        <source>Words that all have to hold:
+quartz - in the name, the title or a folder
+SiO2 - this formula
++Si -Al - with, without an element
+225, Fm-3m, cubic - space group or crystal system
+a=5.43 - within 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; also b, c, alpha, beta, gamma, V, density</source>
+        <translation>Wörter, die alle gelten müssen:
+quartz - im Namen, im Titel oder in einem Ordner
+SiO2 - diese Formel
++Si -Al - mit, ohne ein Element
+225, Fm-3m, cubic - Raumgruppe oder Kristallsystem
+a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma, V, density</translation>
+    </message>
+    <message>
+        <source>crystals</source>
+        <translation>Kristalle</translation>
+    </message>
+    <message>
+        <source>Enter or a double click opens the crystal</source>
+        <translation>Enter oder ein Doppelklick öffnet den Kristall</translation>
+    </message>
+    <message>
+        <source>%1 crystals</source>
+        <translation>%1 Kristalle</translation>
+    </message>
+    <message>
+        <source>%1 of %2 crystals</source>
+        <translation>%1 von %2 Kristallen</translation>
+    </message>
+    <message>
+        <source>%1 crystals, %2</source>
+        <translation>%1 Kristalle, %L2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 crystals, %3</source>
+        <translation>%1 von %2 Kristallen, %L3</translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation>Formel</translation>
+    </message>
 </context>
 </TS>

@@ -5159,5 +5159,319 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <source>CUBIC</source>
         <translation>CUBIQUE</translation>
     </message>
+    <message>
+        <source>Bonds and angles</source>
+        <translation>Liaisons et angles</translation>
+    </message>
+    <message>
+        <source>the bonds of each atom, the angles between them and the coordination numbers, in a window of their own</source>
+        <translation>les liaisons de chaque atome, leurs angles et les coordinences, dans une fenêtre à part</translation>
+    </message>
+    <message>
+        <source>Bonds up to (A)</source>
+        <translation>Liaisons jusqu'à (A)</translation>
+    </message>
+    <message>
+        <source>longest bond, in angstroms; empty: the bonds of an atom end at the first gap; Enter calculates</source>
+        <translation>plus longue liaison, en angströms ; vide : les liaisons d'un atome finissent au premier écart ; Entrée calcule</translation>
+    </message>
+    <message>
+        <source>First gap (%)</source>
+        <translation>Premier écart (%)</translation>
+    </message>
+    <message>
+        <source>the bonds of an atom end where the next atom is farther by more than this share of the distance; not used where a longest bond is given</source>
+        <translation>les liaisons d'un atome finissent où le suivant est plus loin de plus que cette part de la distance ; sans effet si une plus longue liaison est donnée</translation>
+    </message>
+    <message>
+        <source>bonds, angles and coordination numbers in the crystal as it is now</source>
+        <translation>liaisons, angles et coordinences dans le cristal tel qu'il est</translation>
+    </message>
+    <message>
+        <source>each atom of the asymmetric unit: element, coordination number, shortest, mean and longest bond, and the nearest atom that is not bonded, in angstroms</source>
+        <translation>chaque atome de l'unité asymétrique : élément, coordinence, liaisons la plus courte, moyenne et la plus longue, et l'atome non lié le plus proche, en angströms</translation>
+    </message>
+    <message>
+        <source>each bond: its two atoms, the distance in angstroms, and where the second atom is, in cell edges</source>
+        <translation>chaque liaison : ses deux atomes, la distance en angströms, et où est le second atome, en arêtes de la maille</translation>
+    </message>
+    <message>
+        <source>each two bonds of an atom: the angle at it in degrees, and the two distances in angstroms</source>
+        <translation>chaque paire de liaisons d'un atome : l'angle en degrés et les deux distances en angströms</translation>
+    </message>
+    <message>
+        <source>it asks more than is known of it</source>
+        <translation>il demande plus qu'on n'en sait</translation>
+    </message>
+    <message>
+        <source>%1: a number is expected, as in a=5.43</source>
+        <translation>%1 : un nombre est attendu, comme dans a=5.43</translation>
+    </message>
+    <message>
+        <source>%1: an element is expected behind the sign, as in +Si</source>
+        <translation>%1 : un élément est attendu après le signe, comme dans +Si</translation>
+    </message>
+    <message>
+        <source>%1: there is no such space group or crystal system</source>
+        <translation>%1 : il n'y a pas de tel groupe d'espace ou système cristallin</translation>
+    </message>
+    <message>
+        <source>%1: a, b, c, alpha, beta, gamma, V, density or group are expected before the sign</source>
+        <translation>%1 : a, b, c, alpha, beta, gamma, V, density ou group sont attendus avant le signe</translation>
+    </message>
+    <message>
+        <source>how many reflections are equivalent, Friedel mates included</source>
+        <translation>combien de réflexions sont équivalentes, paires de Friedel comprises</translation>
+    </message>
+    <message>
+        <source>where a screw axis or a glide plane leaves nothing of it</source>
+        <translation>où un axe hélicoïdal ou un plan de glissement n'en laisse rien</translation>
+    </message>
+    <message>
+        <source>the reflection that stands for all of the family</source>
+        <translation>la réflexion qui représente toute la famille</translation>
+    </message>
+    <message>
+        <source>Atoms of the unit cell</source>
+        <translation>Atomes de la maille</translation>
+    </message>
+    <message>
+        <source>sin(theta)/lambda = 1/(2d), k/2 in the list</source>
+        <translation>sin(thêta)/lambda = 1/(2d), k/2 dans la liste</translation>
+    </message>
+    <message>
+        <source>real part of the structure factor</source>
+        <translation>partie réelle du facteur de structure</translation>
+    </message>
+    <message>
+        <source>imaginary part of the structure factor</source>
+        <translation>partie imaginaire du facteur de structure</translation>
+    </message>
+    <message>
+        <source>modulus of the structure factor</source>
+        <translation>module du facteur de structure</translation>
+    </message>
+    <message>
+        <source>width of a band, computed less measured</source>
+        <translation>largeur d'une bande, calculée moins mesurée</translation>
+    </message>
+    <message>
+        <source>planes of the family</source>
+        <translation>plans de la famille</translation>
+    </message>
+    <message>
+        <source>x: used, -: left out</source>
+        <translation>x : utilisée, - : omise</translation>
+    </message>
+    <message>
+        <source>from the plane of the picked solution</source>
+        <translation>au plan de la solution choisie</translation>
+    </message>
+    <message>
+        <source>bands that are explained</source>
+        <translation>bandes expliquées</translation>
+    </message>
+    <message>
+        <source>mean deviation of the bands</source>
+        <translation>écart moyen des bandes</translation>
+    </message>
+    <message>
+        <source>correlation with the picture</source>
+        <translation>corrélation avec l'image</translation>
+    </message>
+    <message>
+        <source>confidence</source>
+        <translation>confiance</translation>
+    </message>
+    <message>
+        <source>coordination number</source>
+        <translation>coordinence</translation>
+    </message>
+    <message>
+        <source>nearest atom that is not bonded</source>
+        <translation>atome non lié le plus proche</translation>
+    </message>
+    <message>
+        <source>of the second atom</source>
+        <translation>du second atome</translation>
+    </message>
+    <message>
+        <source>Space groups</source>
+        <translation>Groupes d'espace</translation>
+    </message>
+    <message>
+        <source>Bonds</source>
+        <translation>Liaisons</translation>
+    </message>
+    <message>
+        <source>Angles</source>
+        <translation>Angles</translation>
+    </message>
+    <message>
+        <source>Coordination</source>
+        <translation>Coordinence</translation>
+    </message>
+    <message>
+        <source>Multiplicity</source>
+        <translation>Multiplicité</translation>
+    </message>
+    <message>
+        <source>Systematic absences</source>
+        <translation>Absences systématiques</translation>
+    </message>
+    <message>
+        <source>Families of equivalents</source>
+        <translation>Familles d'équivalents</translation>
+    </message>
+    <message>
+        <source>Four indices h k i l</source>
+        <translation>Quatre indices h k i l</translation>
+    </message>
+    <message>
+        <source>Four indices U V T W</source>
+        <translation>Quatre indices U V T W</translation>
+    </message>
+    <message>
+        <source>atom    elem.    CN  shortest      mean   longest      next</source>
+        <translation>atome   élém.    NC  courte     moyenne   longue     suivant</translation>
+    </message>
+    <message>
+        <source>atom 1  elem. atom 2  elem.   distance         x         y         z</source>
+        <translation>atome 1 élém. atome 2 élém.   distance         x         y         z</translation>
+    </message>
+    <message>
+        <source>atom 1  centre  atom 2      angle       d 1       d 2</source>
+        <translation>atome 1 centre  atome 2     angle       d 1       d 2</translation>
+    </message>
+    <message>
+        <source>%1 is "%2"; expected is a number above 0, or nothing</source>
+        <translation>%L1 est « %2 » ; un nombre au-dessus de 0, ou rien, est attendu</translation>
+    </message>
+    <message>
+        <source>search for a space group</source>
+        <translation>recherche d'un groupe d'espace</translation>
+    </message>
+    <message>
+        <source>Fm-3m, 225, cubic</source>
+        <translation>Fm-3m, 225, cubic</translation>
+    </message>
+    <message>
+        <source>number, symbol or crystal system of a space group; Enter takes the first one found</source>
+        <translation>numéro, symbole ou système cristallin (en anglais) d'un groupe d'espace ; Entrée prend le premier trouvé</translation>
+    </message>
+    <message>
+        <source>Show as table</source>
+        <translation>Montrer en table</translation>
+    </message>
+    <message>
+        <source>Table: %1</source>
+        <translation>Table : %L1</translation>
+    </message>
+    <message>
+        <source>d&gt;1.5 h=1, or a word</source>
+        <translation>d&gt;1.5 h=1, ou un mot</translation>
+    </message>
+    <message>
+        <source>only rows for which all parts hold: a column compared by = &lt;&gt; &lt; &gt; &lt;= &gt;=, or any text</source>
+        <translation>seulement les lignes où tout est vrai : une colonne comparée par = &lt;&gt; &lt; &gt; &lt;= &gt;=, ou un texte quelconque</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation>Colonnes</translation>
+    </message>
+    <message>
+        <source>what may stand beside the columns of the list</source>
+        <translation>ce qui peut s'ajouter aux colonnes de la liste</translation>
+    </message>
+    <message>
+        <source>the selected rows, or all, with their heads, tabs between the cells</source>
+        <translation>les lignes choisies, ou toutes, avec leurs têtes, des tabulations entre les cellules</translation>
+    </message>
+    <message>
+        <source>Save as CSV...</source>
+        <translation>Enregistrer en CSV...</translation>
+    </message>
+    <message>
+        <source>all rows that are shown, in their order, to a file of comma-separated values</source>
+        <translation>toutes les lignes montrées, dans leur ordre, dans un fichier de valeurs séparées par des virgules</translation>
+    </message>
+    <message>
+        <source>Sort by this column</source>
+        <translation>Trier par cette colonne</translation>
+    </message>
+    <message>
+        <source>%1 rows</source>
+        <translation>%1 lignes</translation>
+    </message>
+    <message>
+        <source>%1 of %2 rows</source>
+        <translation>%1 lignes sur %2</translation>
+    </message>
+    <message>
+        <source>Save as CSV</source>
+        <translation>Enregistrer en CSV</translation>
+    </message>
+    <message>
+        <source>Crystal library</source>
+        <translation>Bibliothèque de cristaux</translation>
+    </message>
+    <message>
+        <source>reading file %1 of %2</source>
+        <translation>lecture du fichier %1 sur %2</translation>
+    </message>
+    <message>
+        <source>search in the crystal library</source>
+        <translation>recherche dans la bibliothèque de cristaux</translation>
+    </message>
+    <message>
+        <source>quartz, +Si -Al, Fm-3m, a=5.43</source>
+        <translation>quartz, +Si -Al, Fm-3m, a=5.43</translation>
+    </message>
+    <message>
+        <source>Words that all have to hold:
+quartz - in the name, the title or a folder
+SiO2 - this formula
++Si -Al - with, without an element
+225, Fm-3m, cubic - space group or crystal system
+a=5.43 - within 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; also b, c, alpha, beta, gamma, V, density</source>
+        <translation>Mots qui doivent tous convenir :
+quartz - dans le nom, le titre ou un dossier
+SiO2 - cette formule
++Si -Al - avec, sans un élément
+225, Fm-3m, cubic - groupe d'espace ou système cristallin
+a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, beta, gamma, V, density</translation>
+    </message>
+    <message>
+        <source>crystals</source>
+        <translation>cristaux</translation>
+    </message>
+    <message>
+        <source>Enter or a double click opens the crystal</source>
+        <translation>Entrée ou un double clic ouvre le cristal</translation>
+    </message>
+    <message>
+        <source>%1 crystals</source>
+        <translation>%1 cristaux</translation>
+    </message>
+    <message>
+        <source>%1 of %2 crystals</source>
+        <translation>%1 cristaux sur %2</translation>
+    </message>
+    <message>
+        <source>%1 crystals, %2</source>
+        <translation>%1 cristaux, %L2</translation>
+    </message>
+    <message>
+        <source>%1 of %2 crystals, %3</source>
+        <translation>%1 cristaux sur %2, %L3</translation>
+    </message>
+    <message>
+        <source>Formula</source>
+        <translation>Formule</translation>
+    </message>
 </context>
 </TS>

@@ -1,4 +1,4 @@
-#include "scans/lzf.h"
+#include "hdf5/lzf.h"
 
 #include <hdf5.h>
 

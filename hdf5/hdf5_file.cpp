@@ -1,4 +1,4 @@
-#include "scans/hdf5_file.h"
+#include "hdf5/hdf5_file.h"
 
 #include <hdf5.h>
 
@@ -8,7 +8,7 @@
 
 #include "core/run_failure.h"
 #include "core/trimmed.h"
-#include "scans/lzf.h"
+#include "hdf5/lzf.h"
 
 namespace zol {
 namespace {

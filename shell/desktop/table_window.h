@@ -1,0 +1,65 @@
+// A list as a table in a window of its own beside the one that holds the list. A row that is chosen here is picked in
+// the list, and the other way round.
+#pragma once
+
+#include <functional>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QTableView>
+#include <QWidget>
+
+#include "shell/desktop/table_model.h"
+#include "shell/desktop/user_events.h"
+
+class QMenu;
+
+namespace zol {
+
+class TableWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  /// @param owner  the window that holds the list; it goes with that one
+  TableWindow(ListBox& list, QWidget& owner, Services& services, UserEvents& events);
+
+  /// Comes to the front.
+  void open();
+  /// To be called after each event: the table follows the list.
+  void update_rows();
+
+ protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  void lay_out();
+  void tie();
+  void add_command(const QString& text, const QKeySequence& keys, const std::function<void()>& run);
+  void fill_columns_menu();
+  void read();
+  void show_all_columns();
+  void show_after_change();
+  void show_line();
+  void pick(int row);
+  void sort_by_current();
+  void copy();
+  void save();
+  [[nodiscard]] std::vector<int> chosen_rows() const;
+  [[nodiscard]] std::vector<int> all_rows() const;
+
+  ListBox& list_;
+  Services& services_;
+  UserEvents& events_;
+  TableModel model_;
+  QTableView view_;
+  QLineEdit filter_;
+  QLabel count_;
+  QMenu* columns_ = nullptr;
+  TableChoices chosen_;
+  int read_revision_ = -1;
+  int shown_line_ = -1;
+  bool showing_ = false;
+};
+
+}  // namespace zol

@@ -1,0 +1,344 @@
+// zol-batch as a user calls it: its words, its files, its status.
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+#include <map>
+#include <nlohmann/json.hpp>
+#include <numbers>
+#include <thread>
+
+#include <QImage>
+
+#include "core/number_text.h"
+#include "tests/test_files.h"
+
+namespace zol {
+namespace {
+
+using nlohmann::json;
+const std::string crystals = ZOL_SOURCE_DIR "/data/ZOLDATA/";
+const std::string cif = ZOL_SOURCE_DIR "/examples/cif/";
+
+struct Outcome {
+  int status = -1;
+  std::string out, err;
+};
+
+class Batch : public testing::Test {
+ protected:
+  /// Runs in the scratch folder.
+  [[nodiscard]] Outcome run_program(const std::string& command) const {
+    const std::string line = "cd '" + folder.path("") + "' && " + command + " >out 2>err </dev/null";
+    const int status = std::system(line.c_str());  // NOLINT(cert-env33-c,concurrency-mt-unsafe)
+    return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, folder.read("out"), folder.read("err")};
+  }
+  [[nodiscard]] Outcome batch(const std::string& words) const { return run_program(ZOL_BATCH " " + words); }
+  /// What a script prints.
+  [[nodiscard]] std::string script(const std::string& text) const {
+    folder.write("script", text);
+    const auto outcome = run_program(ZOL_SCRIPT " script");
+    EXPECT_EQ(outcome.status, 0) << outcome.err;
+    return outcome.out;
+  }
+  static std::vector<std::string> lines(const std::string& text) {
+    std::vector<std::string> all;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);) all.push_back(line);
+    return all;
+  }
+  /// Lines of numbers behind a head.
+  [[nodiscard]] std::vector<std::vector<double>> numbers(const std::string& text, char between) const {
+    std::vector<std::vector<double>> rows;
+    for (auto line : lines(text)) {
+      std::replace(line.begin(), line.end(), between, ' ');
+      if (line.empty() || std::isalpha(static_cast<unsigned char>(line[0])) != 0 || line[0] == '#') continue;
+      auto& row = rows.emplace_back();
+      std::istringstream in(line);
+      for (std::string word; in >> word;) row.push_back(Val(word));
+    }
+    return rows;
+  }
+
+  const ScratchFolder folder;
+};
+
+struct Case {
+  const char* words;
+  int status;
+  const char* told;  ///< on standard error
+};
+
+TEST_F(Batch, EndsWithTheStatusOfItsKindAndSaysWhy) {
+  folder.write("broken.cif", "data_x\n_cell_length_a 5\n_cell_length_b nonsense\n");
+  folder.write("empty.cry", "");
+  folder.write("broken.bmp", "BM and nothing else");
+  folder.write("nothing.ang", "");
+  const std::string link = "ln -sf " + crystals + "NaCl.cry " + crystals +
+                           "CopperLines.cry " ZOL_SOURCE_DIR "/examples/silicon-pattern.bmp " + folder.path("");
+  ASSERT_EQ(std::system(link.c_str()), 0);  // NOLINT(cert-env33-c,concurrency-mt-unsafe)
+  const Case cases[] = {
+      {"", 2, "subcommand is required"},
+      {"draw", 2, "subcommand is required"},
+      {"info", 2, "FILE"},
+      {"info --jsn NaCl.cry", 2, "--jsn"},
+      {"info missing.cif", 1, "missing.cif: No such file"},
+      {"info broken.cif NaCl.cry", 1, "broken.cif"},
+      {"info empty.cry", 1, "empty.cry"},
+      {"reflections missing.cry", 1, "missing.cry: No such file"},
+      {"reflections broken.cif", 1, "broken.cif: "},
+      {"reflections NaCl.cry --radiation 21kV", 2, "21kV is none of CuKa"},
+      {"reflections NaCl.cry --dmin 0", 2, "--dmin"},
+      {"reflections NaCl.cry --dmin 9", 1, "NaCl.cry: there are no reflections down to 9"},
+      {"reflections NaCl.cry --dmin .0001", 1, "NaCl.cry"},
+      {"reflections NaCl.cry --csv --json", 2, "excludes"},
+      {"powder NaCl.cry", 2, "--output"},
+      {"powder NaCl.cry -o x.tif", 2, "x.tif does not end in .xy"},
+      {"powder NaCl.cry -o none/x.svg", 1, "none/x.svg"},
+      {"powder NaCl.cry broken.cif -o x.xy", 1, "broken.cif"},
+      {"powder NaCl.cry --from 30 --to 30 -o x.xy", 1, "NaCl.cry: 2theta.min and 2theta.max are the same"},
+      {"rings NaCl.cry CopperLines.cry --draw rings -o x.svg", 2, "--draw"},
+      {"pattern NaCl.cry --axis 1,1 --kind spots -o x.svg", 2, "is not 3 numbers"},
+      {"pattern NaCl.cry --axis 0,0,0 --kind map -o x.svg", 2, "0,0,0 is no direction"},
+      {"pattern NaCl.cry --axis 1,1,x --kind spots -o x.svg", 2, "1,1,x"},
+      {"pattern NaCl.cry --axis 1,1,1 --kind stars -o x.svg", 2, "stars"},
+      {"pattern NaCl.cry --axis 1,1,1 --kind spots -o x.xy", 2, "x.xy does not end in .svg"},
+      {"pattern CopperLines.cry --axis 1,1,1 --kind spots -o x.svg", 1, "CopperLines.cry: a spot pattern needs atoms"},
+      {"index silicon-pattern.bmp -c NaCl.cry", 2, "--pc"},
+      {"index silicon-pattern.bmp -c NaCl.cry --pc .5,.5,-1", 2, "is no centre"},
+      {"index silicon-pattern.bmp -c NaCl.cry --pc .5,.5,.7 --convention leica", 2, "leica"},
+      {"index missing.bmp -c NaCl.cry --pc .5,.5,.7", 1, "missing.bmp: No such file"},
+      {"index broken.bmp -c NaCl.cry --pc .5,.5,.7", 1, "broken.bmp"},
+      {"index silicon-pattern.bmp -c broken.cif --pc .5,.5,.7", 1, "broken.cif"},
+      {"index silicon-pattern.bmp -c NaCl.cry --pc .5,.5,.7 --overlay none", 1, "there is no folder none"},
+      {"centre missing.h5 -c NaCl.cry", 1, "missing.h5"},
+      {"centre nothing.ang -c NaCl.cry", 1, "nothing.ang"},
+      {"centre nothing.ang -c NaCl.cry --points 4", 2, "--points"},
+      {"--write-reference none", 1, "none/zol-batch.1"},
+  };
+  const auto files_before = folder.entries() + 2;
+  for (const auto& [words, status, told] : cases) {
+    SCOPED_TRACE(words);
+    const auto outcome = batch(words);
+    EXPECT_EQ(outcome.status, status) << outcome.err;
+    EXPECT_NE(outcome.err.find(told), std::string::npos) << outcome.err;
+  }
+  EXPECT_EQ(folder.entries(), files_before) << "a file was left behind";
+  EXPECT_EQ(run_program(ZOL_BATCH " info NaCl.cry >/dev/full").status, 0) << "the last redirection holds";
+  EXPECT_EQ(run_program("(" ZOL_BATCH " info NaCl.cry >/dev/full)").status, 1) << "a full disk";
+}
+
+TEST_F(Batch, IsStoppedByASignalAndLeavesNothing) {
+  for (const char* signal : {"INT", "TERM"}) {
+    // One crystallite of few cells spreads each reflection over a large grid: minutes of work.
+    const auto outcome = run_program("timeout --preserve-status -s " + std::string(signal) + " 1 " ZOL_BATCH " rings " +
+                                     crystals + "Muscovite.cry --dmin 0.4 --cells 10 -o x.png");
+    EXPECT_EQ(outcome.status, 3) << signal << outcome.err;
+    EXPECT_EQ(outcome.err, "zol-batch: stopped\n");
+    EXPECT_EQ(folder.read("x.png"), "");
+  }
+}
+
+// Densities and distances are those of the papers that the crystals were taken from, or follow by hand from cell and Z.
+TEST_F(Batch, InfoTellsWhatAFileHoldsAndWhatWasAssumed) {
+  folder.write("broken.cif", "data_x\n");
+  const auto text = batch("info " + crystals + "Silicon.cry " + crystals + "CopperLines.cry");
+  EXPECT_EQ(text.status, 0);
+  ASSERT_EQ(lines(text.out).size(), 2U);
+  EXPECT_NE(text.out.find("Si, Z = 8, cell 5.4307 5.4307 5.4307 90 90 90, Fd3m (number 227, axes abc), 1 site, 8 atoms "
+                          "in the cell, 2.329 g/cm3, shortest Si - Si 2.352 A\n"),
+            std::string::npos)
+      << text.out;
+  EXPECT_NE(text.out.find("8 observed lines in the place of atoms"), std::string::npos);
+  const auto outcome = batch("info --json " + cif + "quartz.cif broken.cif " + crystals + "NaCl.cry");
+  EXPECT_EQ(outcome.status, 1) << "one of them is broken";
+  const auto all = json::parse(outcome.out);
+  ASSERT_EQ(all.size(), 2U) << "the others are told all the same";
+  EXPECT_EQ(all[0]["formula"], "O2 Si");
+  EXPECT_EQ(all[0]["assumed"], json({"no symmetry operators in the file; those of P 32 2 1 are taken"}));
+  EXPECT_EQ(all[1]["z"], 4);
+  // 4 (22.990 + 35.453) / 0.602214 / 5.6402^3; half the edge
+  EXPECT_NEAR(all[1]["density_g_cm3"].get<double>(), 2.1635, 0.0005);
+  EXPECT_NEAR(all[1]["shortest_distance"]["angstrom"].get<double>(), 2.8201, 1e-4);
+}
+
+TEST_F(Batch, ReflectionsAreTheLinesOfTheMainWindow) {
+  struct Row {
+    std::string file, radiation, choice, load;
+  };
+  for (const auto& [file, radiation, choice, load] : {Row{cif + "quartz.cif", "CuKa", "CuKa", "ImportStructure"},
+                                                      {crystals + "Albite.cry", "200kV", "200", "DATA_LOAD"},
+                                                      {crystals + "CopperLines.cry", "MoKa", "MoKa", "DATA_LOAD"}}) {
+    SCOPED_TRACE(file);
+    std::string printed = script("set Main1.Text15 0.9\nchoose Main1.Combo1 " + choice + "\nanswer " + file +
+                                 "\nclick Main1." + load + "\necho list\nprint Main1.List2\n");
+    printed = printed.substr(printed.find("list\n") + 5);
+    const auto shown = batch("reflections " + file + " --dmin 0.9 --radiation " + radiation);
+    ASSERT_EQ(shown.status, 0) << shown.err;
+    EXPECT_EQ(shown.out.substr(shown.out.find('\n') + 1), printed);
+    const auto table = numbers(batch("reflections " + file + " --dmin 0.9 --csv --radiation " + radiation).out, ',');
+    const auto list = lines(printed);
+    ASSERT_EQ(table.size(), list.size());
+    for (std::size_t i = 0; i < list.size(); i += 7) {
+      EXPECT_NEAR(table[i][0], Val(list[i].substr(0, 4)), 0) << list[i];
+      EXPECT_NEAR(table[i][4], Val(list[i].substr(20, 9)), 1e-4) << list[i];
+      ASSERT_EQ(table[i].size(), 10U) << list[i];
+      EXPECT_EQ(table[i][9], Val(list[i].substr(list[i].rfind(' ')))) << list[i];
+    }
+  }
+}
+
+// Multiplicities of International Tables A, of the general and special forms of each Laue class.
+TEST_F(Batch, MergedReflectionsHaveTheMultiplicityOfTheirForm) {
+  using Form = std::array<int, 3>;
+  const std::map<std::string, std::map<Form, int>> known = {
+      {"NaCl", {{{1, 1, 1}, 8}, {{2, 0, 0}, 6}, {{2, 2, 0}, 12}, {{3, 1, 1}, 24}, {{4, 2, 0}, 24}, {{4, 2, 2}, 24}}},
+      {"Pyrite", {{{2, 1, 0}, 12}, {{2, 0, 1}, 12}, {{1, 1, 1}, 8}, {{3, 2, 1}, 24}}},
+      {"Rutile", {{{1, 1, 0}, 4}, {{1, 0, 1}, 8}, {{2, 0, 0}, 4}, {{2, 1, 1}, 16}, {{0, 0, 2}, 2}}},
+      {"Forsterite", {{{0, 2, 0}, 2}, {{0, 2, 1}, 4}, {{1, 2, 1}, 8}}},  // Pbnm, with a file of its own
+      {"Kyanite", {{{1, 0, 0}, 2}, {{1, 1, 0}, 2}}},
+      {"Quartz", {{{1, 0, 0}, 6}, {{1, 0, 1}, 6}, {{0, 0, 3}, 2}, {{1, 1, 1}, 12}}},
+      {"Magnesium", {{{1, 0, 0}, 6}, {{1, 0, 1}, 12}, {{0, 0, 2}, 2}, {{1, 1, 0}, 6}}}};
+  for (const auto& [crystal, forms] : known) {
+    SCOPED_TRACE(crystal);
+    const auto merged = batch("reflections " + crystals + crystal + ".cry --merge --csv");
+    const auto all = numbers(batch("reflections " + crystals + crystal + ".cry --csv").out, ',');
+    std::map<Form, int> found;
+    std::size_t sum = 0;
+    for (const auto& row : numbers(merged.out, ',')) {
+      found[{static_cast<int>(row[0]), static_cast<int>(row[1]), static_cast<int>(row[2])}] = static_cast<int>(row[3]);
+      sum += static_cast<std::size_t>(row[3]);
+    }
+    EXPECT_EQ(sum, all.size()) << "each reflection is of one form";
+    for (const auto& [form, count] : forms) EXPECT_EQ(found[form], count) << form[0] << form[1] << form[2];
+  }
+}
+
+TEST_F(Batch, PowderNumbersAreTheSamplesOfTheWindow) {
+  const std::string words = "powder " + crystals + "NaCl.cry --from 20 --to 60 --width .3 --gauss 40 ";
+  ASSERT_EQ(batch(words + "-o window.xy").status, 0);
+  (void)script("choose Main1.Combo1 CuKa\nanswer " + crystals +
+               "NaCl.cry\nclick Main1.DATA_LOAD\nclick Main1.Command7\nset Xd.Text1 20\nset Xd.Text2 60\n"
+               "set Xd.Text3 .3\nset Xd.Text4 40\nclick Xd.Command1\nanswer pattern.XDP\nclick Xd.Command3\n");
+  const auto ours = numbers(folder.read("window.xy"), ' ');
+  auto theirs = numbers(folder.read("pattern.XDP"), ',');
+  ASSERT_EQ(ours.size(), 1001U);
+  ASSERT_GT(theirs.size(), 1001U);
+  theirs.erase(theirs.begin(), theirs.end() - 1001);
+  EXPECT_EQ(ours, theirs);
+  // Steps of their own: a thousandth of the range gives the same, and Bragg's law the place of 200.
+  ASSERT_EQ(batch(words + "--step .04 -o same.xy").status, 0);
+  EXPECT_EQ(numbers(folder.read("same.xy"), ' '), ours);
+  ASSERT_EQ(batch(words + "--step .01 " + crystals + "Silicon.cry -o fine.xy").status, 0);
+  const auto fine = numbers(folder.read("fine.xy"), ' ');
+  ASSERT_EQ(fine.size(), 4001U);
+  const auto highest = [&fine](std::size_t column) {
+    return (*std::max_element(fine.begin(), fine.end(),
+                              [column](const auto& a, const auto& b) { return a[column] < b[column]; }))[0];
+  };
+  const auto bragg = [](double d) { return 2 * std::asin(1.542 / 2 / d) * 180 / std::numbers::pi; };
+  constexpr double bin = 0.025;  // of 0.0002 / A in 1/d, and a step
+  EXPECT_NEAR(highest(1), bragg(5.6402 / 2), bin);
+  EXPECT_NEAR(highest(2), bragg(5.4307 / std::sqrt(3)), bin);
+}
+
+TEST_F(Batch, FiguresAreThoseOfTheWindowsInEachKindOfFile) {
+  const std::string silicon = crystals + "Silicon.cry";
+  const std::string head = "choose Main1.Combo1 20\nanswer " + silicon + "\nclick Main1.DATA_LOAD\n";
+  const auto axis = [](const std::string& window, const char* numbers = "112") {
+    std::string text;
+    for (int i = 0; i < 3; ++i) text += "set " + window + ".Text" + std::to_string(3 + i) + " " + numbers[i] + "\n";
+    return text;
+  };
+  struct Row {
+    std::string words, actions, picture;
+  };
+  const Row rows[] = {
+      {"pattern " + silicon + " --axis 1,1,2 --kind spots --radiation 20kV --index --area 1",
+       "click Main1.Command9\n" + axis("Pattern") +
+           "set Pattern.Text1 1\nclick Pattern.Option1\nclick Pattern.Check3\nclick Pattern.Command8\n",
+       "Pattern.Picture1"},
+      {"pattern " + silicon + " --axis 1,1,2 --kind fiber --radiation 20kV --dispersion 8 --area 1",
+       "click Main1.Command12\n" + axis("FiberTexture") +
+           "set FiberTexture.Text1 1\nset FiberTexture.Text2 8\nclick FiberTexture.Command8\n",
+       "FiberTexture.Picture1"},
+      {"pattern " + silicon + " --axis 1,1,2 --kind kikuchi --roots --bands 74 --area 30",
+       "click Main1.Command10\n" + axis("Pattern2") +
+           "set Pattern2.Text1 30\nset Pattern2.Text19 74\nclick Pattern2.Option2\nclick Pattern2.Command8\n",
+       "Pattern2.Picture1"},
+      {"pattern " + silicon + " --axis 1,1,2 --kind map",
+       "click Main1.Command10\n" + axis("Pattern2") + "click Pattern2.Command8\nclick Pattern2.Check2\n" +
+           "click Pattern2.Command8\n",
+       "Zaxis.Picture1"},
+      {"rings " + silicon + " --radiation 20kV --centred --roots",
+       "click Main1.Command8\nclick Dring.Check1\nclick Dring.Check2\nclick Dring.Command1\n", "Dring.Picture2"},
+  };
+  for (const auto& [words, actions, picture] : rows) {
+    SCOPED_TRACE(words);
+    const auto outcome = batch(words + " -o ours.svg");
+    ASSERT_EQ(outcome.status, 0) << outcome.err;
+    (void)script(head + actions + "export " + picture + " theirs.svg\n");
+    EXPECT_TRUE(folder.read("ours.svg") == folder.read("theirs.svg"));
+  }
+  const std::pair<const char*, const char*> heads[] = {
+      {"svg", "<?xml"}, {"pdf", "%PDF-1.4"}, {"png", "\x89PNG"}, {"bmp", "BM"}};
+  for (const auto& [ending, begins] : heads) {
+    ASSERT_EQ(batch("powder " + crystals + "Quartz.cry " + crystals + "Calcite.cry -o two." + ending).status, 0);
+    EXPECT_TRUE(folder.read("two." + std::string(ending)).starts_with(begins)) << ending;
+  }
+  const std::string legend = folder.read("two.svg");
+  for (const char* name : {">Quartz<", ">Calcite<"}) EXPECT_NE(legend.find(name), std::string::npos) << name;
+}
+
+/// Bright along a band and dark beside it: the picture holds the crystal's bands where the lines lie.
+TEST_F(Batch, APictureOfBandsIsIndexedAsTheDirectionThatItWasDrawnFor) {
+  // 33 degrees from the middle to the border: the specimen stands 0.5 / tan 33 degrees = 0.76993 widths away.
+  ASSERT_EQ(batch("pattern " + crystals + "Silicon.cry --axis 1,1,2 --kind picture --area 33 -o bands.png").status, 0);
+  const QImage image(QString::fromStdString(folder.path("bands.png")));
+  ASSERT_EQ(image.width(), image.height());
+  const auto outcome =
+      batch("index bands.png --flipped -c " + crystals + "Silicon.cry --pc .5,.5,.76993 --json --overlay .");
+  ASSERT_EQ(outcome.status, 0) << outcome.err;
+  const auto found = json::parse(outcome.out)[0];
+  std::array<double, 3> axis{};
+  for (std::size_t i = 0; i < 3; ++i) axis[i] = std::abs(found["crystal_from_picture"][i][2].get<double>());
+  std::sort(axis.begin(), axis.end());
+  EXPECT_NEAR(axis[0], 1 / std::sqrt(6), 0.002);
+  EXPECT_NEAR(axis[1], 1 / std::sqrt(6), 0.002);
+  EXPECT_NEAR(axis[2], 2 / std::sqrt(6), 0.002);
+}
+
+TEST_F(Batch, PicturesAreIndexedAsInTheWindow) {
+  const std::string picture = ZOL_SOURCE_DIR "/examples/silicon-pattern.bmp";
+  const std::string printed = script(
+      "answer " + crystals + "Silicon.cry\nclick Main1.DATA_LOAD\nset PATTERN3.Text3 33\n" + "answer " + picture +
+      "\nclick PATTERN3.ImageLoad\nclick PATTERN3.ImageFlip\n" + "click AutoIndex.Index\nprint AutoIndex.Solutions\n");
+  const auto outcome = batch("index " + picture + " missing.bmp -c " + crystals + "Quartz.cry -c " + crystals +
+                             "Silicon.cry --pc .5,.5,.76993 --csv");
+  EXPECT_EQ(outcome.status, 1) << "one of them is missing";
+  const auto rows = lines(outcome.out);
+  ASSERT_EQ(rows.size(), 2U);
+  EXPECT_TRUE(rows[1].starts_with(picture + ",Silicon,")) << rows[1];
+  std::istringstream window(printed);
+  std::vector<std::string> words;
+  for (std::string word; words.size() < 11 && window >> word;) words.push_back(word);
+  std::string numbers_of_row = rows[1].substr(picture.size() + std::string(",Silicon,").size());
+  const auto ours = numbers(numbers_of_row, ',').at(0);
+  // phi1, Phi, phi2 are the last three of the window's line, then come bands and correlation.
+  for (std::size_t i = 0; i < 3; ++i) EXPECT_NEAR(ours[i], Val(words[8 + i]), 0.06) << printed;
+  EXPECT_EQ(words[1], Format(ours[3], "0") + "/" + Format(ours[4], "0"));
+  EXPECT_NEAR(ours[6], Val(words[3]), 0.001);
+  // A centre 0.02 off is found again.
+  const auto refined = json::parse(
+      batch("index " + picture + " -c " + crystals + "Silicon.cry --pc .52,.48,.79 --refine-pc --json").out)[0];
+  const auto centre = refined["pattern_centre"]["Bruker"];
+  EXPECT_NEAR(centre[0].get<double>(), 0.5, 0.004);
+  EXPECT_NEAR(centre[1].get<double>(), 0.5, 0.004);
+  EXPECT_NEAR(centre[2].get<double>(), 0.76993, 0.004);
+}
+
+}  // namespace
+}  // namespace zol
