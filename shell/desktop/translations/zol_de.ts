@@ -5333,7 +5333,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
     </message>
     <message>
         <source>atom    elem.    CN  shortest      mean   longest      next</source>
-        <translation>Atom    Elem.    KZ  kürzeste   mittlere  längste      nächst</translation>
+        <translation>Atom    Elem.    KZ  kürzeste  mittlere   längste    nächst</translation>
     </message>
     <message>
         <source>atom 1  elem. atom 2  elem.   distance         x         y         z</source>
@@ -5472,6 +5472,10 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
     <message>
         <source>Formula</source>
         <translation>Formel</translation>
+    </message>
+    <message>
+        <source>%1, of the strongest family</source>
+        <translation>%1, von der stärksten Familie</translation>
     </message>
 </context>
 </TS>

@@ -5333,7 +5333,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
     </message>
     <message>
         <source>atom    elem.    CN  shortest      mean   longest      next</source>
-        <translation>atome   élém.    NC  courte     moyenne   longue     suivant</translation>
+        <translation>atome   élém.    NC    courte   moyenne    longue   suivant</translation>
     </message>
     <message>
         <source>atom 1  elem. atom 2  elem.   distance         x         y         z</source>
@@ -5472,6 +5472,10 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
     <message>
         <source>Formula</source>
         <translation>Formule</translation>
+    </message>
+    <message>
+        <source>%1, of the strongest family</source>
+        <translation>%1, de la plus forte famille</translation>
     </message>
 </context>
 </TS>
