@@ -138,7 +138,7 @@ void CrystalPotential::fill_pairs(const DynamicCrystal& crystal, const Potential
   const auto y = phases_of(crystal, 1, reach_[1]);
   const auto z = phases_of(crystal, 2, reach_[2]);
   const std::size_t atoms = crystal.atoms.size();
-  const auto side = [this](std::size_t axis) { return static_cast<std::size_t>(2 * reach_[axis] + 1); };
+  const auto side = [this](std::size_t axis) { return 2 * static_cast<std::size_t>(reach_[axis]) + 1; };
   const double scale = electron_.mass_ratio / (pi * lattice.volume());
   double sources = 0;
   for (const auto& atom : crystal.atoms) {

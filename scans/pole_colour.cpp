@@ -105,7 +105,7 @@ std::string laue_class_of(std::span<const Rotation> rotations) {
 }
 
 PoleColours::PoleColours(std::vector<Rotation> rotations) : into_sector_(std::move(rotations)) {
-  if (into_sector_.empty()) into_sector_.push_back(Rotation::Identity());
+  if (into_sector_.empty()) into_sector_.emplace_back(Rotation::Identity());
   const std::string laue = laue_class_of(into_sector_);
   cubic_ = is_cubic(laue);
   eta_end_ = sector_width(laue);

@@ -251,9 +251,9 @@ LibraryEntries files_of_library(const std::string& folder, Task& task) {
 }
 
 void update_library(const std::string& folder, const std::string& index_file, const SpaceGroupLibrary& groups,
-                    const ShowLibrary& show, Task& task) {
+                    const ShowLibrary& show, Task& task, const LibraryEntries& known) {
   LibraryEntries entries = files_of_library(folder, task);
-  const bool all_known = take_kept(entries, kept_entries(index_file));
+  const bool all_known = take_kept(entries, known.empty() ? kept_entries(index_file) : known);
   show(entries);
   if (all_known) return;
   try {

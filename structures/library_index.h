@@ -32,10 +32,11 @@ using ShowLibrary = std::function<void(LibraryEntries)>;
 /// good as none. Stopped, it keeps what it has read.
 /// @param index_file  empty: none is kept
 /// @param show        at the start, about twice a second, and at the end
+/// @param known       of an earlier pass, in the place of the index
 /// @param task        told of the files that had to be read
 /// @throws RunFailure  the folder can't be read
 /// @throws Cancelled   the task stops
 void update_library(const std::string& folder, const std::string& index_file, const SpaceGroupLibrary& groups,
-                    const ShowLibrary& show, Task& task);
+                    const ShowLibrary& show, Task& task, const LibraryEntries& known = {});
 
 }  // namespace zol

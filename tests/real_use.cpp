@@ -3,12 +3,13 @@
 //     zol-real-use FILES [PICTURES]
 //     zol-real-use FILES failure KIND
 //     zol-real-use FILES recovery STEP [WINDOW BOX TEXT]
+//     zol-real-use FILES day [PICTURES]
 //
 // FILES is a folder for what is saved on the way. With PICTURES a PNG of each window goes to that folder. The program
 // ends by "Exit" with status 0; a step that does not do what it should ends it with status 3 and a line that says
 // which. With "failure" one kind of failure of the run is brought about and the text of its message printed: status 1.
 // With "recovery" a crystal is changed and the program ended, in the way of the step, or what such a run left is looked
-// for and restored: the box then holds the text.
+// for and restored: the box then holds the text. With "day" a day's work is done, as the guide tells it.
 #include <unistd.h>
 
 #include <array>
@@ -27,7 +28,7 @@
 
 #include "shell/desktop/application.h"
 #include "shell/desktop/table_window.h"
-#include "tests/real_user.h"
+#include "tests/real_day.h"
 
 namespace zol {
 namespace {
@@ -90,6 +91,8 @@ void search_library(const User& user) {
          "the library says: " + state.text().toStdString());
   expect(QTest::qWaitFor([&search] { return search.hasFocus(); }), "the search has not the focus");
   QTest::keyClicks(&search, QStringLiteral("+Si -O"));
+  expect(QTest::qWaitFor([&state] { return state.text() == QStringLiteral("1 of 31 crystals"); }, 20000),
+         "the library says: " + state.text().toStdString());
   user.take_picture("Main1", "library");
   QTest::keyClick(&search, Qt::Key_Return);
   expect(main1.windowTitle().contains(QStringLiteral("Silicon")), "the library opens no crystal");
@@ -126,12 +129,14 @@ void save_table(const User& user) {
   auto* table = list.window()->findChild<TableWindow*>();
   expect(table != nullptr && QTest::qWaitFor([table] { return table->isActiveWindow(); }), "Ctrl+T shows no table");
   auto& rows = *table->findChild<QTableView*>();
+  constexpr int menu_is_open_ms = 500;
+  QTimer::singleShot(menu_is_open_ms, table, [] {         // the button waits for its menu
+    for (const int key : {Qt::Key_Up, Qt::Key_Return}) {  // the last entry
+      expect(QApplication::activePopupWidget() != nullptr, "the menu of columns does not open");
+      QTest::keyClick(QApplication::activePopupWidget(), static_cast<Qt::Key>(key));
+    }
+  });
   QTest::keyClick(&rows, Qt::Key_O, Qt::AltModifier);
-  const auto menu_is_open = [] { return QApplication::activePopupWidget() != nullptr; };
-  expect(QTest::qWaitFor(menu_is_open), "the menu of columns does not open");
-  for (const int key : {Qt::Key_Up, Qt::Key_Return}) {  // the last entry
-    QTest::keyClick(QApplication::activePopupWidget(), static_cast<Qt::Key>(key));
-  }
   QTest::keyClick(&rows, Qt::Key_F, Qt::ControlModifier);
   QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("d>2"));
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
@@ -540,12 +545,17 @@ void recover(const User& user, int argc, char** argv) {
 int main(int argc, char** argv) {
   if (argc < 2) zol::give_up("usage: zol-real-use FILES [PICTURES | failure KIND | recovery STEP]");
   const QString files = QFile::decodeName(argv[1]);
-  const std::optional<QString> pictures = argc == 3 ? std::optional(QFile::decodeName(argv[2])) : std::nullopt;
+  const bool is_day = argc > 2 && std::string_view(argv[2]) == "day";
+  const int pictures_at = is_day ? 3 : 2;
+  const std::optional<QString> pictures =
+      argc == pictures_at + 1 ? std::optional(QFile::decodeName(argv[pictures_at])) : std::nullopt;
   QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // those of a desktop can't be filled in from here
   return zol::run_application(argc, argv, [&](zol::Desktop& desktop) {
     const zol::User user(desktop, files, pictures);
     const std::string_view mode = argc > 3 ? argv[2] : "";
-    if (mode == "failure") {
+    if (is_day) {
+      zol::work_a_day(user);
+    } else if (mode == "failure") {
       zol::fail(user, argv[3]);
     } else if (mode == "recovery") {
       desktop.set_question([](const std::string& /*reason*/) { return true; });  // all the same

@@ -214,7 +214,10 @@ class User {
   }
   void take_picture(const char* window_name, const char* name) const {
     if (!pictures_) return;
-    QWidget& shown = window(window_name);
+    take_picture_of(window(window_name), name);
+  }
+  void take_picture_of(QWidget& shown, const char* name) const {
+    if (!pictures_) return;
     QTest::qWait(50);
     const QString path = *pictures_ + u'/' + QString::fromLatin1(name) + QStringLiteral(".png");
     expect(shown.grab().save(path), "a picture can't be saved");

@@ -23,7 +23,6 @@ GroupSearchBox::GroupSearchBox(QListView& list) : list_(list) {
   setAccessibleName(tr("search for a space group"));
   setPlaceholderText(tr("Fm-3m, 225, cubic"));
   setToolTip(tr("number, symbol or crystal system of a space group; Enter takes the first one found"));
-  setClearButtonEnabled(true);
   connect(this, &QLineEdit::textChanged, this, &GroupSearchBox::filter);
 }
 

@@ -42,8 +42,8 @@ std::vector<std::string> ListTable::choices(const ListColumns& declared) {
   return captions;
 }
 
-ListTable::ListTable(const ListColumns& declared, SharedVector<std::string> lines, const TableChoices& chosen)
-    : read_(declared.columns()), lines_(std::move(lines)) {
+ListTable::ListTable(const ListColumns& declared, const SharedVector<std::string>& lines, const TableChoices& chosen)
+    : read_(declared.columns()), lines_(lines) {
   find_lines(declared);
   std::size_t cell = 0;
   for (auto& column : named(read_)) heads_.push_back({std::move(column), From::List, 0, cell++});

@@ -20,7 +20,7 @@ class ListTable {
  public:
   ListTable() = default;
   /// The columns are asked at once and not kept.
-  ListTable(const ListColumns& declared, SharedVector<std::string> lines, const TableChoices& chosen);
+  ListTable(const ListColumns& declared, const SharedVector<std::string>& lines, const TableChoices& chosen);
 
   /// Captions of what can be asked for.
   [[nodiscard]] static std::vector<std::string> choices(const ListColumns& declared);

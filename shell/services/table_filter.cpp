@@ -40,7 +40,7 @@ TableFilter::TableFilter(std::string_view text, const ListTable& table) {
 }
 
 TableFilter::Part TableFilter::part_of(std::string_view word, const ListTable& table) {
-  const Part anywhere{-1, {}, small_letters(word)};
+  Part anywhere{-1, {}, small_letters(word)};
   const std::size_t place = word.find_first_of("<>=");
   if (place == std::string_view::npos) return anywhere;
   const int column = table.column_named(word.substr(0, place));

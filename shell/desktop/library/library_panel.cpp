@@ -243,7 +243,6 @@ void LibraryPanel::tell() {
 
 void offer_library(QMainWindow& top, const LibrarySetup& setup, QSettings* settings) {
   auto* action = new QAction(QCoreApplication::translate("zol::LibraryPanel", "Crystal &library"), &top);
-  action->setObjectName(QStringLiteral("showLibrary"));
   action->setCheckable(true);
   action->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_L));
   view_menu(top).addAction(action);

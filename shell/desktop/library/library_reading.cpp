@@ -64,13 +64,16 @@ void LibraryReading::run() {
   QString fault;
   try {
     StoppedTask task(*this);
+    Entries latest;
     update_library(
         folder_, index_file_, groups_,
-        [this](LibraryEntries entries) {
+        [this, &latest](LibraryEntries entries) {
           auto shared = std::make_shared<const LibraryEntries>(std::move(entries));
+          latest = shared;
           QMetaObject::invokeMethod(this, [this, shared] { emit found(shared); });
         },
-        task);
+        task, known_ ? *known_ : LibraryEntries());
+    known_ = latest;
   } catch (const RunFailure& failure) {
     fault = to_qt(failure.message());
   } catch (const std::exception& error) {

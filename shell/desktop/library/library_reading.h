@@ -41,6 +41,7 @@ class LibraryReading : public QObject {
 
   std::string folder_, index_file_;
   SpaceGroupLibrary groups_;  ///< of the thread
+  Entries known_;             ///< of the thread, from the last whole pass
   std::thread thread_;
   std::atomic<bool> stopped_ = false;
   bool under_way_ = false;
