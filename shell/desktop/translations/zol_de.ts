@@ -1812,11 +1812,11 @@
         <translation>Winkel der Richtung über der Ebene der ungedrehten Aufnahme, Grad</translation>
     </message>
     <message>
-        <source>azimuth that the direction found shows in the first photograph, degrees; to be held against phi-1</source>
+        <source>azimuth that the direction found shows in the first photograph, degrees; compare with phi-1</source>
         <translation>Azimut, den die gefundene Richtung in der ersten Aufnahme zeigt, Grad; mit phi-1 zu vergleichen</translation>
     </message>
     <message>
-        <source>azimuth that the direction found shows in the second photograph, degrees; to be held against phi-2</source>
+        <source>azimuth that the direction found shows in the second photograph, degrees; compare with phi-2</source>
         <translation>Azimut, den die gefundene Richtung in der zweiten Aufnahme zeigt, Grad; mit phi-2 zu vergleichen</translation>
     </message>
     <message>
@@ -2540,7 +2540,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>es gibt keine Datei %1</translation>
     </message>
     <message>
-        <source>%1 is no file</source>
+        <source>%1 is not a file</source>
         <translation>%1 ist keine Datei</translation>
     </message>
     <message>
@@ -3352,7 +3352,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>keine Zahl</translation>
     </message>
     <message>
-        <source>no finite number</source>
+        <source>not a finite number</source>
         <translation>keine endliche Zahl</translation>
     </message>
     <message>
@@ -3684,7 +3684,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>kein Atom ist lesbar</translation>
     </message>
     <message>
-        <source>%1 stands there a second time; the first one with a value is taken</source>
+        <source>%1 is there a second time; the first one with a value is used</source>
         <translation>%1 steht dort ein zweites Mal; das erste mit einem Wert gilt</translation>
     </message>
     <message>
@@ -3752,7 +3752,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>die Zellvektoren sind linkshändig; der Kristall wird gespiegelt</translation>
     </message>
     <message>
-        <source>"%1" is no count of atoms</source>
+        <source>"%1" is not a count of atoms</source>
         <translation>„%1“ ist keine Atomzahl</translation>
     </message>
     <message>
@@ -3804,7 +3804,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>ein Atom vor SFAC</translation>
     </message>
     <message>
-        <source>"%1" is no instruction and has no coordinates</source>
+        <source>"%1" is not an instruction and has no coordinates</source>
         <translation>„%1“ ist keine Anweisung und hat keine Koordinaten</translation>
     </message>
     <message>
@@ -3936,7 +3936,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Ursprung %1 von %2 wird genommen</translation>
     </message>
     <message>
-        <source>%1 has two origins, and the file tells neither origin nor operators.</source>
+        <source>%1 has two origins, and the file gives neither origin nor operators.</source>
         <translation>%1 hat zwei Ursprünge, und die Datei nennt weder Ursprung noch Operatoren.</translation>
     </message>
     <message>
@@ -4060,7 +4060,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>nicht übernommen: die leere erste Zelle von Zeile %1 beendet die Tabelle</translation>
     </message>
     <message>
-        <source>"%1" is no number, it counts as %2</source>
+        <source>"%1" is not a number, it counts as %2</source>
         <translation>„%1“ ist keine Zahl, es zählt als %2</translation>
     </message>
     <message>
@@ -4460,7 +4460,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Punkt, über 0 und bis 2160; üblich ist 8.</translation>
     </message>
     <message>
-        <source>this is no size of a font</source>
+        <source>this is not a font size</source>
         <translation>das ist keine Schriftgröße</translation>
     </message>
     <message>
@@ -5476,6 +5476,290 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
     <message>
         <source>%1, of the strongest family</source>
         <translation>%1, von der stärksten Familie</translation>
+    </message>
+    <message>
+        <source>1 - cos^2 of a reciprocal angle</source>
+        <translation>1 - cos^2 eines reziproken Winkels</translation>
+    </message>
+    <message>
+        <source>a number of the older layout</source>
+        <translation>eine Zahl des älteren Aufbaus</translation>
+    </message>
+    <message>
+        <source>atoms without coordinates left out: %1</source>
+        <translation>Atome ohne Koordinaten ausgelassen: %1</translation>
+    </message>
+    <message>
+        <source>atoms whose element is not known left out: %1</source>
+        <translation>Atome ohne bekanntes Element ausgelassen: %1</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read it</source>
+        <translation>es ist nicht genug Speicher da, sie zu lesen</translation>
+    </message>
+    <message>
+        <source>a count of atoms</source>
+        <translation>eine Atomzahl</translation>
+    </message>
+    <message>
+        <source>a value refers to free variable %1, which is not there</source>
+        <translation>ein Wert verweist auf die freie Variable %1, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>the element of %1</source>
+        <translation>das Element von %1</translation>
+    </message>
+    <message>
+        <source>density: %1 (the file says %2)</source>
+        <translation>Dichte: %1 (die Datei sagt %2)</translation>
+    </message>
+    <message>
+        <source>Dmin (Main1.Text15)</source>
+        <translation>Dmin (Main1.Text15)</translation>
+    </message>
+    <message>
+        <source>%1, line %2: "%3" is taken for %4 (%5), a number and nothing else is expected</source>
+        <translation>%1, Zeile %2: „%3“ wird als %L4 genommen (%L5), erwartet wird eine Zahl und nichts sonst</translation>
+    </message>
+    <message>
+        <source>there is no column for it</source>
+        <translation>es gibt keine Spalte dafür</translation>
+    </message>
+    <message>
+        <source>it is word %1</source>
+        <translation>es ist Wort %1</translation>
+    </message>
+    <message>
+        <source>a Bruker .raw file, which begins with RAW</source>
+        <translation>eine .raw-Datei von Bruker, die mit RAW beginnt</translation>
+    </message>
+    <message>
+        <source>a Philips %1 file</source>
+        <translation>eine %1-Datei von Philips</translation>
+    </message>
+    <message>
+        <source>a Siemens or Bruker .uxd file</source>
+        <translation>eine .uxd-Datei von Siemens oder Bruker</translation>
+    </message>
+    <message>
+        <source>a Sietronics .cpi file</source>
+        <translation>eine .cpi-Datei von Sietronics</translation>
+    </message>
+    <message>
+        <source>the interference grid along an axis</source>
+        <translation>das Interferenzgitter entlang einer Achse</translation>
+    </message>
+    <message>
+        <source>the grid width</source>
+        <translation>die Gitterbreite</translation>
+    </message>
+    <message>
+        <source>the squared length of a reciprocal vector</source>
+        <translation>das Längenquadrat eines reziproken Vektors</translation>
+    </message>
+    <message>
+        <source>sin(theta) of a peak</source>
+        <translation>sin(theta) eines Maximums</translation>
+    </message>
+    <message>
+        <source>1/d of a peak</source>
+        <translation>1/d eines Maximums</translation>
+    </message>
+    <message>
+        <source>the distance from the beam</source>
+        <translation>der Abstand vom Strahl</translation>
+    </message>
+    <message>
+        <source>the number of bins, 5000 / Dmin</source>
+        <translation>die Zahl der Klassen, 5000 / Dmin</translation>
+    </message>
+    <message>
+        <source>the number of points of the interference grid</source>
+        <translation>die Zahl der Punkte des Interferenzgitters</translation>
+    </message>
+    <message>
+        <source>% of full height</source>
+        <translation>% der vollen Höhe</translation>
+    </message>
+    <message>
+        <source>an arc of the fiber texture</source>
+        <translation>ein Bogen der Fasertextur</translation>
+    </message>
+    <message>
+        <source>1.0001 - cos^2 of a spot's azimuth</source>
+        <translation>1.0001 - cos^2 des Azimuts eines Reflexes</translation>
+    </message>
+    <message>
+        <source>the product of zone axis and reference reflection</source>
+        <translation>das Produkt von Zonenachse und Bezugsreflex</translation>
+    </message>
+    <message>
+        <source>the largest component of the direction</source>
+        <translation>die größte Komponente der Richtung</translation>
+    </message>
+    <message>
+        <source>the sum of the indices of the normal plane</source>
+        <translation>die Summe der Indizes der senkrechten Ebene</translation>
+    </message>
+    <message>
+        <source>the length of the new axis</source>
+        <translation>die Länge der neuen Achse</translation>
+    </message>
+    <message>
+        <source>1 - cos^2 of old reference and new axis</source>
+        <translation>1 - cos^2 von altem Bezug und neuer Achse</translation>
+    </message>
+    <message>
+        <source>the part of the old reference normal to the new axis</source>
+        <translation>der Teil des alten Bezugs senkrecht zur neuen Achse</translation>
+    </message>
+    <message>
+        <source>the answer to "%1"</source>
+        <translation>die Antwort auf „%L1“</translation>
+    </message>
+    <message>
+        <source>RefS of a reflection of the triple table</source>
+        <translation>RefS eines Reflexes der Tripeltabelle</translation>
+    </message>
+    <message>
+        <source>the largest component of a direction</source>
+        <translation>die größte Komponente einer Richtung</translation>
+    </message>
+    <message>
+        <source>TripleS of a former solution</source>
+        <translation>TripleS einer früheren Lösung</translation>
+    </message>
+    <message>
+        <source>TripleI of a former solution</source>
+        <translation>TripleI einer früheren Lösung</translation>
+    </message>
+    <message>
+        <source>the height between the two markers</source>
+        <translation>die Höhe zwischen den zwei Marken</translation>
+    </message>
+    <message>
+        <source>the distance of the picture from the source</source>
+        <translation>der Abstand des Bildes von der Quelle</translation>
+    </message>
+    <message>
+        <source>the square term of a direction's length</source>
+        <translation>das quadratische Glied der Länge einer Richtung</translation>
+    </message>
+    <message>
+        <source>the length of the reference vector of a direction</source>
+        <translation>die Länge des Bezugsvektors einer Richtung</translation>
+    </message>
+    <message>
+        <source>the cosine of a plane's latitude</source>
+        <translation>der Kosinus der Breite einer Ebene</translation>
+    </message>
+    <message>
+        <source>the search for a direction</source>
+        <translation>die Suche nach einer Richtung</translation>
+    </message>
+    <message>
+        <source>the cosine against the first rotation</source>
+        <translation>der Kosinus gegen die erste Drehung</translation>
+    </message>
+    <message>
+        <source>the sum of the components of the equivalent vector (no cell or no vector)</source>
+        <translation>die Summe der Komponenten des gleichwertigen Vektors (keine Zelle oder kein Vektor)</translation>
+    </message>
+    <message>
+        <source>1 - cos^2 of the angle between two reciprocal vectors</source>
+        <translation>1 - cos^2 des Winkels zwischen zwei reziproken Vektoren</translation>
+    </message>
+    <message>
+        <source>%1 sites have more than %2 bonds, whose angles are left out</source>
+        <translation>%1 Plätze haben mehr als %2 Bindungen, deren Winkel ausgelassen sind</translation>
+    </message>
+    <message>
+        <source>"%1" (U+%2) is outside Latin-1</source>
+        <translation>„%1“ (U+%2) liegt außerhalb von Latin-1</translation>
+    </message>
+    <message>
+        <source>families in the order of the list</source>
+        <translation>Familien in der Reihenfolge der Liste</translation>
+    </message>
+    <message>
+        <source>rows of the list that belong to it</source>
+        <translation>Zeilen der Liste, die dazu gehören</translation>
+    </message>
+    <message>
+        <source>it holds a value of another type</source>
+        <translation>sie enthält einen Wert anderer Art</translation>
+    </message>
+    <message>
+        <source>it names a kind that there is none of</source>
+        <translation>sie nennt eine Art, die es nicht gibt</translation>
+    </message>
+    <message>
+        <source>an array has more elements than room</source>
+        <translation>ein Feld hat mehr Elemente als Platz</translation>
+    </message>
+    <message>
+        <source>an array has a bound of %1</source>
+        <translation>ein Feld hat die Grenze %1</translation>
+    </message>
+    <message>
+        <source>a table has too many columns</source>
+        <translation>eine Tabelle hat zu viele Spalten</translation>
+    </message>
+    <message>
+        <source>its parts don't fit together</source>
+        <translation>ihre Teile passen nicht zusammen</translation>
+    </message>
+    <message>
+        <source>neither HOME nor XDG_DATA_HOME names a folder for a copy of %1</source>
+        <translation>weder HOME noch XDG_DATA_HOME nennt einen Ordner für eine Kopie von %1</translation>
+    </message>
+    <message>
+        <source>its note is none</source>
+        <translation>ihre Notiz ist keine</translation>
+    </message>
+    <message>
+        <source>there is something after its end</source>
+        <translation>hinter ihrem Ende steht etwas</translation>
+    </message>
+    <message>
+        <source>it is longer than what it holds</source>
+        <translation>sie ist länger als ihr Inhalt</translation>
+    </message>
+    <message>
+        <source>it is cut short or damaged, or its pixels have not 8 or 16 bits a colour</source>
+        <translation>sie ist abgeschnitten oder beschädigt, oder ihre Pixel haben nicht 8 oder 16 Bits je Farbe</translation>
+    </message>
+    <message>
+        <source>a picture has %1 x %2 pixels of depth %3</source>
+        <translation>ein Bild hat %1 x %2 Pixel der Tiefe %3</translation>
+    </message>
+    <message>
+        <source>a grey picture has another depth</source>
+        <translation>ein Graubild hat eine andere Tiefe</translation>
+    </message>
+    <message>
+        <source>a picture has another depth</source>
+        <translation>ein Bild hat eine andere Tiefe</translation>
+    </message>
+    <message>
+        <source>a picture has two sizes</source>
+        <translation>ein Bild hat zwei Größen</translation>
+    </message>
+    <message>
+        <source>%1 was saved as a table</source>
+        <translation>%1 als Tabelle gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 is nothing that something is made from</source>
+        <translation>%1 ist nichts, woraus etwas gemacht wird</translation>
+    </message>
+    <message>
+        <source>%1 has no widget</source>
+        <translation>%1 hat kein Bedienelement</translation>
+    </message>
+    <message>
+        <source>the box takes whole numbers up to %1</source>
+        <translation>das Feld nimmt ganze Zahlen bis %1</translation>
     </message>
 </context>
 </TS>

@@ -1812,11 +1812,11 @@
         <translation>angle de la direction au-dessus du plan du cliché non tourné, degrés</translation>
     </message>
     <message>
-        <source>azimuth that the direction found shows in the first photograph, degrees; to be held against phi-1</source>
+        <source>azimuth that the direction found shows in the first photograph, degrees; compare with phi-1</source>
         <translation>azimut que la direction trouvée montre sur le premier cliché, degrés ; à comparer à phi-1</translation>
     </message>
     <message>
-        <source>azimuth that the direction found shows in the second photograph, degrees; to be held against phi-2</source>
+        <source>azimuth that the direction found shows in the second photograph, degrees; compare with phi-2</source>
         <translation>azimut que la direction trouvée montre sur le second cliché, degrés ; à comparer à phi-2</translation>
     </message>
     <message>
@@ -2540,7 +2540,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>il n'y a pas de fichier %1</translation>
     </message>
     <message>
-        <source>%1 is no file</source>
+        <source>%1 is not a file</source>
         <translation>%1 n'est pas un fichier</translation>
     </message>
     <message>
@@ -3352,7 +3352,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>pas un nombre</translation>
     </message>
     <message>
-        <source>no finite number</source>
+        <source>not a finite number</source>
         <translation>pas un nombre fini</translation>
     </message>
     <message>
@@ -3684,7 +3684,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>aucun atome n'est lisible</translation>
     </message>
     <message>
-        <source>%1 stands there a second time; the first one with a value is taken</source>
+        <source>%1 is there a second time; the first one with a value is used</source>
         <translation>%1 s'y trouve une seconde fois ; le premier qui a une valeur est pris</translation>
     </message>
     <message>
@@ -3752,7 +3752,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>les vecteurs de la maille sont gauches ; le cristal est reflété</translation>
     </message>
     <message>
-        <source>"%1" is no count of atoms</source>
+        <source>"%1" is not a count of atoms</source>
         <translation>« %1 » n'est pas un nombre d'atomes</translation>
     </message>
     <message>
@@ -3804,7 +3804,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>un atome avant SFAC</translation>
     </message>
     <message>
-        <source>"%1" is no instruction and has no coordinates</source>
+        <source>"%1" is not an instruction and has no coordinates</source>
         <translation>« %1 » n'est pas une instruction et n'a pas de coordonnées</translation>
     </message>
     <message>
@@ -3936,7 +3936,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>l'origine %1 de %2 est prise</translation>
     </message>
     <message>
-        <source>%1 has two origins, and the file tells neither origin nor operators.</source>
+        <source>%1 has two origins, and the file gives neither origin nor operators.</source>
         <translation>%1 a deux origines, et le fichier ne dit ni origine ni opérateurs.</translation>
     </message>
     <message>
@@ -4060,7 +4060,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>non pris : la première cellule vide de la ligne %1 termine la table</translation>
     </message>
     <message>
-        <source>"%1" is no number, it counts as %2</source>
+        <source>"%1" is not a number, it counts as %2</source>
         <translation>« %1 » n'est pas un nombre, il compte pour %2</translation>
     </message>
     <message>
@@ -4460,7 +4460,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Points, au-dessus de 0 et jusqu'à 2160 ; 8 est usuel.</translation>
     </message>
     <message>
-        <source>this is no size of a font</source>
+        <source>this is not a font size</source>
         <translation>ce n'est pas une taille de police</translation>
     </message>
     <message>
@@ -5476,6 +5476,290 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
     <message>
         <source>%1, of the strongest family</source>
         <translation>%1, de la plus forte famille</translation>
+    </message>
+    <message>
+        <source>1 - cos^2 of a reciprocal angle</source>
+        <translation>1 - cos^2 d'un angle réciproque</translation>
+    </message>
+    <message>
+        <source>a number of the older layout</source>
+        <translation>un nombre de l'ancienne disposition</translation>
+    </message>
+    <message>
+        <source>atoms without coordinates left out: %1</source>
+        <translation>atomes sans coordonnées omis : %1</translation>
+    </message>
+    <message>
+        <source>atoms whose element is not known left out: %1</source>
+        <translation>atomes d'élément inconnu omis : %1</translation>
+    </message>
+    <message>
+        <source>there is not enough memory to read it</source>
+        <translation>il n'y a pas assez de mémoire pour le lire</translation>
+    </message>
+    <message>
+        <source>a count of atoms</source>
+        <translation>un nombre d'atomes</translation>
+    </message>
+    <message>
+        <source>a value refers to free variable %1, which is not there</source>
+        <translation>une valeur renvoie à la variable libre %1, qui n'existe pas</translation>
+    </message>
+    <message>
+        <source>the element of %1</source>
+        <translation>l'élément de %1</translation>
+    </message>
+    <message>
+        <source>density: %1 (the file says %2)</source>
+        <translation>densité : %1 (le fichier dit %2)</translation>
+    </message>
+    <message>
+        <source>Dmin (Main1.Text15)</source>
+        <translation>Dmin (Main1.Text15)</translation>
+    </message>
+    <message>
+        <source>%1, line %2: "%3" is taken for %4 (%5), a number and nothing else is expected</source>
+        <translation>%1, ligne %2 : « %3 » est pris pour %L4 (%L5), un nombre et rien d'autre est attendu</translation>
+    </message>
+    <message>
+        <source>there is no column for it</source>
+        <translation>il n'y a pas de colonne pour lui</translation>
+    </message>
+    <message>
+        <source>it is word %1</source>
+        <translation>c'est le mot %1</translation>
+    </message>
+    <message>
+        <source>a Bruker .raw file, which begins with RAW</source>
+        <translation>un fichier .raw de Bruker, qui commence par RAW</translation>
+    </message>
+    <message>
+        <source>a Philips %1 file</source>
+        <translation>un fichier %1 de Philips</translation>
+    </message>
+    <message>
+        <source>a Siemens or Bruker .uxd file</source>
+        <translation>un fichier .uxd de Siemens ou Bruker</translation>
+    </message>
+    <message>
+        <source>a Sietronics .cpi file</source>
+        <translation>un fichier .cpi de Sietronics</translation>
+    </message>
+    <message>
+        <source>the interference grid along an axis</source>
+        <translation>la grille d'interférence selon un axe</translation>
+    </message>
+    <message>
+        <source>the grid width</source>
+        <translation>la largeur de la grille</translation>
+    </message>
+    <message>
+        <source>the squared length of a reciprocal vector</source>
+        <translation>le carré de la longueur d'un vecteur réciproque</translation>
+    </message>
+    <message>
+        <source>sin(theta) of a peak</source>
+        <translation>sin(thêta) d'un pic</translation>
+    </message>
+    <message>
+        <source>1/d of a peak</source>
+        <translation>1/d d'un pic</translation>
+    </message>
+    <message>
+        <source>the distance from the beam</source>
+        <translation>la distance au faisceau</translation>
+    </message>
+    <message>
+        <source>the number of bins, 5000 / Dmin</source>
+        <translation>le nombre de classes, 5000 / Dmin</translation>
+    </message>
+    <message>
+        <source>the number of points of the interference grid</source>
+        <translation>le nombre de points de la grille d'interférence</translation>
+    </message>
+    <message>
+        <source>% of full height</source>
+        <translation>% de la pleine hauteur</translation>
+    </message>
+    <message>
+        <source>an arc of the fiber texture</source>
+        <translation>un arc de la texture de fibre</translation>
+    </message>
+    <message>
+        <source>1.0001 - cos^2 of a spot's azimuth</source>
+        <translation>1.0001 - cos^2 de l'azimut d'une tache</translation>
+    </message>
+    <message>
+        <source>the product of zone axis and reference reflection</source>
+        <translation>le produit de l'axe de zone et de la réflexion de référence</translation>
+    </message>
+    <message>
+        <source>the largest component of the direction</source>
+        <translation>la plus grande composante de la direction</translation>
+    </message>
+    <message>
+        <source>the sum of the indices of the normal plane</source>
+        <translation>la somme des indices du plan normal</translation>
+    </message>
+    <message>
+        <source>the length of the new axis</source>
+        <translation>la longueur du nouvel axe</translation>
+    </message>
+    <message>
+        <source>1 - cos^2 of old reference and new axis</source>
+        <translation>1 - cos^2 de l'ancienne référence et du nouvel axe</translation>
+    </message>
+    <message>
+        <source>the part of the old reference normal to the new axis</source>
+        <translation>la part de l'ancienne référence normale au nouvel axe</translation>
+    </message>
+    <message>
+        <source>the answer to "%1"</source>
+        <translation>la réponse à « %L1 »</translation>
+    </message>
+    <message>
+        <source>RefS of a reflection of the triple table</source>
+        <translation>RefS d'une réflexion de la table des triplets</translation>
+    </message>
+    <message>
+        <source>the largest component of a direction</source>
+        <translation>la plus grande composante d'une direction</translation>
+    </message>
+    <message>
+        <source>TripleS of a former solution</source>
+        <translation>TripleS d'une solution antérieure</translation>
+    </message>
+    <message>
+        <source>TripleI of a former solution</source>
+        <translation>TripleI d'une solution antérieure</translation>
+    </message>
+    <message>
+        <source>the height between the two markers</source>
+        <translation>la hauteur entre les deux repères</translation>
+    </message>
+    <message>
+        <source>the distance of the picture from the source</source>
+        <translation>la distance de l'image à la source</translation>
+    </message>
+    <message>
+        <source>the square term of a direction's length</source>
+        <translation>le terme carré de la longueur d'une direction</translation>
+    </message>
+    <message>
+        <source>the length of the reference vector of a direction</source>
+        <translation>la longueur du vecteur de référence d'une direction</translation>
+    </message>
+    <message>
+        <source>the cosine of a plane's latitude</source>
+        <translation>le cosinus de la latitude d'un plan</translation>
+    </message>
+    <message>
+        <source>the search for a direction</source>
+        <translation>la recherche d'une direction</translation>
+    </message>
+    <message>
+        <source>the cosine against the first rotation</source>
+        <translation>le cosinus par rapport à la première rotation</translation>
+    </message>
+    <message>
+        <source>the sum of the components of the equivalent vector (no cell or no vector)</source>
+        <translation>la somme des composantes du vecteur équivalent (pas de maille ou pas de vecteur)</translation>
+    </message>
+    <message>
+        <source>1 - cos^2 of the angle between two reciprocal vectors</source>
+        <translation>1 - cos^2 de l'angle entre deux vecteurs réciproques</translation>
+    </message>
+    <message>
+        <source>%1 sites have more than %2 bonds, whose angles are left out</source>
+        <translation>%1 sites ont plus de %2 liaisons, dont les angles sont omis</translation>
+    </message>
+    <message>
+        <source>"%1" (U+%2) is outside Latin-1</source>
+        <translation>« %1 » (U+%2) est hors de Latin-1</translation>
+    </message>
+    <message>
+        <source>families in the order of the list</source>
+        <translation>familles dans l'ordre de la liste</translation>
+    </message>
+    <message>
+        <source>rows of the list that belong to it</source>
+        <translation>lignes de la liste qui en font partie</translation>
+    </message>
+    <message>
+        <source>it holds a value of another type</source>
+        <translation>il contient une valeur d'un autre type</translation>
+    </message>
+    <message>
+        <source>it names a kind that there is none of</source>
+        <translation>il nomme un genre qui n'existe pas</translation>
+    </message>
+    <message>
+        <source>an array has more elements than room</source>
+        <translation>un tableau a plus d'éléments que de place</translation>
+    </message>
+    <message>
+        <source>an array has a bound of %1</source>
+        <translation>un tableau a la borne %1</translation>
+    </message>
+    <message>
+        <source>a table has too many columns</source>
+        <translation>une table a trop de colonnes</translation>
+    </message>
+    <message>
+        <source>its parts don't fit together</source>
+        <translation>ses parties ne vont pas ensemble</translation>
+    </message>
+    <message>
+        <source>neither HOME nor XDG_DATA_HOME names a folder for a copy of %1</source>
+        <translation>ni HOME ni XDG_DATA_HOME ne nomme un dossier pour une copie de %1</translation>
+    </message>
+    <message>
+        <source>its note is none</source>
+        <translation>sa note n'en est pas une</translation>
+    </message>
+    <message>
+        <source>there is something after its end</source>
+        <translation>il y a quelque chose après sa fin</translation>
+    </message>
+    <message>
+        <source>it is longer than what it holds</source>
+        <translation>il est plus long que son contenu</translation>
+    </message>
+    <message>
+        <source>it is cut short or damaged, or its pixels have not 8 or 16 bits a colour</source>
+        <translation>il est tronqué ou abîmé, ou ses pixels n'ont pas 8 ou 16 bits par couleur</translation>
+    </message>
+    <message>
+        <source>a picture has %1 x %2 pixels of depth %3</source>
+        <translation>une image a %1 x %2 pixels de profondeur %3</translation>
+    </message>
+    <message>
+        <source>a grey picture has another depth</source>
+        <translation>une image grise a une autre profondeur</translation>
+    </message>
+    <message>
+        <source>a picture has another depth</source>
+        <translation>une image a une autre profondeur</translation>
+    </message>
+    <message>
+        <source>a picture has two sizes</source>
+        <translation>une image a deux tailles</translation>
+    </message>
+    <message>
+        <source>%1 was saved as a table</source>
+        <translation>%1 enregistré en table</translation>
+    </message>
+    <message>
+        <source>%1 is nothing that something is made from</source>
+        <translation>%1 n'est rien dont quelque chose est fait</translation>
+    </message>
+    <message>
+        <source>%1 has no widget</source>
+        <translation>%1 n'a pas de widget</translation>
+    </message>
+    <message>
+        <source>the box takes whole numbers up to %1</source>
+        <translation>le champ prend des entiers jusqu'à %1</translation>
     </message>
 </context>
 </TS>
