@@ -5761,5 +5761,25 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <source>the box takes whole numbers up to %1</source>
         <translation>das Feld nimmt ganze Zahlen bis %1</translation>
     </message>
+    <message>
+        <source>Co&amp;py</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>"%1" (%2) was clicked</source>
+        <translation>Klick auf „%L1“ (%2)</translation>
+    </message>
+    <message>
+        <source>"%1" (%2) changed</source>
+        <translation>„%L1“ (%2) geändert</translation>
+    </message>
+    <message>
+        <source>"%1" (%2) lost the focus</source>
+        <translation>„%L1“ (%2) verlassen</translation>
+    </message>
+    <message>
+        <source>"%1" (%2) was moved</source>
+        <translation>„%L1“ (%2) verschoben</translation>
+    </message>
 </context>
 </TS>

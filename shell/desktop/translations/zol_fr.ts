@@ -5761,5 +5761,25 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <source>the box takes whole numbers up to %1</source>
         <translation>le champ prend des entiers jusqu'à %1</translation>
     </message>
+    <message>
+        <source>Co&amp;py</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>"%1" (%2) was clicked</source>
+        <translation>clic sur « %L1 » (%2)</translation>
+    </message>
+    <message>
+        <source>"%1" (%2) changed</source>
+        <translation>« %L1 » (%2) changé</translation>
+    </message>
+    <message>
+        <source>"%1" (%2) lost the focus</source>
+        <translation>« %L1 » (%2) quitté</translation>
+    </message>
+    <message>
+        <source>"%1" (%2) was moved</source>
+        <translation>« %L1 » (%2) déplacé</translation>
+    </message>
 </context>
 </TS>
