@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "fuzz/memory_file.h"
-#include "scans/lzf.h"
+#include "hdf5/lzf.h"
 #include "scans/readers.h"
 
 namespace zol::fuzz {
