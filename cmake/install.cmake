@@ -48,5 +48,5 @@ set(CPACK_DEBIAN_PACKAGE_SECTION science)
 # Beside the libraries: what Qt loads when it runs, for the screen and for icons, and a font with all signs of the lists.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-dejavu-core, libqt6svg6, qt6-image-formats-plugins, qt6-qpa-plugins")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland")
 include(CPack)

@@ -13,6 +13,7 @@
 #include <QToolBar>
 
 #include "shell/desktop/canvas_view.h"
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/note_line.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/program/program.h"
@@ -31,7 +32,8 @@ class Sign {
   void update(QStatusBar* status) {
     const QString reason = control_.warn_when ? to_qt(control_.warn_when()) : QString();
     if (reason == reason_) return;
-    if (status != nullptr && !reason_.isEmpty() && status->currentMessage() == reason_) status->showMessage(reason);
+    if (status != nullptr && !reason_.isEmpty() && status->currentMessage() == shown(reason_))
+      status->showMessage(reason);
     reason_ = reason;
     shown_.setProperty(reason_property, reason);
     shown_.setProperty("statusTip", reason);

@@ -11,6 +11,7 @@
 
 #include "shell/desktop/desktop_services.h"
 #include "shell/desktop/guarded_application.h"
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/look/look.h"
 #include "shell/desktop/picture_choices.h"
 #include "shell/desktop/qt_text.h"
@@ -72,6 +73,7 @@ void name_application() {
   QApplication::setWindowIcon(QIcon(QStringLiteral(":/images/zol.svg")));
   use_look(kept_look());
   follow_desktop();
+  use_language(kept_language());
   QApplication::setQuitOnLastWindowClosed(false);
   PictureChoices::of_program().keep_in(QStandardPaths::writableLocation(QStandardPaths::AppConfigLocation) +
                                        QStringLiteral("/pictures.ini"));

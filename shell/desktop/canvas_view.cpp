@@ -14,6 +14,7 @@
 #include "core/number_text.h"
 #include "core/run_failure.h"
 #include "shell/desktop/drawing_painter.h"
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/look/look.h"
 #include "shell/desktop/look/look_style.h"
 #include "shell/desktop/picture_choices.h"
@@ -30,7 +31,7 @@ constexpr double large_tick = 6;  // pixels
 constexpr double small_tick = 3;
 constexpr double gap = 3;
 
-QString title_of(const Axis& axis) { return to_qt(axis.quantity + " (" + axis.unit + ")"); }
+QString title_of(const Axis& axis) { return shown(to_qt(axis.quantity + " (" + axis.unit + ")")); }
 
 /// How many large ticks have room. @param wanted  pixels for one of them
 int room_for(double length, double wanted) { return std::max(1, static_cast<int>(length / wanted)); }
@@ -143,7 +144,7 @@ void CanvasView::paint_mat(QPainter& painter) const {
 
 void CanvasView::paint_layers(QPainter& painter, const QRectF& place) {
   if (!shows_something()) {
-    if (!canvas_->hint.empty()) PictureLayers::paint_hint(painter, place, *canvas_);
+    if (!canvas_->hint.empty()) PictureLayers::paint_hint(painter, place, *canvas_, shown(to_qt(canvas_->hint)));
     return;
   }
   const PicturePlace at{canvas_, place};

@@ -11,6 +11,7 @@
 #include <QIcon>
 
 #include "shell/desktop/drawing_painter.h"
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/services/controls.h"
 
@@ -90,8 +91,8 @@ class GridModel : public QAbstractTableModel {
   }
   [[nodiscard]] QVariant headerData(int section, Qt::Orientation orientation, int role) const override {
     if (role != Qt::DisplayRole) return {};
-    return latin1_to_qt(orientation == Qt::Horizontal ? grid_.text(0, section + 1) : grid_.text(section + 1, 0))
-        .trimmed();
+    const auto& head = orientation == Qt::Horizontal ? grid_.text(0, section + 1) : grid_.text(section + 1, 0);
+    return shown(latin1_to_qt(head).trimmed());
   }
 
  private:

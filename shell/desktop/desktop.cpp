@@ -1,6 +1,7 @@
 #include "shell/desktop/desktop.h"
 
 #include <algorithm>
+#include <optional>
 
 #include <QAction>
 #include <QCoreApplication>
@@ -25,6 +26,7 @@
 #include "shell/desktop/file_drops.h"
 #include "shell/desktop/guarded_application.h"
 #include "shell/desktop/guide.h"
+#include "shell/desktop/language/shown_widgets.h"
 #include "shell/desktop/look/folding.h"
 #include "shell/desktop/look/look.h"
 #include "shell/desktop/note_line.h"
@@ -178,6 +180,7 @@ Binder* Desktop::binder(const std::string& window_name) const {
 std::string Desktop::crystal_name() const { return program_ == nullptr ? "" : program_->crystal_name(); }
 
 void Desktop::window_created(Window& window) {
+  std::optional<TextsHeld> held(std::in_place);
   auto widget = load_ui(window.name());
   if (!widget) return;
   widget->installEventFilter(this);
@@ -196,6 +199,8 @@ void Desktop::window_created(Window& window) {
     offer_folding(*top);
     if (made_) made_(window, *top);
     if (desk_) desk_->add(window, *top);
+    held.reset();
+    show_widget_texts(*top);
     fit_to_screen(*top);
     if (desk_) desk_->put_in_place(window, *top);
   }
@@ -321,6 +326,7 @@ void Desktop::breathe() {
 }
 
 bool Desktop::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::LanguageChange && desk_ && !ended()) desk_->update();
   const bool closes = event->type() == QEvent::Close;
   if ((!closes && event->type() != QEvent::WindowActivate) || ended()) return QObject::eventFilter(watched, event);
   const auto found = std::find_if(shown_.begin(), shown_.end(),

@@ -21,6 +21,7 @@
 #include "core/available_memory.h"
 #include "core/run_failure.h"
 #include "shell/desktop/all_the_same.h"
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/latin1_input.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
@@ -39,12 +40,12 @@ QString qt_filter(const FileQuestion& question) {
   QStringList filters;
   const QStringList pieces = to_qt(question.filter).split(u'|');
   for (qsizetype i = 0; i + 1 < pieces.size(); i += 2) {
-    filters << QStringLiteral("%1 (%2)").arg(pieces[i], QString(pieces[i + 1]).replace(u';', u' '));
+    filters << QStringLiteral("%1 (%2)").arg(shown(pieces[i]), QString(pieces[i + 1]).replace(u';', u' '));
   }
   if (const QString ending = to_qt(question.ending.text); filters.isEmpty() && !ending.isEmpty()) {
-    filters << tr("%1 files (*%2 *%3)").arg(ending.mid(1).toUpper(), ending.toLower(), ending.toUpper());
+    filters << shown(tr("%1 files (*%2 *%3)").arg(ending.mid(1).toUpper(), ending.toLower(), ending.toUpper()));
   }
-  filters << tr("All files (*)");
+  filters << shown(tr("All files (*)"));
   return filters.join(QStringLiteral(";;"));
 }
 

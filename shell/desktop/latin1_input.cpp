@@ -6,6 +6,7 @@
 #include <QToolTip>
 #include <QValidator>
 
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/services/controls.h"
 
@@ -31,7 +32,7 @@ int key_code(const QKeyEvent& event) {
 }
 
 void say_beside(QWidget& widget, const QString& text) {
-  QToolTip::showText(widget.mapToGlobal(QPoint(0, widget.height())), text, &widget);
+  QToolTip::showText(widget.mapToGlobal(QPoint(0, widget.height())), shown(text), &widget);
 }
 
 void say_refused(QWidget& widget) {

@@ -17,6 +17,7 @@
 #include <QWindow>
 
 #include "shell/desktop/guarded_application.h"
+#include "shell/desktop/language/language.h"
 
 namespace zol {
 namespace {
@@ -87,7 +88,8 @@ void LongWork::end(bool stopped) {
   hide();
   if (!stopped) return;
   constexpr int told_ms = 10000;
-  if (auto* top = qobject_cast<QMainWindow*>(window)) top->statusBar()->showMessage(tr("cancelled"), told_ms);
+  if (auto* top = qobject_cast<QMainWindow*>(window))
+    top->statusBar()->showMessage(zol::shown(tr("cancelled")), told_ms);
 }
 
 void LongWork::report(int done, int total) {

@@ -9,6 +9,8 @@
 #include <QPainter>
 #include <QPixmap>
 
+#include "shell/desktop/language/language.h"
+
 namespace zol {
 namespace {
 
@@ -45,7 +47,7 @@ QSize WordLine::minimumSizeHint() const { return sizeHint(); }
 
 void WordLine::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
-  painter.drawText(rect(), Qt::AlignVCenter, fontMetrics().elidedText(words_, Qt::ElideRight, width()));
+  painter.drawText(rect(), Qt::AlignVCenter, fontMetrics().elidedText(shown(words_), Qt::ElideRight, width()));
 }
 
 void NotedList::light(int row) {

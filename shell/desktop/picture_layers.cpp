@@ -280,7 +280,7 @@ void PictureLayers::paint_loupe(QPainter& painter, const PicturePlace& place, co
   painter.restore();
 }
 
-void PictureLayers::paint_hint(QPainter& painter, const QRectF& room, const Canvas& canvas) {
+void PictureLayers::paint_hint(QPainter& painter, const QRectF& room, const Canvas& canvas, const QString& words) {
   constexpr double margin = 24;
   painter.save();
   QFont font = layer_font();
@@ -289,8 +289,7 @@ void PictureLayers::paint_hint(QPainter& painter, const QRectF& room, const Canv
   painter.setFont(font);
   const QColor ground = to_qt(canvas.back_colour());
   painter.setPen(ground.lightness() > 127 ? QColor(0x55, 0x55, 0x55) : QColor(0xcc, 0xcc, 0xcc));
-  painter.drawText(room.adjusted(margin, margin, -margin, -margin), Qt::AlignCenter | Qt::TextWordWrap,
-                   to_qt(canvas.hint));
+  painter.drawText(room.adjusted(margin, margin, -margin, -margin), Qt::AlignCenter | Qt::TextWordWrap, words);
   painter.restore();
 }
 

@@ -46,7 +46,8 @@ class PictureLayers {
   /// Only scale and labels, for an export.
   void paint_wanted(QPainter& painter, const PicturePlace& place);
   void paint_loupe(QPainter& painter, const PicturePlace& place, const QPixmap& pixmap) const;
-  static void paint_hint(QPainter& painter, const QRectF& room, const Canvas& canvas);
+  /// What to do, in the place of a picture.
+  static void paint_hint(QPainter& painter, const QRectF& room, const Canvas& canvas, const QString& words);
 
  private:
   void paint_labels(QPainter& painter, const PicturePlace& place);

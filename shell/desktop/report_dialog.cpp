@@ -9,6 +9,7 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/qt_text.h"
 
 namespace zol {
@@ -32,9 +33,9 @@ void show_report(const std::vector<std::string>& lines, const std::string& title
   text->setAccessibleName(latin1_to_qt(title));
   QTextCursor cursor(text->document());
   for (const auto& line : lines) {
-    const QString shown = latin1_to_qt(line);
+    const QString told = latin1_to_qt(line);
     if (cursor.position() > 0) cursor.insertBlock();
-    cursor.insertText(shown, format_of(shown));
+    cursor.insertText(shown(told), format_of(told));
   }
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, &dialog);
   auto* copy = buttons->addButton(QObject::tr("&Copy"), QDialogButtonBox::ActionRole);

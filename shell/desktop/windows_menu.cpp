@@ -9,6 +9,7 @@
 #include <QScreen>
 
 #include "shell/desktop/desk_layout.h"
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/mnemonics.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/services/window.h"
@@ -92,7 +93,7 @@ void WindowsMenu::update() {
     if (i >= windows.size()) continue;
     const Entry& entry = *windows[i];
     listed_.push_back(entry.top);
-    QString text = listed_title(entry.kind, entry.top->windowTitle()).replace(u'&', QStringLiteral("&&"));
+    QString text = listed_title(shown(entry.kind), entry.top->windowTitle()).replace(u'&', QStringLiteral("&&"));
     if (entry.top->isWindowModified()) text += u'*';
     actions_[i]->setText(i < with_keys ? QStringLiteral("&%1 %2").arg(i + 1).arg(text) : text);
   }

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QPalette>
 
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/qt_text.h"
 
 namespace zol {
@@ -105,8 +106,8 @@ QVariant LibraryModel::data(const QModelIndex& index, int role) const {
 
 QVariant LibraryModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation != Qt::Horizontal || role != Qt::DisplayRole) return {};
-  return section == Name ? QCoreApplication::translate("zol::LibraryPanel", "Crystal")
-                         : QCoreApplication::translate("zol::LibraryPanel", "Formula");
+  return shown(section == Name ? QCoreApplication::translate("zol::LibraryPanel", "Crystal")
+                               : QCoreApplication::translate("zol::LibraryPanel", "Formula"));
 }
 
 }  // namespace zol

@@ -224,6 +224,10 @@ bool Breakpoint::eventFilter(QObject* watched, QEvent* event) {
   } else if (event->type() == QEvent::LayoutRequest && !turning_) {
     host_.layout()->activate();  // nested rows know of what has changed in them only by this
     take_minimum();
+  } else if (event->type() == QEvent::LanguageChange) {
+    measure();
+    if (host_.width() < width_) turn(true);
+    take_minimum();
   }
   return QObject::eventFilter(watched, event);
 }

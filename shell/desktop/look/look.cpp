@@ -12,6 +12,7 @@
 #include <QScreen>
 #include <QStyleFactory>
 
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/look/desktop_shade.h"
 #include "shell/desktop/look/look_style.h"
 #include "shell/desktop/look/picture_alone.h"
@@ -168,6 +169,7 @@ void offer_view(QMainWindow& window) {
   QObject::connect(choices, &QMenu::aboutToShow, group, [group] {
     for (auto* action : group->actions()) action->setChecked(action->data().toInt() == static_cast<int>(kept_look()));
   });
+  offer_language(view_menu(window));
 }
 
 }  // namespace zol
