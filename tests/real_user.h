@@ -60,6 +60,7 @@ class Answer : public QObject {
     if (given_ && (given_to_ == nullptr || !given_to_->isVisible())) return deleteLater();
     if (++waits_ > 200) give_up("a dialog did not come up or does not go");
     auto* dialog = qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    if (qobject_cast<QFileDialog*>(dialog) != nullptr && !std::is_same_v<Dialog, QFileDialog>) return;
     if (dialog == nullptr || !dialog->isVisible() || (given_ && waits_ % 20 != 0)) return;
     given_ = busy_ = true;
     given_to_ = dialog;

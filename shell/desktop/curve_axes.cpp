@@ -6,7 +6,6 @@
 
 #include "core/number_text.h"
 #include "shell/desktop/curve_painter.h"
-#include "shell/desktop/language/language.h"
 #include "shell/desktop/qt_text.h"
 
 namespace zol {
@@ -16,7 +15,7 @@ constexpr double large_tick = curve_room::large_tick;
 constexpr double small_tick = 3;  // pixels
 constexpr double gap = curve_room::gap;
 
-QString title_of(const Axis& axis) { return shown(to_qt(axis.quantity + " (" + axis.unit + ")")); }
+QString title_of(const Axis& axis) { return to_qt(axis.quantity + " (" + axis.unit + ")"); }
 
 /// How many large ticks have room. @param wanted  pixels for one of them
 int room_for(double length, double wanted) { return std::max(1, static_cast<int>(length / wanted)); }
