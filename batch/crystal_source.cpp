@@ -9,10 +9,10 @@
 #include "core/number_text.h"
 #include "core/read_file.h"
 #include "core/run_failure.h"
-#include "scans/pole_colour.h"
 #include "core/unit_cell.h"
 #include "indexing/crystal_reflectors.h"
 #include "reflections/scattering.h"
+#include "scans/pole_colour.h"
 #include "structures/contents.h"
 #include "structures/structure_import.h"
 

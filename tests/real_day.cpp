@@ -115,7 +115,8 @@ void end_the_day(const User& user) {
 }  // namespace
 
 void work_a_day(const User& user) {
-  for (auto* step : {find_a_crystal, tilt_spots, table_of_a_structure, index_a_measured_pattern, end_the_day}) step(user);
+  for (auto* step : {find_a_crystal, tilt_spots, table_of_a_structure, index_a_measured_pattern, end_the_day})
+    step(user);
 }
 
 }  // namespace zol

@@ -1,5 +1,6 @@
-// Light or dark, as the user has chosen it for the whole desktop: asked of the desktop's settings portal over D-Bus, and
-// followed. Source: the portal interface org.freedesktop.portal.Settings, key color-scheme of org.freedesktop.appearance.
+// Light or dark, as the user has chosen it for the whole desktop: asked of the desktop's settings portal over D-Bus,
+// and followed. Source: the portal interface org.freedesktop.portal.Settings, key color-scheme of
+// org.freedesktop.appearance.
 #pragma once
 
 #include <functional>
