@@ -326,6 +326,30 @@ TEST_F(PictureToolsTest, ALoupeShowsWhileALineIsDrawnAndSolutionsAreWalkedByKeys
   EXPECT_TRUE(failures.empty());
 }
 
+TEST_F(PictureToolsTest, HalosAreDarkBesideColouredLines) {
+  auto& form = program.windows().use<Pattern3Form>();
+  services.answers = {ZOL_SOURCE_DIR "/examples/silicon-pattern.bmp"};
+  child<QAction>("PATTERN3", "ImageLoad").trigger();
+  desktop.enter("a line", [&form] { form.Picture1.line(100, 255, 400, 255, RGB(255, 0, 0)); });
+  auto& picture = view("PATTERN3");
+  widget("PATTERN3").show();
+  const auto beside = [&] {
+    const QPoint place = at(picture, 250, 255);
+    const QImage shown = picture.grab().toImage();
+    int darkest = 255;
+    for (int dy = -2; dy <= 2; ++dy) {
+      const QColor colour = shown.pixelColor(place + QPoint(0, dy));
+      if (colour.saturation() < 100) darkest = std::min(darkest, colour.lightness());
+    }
+    return darkest;
+  };
+  const int before = beside();
+  PictureChoices::of_program().set(PictureChoices::Halos, true);
+  EXPECT_LT(beside(), before / 2);
+  PictureChoices::of_program().set(PictureChoices::Halos, false);
+  EXPECT_EQ(beside(), before) << "the picture itself stays";
+}
+
 TEST_F(PictureToolsTest, ALineOfPattern3IsTakenBack) {
   auto& form = program.windows().use<Pattern3Form>();
   desktop.enter("a test", [&form] { form.show(); });
