@@ -115,4 +115,22 @@ std::shared_ptr<const KinematicSphere> master_sphere(const MasterPattern& master
       sphere_size, inversion, task);
 }
 
+double fitted_pixel_deg(int picture_width, double distance) {
+  constexpr int gathered = 128;
+  return std::atan(1 / (distance * std::min(picture_width, gathered))) * 180 / std::numbers::pi;
+}
+
+double fitted_blur_deg(double pixel_deg) {
+  constexpr double blur_of_pixel = 0.14;
+  return blur_of_pixel * pixel_deg;
+}
+
+void suit_to_pixels(MasterSettings& settings, const DynamicCrystal& crystal, double pixel_deg) {
+  constexpr double coarse_deg = 0.75;
+  constexpr double coarse_spacing = 0.5;
+  if (pixel_deg > coarse_deg) {
+    settings.smallest_spacing = std::max(coarse_spacing, master_choice(crystal, settings).smallest_spacing);
+  }
+}
+
 }  // namespace zol

@@ -175,7 +175,7 @@ AutoIndexForm::AutoIndexForm(Workbench& bench)
   Solutions.made_from = Origin{{inputs::crystal(),
                                 {"radiation", {"AccVoltage"}},
                                 {"detector", {"CamAcquisition", "CamXShift", "CamYShift"}},
-                                inputs::settings({}, {&BandCount, &CircleMask})},
+                                inputs::settings({}, {&BandCount, &CircleMask, &Dynamical})},
                                {&Index}};
   declare_tables();
 }

@@ -19,6 +19,12 @@ struct ReadyCrystal {
   std::shared_ptr<const CrystalModel> model;
 };
 
+/// A crystal's dynamical pattern as the pixels of a picture see it.
+struct ReadySphere {
+  std::string key;  ///< that of the crystal, and the size of the pixels
+  std::shared_ptr<const KinematicSphere> sphere;
+};
+
 /// What was found in a picture; a value, so that it is kept and put back with the window.
 struct IndexResult {
   struct Solution {
@@ -58,6 +64,7 @@ struct AutoIndexForm : Window {
   TextBox FamilyCount{*this, "FamilyCount", "Families:"};
   TextBox SampleTilt{*this, "SampleTilt", "Sample tilt (deg):"};
   CheckBox CircleMask{*this, "CircleMask", "Round picture"};
+  CheckBox Dynamical{*this, "Dynamical", "Dynamical"};  // fits to the crystal's dynamical pattern
   CommandButton Index{*this, "Index", "Index"};
   CommandButton RefineCentre{*this, "RefineCentre", "Refine centre"};
   CommandButton Show{*this, "Show", "Show in simulation"};
@@ -96,6 +103,8 @@ struct AutoIndexForm : Window {
 
   // Made again where they are missing
   std::vector<ReadyCrystal> ready;
+  std::vector<ReadySphere> spheres;
+  std::optional<double> kinematic_correlation;  ///< of the best solution, where it was fitted dynamically
   PatternIndexer indexer;
 
  private:

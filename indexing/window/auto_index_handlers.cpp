@@ -106,6 +106,11 @@ void show_picked(Workbench& bench, AutoIndexForm& form) {
   if (const auto picture = pattern3(bench).Picture1.grey_picture()) draw_simulated(form, view_of(*picture), task);
 }
 
+std::string kinematic_text(const AutoIndexForm& form) {
+  if (!form.kinematic_correlation) return "";
+  return " dynamical, " + Format(*form.kinematic_correlation, "0.00") + " kinematic";
+}
+
 void show_result(Workbench& bench, AutoIndexForm& form) {
   show_families(form);
   show_solutions(form);
@@ -119,7 +124,7 @@ void show_result(Workbench& bench, AutoIndexForm& form) {
   form.Status.set_caption(best->model->title + ": " + std::to_string(best->found.matched) + " of " +
                           std::to_string(form.result.bands.size()) + " bands, off by " +
                           Format(best->found.mean_deviation_deg, "0.00") + " deg, correlation " +
-                          Format(best->found.correlation, "0.00") + ", confidence " +
+                          Format(best->found.correlation, "0.00") + kinematic_text(form) + ", confidence " +
                           Format(best->found.confidence, "0.00"));
 }
 
@@ -136,12 +141,33 @@ void keep_result(const AutoIndexForm& form, IndexResult& result,
   }
 }
 
+/// What the drawn bands of the same crystal would give in its place.
+double kinematic_correlation(Workbench& bench, AutoIndexForm& form, const IndexSolution& solution,
+                             const PatternCentre& centre, const IndexSettings& settings) {
+  const auto models = crystal_models(bench, form);
+  const auto model = std::find_if(models.begin(), models.end(), [&solution](const auto& known) {
+    return known->table == solution.model->table;  // of the model that the dynamical one was made from
+  });
+  return model == models.end() ? 0
+                               : form.indexer.fit(**model, solution.crystal_from_picture, centre, settings).correlation;
+}
+
+/// The last steps of the fit to a dynamical pattern.
+void settle(AutoIndexForm& form, IndexSolution& solution, const PatternCentre& centre, const IndexSettings& settings) {
+  PictureFit fit;
+  fit.crystal_from_picture = solution.crystal_from_picture;
+  fit.centre = centre;
+  fit.correlation = solution.correlation;
+  const PictureFit settled = form.indexer.settle(*solution.model, fit, centre, settings);
+  solution.crystal_from_picture = settled.crystal_from_picture;
+  solution.correlation = settled.correlation;
+}
+
 /// Indexes the picture with the centre that the boxes of PATTERN3 tell. Where that fails, the result before it stands.
 /// @returns the models that were tried
 std::vector<std::shared_ptr<const CrystalModel>> index_picture(Workbench& bench, AutoIndexForm& form,
                                                                const PictureView& picture) {
   const IndexSettings settings = settings_of(form);
-  auto models = crystal_models(bench, form);
   const Pattern3Form& pattern = pattern3(bench);
   const DetectorAngles angles{Val(pattern.Text3.text()), Val(pattern.Text14.text()), Val(pattern.Text15.text())};
   if (!(angles.half_width_deg > 0 && angles.half_width_deg < 89)) {
@@ -151,12 +177,21 @@ std::vector<std::shared_ptr<const CrystalModel>> index_picture(Workbench& bench,
   IndexResult result;
   result.size = {picture.width, picture.height, 1};
   result.centre = centre_of(angles, result.size);
+  const bool dynamical = form.Dynamical.checked();
+  auto models = dynamical ? dynamical_models(bench, form, picture.width, result.centre.z) : crystal_models(bench, form);
   std::vector<const CrystalModel*> plain;
   plain.reserve(models.size());
   for (const auto& model : models) plain.push_back(model.get());
   WindowTask task(bench.services);
-  const auto solutions = form.indexer.index(picture, result.centre, plain, settings, task);
+  const auto found = form.indexer.index(picture, result.centre, plain, settings, task);
+  std::vector<IndexSolution> solutions(found.begin(), found.end());
+  std::optional<double> kinematic;
+  if (dynamical && !solutions.empty()) {
+    kinematic = kinematic_correlation(bench, form, solutions.front(), result.centre, settings);
+    settle(form, solutions.front(), result.centre, settings);
+  }
   keep_result(form, result, models, solutions, settings);
+  form.kinematic_correlation = kinematic;
   form.result = std::move(result);
   return models;
 }

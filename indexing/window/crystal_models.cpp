@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numbers>
+#include <thread>
 
 #include "analysis/window/pattern3_form.h"
 #include "core/cell_geometry.h"
@@ -9,6 +10,7 @@
 #include "core/number_text.h"
 #include "core/space_group.h"
 #include "core/unit_cell.h"
+#include "dynamics/master_sphere.h"
 #include "indexing/crystal_reflectors.h"
 #include "reflections/window/main1_form.h"
 
@@ -55,6 +57,8 @@ CrystalState loaded_crystal(const Workbench& bench, const CrystalState& tables, 
   state.LatticeLetter = group.symbol.substr(0, 1);
   state.AsfX = tables.AsfX;
   state.AsfXCount = tables.AsfXCount;
+  state.AsfE = tables.AsfE;
+  state.AsfECount = tables.AsfECount;
   if (state.NAtom > 0) commit(state, expand_unit_cell(state, group, task));
   return state;
 }
@@ -99,6 +103,31 @@ std::shared_ptr<const CrystalModel> ready_model(Workbench& bench, AutoIndexForm&
   return model;
 }
 
+/// The same model with the crystal's dynamical pattern, from what is ready or made anew.
+std::shared_ptr<const CrystalModel> with_dynamical_sphere(Workbench& bench, AutoIndexForm& form,
+                                                          const CrystalModel& model, const CrystalState& state,
+                                                          double pixel_deg, Task& task) {
+  const double kilovolt = Val(bench.windows.use<Pattern3Form>().Text5.text());
+  const std::string key = key_of(state, kilovolt) + " / " + Format(pixel_deg, "0.0000");
+  const auto known = std::find_if(form.spheres.begin(), form.spheres.end(),
+                                  [&key](const ReadySphere& sphere) { return sphere.key == key; });
+  auto dynamical = std::make_shared<CrystalModel>(model);
+  if (known != form.spheres.end()) {
+    dynamical->sphere = known->sphere;
+    return dynamical;
+  }
+  const SpaceGroup group = read_space_group(group_path(bench, state));
+  const DynamicCrystal crystal = dynamic_crystal(state, &group);
+  MasterSettings settings;
+  settings.kilovolts = {kilovolt};
+  settings.threads = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  suit_to_pixels(settings, crystal, pixel_deg);
+  dynamical->sphere = master_sphere(master_pattern(crystal, settings, task), fitted_blur_deg(pixel_deg), task);
+  form.spheres.insert(form.spheres.begin(), {key, dynamical->sphere});
+  if (form.spheres.size() > most_ready) form.spheres.pop_back();
+  return dynamical;
+}
+
 }  // namespace
 
 std::shared_ptr<const CrystalModel> present_crystal_model(Workbench& bench, AutoIndexForm& form) {
@@ -125,6 +154,28 @@ std::vector<std::shared_ptr<const CrystalModel>> crystal_models(Workbench& bench
       models.push_back(ready_model(bench, form, state, without_folder(path), false, task));
     } catch (const RunFailure& failure) {
       throw RunFailure(without_folder(path) + ": " + failure.message());
+    }
+  }
+  return models;
+}
+
+std::vector<std::shared_ptr<const CrystalModel>> dynamical_models(Workbench& bench, AutoIndexForm& form,
+                                                                  int picture_width, double distance) {
+  auto models = crystal_models(bench, form);
+  const double pixel_deg = fitted_pixel_deg(picture_width, distance);
+  const auto& main1 = bench.windows.use<Main1Form>();
+  WindowTask task(bench.services);
+  const std::size_t of_files = models.size() - form.crystal_files.size();
+  for (std::size_t i = 0; i < models.size(); ++i) {
+    try {
+      if (i < of_files) {
+        models[i] = with_dynamical_sphere(bench, form, *models[i], main1.state, pixel_deg, task);
+      } else {
+        const CrystalState state = loaded_crystal(bench, main1.state, form.crystal_files[i - of_files], task);
+        models[i] = with_dynamical_sphere(bench, form, *models[i], state, pixel_deg, task);
+      }
+    } catch (const RunFailure& failure) {
+      throw RunFailure(models[i]->title + " has no dynamical pattern: " + failure.message());
     }
   }
   return models;

@@ -5781,5 +5781,17 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <source>"%1" (%2) was moved</source>
         <translation>„%L1“ (%2) verschoben</translation>
     </message>
+    <message>
+        <source>Dynamical</source>
+        <translation>Dynamisch</translation>
+    </message>
+    <message>
+        <source>fits the picture to the crystal's dynamical pattern, which takes some seconds to calculate</source>
+        <translation>passt das Bild an das dynamische Muster des Kristalls an, dessen Berechnung einige Sekunden dauert</translation>
+    </message>
+    <message>
+        <source>%1 has no dynamical pattern: %2</source>
+        <translation>%1 hat kein dynamisches Muster: %L2</translation>
+    </message>
 </context>
 </TS>

@@ -5781,5 +5781,17 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <source>"%1" (%2) was moved</source>
         <translation>« %L1 » (%2) déplacé</translation>
     </message>
+    <message>
+        <source>Dynamical</source>
+        <translation>Dynamique</translation>
+    </message>
+    <message>
+        <source>fits the picture to the crystal's dynamical pattern, which takes some seconds to calculate</source>
+        <translation>ajuste l'image au diagramme dynamique du cristal, dont le calcul prend quelques secondes</translation>
+    </message>
+    <message>
+        <source>%1 has no dynamical pattern: %2</source>
+        <translation>%1 n'a pas de diagramme dynamique : %L2</translation>
+    </message>
 </context>
 </TS>
