@@ -95,6 +95,49 @@ TEST_F(AutoIndexTest, CentreIsRefinedIntoTheBoxes) {
   EXPECT_NEAR(Val(form().fields().text("CentreZ", {})), 0.5 / std::tan(33 * std::numbers::pi / 180), 0.01);
 }
 
+/// Bunge's angles to the rotation that they stand for.
+Rotation crystal_from_sample(double phi1, double phi, double phi2) {
+  const auto about = [](double degrees, const Vector3& axis) {
+    return Eigen::AngleAxisd(-degrees * std::numbers::pi / 180, axis).toRotationMatrix();
+  };
+  return about(phi2, Vector3::UnitZ()) * about(phi, Vector3::UnitX()) * about(phi1, Vector3::UnitZ());
+}
+
+// Measured nickel, with the centre and the orientation that were published with it (examples/measured/README.md).
+TEST_F(AutoIndexTest, AMeasuredPatternFitsTheDynamicalOneBetter) {
+  show_main1();
+  services.answers = {ZOL_SOURCE_DIR "/examples/measured/Nickel.cry"};
+  child<QAction>("Main1", "DATA_LOAD").trigger();
+  load_picture(ZOL_SOURCE_DIR "/examples/measured/nickel.png");
+  pattern().Text3.set_text("44.955");
+  pattern().Text14.set_text("-8.978");
+  pattern().Text15.set_text("29.511");
+  constexpr double tilt = 70;
+  const Rotation published = crystal_from_sample(348.574, 88.846, 147.252) * picture_from_sample(tilt).transpose();
+  const auto found = [this] { return form().result.solution()->found; };
+  const auto off = [&] {
+    return misorientation_deg(found().crystal_from_picture, published,
+                              form().result.solution()->model->reflectors.symmetry);
+  };
+  form().Index.click();
+  const double kinematic = found().correlation;
+  EXPECT_LT(off(), 0.4);
+  form().Dynamical.click();
+  form().Index.click();
+  EXPECT_GT(found().correlation, kinematic + 0.08);
+  EXPECT_LT(off(), 0.25);
+  EXPECT_NE(form().Status.caption().find(" dynamical, " + Format(kinematic, "0.00") + " kinematic"), std::string::npos)
+      << form().Status.caption();
+
+  services.answers = {ZOL_SOURCE_DIR "/data/ZOLDATA/CopperLines.cry"};
+  child<QAction>("Main1", "DATA_LOAD").trigger();
+  form().Index.click();
+  ASSERT_FALSE(services.messages.empty());
+  EXPECT_NE(services.messages.back().find("CopperLines.cry has no dynamical pattern"), std::string::npos);
+  EXPECT_LT(off(), 0.25) << "the result before it stands";
+  EXPECT_TRUE(failures.empty());
+}
+
 TEST_F(AutoIndexTest, CrystalsAreRankedAndFamiliesLeftOut) {
   load("Forsterite.cry");
   load_picture();

@@ -116,6 +116,8 @@ std::shared_ptr<const CrystalModel> with_dynamical_sphere(Workbench& bench, Auto
     dynamical->sphere = known->sphere;
     return dynamical;
   }
+  // The cell's atoms may be those of the crystal before.
+  if (!(state.NAtom > 0)) throw RunFailure("it has observed lines and no atoms");
   const SpaceGroup group = read_space_group(group_path(bench, state));
   const DynamicCrystal crystal = dynamic_crystal(state, &group);
   MasterSettings settings;

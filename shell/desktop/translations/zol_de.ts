@@ -5793,5 +5793,9 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <source>%1 has no dynamical pattern: %2</source>
         <translation>%1 hat kein dynamisches Muster: %L2</translation>
     </message>
+    <message>
+        <source>it has observed lines and no atoms</source>
+        <translation>er hat beobachtete Linien und keine Atome</translation>
+    </message>
 </context>
 </TS>

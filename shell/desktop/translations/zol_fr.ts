@@ -5793,5 +5793,9 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <source>%1 has no dynamical pattern: %2</source>
         <translation>%1 n'a pas de diagramme dynamique : %L2</translation>
     </message>
+    <message>
+        <source>it has observed lines and no atoms</source>
+        <translation>il a des raies observées et pas d'atomes</translation>
+    </message>
 </context>
 </TS>
