@@ -95,7 +95,7 @@ TEST(Script, TakesTheWordsThatTheGuideTells) {
       const std::string words = found[2];
       const auto count = std::count(words.begin(), words.end(), ' ');
       for (const auto wrong : {count - 1, count + 1}) {
-        if (wrong < 0 || words == " WORDS" || words.ends_with("...")) continue;
+        if (wrong < 0 || words.ends_with(" WORDS")) continue;
         std::string script = found[1];
         for (int i = 0; i < wrong; ++i) script += " x";
         EXPECT_TRUE(run(script).error.starts_with("line 1: the form is: " + found[1].str())) << script;
