@@ -26,7 +26,12 @@ double number_above_0(const TextBox& box, double empty) {
 BondSettings settings_of(const BondsForm& form) {
   const BondSettings usual;
   constexpr double percent = 100;
-  return {number_above_0(form.Limit, 0), number_above_0(form.Gap, usual.gap * percent) / percent};
+  constexpr double farthest = 15;  // angstroms: beyond, each atom has a thousand neighbours and more
+  const double limit = number_above_0(form.Limit, 0);
+  if (limit > farthest) {
+    throw RunFailure(form.Limit.described() + " is \"" + form.Limit.text() + "\"; expected is at most 15 angstroms");
+  }
+  return {limit, number_above_0(form.Gap, usual.gap * percent) / percent};
 }
 
 /// Lines of all three lists.

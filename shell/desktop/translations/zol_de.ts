@@ -5797,5 +5797,9 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <source>it has observed lines and no atoms</source>
         <translation>er hat beobachtete Linien und keine Atome</translation>
     </message>
+    <message>
+        <source>%1 is "%2"; expected is at most 15 angstroms</source>
+        <translation>%1 ist „%2“; erwartet werden höchstens 15 Ångström</translation>
+    </message>
 </context>
 </TS>

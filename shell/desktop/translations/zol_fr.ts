@@ -5797,5 +5797,9 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <source>it has observed lines and no atoms</source>
         <translation>il a des raies observées et pas d'atomes</translation>
     </message>
+    <message>
+        <source>%1 is "%2"; expected is at most 15 angstroms</source>
+        <translation>%1 vaut « %2 » ; au plus 15 ångströms sont attendus</translation>
+    </message>
 </context>
 </TS>
