@@ -95,18 +95,18 @@ void read_words(CLI::App& command, const std::string& path) {
   }
   if (!all.is_object()) throw RunFailure(path + ": expected are names and values between { and }");
   for (const auto& [name, value] : all.items()) {
-    const auto fail = [&, &key = name](const std::string& what) {
-      throw RunFailure(path + ", line " + std::to_string(line_of(text, key)) + ": \"" + key + "\" " + what);
+    const auto failure = [&, &key = name](const std::string& what) {
+      return RunFailure(path + ", line " + std::to_string(line_of(text, key)) + ": \"" + key + "\" " + what);
     };
     CLI::Option* option = find_option(command, name);
-    if (option == nullptr) fail("is no option of zol-batch " + command.get_name());
+    if (option == nullptr) throw failure("is no option of zol-batch " + command.get_name());
     const std::string wrong = take_value(*option, value);
-    if (!wrong.empty()) fail(wrong);
+    if (!wrong.empty()) throw failure(wrong);
     if (option->count() == 0 || option->get_callback_run()) continue;
     try {
       option->run_callback();
     } catch (const CLI::ParseError& error) {
-      fail(std::string("can't be taken: ") + error.what());
+      throw failure(std::string("can't be taken: ") + error.what());
     }
   }
 }
