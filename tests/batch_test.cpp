@@ -133,9 +133,9 @@ TEST_F(Batch, EndsWithTheStatusOfItsKindAndSaysWhy) {
 
 TEST_F(Batch, IsStoppedByASignalAndLeavesNothing) {
   for (const char* signal : {"INT", "TERM"}) {
-    // One crystallite of few cells spreads each reflection over a large grid: minutes of work.
+    // Crystallites of few cells spread each of many reflections over a grid: minutes of work.
     const auto outcome = run_program("timeout --preserve-status -s " + std::string(signal) + " 1 " ZOL_BATCH " rings " +
-                                     crystals + "Muscovite.cry --dmin 0.4 --cells 10 -o x.png");
+                                     crystals + "Muscovite.cry --dmin 0.3 --cells 50 -o x.png");
     EXPECT_EQ(outcome.status, 3) << signal << outcome.err;
     EXPECT_EQ(outcome.err, "zol-batch: stopped\n");
     EXPECT_EQ(folder.read("x.png"), "");
