@@ -1,6 +1,5 @@
 // zol-batch as a user calls it: its words, its files, its status.
 #include <gtest/gtest.h>
-#include <signal.h>
 #include <sys/wait.h>
 
 #include <algorithm>

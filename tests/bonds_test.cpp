@@ -62,6 +62,7 @@ const std::vector<DirectVector> face_centred{o, {0, .5, .5}, {.5, 0, .5}, {.5, .
 
 std::vector<std::pair<const char*, DirectVector>> two_lattices(const char* first, const char* second, double shift) {
   std::vector<std::pair<const char*, DirectVector>> atoms;
+  atoms.reserve(2 * face_centred.size());
   for (const auto& x : face_centred) atoms.emplace_back(first, x);
   for (const auto& x : face_centred) atoms.emplace_back(second, DirectVector{x.u + shift, x.v + shift, x.w + shift});
   return atoms;

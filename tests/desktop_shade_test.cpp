@@ -19,7 +19,7 @@ constexpr auto path = "/org/freedesktop/portal/desktop";
 class Portal : public QDBusVirtualObject {
  public:
   explicit Portal(uint scheme) : scheme_(scheme) {}
-  QString introspect(const QString& /*path*/) const override { return {}; }
+  [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
   bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override {
     if (message.member() != QLatin1String("Read")) return false;
     if (message.arguments() !=
@@ -29,7 +29,7 @@ class Portal : public QDBusVirtualObject {
     const QDBusVariant inner{QVariant(scheme_)};
     return bus.send(message.createReply(QVariant::fromValue(QDBusVariant(QVariant::fromValue(inner)))));
   }
-  static void tell(QDBusConnection bus, const char* space, uint scheme) {
+  static void tell(const QDBusConnection& bus, const char* space, uint scheme) {
     QDBusMessage signal =
         QDBusMessage::createSignal(QLatin1String(path), QLatin1String(settings), QStringLiteral("SettingChanged"));
     signal << QString::fromLatin1(space) << QStringLiteral("color-scheme")

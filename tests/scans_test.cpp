@@ -367,7 +367,8 @@ class DriftingScan : public Scan {
     block.begin(first, count, side * side);
     for (std::size_t i = 0; i < count; ++i) {
       std::vector<float> drawn;
-      const double grain = static_cast<double>((first + i) % 12 / 4 + 3 * ((first + i) / 36));  // 4 x 3 points
+      const auto number = (first + i) % 12 / 4 + 3 * ((first + i) / 36);  // 4 x 3 points
+      const auto grain = static_cast<double>(number);
       draw_bands(*metal().sphere, rotation_of_bunge({37 * grain, 50, 23 * grain}) * picture_from_sample(70).transpose(),
                  {upside_down(truth().at(first + i), {int{side}, int{side}}), double{side}}, int{side}, int{side},
                  drawn);

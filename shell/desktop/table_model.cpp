@@ -95,7 +95,7 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
       return cell(index.row(), index.column());
     case Qt::TextAlignmentRole: {
       const bool number = table_.column(index.column()).kind == ListColumn::Number;
-      return QVariant(Qt::AlignVCenter | (number ? Qt::AlignRight : Qt::AlignLeft));
+      return static_cast<int>(Qt::AlignVCenter | (number ? Qt::AlignRight : Qt::AlignLeft));
     }
     case Qt::ForegroundRole:
     case Qt::FontRole:
@@ -112,7 +112,7 @@ QVariant TableModel::headerData(int section, Qt::Orientation orientation, int ro
   if (role == Qt::DisplayRole) return QString::fromStdString(table_.head(section));
   if (role == Qt::ToolTipRole) return QString::fromStdString(column.hint);
   if (role != Qt::TextAlignmentRole) return {};
-  return QVariant(Qt::AlignVCenter | (column.kind == ListColumn::Number ? Qt::AlignRight : Qt::AlignLeft));
+  return static_cast<int>(Qt::AlignVCenter | (column.kind == ListColumn::Number ? Qt::AlignRight : Qt::AlignLeft));
 }
 
 }  // namespace zol
