@@ -78,7 +78,7 @@ void add_atoms(DynamicCrystal& crystal, const CrystalState& state) {
   std::set<std::string> assumed;
   for (int m = 1; m <= state.NCell.value(); ++m) {
     const std::string element = without_charge(state.UCElement(m));
-    double b_iso = static_cast<double>(state.UCB(m));
+    auto b_iso = static_cast<double>(state.UCB(m));
     if (!(b_iso > 0)) {
       b_iso = usual_b_iso;
       assumed.insert(state.UCLabel(m));

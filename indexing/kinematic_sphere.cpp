@@ -122,7 +122,8 @@ KinematicSphere::KinematicSphere(const std::function<double(const Vector3&)>& br
       middle_(static_cast<float>((size - 1) / 2.0)),
       opposite_(inversion ? 0 : size * size),
       continuous_(true) {
-  values_.reserve(static_cast<std::size_t>(size * size + opposite_));
+  const auto of_half = static_cast<std::size_t>(size) * static_cast<std::size_t>(size);
+  values_.reserve(inversion ? of_half : 2 * of_half);
   for (const int side : {1, -1}) {
     if (side < 0 && inversion) break;
     for (int row = 0; row < size; ++row) {

@@ -102,7 +102,7 @@ AddedColumns direction_columns(int at, std::function<bool(const ListCells& row)>
   const auto cells = [at, hexagonal = std::move(hexagonal)](const ListCells& row) {
     ListCells four(4);
     if (!hexagonal(row)) return four;
-    const auto component = [&row, at](int i) { return Val(row[static_cast<std::size_t>(at + i)]); };
+    const auto component = [&row, first = static_cast<std::size_t>(at)](std::size_t i) { return Val(row[first + i]); };
     const auto indices = four_indices(component(0), component(1), component(2));
     constexpr int places = 3;
     for (std::size_t i = 0; i < four.size(); ++i) four[i] = short_text(indices[i], places);
