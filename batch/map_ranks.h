@@ -13,7 +13,7 @@ class MapRanks {
   MapRanks();
   MapRanks(const MapRanks&) = delete;
   MapRanks& operator=(const MapRanks&) = delete;
-  ~MapRanks();
+  ~MapRanks();  // NOLINT(performance-trivially-destructible): it ends MPI, where there is that
 
   [[nodiscard]] int count() const { return count_; }
   [[nodiscard]] bool first() const { return rank_ == 0; }

@@ -64,7 +64,8 @@ void write_png(const MasterPattern& master, bool south, const std::string& path)
   for (int row = 0; row < master.size; ++row) {
     uchar* line = image.scanLine(row);
     for (int column = 0; column < master.size; ++column) {
-      const float value = values[static_cast<std::size_t>(row * master.size + column)];
+      const auto place = static_cast<std::size_t>(row) * static_cast<std::size_t>(master.size);
+      const float value = values[place + static_cast<std::size_t>(column)];
       constexpr float white = 255;
       line[column] = static_cast<uchar>(std::clamp((value - darkest) / range, 0.0F, 1.0F) * white);
     }
