@@ -25,10 +25,6 @@ void add_geometry(CLI::App& command, MapWords& words) {
       ->group(group)
       ->check(CLI::IsMember({"down", "up"}))
       ->capture_default_str();
-  command
-      .add_option("--fit-pc", words.fit_centre, "fit the centre at so many clear points first, a plane through them")
-      ->group(group)
-      ->check(CLI::Range(5, 10000));
   command.add_flag("--flip", words.flip, "patterns stand upside down in the file")->group(group);
   command.add_option("--voltage", words.kilovolt, "kV; left out: the scan's own, else 20")->group(group);
 }
@@ -52,15 +48,8 @@ void add_patterns(CLI::App& command, MapWords& words) {
 }
 
 void add_indexing(CLI::App& command, MapWords& words) {
+  add_band_words(command, words);
   const auto* group = "Indexing";
-  command.add_option("--bands", words.bands, "that are looked for")
-      ->group(group)
-      ->check(CLI::Range(3, 40))
-      ->capture_default_str();
-  command.add_option("--families", words.families, "of planes that vote")
-      ->group(group)
-      ->check(CLI::Range(1, 100))
-      ->capture_default_str();
   command.add_option("--refine", words.refine, "pattern: by a fit to it; bands: by turning onto them; none: the vote")
       ->group(group)
       ->check(CLI::IsMember({"pattern", "bands", "none"}))
@@ -84,7 +73,23 @@ void add_scan_words(CLI::App& command, MapWords& words) {
   add_patterns(command, words);
 }
 
+void add_band_words(CLI::App& command, MapWords& words) {
+  const auto* group = "Indexing";
+  command.add_option("--bands", words.bands, "that are looked for")
+      ->group(group)
+      ->check(CLI::Range(3, 40))
+      ->capture_default_str();
+  command.add_option("--families", words.families, "of planes that vote")
+      ->group(group)
+      ->check(CLI::Range(1, 100))
+      ->capture_default_str();
+}
+
 void add_map_words(CLI::App& command, MapWords& words) {
+  command
+      .add_option("--fit-pc", words.fit_centre, "fit the centre at so many clear points first, a plane through them")
+      ->group("Geometry")
+      ->check(CLI::Range(5, 10000));
   command
       .add_option("-o,--output", words.outputs,
                   "result: .ang, .ctf, .h5, .oh5, .csv; once for each; needed but with --check")

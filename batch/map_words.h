@@ -29,6 +29,8 @@ struct MapWords {
 
 /// Scan, crystals, geometry and patterns.
 void add_scan_words(CLI::App& command, MapWords& words);
+/// Bands and families of planes.
+void add_band_words(CLI::App& command, MapWords& words);
 /// What else a map needs: indexing, results, running.
 void add_map_words(CLI::App& command, MapWords& words);
 
