@@ -1,46 +1,18 @@
 #include "batch/map_master.h"
 
-#include <algorithm>
-#include <cmath>
 #include <filesystem>
-#include <numbers>
 
 #include "core/run_failure.h"
-#include "dynamics/master_cache.h"
 #include "dynamics/master_file.h"
 #include "dynamics/master_sphere.h"
-#include "shell/program/data_folders.h"
 
 namespace zol {
 namespace {
 
-/// Of a pixel in the middle of the picture as it is fitted: a large one is gathered first.
-double pixel_deg(const MasterView& view) {
-  constexpr int gathered = 128;
-  return std::atan(1 / (view.centre.z * std::min(view.width, gathered))) * 180 / std::numbers::pi;
-}
-
-/// Standard deviation by which the sphere is smoothed: less than that of a pixel itself, since what is too sharp costs
-/// a fit less than what is too smooth.
-constexpr double blur_of_pixel = 0.14;
-
 MasterPattern made_master(const MapMasterWords& words, const LoadedCrystal& crystal, const MasterView& view,
                           Task& task) {
-  MasterSettings settings;
-  settings.kilovolts = {view.kilovolt};
-  settings.depth_nm = words.depth_nm;
-  settings.threads = view.threads;
-  const std::string folder = cache_folder();
-  const MasterCache cache(folder.empty() ? "" : folder + "/masters");
   try {
-    const DynamicCrystal dynamic = dynamic_crystal(crystal.state, &crystal.group);
-    // Coarse pixels see nothing of the finest lines.
-    constexpr double coarse_deg = 0.75;
-    constexpr double coarse_spacing = 0.5;
-    if (pixel_deg(view) > coarse_deg) {
-      settings.smallest_spacing = std::max(coarse_spacing, master_choice(dynamic, settings).smallest_spacing);
-    }
-    return cache.get(dynamic, settings, task);
+    return seen_master(dynamic_crystal(crystal.state, &crystal.group), view, words.depth_nm, task);
   } catch (const RunFailure& failure) {
     throw RunFailure(crystal.title + ": " + failure.message());
   }
@@ -78,7 +50,7 @@ std::shared_ptr<const KinematicSphere> master_sphere_of(const MapMasterWords& wo
   }
   const std::string& master = all_made ? words.masters.front() : words.masters[number];
   return master_sphere(master == "auto" ? made_master(words, crystal, view, task) : read_master(master),
-                       blur_of_pixel * pixel_deg(view), task);
+                       seen_blur_deg(view), task);
 }
 
 }  // namespace zol

@@ -7,7 +7,8 @@
 #include <vector>
 
 #include "batch/crystal_source.h"
-#include "indexing/detector.h"
+#include "dynamics/master_view.h"
+#include "indexing/kinematic_sphere.h"
 
 namespace zol {
 
@@ -21,14 +22,6 @@ void add_master_options(CLI::App& map, MapMasterWords& words);
 
 /// All that results depend on, files too.
 [[nodiscard]] std::string fingerprint_text(const MapMasterWords& words);
-
-/// What the patterns of a scan see of a crystal's master pattern, smoothed by their pixels.
-struct MasterView {
-  double kilovolt = 20;
-  PatternCentre centre;
-  int width = 0, height = 0;
-  int threads = 1;
-};
 
 /// @param number  of the crystal, from 0
 /// @returns null where no master pattern is asked for

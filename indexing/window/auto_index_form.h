@@ -19,13 +19,21 @@ struct ReadyCrystal {
   std::shared_ptr<const CrystalModel> model;
 };
 
+/// The dynamical pattern of a crystal as a picture sees it, and what it was made of.
+struct ReadyMaster {
+  std::string key;
+  std::shared_ptr<const KinematicSphere> sphere;
+};
+
 /// What was found in a picture; a value, so that it is kept and put back with the window.
 struct IndexResult {
   struct Solution {
     std::shared_ptr<const CrystalModel> model;
     IndexSolution found;
     std::vector<MatchedBand> matches;
+    double kinematic = 0;  ///< correlation with the drawn bands, where the fit was a dynamical one
   };
+  bool dynamical = false;
   PictureSize size;
   PatternCentre centre;  ///< of the picture as it is in PATTERN3
   std::vector<DetectedBand> bands;
@@ -58,6 +66,7 @@ struct AutoIndexForm : Window {
   TextBox FamilyCount{*this, "FamilyCount", "Families:"};
   TextBox SampleTilt{*this, "SampleTilt", "Sample tilt (deg):"};
   CheckBox CircleMask{*this, "CircleMask", "Round picture"};
+  CheckBox Dynamical{*this, "Dynamical", "Dynamical"};
   CommandButton Index{*this, "Index", "Index"};
   CommandButton RefineCentre{*this, "RefineCentre", "Refine centre"};
   CommandButton Show{*this, "Show", "Show in simulation"};
@@ -96,6 +105,7 @@ struct AutoIndexForm : Window {
 
   // Made again where they are missing
   std::vector<ReadyCrystal> ready;
+  std::vector<ReadyMaster> masters;
   PatternIndexer indexer;
 
  private:

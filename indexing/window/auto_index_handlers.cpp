@@ -1,5 +1,6 @@
 #include <cmath>
 #include <numbers>
+#include <thread>
 #include <utility>
 
 #include "indexing/index_report.h"
@@ -116,11 +117,13 @@ void show_result(Workbench& bench, AutoIndexForm& form) {
                             " bands, but no orientation explains three of them");
     return;
   }
-  form.Status.set_caption(best->model->title + ": " + std::to_string(best->found.matched) + " of " +
-                          std::to_string(form.result.bands.size()) + " bands, off by " +
-                          Format(best->found.mean_deviation_deg, "0.00") + " deg, correlation " +
-                          Format(best->found.correlation, "0.00") + ", confidence " +
-                          Format(best->found.confidence, "0.00"));
+  form.Status.set_caption(
+      best->model->title + ": " + std::to_string(best->found.matched) + " of " +
+      std::to_string(form.result.bands.size()) + " bands, off by " + Format(best->found.mean_deviation_deg, "0.00") +
+      " deg, correlation " + Format(best->found.correlation, "0.00") + ", confidence " +
+      Format(best->found.confidence, "0.00") +
+      (form.result.dynamical ? "; dynamical, of drawn bands the correlation would be " + Format(best->kinematic, "0.00")
+                             : ""));
 }
 
 /// What was found, with the crystals that it belongs to.
@@ -134,6 +137,25 @@ void keep_result(const AutoIndexForm& form, IndexResult& result,
                                     [&solution](const auto& known) { return known.get() == solution.model; });
     result.solutions.push_back({*model, solution, form.indexer.matches(solution, settings.vote.tolerance_deg)});
   }
+}
+
+/// The last steps of the fit of the best one; of all, how well the drawn bands would do.
+void compare_with_bands(AutoIndexForm& form, IndexResult& result,
+                        const std::vector<std::shared_ptr<const CrystalModel>>& dynamical,
+                        const std::vector<std::shared_ptr<const CrystalModel>>& drawn, const IndexSettings& settings) {
+  for (auto& solution : result.solutions) {
+    if (solution.found.correlation == 0) continue;
+    const auto number = std::find(dynamical.begin(), dynamical.end(), solution.model) - dynamical.begin();
+    const CrystalModel& bands = *drawn[static_cast<std::size_t>(number)];
+    solution.kinematic =
+        form.indexer.fit(bands, solution.found.crystal_from_picture, result.centre, settings).correlation;
+  }
+  if (result.solutions.empty() || result.solutions.front().found.correlation == 0) return;
+  auto& best = result.solutions.front();
+  PictureFit fit;
+  fit.crystal_from_picture = best.found.crystal_from_picture;
+  fit.correlation = best.found.correlation;
+  best.found.crystal_from_picture = form.indexer.settle(*best.model, fit, result.centre, settings).crystal_from_picture;
 }
 
 /// Indexes the picture with the centre that the boxes of PATTERN3 tell. Where that fails, the result before it stands.
@@ -151,12 +173,20 @@ std::vector<std::shared_ptr<const CrystalModel>> index_picture(Workbench& bench,
   IndexResult result;
   result.size = {picture.width, picture.height, 1};
   result.centre = centre_of(angles, result.size);
+  result.dynamical = form.Dynamical.checked();
+  const auto drawn = models;
+  if (result.dynamical) {
+    const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+    models = dynamical_models(bench, form, models,
+                              {Val(pattern.Text5.text()), result.centre, picture.width, picture.height, cores});
+  }
   std::vector<const CrystalModel*> plain;
   plain.reserve(models.size());
   for (const auto& model : models) plain.push_back(model.get());
   WindowTask task(bench.services);
   const auto solutions = form.indexer.index(picture, result.centre, plain, settings, task);
   keep_result(form, result, models, solutions, settings);
+  if (result.dynamical) compare_with_bands(form, result, models, drawn, settings);
   form.result = std::move(result);
   return models;
 }

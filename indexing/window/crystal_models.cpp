@@ -9,6 +9,7 @@
 #include "core/number_text.h"
 #include "core/space_group.h"
 #include "core/unit_cell.h"
+#include "dynamics/master_sphere.h"
 #include "indexing/crystal_reflectors.h"
 #include "reflections/window/main1_form.h"
 
@@ -99,7 +100,45 @@ std::shared_ptr<const CrystalModel> ready_model(Workbench& bench, AutoIndexForm&
   return model;
 }
 
+std::shared_ptr<const KinematicSphere> ready_master(const Workbench& bench, AutoIndexForm& form,
+                                                    const CrystalState& state, const MasterView& view, Task& task) {
+  const std::string key = key_of(state, view.kilovolt) + " / " + Format(seen_blur_deg(view), "0.000000");
+  for (const ReadyMaster& known : form.masters) {
+    if (known.key == key) return known.sphere;
+  }
+  constexpr double usual_depth_nm = 8;
+  const SpaceGroup group = read_space_group(group_path(bench, state));
+  const MasterPattern master = seen_master(dynamic_crystal(state, &group), view, usual_depth_nm, task);
+  auto sphere = master_sphere(master, seen_blur_deg(view), task);
+  form.masters.insert(form.masters.begin(), {key, sphere});
+  if (form.masters.size() > most_ready) form.masters.pop_back();
+  return sphere;
+}
+
 }  // namespace
+
+std::vector<std::shared_ptr<const CrystalModel>> dynamical_models(
+    Workbench& bench, AutoIndexForm& form, const std::vector<std::shared_ptr<const CrystalModel>>& models,
+    const MasterView& view) {
+  WindowTask task(bench.services);
+  const CrystalState& present = main1_state(bench);
+  std::vector<std::shared_ptr<const CrystalModel>> dynamical;
+  const std::size_t first_file = models.size() - form.crystal_files.size();
+  for (std::size_t i = 0; i < models.size(); ++i) {
+    CrystalModel model = *models[i];
+    try {
+      model.sphere =
+          i < first_file
+              ? ready_master(bench, form, present, view, task)
+              : ready_master(bench, form, loaded_crystal(bench, present, form.crystal_files[i - first_file], task),
+                             view, task);
+    } catch (const RunFailure& failure) {
+      throw RunFailure(model.title + ": " + failure.message());
+    }
+    dynamical.push_back(std::make_shared<const CrystalModel>(std::move(model)));
+  }
+  return dynamical;
+}
 
 std::shared_ptr<const CrystalModel> present_crystal_model(Workbench& bench, AutoIndexForm& form) {
   const auto& main1 = bench.windows.use<Main1Form>();
