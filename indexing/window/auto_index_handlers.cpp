@@ -1,6 +1,5 @@
 #include <cmath>
 #include <numbers>
-#include <thread>
 #include <utility>
 
 #include "indexing/index_report.h"
@@ -176,9 +175,8 @@ std::vector<std::shared_ptr<const CrystalModel>> index_picture(Workbench& bench,
   result.dynamical = form.Dynamical.checked();
   const auto drawn = models;
   if (result.dynamical) {
-    const int cores = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
     models = dynamical_models(bench, form, models,
-                              {Val(pattern.Text5.text()), result.centre, picture.width, picture.height, cores});
+                              {Val(pattern.Text5.text()), result.centre, picture.width, picture.height});
   }
   std::vector<const CrystalModel*> plain;
   plain.reserve(models.size());

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numbers>
+#include <thread>
 
 #include "analysis/window/pattern3_form.h"
 #include "core/cell_geometry.h"
@@ -108,7 +109,9 @@ std::shared_ptr<const KinematicSphere> ready_master(const Workbench& bench, Auto
   }
   constexpr double usual_depth_nm = 8;
   const SpaceGroup group = read_space_group(group_path(bench, state));
-  const MasterPattern master = seen_master(dynamic_crystal(state, &group), view, usual_depth_nm, task);
+  MasterView whole = view;
+  whole.threads = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  const MasterPattern master = seen_master(dynamic_crystal(state, &group), whole, usual_depth_nm, task);
   auto sphere = master_sphere(master, seen_blur_deg(view), task);
   form.masters.insert(form.masters.begin(), {key, sphere});
   if (form.masters.size() > most_ready) form.masters.pop_back();
@@ -138,6 +141,15 @@ std::vector<std::shared_ptr<const CrystalModel>> dynamical_models(
     dynamical.push_back(std::make_shared<const CrystalModel>(std::move(model)));
   }
   return dynamical;
+}
+
+std::shared_ptr<const CrystalModel> present_dynamical_model(Workbench& bench, AutoIndexForm& form,
+                                                            const std::shared_ptr<const CrystalModel>& model,
+                                                            const MasterView& view) {
+  WindowTask task(bench.services);
+  CrystalModel dynamical = *model;
+  dynamical.sphere = ready_master(bench, form, main1_state(bench), view, task);
+  return std::make_shared<const CrystalModel>(std::move(dynamical));
 }
 
 std::shared_ptr<const CrystalModel> present_crystal_model(Workbench& bench, AutoIndexForm& form) {

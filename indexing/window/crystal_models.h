@@ -22,6 +22,10 @@ namespace zol {
     Workbench& bench, AutoIndexForm& form, const std::vector<std::shared_ptr<const CrystalModel>>& models,
     const MasterView& view);
 
+/// The model of the present crystal with its dynamical pattern. @throws RunFailure  it has none
+[[nodiscard]] std::shared_ptr<const CrystalModel> present_dynamical_model(
+    Workbench& bench, AutoIndexForm& form, const std::shared_ptr<const CrystalModel>& model, const MasterView& view);
+
 /// Only the present crystal. @returns a null pointer where there is none
 [[nodiscard]] std::shared_ptr<const CrystalModel> present_crystal_model(Workbench& bench, AutoIndexForm& form);
 

@@ -33,6 +33,16 @@ Vector3 reference_of(const Lattice& lattice, const std::array<double, 3>& uvw) {
       ReciprocalVector{1.0 * reference.h.value(), 1.0 * reference.k.value(), 1.0 * reference.l.value()}));
 }
 
+/// As fine as the picture of Pattern2 is.
+MasterView seen_view(Workbench& bench, const GnomonicView& view) {
+  MasterView seen;
+  seen.kilovolt = Val(bench.windows.use<Pattern3Form>().Text5.text());
+  seen.width = bench.windows.use<Pattern2Form>().Picture1.pixel_width();
+  seen.height = seen.width;
+  seen.centre.z = 1 / std::max(1e-3, std::abs(double{view.right} - double{view.left}));
+  return seen;
+}
+
 double rounded(double value) { return std::round(value * 100) / 100; }
 
 }  // namespace
@@ -85,17 +95,19 @@ Rotation shown_orientation(const CrystalState& state) {
   return orientation;
 }
 
-void draw_bands_as_picture(Workbench& bench) {
+void draw_bands_as_picture(Workbench& bench, BandLook look) {
   constexpr auto title = "Bands as a picture";
   try {
     const CrystalState& state = main1_state(bench);
-    const auto model = present_crystal_model(bench, bench.windows.use<AutoIndexForm>());
+    auto& indexing = bench.windows.use<AutoIndexForm>();
+    auto model = present_crystal_model(bench, indexing);
     if (!model) throw RunFailure("there is no crystal: load one in the main window");
     const Rotation orientation = shown_orientation(state);
     const GnomonicView view = gnomonic_view(state);
     auto& pattern2 = bench.windows.use<Pattern2Form>();
     const Hourglass hourglass(pattern2);
     WindowTask task(bench.services);
+    if (look == BandLook::Dynamical) model = present_dynamical_model(bench, indexing, model, seen_view(bench, view));
     pattern2.Picture1.edit_picture([&](Surface& image) {
       const double width = image.width();
       const double height = image.height();
