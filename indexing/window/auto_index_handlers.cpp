@@ -98,10 +98,36 @@ void show_solutions(AutoIndexForm& form) {
   }
 }
 
+/// A result that was put back from a file has drawn bands alone: crystals that are still there get their patterns
+/// again.
+void renew_dynamical(Workbench& bench, AutoIndexForm& form) {
+  IndexResult& result = form.result;
+  const auto missing = [](const auto& solution) { return !solution.model->sphere->continuous(); };
+  if (!result.dynamical || std::none_of(result.solutions.begin(), result.solutions.end(), missing)) return;
+  try {
+    const double kilovolt = Val(pattern3(bench).Text5.text());
+    const auto models = dynamical_models(bench, form, crystal_models(bench, form),
+                                         {kilovolt, result.centre, result.size.width, result.size.height});
+    for (auto& solution : result.solutions) {
+      const auto same = std::find_if(models.begin(), models.end(), [&solution](const auto& model) {
+        return model->title == solution.model->title && model->reflectors.cell.a == solution.model->reflectors.cell.a;
+      });
+      if (same == models.end()) continue;
+      CrystalModel renewed = *solution.model;
+      renewed.sphere = (*same)->sphere;
+      solution.model = std::make_shared<const CrystalModel>(std::move(renewed));
+      solution.found.model = solution.model.get();
+    }
+  } catch (const RunFailure& failure) {
+    form.Status.set_caption(failure.message());
+  }
+}
+
 /// What belongs to the picked solution.
 void show_picked(Workbench& bench, AutoIndexForm& form) {
   show_bands(form);
   draw_solution(pattern3(bench), form.result);
+  renew_dynamical(bench, form);
   WindowTask task(bench.services);
   if (const auto picture = pattern3(bench).Picture1.grey_picture()) draw_simulated(form, view_of(*picture), task);
 }
@@ -121,8 +147,7 @@ void show_result(Workbench& bench, AutoIndexForm& form) {
       std::to_string(form.result.bands.size()) + " bands, off by " + Format(best->found.mean_deviation_deg, "0.00") +
       " deg, correlation " + Format(best->found.correlation, "0.00") + ", confidence " +
       Format(best->found.confidence, "0.00") +
-      (form.result.dynamical ? "; dynamical, of drawn bands the correlation would be " + Format(best->kinematic, "0.00")
-                             : ""));
+      (form.result.dynamical ? "; dynamical, with drawn bands correlation " + Format(best->kinematic, "0.00") : ""));
 }
 
 /// What was found, with the crystals that it belongs to.
@@ -354,6 +379,7 @@ void RemoveCrystal_Click(AutoIndexForm& form) {
 }
 
 void redraw_simulated(Workbench& bench, AutoIndexForm& form) {
+  renew_dynamical(bench, form);
   WindowTask task(bench.services);
   if (const auto picture = pattern3(bench).Picture1.grey_picture()) draw_simulated(form, view_of(*picture), task);
 }
