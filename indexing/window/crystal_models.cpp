@@ -57,6 +57,8 @@ CrystalState loaded_crystal(const Workbench& bench, const CrystalState& tables, 
   state.LatticeLetter = group.symbol.substr(0, 1);
   state.AsfX = tables.AsfX;
   state.AsfXCount = tables.AsfXCount;
+  state.AsfE = tables.AsfE;
+  state.AsfECount = tables.AsfECount;
   if (state.NAtom > 0) commit(state, expand_unit_cell(state, group, task));
   return state;
 }
