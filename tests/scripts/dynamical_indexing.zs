@@ -15,6 +15,13 @@ click AutoIndex.Dynamical
 click AutoIndex.Index
 print AutoIndex.Status
 print AutoIndex.Solutions
+echo a crystal of observed lines keeps its drawn bands
+answer data/ZOLDATA/CopperLines.cry
+click AutoIndex.AddCrystal
+click AutoIndex.Index
+print AutoIndex.Status
+print AutoIndex.SolutionsHeading
+print AutoIndex.Solutions
 echo and as before without it
 click AutoIndex.Dynamical
 click AutoIndex.Index

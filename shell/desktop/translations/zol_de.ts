@@ -5817,5 +5817,13 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <source>%1: %2 of %3 bands, off by %4 deg, correlation %5 kinematic, confidence %6</source>
         <translation>%1: %2 von %3 Bändern, %4° daneben, Korrelation %5 kinematisch, Sicherheit %6</translation>
     </message>
+    <message>
+        <source>no bands    off  corr.   kin. conf.      u      v      w   phi1    Phi   phi2</source>
+        <translation>Nr Bänd.    Abw  Korr.   kin. Sich.      u      v      w   phi1    Phi   phi2</translation>
+    </message>
+    <message>
+        <source>correlation of the drawn bands with the picture</source>
+        <translation>Korrelation der gezeichneten Bänder mit dem Bild</translation>
+    </message>
 </context>
 </TS>

@@ -5817,5 +5817,13 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <source>%1: %2 of %3 bands, off by %4 deg, correlation %5 kinematic, confidence %6</source>
         <translation>%1 : %2 bandes sur %3, écart %4°, corrélation %5 cinématique, confiance %6</translation>
     </message>
+    <message>
+        <source>no bands    off  corr.   kin. conf.      u      v      w   phi1    Phi   phi2</source>
+        <translation>no band.    éc.  corr.   cin. conf.      u      v      w   phi1    Phi   phi2</translation>
+    </message>
+    <message>
+        <source>correlation of the drawn bands with the picture</source>
+        <translation>corrélation des bandes dessinées avec l'image</translation>
+    </message>
 </context>
 </TS>
