@@ -34,9 +34,9 @@ std::array<double, 3> euler(const ReportedSolution& reported) {
 }
 
 std::string correlation_text(const ReportedSolution& reported) {
-  const std::string correlation = Format(reported.solution->correlation, "0.000");
-  if (!reported.kinematic) return correlation;
-  return correlation + " dynamical, " + Format(*reported.kinematic, "0.000") + " kinematic";
+  std::string text = Format(reported.solution->correlation, "0.000");
+  if (reported.kinematic) text += " dynamical, " + Format(*reported.kinematic, "0.000") + " kinematic";
+  return text;
 }
 
 }  // namespace
