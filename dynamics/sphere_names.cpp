@@ -12,8 +12,8 @@ namespace {
 
 constexpr double same_weight = 1e-6;  // relative; sums of the same weights in another order
 
-/// What the planes that contain a direction weigh, faint ones aside.
-double weight_of(const ReflectorSet& reflectors, const std::array<int, 3>& uvw) {
+/// What the planes that contain a row of the lattice weigh, faint ones aside, by the distance of its points.
+double weight_of(const ReflectorSet& reflectors, const Lattice& lattice, const std::array<int, 3>& uvw) {
   constexpr double faint = 0.01;  // of the strongest
   double weight = 0;
   for (const Reflector& plane : reflectors.members) {
@@ -22,14 +22,16 @@ double weight_of(const ReflectorSet& reflectors, const std::array<int, 3>& uvw) 
     const double own = reflectors.families[static_cast<std::size_t>(plane.family)].weight;
     if (own > faint * reflectors.families.front().weight) weight += own;
   }
-  return weight;
+  return weight / length(lattice.cartesian(DirectVector{1.0 * uvw[0], 1.0 * uvw[1], 1.0 * uvw[2]}));
 }
 
 }  // namespace
 
 std::vector<NamedBand> named_bands(const ReflectorSet& reflectors, int most) {
+  std::vector<ReflectorFamily> families = reflectors.families;
+  std::stable_sort(families.begin(), families.end(), [](const auto& a, const auto& b) { return a.weight > b.weight; });
   std::vector<NamedBand> bands;
-  for (const ReflectorFamily& family : reflectors.families) {
+  for (const ReflectorFamily& family : families) {
     const auto first = reflectors.members.begin() + family.first;
     std::vector<NamedBand> own;
     std::for_each(first, first + family.count, [&](const Reflector& plane) {
@@ -54,7 +56,7 @@ std::vector<NamedAxis> named_axes(const ReflectorSet& reflectors, int most) {
       for (int w = -largest; w <= largest; ++w) {
         if (std::gcd(std::gcd(u, v), w) != 1) continue;
         axes.push_back(
-            {{u, v, w}, direction_of(lattice, {1.0 * u, 1.0 * v, 1.0 * w}), weight_of(reflectors, {u, v, w})});
+            {{u, v, w}, direction_of(lattice, {1.0 * u, 1.0 * v, 1.0 * w}), weight_of(reflectors, lattice, {u, v, w})});
       }
     }
   }

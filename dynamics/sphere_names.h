@@ -12,16 +12,17 @@ struct NamedBand {
   std::array<int, 3> hkl{};
   Vector3 normal = Vector3::UnitZ();  ///< unit, in the crystal's frame
 };
-/// Whole families, the strongest first, as long as there are no more than this many planes; the first one always.
+/// Whole families, the strongest planes first, as long as there are no more than this many planes; the first one
+/// always.
 [[nodiscard]] std::vector<NamedBand> named_bands(const ReflectorSet& reflectors, int most);
 
 /// A direction in which planes meet; of [u v w] and [-u -v -w] both are there.
 struct NamedAxis {
   std::array<int, 3> uvw{};
   Vector3 direction = Vector3::UnitZ();  ///< unit, in the crystal's frame
-  double weight = 0;                     ///< of the planes that meet there
+  double weight = 0;                     ///< of the planes that meet there, by the length of the row's period
 };
-/// Of indices up to 5, by the strength of the planes that meet there; those of a family of directions together, and no
+/// Of indices up to 5, strong planes and short periods first; those of a family of directions together, and no
 /// family in part.
 [[nodiscard]] std::vector<NamedAxis> named_axes(const ReflectorSet& reflectors, int most);
 

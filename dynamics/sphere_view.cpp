@@ -30,7 +30,7 @@ struct Levels {
     const auto& [north, south] = master.patterns.front();
     std::vector<float> all = north;
     all.insert(all.end(), south.begin(), south.end());
-    const std::size_t cut = all.size() / 1000;
+    const std::size_t cut = all.size() / 100;
     const auto nth = [&all](std::size_t n) {
       std::nth_element(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(n), all.end());
       return static_cast<double>(all[n]);

@@ -58,8 +58,9 @@ ReflectorSet reflectors_of(const CrystalState& state, const SpaceGroup& group, d
 }  // namespace
 
 void make_master(Workbench& bench, MasterPatternForm& form) {
-  constexpr int most_bands = 30;
-  constexpr int most_axes = 150;
+  constexpr int most_bands = 20;
+  constexpr int most_axes = 80;
+  constexpr int most_known = 400;
   const auto& main1 = bench.windows.use<Main1Form>();
   const CrystalState& state = main1.state;
   check_atoms(state);
@@ -81,6 +82,7 @@ void make_master(Workbench& bench, MasterPatternForm& form) {
     const ReflectorSet reflectors = reflectors_of(state, group, settings.kilovolts.front(), task);
     shown->bands = named_bands(reflectors, most_bands);
     shown->axes = named_axes(reflectors, most_axes);
+    shown->known_axes = named_axes(reflectors, most_known);
     shown->master = master_pattern(crystal, settings, task);
   }
   form.drawn_of = shown->key;

@@ -14,7 +14,7 @@ using Point = std::array<double, 2>;
 
 constexpr double reach = 1.02;  // half width of the picture, a little beyond the sphere
 constexpr Colour yellow = RGB(255, 220, 0);
-constexpr Colour sky = RGB(125, 210, 255);
+constexpr Colour sky = RGB(70, 200, 255);
 
 std::string indices_text(const std::array<int, 3>& indices) {
   return std::to_string(indices[0]) + ' ' + std::to_string(indices[1]) + ' ' + std::to_string(indices[2]);
@@ -71,9 +71,9 @@ class Names {
       const auto trace = trace_of(view, band.normal);
       draw_trace(trace);
       const Point* best = nullptr;
-      double farthest = 0;
+      double farthest = 0.02;  // nothing stands on the edge
       for (const Point& at : trace) {
-        const double room = room_around(at);
+        const double room = room_around(view, at);
         if (room <= farthest) continue;
         farthest = room;
         best = &at;
@@ -108,8 +108,9 @@ class Names {
   }
   [[nodiscard]] Point user(double x, double y) const { return {x * per_pixel_ - reach, reach - y * per_pixel_}; }
   /// From all that is named, and from the edge.
-  [[nodiscard]] double room_around(const Point& at) const {
-    double room = 1.0 - std::max(std::abs(at[0]), std::abs(at[1]));
+  [[nodiscard]] double room_around(const SphereView& view, const Point& at) const {
+    const bool square = view.projection == SphereProjection::Lambert;
+    double room = 1 - (square ? std::max(std::abs(at[0]), std::abs(at[1])) : std::hypot(at[0], at[1]));
     for (const Name& name : names_) room = std::min(room, std::hypot(at[0] - name.at[0], at[1] - name.at[1]));
     return room;
   }
@@ -119,7 +120,7 @@ class Names {
     for (std::size_t i = 0; i + 1 < trace.size(); ++i) {
       const auto& [x, y] = trace[i];
       const auto& [next_x, next_y] = trace[i + 1];
-      if (i % 4 < 2 && std::hypot(next_x - x, next_y - y) < jump) picture_.line(x, y, next_x, next_y, sky);
+      if (i % 6 < 2 && std::hypot(next_x - x, next_y - y) < jump) picture_.line(x, y, next_x, next_y, sky);
     }
   }
   /// Poles are bright: what is light has a dark shadow there.
@@ -182,7 +183,7 @@ std::string place_text(const MasterPatternForm& form, double x, double y) {
   for (const double part : components_of(Lattice(shown->master.cell), *direction)) {
     text += (text.empty() ? '[' : ' ') + Format(part, "0.000");
   }
-  const NamedAxis& axis = nearest_axis(shown->axes, *direction);
+  const NamedAxis& axis = nearest_axis(shown->known_axes, *direction);
   return text + "]   " + Format(angle_between_deg(axis.direction, *direction), "0.0") + "° from [" +
          indices_text(axis.uvw) + "]   " + Format(angle_between_deg(view.middle(), *direction), "0.0") +
          "° from the middle";

@@ -18,7 +18,8 @@ struct ShownMaster {
   std::string title;  ///< of the crystal
   MasterPattern master;
   std::vector<NamedBand> bands;
-  std::vector<NamedAxis> axes;
+  std::vector<NamedAxis> axes;        ///< written into the picture
+  std::vector<NamedAxis> known_axes;  ///< that places are told by
 };
 
 struct MasterPatternForm : Window {
