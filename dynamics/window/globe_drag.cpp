@@ -7,8 +7,8 @@ namespace zol {
 void GlobeDrag::begin(double x, double y, bool turns) {
   taken_.reset();
   const auto shown = drawn_master(form_);
-  if (!shown || !form_.Globe.on()) return;
-  taken_ = view_of(form_, *shown).globe;
+  if (!shown || form_.drawn.projection != SphereProjection::Globe) return;
+  taken_ = drawn_view(form_, *shown).globe;
   cell_ = shown->master.cell;
   from_ = last_ = {x, y};
   spins_ = turns;
@@ -25,7 +25,7 @@ std::optional<DragStep> GlobeDrag::next(double x, double y) {
   std::array<double, 3> typed{};
   const auto components = components_of(lattice, globe.row(2));
   for (std::size_t i = 0; i < 3; ++i) {
-    texts[i] = Format(components[i], "0.000");
+    texts[i] = component_text(components[i]);
     typed[i] = Val(texts[i]);
   }
   const double turn_deg = globe_turn_deg(globe, direction_of(lattice, typed));

@@ -57,7 +57,7 @@ ReflectorSet reflectors_of(const CrystalState& state, const SpaceGroup& group, d
 
 }  // namespace
 
-void make_master(Workbench& bench, MasterPatternForm& form) {
+std::shared_ptr<const ShownMaster> make_master(Workbench& bench, MasterPatternForm& form) {
   constexpr int most_bands = 20;
   constexpr int most_axes = 80;
   constexpr int most_known = 400;
@@ -68,6 +68,7 @@ void make_master(Workbench& bench, MasterPatternForm& form) {
       read_space_group(bench.data.path("SpaceGr/No" + Format(state.SGNumber.value(), "000") + ".dat"));
   const DynamicCrystal crystal = dynamic_crystal(state, &group);
   const MasterSettings settings = settings_of(form);
+  (void)master_choice(crystal, settings);  // whether the boxes do
   auto shown = std::make_shared<ShownMaster>();
   shown->key = key_of(crystal, settings);
   shown->title = title_of(main1);
@@ -85,14 +86,14 @@ void make_master(Workbench& bench, MasterPatternForm& form) {
     shown->known_axes = named_axes(reflectors, most_known);
     shown->master = master_pattern(crystal, settings, task);
   }
-  form.drawn_of = shown->key;
-  form.ready.insert(form.ready.begin(), std::move(shown));
+  form.ready.insert(form.ready.begin(), shown);
   if (form.ready.size() > most_ready) form.ready.pop_back();
+  return shown;
 }
 
 std::shared_ptr<const ShownMaster> drawn_master(const MasterPatternForm& form) {
   const auto known = std::find_if(form.ready.begin(), form.ready.end(),
-                                  [&form](const auto& shown) { return shown->key == form.drawn_of; });
+                                  [&form](const auto& shown) { return shown->key == form.drawn.key; });
   return known == form.ready.end() ? nullptr : *known;
 }
 

@@ -7,7 +7,7 @@ namespace zol {
 
 /// Of the present crystal, made or taken from what is ready; the first one that is ready from then on.
 /// @throws RunFailure  the crystal has no such pattern, or a box does not do; the message tells which
-void make_master(Workbench& bench, MasterPatternForm& form);
+[[nodiscard]] std::shared_ptr<const ShownMaster> make_master(Workbench& bench, MasterPatternForm& form);
 
 /// The one in the picture; a null pointer where there is none.
 [[nodiscard]] std::shared_ptr<const ShownMaster> drawn_master(const MasterPatternForm& form);

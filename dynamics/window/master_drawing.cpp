@@ -84,7 +84,7 @@ class Names {
   }
   void draw() {
     const double width = picture_.pixel_width();
-    for (const LabelPlace& place : place_labels(wishes_, width, width, 4)) {
+    for (const LabelPlace& place : place_labels(wishes_, width, width, 5)) {
       const Name& name = names_[static_cast<std::size_t>(place.wish)];
       if (name.ringed) draw_ring(name);
       print(user(place.left, place.top), name);
@@ -131,12 +131,18 @@ class Names {
     picture_.circle(name.at[0], name.at[1], radius * per_pixel_, name.colour);
     picture_.set_solid_fill(true);
   }
+  /// In a dark outline.
   void print(const Point& at, const Name& name) {
-    for (const auto& [colour, shift] : {std::pair{black, 1.0}, {name.colour, 0.0}}) {
-      picture_.set_fore_colour(colour);
-      picture_.move_to(at[0] + shift * per_pixel_, at[1] - shift * per_pixel_);
-      picture_.print(name.text);
+    picture_.set_fore_colour(black);
+    for (const double across : {-per_pixel_, per_pixel_}) {
+      for (const double upward : {-per_pixel_, per_pixel_}) {
+        picture_.move_to(at[0] + across, at[1] + upward);
+        picture_.print(name.text);
+      }
     }
+    picture_.set_fore_colour(name.colour);
+    picture_.move_to(at[0], at[1]);
+    picture_.print(name.text);
   }
 
   Canvas& picture_;
@@ -145,43 +151,56 @@ class Names {
   std::vector<Name> names_;
 };
 
-}  // namespace
-
-SphereView view_of(const MasterPatternForm& form, const ShownMaster& shown) {
-  SphereView view;
-  view.south = form.South.on();
-  if (form.Lambert.on()) view.projection = SphereProjection::Lambert;
-  if (!form.Globe.on()) return view;
-  view.projection = SphereProjection::Globe;
-  const Vector3 middle = direction_of(Lattice(shown.master.cell),
-                                      {Val(form.MiddleU.text()), Val(form.MiddleV.text()), Val(form.MiddleW.text())});
-  view.globe = globe_about(middle, Val(form.TurnAngle.text()));
-  return view;
+DrawnMaster wanted_of(const MasterPatternForm& form, const ShownMaster& shown) {
+  DrawnMaster wanted;
+  wanted.key = shown.key;
+  wanted.south = form.South.on();
+  if (form.Lambert.on()) wanted.projection = SphereProjection::Lambert;
+  if (!form.Globe.on()) return wanted;
+  wanted.projection = SphereProjection::Globe;
+  wanted.middle = {Val(form.MiddleU.text()), Val(form.MiddleV.text()), Val(form.MiddleW.text())};
+  wanted.turn_deg = Val(form.TurnAngle.text());
+  return wanted;
 }
 
-void draw_master(MasterPatternForm& form, Task& task) {
-  const auto shown = drawn_master(form);
-  if (!shown) return;
-  const SphereView view = view_of(form, *shown);
+SphereView view_of(const DrawnMaster& drawn, const CellConstants& cell) {
+  return {drawn.projection, drawn.south, globe_about(direction_of(Lattice(cell), drawn.middle), drawn.turn_deg)};
+}
+
+}  // namespace
+
+SphereView drawn_view(const MasterPatternForm& form, const ShownMaster& shown) {
+  return view_of(form.drawn, shown.master.cell);
+}
+
+void draw_master(MasterPatternForm& form, const ShownMaster& shown, Task& task) {
+  const DrawnMaster wanted = wanted_of(form, shown);
+  const SphereView view = view_of(wanted, shown.master.cell);
   Canvas& picture = form.Picture;
   picture.clear();
   picture.scale(-reach, reach, reach, -reach);
-  draw_greys(picture, shown->master, view, task);
+  draw_greys(picture, shown.master, view, task);
   Names names(picture);
-  if (form.ZoneAxes.checked()) names.add_axes(view, shown->axes);
-  if (form.Bands.checked()) names.add_bands(view, shown->bands);
+  if (form.ZoneAxes.checked()) names.add_axes(view, shown.axes);
+  if (form.Bands.checked()) names.add_bands(view, shown.bands);
   names.draw();
+  form.drawn = wanted;
+}
+
+std::string component_text(double component) {
+  constexpr double steps = 1000;
+  return Format(std::round(component * steps) / steps + 0.0, "0.000");
 }
 
 std::string place_text(const MasterPatternForm& form, double x, double y) {
   const auto shown = drawn_master(form);
   if (!shown) return "";
-  const SphereView view = view_of(form, *shown);
+  const SphereView view = drawn_view(form, *shown);
   const auto direction = view.direction(x, y);
   if (!direction) return "beyond the half sphere";
   std::string text;
   for (const double part : components_of(Lattice(shown->master.cell), *direction)) {
-    text += (text.empty() ? '[' : ' ') + Format(part, "0.000");
+    text += (text.empty() ? '[' : ' ') + component_text(part);
   }
   const NamedAxis& axis = nearest_axis(shown->known_axes, *direction);
   return text + "]   " + Format(angle_between_deg(axis.direction, *direction), "0.0") + "° from [" +

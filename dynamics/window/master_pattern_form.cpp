@@ -11,7 +11,7 @@ MasterPatternForm::MasterPatternForm(Workbench& bench)
     : Window(window_name, "MASTER PATTERN"),
       Picture(*this, bench.services, "Picture", picture_twips, picture_twips),
       CommonDialog1(*this, bench.services, "CommonDialog1") {
-  fields().keep("drawn_of", drawn_of);
+  fields().keep("drawn", drawn);
   beside = "Pattern2";
   Depth.set_text("8");
   Points.set_text("401");

@@ -22,6 +22,16 @@ struct ShownMaster {
   std::vector<NamedAxis> known_axes;  ///< that places are told by
 };
 
+/// What is in the picture; kept with the window.
+struct DrawnMaster {
+  std::string key;  ///< of its pattern; empty: nothing is drawn
+  SphereProjection projection = SphereProjection::Stereographic;
+  bool south = false;
+  std::array<double, 3> middle{0, 0, 1};  ///< of the globe, u v w
+  double turn_deg = 0;
+  bool operator==(const DrawnMaster&) const = default;
+};
+
 struct MasterPatternForm : Window {
   static constexpr auto window_name = "MasterPattern";
   static constexpr bool shows_crystal_data = true;
@@ -51,8 +61,7 @@ struct MasterPatternForm : Window {
 
   FileDialog CommonDialog1;
 
-  std::string drawn_of;  ///< key of the pattern in the picture; kept with the window
-
+  DrawnMaster drawn;
   std::vector<std::shared_ptr<const ShownMaster>> ready;  ///< the last one first; made again where it is missing
 };
 

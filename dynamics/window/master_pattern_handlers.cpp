@@ -7,6 +7,7 @@ namespace {
 
 constexpr auto title = "MASTER PATTERN";
 constexpr auto nothing_drawn = "nothing is drawn yet: press Make";
+constexpr auto not_kept = "the pattern was not kept with the picture: press Make, which computes it again";
 
 /// What goes wrong is told; the program goes on.
 void attempt(Workbench& bench, MasterPatternForm& form, const std::function<void()>& action) {
@@ -21,31 +22,35 @@ void attempt(Workbench& bench, MasterPatternForm& form, const std::function<void
   }
 }
 
-void draw(Workbench& bench, MasterPatternForm& form) {
+void draw(Workbench& bench, MasterPatternForm& form, const ShownMaster& shown) {
   WindowTask task(bench.services);
-  draw_master(form, task);
-  const auto shown = drawn_master(form);
-  form.Status.set_caption(shown ? master_text(*shown) : "");
+  draw_master(form, shown, task);
+  form.Place.set_caption("");
+  form.Status.set_caption(master_text(shown));
 }
 
 void Make_Click(Workbench& bench, MasterPatternForm& form) {
-  attempt(bench, form, [&] {
-    make_master(bench, form);
-    form.Place.set_caption("");
-    draw(bench, form);
-  });
+  attempt(bench, form, [&] { draw(bench, form, *make_master(bench, form)); });
+}
+
+/// @throws RunFailure  there is none, or it was drawn in an earlier run of the program
+std::shared_ptr<const ShownMaster> present(const MasterPatternForm& form) {
+  auto shown = drawn_master(form);
+  if (!shown) throw RunFailure(form.drawn.key.empty() ? nothing_drawn : not_kept);
+  return shown;
 }
 
 /// A choice about the view; before the first pattern it waits for that.
 void View_Click(Workbench& bench, MasterPatternForm& form) {
-  if (drawn_master(form)) attempt(bench, form, [&] { draw(bench, form); });
+  if (form.drawn.key.empty()) return;
+  attempt(bench, form, [&] { draw(bench, form, *present(form)); });
 }
 
 void TurnSphere_Click(Workbench& bench, MasterPatternForm& form) {
   attempt(bench, form, [&] {
-    if (!drawn_master(form)) throw RunFailure(nothing_drawn);
+    const auto shown = present(form);
     form.Globe.set_on(true);
-    draw(bench, form);
+    draw(bench, form, *shown);
   });
 }
 
@@ -53,7 +58,7 @@ void Picture_MouseDown(MasterPatternForm& form, Single x, Single y) { form.Place
 
 void SavePicture_Click(Workbench& bench, MasterPatternForm& form) {
   attempt(bench, form, [&] {
-    if (!drawn_master(form)) throw RunFailure(nothing_drawn);
+    if (form.drawn.key.empty()) throw RunFailure(nothing_drawn);
     form.CommonDialog1.set_filter("Pictures|*.png;*.svg;*.pdf;*.bmp|");
     const NameEnding ending{".png", true};
     const std::string path = form.CommonDialog1.save(FileKind::Picture, ending);
