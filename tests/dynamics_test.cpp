@@ -7,6 +7,7 @@
 #include <fstream>
 #include <numbers>
 
+#include "core/read_file.h"
 #include "core/run_failure.h"
 #include "dynamics/master_cache.h"
 #include "dynamics/master_file.h"
@@ -433,15 +434,24 @@ TEST(MasterCache, KeepsWithinItsLimitAndMendsWhatIsDamaged) {
     for (const auto& entry : std::filesystem::directory_iterator(place)) found.push_back(entry.path());
     return found;
   };
-  const auto crystal = face_centred(nickel);
-  const auto first = cache.get(crystal, small(21), quiet);
+  const auto crystal = zinc_blende();
+  MasterSettings settings = small(21);
+  settings.kilovolts = {20, 15};
+  const auto first = cache.get(crystal, settings, quiet);
   ASSERT_EQ(files().size(), 1U);
-  EXPECT_EQ(cache.get(crystal, small(21), quiet).directions, 0U);  // read
-  std::ofstream(files().front()) << "damaged";
-  const auto mended = cache.get(crystal, small(21), quiet);
-  EXPECT_EQ(mended.patterns[0].north, first.patterns[0].north);
-  EXPECT_GT(mended.directions, 0U);
-  EXPECT_EQ(cache.get(crystal, small(21), quiet).directions, 0U);
+  std::string bytes = read_file(files().front().string());
+  char& middle = bytes[bytes.size() / 2];
+  middle = static_cast<char>(middle ^ 1);  // a bit on the disk
+  for (const std::string& damaged : {std::string("damaged"), bytes.substr(0, bytes.size() - 1), bytes}) {
+    const auto read = cache.get(crystal, settings, quiet);
+    EXPECT_EQ(read.directions, 0U);  // it was not made again
+    EXPECT_EQ(read.patterns[1].south, first.patterns[1].south);
+    EXPECT_EQ(read.sites.size(), first.sites.size());
+    std::ofstream(files().front()) << damaged;
+    const auto mended = cache.get(crystal, settings, quiet);
+    EXPECT_EQ(mended.patterns[0].north, first.patterns[0].north);
+    EXPECT_GT(mended.directions, 0U);
+  }
   (void)cache.get(crystal, small(23), quiet);
   EXPECT_EQ(files().size(), 1U);
 }
@@ -462,6 +472,13 @@ TEST(SphereView, ShowsThreefoldAxesOfACube) {
   };
   EXPECT_LT(difference(seen(120)), .01);
   EXPECT_GT(difference(seen(60)), .1) << "it has no sixfold one";
+}
+
+// A file where the folder would be, as a disk that can't be written.
+TEST(MasterCache, DoesNoHarmWhereNothingCanBeKept) {
+  const ScratchFolder folder;
+  const MasterCache cache(folder.write("masters", "a file"));
+  EXPECT_GT(cache.get(face_centred(nickel), small(21), quiet).directions, 0U);
 }
 
 }  // namespace

@@ -1,10 +1,10 @@
 #include "dynamics/window/make_master.h"
 
 #include <algorithm>
-#include <thread>
 
 #include "core/number_text.h"
 #include "core/space_group.h"
+#include "dynamics/master_view.h"
 #include "indexing/crystal_reflectors.h"
 #include "reflections/window/main1_form.h"
 
@@ -14,11 +14,9 @@ namespace {
 constexpr std::size_t most_ready = 4;
 
 MasterSettings settings_of(const MasterPatternForm& form) {
-  MasterSettings settings;
-  settings.kilovolts = {Val(form.Voltage.text())};
+  MasterSettings settings = usual_master_settings(Val(form.Voltage.text()));
   settings.size = integer_in(form.Points).value();
   settings.depth_nm = Val(form.Depth.text());
-  settings.threads = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
   return settings;
 }
 
@@ -84,7 +82,7 @@ std::shared_ptr<const ShownMaster> make_master(Workbench& bench, MasterPatternFo
     shown->bands = named_bands(reflectors, most_bands);
     shown->axes = named_axes(reflectors, most_axes);
     shown->known_axes = named_axes(reflectors, most_known);
-    shown->master = master_pattern(crystal, settings, task);
+    shown->master = kept_master(crystal, settings, task);
   }
   form.ready.insert(form.ready.begin(), shown);
   if (form.ready.size() > most_ready) form.ready.pop_back();

@@ -101,6 +101,7 @@ void Stored<IndexResult>::store(StoreWriter& out, const IndexResult& result) {
   zol::store(out, result.centre);
   zol::store(out, result.bands);
   out.number(std::uint64_t{result.picked});
+  zol::store(out, result.drawn_instead);
   std::vector<const CrystalModel*> models;  // each once
   for (const auto& solution : result.solutions) {
     if (std::find(models.begin(), models.end(), solution.model.get()) == models.end()) {
@@ -124,6 +125,8 @@ void Stored<IndexResult>::store(StoreWriter& out, const IndexResult& result) {
       out.number(number);
     }
     zol::store(out, solution.matches);
+    zol::store(out, solution.dynamical);
+    out.number(solution.kinematic);
   }
 }
 
@@ -133,6 +136,7 @@ IndexResult Stored<IndexResult>::load(StoreReader& in) {
   result.centre = zol::load<PatternCentre>(in);
   result.bands = zol::load<std::vector<DetectedBand>>(in);
   result.picked = in.number<std::uint64_t>();
+  result.drawn_instead = zol::load<std::vector<std::string>>(in);
   std::vector<std::shared_ptr<const CrystalModel>> models;
   for (std::size_t left = in.count(); left > 0; --left) models.push_back(load_model(in));
   for (std::size_t left = in.count(); left > 0; --left) {
@@ -148,6 +152,8 @@ IndexResult Stored<IndexResult>::load(StoreReader& in) {
       *value = in.number<double>();
     }
     solution.matches = zol::load<std::vector<MatchedBand>>(in);
+    solution.dynamical = zol::load<bool>(in);
+    solution.kinematic = in.number<double>();
     const auto planes = static_cast<int>(solution.model->table->planes().size());
     const bool fits = solution.matches.size() == result.bands.size() &&
                       std::all_of(solution.matches.begin(), solution.matches.end(), [planes](const MatchedBand& match) {
