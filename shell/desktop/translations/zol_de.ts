@@ -6036,6 +6036,8 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
     <message>
         <source>the pattern was not kept with the picture: press Make, which computes it again</source>
         <translation>das Muster wurde nicht mit dem Bild aufbewahrt: Berechnen drücken, um es neu zu berechnen</translation>
+    </message>
+    <message>
         <source>Dynamical bands as a picture</source>
         <translation>Dynamische Bänder als Bild</translation>
     </message>

@@ -6036,6 +6036,8 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
     <message>
         <source>the pattern was not kept with the picture: press Make, which computes it again</source>
         <translation>le diagramme n’a pas été gardé avec l’image : appuyer sur Calculer, qui le refait</translation>
+    </message>
+    <message>
         <source>Dynamical bands as a picture</source>
         <translation>Bandes dynamiques en image</translation>
     </message>
