@@ -5,6 +5,7 @@
 #include <complex>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <numbers>
 
 #include "core/read_file.h"
@@ -12,6 +13,7 @@
 #include "dynamics/master_cache.h"
 #include "dynamics/master_file.h"
 #include "dynamics/master_sphere.h"
+#include "dynamics/master_view.h"
 #include "dynamics/potential.h"
 #include "dynamics/sphere_view.h"
 #include "tests/test_files.h"
@@ -423,6 +425,32 @@ TEST(MasterSphere, ReadsBothHalves) {
                 .05);
   }
   EXPECT_EQ(master_sphere(master_pattern(face_centred(nickel), small(21), quiet), 1, quiet)->opposite(), 0);
+}
+
+// The table of X-rays has ions and bonded atoms, that of electrons neutral ones alone.
+TEST(CrystalOfAtoms, TakesNeutralOnes) {
+  CrystalState state;
+  state.CellA = state.CellB = state.CellC = 3.5667F;
+  state.CellAlpha = state.CellBeta = state.CellGamma = 90;
+  state.NAtom = state.NCell = state.AsfECount = 1;
+  state.UCOcc(1) = 1;
+  state.AsfE(1).Z = 6;
+  state.AsfE(1).A1 = state.AsfE(1).B1 = 1;
+  for (const auto& [element, neutral] : std::map<std::string, std::string>{
+           {"C", "C"}, {"Cval", "C"}, {"Sival", "Si"}, {"Hiso", "H"}, {"Fe3+", "Fe"}, {"V5+", "V"}}) {
+    state.UCElement(1) = state.AtomElement(1) = element;
+    state.AsfE(1).Element = neutral;
+    EXPECT_EQ(dynamic_crystal(state, nullptr).kinds.front().atomic_number, 6) << element;
+  }
+  EXPECT_EQ(failure_of([&state] {
+              state.AsfE(1).Element = "Ni";
+              (void)kept_master(state, nullptr, small(21), quiet);
+            }),
+            "the element V has no scattering factor for electrons");
+  state.NAtom = 0;
+  state.JcpdsCount = 1;
+  EXPECT_EQ(failure_of([&state] { (void)kept_master(state, nullptr, small(21), quiet); }),
+            "it has observed lines and no atoms");
 }
 
 TEST(MasterCache, KeepsWithinItsLimitAndMendsWhatIsDamaged) {

@@ -96,6 +96,10 @@ int IndexResult::next_number() {
   return ++last;
 }
 
+bool IndexResult::compared() const {
+  return std::any_of(solutions.begin(), solutions.end(), [](const Solution& solution) { return solution.dynamical; });
+}
+
 void Stored<IndexResult>::store(StoreWriter& out, const IndexResult& result) {
   zol::store(out, result.size);
   zol::store(out, result.centre);
@@ -208,29 +212,34 @@ void AutoIndexForm::declare_tables() {
                                         {"k", "", 3},
                                         {"l", "", 3},
                                         {"off", "°", 6, number, ' ', "from the plane of the picked solution"}})});
-  constexpr int u = 6;
   const auto hexagonal = [this](const ListCells& row) {
     const auto rank = static_cast<std::size_t>(Val(row[0]));
     if (rank < 1 || rank > result.solutions.size()) return false;
     const CellConstants& cell = result.solutions[rank - 1].model->reflectors.cell;
     return has_hexagonal_axes(cell.a, cell.b, cell.alpha, cell.beta, cell.gamma);
   };
-  Solutions.table = table({"Solutions",
-                           always({{"no"},
-                                   {"matched", "", 0, number, '/', "bands that are explained"},
-                                   {"bands"},
-                                   {"off", "°", 0, number, ' ', "mean deviation of the bands"},
-                                   {"corr", "", 0, number, ' ', "correlation with the picture"},
-                                   {"conf", "", 0, number, ' ', "confidence"},
-                                   {"u"},
-                                   {"v"},
-                                   {"w"},
-                                   {"phi1", "°"},
-                                   {"Phi", "°"},
-                                   {"phi2", "°"},
-                                   {"crystal", "", ListColumn::to_the_end, word}}),
-                           {},
-                           [hexagonal] { return std::vector{direction_columns(u, hexagonal)}; }});
+  const auto columns = [this] {
+    std::vector<ListColumn> all{{"no"},
+                                {"matched", "", 0, number, '/', "bands that are explained"},
+                                {"bands"},
+                                {"off", "°", 0, number, ' ', "mean deviation of the bands"},
+                                {"corr", "", 0, number, ' ', "correlation with the picture"}};
+    if (result.compared())
+      all.push_back({"kin", "", 0, number, ' ', "correlation of the drawn bands with the picture"});
+    all.insert(all.end(), {{"conf", "", 0, number, ' ', "confidence"},
+                           {"u"},
+                           {"v"},
+                           {"w"},
+                           {"phi1", "°"},
+                           {"Phi", "°"},
+                           {"phi2", "°"},
+                           {"crystal", "", ListColumn::to_the_end, word}});
+    return all;
+  };
+  const auto directions = [this, hexagonal] {
+    return std::vector{direction_columns(result.compared() ? 7 : 6, hexagonal)};
+  };
+  Solutions.table = table({"Solutions", columns, {}, directions});
 }
 
 void AutoIndexForm::name_fields() {

@@ -45,6 +45,8 @@ struct IndexResult {
   [[nodiscard]] bool operator==(const IndexResult& other) const {
     return number == other.number && picked == other.picked;
   }
+  /// Whether solutions have both correlations.
+  [[nodiscard]] bool compared() const;
   [[nodiscard]] const Solution* solution() const { return picked < solutions.size() ? &solutions[picked] : nullptr; }
 };
 
@@ -82,8 +84,10 @@ struct AutoIndexForm : Window {
   CommandButton ToggleFamily{*this, "ToggleFamily", "Leave out / take in"};
   Label BandsHeading{*this, "BandsHeading", " no  azimuth distance  width strength   h  k  l   off"};
   ListBox Bands{*this, "Bands"};
-  Label SolutionsHeading{*this, "SolutionsHeading",
-                         "no bands    off  corr. conf.      u      v      w   phi1    Phi   phi2"};
+  static constexpr auto solutions_heading = "no bands    off  corr. conf.      u      v      w   phi1    Phi   phi2";
+  static constexpr auto compared_heading =
+      "no bands    off  corr.   kin. conf.      u      v      w   phi1    Phi   phi2";
+  Label SolutionsHeading{*this, "SolutionsHeading", solutions_heading};
   ListBox Solutions{*this, "Solutions"};
 
   Canvas Simulated;

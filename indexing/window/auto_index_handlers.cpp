@@ -51,8 +51,10 @@ IndexSettings settings_of(const AutoIndexForm& form) {
 }
 
 ReportedSolution reported(const AutoIndexForm& form, const IndexResult::Solution& solution) {
-  return {&solution.found,  form.result.bands,  solution.matches,
-          form.result.size, form.result.centre, Val(form.SampleTilt.text())};
+  ReportedSolution report{&solution.found,  form.result.bands,  solution.matches,
+                          form.result.size, form.result.centre, Val(form.SampleTilt.text())};
+  if (solution.dynamical) report.kinematic = solution.kinematic;
+  return report;
 }
 
 std::string signed_field(double value, std::size_t width, const char* format) {
@@ -83,6 +85,8 @@ void show_bands(AutoIndexForm& form) {
 
 void show_solutions(AutoIndexForm& form) {
   form.Solutions.clear();
+  const bool compared = form.result.compared();
+  form.SolutionsHeading.set_caption(compared ? AutoIndexForm::compared_heading : AutoIndexForm::solutions_heading);
   int rank = 0;
   for (const auto& solution : form.result.solutions) {
     const ReportedSolution report = reported(form, solution);
@@ -92,7 +96,9 @@ void show_solutions(AutoIndexForm& form) {
         right_field(std::to_string(++rank), 2) +
         right_field(std::to_string(solution.found.matched) + "/" + std::to_string(form.result.bands.size()), 6) +
         signed_field(solution.found.mean_deviation_deg, 7, "0.00") +
-        signed_field(solution.found.correlation, 7, "0.000") + signed_field(solution.found.confidence, 6, "0.00");
+        signed_field(solution.found.correlation, 7, "0.000");
+    if (compared) line += signed_field(solution.kinematic, 7, "0.000");
+    line += signed_field(solution.found.confidence, 6, "0.00");
     for (const double component : uvw) line += signed_field(component, 7, "0.000");
     for (const double angle : euler) line += signed_field(angle, 7, "0.0");
     if (form.result.solutions.size() > 1 && !form.crystal_files.empty()) line += "  " + solution.model->title;
@@ -180,6 +186,7 @@ void compare_with_bands(AutoIndexForm& form, IndexResult& result,
                         const std::vector<std::shared_ptr<const CrystalModel>>& drawn, const IndexSettings& settings) {
   for (auto& solution : result.solutions) {
     solution.dynamical = solution.model->sphere->continuous();
+    solution.kinematic = solution.found.correlation;
     if (!solution.dynamical || solution.found.correlation == 0) continue;
     const auto bands = std::find_if(drawn.begin(), drawn.end(), [&solution](const auto& known) {
       return known->table == solution.model->table;  // of the model that the dynamical one was made from

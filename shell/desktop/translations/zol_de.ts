@@ -5810,24 +5810,24 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <translation>Berechnung</translation>
     </message>
     <message>
-        <source>Voltage (kV):</source>
-        <translation>Spannung (kV):</translation>
+        <source>Voltage (kV)</source>
+        <translation>Spannung (kV)</translation>
     </message>
     <message>
         <source>acceleration voltage of the electrons, 1 to 400 kV; at first that of the program</source>
         <translation>Beschleunigungsspannung der Elektronen, 1 bis 400 kV; anfangs die des Programms</translation>
     </message>
     <message>
-        <source>Mean depth (nm):</source>
-        <translation>Mittlere Tiefe (nm):</translation>
+        <source>Mean depth (nm)</source>
+        <translation>Mittlere Tiefe (nm)</translation>
     </message>
     <message>
         <source>mean depth that the electrons come from, nm</source>
         <translation>mittlere Tiefe, aus der die Elektronen kommen, nm</translation>
     </message>
     <message>
-        <source>Points along a side:</source>
-        <translation>Punkte je Seite:</translation>
+        <source>Points along a side</source>
+        <translation>Punkte je Seite</translation>
     </message>
     <message>
         <source>points along a side of the map of each half sphere, an odd number; the time grows with its square</source>
@@ -5914,8 +5914,8 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <translation>w der Richtung in der Mitte, entlang c</translation>
     </message>
     <message>
-        <source>Turned by (deg):</source>
-        <translation>Gedreht um (Grad):</translation>
+        <source>Turned by (deg)</source>
+        <translation>Gedreht um (Grad)</translation>
     </message>
     <message>
         <source>anticlockwise about the middle, from where c* points upward</source>
@@ -6052,6 +6052,14 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
     <message>
         <source>%1: %2 of %3 bands, off by %4 deg, correlation %5 kinematic, confidence %6</source>
         <translation>%1: %2 von %3 Bändern, %4° daneben, Korrelation %5 kinematisch, Sicherheit %6</translation>
+    </message>
+    <message>
+        <source>no bands    off  corr.   kin. conf.      u      v      w   phi1    Phi   phi2</source>
+        <translation>Nr Bänd.    Abw  Korr.   kin. Sich.      u      v      w   phi1    Phi   phi2</translation>
+    </message>
+    <message>
+        <source>correlation of the drawn bands with the picture</source>
+        <translation>Korrelation der gezeichneten Bänder mit dem Bild</translation>
     </message>
 </context>
 </TS>

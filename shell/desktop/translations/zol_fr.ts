@@ -5810,24 +5810,24 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <translation>Calcul</translation>
     </message>
     <message>
-        <source>Voltage (kV):</source>
-        <translation>Tension (kV) :</translation>
+        <source>Voltage (kV)</source>
+        <translation>Tension (kV)</translation>
     </message>
     <message>
         <source>acceleration voltage of the electrons, 1 to 400 kV; at first that of the program</source>
         <translation>tension d’accélération des électrons, de 1 à 400 kV ; au début celle du programme</translation>
     </message>
     <message>
-        <source>Mean depth (nm):</source>
-        <translation>Profondeur moyenne (nm) :</translation>
+        <source>Mean depth (nm)</source>
+        <translation>Profondeur moyenne (nm)</translation>
     </message>
     <message>
         <source>mean depth that the electrons come from, nm</source>
         <translation>profondeur moyenne d’où viennent les électrons, nm</translation>
     </message>
     <message>
-        <source>Points along a side:</source>
-        <translation>Points par côté :</translation>
+        <source>Points along a side</source>
+        <translation>Points par côté</translation>
     </message>
     <message>
         <source>points along a side of the map of each half sphere, an odd number; the time grows with its square</source>
@@ -5914,8 +5914,8 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <translation>w de la direction au milieu, le long de c</translation>
     </message>
     <message>
-        <source>Turned by (deg):</source>
-        <translation>Tournée de (deg) :</translation>
+        <source>Turned by (deg)</source>
+        <translation>Tournée de (deg)</translation>
     </message>
     <message>
         <source>anticlockwise about the middle, from where c* points upward</source>
@@ -6052,6 +6052,14 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
     <message>
         <source>%1: %2 of %3 bands, off by %4 deg, correlation %5 kinematic, confidence %6</source>
         <translation>%1 : %2 bandes sur %3, écart %4°, corrélation %5 cinématique, confiance %6</translation>
+    </message>
+    <message>
+        <source>no bands    off  corr.   kin. conf.      u      v      w   phi1    Phi   phi2</source>
+        <translation>no band.    éc.  corr.   cin. conf.      u      v      w   phi1    Phi   phi2</translation>
+    </message>
+    <message>
+        <source>correlation of the drawn bands with the picture</source>
+        <translation>corrélation des bandes dessinées avec l'image</translation>
     </message>
 </context>
 </TS>
