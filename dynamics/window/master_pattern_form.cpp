@@ -12,7 +12,6 @@ MasterPatternForm::MasterPatternForm(Workbench& bench)
       Picture(*this, bench.services, "Picture", picture_twips, picture_twips),
       CommonDialog1(*this, bench.services, "CommonDialog1") {
   fields().keep("drawn", drawn);
-  beside = "Pattern2";
   Depth.set_text("8");
   Points.set_text("401");
   for (TextBox* box : {&MiddleU, &MiddleV, &TurnAngle}) box->set_text("0");
