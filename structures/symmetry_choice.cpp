@@ -44,10 +44,13 @@ Evidence evidence_for(const ReadStructure& read, const Operators& operators, Tas
 
 /// What a user tells a right origin from a wrong one by.
 std::string told(const std::string& origin, const Evidence& evidence) {
-  const std::string head = "Origin " + origin + ": " + Format(evidence.density, "0.000") + " g/cm3";
-  if (!evidence.shortest) return head + '\n';
-  return head + "; shortest distance: " + evidence.shortest->first + " - " + evidence.shortest->second + " " +
-         Format(evidence.shortest->angstrom, "0.000") + " angstroms\n";
+  std::string text = "Origin " + origin + ": " + Format(evidence.density, "0.000") + " g/cm3";
+  if (const auto& nearest = evidence.shortest) {
+    text += "; ";
+    text += "shortest distance: " + nearest->first + " - " + nearest->second + " " +
+            Format(nearest->angstrom, "0.000") + " angstroms";
+  }
+  return text + '\n';
 }
 
 struct Candidate {
