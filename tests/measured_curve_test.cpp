@@ -206,7 +206,7 @@ TEST(ReflectionLines, GatherReflectionsOfOneSpacing) {
                    {1, 0, 0, 3},
                    {0, -1, 0, 3},
                    {1, 1, 0, 0},
-                   {0, 2, 0, 8e-6},
+                   {0, 2, 0, 8e-6F},
                    {2, 1, 0, 1},
                    {1, 2, 0, 4},
                    {-1, -1, 1, 2},
