@@ -49,7 +49,7 @@ void append(Table& all, Table table, const std::string& crystal) {
 
 /// Names with commas or quotes stand in quotes.
 std::string csv_text(const Field& field) {
-  const std::string text = field.value_or("");
+  std::string text = field.value_or("");
   if (text.find_first_of(",\"\n") == std::string::npos) return text;
   std::string quoted;
   for (const char c : text) quoted += c == '"' ? std::string(2, c) : std::string(1, c);
