@@ -177,13 +177,12 @@ std::span<const IndexSolution> PatternIndexer::choose_best_of_each(const Pattern
     best.correlation = again.correlation;
     turned_any = true;
     // The look-alike may stand farther down too.
-    const auto same = std::remove_if(solutions_.begin() + static_cast<std::ptrdiff_t>(i) + 1, solutions_.end(),
-                                     [&](const IndexSolution& other) {
-                                       return other.model == best.model &&
-                                              misorientation_deg(other.crystal_from_picture, best.crystal_from_picture,
-                                                                 best.model->reflectors.symmetry) <
-                                                  2 * settings.vote.tolerance_deg;
-                                     });
+    const auto same = std::remove_if(
+        solutions_.begin() + static_cast<std::ptrdiff_t>(i) + 1, solutions_.end(), [&](const IndexSolution& other) {
+          return other.model == best.model &&
+                 misorientation_deg(other.crystal_from_picture, best.crystal_from_picture,
+                                    best.model->reflectors.symmetry) < 2 * settings.vote.tolerance_deg;
+        });
     solutions_.erase(same, solutions_.end());
   }
   if (turned_any) rate(settings);

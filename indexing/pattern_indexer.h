@@ -48,8 +48,8 @@ struct IndexSolution {
   int matched = 0;                ///< bands
   double mean_deviation_deg = 0;  ///< of those
   double votes = 0;
-  double correlation = 0;  ///< of the picture with the drawn bands; 0 where it was not fitted
-  double confidence = 0;   ///< lead in votes over the best other orientation, 0 to 1; 0 for all but the first
+  double correlation = 0;           ///< of the picture with the drawn bands; 0 where it was not fitted
+  double confidence = 0;            ///< lead in votes over the best other orientation, 0 to 1; 0 for all but the first
   std::optional<double> lead = {};  ///< as ChosenFit has it, of the best one of each crystal
 };
 
