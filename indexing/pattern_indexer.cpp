@@ -161,12 +161,13 @@ ChosenFit PatternIndexer::choose(const CrystalModel& model, const PictureFit& fi
 /// Of each crystal the best solution gives way to a look-alike that fits better.
 std::span<const IndexSolution> PatternIndexer::choose_best_of_each(const PatternCentre& centre,
                                                                    const IndexSettings& settings) {
-  std::vector<const CrystalModel*> done;
+  chosen_.clear();
   bool turned_any = false;
   for (std::size_t i = 0; i < solutions_.size(); ++i) {
     IndexSolution& best = solutions_[i];
-    if (best.correlation == 0 || std::find(done.begin(), done.end(), best.model) != done.end()) continue;
-    done.push_back(best.model);
+    if (best.correlation == 0 || !best.model->sphere->continuous()) continue;
+    if (std::find(chosen_.begin(), chosen_.end(), best.model) != chosen_.end()) continue;
+    chosen_.push_back(best.model);
     const PictureFit fit{best.crystal_from_picture, centre, best.correlation, 0, {}};
     const ChosenFit chosen = choose(*best.model, fit, centre, settings);
     best.lead = chosen.lead;

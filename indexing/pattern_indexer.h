@@ -120,6 +120,7 @@ class PatternIndexer {
   PictureFitter fitter_;
   std::vector<MatchedBand> matches_;
   std::vector<IndexSolution> solutions_;
+  std::vector<const CrystalModel*> chosen_;  ///< whose best solution stands among its look-alikes
 };
 
 }  // namespace zol
