@@ -12,6 +12,8 @@
 #include "dynamics/master_file.h"
 #include "dynamics/master_sphere.h"
 #include "dynamics/potential.h"
+#include "dynamics/summed_voltages.h"
+#include "hdf5/hdf5_file.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -443,6 +445,21 @@ TEST(Master, IsThatOfItsDirections) {
   }
 }
 
+TEST(Master, OfSeveralVoltagesIsTheirWeightedMean) {
+  MasterSettings settings = small(21);
+  settings.kilovolts = {15, 20};
+  const auto each = master_pattern(zinc_blende(), settings, quiet);
+  const auto sum = summed_voltages(each, std::array{1., 3.});
+  EXPECT_EQ(sum.kilovolts, std::vector{20.});
+  ASSERT_EQ(sum.patterns.size(), 1U);
+  for (std::size_t i = 0; i < 441; i += 40) {
+    EXPECT_NEAR(sum.patterns[0].south[i], .25F * each.patterns[0].south[i] + .75F * each.patterns[1].south[i], 1e-6);
+  }
+  EXPECT_THROW((void)summed_voltages(each, std::array{1.}), RunFailure);
+  EXPECT_THROW((void)summed_voltages(each, std::array{0., 0.}), RunFailure);
+  EXPECT_THROW((void)summed_voltages(each, std::array{2., -1.}), RunFailure);
+}
+
 TEST(Master, IsTheSameForAnyNumberOfThreads) {
   const auto one = master_pattern(zinc_blende(), small(21), quiet);
   const auto three = master_pattern(zinc_blende(), small(21, 3), quiet);
@@ -487,6 +504,47 @@ TEST(MasterFile, IsReadAsItWasWritten) {
   ASSERT_EQ(read.sites.size(), 1U);
   EXPECT_NEAR(read.sites[0].b_iso, .35, 1e-6);
   EXPECT_EQ(read.choice.beams, 24);
+}
+
+// As files of EMsoft 5 have it, by the one of nickel that kikuchipy ships: sites x voltages x n x n, the lowest voltage
+// first, lengths in nanometres.
+TEST(MasterFile, HasTheLayoutOfEMsoft) {
+  const ScratchFolder folder;
+  const std::string path = folder.path("master.h5");
+  MasterSettings settings = small(21);
+  settings.kilovolts = {20, 18, 16};
+  const auto master = master_pattern(zinc_blende(), settings, quiet);
+  write_master(master, path);
+  const Hdf5File file(path);
+  using Sides = std::vector<std::uint64_t>;
+  const struct {
+    const char* name;
+    Sides sides;
+    int bits;
+    bool whole;
+    double first;
+  } rows[] = {{"EMData/EBSDmaster/mLPNH", {1, 3, 21, 21}, 32, false, static_cast<double>(master.patterns[2].north[0])},
+              {"EMData/EBSDmaster/mLPSH", {1, 3, 21, 21}, 32, false, static_cast<double>(master.patterns[2].south[0])},
+              {"EMData/EBSDmaster/masterSPNH", {3, 21, 21}, 32, false, 0},
+              {"EMData/EBSDmaster/masterSPSH", {3, 21, 21}, 32, false, 0},
+              {"EMData/EBSDmaster/EkeVs", {3}, 32, false, 16},
+              {"EMData/EBSDmaster/numset", {1}, 32, true, 1},
+              {"CrystalData/LatticeParameters", {6}, 64, false, .46},
+              {"CrystalData/AtomData", {5, 1}, 32, false, 0},
+              {"CrystalData/Atomtypes", {1}, 32, true, 28},
+              {"CrystalData/SpaceGroupNumber", {1}, 32, true, 225},
+              {"NMLparameters/EBSDMasterNameList/npx", {1}, 32, true, 10},
+              {"NMLparameters/MCCLNameList/EkeV", {1}, 64, false, 20},
+              {"NMLparameters/MCCLNameList/Ehistmin", {1}, 64, false, 16},
+              {"NMLparameters/MCCLNameList/Ebinsize", {1}, 64, false, 2}};
+  for (const auto& [name, sides, bits, whole, first] : rows) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(file.sides(name), sides);
+    EXPECT_EQ(file.bits(name), bits);
+    EXPECT_EQ(file.holds_whole_numbers(name), whole);
+    EXPECT_NEAR(file.number(name).value_or(-1), first, 1e-6);
+  }
+  EXPECT_EQ(read_master(path).patterns[0].north, master.patterns[0].north);
 }
 
 // The fourth of the arrays lies at its end: half a file lacks it.
