@@ -10,7 +10,7 @@ namespace zol {
 namespace {
 
 constexpr int sphere_size = 801;
-constexpr double worth_steps = 0.7;  ///< share of the fit's correlation at which a look-alike is fitted too
+constexpr double worth_steps = 0.85;  ///< share of the fit's correlation at which a look-alike is fitted too
 
 /// As the picture is drawn, without a step.
 FitSettings still(FitSettings settings) {
@@ -145,7 +145,7 @@ ChosenFit PatternIndexer::choose(const CrystalModel& model, const PictureFit& fi
   for (const Lookalike& lookalike : model.reflectors.lookalikes) {
     PictureFit other = fitter_.fit(*model.sphere, lookalike.applied(start), centre, still(look));
     if (other.correlation > worth_steps * best) {
-      look.most_steps = 3;
+      look.most_steps = 2;
       other = fitter_.fit(*model.sphere, other.crystal_from_picture, centre, look);
     }
     if (other.correlation > best && !lookalike.other_hand) {
