@@ -10,6 +10,7 @@
 #include "core/read_file.h"
 #include "core/run_failure.h"
 #include "core/unit_cell.h"
+#include "indexing/band_contrast.h"
 #include "indexing/crystal_reflectors.h"
 #include "reflections/scattering.h"
 #include "scans/pole_colour.h"
@@ -93,6 +94,7 @@ CrystalModel indexing_model(const LoadedCrystal& crystal, double kilovolt, int f
                             std::shared_ptr<const KinematicSphere> sphere) {
   try {
     ReflectorSet reflectors = crystal_reflectors(crystal.state, &crystal.group, kilovolt, task);
+    if (sphere && sphere->continuous()) rank_by_contrast(reflectors, *sphere, task);
     auto used = voting_families(reflectors, families);
     return make_crystal_model(crystal.title, std::move(reflectors), std::move(used), std::move(sphere), task);
   } catch (const RunFailure& failure) {

@@ -48,7 +48,8 @@ void summarise(const MapResult& map) {
     missing += point.missing;
   }
   for (std::size_t i = 0; i < map.phases.size(); ++i) {
-    std::cout << map.phases[i].name << ": " << of_phase[i + 1] << " of " << map.points.size() << " points\n";
+    std::cout << map.phases[i].name << ": " << of_phase[i + 1] << " of " << map.points.size() << " points\n"
+              << lookalike_text(map, i);
   }
   std::cout << "not indexed: " << of_phase[0];
   if (missing > 0) std::cout << ", of which " << missing << " have no pattern";

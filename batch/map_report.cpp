@@ -104,6 +104,23 @@ std::string decisions_text(const MapJob& job) {
   return text;
 }
 
+std::string lookalike_text(const MapResult& map, std::size_t phase) {
+  std::size_t points = 0;
+  std::size_t other_hand = 0;
+  double lead = 0;
+  for (const PointResult& point : map.points) {
+    if (static_cast<std::size_t>(point.phase) != phase + 1 || point.lead == 0) continue;
+    ++points;
+    other_hand += point.lead < 0 ? 1 : 0;
+    lead += static_cast<double>(point.lead) / 1000;
+  }
+  if (points == 0) return "";
+  std::string text =
+      "  correlation above that of look-alikes by " + fixed(lead / static_cast<double>(points), 3) + " on average";
+  if (other_hand > 0) text += "; the other hand fits better at " + std::to_string(other_hand) + " points";
+  return text + '\n';
+}
+
 std::string times_text(const StepTimes& times, std::size_t points) {
   struct Step {
     const char* name;

@@ -11,6 +11,8 @@ namespace zol {
 [[nodiscard]] std::string decisions_text(const MapJob& job);
 /// Format, sizes and grid of a scan, a line each.
 [[nodiscard]] std::string header_text(const MapJob& job);
+/// How clearly its points stand out from orientations whose bands coincide with theirs. Empty where there are none.
+[[nodiscard]] std::string lookalike_text(const MapResult& map, std::size_t phase);
 /// Share and rate of each step.
 [[nodiscard]] std::string times_text(const StepTimes& times, std::size_t points);
 

@@ -6,6 +6,7 @@
 #include <iostream>
 #include <memory>
 #include <thread>
+#include <utility>
 
 #include <QImage>
 
@@ -15,6 +16,7 @@
 #include "core/run_failure.h"
 #include "dynamics/master_file.h"
 #include "dynamics/master_pattern.h"
+#include "dynamics/summed_voltages.h"
 #include "shell/program/data_folders.h"
 #include "shell/script/stop_signal.h"
 
@@ -24,7 +26,7 @@ namespace {
 struct MasterWords {
   std::string crystal, output;
   double kilovolt = 20;
-  std::vector<double> kilovolts, rule;
+  std::vector<double> kilovolts, weights, rule;
   MasterSettings settings;
   bool png = false, check = true, quiet = false;
 };
@@ -109,8 +111,9 @@ int run(MasterWords words) {
   if (!words.rule.empty()) settings.rule = {words.rule[0], words.rule[1], words.rule[2]};
   try {
     const DynamicCrystal crystal = dynamic_crystal(loaded.state, &loaded.group);
-    const MasterPattern master = master_pattern(crystal, settings, task);
+    MasterPattern master = master_pattern(crystal, settings, task);
     task.end_line();
+    if (!words.weights.empty()) master = summed_voltages(std::move(master), words.weights);
     write_master(master, words.output);
     if (words.png) {
       const std::string stem = words.output.substr(0, words.output.rfind('.'));
@@ -140,6 +143,9 @@ void add_master_command(CLI::App& app, int& status) {
   master->add_option("--energies", words->kilovolts, "kV,kV,...: a pattern each, in place of --voltage")
       ->delimiter(',')
       ->check(CLI::Range(1.0, 400.0));
+  master->add_option("--weights", words->weights, "W,W,... of --energies: their sum as one pattern")
+      ->delimiter(',')
+      ->check(CLI::NonNegativeNumber);
   master->add_option("--size", words->settings.size, "points along a side of the square map, odd")
       ->check(CLI::Range(11, 2001));
   master->add_option("--depth", words->settings.depth_nm, "mean depth that the electrons come from, nm")

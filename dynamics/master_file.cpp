@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <numeric>
 
 #include "core/run_failure.h"
 #include "hdf5/hdf5_file.h"
@@ -48,11 +49,13 @@ void write_settings(Hdf5Writer& out, const MasterPattern& master) {
   out.single(names + "dmin", static_cast<float>(master.choice.smallest_spacing / angstroms));
   out.single<std::int32_t>(names + "npx", (master.size - 1) / 2);
   out.text(names + "latgridtype", "Lambert");
+  out.single<std::int32_t>(names + "combinesites", 1);
   const std::string start = "NMLparameters/MCCLNameList/";
-  const double highest = *std::max_element(master.kilovolts.begin(), master.kilovolts.end());
-  out.single(start + "EkeV", highest);
-  out.single(start + "Ehistmin", *std::min_element(master.kilovolts.begin(), master.kilovolts.end()));
-  out.single(start + "Ebinsize", 1.0);
+  const auto [lowest, highest] = std::minmax_element(master.kilovolts.begin(), master.kilovolts.end());
+  const double steps = static_cast<double>(master.kilovolts.size()) - 1;
+  out.single(start + "EkeV", *highest);
+  out.single(start + "Ehistmin", *lowest);
+  out.single(start + "Ebinsize", steps > 0 ? (*highest - *lowest) / steps : 1.0);
   out.single(start + "depthmax", 100.0);
   out.single(start + "depthstep", 1.0);
   out.single(start + "sig", 70.0);
@@ -61,6 +64,15 @@ void write_settings(Hdf5Writer& out, const MasterPattern& master) {
   out.single(own_group + "depth_nm", master.choice.depth_nm);
   out.single(own_group + "smallest_spacing", master.choice.smallest_spacing);
   out.single<std::int32_t>(own_group + "beams", master.choice.beams);
+}
+
+/// The lowest voltage first, as readers of this layout expect.
+std::vector<std::size_t> ascending(const std::vector<double>& kilovolts) {
+  std::vector<std::size_t> order(kilovolts.size());
+  std::iota(order.begin(), order.end(), std::size_t{0});
+  std::stable_sort(order.begin(), order.end(),
+                   [&](std::size_t a, std::size_t b) { return kilovolts[a] < kilovolts[b]; });
+  return order;
 }
 
 [[noreturn]] void fail(const std::string& path, const std::string& why) {
@@ -136,7 +148,9 @@ void write_master(const MasterPattern& master, const std::string& path) {
     const auto side = static_cast<std::uint64_t>(master.size);
     const std::uint64_t voltages = master.patterns.size();
     std::array<std::vector<float>, 4> arrays;
-    for (std::size_t i = 0; i < voltages; ++i) {
+    std::vector<float> told;
+    for (const std::size_t i : ascending(master.kilovolts)) {
+      told.push_back(static_cast<float>(master.kilovolts[i]));
       const auto append = [](std::vector<float>& to, const std::vector<float>& from) {
         to.insert(to.end(), from.begin(), from.end());
       };
@@ -149,7 +163,7 @@ void write_master(const MasterPattern& master, const std::string& path) {
     out.array(patterns_group + "mLPSH", {1, voltages, side, side}, arrays[1]);
     out.array(patterns_group + "masterSPNH", {voltages, side, side}, arrays[2]);
     out.array(patterns_group + "masterSPSH", {voltages, side, side}, arrays[3]);
-    out.array(patterns_group + "EkeVs", std::vector<float>(master.kilovolts.begin(), master.kilovolts.end()));
+    out.array(patterns_group + "EkeVs", told);
     out.single<std::int32_t>(patterns_group + "numEbins", static_cast<std::int32_t>(voltages));
     out.single<std::int32_t>(patterns_group + "lastEnergy", 1);
     out.single<std::int32_t>(patterns_group + "numset", 1);

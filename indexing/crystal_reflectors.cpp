@@ -59,7 +59,9 @@ ReflectorSet crystal_reflectors(const CrystalState& state, const SpaceGroup* gro
   for (auto& reflection : reflections) {
     if (reflection.weight < faint * strongest) reflection.weight = 0;
   }
-  return make_reflectors(lattice, proper_rotations(lattice, rotations), reflections, wavelength, task);
+  ReflectorSet set = make_reflectors(lattice, proper_rotations(lattice, rotations), reflections, wavelength, task);
+  if (group != nullptr) set.lookalikes = lookalikes_of(lattice, point_group(lattice, rotations));
+  return set;
 }
 
 }  // namespace zol

@@ -1,5 +1,6 @@
 #include "indexing/index_report.h"
 
+#include <cmath>
 #include <nlohmann/json.hpp>
 #include <numbers>
 
@@ -51,6 +52,13 @@ std::array<double, 3> middle_direction(const ReportedSolution& reported) {
   return {uvw.u / largest, uvw.v / largest, uvw.w / largest};
 }
 
+std::string lookalike_text(const IndexSolution& solution) {
+  if (!solution.lead) return "";
+  const std::string difference = Format(std::abs(*solution.lead), decimals4);
+  if (*solution.lead < 0) return "the crystal of the other hand fits better, correlation " + difference + " higher";
+  return "correlation " + difference + " above that of look-alikes";
+}
+
 std::vector<std::string> report_lines(const ReportedSolution& reported) {
   const IndexSolution& solution = *reported.solution;
   std::vector<std::string> lines{"crystal: " + solution.model->title};
@@ -74,6 +82,7 @@ std::vector<std::string> report_lines(const ReportedSolution& reported) {
   lines.push_back("bands matched " + std::to_string(solution.matched) + " of " + std::to_string(reported.bands.size()) +
                   ", mean deviation " + Format(solution.mean_deviation_deg, decimals2) + " deg, correlation " +
                   correlation_text(reported) + ", confidence " + Format(solution.confidence, decimals2));
+  if (solution.lead) lines.push_back(lookalike_text(solution));
   for (const MatchedBand& match : reported.matches) {
     const DetectedBand& band = reported.bands[static_cast<std::size_t>(match.band)];
     std::string line = "band " + std::to_string(match.band + 1) + ": azimuth " +
@@ -110,6 +119,7 @@ std::string report_json(const ReportedSolution& reported) {
   json["correlation"] = solution.correlation;
   if (reported.kinematic) json["kinematic_correlation"] = *reported.kinematic;
   json["confidence"] = solution.confidence;
+  if (solution.lead) json["lead_over_lookalikes"] = *solution.lead;
   json["bands"] = nlohmann::json::array();
   for (const MatchedBand& match : reported.matches) {
     const DetectedBand& band = reported.bands[static_cast<std::size_t>(match.band)];

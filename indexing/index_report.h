@@ -24,6 +24,8 @@ struct ReportedSolution {
 /// Components [u v w] of the direction in the middle of the picture, the largest 1.
 [[nodiscard]] std::array<double, 3> middle_direction(const ReportedSolution& reported);
 
+/// What is told of orientations whose bands coincide with those of the solution; empty where there are none.
+[[nodiscard]] std::string lookalike_text(const IndexSolution& solution);
 /// Crystal, centre in the conventions of the makers, orientation as matrix, quaternion and Euler angles, bands.
 [[nodiscard]] std::vector<std::string> report_lines(const ReportedSolution& reported);
 /// The same, angles in degrees, lengths in widths of the picture.

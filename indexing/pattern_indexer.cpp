@@ -10,6 +10,13 @@ namespace zol {
 namespace {
 
 constexpr int sphere_size = 801;
+constexpr double worth_steps = 0.85;  ///< share of the fit's correlation at which a look-alike is fitted too
+
+/// As the picture is drawn, without a step.
+FitSettings still(FitSettings settings) {
+  settings.most_steps = 0;
+  return settings;
+}
 
 /// Directions of planes that vote, where the crystal has them. The fewer rotations a crystal has, the more orientations
 /// there are to be told apart, also those of pseudo-symmetry.
@@ -64,7 +71,8 @@ std::span<const IndexSolution> PatternIndexer::index(const PictureView& picture,
   if (bands_.size() < 3) {
     throw RunFailure("only " + std::to_string(bands_.size()) + " bands were found, three are needed");
   }
-  return found;
+  if (!settings.fit_picture) return found;
+  return choose_best_of_each(centre, settings);
 }
 
 bool PatternIndexer::take(const PictureView& picture, const IndexSettings& settings, Task& task) {
@@ -125,12 +133,70 @@ PictureFit PatternIndexer::settle(const CrystalModel& model, const PictureFit& f
   return near && settled.correlation > 0 ? settled : fit;
 }
 
+ChosenFit PatternIndexer::choose(const CrystalModel& model, const PictureFit& fit, const PatternCentre& centre,
+                                 const IndexSettings& settings) {
+  ChosenFit chosen{settle(model, fit, centre, settings), {}};
+  if (!model.sphere->continuous() || model.reflectors.lookalikes.empty()) return chosen;
+  FitSettings look = settings.fit;
+  look.evened = true;
+  const Rotation start = chosen.fit.crystal_from_picture;
+  double best = fitter_.fit(*model.sphere, start, centre, still(look)).correlation;
+  double second = -1;
+  for (const Lookalike& lookalike : model.reflectors.lookalikes) {
+    PictureFit other = fitter_.fit(*model.sphere, lookalike.applied(start), centre, still(look));
+    if (other.correlation > worth_steps * best) {
+      look.most_steps = 2;
+      other = fitter_.fit(*model.sphere, other.crystal_from_picture, centre, look);
+    }
+    if (other.correlation > best && !lookalike.other_hand) {
+      chosen.fit = other;
+      std::swap(best, other.correlation);
+    }
+    second = std::max(second, other.correlation);
+  }
+  chosen.lead = best - second;
+  return chosen;
+}
+
+/// Of each crystal the best solution gives way to a look-alike that fits better.
+std::span<const IndexSolution> PatternIndexer::choose_best_of_each(const PatternCentre& centre,
+                                                                   const IndexSettings& settings) {
+  chosen_.clear();
+  bool turned_any = false;
+  for (std::size_t i = 0; i < solutions_.size(); ++i) {
+    IndexSolution& best = solutions_[i];
+    if (best.correlation == 0 || !best.model->sphere->continuous()) continue;
+    if (std::find(chosen_.begin(), chosen_.end(), best.model) != chosen_.end()) continue;
+    chosen_.push_back(best.model);
+    const PictureFit fit{best.crystal_from_picture, centre, best.correlation, 0, {}};
+    const ChosenFit chosen = choose(*best.model, fit, centre, settings);
+    best.lead = chosen.lead;
+    const Rotation& turned = chosen.fit.crystal_from_picture;
+    if (misorientation_deg(turned, best.crystal_from_picture) < 2 * settings.vote.tolerance_deg) continue;
+    const PictureFit again = fitter_.fit(*best.model->sphere, turned, centre, settings.fit);
+    best.crystal_from_picture = again.crystal_from_picture;
+    best.correlation = again.correlation;
+    turned_any = true;
+    // The look-alike may stand farther down too.
+    const auto same = std::remove_if(
+        solutions_.begin() + static_cast<std::ptrdiff_t>(i) + 1, solutions_.end(), [&](const IndexSolution& other) {
+          return other.model == best.model &&
+                 misorientation_deg(other.crystal_from_picture, best.crystal_from_picture,
+                                    best.model->reflectors.symmetry) < 2 * settings.vote.tolerance_deg;
+        });
+    solutions_.erase(same, solutions_.end());
+  }
+  if (turned_any) rate(settings);
+  return solutions_;
+}
+
 /// Orders the solutions, and tells anew what fits of the bands where the picture has moved an orientation.
 void PatternIndexer::rate(const IndexSettings& settings) {
   std::sort(solutions_.begin(), solutions_.end(), [](const IndexSolution& a, const IndexSolution& b) {
     return a.correlation != b.correlation ? a.correlation > b.correlation : a.votes > b.votes;
   });
   for (IndexSolution& solution : solutions_) {
+    solution.confidence = 0;
     if (solution.correlation == 0) continue;
     match_bands(*solution.model->table, bands_, solution.crystal_from_picture, settings.vote.tolerance_deg, matches_);
     solution.matched = 0;

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -47,8 +48,17 @@ struct IndexSolution {
   int matched = 0;                ///< bands
   double mean_deviation_deg = 0;  ///< of those
   double votes = 0;
-  double correlation = 0;  ///< of the picture with the drawn bands; 0 where it was not fitted
-  double confidence = 0;   ///< lead in votes over the best other orientation, 0 to 1; 0 for all but the first
+  double correlation = 0;           ///< of the picture with the drawn bands; 0 where it was not fitted
+  double confidence = 0;            ///< lead in votes over the best other orientation, 0 to 1; 0 for all but the first
+  std::optional<double> lead = {};  ///< as ChosenFit has it, of the best one of each crystal
+};
+
+/// A fit among its look-alikes.
+struct ChosenFit {
+  PictureFit fit;
+  /// In correlation, over the best look-alike. Below 0: the crystal of the other hand, which no turn makes of this one,
+  /// fits better. None where the crystal has no look-alikes, or only its bands are drawn.
+  std::optional<double> lead;
 };
 
 /// Holds all storage of indexing one picture after the other. One thread at a time.
@@ -74,9 +84,17 @@ class PatternIndexer {
                                const IndexSettings& settings) {
     return fitter_.fit(*model.sphere, start, centre, settings.fit);
   }
+  /// Of the picture taken with that of an orientation.
+  [[nodiscard]] double correlation(const CrystalModel& model, const Rotation& crystal_from_picture,
+                                   const PatternCentre& centre) {
+    return fitter_.correlation(*model.sphere, crystal_from_picture, centre);
+  }
   /// The last steps of a fit that is nearly done: with the computed picture made even as well, where it has all greys.
   [[nodiscard]] PictureFit settle(const CrystalModel& model, const PictureFit& fit, const PatternCentre& centre,
                                   const IndexSettings& settings);
+  /// The last steps of a fit, of it and of its look-alikes; the one that fits best.
+  [[nodiscard]] ChosenFit choose(const CrystalModel& model, const PictureFit& fit, const PatternCentre& centre,
+                                 const IndexSettings& settings);
   /// Finds the bands of the picture taken, and orientations by them. @returns none where too few bands were found
   std::span<const IndexSolution> index_taken(const PatternCentre& centre, std::span<const CrystalModel* const> models,
                                              const IndexSettings& settings, Task& task);
@@ -93,6 +111,7 @@ class PatternIndexer {
 
  private:
   void rate(const IndexSettings& settings);
+  std::span<const IndexSolution> choose_best_of_each(const PatternCentre& centre, const IndexSettings& settings);
 
   PreparedPicture prepared_;
   BandDetection detection_;
@@ -101,6 +120,7 @@ class PatternIndexer {
   PictureFitter fitter_;
   std::vector<MatchedBand> matches_;
   std::vector<IndexSolution> solutions_;
+  std::vector<const CrystalModel*> chosen_;  ///< whose best solution stands among its look-alikes
 };
 
 }  // namespace zol

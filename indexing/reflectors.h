@@ -7,7 +7,7 @@
 
 #include "core/lattice.h"
 #include "core/task.h"
-#include "indexing/orientation.h"
+#include "indexing/lookalikes.h"
 
 namespace zol {
 
@@ -38,6 +38,7 @@ struct ReflectorSet {
   std::vector<ReflectorFamily> families;  ///< the strongest first
   std::vector<Reflector> members;         ///< family by family
   std::vector<Rotation> symmetry;         ///< rotations of the crystal's class with the inversion, the identity first
+  std::vector<Lookalike> lookalikes;      ///< where the point group is known
 };
 
 /// Proper rotations in the crystal's frame of operators given as rotation parts on fractional coordinates, row by row;

@@ -1,5 +1,6 @@
 // Maps as HDF5: EDAX's layout under "Scan 1/EBSD/Data" and "Header", and the crystal map of kikuchipy and orix beside
 // it.
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <numbers>
@@ -128,6 +129,12 @@ void write_map_hdf5(const MapResult& map, const std::string& path) {
   write_hdf5(path, [&map](Hdf5Writer& out) {
     write_edax(out, map);
     write_crystal_map(out, map);
+    if (std::any_of(map.points.begin(), map.points.end(), [](const PointResult& p) { return p.lead != 0; })) {
+      out.array("ZOL/lead_over_lookalikes", column_of<float>(map, [](const auto& p, std::size_t) {
+                  constexpr double steps = 1000;
+                  return p.lead / steps;
+                }));
+    }
     out.text("ZOL/settings", map.settings);
     out.text("ZOL/source", map.source);
   });

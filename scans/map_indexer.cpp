@@ -333,8 +333,9 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
       if (settled) break;
     }
   }
-  if (!settled) {
+  const auto find = [&] {
     const Timed timed(worker.times.finding);
+    bool replaced = false;
     for (const IndexSolution& solution : indexer.index_taken(centre, models_, settings_.index, task)) {
       if (on_picture && solution.correlation <= best.correlation) continue;
       if (!on_picture && best.model != nullptr) break;  // they stand in order
@@ -342,18 +343,32 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
       bands = solution.matched;
       fit_deg = solution.mean_deviation_deg;
       best_fit = {};
+      replaced = true;
     }
-    if (on_picture && best.model != nullptr && bands > 0) {
+    if (on_picture && replaced && bands > 0) {
       best_fit = indexer.fit(*best.model, best.crystal_from_picture, centre, settings_.index);
       best.crystal_from_picture = best_fit.crystal_from_picture;
       best.correlation = best_fit.correlation;
     }
-  }
-  if (best.model == nullptr) return result;
-  if (on_picture) {
+  };
+  const auto choose = [&] {
     best_fit.crystal_from_picture = best.crystal_from_picture;
-    best_fit = indexer.settle(*best.model, best_fit, centre, settings_.index);
+    const ChosenFit chosen = indexer.choose(*best.model, best_fit, centre, settings_.index);
+    best_fit = chosen.fit;
     best.crystal_from_picture = best_fit.crystal_from_picture;
+    if (!chosen.lead) return true;
+    best.correlation = indexer.correlation(*best.model, best.crystal_from_picture, centre);
+    constexpr double steps = 1000;
+    constexpr double most = 127;
+    result.lead = static_cast<std::int8_t>(std::lround(std::clamp(steps * *chosen.lead, -most, most)));
+    return *chosen.lead >= 0;
+  };
+  if (!settled) find();
+  if (best.model == nullptr) return result;
+  // A neighbour of the other hand fits nearly as well: the crystal that this one belongs to may be among the others.
+  if (on_picture && !choose() && settled && models_.size() > 1) {
+    find();
+    (void)choose();
   }
   if (on_picture) fit_deg = std::hypot(best_fit.errors[0], best_fit.errors[1], best_fit.errors[2]);
   result.confidence = static_cast<float>(best.correlation);

@@ -21,7 +21,7 @@ struct PointResult {
   std::int8_t phase = 0;     ///< 1 the first crystal; 0 not indexed
   std::uint8_t bands = 0;    ///< that agree; 0 where they were not looked for
   std::uint8_t missing = 0;  ///< 1: there was no pattern
-  std::uint8_t reserved = 0;
+  std::int8_t lead = 0;      ///< thousandths of correlation over the best look-alike, -127 to 127; 0: there is none
 
   bool operator==(const PointResult&) const = default;
 };

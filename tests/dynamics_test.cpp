@@ -16,6 +16,8 @@
 #include "dynamics/master_view.h"
 #include "dynamics/potential.h"
 #include "dynamics/sphere_view.h"
+#include "dynamics/summed_voltages.h"
+#include "hdf5/hdf5_file.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -302,6 +304,98 @@ TEST(Yield, OfAPolarCrystalHasItsSense) {
   EXPECT_GT(seen[1], 1.1);
 }
 
+/// Planes across a of two kinds of atoms, a quarter of their spacing apart, as (111) of zinc blende; other axes so
+/// short that no plane but these reflects.
+DynamicCrystal planes(bool inverted) {
+  DynamicCrystal crystal;
+  crystal.cell = {3.2, .6, .6, 90, 90, 90};
+  crystal.operations = {Eigen::Matrix3d::Identity()};
+  crystal.kinds = {nickel, oxygen};
+  crystal.atoms = {{0, .03, {}}, {1, .03, {inverted ? -.25 : .25, 0, 0}}};
+  return crystal;
+}
+
+/// The yield in real space: the wave goes from slice to slice down into the crystal, against the direction; what
+/// attracts it and what absorbs it are even about the atoms. Schroedinger's equation for fast electrons without second
+/// derivatives along the depth.
+double followed(const DynamicCrystal& crystal, double spacing, double depth, const GridDirection& direction) {
+  constexpr Eigen::Index points = 48;
+  const FastElectron fast = fast_electron(20);
+  const double per_volume = fast.mass_ratio / (pi * crystal.lattice().volume());
+  const double period = crystal.cell.a;
+  const auto last = static_cast<int>(period / spacing);
+  Eigen::MatrixXcd step = Eigen::MatrixXcd::Zero(points, points);
+  Eigen::ArrayXd sources = Eigen::ArrayXd::Zero(points);
+  double inner = 0;
+  double all = 0;
+  for (const auto& atom : crystal.atoms) {
+    const AtomKind& kind = crystal.kinds[atom.kind];
+    inner += per_volume * atom.occupancy * electron_factor(kind.factor, 0);
+    all += atom.occupancy * kind.atomic_number * kind.atomic_number;
+    for (Eigen::Index i = 0; i < points; ++i) {
+      for (int h = 0; h <= last; ++h) {
+        const double s = h / (2 * period);
+        const double smear = std::exp(-kind.b_iso * s * s);
+        const double wave =
+            (h == 0 ? 1 : 2) * std::cos(2 * pi * h * (static_cast<double>(i) / points - atom.position[0]));
+        sources[i] += atom.occupancy * kind.atomic_number * kind.atomic_number * smear * wave;
+        if (h == 0) continue;  // the means: refraction, and what the depths hold
+        step(i, i) += per_volume * atom.occupancy * wave *
+                      Complex(smear * electron_factor(kind.factor, s),
+                              smear * absorptive_factor(kind.factor, s, kind.b_iso, fast));
+      }
+    }
+  }
+  const double k = std::sqrt(1 / (fast.wavelength * fast.wavelength) + inner);
+  const double across = -k * direction[0];
+  for (Eigen::Index i = 0; i < points; ++i) {
+    for (Eigen::Index j = 0; j < points; ++j) {
+      for (Eigen::Index h = -points / 2 + 1; h < points / 2; ++h) {  // exact derivatives of a periodic wave
+        const double g = static_cast<double>(h) / period;
+        step(i, j) -=
+            (2 * across * g + g * g) * std::polar(1.0 / points, 2 * pi * static_cast<double>(h * (i - j)) / points);
+      }
+    }
+  }
+  constexpr double thin = .5;
+  step *= Complex(0, pi / k * thin / 64);
+  const Eigen::MatrixXcd one = Eigen::MatrixXcd::Identity(points, points);
+  Eigen::MatrixXcd go = one + step * (one + step / 2 * (one + step / 3 * (one + step / 4)));
+  for (int doubling = 0; doubling < 6; ++doubling) go = go * go;
+  Eigen::VectorXcd wave = Eigen::VectorXcd::Ones(points);
+  double yield = 0;
+  double weights = 0;
+  for (int slice = 0; slice < 8 * depth / thin; ++slice) {
+    const double weight = std::exp(-slice * thin / depth) * (slice == 0 ? .5 : 1);
+    weights += weight;
+    yield += weight * (sources * wave.array().abs2()).mean() / all;
+    wave = go * wave;
+  }
+  return yield / weights;
+}
+
+// Near Bragg's angles of the first two orders on both sides.
+TEST(Yield, OfPolarPlanesIsThatOfAWaveFollowedInRealSpace) {
+  constexpr double spacing = .61;
+  constexpr double depth_nm = 3;
+  std::vector<GridDirection> directions;
+  for (const double sine : {-.0275, -.0134, -.006, .006, .0134, .0275})
+    directions.push_back({sine, 0, std::sqrt(1 - sine * sine)});
+  std::array<std::vector<double>, 2> sides;
+  for (const bool inverted : {false, true}) {
+    const auto crystal = planes(inverted);
+    sides[inverted ? 1 : 0] = master_yields(crystal, {spacing, 11, depth_nm}, 20, directions, quiet);
+    for (std::size_t i = 0; i < directions.size(); ++i) {
+      EXPECT_NEAR(sides[inverted ? 1 : 0][i], followed(crystal, spacing, 10 * depth_nm, directions[i]), .02)
+          << directions[i][0];
+    }
+  }
+  for (std::size_t i = 0; i < directions.size(); ++i) {
+    EXPECT_NEAR(sides[0][i], sides[1][directions.size() - 1 - i], 1e-4);
+    EXPECT_GT(std::abs(sides[0][i] - sides[1][i]), .05);
+  }
+}
+
 TEST(Grids, MapDirectionsAsTheOperationsDo) {
   const auto check = [](const auto& grid, const auto& operations) {
     for (std::size_t i = 0; i < grid.count(); i += 7) {
@@ -355,6 +449,21 @@ TEST(Master, IsThatOfItsDirections) {
   }
 }
 
+TEST(Master, OfSeveralVoltagesIsTheirWeightedMean) {
+  MasterSettings settings = small(21);
+  settings.kilovolts = {15, 20};
+  const auto each = master_pattern(zinc_blende(), settings, quiet);
+  const auto sum = summed_voltages(each, std::array{1., 3.});
+  EXPECT_EQ(sum.kilovolts, std::vector{20.});
+  ASSERT_EQ(sum.patterns.size(), 1U);
+  for (std::size_t i = 0; i < 441; i += 40) {
+    EXPECT_NEAR(sum.patterns[0].south[i], .25F * each.patterns[0].south[i] + .75F * each.patterns[1].south[i], 1e-6);
+  }
+  EXPECT_THROW((void)summed_voltages(each, std::array{1.}), RunFailure);
+  EXPECT_THROW((void)summed_voltages(each, std::array{0., 0.}), RunFailure);
+  EXPECT_THROW((void)summed_voltages(each, std::array{2., -1.}), RunFailure);
+}
+
 TEST(Master, IsTheSameForAnyNumberOfThreads) {
   const auto one = master_pattern(zinc_blende(), small(21), quiet);
   const auto three = master_pattern(zinc_blende(), small(21, 3), quiet);
@@ -399,6 +508,47 @@ TEST(MasterFile, IsReadAsItWasWritten) {
   ASSERT_EQ(read.sites.size(), 1U);
   EXPECT_NEAR(read.sites[0].b_iso, .35, 1e-6);
   EXPECT_EQ(read.choice.beams, 24);
+}
+
+// As files of EMsoft 5 have it, by the one of nickel that kikuchipy ships: sites x voltages x n x n, the lowest voltage
+// first, lengths in nanometres.
+TEST(MasterFile, HasTheLayoutOfEMsoft) {
+  const ScratchFolder folder;
+  const std::string path = folder.path("master.h5");
+  MasterSettings settings = small(21);
+  settings.kilovolts = {20, 18, 16};
+  const auto master = master_pattern(zinc_blende(), settings, quiet);
+  write_master(master, path);
+  const Hdf5File file(path);
+  using Sides = std::vector<std::uint64_t>;
+  const struct {
+    const char* name;
+    Sides sides;
+    int bits;
+    bool whole;
+    double first;
+  } rows[] = {{"EMData/EBSDmaster/mLPNH", {1, 3, 21, 21}, 32, false, static_cast<double>(master.patterns[2].north[0])},
+              {"EMData/EBSDmaster/mLPSH", {1, 3, 21, 21}, 32, false, static_cast<double>(master.patterns[2].south[0])},
+              {"EMData/EBSDmaster/masterSPNH", {3, 21, 21}, 32, false, 0},
+              {"EMData/EBSDmaster/masterSPSH", {3, 21, 21}, 32, false, 0},
+              {"EMData/EBSDmaster/EkeVs", {3}, 32, false, 16},
+              {"EMData/EBSDmaster/numset", {1}, 32, true, 1},
+              {"CrystalData/LatticeParameters", {6}, 64, false, .46},
+              {"CrystalData/AtomData", {5, 1}, 32, false, 0},
+              {"CrystalData/Atomtypes", {1}, 32, true, 28},
+              {"CrystalData/SpaceGroupNumber", {1}, 32, true, 225},
+              {"NMLparameters/EBSDMasterNameList/npx", {1}, 32, true, 10},
+              {"NMLparameters/MCCLNameList/EkeV", {1}, 64, false, 20},
+              {"NMLparameters/MCCLNameList/Ehistmin", {1}, 64, false, 16},
+              {"NMLparameters/MCCLNameList/Ebinsize", {1}, 64, false, 2}};
+  for (const auto& [name, sides, bits, whole, first] : rows) {
+    SCOPED_TRACE(name);
+    EXPECT_EQ(file.sides(name), sides);
+    EXPECT_EQ(file.bits(name), bits);
+    EXPECT_EQ(file.holds_whole_numbers(name), whole);
+    EXPECT_NEAR(file.number(name).value_or(-1), first, 1e-6);
+  }
+  EXPECT_EQ(read_master(path).patterns[0].north, master.patterns[0].north);
 }
 
 // The fourth of the arrays lies at its end: half a file lacks it.

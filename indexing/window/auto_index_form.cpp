@@ -131,6 +131,7 @@ void Stored<IndexResult>::store(StoreWriter& out, const IndexResult& result) {
     zol::store(out, solution.matches);
     zol::store(out, solution.dynamical);
     out.number(solution.kinematic);
+    zol::store(out, found.lead);
   }
 }
 
@@ -158,6 +159,7 @@ IndexResult Stored<IndexResult>::load(StoreReader& in) {
     solution.matches = zol::load<std::vector<MatchedBand>>(in);
     solution.dynamical = zol::load<bool>(in);
     solution.kinematic = in.number<double>();
+    solution.found.lead = zol::load<std::optional<double>>(in);
     const auto planes = static_cast<int>(solution.model->table->planes().size());
     const bool fits = solution.matches.size() == result.bands.size() &&
                       std::all_of(solution.matches.begin(), solution.matches.end(), [planes](const MatchedBand& match) {

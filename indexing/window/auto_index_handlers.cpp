@@ -165,7 +165,8 @@ void show_result(Workbench& bench, AutoIndexForm& form) {
                           std::to_string(form.result.bands.size()) + " bands, off by " +
                           Format(best->found.mean_deviation_deg, "0.00") + " deg, correlation " +
                           correlation_text(form.result, *best) + ", confidence " +
-                          Format(best->found.confidence, "0.00") + drawn_instead_text(form.result));
+                          Format(best->found.confidence, "0.00") + (best->found.lead ? ", " : "") +
+                          lookalike_text(best->found) + drawn_instead_text(form.result));
 }
 
 /// What was found, with the crystals that it belongs to.
@@ -183,17 +184,16 @@ void keep_result(const AutoIndexForm& form, IndexResult& result,
 
 /// What the drawn bands would give in the place of the dynamical patterns.
 void compare_with_bands(AutoIndexForm& form, IndexResult& result,
-                        const std::vector<std::shared_ptr<const CrystalModel>>& drawn, const IndexSettings& settings) {
+                        std::span<const std::shared_ptr<const CrystalModel>> tried,
+                        std::span<const std::shared_ptr<const CrystalModel>> drawn, const IndexSettings& settings) {
   for (auto& solution : result.solutions) {
     solution.dynamical = solution.model->sphere->continuous();
     solution.kinematic = solution.found.correlation;
     if (!solution.dynamical || solution.found.correlation == 0) continue;
-    const auto bands = std::find_if(drawn.begin(), drawn.end(), [&solution](const auto& known) {
-      return known->table == solution.model->table;  // of the model that the dynamical one was made from
-    });
-    if (bands == drawn.end()) continue;
+    const auto number = std::find(tried.begin(), tried.end(), solution.model) - tried.begin();
+    const CrystalModel& bands = *drawn[static_cast<std::size_t>(number)];
     solution.kinematic =
-        form.indexer.fit(**bands, solution.found.crystal_from_picture, result.centre, settings).correlation;
+        form.indexer.fit(bands, solution.found.crystal_from_picture, result.centre, settings).correlation;
   }
 }
 
@@ -236,7 +236,7 @@ std::vector<std::shared_ptr<const CrystalModel>> index_picture(Workbench& bench,
   const auto found = form.indexer.index(picture, result.centre, plain, settings, task);
   keep_result(form, result, tried.models, found, settings);
   if (dynamical && !result.solutions.empty()) {
-    compare_with_bands(form, result, drawn, settings);
+    compare_with_bands(form, result, tried.models, drawn, settings);
     settle(form, result.solutions.front().found, result.centre, settings);
   }
   form.result = std::move(result);

@@ -10,6 +10,7 @@
 #include "core/space_group.h"
 #include "core/unit_cell.h"
 #include "dynamics/master_view.h"
+#include "indexing/band_contrast.h"
 #include "indexing/crystal_reflectors.h"
 #include "reflections/window/main1_form.h"
 
@@ -154,6 +155,7 @@ DynamicalModels dynamical_models(Workbench& bench, AutoIndexForm& form,
   WindowTask task(bench.services);
   const std::size_t of_files = models.size() - form.crystal_files.size();
   DynamicalModels dynamical;
+  const int families = integer_in(form.FamilyCount).value();
   for (std::size_t i = 0; i < models.size(); ++i) {
     CrystalModel model = *models[i];
     try {
@@ -161,6 +163,10 @@ DynamicalModels dynamical_models(Workbench& bench, AutoIndexForm& form,
                                   : ready_sphere(bench, form,
                                                  loaded_crystal(bench, present, form.crystal_files[i - of_files], task),
                                                  pixel_deg, task);
+      // What the user has marked votes as it is.
+      if (model.families_used == voting_families(model.reflectors, families)) {
+        model = with_pattern(model, model.sphere, families, task);
+      }
     } catch (const RunFailure& failure) {
       dynamical.drawn_instead.push_back(model.title + " has no dynamical pattern: " + failure.message());
     }
