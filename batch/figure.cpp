@@ -50,7 +50,7 @@ NamedCurve drawn_curve(const Canvas& canvas, const std::string& name) {
   return curve;
 }
 
-void write_curves(Canvas& canvas, const std::vector<NamedCurve>& curves, const std::string& path, double scale) {
+void write_curves(Canvas& canvas, const std::vector<NamedCurve>& curves, const CurveFile& file) {
   CurveScene scene = scene_of(canvas);
   scene.curves.clear();
   scene.layers.clear();
@@ -66,7 +66,8 @@ void write_curves(Canvas& canvas, const std::vector<NamedCurve>& curves, const s
   CurveLook look;
   look.x = scene.all();
   look.radiation = true;
-  write_drawing(curve_drawing(canvas, scene, look, QGuiApplication::font(), {}), path, scale);
+  look.indices = file.indices;
+  write_drawing(curve_drawing(canvas, scene, look, QGuiApplication::font(), {}), file.path, file.scale);
 }
 
 void write_columns(const NumberColumns& columns, const std::string& path) {

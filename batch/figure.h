@@ -23,8 +23,13 @@ struct NamedCurve {
 };
 [[nodiscard]] NamedCurve drawn_curve(const Canvas& canvas, const std::string& name);
 
+struct CurveFile {
+  std::string path;
+  double scale = 1;      ///< pixels of the file per pixel of the window, for .png and .bmp
+  bool indices = false;  ///< h k l at the peaks, of the crystal that was calculated last
+};
 /// A curve with its axes; several ones of different colours with a legend.
-void write_curves(Canvas& canvas, const std::vector<NamedCurve>& curves, const std::string& path, double scale);
+void write_curves(Canvas& canvas, const std::vector<NamedCurve>& curves, const CurveFile& file);
 
 /// Columns of numbers: the place, and the intensity of each crystal.
 struct NumberColumns {

@@ -22,6 +22,7 @@ struct PowderWords {
   std::string output, radiation;
   double dmin = 1, scale = 1;
   std::optional<double> from, to, step, width, gauss, cells;
+  bool index = false;
   // of rings alone
   std::string draw;
   bool roots = false, centred = false, inverse = false;
@@ -94,7 +95,7 @@ class Diagram {
   }
   void write(Canvas& canvas) const {
     if (of_numbers(words_.output)) return write_columns(columns_, words_.output);
-    write_curves(canvas, curves_, words_.output, words_.scale);
+    write_curves(canvas, curves_, {words_.output, words_.scale, words_.index});
   }
 
  private:
@@ -102,6 +103,12 @@ class Diagram {
   NumberColumns columns_;
   std::vector<NamedCurve> curves_;
 };
+
+void check_index(const PowderWords& words) {
+  if (!words.index) return;
+  if (words.files.size() > 1) throw CLI::ValidationError("--index", "the peaks of several crystals bear no indices");
+  if (of_numbers(words.output)) throw CLI::ValidationError("--index", "numbers bear no indices: -o is to be a figure");
+}
 
 void calculate_powder(BatchProgram& program, const PowderWords& words) {
   auto& form = program.window<XdForm>();
@@ -117,6 +124,7 @@ void calculate_powder(BatchProgram& program, const PowderWords& words) {
 
 void run_powder(const PowderWords& words) {
   check_figure_path("-o", words.output, true);
+  check_index(words);
   BatchProgram program;
   program.choose_radiation(words.radiation);
   program.set_dmin(words.dmin);
@@ -168,7 +176,9 @@ void calculate_rings(BatchProgram& program, const PowderWords& words) {
 
 void run_rings(PowderWords words) {
   check_figure_path("-o", words.output, true);
+  check_index(words);
   if (words.draw.empty()) words.draw = words.files.size() > 1 || of_numbers(words.output) ? "profile" : "rings";
+  if (words.draw == "rings" && words.index) throw CLI::ValidationError("--index", "needs --draw profile");
   if (words.draw == "rings" && words.files.size() > 1) {
     throw CLI::ValidationError("--draw", "rings are drawn of one crystal; several have their profiles in one diagram");
   }
@@ -209,6 +219,7 @@ void add_words(CLI::App& command, PowderWords& words) {
       ->capture_default_str();
   command.add_option("--cells", words.cells, "size of the crystallites in cells along each axis; left out: 10000")
       ->check(CLI::PositiveNumber);
+  command.add_flag("--index", words.index, "h k l at the peaks of a figure of one crystal");
   command.add_option("--scale", words.scale, "pixels of .png and .bmp per pixel of the window")
       ->check(CLI::Range(0.1, 20.0))
       ->capture_default_str();

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "batch/batch_program.h"
+#include "batch/batch_progress.h"
 #include "core/number_text.h"
 #include "reflections/merged_reflections.h"
 #include "reflections/window/main1_form.h"
@@ -17,7 +18,8 @@ namespace zol {
 namespace {
 
 struct ReflectionWords {
-  std::string file, radiation = "20kV";
+  std::vector<std::string> files;
+  std::string radiation = "20kV";
   double dmin = 1;
   bool merge = false, csv = false, json = false;
 };
@@ -30,6 +32,29 @@ struct Table {
   std::vector<std::string> columns;
   std::vector<std::vector<Field>> rows;
 };
+
+/// The column that tells the crystals of a table apart.
+constexpr auto crystal_column = "crystal";
+
+void append(Table& all, Table table, const std::string& crystal) {
+  if (all.columns.empty()) {
+    all.columns = std::move(table.columns);
+    all.columns.insert(all.columns.begin(), crystal_column);
+  }
+  for (auto& row : table.rows) {
+    row.insert(row.begin(), crystal);
+    all.rows.push_back(std::move(row));
+  }
+}
+
+/// Names with commas or quotes stand in quotes.
+std::string csv_text(const Field& field) {
+  std::string text = field.value_or("");
+  if (text.find_first_of(",\"\n") == std::string::npos) return text;
+  std::string quoted;
+  for (const char c : text) quoted += c == '"' ? std::string(2, c) : std::string(1, c);
+  return '"' + quoted + '"';
+}
 
 /// All digits of a Single, with a zero before the point.
 std::string shortest(Single value) {
@@ -97,7 +122,7 @@ void write_csv(const Table& table) {
     std::cout << '\n';
   };
   write_row(table.columns, [](const std::string& name) { return name; });
-  for (const auto& row : table.rows) write_row(row, [](const Field& field) { return field.value_or(""); });
+  for (const auto& row : table.rows) write_row(row, csv_text);
 }
 
 void write_json(const Table& table) {
@@ -107,6 +132,10 @@ void write_json(const Table& table) {
     for (std::size_t i = 0; i < row.size(); ++i) {
       auto& value = entry[table.columns[i]];
       if (!row[i]) continue;
+      if (table.columns[i] == crystal_column) {
+        value = *row[i];
+        continue;
+      }
       const double number = Val(*row[i]);
       constexpr double whole = 1e15;
       if (number == std::floor(number) && std::abs(number) < whole) {
@@ -121,9 +150,12 @@ void write_json(const Table& table) {
 }
 
 void write_columns(const Table& table) {
-  const auto width = [](const std::string& name) {
+  std::size_t of_crystals = 0;
+  for (const auto& row : table.rows) of_crystals = std::max(of_crystals, row.front().value_or("").size());
+  const auto width = [of_crystals](const std::string& name) {
     constexpr std::size_t of_numbers = 12;
     constexpr std::size_t of_indices = 5;
+    if (name == crystal_column) return std::max(of_crystals, name.size());
     return name.size() == 1 && name >= "h" && name <= "l" ? of_indices : std::max(of_numbers, name.size() + 1);
   };
   for (const auto& name : table.columns) std::cout << right_field(name, width(name));
@@ -138,31 +170,45 @@ void write_columns(const Table& table) {
   }
 }
 
+void write_table(const Table& table, const ReflectionWords& words) {
+  words.csv ? write_csv(table) : words.json ? write_json(table) : write_columns(table);
+}
+
 void run(const ReflectionWords& words) {
   BatchProgram program;
   auto& main1 = program.window<Main1Form>();
   program.choose_radiation(words.radiation);
   program.set_dmin(words.dmin);
-  // The list alone: "Calc" and loading go on to the triple table, which orders its indices anew.
-  program.load(words.file);
-  BatchProgram::naming(words.file, [&] { CalcReflections(program.bench()); });
-  const auto& lines = main1.List2.items();
-  if (words.csv || words.json || words.merge) {
-    const Table table =
-        words.merge ? merged_table(program.state()) : all_reflections(program.state(), lines, main1.Option1.on());
-    return words.csv ? write_csv(table) : words.json ? write_json(table) : write_columns(table);
+  const bool several = words.files.size() > 1;
+  Table all;
+  BatchProgress progress("crystals");
+  for (std::size_t i = 0; i < words.files.size(); ++i) {
+    const std::string& file = words.files[i];
+    progress.show(i, words.files.size());
+    // The list alone: "Calc" and loading go on to the triple table, which orders its indices anew.
+    program.load(file);
+    BatchProgram::naming(file, [&] { CalcReflections(program.bench()); });
+    const auto& lines = main1.List2.items();
+    if (several || words.csv || words.json || words.merge) {
+      Table table =
+          words.merge ? merged_table(program.state()) : all_reflections(program.state(), lines, main1.Option1.on());
+      if (!several) return write_table(table, words);
+      append(all, std::move(table), title_of(file));
+      continue;
+    }
+    std::cout << readable_utf8(main1.Label24.caption()) << '\n';
+    for (const auto& line : lines) std::cout << utf8_of_latin1(line) << '\n';
   }
-  std::cout << readable_utf8(main1.Label24.caption()) << '\n';
-  for (const auto& line : lines) std::cout << utf8_of_latin1(line) << '\n';
+  if (several) write_table(all, words);
 }
 
 }  // namespace
 
 void add_reflections_command(CLI::App& app) {
   const auto words = std::make_shared<ReflectionWords>();
-  CLI::App* list = app.add_subcommand("reflections", "the reflection list of a crystal");
+  CLI::App* list = app.add_subcommand("reflections", "the reflection list of one or more crystals");
   list->footer("Example:\n  zol-batch reflections quartz.cif --radiation CuKa --dmin 0.8 --merge");
-  list->add_option("FILE", words->file, "structure file or crystal")->required();
+  list->add_option("FILE", words->files, "structure files or crystals; several go into one table")->required();
   list->add_option("--radiation", words->radiation, "CuKa, MoKa, or electrons: 5kV, 10kV, ... 1250kV")
       ->capture_default_str();
   list->add_option("--dmin", words->dmin, "smallest spacing, angstroms")

@@ -74,4 +74,12 @@ std::vector<std::string> site_remarks(const CrystalState& state) {
   return remarks;
 }
 
+std::string wavelength_remark(const CrystalState& state, bool xrays) {
+  if (!xrays || !(state.AccVoltage > 0)) return "";
+  // without relativity, which takes a third off at 1250 kV
+  const double of_electrons = std::sqrt(0.15 / state.AccVoltage);
+  if (state.WaveLength < 0.6 * of_electrons || state.WaveLength > 1.05 * of_electrons) return "";
+  return "the wavelength is still that of electrons of " + plain_text(state.AccVoltage) + " kV: choose CuKa or MoKa";
+}
+
 }  // namespace zol

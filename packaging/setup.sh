@@ -34,6 +34,16 @@ ensure_packages() {
   "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
 }
 
+# "12 of 427" on a terminal, of the steps that ninja tells.
+show_steps() {
+  if [ -t 2 ]; then
+    sed -un 's/^\[\([0-9]*\)\/\([0-9]*\)\].*/\1 of \2/p' | while read -r step; do printf '\r%s ' "$step" >&2; done
+    printf '\r%20s\r' '' >&2
+  else
+    cat >/dev/null
+  fi
+}
+
 # Configures a preset unless that is done, and builds it; the compiler's messages show only when something fails.
 build_preset() {
   local preset=$1 folder=$2
@@ -41,7 +51,7 @@ build_preset() {
   log=$(mktemp)
   [ -f "$folder/build.ninja" ] || echo "Building in $folder (the first time takes some minutes)"
   if ! { [ -f "$folder/build.ninja" ] || cmake --preset "$preset"; } >"$log" 2>&1 ||
-     ! cmake --build --preset "$preset" >>"$log" 2>&1; then
+     ! cmake --build --preset "$preset" 2>&1 | tee -a "$log" | show_steps; then
     cat "$log" >&2
     rm -f "$log"
     return 1

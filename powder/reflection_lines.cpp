@@ -11,6 +11,8 @@ namespace {
 constexpr double same_spacing = 2e-5;
 /// Intensities of equivalent reflections agree to this part.
 constexpr double same_intensity = 1e-4;
+/// Of the strongest line; what is weaker is extinct, and its intensity the rounding of structure factors.
+constexpr double least_intensity = 1e-6;
 
 int negatives(const ReflectionLine& line) { return int{line.h < 0} + int{line.k < 0} + int{line.l < 0}; }
 
@@ -32,7 +34,8 @@ SharedVector<ReflectionLine> reflection_lines(const CrystalState& state) {
   }
   std::stable_sort(all.begin(), all.end(),
                    [](const ReflectionLine& a, const ReflectionLine& b) { return a.d_star < b.d_star; });
-  SharedVector<ReflectionLine> lines;
+  std::vector<ReflectionLine> gathered;
+  double strongest = 0;
   for (std::size_t i = 0; i < all.size();) {
     ReflectionLine leader = all[i];
     double sum = 0;
@@ -42,7 +45,12 @@ SharedVector<ReflectionLine> reflection_lines(const CrystalState& state) {
       if (leads(all[i], leader)) leader = all[i];
     }
     leader.intensity = sum;
-    lines.push_back(leader);
+    strongest = std::max(strongest, sum);
+    gathered.push_back(leader);
+  }
+  SharedVector<ReflectionLine> lines;
+  for (const auto& line : gathered) {
+    if (line.intensity > strongest * least_intensity) lines.push_back(line);
   }
   return lines;
 }

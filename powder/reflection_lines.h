@@ -15,8 +15,9 @@ struct ReflectionLine {
   bool operator==(const ReflectionLine&) const = default;
 };
 
-/// Of the reflection list, in the order of rising 1/d, those of intensity 0 left out. Each bears the indices of its
-/// strongest reflection; of equally strong ones those with the fewest signs, then the largest.
+/// Of the reflection list, in the order of rising 1/d, without those below a millionth of the strongest one, which are
+/// extinct. Each bears the indices of its strongest reflection; of equally strong ones those with the fewest signs,
+/// then the largest.
 [[nodiscard]] SharedVector<ReflectionLine> reflection_lines(const CrystalState& state);
 
 /// "1 -1 2".

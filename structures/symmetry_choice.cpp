@@ -4,6 +4,7 @@
 #include <cctype>
 #include <cmath>
 
+#include "core/number_text.h"
 #include "core/run_failure.h"
 #include "structures/contents.h"
 #include "structures/operator_text.h"
@@ -16,6 +17,8 @@ namespace {
 struct Evidence {
   bool formula_fits = false;  ///< a whole number of formulas, Z of them where Z is told
   bool atoms_apart = true;
+  double density = 0;  ///< grams per cubic centimetre
+  std::optional<ShortestDistance> shortest = {};
 
   [[nodiscard]] int points() const { return (formula_fits ? 2 : 0) + (atoms_apart ? 1 : 0); }
 };
@@ -26,17 +29,28 @@ Evidence evidence_for(const ReadStructure& read, const Operators& operators, Tas
   (void)settle_positions(tried.structure, task);
   const Formula contents = cell_contents(tried.structure, task);
   Evidence evidence;
+  evidence.density = density(contents, tried.structure.cell);
   if (const auto units = formula_units(contents, read.formula)) {
     evidence.formula_fits = read.units ? std::abs(*units - *read.units) < 0.05 * *read.units
                                        : std::abs(*units - std::round(*units)) < 0.05 && *units > 0.9;
   } else if (read.formula.empty() && read.file_density) {
-    const double ours = density(contents, tried.structure.cell);
-    evidence.formula_fits = std::abs(ours - *read.file_density) < 0.05 * *read.file_density;
+    evidence.formula_fits = std::abs(evidence.density - *read.file_density) < 0.05 * *read.file_density;
   }
   constexpr double closest = 0.9;
-  const auto shortest = shortest_distance(tried.structure, false, task);
-  evidence.atoms_apart = !shortest || shortest->angstrom > closest;
+  evidence.shortest = shortest_distance(tried.structure, false, task);
+  evidence.atoms_apart = !evidence.shortest || evidence.shortest->angstrom > closest;
   return evidence;
+}
+
+/// What a user tells a right origin from a wrong one by.
+std::string told(const std::string& origin, const Evidence& evidence) {
+  std::string text = "Origin " + origin + ": " + Format(evidence.density, "0.000") + " g/cm3";
+  if (const auto& nearest = evidence.shortest) {
+    text += "; ";
+    text += "shortest distance: " + nearest->first + " - " + nearest->second + " " +
+            Format(nearest->angstrom, "0.000") + " angstroms";
+  }
+  return text + '\n';
 }
 
 struct Candidate {
@@ -198,15 +212,20 @@ class Choice {
   }
 
   Question origin_question() {
-    const int first = evidence_for(read_, named_[0].operators, task_).points();
-    const int second = evidence_for(read_, named_[1].operators, task_).points();
-    std::string text = named_.front().symbol + " has two origins, and the file gives neither origin nor operators.\n" +
+    const std::string& symbol = named_.front().symbol;
+    const Evidence first = evidence_for(read_, named_[0].operators, task_);
+    const Evidence second = evidence_for(read_, named_[1].operators, task_);
+    std::string text = symbol + " has two origins, and the file gives neither origin nor operators.\n" +
                        "1: origin choice 1\n2: origin choice 2, on a centre of inversion\n";
-    if (first != second) {
-      text += std::string("Proposed is ") + (first > second ? "1" : "2") + ", which fits formula and distances.";
+    text += told("1", first);
+    text += told("2", second);
+    if (first.points() != second.points()) {
+      text += std::string("Proposed is ") + (first.points() > second.points() ? "1" : "2") +
+              ", which fits formula and distances.\n";
     } else {
-      text += "Formula and distances speak for neither.";
+      text += "Formula and distances speak for neither.\n";
     }
+    text += "The file itself can tell it: " + symbol + " :1 or " + symbol + " :2.";
     return {"origin", text};
   }
 

@@ -99,6 +99,8 @@ TEST_F(Batch, EndsWithTheStatusOfItsKindAndSaysWhy) {
       {"powder NaCl.cry -o none/x.svg", 1, "none/x.svg"},
       {"powder NaCl.cry broken.cif -o x.xy", 1, "broken.cif"},
       {"powder NaCl.cry --from 30 --to 30 -o x.xy", 1, "NaCl.cry: 2theta.min and 2theta.max are the same"},
+      {"powder NaCl.cry CopperLines.cry --index -o x.svg", 2, "--index"},
+      {"rings NaCl.cry --index -o x.svg", 2, "--draw profile"},
       {"rings NaCl.cry CopperLines.cry --draw rings -o x.svg", 2, "--draw"},
       {"pattern NaCl.cry --axis 1,1 --kind spots -o x.svg", 2, "is not 3 numbers"},
       {"pattern NaCl.cry --axis 0,0,0 --kind map -o x.svg", 2, "0,0,0 is no direction"},
@@ -213,6 +215,27 @@ TEST_F(Batch, MergedReflectionsHaveTheMultiplicityOfTheirForm) {
     }
     EXPECT_EQ(sum, all.size()) << "each reflection is of one form";
     for (const auto& [form, count] : forms) EXPECT_EQ(found[form], count) << form[0] << form[1] << form[2];
+  }
+}
+
+TEST_F(Batch, SeveralCrystalsGoIntoOneTable) {
+  std::string expected;
+  for (const auto* crystal : {"NaCl", "Silicon"}) {
+    for (const auto& line : lines(batch("reflections " + crystals + crystal + ".cry --merge --csv").out)) {
+      const bool head = line.starts_with("h,");
+      if (!head || expected.empty()) expected += (head ? "crystal" : crystal) + ("," + line) + "\n";
+    }
+  }
+  EXPECT_EQ(batch("reflections " + crystals + "NaCl.cry " + crystals + "Silicon.cry --merge --csv").out, expected);
+}
+
+// {200} of diamond's structure is extinct; its computed intensity is not quite 0.
+TEST_F(Batch, PeaksBearTheIndicesOfReflectionsThatAreThere) {
+  for (const auto& [words, first] : {std::pair("", false), {" --index", true}}) {
+    ASSERT_EQ(batch("powder " + crystals + "Silicon.cry --to 60 -o peaks.svg" + words).status, 0);
+    const std::string drawn = folder.read("peaks.svg");
+    EXPECT_EQ(drawn.find(">1 1 1<") != std::string::npos, first);
+    EXPECT_EQ(drawn.find(">2 0 0<"), std::string::npos);
   }
 }
 

@@ -10,6 +10,7 @@
 #include <QClipboard>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QMenu>
 #include <QMenuBar>
@@ -268,8 +269,11 @@ TEST_F(DesktopTest, EventsGiveTheScriptThatRepeatsThem) {
   go_to("Main1", "Text15");
   box("Text15").selectAll();
   type(box("Text15"), "0.9");
-  child<QComboBox>("Main1", "Combo1").setFocus();
-  QTest::keyClick(&child<QComboBox>("Main1", "Combo1"), Qt::Key_Down);
+  auto& radiations = child<QComboBox>("Main1", "Combo1");
+  QTest::mouseClick(radiations.lineEdit(), Qt::LeftButton);
+  ASSERT_TRUE(radiations.view()->isVisible()) << "a click beside the arrow opens the list";
+  QTest::keyClick(radiations.view(), Qt::Key_Down);
+  QTest::keyClick(radiations.view(), Qt::Key_Return);
   EXPECT_EQ(program.state().AccVoltage, 25);
   auto& groups = child<QListView>("Main1", "List3");
   QTest::mouseClick(groups.viewport(), Qt::LeftButton, {}, groups.visualRect(groups.model()->index(1, 0)).center());

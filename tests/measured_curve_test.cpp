@@ -199,13 +199,14 @@ TEST(Doublet, IsThatOfTheTubeOrNone) {
   EXPECT_FALSE(doublet_at(0));
 }
 
-// The second order of {100} beside its equivalents; what is extinct is no line.
+// {210} of two intensities; what is extinct, or is not but for rounding, is no line.
 TEST(ReflectionLines, GatherReflectionsOfOneSpacing) {
   auto state = with_cell({5, 5, 5, 90, 90, 90});
   set_list(state, {{0, 0, 1, 3},
                    {1, 0, 0, 3},
                    {0, -1, 0, 3},
                    {1, 1, 0, 0},
+                   {0, 2, 0, 8e-6F},
                    {2, 1, 0, 1},
                    {1, 2, 0, 4},
                    {-1, -1, 1, 2},

@@ -19,6 +19,10 @@ TEST(Remarks, StandBesideWhatIsRightByRuleAlone) {
                "the half width is below the step of the samples, 0.1009°: heights of peaks are wrong"},
         Remark{silicon + "click Main1.Command7\n", "Xd.Picture1", "the intensities are those of electrons"},
         Remark{xray + "click Main1.Command8\n", "Dring.Picture1", "the intensities are those of X-rays"},
+        Remark{silicon + "click Main1.Option1\n", "Main1.List2",
+               "the wavelength is still that of electrons of 20 kV: choose CuKa or MoKa"},
+        // X-rays of 100 keV have 0.124
+        Remark{silicon + "click Main1.Option1\nset Main1.Text16 .124\n", "Main1.List2", ""},
         Remark{silicon, "Main1.List1", ""},
         Remark{silicon + "cell InputAtom.G 1 3\ntype InputAtom.G \"1.5\\r\"\nclick InputAtom.Command1\n", "Main1.List1",
                "the occupancy of Si is 1.5, above 1"},
@@ -59,6 +63,7 @@ TEST(Origins, TellWhatHasChangedSince) {
   };
   NotedProgram of;
   const std::string changed = "Silicon, 20 kV; crystal changed since";
+  const std::string still = "the wavelength is still that of electrons of 15 kV: choose CuKa or MoKa";
   for (const auto& [operation, control, line] :
        {Step{silicon, "Main1.List2", ""}, Step{kikuchi, "Pattern2.Picture1", ""},
         Step{"set Main1.Text1 5", "Main1.List2", "made for " + changed}, Step{"", "Main1.List1", "made for " + changed},
@@ -77,7 +82,7 @@ TEST(Origins, TellWhatHasChangedSince) {
         Step{"click Pattern2.Command8", "Pattern2.Picture1", ""},
         Step{"click Main1.Option1", "Main1.List2", "made for Silicon, 15 kV; radiation changed since"},
         Step{"set Main1.Text15 2", "Main1.List2", "made for Silicon, 15 kV; radiation and settings changed since"},
-        Step{"click Main1.Command6", "Main1.List2", ""}}) {
+        Step{"click Main1.Command6", "Main1.List2", still}}) {
     SCOPED_TRACE(operation + " " + control);
     if (!operation.empty()) of.step(operation);
     EXPECT_EQ(of.line(control), line);

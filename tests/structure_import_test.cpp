@@ -167,6 +167,22 @@ TEST(StructureImport, TakesTheSymmetryThatIsMeant) {
         "Fe4 | 243 abc | 0.50\nWarning: the structure is magnetic; its atoms are taken without their moments"}});
 }
 
+// Anatase: Ti at 0 1/2 1/4 is ((a/2)^2 + (0.0419 c)^2)^0.5 from O, 4 TiO2 of 79.866 are in 136.055 A3. With the other
+// origin Ti at 1/4 3/4 1/4 is (2 (a/4)^2 + (0.0419 c)^2)^0.5 from O, and the cell holds twice as many.
+TEST(StructureImport, TellsWhatEachOriginWouldGive) {
+  const Import import = import_text(
+      "data_x\n_cell_length_a 3.782\n_cell_length_b 3.782\n_cell_length_c 9.512\n_cell_angle_alpha 90\n"
+      "_cell_angle_beta 90\n_cell_angle_gamma 90\n" +
+          symbol("I 41 / a m d") + xyz + "Ti1 0 0 0\nO1 0 0 .2081(2)\n",
+      {}, "file");
+  const auto* question = std::get_if<Question>(&import);
+  ASSERT_NE(question, nullptr);
+  for (const auto* line : {"\nOrigin 1: 3.899 g/cm3; shortest distance: Ti1 - O1 1.933 ",
+                           "\nOrigin 2: 7.798 g/cm3; shortest distance: Ti1 - O1 1.395 ", "I 41/a m d :1 or"}) {
+    EXPECT_NE(question->text.find(line), std::string::npos) << question->text;
+  }
+}
+
 TEST(StructureImport, TakesElementsPositionsAndDisplacementsThatAreMeant) {
   const std::string p1 = "data_x\n" + cubic + symbol("P 1");
   const std::string typed =

@@ -174,7 +174,6 @@ AutoIndexForm::AutoIndexForm(Workbench& bench)
       Simulated(*this, bench.services, "Simulated", picture_twips, picture_twips / 2),
       CommonDialog1(*this, bench.services, "CommonDialog1") {
   name_fields();
-  beside = "PATTERN3";
   BandCount.set_text("9");
   FamilyCount.set_text("6");
   SampleTilt.set_text("70");

@@ -321,7 +321,9 @@ void MakerCentre_Click(Workbench& bench, AutoIndexForm& form) {
   attempt(bench, form, [&] {
     const auto picture = measured_picture(bench);
     const std::string answer = bench.services.prompt(
-        "Pattern centre of the detector software: bruker, edax, oxford or emsoft and its three numbers", title);
+        "Pattern centre of the detector software: bruker, edax, oxford or emsoft and its three numbers, "
+        "as edax 0.52 0.76 0.80",
+        title);
     if (answer.empty()) return;
     const PictureSize size{picture->width, picture->height, 1};
     write_centre(bench, typed_centre(answer, size), size);

@@ -5,6 +5,7 @@
 #include <numbers>
 #include <utility>
 
+#include "core/site_remarks.h"
 #include "powder/histogram.h"
 #include "powder/window/curve_operations.h"
 #include "powder/window/open_xd.h"
@@ -115,7 +116,10 @@ void XdForm::declare(const Workbench& bench) {
   Picture1.remarks = [this, &bench] {
     auto words = PowderPattern::remarks(double{TwoThetaMax} - double{TwoThetaMin}, "°");
     const auto* main1 = dynamic_cast<const Main1Form*>(bench.windows.find(Main1Form::window_name));
-    if (main1 != nullptr && main1->Option2.on()) words.emplace_back("the intensities are those of electrons");
+    if (main1 == nullptr) return words;
+    if (main1->Option2.on()) words.emplace_back("the intensities are those of electrons");
+    const std::string remark = wavelength_remark(main1->state, main1->Option1.on());
+    if (!remark.empty()) words.push_back(remark);
     return words;
   };
   reads = {shared::radiation, shared::smallest_d, shared::order};

@@ -76,6 +76,10 @@ void Main1Form::declare_results() {
     for (auto& remark : words) remark = utf8_of_latin1(remark);
     return words;
   };
+  List2.remarks = [this]() -> std::vector<std::string> {
+    const std::string remark = wavelength_remark(state, Option1.on());
+    return remark.empty() ? std::vector<std::string>() : std::vector{remark};
+  };
   List1.table = atom_table();
   List2.table = reflection_table(state);
   List3.table = space_group_table();

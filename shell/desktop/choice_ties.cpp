@@ -8,6 +8,7 @@
 #include <QListView>
 #include <QMainWindow>
 #include <QMenu>
+#include <QMouseEvent>
 #include <QRadioButton>
 #include <QSignalBlocker>
 #include <QSlider>
@@ -69,6 +70,7 @@ class ComboTie : public ControlTie {
     view.setEditable(true);
     view.setInsertPolicy(QComboBox::NoInsert);
     view.lineEdit()->setReadOnly(true);
+    view.lineEdit()->installEventFilter(this);
     connect(&view, &QComboBox::activated, this, [this](int index) {
       act(
           {"select", combo_.path(), std::to_string(index)}, [this, index] { combo_.pick(index); },
@@ -84,6 +86,17 @@ class ComboTie : public ControlTie {
     const QString text = latin1_to_qt(combo_.text());
     shown_.setCurrentIndex(shown_.findText(text, Qt::MatchExactly));
     shown_.setEditText(text);
+  }
+
+  /// A click anywhere opens the list; of an editable box Qt lets only the arrow do so.
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    const bool clicked = event->type() == QEvent::MouseButtonRelease && shown_.isEnabled() &&
+                         static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+    if (clicked && watched == shown_.lineEdit()) {
+      shown_.showPopup();
+      return true;
+    }
+    return ControlTie::eventFilter(watched, event);
   }
 
  private:

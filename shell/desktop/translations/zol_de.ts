@@ -4776,8 +4776,8 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>das Zentrum läge %1, %2 Breiten von der oberen linken Ecke; erwartet werden weniger als 3</translation>
     </message>
     <message>
-        <source>Pattern centre of the detector software: bruker, edax, oxford or emsoft and its three numbers</source>
-        <translation>Zentrum, wie die Software des Detektors es angibt: bruker, edax, oxford oder emsoft und seine drei Zahlen</translation>
+        <source>Pattern centre of the detector software: bruker, edax, oxford or emsoft and its three numbers, as edax 0.52 0.76 0.80</source>
+        <translation>Zentrum, wie die Software des Detektors es angibt: bruker, edax, oxford oder emsoft und seine drei Zahlen, etwa edax 0.52 0.76 0.80</translation>
     </message>
     <message>
         <source>fewer than three bands are clear enough to be taken</source>
@@ -6038,6 +6038,18 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <translation>das Muster wurde nicht mit dem Bild aufbewahrt: Berechnen drücken, um es neu zu berechnen</translation>
     </message>
     <message>
+        <source>Origin %1: %2 g/cm3</source>
+        <translation>Ursprung %1: %2 g/cm3</translation>
+    </message>
+    <message>
+        <source>The file itself can tell it: %1 :1 or %2 :2.</source>
+        <translation>Die Datei selbst kann es sagen: %1 :1 oder %2 :2.</translation>
+    </message>
+    <message>
+        <source>the wavelength is still that of electrons of %1 kV: choose CuKa or MoKa</source>
+        <translation>die Wellenlänge ist noch die von Elektronen mit %1 kV: CuKa oder MoKa wählen</translation>
+    </message>
+    <message>
         <source>Dynamical bands as a picture</source>
         <translation>Dynamische Bänder als Bild</translation>
     </message>
@@ -6060,6 +6072,10 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
     <message>
         <source>correlation of the drawn bands with the picture</source>
         <translation>Korrelation der gezeichneten Bänder mit dem Bild</translation>
+    </message>
+    <message>
+        <source>the cell is too small: more than %1 cells lie within %2 angstroms of an atom; expected are fewer</source>
+        <translation>die Zelle ist zu klein: mehr als %1 Zellen liegen innerhalb von %2 Ångström um ein Atom; erwartet sind weniger</translation>
     </message>
 </context>
 </TS>

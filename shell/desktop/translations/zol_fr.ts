@@ -4776,8 +4776,8 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>le centre serait à %1, %2 largeurs du coin supérieur gauche ; moins de 3 sont attendus</translation>
     </message>
     <message>
-        <source>Pattern centre of the detector software: bruker, edax, oxford or emsoft and its three numbers</source>
-        <translation>Centre du cliché donné par le logiciel du détecteur : bruker, edax, oxford ou emsoft et ses trois nombres</translation>
+        <source>Pattern centre of the detector software: bruker, edax, oxford or emsoft and its three numbers, as edax 0.52 0.76 0.80</source>
+        <translation>Centre du cliché donné par le logiciel du détecteur : bruker, edax, oxford ou emsoft et ses trois nombres, comme edax 0.52 0.76 0.80</translation>
     </message>
     <message>
         <source>fewer than three bands are clear enough to be taken</source>
@@ -6038,6 +6038,18 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <translation>le diagramme n’a pas été gardé avec l’image : appuyer sur Calculer, qui le refait</translation>
     </message>
     <message>
+        <source>Origin %1: %2 g/cm3</source>
+        <translation>Origine %1 : %2 g/cm3</translation>
+    </message>
+    <message>
+        <source>The file itself can tell it: %1 :1 or %2 :2.</source>
+        <translation>Le fichier lui-même peut le dire : %1 :1 ou %2 :2.</translation>
+    </message>
+    <message>
+        <source>the wavelength is still that of electrons of %1 kV: choose CuKa or MoKa</source>
+        <translation>la longueur d'onde est encore celle d'électrons de %1 kV : choisir CuKa ou MoKa</translation>
+    </message>
+    <message>
         <source>Dynamical bands as a picture</source>
         <translation>Bandes dynamiques en image</translation>
     </message>
@@ -6060,6 +6072,10 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
     <message>
         <source>correlation of the drawn bands with the picture</source>
         <translation>corrélation des bandes dessinées avec l'image</translation>
+    </message>
+    <message>
+        <source>the cell is too small: more than %1 cells lie within %2 angstroms of an atom; expected are fewer</source>
+        <translation>la maille est trop petite : plus de %1 mailles se trouvent à moins de %2 ångströms d'un atome ; il en faut moins</translation>
     </message>
 </context>
 </TS>
