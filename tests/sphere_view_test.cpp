@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numbers>
 
 #include "core/run_failure.h"
 #include "dynamics/sphere_names.h"
@@ -33,10 +34,10 @@ TEST(SphereView, HasDirectionsAtTheirPlaces) {
   } cases[]{
       {view(stereographic), {0, 0, 2}, Place{0, 0}},
       {view(stereographic), {1, 0, 0}, Place{1, 0}},
-      {view(stereographic), {0, 1, 1}, Place{0, std::tan(M_PI / 8)}},
+      {view(stereographic), {0, 1, 1}, Place{0, std::tan(std::numbers::pi / 8)}},
       {view(stereographic), {1, 1, 1}, Place{.36602540378, .36602540378}},  // 1 / (1 + sqrt 3)
       {view(stereographic), {0, 1, -1}, {}},
-      {view(stereographic, true), {0, 1, -1}, Place{0, std::tan(M_PI / 8)}},
+      {view(stereographic, true), {0, 1, -1}, Place{0, std::tan(std::numbers::pi / 8)}},
       {view(stereographic, true), {1, 1, 1}, {}},
       {view(lambert), {0, -1, 0}, Place{0, -1}},
       {view(lambert), {1, 1, 0}, Place{1, 1}},
@@ -113,7 +114,9 @@ TEST(SphereView, DrawsThePatternUprightAndEven) {
   const MasterPattern master = by_height();
   constexpr int pixels = 64;
   const auto values = draw_sphere(master, view(globe, false, globe_about({1, 0, 0}, 0)), pixels, 1.25, quiet);
-  const auto at = [&values](int row, int column) { return values[static_cast<std::size_t>(row * pixels + column)]; };
+  const auto at = [&values](int row, int column) {
+    return values.at(static_cast<std::size_t>(row) * pixels + static_cast<std::size_t>(column));
+  };
   EXPECT_LT(at(0, 0), 0) << "beyond the edge";
   for (int row = 7; row < pixels - 7; ++row) {
     const double height = 1.25 * (1 - (2 * row + 1.0) / pixels);
