@@ -104,6 +104,7 @@ const std::map<std::string, Question, std::less<>> questions{
     {"AutoIndex.MakerCentre", {Asks::Number}},
     {"AutoIndex.AddCrystal", {Asks::Crystal}},
     {"AutoIndex.SaveSimulated", {Asks::Save}},
+    {"MasterPattern.SavePicture", {Asks::Save}},
     {"Xd.Command3", {Asks::Save}},
     {"Xd.Command4", {Asks::Save}},
     {"Dring.Command3", {Asks::Save}},
@@ -261,8 +262,10 @@ class StormMaker::Storm {
   }
 
   static bool ends_program(const std::string& path) { return path == "MAIN_MENU.Command5" || path == "Main1.OWARI"; }
-  /// Under the sanitizers a dynamical pattern takes minutes, and a script stops nothing.
-  static bool takes_minutes(const std::string& path) { return path == "AutoIndex.Dynamical"; }
+  /// Under the sanitizers dynamical patterns take minutes, and a script stops nothing.
+  static bool takes_minutes(const std::string& path) {
+    return path == "AutoIndex.Dynamical" || path == "MasterPattern.Make";
+  }
 
   void act_on_box(const std::string& path) {
     if (chance(60)) line("set " + path + ' ' + number());

@@ -15,6 +15,7 @@
 #include "dynamics/master_sphere.h"
 #include "dynamics/master_view.h"
 #include "dynamics/potential.h"
+#include "dynamics/sphere_view.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -481,6 +482,24 @@ TEST(MasterCache, KeepsWithinItsLimitAndMendsWhatIsDamaged) {
   }
   (void)cache.get(crystal, small(23), quiet);
   EXPECT_EQ(files().size(), 1U);
+}
+
+TEST(SphereView, ShowsThreefoldAxesOfACube) {
+  MasterSettings settings;
+  settings.size = 201;
+  settings.smallest_spacing = 1;
+  settings.beams = 20;
+  const MasterPattern master = master_pattern(face_centred(nickel), settings, quiet);
+  const auto seen = [&master](double turn_deg) {
+    return draw_sphere(master, {SphereProjection::Globe, false, globe_about(diagonal, turn_deg)}, 60, 1, quiet);
+  };
+  const auto difference = [as_it_is = seen(0)](const std::vector<double>& turned) {
+    double sum = 0;
+    for (std::size_t i = 0; i < turned.size(); ++i) sum += std::abs(turned[i] - as_it_is[i]);
+    return sum / static_cast<double>(turned.size());
+  };
+  EXPECT_LT(difference(seen(120)), .04);
+  EXPECT_GT(difference(seen(60)), .1) << "it has no sixfold one";
 }
 
 // A file where the folder would be, as a disk that can't be written.

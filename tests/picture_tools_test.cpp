@@ -11,6 +11,7 @@
 #include <QTemporaryDir>
 
 #include "analysis/window/pattern3_form.h"
+#include "dynamics/window/master_pattern_form.h"
 #include "kikuchi/window/pattern2_form.h"
 #include "powder/window/dring_form.h"
 #include "shell/desktop/canvas_view.h"
@@ -95,6 +96,34 @@ TEST_F(PictureToolsTest, ADragDrawsWhatTheButtonsDraw) {
   });
   EXPECT_EQ(form.Picture1.contents().drawing, dragged) << "to the bit";
   EXPECT_NE(dragged, before);
+  EXPECT_TRUE(failures.empty());
+}
+
+// By 30 degrees to the right: tan 30 = 0.577. The pole goes to the right and with it what points upward at a turn of 0.
+TEST_F(PictureToolsTest, ADragTurnsTheSphereOfAMasterPattern) {
+  load("Silicon.cry");
+  auto& form = program.windows().use<MasterPatternForm>();
+  desktop.enter("a test", [&form] {
+    form.show();
+    form.Points.set_text("21");
+    form.Make.click();
+    form.Globe.click();
+  });
+  const auto texts = [&form] {
+    return std::vector{form.MiddleU.text(), form.MiddleV.text(), form.MiddleW.text(), form.TurnAngle.text()};
+  };
+  const auto before = texts();
+  auto& picture = child<CanvasView>("MasterPattern", "Picture");
+  drag(picture, at(picture, 0, 0), at(picture, .5, 0));
+  for (const auto& [text, wanted] : {std::pair{0, -.577}, {1, 0.}, {2, 1.}, {3, -90.}}) {
+    EXPECT_NEAR(Val(texts()[static_cast<std::size_t>(text)]), wanted, text == 3 ? .6 : .01) << text;
+  }
+  QTest::keyClick(&widget("MasterPattern"), Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(texts(), before) << "one step";
+  EXPECT_EQ(form.drawn.middle, (std::array{0., 0., 1.}));
+  drag(picture, at(picture, .5, 0), at(picture, 0, .5), Qt::ControlModifier);
+  EXPECT_NEAR(Val(form.TurnAngle.text()), 90, .6);
+  EXPECT_EQ(form.MiddleW.text(), "1.000");
   EXPECT_TRUE(failures.empty());
 }
 

@@ -264,6 +264,24 @@ void use_spot_windows(const User& user) {
   user.click("FiberTexture", "Command1");
 }
 
+/// The pattern of a crystal as a sphere, dragged to the left.
+void use_master_pattern(const User& user) {
+  user.load_crystal("Silicon.cry");
+  user.choose("Pattern2", "ShowMasterPattern");
+  user.fill("MasterPattern", {{"Points", "201"}});
+  for (const auto* control : {"Make", "Bands", "Globe"}) user.click("MasterPattern", control);
+  auto& view = user.widget<CanvasView>("MasterPattern", "Picture");
+  const QPoint to = User::place(view, {0.3, 0.4});
+  QTest::mousePress(&view, Qt::LeftButton, {}, User::place(view, {0.5, 0.5}));
+  QMouseEvent drag(QEvent::MouseMove, to, view.mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
+  QApplication::sendEvent(&view, &drag);
+  QTest::mouseRelease(&view, Qt::LeftButton, {}, to);
+  expect(user.widget<QLineEdit>("MasterPattern", "MiddleU").text().toDouble() > 0.2, "a drag does not turn the sphere");
+  user.take_picture("MasterPattern", "master-pattern");
+  user.save("master", "master.png", [&user] { user.choose("MasterPattern", "SavePicture"); });
+  user.window("MasterPattern").close();
+}
+
 void use_kikuchi_windows(const User& user) {
   user.choose_radiation("20");
   for (const auto& [crystal, u, v, w, picture] : {std::array{"Silicon.cry", "0", "0", "1", "kikuchi-silicon"},
@@ -292,6 +310,7 @@ void use_kikuchi_windows(const User& user) {
   user.save("map", "map.bmp", [&user] { user.choose("Zaxis", "SaveMap"); });
   user.window("Zaxis").close();
   user.click("Pattern2", "Check2");
+  use_master_pattern(user);
   user.window("Pattern2").close();
 }
 

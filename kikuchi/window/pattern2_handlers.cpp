@@ -367,6 +367,7 @@ void wire(Workbench& bench, Pattern2Form& form) {
   form.ISAVE.on_click = on(ISAVE_Click);
   form.BandsAsPicture.on_click = [&bench] { draw_bands_as_picture(bench, BandLook::Kinematic); };
   form.DynamicalBands.on_click = [&bench] { draw_bands_as_picture(bench, BandLook::Dynamical); };
+  form.ShowMasterPattern.on_click = [&bench] { bench.show_window("MasterPattern"); };
   form.Imagesize.on_click = on(Imagesize_Click);
   form.ImageLoad.on_click = on(ImageLoad_Click);
   form.ImageClear.on_click = on(ImageClear_Click);

@@ -24,6 +24,7 @@ constexpr void (*window_list[])(Workbench&) = {
     add_window<struct XdForm>,
     add_window<struct DringForm>,
     add_window<struct AutoIndexForm>,
+    add_window<struct MasterPatternForm>,
 };
 // clang-format on
 

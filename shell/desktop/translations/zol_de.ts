@@ -5814,6 +5814,242 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <translation>die Wellenlänge ist noch die von Elektronen mit %1 kV: CuKa oder MoKa wählen</translation>
     </message>
     <message>
+        <source>MASTER PATTERN</source>
+        <translation>MASTERPATTERN</translation>
+    </message>
+    <message>
+        <source>Calculation</source>
+        <translation>Berechnung</translation>
+    </message>
+    <message>
+        <source>Voltage (kV)</source>
+        <translation>Spannung (kV)</translation>
+    </message>
+    <message>
+        <source>acceleration voltage of the electrons, 1 to 400 kV; at first that of the program</source>
+        <translation>Beschleunigungsspannung der Elektronen, 1 bis 400 kV; anfangs die des Programms</translation>
+    </message>
+    <message>
+        <source>Mean depth (nm)</source>
+        <translation>Mittlere Tiefe (nm)</translation>
+    </message>
+    <message>
+        <source>mean depth that the electrons come from, nm</source>
+        <translation>mittlere Tiefe, aus der die Elektronen kommen, nm</translation>
+    </message>
+    <message>
+        <source>Points along a side</source>
+        <translation>Punkte je Seite</translation>
+    </message>
+    <message>
+        <source>points along a side of the map of each half sphere, an odd number; the time grows with its square</source>
+        <translation>Punkte je Seite der Karte jeder Halbkugel, eine ungerade Zahl; die Zeit wächst mit ihrem Quadrat</translation>
+    </message>
+    <message>
+        <source>Make</source>
+        <translation>Berechnen</translation>
+    </message>
+    <message>
+        <source>computes the master pattern of the crystal by dynamical diffraction and draws it; Esc stops it</source>
+        <translation>berechnet das Masterpattern des Kristalls durch dynamische Beugung und zeichnet es; Esc hält an</translation>
+    </message>
+    <message>
+        <source>Stereographic</source>
+        <translation>Stereografisch</translation>
+    </message>
+    <message>
+        <source>keeps angles; a to the right, c* in the middle</source>
+        <translation>winkeltreu; a nach rechts, c* in der Mitte</translation>
+    </message>
+    <message>
+        <source>Equal area (square)</source>
+        <translation>Flächentreu (Quadrat)</translation>
+    </message>
+    <message>
+        <source>keeps areas: the map as it is computed and kept in files</source>
+        <translation>flächentreu: die Karte, wie sie berechnet und in Dateien gehalten wird</translation>
+    </message>
+    <message>
+        <source>Sphere</source>
+        <translation>Kugel</translation>
+    </message>
+    <message>
+        <source>seen from outside; a drag turns it, with Ctrl about the middle</source>
+        <translation>von außen gesehen; Ziehen dreht sie, mit Strg um die Mitte</translation>
+    </message>
+    <message>
+        <source>North</source>
+        <translation>Nord</translation>
+    </message>
+    <message>
+        <source>the half around c*, of the flat views</source>
+        <translation>die Hälfte um c*, der flachen Ansichten</translation>
+    </message>
+    <message>
+        <source>South</source>
+        <translation>Süd</translation>
+    </message>
+    <message>
+        <source>the half around -c*, seen through the sphere</source>
+        <translation>die Hälfte um -c*, durch die Kugel gesehen</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Namen</translation>
+    </message>
+    <message>
+        <source>Zone axes</source>
+        <translation>Zonenachsen</translation>
+    </message>
+    <message>
+        <source>[u v w] where strong bands meet, as many as there is room for</source>
+        <translation>[u v w], wo starke Bänder sich treffen, so viele wie Platz haben</translation>
+    </message>
+    <message>
+        <source>(h k l) and the traces of the strongest planes</source>
+        <translation>(h k l) und die Spuren der stärksten Ebenen</translation>
+    </message>
+    <message>
+        <source>Middle of the sphere</source>
+        <translation>Mitte der Kugel</translation>
+    </message>
+    <message>
+        <source>u of the direction in the middle, along a</source>
+        <translation>u der Richtung in der Mitte, entlang a</translation>
+    </message>
+    <message>
+        <source>v of the direction in the middle, along b</source>
+        <translation>v der Richtung in der Mitte, entlang b</translation>
+    </message>
+    <message>
+        <source>w of the direction in the middle, along c</source>
+        <translation>w der Richtung in der Mitte, entlang c</translation>
+    </message>
+    <message>
+        <source>Turned by (deg)</source>
+        <translation>Gedreht um (Grad)</translation>
+    </message>
+    <message>
+        <source>anticlockwise about the middle, from where c* points upward</source>
+        <translation>gegen den Uhrzeiger um die Mitte, von dort, wo c* nach oben zeigt</translation>
+    </message>
+    <message>
+        <source>turns the sphere so that this direction is in the middle</source>
+        <translation>dreht die Kugel, bis diese Richtung in der Mitte ist</translation>
+    </message>
+    <message>
+        <source>the pattern in all directions; a click tells the direction, a drag turns the sphere</source>
+        <translation>das Muster in allen Richtungen; ein Klick nennt die Richtung, Ziehen dreht die Kugel</translation>
+    </message>
+    <message>
+        <source>writes the picture with its names: .png, .svg, .pdf, .bmp</source>
+        <translation>schreibt das Bild mit seinen Namen: .png, .svg, .pdf, .bmp</translation>
+    </message>
+    <message>
+        <source>Master pattern...</source>
+        <translation>Masterpattern...</translation>
+    </message>
+    <message>
+        <source>the dynamical pattern of the crystal in all directions, flat or as a sphere</source>
+        <translation>das dynamische Muster des Kristalls in allen Richtungen, flach oder als Kugel</translation>
+    </message>
+    <message>
+        <source>the element %1 has no scattering factor for electrons</source>
+        <translation>das Element %1 hat keinen Streufaktor für Elektronen</translation>
+    </message>
+    <message>
+        <source>the crystal has no atoms: dynamical patterns need them</source>
+        <translation>der Kristall hat keine Atome: dynamische Muster brauchen sie</translation>
+    </message>
+    <message>
+        <source>the acceleration voltage is %1 kV, must be above 0 and at most 10000</source>
+        <translation>die Beschleunigungsspannung ist %1 kV, muss über 0 und höchstens 10000 sein</translation>
+    </message>
+    <message>
+        <source>master pattern: %L1 is %2, must be %3 to %4</source>
+        <translation>Masterpattern: %L1 ist %2, muss %3 bis %4 sein</translation>
+    </message>
+    <message>
+        <source>master pattern:</source>
+        <translation>Masterpattern:</translation>
+    </message>
+    <message>
+        <source>the size</source>
+        <translation>die Größe</translation>
+    </message>
+    <message>
+        <source>master pattern: the size is even, must be odd</source>
+        <translation>Masterpattern: die Größe ist gerade, muss ungerade sein</translation>
+    </message>
+    <message>
+        <source>the depth in nm</source>
+        <translation>die Tiefe in nm</translation>
+    </message>
+    <message>
+        <source>master pattern: no voltage</source>
+        <translation>Masterpattern: keine Spannung</translation>
+    </message>
+    <message>
+        <source>the voltage in kV</source>
+        <translation>die Spannung in kV</translation>
+    </message>
+    <message>
+        <source>the number of beams</source>
+        <translation>die Zahl der Strahlen</translation>
+    </message>
+    <message>
+        <source>the smallest spacing in angstroms</source>
+        <translation>der kleinste Abstand in Ångström</translation>
+    </message>
+    <message>
+        <source>the smallest spacing is not above 0</source>
+        <translation>der kleinste Abstand ist nicht über 0</translation>
+    </message>
+    <message>
+        <source>the cell has more than 60000 reflections down to that spacing: take a larger one</source>
+        <translation>die Zelle hat bis zu diesem Abstand mehr als 60000 Reflexe: einen größeren nehmen</translation>
+    </message>
+    <message>
+        <source>the direction [0 0 0] is none</source>
+        <translation>die Richtung [0 0 0] ist keine</translation>
+    </message>
+    <message>
+        <source>the crystal has observed reflections and no atoms: a master pattern is computed from atoms</source>
+        <translation>der Kristall hat beobachtete Reflexe und keine Atome: ein Masterpattern wird aus Atomen berechnet</translation>
+    </message>
+    <message>
+        <source>there is no crystal with atoms: load one in the main window</source>
+        <translation>es gibt keinen Kristall mit Atomen: im Hauptfenster einen laden</translation>
+    </message>
+    <message>
+        <source>%1 at %2 kV: %3 x %4 points, %5 beams, spacings down to %6 angstroms, mean depth %7 nm</source>
+        <translation>%1 bei %2 kV: %3 x %4 Punkte, %5 Strahlen, Abstände bis %6 Ångström, mittlere Tiefe %7 nm</translation>
+    </message>
+    <message>
+        <source>%1° from [%2]</source>
+        <translation>%1° von [%2]</translation>
+    </message>
+    <message>
+        <source>%1° from the middle</source>
+        <translation>%1° von der Mitte</translation>
+    </message>
+    <message>
+        <source>%1]   %2° from [%3]   %4° from the middle</source>
+        <translation>%1]   %2° von [%3]   %4° von der Mitte</translation>
+    </message>
+    <message>
+        <source>Make computes the pattern of the crystal</source>
+        <translation>Berechnen gibt das Muster des Kristalls</translation>
+    </message>
+    <message>
+        <source>nothing is drawn yet: press Make</source>
+        <translation>noch ist nichts gezeichnet: Berechnen drücken</translation>
+    </message>
+    <message>
+        <source>the pattern was not kept with the picture: press Make, which computes it again</source>
+        <translation>das Muster wurde nicht mit dem Bild aufbewahrt: Berechnen drücken, um es neu zu berechnen</translation>
+    </message>
+    <message>
         <source>Dynamical bands as a picture</source>
         <translation>Dynamische Bänder als Bild</translation>
     </message>

@@ -5814,6 +5814,242 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <translation>la longueur d'onde est encore celle d'électrons de %1 kV : choisir CuKa ou MoKa</translation>
     </message>
     <message>
+        <source>MASTER PATTERN</source>
+        <translation>DIAGRAMME MAÎTRE</translation>
+    </message>
+    <message>
+        <source>Calculation</source>
+        <translation>Calcul</translation>
+    </message>
+    <message>
+        <source>Voltage (kV)</source>
+        <translation>Tension (kV)</translation>
+    </message>
+    <message>
+        <source>acceleration voltage of the electrons, 1 to 400 kV; at first that of the program</source>
+        <translation>tension d’accélération des électrons, de 1 à 400 kV ; au début celle du programme</translation>
+    </message>
+    <message>
+        <source>Mean depth (nm)</source>
+        <translation>Profondeur moyenne (nm)</translation>
+    </message>
+    <message>
+        <source>mean depth that the electrons come from, nm</source>
+        <translation>profondeur moyenne d’où viennent les électrons, nm</translation>
+    </message>
+    <message>
+        <source>Points along a side</source>
+        <translation>Points par côté</translation>
+    </message>
+    <message>
+        <source>points along a side of the map of each half sphere, an odd number; the time grows with its square</source>
+        <translation>points par côté de la carte de chaque demi-sphère, un nombre impair ; la durée croît comme son carré</translation>
+    </message>
+    <message>
+        <source>Make</source>
+        <translation>Calculer</translation>
+    </message>
+    <message>
+        <source>computes the master pattern of the crystal by dynamical diffraction and draws it; Esc stops it</source>
+        <translation>calcule le diagramme maître du cristal par diffraction dynamique et le dessine ; Échap l’arrête</translation>
+    </message>
+    <message>
+        <source>Stereographic</source>
+        <translation>Stéréographique</translation>
+    </message>
+    <message>
+        <source>keeps angles; a to the right, c* in the middle</source>
+        <translation>conserve les angles ; a vers la droite, c* au milieu</translation>
+    </message>
+    <message>
+        <source>Equal area (square)</source>
+        <translation>Équivalente (carré)</translation>
+    </message>
+    <message>
+        <source>keeps areas: the map as it is computed and kept in files</source>
+        <translation>conserve les aires : la carte telle qu’elle est calculée et gardée dans les fichiers</translation>
+    </message>
+    <message>
+        <source>Sphere</source>
+        <translation>Sphère</translation>
+    </message>
+    <message>
+        <source>seen from outside; a drag turns it, with Ctrl about the middle</source>
+        <translation>vue de l’extérieur ; glisser la tourne, avec Ctrl autour du milieu</translation>
+    </message>
+    <message>
+        <source>North</source>
+        <translation>Nord</translation>
+    </message>
+    <message>
+        <source>the half around c*, of the flat views</source>
+        <translation>la moitié autour de c*, des vues planes</translation>
+    </message>
+    <message>
+        <source>South</source>
+        <translation>Sud</translation>
+    </message>
+    <message>
+        <source>the half around -c*, seen through the sphere</source>
+        <translation>la moitié autour de -c*, vue à travers la sphère</translation>
+    </message>
+    <message>
+        <source>Names</source>
+        <translation>Noms</translation>
+    </message>
+    <message>
+        <source>Zone axes</source>
+        <translation>Axes de zone</translation>
+    </message>
+    <message>
+        <source>[u v w] where strong bands meet, as many as there is room for</source>
+        <translation>[u v w] où se croisent des bandes fortes, autant qu’il y a de place</translation>
+    </message>
+    <message>
+        <source>(h k l) and the traces of the strongest planes</source>
+        <translation>(h k l) et les traces des plans les plus forts</translation>
+    </message>
+    <message>
+        <source>Middle of the sphere</source>
+        <translation>Milieu de la sphère</translation>
+    </message>
+    <message>
+        <source>u of the direction in the middle, along a</source>
+        <translation>u de la direction au milieu, le long de a</translation>
+    </message>
+    <message>
+        <source>v of the direction in the middle, along b</source>
+        <translation>v de la direction au milieu, le long de b</translation>
+    </message>
+    <message>
+        <source>w of the direction in the middle, along c</source>
+        <translation>w de la direction au milieu, le long de c</translation>
+    </message>
+    <message>
+        <source>Turned by (deg)</source>
+        <translation>Tournée de (deg)</translation>
+    </message>
+    <message>
+        <source>anticlockwise about the middle, from where c* points upward</source>
+        <translation>dans le sens antihoraire autour du milieu, depuis c* vers le haut</translation>
+    </message>
+    <message>
+        <source>turns the sphere so that this direction is in the middle</source>
+        <translation>tourne la sphère pour que cette direction soit au milieu</translation>
+    </message>
+    <message>
+        <source>the pattern in all directions; a click tells the direction, a drag turns the sphere</source>
+        <translation>le diagramme dans toutes les directions ; un clic dit la direction, glisser tourne la sphère</translation>
+    </message>
+    <message>
+        <source>writes the picture with its names: .png, .svg, .pdf, .bmp</source>
+        <translation>écrit l’image avec ses noms : .png, .svg, .pdf, .bmp</translation>
+    </message>
+    <message>
+        <source>Master pattern...</source>
+        <translation>Diagramme maître...</translation>
+    </message>
+    <message>
+        <source>the dynamical pattern of the crystal in all directions, flat or as a sphere</source>
+        <translation>le diagramme dynamique du cristal dans toutes les directions, plan ou en sphère</translation>
+    </message>
+    <message>
+        <source>the element %1 has no scattering factor for electrons</source>
+        <translation>l’élément %1 n’a pas de facteur de diffusion pour les électrons</translation>
+    </message>
+    <message>
+        <source>the crystal has no atoms: dynamical patterns need them</source>
+        <translation>le cristal n’a pas d’atomes : les diagrammes dynamiques en ont besoin</translation>
+    </message>
+    <message>
+        <source>the acceleration voltage is %1 kV, must be above 0 and at most 10000</source>
+        <translation>la tension d’accélération est %1 kV, doit être supérieure à 0 et au plus 10000</translation>
+    </message>
+    <message>
+        <source>master pattern: %L1 is %2, must be %3 to %4</source>
+        <translation>diagramme maître : %L1 est %2, doit être de %3 à %4</translation>
+    </message>
+    <message>
+        <source>master pattern:</source>
+        <translation>diagramme maître :</translation>
+    </message>
+    <message>
+        <source>the size</source>
+        <translation>la taille</translation>
+    </message>
+    <message>
+        <source>master pattern: the size is even, must be odd</source>
+        <translation>diagramme maître : la taille est paire, doit être impaire</translation>
+    </message>
+    <message>
+        <source>the depth in nm</source>
+        <translation>la profondeur en nm</translation>
+    </message>
+    <message>
+        <source>master pattern: no voltage</source>
+        <translation>diagramme maître : pas de tension</translation>
+    </message>
+    <message>
+        <source>the voltage in kV</source>
+        <translation>la tension en kV</translation>
+    </message>
+    <message>
+        <source>the number of beams</source>
+        <translation>le nombre de faisceaux</translation>
+    </message>
+    <message>
+        <source>the smallest spacing in angstroms</source>
+        <translation>le plus petit espacement en ångströms</translation>
+    </message>
+    <message>
+        <source>the smallest spacing is not above 0</source>
+        <translation>le plus petit espacement n’est pas supérieur à 0</translation>
+    </message>
+    <message>
+        <source>the cell has more than 60000 reflections down to that spacing: take a larger one</source>
+        <translation>la maille a plus de 60000 réflexions jusqu’à cet espacement : en prendre un plus grand</translation>
+    </message>
+    <message>
+        <source>the direction [0 0 0] is none</source>
+        <translation>la direction [0 0 0] n’en est pas une</translation>
+    </message>
+    <message>
+        <source>the crystal has observed reflections and no atoms: a master pattern is computed from atoms</source>
+        <translation>le cristal a des réflexions observées et pas d’atomes : un diagramme maître se calcule à partir d’atomes</translation>
+    </message>
+    <message>
+        <source>there is no crystal with atoms: load one in the main window</source>
+        <translation>il n’y a pas de cristal avec des atomes : en charger un dans la fenêtre principale</translation>
+    </message>
+    <message>
+        <source>%1 at %2 kV: %3 x %4 points, %5 beams, spacings down to %6 angstroms, mean depth %7 nm</source>
+        <translation>%1 à %2 kV : %3 x %4 points, %5 faisceaux, espacements jusqu’à %6 ångströms, profondeur moyenne %7 nm</translation>
+    </message>
+    <message>
+        <source>%1° from [%2]</source>
+        <translation>à %1° de [%2]</translation>
+    </message>
+    <message>
+        <source>%1° from the middle</source>
+        <translation>à %1° du milieu</translation>
+    </message>
+    <message>
+        <source>%1]   %2° from [%3]   %4° from the middle</source>
+        <translation>%1]   à %2° de [%3]   à %4° du milieu</translation>
+    </message>
+    <message>
+        <source>Make computes the pattern of the crystal</source>
+        <translation>Calculer donne le diagramme du cristal</translation>
+    </message>
+    <message>
+        <source>nothing is drawn yet: press Make</source>
+        <translation>rien n’est encore dessiné : appuyer sur Calculer</translation>
+    </message>
+    <message>
+        <source>the pattern was not kept with the picture: press Make, which computes it again</source>
+        <translation>le diagramme n’a pas été gardé avec l’image : appuyer sur Calculer, qui le refait</translation>
+    </message>
+    <message>
         <source>Dynamical bands as a picture</source>
         <translation>Bandes dynamiques en image</translation>
     </message>
