@@ -45,12 +45,15 @@ void draw_line(Canvas& picture, const KikuchiLine& line, double reach, Colour co
 }
 
 std::string band_text(int number, const KikuchiLine& line, int level) {
-  constexpr std::string_view whole = "###0";
   constexpr std::string_view angle = "##0.0";
-  return right_field(Format(number, whole), 4) + right_field(Format(line.hkl.h.value(), whole), 4) +
-         right_field(Format(line.hkl.k.value(), whole), 4) + right_field(Format(line.hkl.l.value(), whole), 4) +
-         right_field(Format(std::abs(line.latitude_deg), angle), 6) + right_field(Format(line.azimuth_deg, angle), 6) +
-         right_field(Format(level, "##0"), 4);
+  std::string text;
+  for (const int whole : {number, line.hkl.h.value(), line.hkl.k.value(), line.hkl.l.value()}) {
+    text += right_field(plain_text(whole), 4);
+  }
+  for (const double degrees : {double{std::abs(line.latitude_deg)}, double{line.azimuth_deg}}) {
+    text += right_field(Format(degrees, angle), 6);
+  }
+  return text + right_field(plain_text(level), 4);
 }
 
 struct ShownLine {

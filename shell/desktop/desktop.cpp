@@ -41,6 +41,8 @@ static void init_resources() { Q_INIT_RESOURCE(desktop); }
 namespace zol {
 namespace {
 
+constexpr qint64 least_work_ms = 50;  // between two breaths
+
 /// Makes the picture widget, and lists that leave room for a note, beside those that Qt knows.
 class UiLoader : public QUiLoader {
  public:
@@ -116,7 +118,12 @@ Desktop::Desktop(Windows& windows, std::function<void(const std::string&)> faile
                   [this](const UserEvent& event) { return latin1_to_qt(step_of(event, windows_).name); }}),
       events_(gate_) {
   windows_.set_view(this);
-  gate_.set_follow([this](const UserEvent& event) { long_work_.begin(event); },
+  gate_.set_follow(
+      [this](const UserEvent& event) {
+        since_breath_.start();
+        work_ms_ = least_work_ms;
+        long_work_.begin(event);
+      },
                    [this](bool stopped) { long_work_.end(stopped); });
   if (auto* application = dynamic_cast<GuardedApplication*>(QCoreApplication::instance())) {
     application->set_failed([this](const std::exception_ptr& failure) { gate_.fail(failure); });
@@ -319,9 +326,8 @@ void Desktop::breathe() {
   // What is left out waits in the queue of the window system, where it would not be seen again until something comes
   // behind it; once the bar is there nothing is left out.
   QCoreApplication::processEvents(long_work_.shown() ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
-  constexpr qint64 least_ms = 50;
   constexpr qint64 share = 4;  // a picture that takes long to paint is painted less often
-  work_ms_ = std::max(least_ms, share * since_breath_.elapsed());
+  work_ms_ = std::max(least_work_ms, share * since_breath_.elapsed());
   since_breath_.start();
 }
 
