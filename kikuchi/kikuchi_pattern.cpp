@@ -129,6 +129,9 @@ Single strongest_in_view(const CrystalState& state, const GnomonicView& view, Ta
     const auto place = inclination(state, hkl);
     if (!(tangent(std::abs(place.latitude_deg)) < limit)) continue;
     const Single intensity = pattern_intensity(state, i);
+    constexpr double angle_exists = 0.99;
+    const bool is_certain = double{place.length} * state.WaveLength / 2 < angle_exists;  // else it may fail
+    if (is_certain && intensity <= strongest) continue;
     if (tangent(bragg_angle(state, place.length)) < limit && intensity > strongest) strongest = intensity;
   }
   return strongest;

@@ -44,16 +44,24 @@ void draw_line(Canvas& picture, const KikuchiLine& line, double reach, Colour co
   picture.line(line.foot_x + along_x, line.foot_y - along_y, line.foot_x - along_x, line.foot_y + along_y, colour);
 }
 
+/// As Format with "##0.0" has it, several times as quick where no half is near.
+std::string one_place(double degrees) {
+  constexpr double near_half = 1e-6;
+  constexpr double largest = 1e6;
+  const double tenths = std::abs(degrees) * 10;
+  const double whole = std::floor(tenths);
+  if (!(tenths < largest) || std::abs(tenths - whole - 0.5) < near_half) return Format(degrees, "##0.0");
+  const int rounded = static_cast<int>(tenths - whole < 0.5 ? whole : whole + 1);
+  return (degrees < 0 ? "-" : "") + plain_text(rounded / 10) + '.' + static_cast<char>('0' + rounded % 10);
+}
+
 std::string band_text(int number, const KikuchiLine& line, int level) {
-  constexpr std::string_view angle = "##0.0";
-  std::string text;
-  for (const int whole : {number, line.hkl.h.value(), line.hkl.k.value(), line.hkl.l.value()}) {
-    text += right_field(plain_text(whole), 4);
-  }
-  for (const double degrees : {double{std::abs(line.latitude_deg)}, double{line.azimuth_deg}}) {
-    text += right_field(Format(degrees, angle), 6);
-  }
-  return text + right_field(plain_text(level), 4);
+  constexpr std::size_t whole = 4;
+  constexpr std::size_t angle = 6;
+  return right_field(plain_text(number), whole) + right_field(plain_text(line.hkl.h), whole) +
+         right_field(plain_text(line.hkl.k), whole) + right_field(plain_text(line.hkl.l), whole) +
+         right_field(one_place(std::abs(line.latitude_deg)), angle) +
+         right_field(one_place(line.azimuth_deg), angle) + right_field(plain_text(level), whole);
 }
 
 struct ShownLine {

@@ -41,7 +41,8 @@ static void init_resources() { Q_INIT_RESOURCE(desktop); }
 namespace zol {
 namespace {
 
-constexpr qint64 least_work_ms = 50;  // between two breaths
+constexpr qint64 least_work_ms = 50;   // between two breaths
+constexpr qint64 most_step_ms = 1000;  // of a drag, which shows no half drawn pictures unless it takes longer
 
 /// Makes the picture widget, and lists that leave room for a note, beside those that Qt knows.
 class UiLoader : public QUiLoader {
@@ -121,7 +122,7 @@ Desktop::Desktop(Windows& windows, std::function<void(const std::string&)> faile
   gate_.set_follow(
       [this](const UserEvent& event) {
         since_breath_.start();
-        work_ms_ = least_work_ms;
+        work_ms_ = event.joins.empty() ? least_work_ms : most_step_ms;
         long_work_.begin(event);
       },
                    [this](bool stopped) { long_work_.end(stopped); });

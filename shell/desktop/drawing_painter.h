@@ -38,10 +38,10 @@ class CanvasPainting {
   /// @param pixmap  of the size of the view
   CanvasPainting(Canvas& canvas, QPixmap pixmap) : canvas_(canvas), pixmap_(std::move(pixmap)) {}
 
-  /// Lines without smoothing, as thin as the screen can show them: several times as quick, for pictures that follow the
-  /// pointer. What is drawn so is drawn anew when that ends.
+  /// For pictures that follow the pointer: where the view enlarges the picture, lines have no smoothing and are as thin
+  /// as the screen can show them, which is several times as quick. They are drawn anew when that ends.
   void set_rough(bool rough) {
-    if (std::exchange(rough_, rough) && !rough) begun_ = false;
+    if (std::exchange(rough_, rough && pixmap_.width() > canvas_.pixel_width()) && !rough) begun_ = false;
   }
   [[nodiscard]] bool rough() const { return rough_; }
   /// Draws until all is there or the answer is true. @returns whether all is there

@@ -37,7 +37,7 @@ class QtSurface final : public Surface {
   QtSurface(QImage image, QImage deep) : image_(std::move(image)), deep_(std::move(deep)) {}
   /// To be changed.
   [[nodiscard]] QImage& pixels();
-  /// Of lines, circles and texts: one for many of them, since it takes longer to begin one than to draw a line.
+  /// Of lines and circles: one for many of them, since it takes longer to begin one than to draw a line.
   [[nodiscard]] QPainter& pen();
 
   QImage image_;

@@ -69,7 +69,7 @@ Times drag(CanvasView& view, Qt::KeyboardModifiers keys, const Canvas& canvas) {
   return times;
 }
 
-void report(const char* what, Times times, std::size_t marks) {
+void report(const char* what, Times times, const Canvas& canvas, const CanvasView& view) {
   if (times.wall_ms.empty()) {
     std::printf("%-14s nothing drawn\n", what);
     return;
@@ -79,9 +79,10 @@ void report(const char* what, Times times, std::size_t marks) {
   const double median = times.wall_ms[middle];
   const double processor = times.processor_ms[middle];
   std::printf(
-      "%-14s %6zu marks %3zu pictures, median %6.1f ms, slowest %6.1f ms: %5.1f a second; "
+      "%-14s %6zu marks on %d x %d, %3zu pictures, median %6.1f ms, slowest %6.1f ms: %5.1f a second; "
       "processor %6.1f ms: %5.1f a second\n",
-      what, marks, times.wall_ms.size(), median, times.wall_ms.back(), ms_per_s / median, processor,
+      what, canvas.marks().size(), static_cast<int>(view.picture_rect().width()),
+      static_cast<int>(view.picture_rect().height()), times.wall_ms.size(), median, times.wall_ms.back(), ms_per_s / median, processor,
       ms_per_s / processor);
 }
 
@@ -113,9 +114,14 @@ int main(int argc, char** argv) {
   };
   std::setbuf(stdout, nullptr);
   std::printf("%d reflections\n", program.state().RefCount.value());
-  const auto& kikuchi = program.windows().use<Pattern2Form>().Picture1;
-  report("Kikuchi, tilt", drag(*view_of("Pattern2"), {}, kikuchi), kikuchi.marks().size());
-  report("Kikuchi, turn", drag(*view_of("Pattern2"), Qt::ControlModifier, kikuchi), kikuchi.marks().size());
+  const auto drag_over = [&](const char* window, const Canvas& canvas) {
+    CanvasView& view = *view_of(window);
+    for (const bool turns : {false, true}) {
+      const auto times = drag(view, turns ? Qt::ControlModifier : Qt::NoModifier, canvas);
+      report((std::string(window) + (turns ? ", turn" : ", tilt")).c_str(), times, canvas, view);
+    }
+  };
+  drag_over("Pattern2", program.windows().use<Pattern2Form>().Picture1);
   auto& pattern = program.windows().use<PatternForm>();
   desktop.enter("spots", [&] {
     pattern.show();
@@ -124,8 +130,6 @@ int main(int argc, char** argv) {
     pattern.Text6.set_text("0.1");
     pattern.Command8.click();
   });
-  report("spots, tilt", drag(*view_of("Pattern"), {}, pattern.Picture1), pattern.Picture1.marks().size());
-  report("spots, turn", drag(*view_of("Pattern"), Qt::ControlModifier, pattern.Picture1),
-         pattern.Picture1.marks().size());
+  drag_over("Pattern", pattern.Picture1);
   return 0;
 }
