@@ -60,8 +60,8 @@ std::string band_text(int number, const KikuchiLine& line, int level) {
   constexpr std::size_t angle = 6;
   return right_field(plain_text(number), whole) + right_field(plain_text(line.hkl.h), whole) +
          right_field(plain_text(line.hkl.k), whole) + right_field(plain_text(line.hkl.l), whole) +
-         right_field(one_place(std::abs(line.latitude_deg)), angle) +
-         right_field(one_place(line.azimuth_deg), angle) + right_field(plain_text(level), whole);
+         right_field(one_place(std::abs(line.latitude_deg)), angle) + right_field(one_place(line.azimuth_deg), angle) +
+         right_field(plain_text(level), whole);
 }
 
 struct ShownLine {

@@ -125,7 +125,7 @@ Desktop::Desktop(Windows& windows, std::function<void(const std::string&)> faile
         work_ms_ = event.joins.empty() ? least_work_ms : most_step_ms;
         long_work_.begin(event);
       },
-                   [this](bool stopped) { long_work_.end(stopped); });
+      [this](bool stopped) { long_work_.end(stopped); });
   if (auto* application = dynamic_cast<GuardedApplication*>(QCoreApplication::instance())) {
     application->set_failed([this](const std::exception_ptr& failure) { gate_.fail(failure); });
   }
@@ -219,6 +219,7 @@ void Desktop::window_created(Window& window) {
 void Desktop::offer_guide(QWidget& widget) {
   const QString page = widget.property("guidePage").toString();
   auto* shortcut = new QShortcut(QKeySequence::HelpContents, &widget);
+  shortcut->setObjectName(QStringLiteral("help"));  // the tables of its lists have it too
   connect(shortcut, &QShortcut::activated, this, [this, page] {
     if (!guide_) guide_ = std::make_unique<Guide>();
     guide_->open(page);

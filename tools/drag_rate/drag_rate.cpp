@@ -82,8 +82,8 @@ void report(const char* what, Times times, const Canvas& canvas, const CanvasVie
       "%-14s %6zu marks on %d x %d, %3zu pictures, median %6.1f ms, slowest %6.1f ms: %5.1f a second; "
       "processor %6.1f ms: %5.1f a second\n",
       what, canvas.marks().size(), static_cast<int>(view.picture_rect().width()),
-      static_cast<int>(view.picture_rect().height()), times.wall_ms.size(), median, times.wall_ms.back(), ms_per_s / median, processor,
-      ms_per_s / processor);
+      static_cast<int>(view.picture_rect().height()), times.wall_ms.size(), median, times.wall_ms.back(),
+      ms_per_s / median, processor, ms_per_s / processor);
 }
 
 }  // namespace
