@@ -3,10 +3,9 @@
 #include <filesystem>
 
 #include "core/run_failure.h"
-#include "dynamics/master_cache.h"
 #include "dynamics/master_file.h"
 #include "dynamics/master_sphere.h"
-#include "shell/program/data_folders.h"
+#include "dynamics/master_view.h"
 
 namespace zol {
 namespace {
@@ -19,12 +18,10 @@ MasterPattern made_master(const MapMasterWords& words, const LoadedCrystal& crys
   settings.kilovolts = {view.kilovolt};
   settings.depth_nm = words.depth_nm;
   settings.threads = view.threads;
-  const std::string folder = cache_folder();
-  const MasterCache cache(folder.empty() ? "" : folder + "/masters");
   try {
     const DynamicCrystal dynamic = dynamic_crystal(crystal.state, &crystal.group);
     suit_to_pixels(settings, dynamic, pixel_deg(view));
-    return cache.get(dynamic, settings, task);
+    return kept_master(dynamic, settings, task);
   } catch (const RunFailure& failure) {
     throw RunFailure(crystal.title + ": " + failure.message());
   }

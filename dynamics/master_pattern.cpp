@@ -165,6 +165,14 @@ std::vector<float> on_square(const RingGrid& rings, const std::vector<float>& va
   return read;
 }
 
+/// Measured: 25 microseconds a direction with 64 beams, 140 with 144.
+Effort effort_of(const MasterPattern& master, int threads) {
+  constexpr double of_direction = 25e-6;
+  const double beams = std::pow(master.choice.beams / 64.0, 2.2);
+  const auto directions = static_cast<double>(master.directions * master.kilovolts.size());
+  return {directions * of_direction * beams / std::max(1, threads), 0};
+}
+
 /// Directions evenly over the sphere, by the golden angle.
 std::vector<GridDirection> spiral(int count) {
   std::vector<GridDirection> directions;
@@ -237,7 +245,7 @@ double MasterPattern::at(const GridDirection& direction, std::size_t pattern) co
   return upper + down * (lower - upper);
 }
 
-MasterPattern master_pattern(const DynamicCrystal& crystal, const MasterSettings& settings, Task& task) {
+MasterPattern empty_master(const DynamicCrystal& crystal, const MasterSettings& settings) {
   MasterPattern master;
   master.choice = master_choice(crystal, settings);
   master.size = settings.size;
@@ -245,6 +253,11 @@ MasterPattern master_pattern(const DynamicCrystal& crystal, const MasterSettings
   master.cell = crystal.cell;
   master.sites = crystal.sites;
   master.space_group = crystal.space_group;
+  return master;
+}
+
+MasterPattern master_pattern(const DynamicCrystal& crystal, const MasterSettings& settings, Task& task) {
+  MasterPattern master = empty_master(crystal, settings);
   const SquareGrid square(settings.size);
   // Rings a quarter closer than the square grid, from which it is read.
   const RingGrid rings(2 * (settings.size - 1) / 3 + 1);
@@ -252,6 +265,7 @@ MasterPattern master_pattern(const DynamicCrystal& crystal, const MasterSettings
   const auto fill = [&](const auto& grid, const auto& read) {
     const GridPattern pattern(grid, crystal);
     master.directions = pattern.directions();
+    task.expect(effort_of(master, settings.threads));
     for (std::size_t i = 0; i < master.kilovolts.size(); ++i) {
       const CrystalPotential potential(crystal, {master.kilovolts[i], master.choice.smallest_spacing, true}, task);
       master.patterns.push_back(halves_of(read(pattern.compute(potential, master, settings, i, task))));
