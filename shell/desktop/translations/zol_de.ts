@@ -5977,5 +5977,9 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <source>correlation of the drawn bands with the picture</source>
         <translation>Korrelation der gezeichneten Bänder mit dem Bild</translation>
     </message>
+    <message>
+        <source>the cell is too small: more than %1 cells lie within %2 angstroms of an atom; expected are fewer</source>
+        <translation>die Zelle ist zu klein: mehr als %1 Zellen liegen innerhalb von %2 Ångström um ein Atom, erwartet werden weniger</translation>
+    </message>
 </context>
 </TS>

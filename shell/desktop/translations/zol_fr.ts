@@ -5977,5 +5977,9 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <source>correlation of the drawn bands with the picture</source>
         <translation>corrélation des bandes dessinées avec l'image</translation>
     </message>
+    <message>
+        <source>the cell is too small: more than %1 cells lie within %2 angstroms of an atom; expected are fewer</source>
+        <translation>la maille est trop petite : plus de %1 mailles se trouvent à moins de %2 angströms d'un atome, on en attend moins</translation>
+    </message>
 </context>
 </TS>
