@@ -121,8 +121,8 @@ Desktop::Desktop(Windows& windows, std::function<void(const std::string&)> faile
   windows_.set_view(this);
   gate_.set_follow(
       [this](const UserEvent& event) {
-        since_breath_.start();
-        work_ms_ = event.joins.empty() ? least_work_ms : most_step_ms;
+        if (!event.joins.empty()) since_breath_.start();
+        if (event.joins.empty() != (work_ms_ != most_step_ms)) work_ms_ = event.joins.empty() ? 0 : most_step_ms;
         long_work_.begin(event);
       },
       [this](bool stopped) { long_work_.end(stopped); });
