@@ -34,9 +34,16 @@ Single bragg_angle(const CrystalState& state, Single length) {
   return ArcSin(to_single(double{length} * state.WaveLength / 2));
 }
 
+/// Of the pattern, by PatternAngle.
+struct Rotation {
+  explicit Rotation(double angle) : cosine(std::cos(angle)), sine(std::sin(angle)) {}
+  double cosine, sine;
+};
+
 /// Unit vector from the centre towards the line, from the cosine of the angle to the reference reflection within the
 /// plane of the pattern and the side on which the reflection lies, turned by PatternAngle.
-void set_direction(const CrystalState& state, const Inclination& place, bool clip, KikuchiLine& line) {
+void set_direction(const CrystalState& state, const Inclination& place, const Rotation& rotation, bool clip,
+                   KikuchiLine& line) {
   const Indices<Integer> reference{state.OriginH, state.OriginK, state.OriginL};
   const auto& [h, k, l] = line.hkl;
   const double reference_length = DHKL(state, reference.h, reference.k, reference.l);
@@ -49,9 +56,8 @@ void set_direction(const CrystalState& state, const Inclination& place, bool cli
   const Single side = ProductTS(state, state.ZoneU, state.ZoneV, state.ZoneW, u, v, w);
   const double sign = side <= 0 ? 1.0 : -1.0;
   const double sine = to_single(sign * std::sqrt(std::abs(1.0 - cosine * cosine)));
-  const double rotation = state.PatternAngle;
-  line.unit_x = to_single(-(cosine * std::cos(rotation) - sine * std::sin(rotation)));
-  line.unit_y = to_single(-(cosine * std::sin(rotation) + sine * std::cos(rotation)));
+  line.unit_x = to_single(-(cosine * rotation.cosine - sine * rotation.sine));
+  line.unit_y = to_single(-(cosine * rotation.sine + sine * rotation.cosine));
 }
 
 Single list_azimuth(const CrystalState& state, const KikuchiLine& line) {
@@ -129,6 +135,9 @@ Single strongest_in_view(const CrystalState& state, const GnomonicView& view, Ta
     const auto place = inclination(state, hkl);
     if (!(tangent(std::abs(place.latitude_deg)) < limit)) continue;
     const Single intensity = pattern_intensity(state, i);
+    constexpr double angle_exists = 0.99;
+    const bool is_certain = double{place.length} * state.WaveLength / 2 < angle_exists;  // else it may fail
+    if (is_certain && intensity <= strongest) continue;
     if (tangent(bragg_angle(state, place.length)) < limit && intensity > strongest) strongest = intensity;
   }
   return strongest;
@@ -137,6 +146,7 @@ Single strongest_in_view(const CrystalState& state, const GnomonicView& view, Ta
 std::vector<KikuchiLine> kikuchi_lines(const CrystalState& state, const GnomonicView& view, bool trace_only,
                                        Task& task) {
   std::vector<KikuchiLine> lines;
+  const Rotation rotation(state.PatternAngle);
   const int first = (state.RefCount - state.KikuchiRefLimit + 1).value();
   for (int i = first; i <= state.RefCount.value(); ++i) {
     task.report(i - first, state.RefCount.value() - first);
@@ -148,7 +158,7 @@ std::vector<KikuchiLine> kikuchi_lines(const CrystalState& state, const Gnomonic
     if (!(tangent(std::abs(place.latitude_deg)) < 2.0 * view.reach)) continue;
     line.intensity = pattern_intensity(state, i);
     line.latitude_deg = place.latitude_deg;
-    set_direction(state, place, true, line);
+    set_direction(state, place, rotation, true, line);
     line.azimuth_deg = list_azimuth(state, line);
     const Single theta_deg = bragg_angle(state, place.length);
     if (!(tangent(theta_deg) < view.reach)) continue;
@@ -163,7 +173,7 @@ KikuchiLine marked_line(const CrystalState& state, bool trace_only) {
   line.hkl = {state.MarkH, state.MarkK, state.MarkL};
   const auto place = inclination(state, line.hkl);
   line.latitude_deg = place.latitude_deg;
-  set_direction(state, place, false, line);
+  set_direction(state, place, Rotation(state.PatternAngle), false, line);
   set_foot(bragg_angle(state, place.length), trace_only, line);
   return line;
 }

@@ -8,8 +8,11 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QPushButton>
+#include <QSettings>
+#include <QTemporaryDir>
 
 #include "powder/window/xd_form.h"
+#include "shell/desktop/language/language.h"
 #include "tests/offscreen_desktop.h"
 #include "tests/test_files.h"
 
@@ -18,7 +21,7 @@ namespace {
 
 class TableWindowTest : public DesktopTest {
  protected:
-  TableWindowTest() {
+  explicit TableWindowTest(const QString& settings_file = {}) : DesktopTest(settings_file) {
     show_main1();
     load("Quartz.cry");
   }
@@ -100,6 +103,60 @@ TEST_F(TableWindowTest, FollowsTheListAndPicksInIt) {
   EXPECT_EQ(cell(table, 0, 0) + cell(table, 0, 1) + cell(table, 0, 2), QStringLiteral("111"));
   widget("Main1").hide();
   EXPECT_FALSE(table.isVisible());
+}
+
+class KeptTableTest : public TableWindowTest {
+ protected:
+  KeptTableTest() : TableWindowTest(file()) {}
+  ~KeptTableTest() override { use_language(QStringLiteral("en")); }
+  static QString name_of_file() {
+    static const QTemporaryDir folder;
+    return folder.filePath(QStringLiteral("desk.ini"));
+  }
+  static QString file() {
+    QString name = name_of_file();
+    QSettings kept(name, QSettings::IniFormat);
+    kept.setValue(QStringLiteral("tables/Main1.List2/columns"), QStringList{QStringLiteral("Multiplicity")});
+    kept.setValue(QStringLiteral("tables/Main1.List2/widths"), QVariantMap{{QStringLiteral("d"), 123}});
+    kept.setValue(QStringLiteral("tables/Main1.List2/sort"), QStringLiteral("d"));
+    return name;
+  }
+  static QString head(TableWindow& table, int column) {
+    return rows(table).model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+  }
+};
+
+TEST_F(KeptTableTest, HasColumnsOrderAndWidthsOfTheLastRunAndSpeaksTheLanguage) {
+  auto& table = open();
+  constexpr int d = 4;
+  constexpr int absent = 11;
+  EXPECT_EQ(head(table, absent - 1), QStringLiteral("m"));
+  EXPECT_EQ(rows(table).columnWidth(d), 123);
+  EXPECT_LT(cell(table, 0, d).toDouble(), cell(table, 20, d).toDouble());
+  choose(table, "Systematic absences");
+  EXPECT_EQ(rows(table).columnWidth(d), 123);
+  rows(table).setColumnWidth(0, 77);
+  sort(table, d);
+  const auto value = [](const char* name) {
+    const QSettings kept(name_of_file(), QSettings::IniFormat);  // Qt shares what has not been written yet
+    return kept.value(QStringLiteral("tables/Main1.List2/") + QLatin1String(name));
+  };
+  EXPECT_EQ(value("columns").toStringList().size(), 2);
+  EXPECT_EQ(value("widths").toMap().value(QStringLiteral("h")).toInt(), 77);
+  EXPECT_TRUE(value("descending").toBool());
+
+  use_language(QStringLiteral("de"));
+  QApplication::processEvents();
+  EXPECT_EQ(head(table, absent), QStringLiteral("fehlt"));
+  QTest::keyClicks(table.findChild<QLineEdit*>(), QStringLiteral("Fehlt=extinct"));
+  const int found = rows(table).model()->rowCount();
+  EXPECT_GT(found, 0);
+  EXPECT_LT(found, main1().List2.list_count());
+  QTest::keyClick(&rows(table), Qt::Key_C, Qt::ControlModifier);
+  EXPECT_TRUE(QGuiApplication::clipboard()->text().contains(QStringLiteral("absent")));
+  QTest::keyClick(&rows(table), Qt::Key_F1);
+  const auto all = QApplication::topLevelWidgets();
+  EXPECT_TRUE(std::any_of(all.begin(), all.end(), [](QWidget* top) { return top->inherits("zol::Guide"); }));
 }
 
 TEST_F(TableWindowTest, LinesThatShouldNotBePickedAskFirst) {

@@ -2,6 +2,8 @@
 #include <map>
 #include <set>
 
+#include <QCheckBox>
+#include <QComboBox>
 #include <QFile>
 #include <QGroupBox>
 #include <QLabel>
@@ -11,6 +13,7 @@
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QStatusBar>
 
@@ -179,19 +182,44 @@ TEST_P(Translated, LeavesNoTextInEnglish) {
   }
 }
 
-TEST_P(Translated, FitsTheScreenAndCutsNothing) {
+/// English too.
+class Shown : public Translated {};
+INSTANTIATE_TEST_SUITE_P(Windows, Shown,
+                         testing::Combine(testing::ValuesIn(window_names()), testing::Values("en", "de", "fr")),
+                         [](const auto& of) { return std::get<0>(of.param) + "_" + std::get<1>(of.param); });
+
+/// What a part needs to show all of its text; 0: it has none, or adapts to its room.
+int width_wanted(const QWidget& part) {
+  if (part.property("wordWrap").toBool() || qobject_cast<const QProgressBar*>(&part) != nullptr) return 0;
+  const auto width_of = [&part](const QString& text) {
+    return part.fontMetrics().size(Qt::TextShowMnemonic, text).width();
+  };
+  if (const auto* group = qobject_cast<const QGroupBox*>(&part)) return width_of(group->title());
+  const auto* button = qobject_cast<const QAbstractButton*>(&part);
+  const bool has_mark = qobject_cast<const QCheckBox*>(&part) != nullptr ||
+                        qobject_cast<const QRadioButton*>(&part) != nullptr ||
+                        qobject_cast<const QComboBox*>(&part) != nullptr;
+  if (has_mark) return part.sizeHint().width();
+  constexpr int gap = 4;
+  const int text = width_of(part.property("text").toString());
+  if (button == nullptr || button->icon().isNull()) return text;
+  return text == 0 ? button->iconSize().width() : button->iconSize().width() + gap + text;
+}
+
+TEST_P(Shown, FitsTheScreenAndCutsNothing) {
   use_language(language());
   QMainWindow& window = shown_top();
-  window.resize(1, 1);
-  settle();
+  for (int i = 0; i < 2; ++i) {  // what becomes narrow lets the rest become narrower
+    window.resize(1, 1);
+    settle();
+  }
   for (auto* part : window.findChildren<QWidget*>()) {
-    const QString text = part->property("text").toString();
-    const bool adapts = part->property("wordWrap").toBool() || qobject_cast<QProgressBar*>(part) != nullptr;
-    if (!part->isVisible() || text.isEmpty() || adapts) continue;
-    EXPECT_GE(part->width(), part->fontMetrics().size(Qt::TextShowMnemonic, text).width()) << text.toStdString();
+    if (!part->isVisible() || part->objectName().startsWith(u"qt_")) continue;
+    EXPECT_GE(part->width(), width_wanted(*part))
+        << part->objectName().toStdString() << ' ' << part->property("text").toString().toStdString();
   }
   const std::set<std::string> narrow{"Main1", "Pattern2", "PATTERN3", "Xd"};
-  if (narrow.count(std::get<0>(GetParam()))) {
+  if (narrow.count(std::get<0>(GetParam())) && language() != QLatin1String("en")) {
     EXPECT_LE(window.minimumSizeHint().width(), 676);
     EXPECT_LE(window.minimumSizeHint().height(), 734);
     window.resize(1358, 734);  // with its frame as wide as a small screen

@@ -57,6 +57,7 @@ void CanvasView::attach(Canvas& canvas, UserEvents& events) {
 
 void CanvasView::refresh() {
   up_to_date_ = false;
+  before_ = {};
   if (canvas_ != nullptr && canvas_->window().mouse_pointer() != MousePointer::Hourglass) {
     setCursor(canvas_->mouse_pointer() == MousePointer::CrossHair ? Qt::CrossCursor : Qt::ArrowCursor);
   }
@@ -89,20 +90,23 @@ QPointF CanvasView::user_position(const QPointF& position) const {
           scale.top + (position.y() - place.top()) / place.height() * (scale.bottom - scale.top)};
 }
 
-/// Some of what is not there yet: a long list takes many repaints, between which the windows answer.
+/// Some of what is not there yet: a long list takes many repaints, between which the windows answer. A picture that
+/// follows the pointer is whole before it moves on.
 void CanvasView::draw_some(bool all) {
-  constexpr qint64 at_once_ms = 10;
+  painting_->set_rough(tools_->dragging());
+  const qint64 at_once_ms = tools_->dragging() ? 200 : 20;
   QElapsedTimer clock;
   clock.start();
   try {
-    up_to_date_ = painting_->go_on([&clock, all] { return !all && clock.elapsed() > at_once_ms; });
+    up_to_date_ = painting_->go_on([&clock, all, at_once_ms] { return !all && clock.elapsed() > at_once_ms; });
   } catch (const RunFailure&) {  // no room to draw, or too large an image: nothing to show, and no event to fail
     QPixmap empty(painting_->pixmap().size());
     empty.fill(to_qt(canvas_->back_colour()));
     painting_.emplace(*canvas_, std::move(empty));
     up_to_date_ = true;
   }
-  constexpr int pause_ms = 5;
+  constexpr int pause_ms = 2;
+  if (up_to_date_) before_ = {};
   if (!up_to_date_) QTimer::singleShot(pause_ms, this, qOverload<>(&QWidget::update));
 }
 
@@ -116,6 +120,7 @@ void CanvasView::paint() {
   if (device_size.isEmpty()) return;
   if (!painting_ || painting_->pixmap().size() != device_size) {
     painting_.emplace(*canvas_, QPixmap(device_size));
+    before_ = {};
     up_to_date_ = false;
   }
   QPainter painter(this);
@@ -124,7 +129,7 @@ void CanvasView::paint() {
       backingStore() != nullptr && painter.paintEngine()->paintDevice() == backingStore()->paintDevice();
   if (on_screen) paint_mat(painter);
   if (!up_to_date_) draw_some(!on_screen);
-  painter.drawPixmap(place, painting_->pixmap(), QRectF(QPointF(), QSizeF(device_size)));
+  painter.drawPixmap(place, before_.isNull() ? painting_->pixmap() : before_, QRectF(QPointF(), QSizeF(device_size)));
   paint_layers(painter, place);
   painter.setPen(palette().color(QPalette::WindowText));
   if (canvas_->x_axis) draw_x_ruler(painter, place);
@@ -297,7 +302,7 @@ void CanvasView::keyPressEvent(QKeyEvent* event) {
 void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::RightButton || !std::exchange(pressed_, false) || picture_rect().isEmpty()) return;
   if (canvas_->loupe) update();
-  if (tools_->release(*event)) return;
+  if (tools_->release(*event)) return smooth();
   if (const auto held = tools_->take_held()) {  // no drag came of it
     pressed_ = true;
     press_at(*held);
@@ -314,6 +319,14 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
     return events_->act(canvas_->window(), std::move(click), {canvas_->warn_click});
   }
   events_->enter(canvas_->window(), mouse_event("release", event->position(), &Canvas::release));
+}
+
+/// Behind a drag; what was drawn shows until all is smooth.
+void CanvasView::smooth() {
+  if (!up_to_date_ || !painting_ || !painting_->rough()) return;
+  before_ = painting_->pixmap();
+  up_to_date_ = false;
+  update();
 }
 
 void CanvasView::mouseDoubleClickEvent(QMouseEvent* event) {

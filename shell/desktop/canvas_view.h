@@ -80,6 +80,7 @@ class CanvasView : public QWidget {
   [[nodiscard]] UserEvent mouse_event(const char* name, const QPointF& position,
                                       void (Canvas::*fire)(double, double) const);
   void draw_some(bool all);
+  void smooth();
   [[nodiscard]] bool shows_something() const;
   /// Room for the rulers around the picture.
   [[nodiscard]] QMarginsF ruler_margins() const;
@@ -105,6 +106,7 @@ class CanvasView : public QWidget {
   std::function<std::string()> file_name_;
   std::unique_ptr<PictureTools> tools_;
   std::optional<CanvasPainting> painting_;
+  QPixmap before_;  ///< shown in its place as long as it is not whole; mostly null
   bool up_to_date_ = false;
 };
 

@@ -41,6 +41,9 @@ static void init_resources() { Q_INIT_RESOURCE(desktop); }
 namespace zol {
 namespace {
 
+constexpr qint64 least_work_ms = 50;   // between two breaths
+constexpr qint64 most_step_ms = 1000;  // of a drag, which shows no half drawn pictures unless it takes longer
+
 /// Makes the picture widget, and lists that leave room for a note, beside those that Qt knows.
 class UiLoader : public QUiLoader {
  public:
@@ -116,8 +119,13 @@ Desktop::Desktop(Windows& windows, std::function<void(const std::string&)> faile
                   [this](const UserEvent& event) { return latin1_to_qt(step_of(event, windows_).name); }}),
       events_(gate_) {
   windows_.set_view(this);
-  gate_.set_follow([this](const UserEvent& event) { long_work_.begin(event); },
-                   [this](bool stopped) { long_work_.end(stopped); });
+  gate_.set_follow(
+      [this](const UserEvent& event) {
+        if (!event.joins.empty()) since_breath_.start();
+        if (event.joins.empty() != (work_ms_ != most_step_ms)) work_ms_ = event.joins.empty() ? 0 : most_step_ms;
+        long_work_.begin(event);
+      },
+      [this](bool stopped) { long_work_.end(stopped); });
   if (auto* application = dynamic_cast<GuardedApplication*>(QCoreApplication::instance())) {
     application->set_failed([this](const std::exception_ptr& failure) { gate_.fail(failure); });
   }
@@ -211,6 +219,7 @@ void Desktop::window_created(Window& window) {
 void Desktop::offer_guide(QWidget& widget) {
   const QString page = widget.property("guidePage").toString();
   auto* shortcut = new QShortcut(QKeySequence::HelpContents, &widget);
+  shortcut->setObjectName(QStringLiteral("help"));  // the tables of its lists have it too
   connect(shortcut, &QShortcut::activated, this, [this, page] {
     if (!guide_) guide_ = std::make_unique<Guide>();
     guide_->open(page);
@@ -319,9 +328,8 @@ void Desktop::breathe() {
   // What is left out waits in the queue of the window system, where it would not be seen again until something comes
   // behind it; once the bar is there nothing is left out.
   QCoreApplication::processEvents(long_work_.shown() ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
-  constexpr qint64 least_ms = 50;
   constexpr qint64 share = 4;  // a picture that takes long to paint is painted less often
-  work_ms_ = std::max(least_ms, share * since_breath_.elapsed());
+  work_ms_ = std::max(least_work_ms, share * since_breath_.elapsed());
   since_breath_.start();
 }
 

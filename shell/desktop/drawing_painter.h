@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <optional>
+#include <utility>
 
 #include <QColor>
 #include <QFont>
@@ -37,6 +38,12 @@ class CanvasPainting {
   /// @param pixmap  of the size of the view
   CanvasPainting(Canvas& canvas, QPixmap pixmap) : canvas_(canvas), pixmap_(std::move(pixmap)) {}
 
+  /// For pictures that follow the pointer: where the view enlarges the picture, lines have no smoothing and are as thin
+  /// as the screen can show them, which is several times as quick. They are drawn anew when that ends.
+  void set_rough(bool rough) {
+    if (std::exchange(rough_, rough && pixmap_.width() > canvas_.pixel_width()) && !rough) begun_ = false;
+  }
+  [[nodiscard]] bool rough() const { return rough_; }
   /// Draws until all is there or the answer is true. @returns whether all is there
   /// @throws RunFailure  the picture has a fault
   bool go_on(const std::function<bool()>& enough);
@@ -49,6 +56,7 @@ class CanvasPainting {
   Canvas& canvas_;
   QPixmap pixmap_;
   bool begun_ = false;
+  bool rough_ = false;
   unsigned redrawn_ = 0;   ///< Canvas::redrawn() when the list was begun
   std::size_t drawn_ = 0;  ///< entries of the list
   UserScale scale_;        ///< in force after those

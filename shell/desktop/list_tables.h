@@ -14,7 +14,9 @@ namespace zol {
 
 class ListTables : public QObject {
  public:
-  ListTables(Services& services, UserEvents& events) : services_(services), events_(events) {}
+  /// @param settings  where tables keep what they show; nullptr: nowhere
+  ListTables(Services& services, UserEvents& events, QSettings* settings)
+      : services_(services), events_(events), settings_(settings) {}
 
   /// A window has come into being, and its lists are tied to their views.
   void add(Window& window, QMainWindow& top);
@@ -26,6 +28,7 @@ class ListTables : public QObject {
 
   Services& services_;
   UserEvents& events_;
+  QSettings* settings_;
   std::vector<QPointer<TableWindow>> tables_;  ///< each goes with the window of its list
 };
 

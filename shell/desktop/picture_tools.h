@@ -33,6 +33,8 @@ class PictureTools : public QObject {
   bool move(const QMouseEvent& event);
   bool release(const QMouseEvent& event);
   bool key(const QKeyEvent& event);
+  /// The picture follows the pointer.
+  [[nodiscard]] bool dragging() const { return dragging_; }
   /// A press that may become a drag, to be handed to the picture when the button goes up before it did.
   [[nodiscard]] std::optional<QPointF> take_held() { return std::exchange(held_, std::nullopt); }
 

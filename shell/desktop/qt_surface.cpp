@@ -200,8 +200,17 @@ QImage load_image(StoreReader& in) {
 QtSurface::QtSurface(int width, int height) : image_(new_image(width, height)) {}
 
 QImage& QtSurface::pixels() {
+  pen_.reset();
   deep_ = {};
   return image_;
+}
+
+QPainter& QtSurface::pen() {
+  if (!pen_) {
+    pen_ = std::make_unique<QPainter>(&pixels());
+    pen_->setClipRect(image_.rect());  // Qt draws lines five times as quick with a clip as without
+  }
+  return *pen_;
 }
 
 void QtSurface::fill(Colour colour) { pixels().fill(to_qt(colour)); }
@@ -213,7 +222,7 @@ void QtSurface::line(double x1, double y1, double x2, double y2, Colour colour) 
   constexpr double margin = 2.0;
   const auto inside = clipped({x1, y1, x2, y2}, QRectF(image_.rect()).adjusted(-margin, -margin, margin, margin));
   if (!inside) return;
-  QPainter painter(&pixels());
+  QPainter& painter = pen();
   painter.setPen(QPen(to_qt(colour), 1));
   painter.drawLine(to_pixel(inside->x1()), to_pixel(inside->y1()), to_pixel(inside->x2()), to_pixel(inside->y2()));
 }
@@ -222,7 +231,7 @@ void QtSurface::circle(double x, double y, double radius, Colour outline, std::o
   const QRectF box(x - radius, y - radius, 2 * radius, 2 * radius);
   constexpr double largest = 1e6;
   if (!(radius < largest) || !box.adjusted(-1, -1, 1, 1).intersects(QRectF(image_.rect()))) return;
-  QPainter painter(&pixels());
+  QPainter& painter = pen();
   painter.setPen(QPen(to_qt(outline), 1));
   painter.setBrush(fill ? QBrush(to_qt(*fill)) : QBrush(Qt::NoBrush));
   constexpr double one_pixel = 0.75;
@@ -271,8 +280,7 @@ std::unique_ptr<Surface> QtSurface::mirrored(bool left_to_right, bool upside_dow
 void QtSurface::load(const std::string& path) {
   constexpr std::size_t most_bytes = most_picture_pixels * 4 + (std::size_t{1} << 20);
   const QImage read = read_picture(path, read_file(path, most_bytes));
-  image_ = read.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-  deep_ = {};
+  pixels() = read.convertToFormat(QImage::Format_ARGB32_Premultiplied);
   constexpr int depth_of_colours = 64;
   if (read.format() == QImage::Format_Grayscale16) deep_ = read;
   if (read.depth() >= depth_of_colours) deep_ = read.convertToFormat(QImage::Format_RGBA64_Premultiplied);
@@ -294,7 +302,7 @@ void QtSurface::store(StoreWriter& out) const {
 void QtSurface::load(StoreReader& in) {
   QImage image = load_image(in);
   if (image.format() != QImage::Format_ARGB32_Premultiplied) StoreReader::fail("a picture has another depth");
-  image_ = std::move(image);
+  pixels() = std::move(image);
   deep_ = zol::load<bool>(in) ? load_image(in) : QImage();
   if (!deep_.isNull() && deep_.size() != image_.size()) StoreReader::fail("a picture has two sizes");
 }

@@ -1,7 +1,10 @@
 // A pixel image in memory. Lines, discs and points have no anti-aliasing, so that their pixels can be read back.
 #pragma once
 
+#include <memory>
+
 #include <QImage>
+#include <QPainter>
 
 #include "shell/services/canvas.h"
 
@@ -34,9 +37,12 @@ class QtSurface final : public Surface {
   QtSurface(QImage image, QImage deep) : image_(std::move(image)), deep_(std::move(deep)) {}
   /// To be changed.
   [[nodiscard]] QImage& pixels();
+  /// Of lines and circles: one for many of them, since it takes longer to begin one than to draw a line.
+  [[nodiscard]] QPainter& pen();
 
   QImage image_;
-  QImage deep_;  ///< the same of 16 bits, where it was loaded so; otherwise null
+  QImage deep_;                    ///< the same of 16 bits, where it was loaded so; otherwise null
+  std::unique_ptr<QPainter> pen_;  ///< goes before the image that it draws on
 };
 
 /// Writes an image to a file of a kind that Qt knows ("BMP", "PNG"), whole or not at all.

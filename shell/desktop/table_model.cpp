@@ -6,6 +6,7 @@
 #include <QFont>
 
 #include "shell/desktop/drawing_painter.h"
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/qt_text.h"
 
 namespace zol {
@@ -21,7 +22,7 @@ void TableModel::read(const TableChoices& chosen) {
 
 void TableModel::set_filter(const QString& text) {
   beginResetModel();
-  filter_ = text.toStdString();
+  filter_ = text;
   arrange();
   endResetModel();
 }
@@ -36,7 +37,24 @@ void TableModel::sort(int column, Qt::SortOrder order) {
 
 void TableModel::arrange() {
   cut_row_ = -1;
-  shown_ = table_.arranged(sorted_by(), order_ == Qt::DescendingOrder, filter_);
+  shown_ = table_.arranged(sorted_by(), order_ == Qt::DescendingOrder, english_filter());
+}
+
+QString TableModel::name(int column) const { return QString::fromStdString(table_.column(column).name); }
+
+std::string TableModel::english_filter() const {
+  QStringList words = filter_.split(u' ');
+  for (QString& word : words) {
+    const auto is_sign = [](QChar c) { return c == u'<' || c == u'>' || c == u'='; };
+    const auto sign = std::find_if(word.cbegin(), word.cend(), is_sign) - word.cbegin();
+    const QString typed = word.left(sign);
+    for (int i = 0; i < table_.columns() && sign < word.size(); ++i) {
+      if (column_named(typed) >= 0 || shown(name(i)).compare(typed, Qt::CaseInsensitive) != 0) continue;
+      word.replace(0, sign, name(i));
+      break;
+    }
+  }
+  return words.join(u' ').toStdString();
 }
 
 int TableModel::row_of(int line) const {
@@ -109,8 +127,11 @@ QVariant TableModel::data(const QModelIndex& index, int role) const {
 QVariant TableModel::headerData(int section, Qt::Orientation orientation, int role) const {
   if (orientation == Qt::Vertical || section < 0 || section >= columnCount()) return {};
   const ListColumn& column = table_.column(section);
-  if (role == Qt::DisplayRole) return QString::fromStdString(table_.head(section));
-  if (role == Qt::ToolTipRole) return QString::fromStdString(column.hint);
+  if (role == Qt::DisplayRole) {
+    const QString unit = QString::fromStdString(column.unit);
+    return shown(name(section)) + (unit.isEmpty() ? QString() : QStringLiteral(" (%1)").arg(unit));
+  }
+  if (role == Qt::ToolTipRole) return shown(QString::fromStdString(column.hint));
   if (role != Qt::TextAlignmentRole) return {};
   return static_cast<int>(Qt::AlignVCenter | (column.kind == ListColumn::Number ? Qt::AlignRight : Qt::AlignLeft));
 }

@@ -19,13 +19,21 @@ class TableModel : public QAbstractTableModel {
 
   /// Reads the lines anew, with the columns that are asked for.
   void read(const TableChoices& chosen);
+  /// Columns are known by the names that are shown, and by the English ones.
   void set_filter(const QString& text);
   /// @param column  -1: in the order of the list
   void sort(int column, Qt::SortOrder order) override;
+  /// Before the first reading.
+  void sort_by(const QString& name, Qt::SortOrder order) {
+    sorted_by_ = name.toStdString();
+    order_ = order;
+  }
   /// The column by which it is sorted, -1: none.
   [[nodiscard]] int sorted_by() const { return table_.column_named(sorted_by_); }
   [[nodiscard]] Qt::SortOrder order() const { return order_; }
 
+  [[nodiscard]] QString name(int column) const;  ///< in English, as in files and copies
+  [[nodiscard]] int column_named(const QString& name) const { return table_.column_named(name.toStdString()); }
   [[nodiscard]] QStringList heads() const;
   [[nodiscard]] int line_of(int row) const { return table_.line_of(shown_[static_cast<std::size_t>(row)]); }
   /// The row that shows a line of the list now, -1 when none does.
@@ -43,11 +51,12 @@ class TableModel : public QAbstractTableModel {
   void arrange();
   [[nodiscard]] QString cell(int row, int column) const;
   [[nodiscard]] QVariant of_line(int line, int role) const;
+  [[nodiscard]] std::string english_filter() const;
 
   const ListBox& list_;
   ListTable table_;
   std::vector<int> shown_;  ///< rows of the table
-  std::string filter_;
+  QString filter_;
   std::string sorted_by_;  ///< name of a column
   Qt::SortOrder order_ = Qt::AscendingOrder;
   mutable int cut_row_ = -1;  ///< whose cells are known

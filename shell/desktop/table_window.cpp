@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <utility>
 
 #include <QAction>
 #include <QApplication>
@@ -12,6 +13,8 @@
 #include <QMenu>
 #include <QPushButton>
 #include <QScreen>
+#include <QSettings>
+#include <QShortcut>
 #include <QVBoxLayout>
 
 #include "core/atomic_file.h"
@@ -22,11 +25,17 @@
 
 namespace zol {
 
-TableWindow::TableWindow(ListBox& list, QWidget& owner, Services& services, UserEvents& events)
-    : QWidget(&owner, Qt::Window), list_(list), services_(services), events_(events), model_(list, this) {
+TableWindow::TableWindow(ListBox& list, QWidget& owner, Services& services, UserEvents& events, QSettings* settings)
+    : QWidget(&owner, Qt::Window),
+      list_(list),
+      services_(services),
+      events_(events),
+      settings_(settings),
+      model_(list, this) {
   setObjectName(QString::fromStdString(list.name() + "Table"));
   setWindowTitle(tr("Table: %1").arg(QString::fromStdString(list.table->title)));
   lay_out();
+  take_kept();
   tie();
   owner.installEventFilter(this);
 }
@@ -87,7 +96,13 @@ void TableWindow::tie() {
     model_.set_filter(text);
     show_after_change();
   });
-  connect(view_.horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, [this] { show_after_change(); });
+  connect(view_.horizontalHeader(), &QHeaderView::sortIndicatorChanged, this, [this](int column, Qt::SortOrder order) {
+    keep("sort", column < 0 ? QString() : model_.name(column));
+    keep("descending", order == Qt::DescendingOrder);
+    show_after_change();
+  });
+  connect(view_.horizontalHeader(), &QHeaderView::sectionResized, this,
+          [this](int column, int /*before*/, int width) { keep_width(column, width); });
   connect(&view_, &QTableView::clicked, this, [this](const QModelIndex& index) { pick(index.row()); });
   connect(view_.selectionModel(), &QItemSelectionModel::currentRowChanged, this,
           [this](const QModelIndex& current, const QModelIndex& /*previous*/) {
@@ -109,6 +124,9 @@ void TableWindow::tie() {
     filter_.setFocus(Qt::ShortcutFocusReason);
     filter_.selectAll();
   });
+  if (auto* help = parentWidget()->findChild<QShortcut*>(QStringLiteral("help"))) {
+    add_command(tr("User &guide"), QKeySequence::HelpContents, [help] { emit help->activated(); });
+  }
   add_command(tr("C&lose"), QKeySequence(Qt::CTRL | Qt::Key_W), [this] { close(); });
   fill_columns_menu();
 }
@@ -131,6 +149,9 @@ void TableWindow::fill_columns_menu() {
     action->setChecked(chosen_.contains(caption));
     connect(action, &QAction::toggled, this, [this, caption](bool on) {
       on ? void(chosen_.insert(caption)) : void(chosen_.erase(caption));
+      QStringList captions;
+      for (const auto& one : chosen_) captions += QString::fromStdString(one);
+      keep("columns", captions);
       read();
     });
   }
@@ -139,10 +160,11 @@ void TableWindow::fill_columns_menu() {
 void TableWindow::open() {
   const bool first = read_revision_ < 0;
   if (first) {
-    constexpr int least = 480;
-    constexpr int height = 520;
-    resize(least, height);
+    constexpr QSize usual(480, 520);
+    const QSize last = kept("size").toSize();
+    resize(usual);
     read();
+    if (last.isValid()) resize(last.boundedTo(screen()->availableSize()));
     place_beside(*this, *parentWidget());
   }
   show();
@@ -161,12 +183,56 @@ void TableWindow::read() {
     const QSignalBlocker quiet(view_.horizontalHeader());
     view_.horizontalHeader()->setSortIndicator(model_.sorted_by(), model_.order());
   }
-  if (model_.heads() != heads_before) {
-    view_.resizeColumnsToContents();
-    show_all_columns();
-  }
+  if (model_.heads() != heads_before) fit_columns();
   showing_ = false;
   show_after_change();
+}
+
+/// To their contents, apart from those that the user has drawn to another width.
+void TableWindow::fit_columns() {
+  const bool showing = std::exchange(showing_, true);
+  view_.resizeColumnsToContents();
+  for (int i = 0; i < model_.columnCount(); ++i) {
+    if (const int width = widths_.value(model_.name(i)).toInt(); width > 0) view_.setColumnWidth(i, width);
+  }
+  show_all_columns();
+  showing_ = showing;
+}
+
+QString TableWindow::key(const char* what) const {
+  return QStringLiteral("tables/") + QString::fromStdString(list_.path()) + u'/' + QLatin1String(what);
+}
+
+QVariant TableWindow::kept(const char* what) const {
+  return settings_ == nullptr ? QVariant() : settings_->value(key(what));
+}
+
+void TableWindow::keep(const char* what, const QVariant& value) {
+  if (settings_ != nullptr) settings_->setValue(key(what), value);
+}
+
+void TableWindow::take_kept() {
+  for (const QString& caption : kept("columns").toStringList()) chosen_.insert(caption.toStdString());
+  widths_ = kept("widths").toMap();
+  model_.sort_by(kept("sort").toString(), kept("descending").toBool() ? Qt::DescendingOrder : Qt::AscendingOrder);
+}
+
+void TableWindow::keep_width(int column, int width) {
+  if (showing_ || width <= 0) return;
+  widths_[model_.name(column)] = width;
+  keep("widths", widths_);
+}
+
+void TableWindow::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  if (isVisible() && !isMaximized() && !showing_) keep("size", size());
+}
+
+void TableWindow::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() != QEvent::LanguageChange || read_revision_ < 0) return;
+  read();  // the filter may name columns
+  fit_columns();
 }
 
 /// Grows to the right, and where the screen ends there, to the left.

@@ -7,12 +7,14 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QTableView>
+#include <QVariantMap>
 #include <QWidget>
 
 #include "shell/desktop/table_model.h"
 #include "shell/desktop/user_events.h"
 
 class QMenu;
+class QSettings;
 
 namespace zol {
 
@@ -21,7 +23,8 @@ class TableWindow : public QWidget {
 
  public:
   /// @param owner  the window that holds the list; it goes with that one
-  TableWindow(ListBox& list, QWidget& owner, Services& services, UserEvents& events);
+  /// @param settings  where columns, order, widths and size are kept between runs; nullptr: nowhere
+  TableWindow(ListBox& list, QWidget& owner, Services& services, UserEvents& events, QSettings* settings);
 
   /// Comes to the front.
   void open();
@@ -31,6 +34,8 @@ class TableWindow : public QWidget {
  protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   void lay_out();
@@ -38,6 +43,12 @@ class TableWindow : public QWidget {
   void add_command(const QString& text, const QKeySequence& keys, const std::function<void()>& run);
   void fill_columns_menu();
   void read();
+  void take_kept();
+  [[nodiscard]] QString key(const char* what) const;
+  [[nodiscard]] QVariant kept(const char* what) const;
+  void keep(const char* what, const QVariant& value);
+  void keep_width(int column, int width);
+  void fit_columns();
   void show_all_columns();
   void show_after_change();
   void show_line();
@@ -51,12 +62,14 @@ class TableWindow : public QWidget {
   ListBox& list_;
   Services& services_;
   UserEvents& events_;
+  QSettings* settings_;
   TableModel model_;
   QTableView view_;
   QLineEdit filter_;
   QLabel count_;
   QMenu* columns_ = nullptr;
   TableChoices chosen_;
+  QVariantMap widths_;  ///< of columns that were drawn to another one, by their English names
   int read_revision_ = -1;
   int shown_line_ = -1;
   bool showing_ = false;

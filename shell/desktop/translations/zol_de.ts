@@ -6077,5 +6077,169 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <source>the cell is too small: more than %1 cells lie within %2 angstroms of an atom; expected are fewer</source>
         <translation>die Zelle ist zu klein: mehr als %1 Zellen liegen innerhalb von %2 Ångström um ein Atom; erwartet sind weniger</translation>
     </message>
+    <message>
+        <source>Pattern centre of the detector software: bruker, edax, oxford or emsoft and its three numbers</source>
+        <translation>Zentrum, wie die Software des Detektors es angibt: bruker, edax, oxford oder emsoft und seine drei Zahlen</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>symbol</source>
+        <translation>Symbol</translation>
+    </message>
+    <message>
+        <source>label</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>element</source>
+        <translation>Element</translation>
+    </message>
+    <message>
+        <source>occupancy</source>
+        <translation>Besetzung</translation>
+    </message>
+    <message>
+        <source>absent</source>
+        <translation>fehlt</translation>
+    </message>
+    <message>
+        <source>form</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>family</source>
+        <translation>Familie</translation>
+    </message>
+    <message>
+        <source>listed</source>
+        <translation>gelistet</translation>
+    </message>
+    <message>
+        <source>sum %1</source>
+        <translation>Summe %1</translation>
+    </message>
+    <message>
+        <source>latitude</source>
+        <translation>Breite</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>atom</source>
+        <translation>Atom</translation>
+    </message>
+    <message>
+        <source>shortest</source>
+        <translation>kürzester</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>longest</source>
+        <translation>längster</translation>
+    </message>
+    <message>
+        <source>next</source>
+        <translation>nächster</translation>
+    </message>
+    <message>
+        <source>distance</source>
+        <translation>Abstand</translation>
+    </message>
+    <message>
+        <source>centre</source>
+        <translation>Mitte</translation>
+    </message>
+    <message>
+        <source>angle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>taken</source>
+        <translation>benutzt</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>Bandbreite</translation>
+    </message>
+    <message>
+        <source>strength</source>
+        <translation>Stärke</translation>
+    </message>
+    <message>
+        <source>matched</source>
+        <translation>erklärt</translation>
+    </message>
+    <message>
+        <source>bands</source>
+        <translation>Bänder</translation>
+    </message>
+    <message>
+        <source>corr</source>
+        <translation>Korr</translation>
+    </message>
+    <message>
+        <source>conf</source>
+        <translation>Konf</translation>
+    </message>
+    <message>
+        <source>solved by</source>
+        <translation>gelöst durch</translation>
+    </message>
+    <message>
+        <source>atom 1</source>
+        <translation>Atom 1</translation>
+    </message>
+    <message>
+        <source>atom 2</source>
+        <translation>Atom 2</translation>
+    </message>
+    <message>
+        <source>element 1</source>
+        <translation>Element 1</translation>
+    </message>
+    <message>
+        <source>element 2</source>
+        <translation>Element 2</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>Abw.</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>Nr.</translation>
+    </message>
+    <message>
+        <source>Distances</source>
+        <translation>Abstände</translation>
+    </message>
+    <message>
+        <source>Merge equivalents</source>
+        <translation>Gleichwertige zusammenfassen</translation>
+    </message>
+    <message>
+        <source>User &amp;guide</source>
+        <translation>Hand&amp;buch</translation>
+    </message>
+    <message>
+        <source>angle between two bands, computed less measured</source>
+        <translation>Winkel zwischen zwei Bändern, berechnet minus gemessen</translation>
+    </message>
+    <message>
+        <source>master pattern: %1 weights for %2 voltages</source>
+        <translation>Masterpattern: %1 Gewichte für %2 Spannungen</translation>
+    </message>
+    <message>
+        <source>master pattern: the weights of voltages must be 0 and above, and one above 0</source>
+        <translation>Masterpattern: Gewichte von Spannungen müssen 0 oder größer sein und eines über 0</translation>
+    </message>
 </context>
 </TS>

@@ -6077,5 +6077,169 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <source>the cell is too small: more than %1 cells lie within %2 angstroms of an atom; expected are fewer</source>
         <translation>la maille est trop petite : plus de %1 mailles se trouvent à moins de %2 ångströms d'un atome ; il en faut moins</translation>
     </message>
+    <message>
+        <source>Pattern centre of the detector software: bruker, edax, oxford or emsoft and its three numbers</source>
+        <translation>Centre du cliché donné par le logiciel du détecteur : bruker, edax, oxford ou emsoft et ses trois nombres</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>numéro</translation>
+    </message>
+    <message>
+        <source>symbol</source>
+        <translation>symbole</translation>
+    </message>
+    <message>
+        <source>label</source>
+        <translation>nom</translation>
+    </message>
+    <message>
+        <source>element</source>
+        <translation>élément</translation>
+    </message>
+    <message>
+        <source>occupancy</source>
+        <translation>occupation</translation>
+    </message>
+    <message>
+        <source>absent</source>
+        <translation>absente</translation>
+    </message>
+    <message>
+        <source>form</source>
+        <translation>forme</translation>
+    </message>
+    <message>
+        <source>family</source>
+        <translation>famille</translation>
+    </message>
+    <message>
+        <source>listed</source>
+        <translation>listées</translation>
+    </message>
+    <message>
+        <source>sum %1</source>
+        <translation>somme %1</translation>
+    </message>
+    <message>
+        <source>latitude</source>
+        <translation>latitude</translation>
+    </message>
+    <message>
+        <source>grey</source>
+        <translation>gris</translation>
+    </message>
+    <message>
+        <source>atom</source>
+        <translation>atome</translation>
+    </message>
+    <message>
+        <source>shortest</source>
+        <translation>plus courte</translation>
+    </message>
+    <message>
+        <source>mean</source>
+        <translation>moyenne</translation>
+    </message>
+    <message>
+        <source>longest</source>
+        <translation>plus longue</translation>
+    </message>
+    <message>
+        <source>next</source>
+        <translation>suivante</translation>
+    </message>
+    <message>
+        <source>distance</source>
+        <translation>distance</translation>
+    </message>
+    <message>
+        <source>centre</source>
+        <translation>centre</translation>
+    </message>
+    <message>
+        <source>angle</source>
+        <translation>angle</translation>
+    </message>
+    <message>
+        <source>taken</source>
+        <translation>prise</translation>
+    </message>
+    <message>
+        <source>width</source>
+        <translation>largeur</translation>
+    </message>
+    <message>
+        <source>strength</source>
+        <translation>force</translation>
+    </message>
+    <message>
+        <source>matched</source>
+        <translation>expliquées</translation>
+    </message>
+    <message>
+        <source>bands</source>
+        <translation>bandes</translation>
+    </message>
+    <message>
+        <source>corr</source>
+        <translation>corr</translation>
+    </message>
+    <message>
+        <source>conf</source>
+        <translation>conf</translation>
+    </message>
+    <message>
+        <source>solved by</source>
+        <translation>résolu par</translation>
+    </message>
+    <message>
+        <source>atom 1</source>
+        <translation>atome 1</translation>
+    </message>
+    <message>
+        <source>atom 2</source>
+        <translation>atome 2</translation>
+    </message>
+    <message>
+        <source>element 1</source>
+        <translation>élément 1</translation>
+    </message>
+    <message>
+        <source>element 2</source>
+        <translation>élément 2</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>écart</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>n°</translation>
+    </message>
+    <message>
+        <source>Distances</source>
+        <translation>Distances</translation>
+    </message>
+    <message>
+        <source>Merge equivalents</source>
+        <translation>Réunir les équivalents</translation>
+    </message>
+    <message>
+        <source>User &amp;guide</source>
+        <translation>&amp;Guide</translation>
+    </message>
+    <message>
+        <source>angle between two bands, computed less measured</source>
+        <translation>angle entre deux bandes, calculé moins mesuré</translation>
+    </message>
+    <message>
+        <source>master pattern: %1 weights for %2 voltages</source>
+        <translation>diagramme maître : %1 poids pour %2 tensions</translation>
+    </message>
+    <message>
+        <source>master pattern: the weights of voltages must be 0 and above, and one above 0</source>
+        <translation>diagramme maître : les poids des tensions doivent être positifs ou nuls, et l'un au moins positif</translation>
+    </message>
 </context>
 </TS>
