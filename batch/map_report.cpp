@@ -96,10 +96,12 @@ std::string decisions_text(const MapJob& job) {
     text += "likeness: length " + fixed(job.indexer->likeness(), 3) + " for an own share of " +
             short_text(job.settings.own_share, 3) + '\n';
   }
-  for (const auto& model : job.models) {
+  for (std::size_t i = 0; i < job.models.size(); ++i) {
+    const CrystalModel& model = job.models[i];
     text += model.title + ": " +
-            std::to_string(std::count(model.families_used.begin(), model.families_used.end(), true)) +
-            " families vote, " + std::to_string(model.reflectors.members.size()) + " planes are drawn\n";
+            std::to_string(std::count(model.families_used.begin(), model.families_used.end(), true)) + " families vote";
+    if (job.settings.refinement == Refinement::pattern) text += ", fitted to " + job.fitted_to[i];
+    text += '\n';
   }
   return text;
 }

@@ -240,6 +240,7 @@ double MasterPattern::at(const GridDirection& direction, std::size_t pattern) co
 MasterPattern master_pattern(const DynamicCrystal& crystal, const MasterSettings& settings, Task& task) {
   MasterPattern master;
   master.choice = master_choice(crystal, settings);
+  task.expect(master_effort(crystal, settings));
   master.size = settings.size;
   master.kilovolts = settings.kilovolts;
   master.cell = crystal.cell;
