@@ -20,6 +20,9 @@ constexpr double as_good = 0.85;
 /// Spread of a picture in steps of its grey values below which it shows nothing but their rounding, 0.29.
 constexpr double least_contrast = 0.5;
 
+/// A gathered pixel is saturated where all of its pixels are; their mean is rounded.
+constexpr double nearly_all = 1 - 1e-6;
+
 std::size_t index(int n) { return static_cast<std::size_t>(n); }
 
 /// How smooth a picture is: the mean correlation of pixels with those beside and below them. It is the mean cosine of
@@ -80,13 +83,16 @@ MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std
                        const MapSettings& settings)
     : scan_(scan),
       grid_(grid),
+      reader_(scan, grid_, settings.index.preparation.most_pixels, settings.flip),
       centres_(std::move(centres)),
       models_(std::move(models)),
       settings_(settings),
       picture_from_sample_(
           picture_from_sample(settings.geometry.sample_tilt_deg - settings.geometry.detector_tilt_deg)),
-      saturated_(static_cast<float>(std::ldexp(1.0, std::min(scan.header().bits, 24)) - 1)),
-      rounding_(scan.header().whole ? 1.0F / 12 : 0.0F) {
+      saturated_(static_cast<float>((std::ldexp(1.0, std::min(scan.header().bits, 24)) - 1) * nearly_all)),
+      rounding_(scan.header().whole
+                    ? 1.0F / static_cast<float>(12 * reader_.gathering().side * reader_.gathering().side)
+                    : 0.0F) {
   settings_.index.fit_picture = settings.refinement == Refinement::pattern;
   settings_.index.vote.turn_onto_bands = settings.refinement != Refinement::none;
   auto [left, top, width, height] = settings.region;
@@ -106,15 +112,15 @@ MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std
   }
 }
 
-/// Smaller for large patterns, so that a tile with its margin takes no more than some memory.
+/// Smaller for many pixels, so that a tile with its margin takes no more than some memory.
 std::array<int, 2> MapIndexer::tile_size() const {
-  constexpr std::size_t most_bytes = std::size_t{192} << 20U;
+  constexpr std::size_t most_bytes = std::size_t{40} << 20U;
   constexpr int least_columns = 8;
   constexpr int least_rows = 2;
   int columns = tile_columns;
   int rows = tile_rows;
   const auto too_large = [&] {
-    return index(columns + 2 * margin()) * index(rows + 2 * margin()) * scan_.header().pixels() * sizeof(float) >
+    return index(columns + 2 * margin()) * index(rows + 2 * margin()) * reader_.gathering().pixels() * sizeof(float) >
            most_bytes;
   };
   while (too_large() && columns > least_columns) columns /= 2;
@@ -124,30 +130,7 @@ std::array<int, 2> MapIndexer::tile_size() const {
 
 void MapIndexer::read_tile(const MapTile& tile, int margin, Worker& worker) {
   const Timed timed(worker.times.reading);
-  const std::size_t pixels = scan_.header().pixels();
-  PatternTile& into = worker.tile;
-  into.columns = tile.columns + 2 * margin;
-  into.rows = tile.rows + 2 * margin;
-  into.pixels = pixels;
-  into.values.assign(index(into.columns) * index(into.rows) * pixels, 0);
-  into.present.assign(index(into.columns) * index(into.rows), 0);
-  const std::lock_guard lock(reading_);
-  for (int row = 0; row < into.rows; ++row) {
-    const int map_row = tile.row - margin + row;
-    const int first = std::max(0, tile.column - margin);
-    const int last = std::min(grid_.columns - 1, tile.column + tile.columns + margin - 1);
-    const auto begin = grid_.point(first, map_row);
-    if (!begin) continue;
-    const int end = grid_.point(last, map_row) ? last : last - 1;
-    if (end < first) continue;
-    scan_.read(*begin, index(end - first + 1), worker.block);
-    for (int i = 0; i <= end - first; ++i) {
-      const std::size_t to = into.place(first - (tile.column - margin) + i, row);
-      const auto pattern = std::as_const(worker.block).pattern(index(i));
-      std::copy(pattern.begin(), pattern.end(), into.values.begin() + static_cast<std::ptrdiff_t>(to * pixels));
-      into.present[to] = worker.block.present[index(i)];
-    }
-  }
+  reader_.read(tile, margin, worker.block, worker.tile);
 }
 
 void MapIndexer::prepare(Task& task) {
@@ -183,6 +166,11 @@ void MapIndexer::find_background(Task& task) {
     if (used < least) background_.clear();
     for (float& value : background_) value /= static_cast<float>(used);
   }
+  if (!background_.empty()) {
+    std::vector<float> reduced(reader_.gathering().pixels());
+    reader_.reduce(background_, reduced);
+    background_ = std::move(reduced);
+  }
   background_mean_ = 0;
   for (const float value : background_) background_mean_ += static_cast<double>(value);
   background_mean_ /= static_cast<double>(std::max<std::size_t>(background_.size(), 1));
@@ -213,13 +201,11 @@ void MapIndexer::find_likeness(Task& task) {
   likeness_ = length_of_likeness(distances, settings_.own_share);
 }
 
-/// The pattern of a place of the worker's tile as it is indexed: averaged, without background, turned upside down so
-/// that its frame is right-handed.
+/// The pattern of a place of the worker's tile as it is indexed: averaged, without background.
 void MapIndexer::pattern_of(int column, int row, Worker& worker) const {
   const Timed timed(worker.times.averaging);
   const PatternTile& tile = worker.tile;
   worker.pattern.resize(tile.pixels);
-  worker.picture.resize(tile.pixels);
   if (settings_.averaging == Averaging::likeness) {
     worker.likeness.average(column, row, likeness_, worker.pattern);
   } else {
@@ -243,13 +229,6 @@ void MapIndexer::pattern_of(int column, int row, Worker& worker) const {
     const auto scale = static_cast<float>(mean / static_cast<double>(tile.pixels) / background_mean_);
     for (std::size_t i = 0; i < tile.pixels; ++i) worker.pattern[i] -= scale * background_[i];
   }
-  const std::size_t width = index(scan_.header().width);
-  const std::size_t height = index(scan_.header().height);
-  for (std::size_t y = 0; y < height; ++y) {
-    const std::size_t from = settings_.flip ? y : height - 1 - y;
-    std::copy_n(worker.pattern.begin() + static_cast<std::ptrdiff_t>(from * width), width,
-                worker.picture.begin() + static_cast<std::ptrdiff_t>(y * width));
-  }
 }
 
 /// Points about a tile that its own ones are averaged with.
@@ -262,15 +241,14 @@ bool MapIndexer::shows_something(const Worker& worker) const {
   return !scan_.header().whole || worker.indexer.prepared().contrast() >= least_contrast;
 }
 
-bool MapIndexer::take_point(std::size_t point, Worker& worker, Task& task) {
+bool MapIndexer::take_point(std::size_t point, Worker& worker) {
   const int margin = this->margin();
   const auto [column, row] = grid_.place(point);
   read_tile({column, row, 1, 1}, margin, worker);
   if (worker.tile.present[worker.tile.place(margin, margin)] == 0) return false;
   if (settings_.averaging == Averaging::likeness) worker.likeness.look_at(worker.tile);
   pattern_of(margin, margin, worker);
-  const PictureView picture{worker.picture, scan_.header().width, scan_.header().height};
-  return worker.indexer.take(picture, settings_.index, task) && shows_something(worker);
+  return worker.indexer.take(worker.pattern, reader_.gathering(), settings_.index) && shows_something(worker);
 }
 
 void MapIndexer::index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task) {
@@ -307,11 +285,10 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
                                     Task& task) const {
   PointResult result;
   const PictureSize size{scan_.header().width, scan_.header().height, 1};
-  const PictureView picture{worker.picture, size.width, size.height};
   PatternIndexer& indexer = worker.indexer;
   {
     const Timed timed(worker.times.preparing);
-    if (!indexer.take(picture, settings_.index, task)) return result;
+    if (!indexer.take(worker.pattern, reader_.gathering(), settings_.index)) return result;
     if (!shows_something(worker)) return result;
     result.quality = smoothness(indexer.prepared());
   }

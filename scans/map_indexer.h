@@ -8,7 +8,6 @@
 
 #include <array>
 #include <functional>
-#include <mutex>
 #include <span>
 #include <vector>
 
@@ -16,6 +15,7 @@
 #include "scans/map_geometry.h"
 #include "scans/map_result.h"
 #include "scans/neighbour_average.h"
+#include "scans/tile_reader.h"
 
 namespace zol {
 
@@ -50,11 +50,6 @@ struct StepTimes {
   StepTimes& operator+=(const StepTimes& other);
 };
 
-/// A part of the map that is worked on at once.
-struct MapTile {
-  int column = 0, row = 0, columns = 0, rows = 0;
-};
-
 /// @param scan  read by one thread at a time
 class MapIndexer {
  public:
@@ -86,7 +81,7 @@ class MapIndexer {
     PatternTile tile;
     LikenessAverage likeness;
     PatternIndexer indexer;
-    std::vector<float> pattern, picture;
+    std::vector<float> pattern;
     StepTimes times;
   };
   [[nodiscard]] Worker make_worker() const { return {saturated_, rounding_}; }
@@ -94,7 +89,7 @@ class MapIndexer {
   void index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task);
   /// Makes the pattern of one point ready in the worker's indexer, as the map has it.
   /// @returns false where there is none, or it is blank
-  [[nodiscard]] bool take_point(std::size_t point, Worker& worker, Task& task);
+  [[nodiscard]] bool take_point(std::size_t point, Worker& worker);
 
  private:
   struct Guess;
@@ -109,14 +104,14 @@ class MapIndexer {
   [[nodiscard]] std::array<int, 2> tile_size() const;
 
   Scan& scan_;
-  std::mutex reading_;
   ScanGrid grid_;
+  TileReader reader_;
   MapCentres centres_;
   std::vector<const CrystalModel*> models_;
   MapSettings settings_;
   Rotation picture_from_sample_;
   std::vector<MapTile> tiles_;
-  std::vector<float> background_;  ///< empty: none
+  std::vector<float> background_;  ///< as patterns are worked on; empty: none
   double background_mean_ = 0;
   BackgroundKind background_kind_ = BackgroundKind::none;
   double likeness_ = 0;
