@@ -131,14 +131,15 @@ void check_map(const MapJob& job, int threads, Task& task) {
   area.rows = tiles.back().row + tiles.back().rows - area.row;
   MapIndexer::Worker worker = job.indexer->make_worker();
   std::vector<Look> looks;
-  std::vector<PointResult> found;
   std::size_t points = 0;
   std::size_t indexed = 0;
   const auto start = std::chrono::steady_clock::now();
   constexpr int places = 9;
   for (int i = 0; i < places; ++i) {
     const auto [tile, column, row] = sample_of(area, i);
-    job.indexer->index_tile(tile, worker, found, task);
+    TileState state;
+    job.indexer->index_tile(tile, worker, state, task);
+    const auto& found = state.found;
     const auto at = static_cast<std::size_t>((row - tile.row) * tile.columns + column - tile.column);
     looks.push_back({{column, row}, found[at]});
     points += found.size();

@@ -72,13 +72,6 @@ StepTimes& StepTimes::operator+=(const StepTimes& other) {
   return *this;
 }
 
-/// An orientation that was found beside a point.
-struct MapIndexer::Guess {
-  const CrystalModel* model = nullptr;
-  Rotation crystal_from_picture = Rotation::Identity();
-  double correlation = 0;
-};
-
 MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std::vector<const CrystalModel*> models,
                        const MapSettings& settings)
     : scan_(scan),
@@ -251,38 +244,38 @@ bool MapIndexer::take_point(std::size_t point, Worker& worker) {
   return worker.indexer.take(worker.pattern, reader_.gathering(), settings_.index) && shows_something(worker);
 }
 
-void MapIndexer::index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task) {
+void MapIndexer::index_tile(const MapTile& tile, Worker& worker, TileState& state, Task& task,
+                            const std::function<void()>& after_point) {
   const int margin = this->margin();
   read_tile(tile, margin, worker);
   if (settings_.averaging == Averaging::likeness) {
     const Timed timed(worker.times.averaging);
     worker.likeness.look_at(worker.tile);
   }
-  found.assign(index(tile.columns) * index(tile.rows), {});
-  std::vector<Guess> known(found.size());
-  std::vector<Guess> guesses;
-  for (int row = 0; row < tile.rows; ++row) {
-    for (int column = 0; column < tile.columns; ++column) {
-      task.check();
-      const auto point = grid_.point(tile.column + column, tile.row + row);
-      const std::size_t here = index(row) * index(tile.columns) + index(column);
-      if (!point || worker.tile.present[worker.tile.place(column + margin, row + margin)] == 0) {
-        found[here].missing = 1;
-        continue;
-      }
-      pattern_of(column + margin, row + margin, worker);
-      guesses.clear();
-      if (column > 0 && known[here - 1].model != nullptr) guesses.push_back(known[here - 1]);
-      if (row > 0 && known[here - index(tile.columns)].model != nullptr) {
-        guesses.push_back(known[here - index(tile.columns)]);
-      }
-      found[here] = index_point(*point, guesses, worker, known[here], task);
+  const auto across = index(tile.columns);
+  state.found.resize(across * index(tile.rows));
+  state.known.resize(state.found.size());
+  std::vector<KnownOrientation> guesses;
+  for (std::size_t& here = state.done; here < state.found.size(); after_point()) {
+    task.check();
+    const int column = static_cast<int>(here % across);
+    const int row = static_cast<int>(here / across);
+    const auto point = grid_.point(tile.column + column, tile.row + row);
+    if (!point || worker.tile.present[worker.tile.place(column + margin, row + margin)] == 0) {
+      state.found[here++].missing = 1;
+      continue;
     }
+    pattern_of(column + margin, row + margin, worker);
+    guesses.clear();
+    if (column > 0 && state.known[here - 1].model >= 0) guesses.push_back(state.known[here - 1]);
+    if (row > 0 && state.known[here - across].model >= 0) guesses.push_back(state.known[here - across]);
+    state.found[here] = index_point(*point, guesses, worker, state.known[here], task);
+    ++here;
   }
 }
 
-PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> guesses, Worker& worker, Guess& known,
-                                    Task& task) const {
+PointResult MapIndexer::index_point(std::size_t point, std::span<const KnownOrientation> guesses, Worker& worker,
+                                    KnownOrientation& known, Task& task) const {
   PointResult result;
   const PictureSize size{scan_.header().width, scan_.header().height, 1};
   PatternIndexer& indexer = worker.indexer;
@@ -294,17 +287,20 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
   }
   const PatternCentre centre = upside_down(centres_.at(point), size);
   const bool on_picture = settings_.index.fit_picture;
-  Guess best;
+  KnownOrientation best;
+  const auto model_of = [this](const KnownOrientation& one) -> const CrystalModel& {
+    return *models_[index(one.model)];
+  };
   PictureFit best_fit;
   int bands = 0;
   double fit_deg = 0;
   bool settled = false;
   if (on_picture) {
     const Timed timed(worker.times.trying);
-    for (const Guess& guess : guesses) {
-      const PictureFit fit = indexer.fit(*guess.model, guess.crystal_from_picture, centre, settings_.index);
+    for (const KnownOrientation& guess : guesses) {
+      const PictureFit fit = indexer.fit(model_of(guess), guess.crystal_from_picture, centre, settings_.index);
       if (fit.correlation <= best.correlation) continue;
-      best = {guess.model, fit.crystal_from_picture, fit.correlation};
+      best = {guess.model, fit.correlation, fit.crystal_from_picture};
       best_fit = fit;
       settled = fit.correlation >= as_good * guess.correlation;
       if (settled) break;
@@ -314,22 +310,23 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
     const Timed timed(worker.times.finding);
     for (const IndexSolution& solution : indexer.index_taken(centre, models_, settings_.index, task)) {
       if (on_picture && solution.correlation <= best.correlation) continue;
-      if (!on_picture && best.model != nullptr) break;  // they stand in order
-      best = {solution.model, solution.crystal_from_picture, on_picture ? solution.correlation : solution.confidence};
+      if (!on_picture && best.model >= 0) break;  // they stand in order
+      best = {static_cast<int>(std::find(models_.begin(), models_.end(), solution.model) - models_.begin()),
+              on_picture ? solution.correlation : solution.confidence, solution.crystal_from_picture};
       bands = solution.matched;
       fit_deg = solution.mean_deviation_deg;
       best_fit = {};
     }
-    if (on_picture && best.model != nullptr && bands > 0) {
-      best_fit = indexer.fit(*best.model, best.crystal_from_picture, centre, settings_.index);
+    if (on_picture && best.model >= 0 && bands > 0) {
+      best_fit = indexer.fit(model_of(best), best.crystal_from_picture, centre, settings_.index);
       best.crystal_from_picture = best_fit.crystal_from_picture;
       best.correlation = best_fit.correlation;
     }
   }
-  if (best.model == nullptr) return result;
+  if (best.model < 0) return result;
   if (on_picture) {
     best_fit.crystal_from_picture = best.crystal_from_picture;
-    best_fit = indexer.settle(*best.model, best_fit, centre, settings_.index);
+    best_fit = indexer.settle(model_of(best), best_fit, centre, settings_.index);
     best.crystal_from_picture = best_fit.crystal_from_picture;
   }
   if (on_picture) fit_deg = std::hypot(best_fit.errors[0], best_fit.errors[1], best_fit.errors[2]);
@@ -341,8 +338,7 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
   for (std::size_t i = 0; i < 3; ++i) {
     result.bunge_rad[i] = static_cast<float>(angles[i] * std::numbers::pi / 180);
   }
-  const auto phase = std::find(models_.begin(), models_.end(), best.model) - models_.begin();
-  result.phase = static_cast<std::int8_t>(phase + 1);
+  result.phase = static_cast<std::int8_t>(best.model + 1);
   known = best;
   return result;
 }

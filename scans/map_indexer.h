@@ -50,6 +50,20 @@ struct StepTimes {
   StepTimes& operator+=(const StepTimes& other);
 };
 
+/// An orientation that was found at a point, to be tried at its neighbours.
+struct KnownOrientation {
+  int model = -1;  ///< its number; -1: none
+  double correlation = 0;
+  Rotation crystal_from_picture = Rotation::Identity();
+};
+
+/// How far a tile is. What follows depends on it alone, so that another run can go on with it.
+struct TileState {
+  std::size_t done = 0;                 ///< points, row by row
+  std::vector<PointResult> found;       ///< of the whole tile
+  std::vector<KnownOrientation> known;  ///< of the whole tile; a row of it is looked back at
+};
+
 /// @param scan  read by one thread at a time
 class MapIndexer {
  public:
@@ -85,19 +99,21 @@ class MapIndexer {
     StepTimes times;
   };
   [[nodiscard]] Worker make_worker() const { return {saturated_, rounding_}; }
-  /// What is found in a tile, row by row. Many threads may call it, each with a worker of its own.
-  void index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task);
+  /// Goes on with a tile to its end. Many threads may call it, each with a worker of its own.
+  /// @param after_point  is called after each point
+  void index_tile(
+      const MapTile& tile, Worker& worker, TileState& state, Task& task,
+      const std::function<void()>& after_point = [] {});
   /// Makes the pattern of one point ready in the worker's indexer, as the map has it.
   /// @returns false where there is none, or it is blank
   [[nodiscard]] bool take_point(std::size_t point, Worker& worker);
 
  private:
-  struct Guess;
   void read_tile(const MapTile& tile, int margin, Worker& worker);
   void find_background(Task& task);
   void find_likeness(Task& task);
-  PointResult index_point(std::size_t point, std::span<const Guess> guesses, Worker& worker, Guess& known,
-                          Task& task) const;
+  PointResult index_point(std::size_t point, std::span<const KnownOrientation> guesses, Worker& worker,
+                          KnownOrientation& known, Task& task) const;
   void pattern_of(int column, int row, Worker& worker) const;
   [[nodiscard]] bool shows_something(const Worker& worker) const;
   [[nodiscard]] int margin() const;
