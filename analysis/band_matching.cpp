@@ -4,6 +4,7 @@
 #include <cmath>
 #include <string_view>
 
+#include "analysis/former_solutions.h"
 #include "analysis/zone_azimuth.h"
 #include "core/cell_geometry.h"
 #include "core/number_text.h"
@@ -34,7 +35,8 @@ class Matcher {
         bands_(bands),
         measured_deg_{bands.BandAngle(0), bands.BandAngle(1), bands.BandAngle(2)},
         settings_(settings),
-        tolerance_deg_(settings.angle_tolerance) {}
+        tolerance_deg_(settings.angle_tolerance),
+        former_(table) {}
 
   /// The first row from here to the last one whose angles fit, last + 1 when there is none.
   template <class Passed>
@@ -136,7 +138,7 @@ class Matcher {
                 SolvedBy solved_by) {
     const SingleTriple direction = in_whole_numbers(solved);
     if (!sense_of_rotation_fits(planes, direction)) return Verdict::Rejected;
-    if (settings_.omit_equivalents && has_equivalent(row)) return Verdict::Omitted;
+    if (settings_.omit_equivalents && former_.has_equivalent(row)) return Verdict::Omitted;
     record(row, direction, solved_by);
     return Verdict::Listed;
   }
@@ -169,27 +171,6 @@ class Matcher {
     return fits || settings_.only_triangle;
   }
 
-  /// The indices do not count, nor does the direction.
-  [[nodiscard]] bool has_equivalent(int row) const {
-    return std::any_of(matching_.solutions.begin(), matching_.solutions.end(),
-                       [this, row](const Solution& former) { return is_equivalent(row, former.row); });
-  }
-
-  [[nodiscard]] bool is_equivalent(int row, int former) const {
-    const auto off = [](Single value, Single of_former, std::string_view what) {
-      constexpr double tolerance = 0.001;
-      return !(std::abs(1.0 - divide(value, of_former, what)) <= tolerance);
-    };
-    int differences = 0;
-    for (int c = 0; c < 3; ++c) {
-      differences += off(table_.TripleS(row, c), table_.TripleS(former, c), "TripleS of a former solution") ? 1 : 0;
-    }
-    for (int c = 0; c < 3; ++c) {
-      differences += off(table_.TripleI(row, c), table_.TripleI(former, c), "TripleI of a former solution") ? 1 : 0;
-    }
-    return differences == 0;
-  }
-
   void record(int row, const SingleTriple& direction, SolvedBy solved_by) {
     Solution solution;
     solution.number = static_cast<int>(matching_.solutions.size()) + 1;
@@ -210,6 +191,7 @@ class Matcher {
     }
     matching_.angle_error = sum;
     matching_.solutions.push_back(solution);
+    former_.add(row);
   }
 
   const CrystalState& state_;
@@ -220,6 +202,7 @@ class Matcher {
   double tolerance_deg_;
   Integer status_;
   Matching matching_;
+  FormerSolutions former_;
 };
 
 /// Each pair of reflections is looked at, each third one of a pair that fits, and the solution of what fits wholly; an

@@ -36,6 +36,10 @@ class TripleTable {
   [[nodiscard]] std::optional<Triple> triple(long long row) const {
     return indices_and_angles_.filled ? triple_of(row) : std::nullopt;
   }
+  /// The same for the tables of spacings and intensities, which keep their values when the other two are emptied.
+  [[nodiscard]] std::optional<Triple> measured_triple(long long row) const {
+    return lengths_and_intensities_.filled && row <= lengths_and_intensities_.upper ? triple_of(row) : std::nullopt;
+  }
   [[nodiscard]] std::size_t reflections() const { return planes_.size(); }
   /// Degrees between the normals of two reflections, from 0.
   [[nodiscard]] Single angle(std::size_t a, std::size_t b) const { return angles_[a * planes_.size() + b]; }
@@ -51,6 +55,7 @@ class TripleTable {
     Single intensity = 0;
     bool operator==(const Plane&) const = default;
   };
+  [[nodiscard]] const std::vector<Plane>& planes() const { return planes_; }
   TripleTable() = default;
   bool operator==(const TripleTable&) const = default;
   /// All of it, to be written and read.

@@ -7,10 +7,9 @@
 
 #include "core/number_text.h"
 #include "core/run_failure.h"
-#include "dynamics/master_cache.h"
 #include "dynamics/master_file.h"
 #include "dynamics/master_sphere.h"
-#include "shell/program/data_folders.h"
+#include "dynamics/master_view.h"
 
 namespace zol {
 namespace {
@@ -38,11 +37,9 @@ MasterPattern made_master(const MapMasterWords& words, const LoadedCrystal& crys
                           Task& task) {
   MasterSettings settings = settings_of(words, view.kilovolt);
   settings.threads = view.threads;
-  const std::string folder = cache_folder();
-  const MasterCache cache(folder.empty() ? "" : folder + "/masters");
   const DynamicCrystal dynamic = dynamic_of(crystal);
   suit_to_pixels(settings, dynamic, view.pixel_deg());
-  return cache.get(dynamic, settings, task);
+  return kept_master(dynamic, settings, task);
 }
 
 /// Why a pattern is not made unless it is asked for; empty: it is.

@@ -5,6 +5,7 @@
 #include <numbers>
 
 #include "core/number_text.h"
+#include "core/run_failure.h"
 
 namespace zol {
 namespace {
@@ -39,6 +40,7 @@ class Neighbours {
                              atom.position.w - site.position.w};
     const auto first = [limit](double from, double edge) { return std::ceil(-limit * edge - from); };
     const auto last = [limit](double from, double edge) { return std::floor(limit * edge - from); };
+    check_cells(limit);
     for (double p = first(apart.u, reciprocal_.a); p <= last(apart.u, reciprocal_.a); ++p) {
       for (double q = first(apart.v, reciprocal_.b); q <= last(apart.v, reciprocal_.b); ++q) {
         task_.check();
@@ -50,6 +52,15 @@ class Neighbours {
         }
       }
     }
+  }
+
+  /// A cell that is far too small, such as one with a mistyped edge, has more neighbours than anyone can wait for.
+  void check_cells(double limit) const {
+    constexpr double most_cells = 2e5;
+    const auto along = [limit](double edge) { return 1 + 2 * limit * edge; };
+    if (along(reciprocal_.a) * along(reciprocal_.b) * along(reciprocal_.c) <= most_cells) return;
+    throw RunFailure("the cell is too small: more than " + plain_text(most_cells) + " cells lie within " +
+                     plain_text(limit) + " angstroms of an atom; expected are fewer");
   }
 
   const BondedCrystal& crystal_;

@@ -51,7 +51,7 @@ struct Coordination {
 
 /// Of each site, in their order. Atoms nearer than 0.7 angstroms whose occupancies add up to 1 at most share a place:
 /// they are no neighbours. Checks and reports.
-/// @throws RunFailure  the cell constants make no cell
+/// @throws RunFailure  the cell constants make no cell, or one so small that too many others lie within reach
 /// @throws Cancelled   by the task
 [[nodiscard]] std::vector<Coordination> coordinations(const BondedCrystal& crystal, const BondSettings& settings,
                                                       Task& task);

@@ -11,11 +11,15 @@
 namespace zol {
 namespace {
 
-/// Ions of the table of X-rays have none in that of electrons, where the neutral atom stands.
-std::string without_charge(const std::string& element) {
+/// Ions and bonded atoms (Cval, Sival, Hiso) of the table of X-rays have none in that of electrons, where the neutral
+/// atom stands.
+std::string neutral_atom(const std::string& element) {
   std::size_t end = 0;
   while (end < element.size() && std::isalpha(static_cast<unsigned char>(element[end])) != 0) ++end;
-  return element.substr(0, end);
+  const std::string letters = element.substr(0, end);
+  constexpr std::size_t ending = 3;
+  const bool bonded = letters.ends_with("val") || letters.ends_with("iso");
+  return bonded ? letters.substr(0, end - ending) : letters;
 }
 
 AtomKind kind_of(const CrystalState& state, const std::string& element, double b_iso) {
@@ -77,7 +81,7 @@ void add_atoms(DynamicCrystal& crystal, const CrystalState& state) {
   std::vector<std::string> elements;
   std::set<std::string> assumed;
   for (int m = 1; m <= state.NCell.value(); ++m) {
-    const std::string element = without_charge(state.UCElement(m));
+    const std::string element = neutral_atom(state.UCElement(m));
     auto b_iso = static_cast<double>(state.UCB(m));
     if (!(b_iso > 0)) {
       b_iso = usual_b_iso;
@@ -101,7 +105,7 @@ void add_atoms(DynamicCrystal& crystal, const CrystalState& state) {
 void add_sites(DynamicCrystal& crystal, const CrystalState& state) {
   for (int n = 1; n <= state.NAtom.value(); ++n) {
     const auto b_iso = static_cast<double>(state.AtomB(n));
-    DynamicSite site{kind_of(state, without_charge(state.AtomElement(n)), b_iso).atomic_number,
+    DynamicSite site{kind_of(state, neutral_atom(state.AtomElement(n)), b_iso).atomic_number,
                      static_cast<double>(state.AtomOcc(n)),
                      {},
                      b_iso > 0 ? b_iso : usual_b_iso};

@@ -61,7 +61,6 @@ void write_settings(Hdf5Writer& out, const MasterPattern& master) {
   out.single(own_group + "depth_nm", master.choice.depth_nm);
   out.single(own_group + "smallest_spacing", master.choice.smallest_spacing);
   out.single<std::int32_t>(own_group + "beams", master.choice.beams);
-  out.text(own_group + "key", master.key);
 }
 
 [[noreturn]] void fail(const std::string& path, const std::string& why) {
@@ -186,7 +185,6 @@ MasterPattern read_master(const std::string& path) {
   master.patterns.push_back(
       {read_half(file, "mLPNH", voltages, highest, sides), read_half(file, "mLPSH", voltages, highest, sides)});
   read_crystal(file, master);
-  master.key = file.text(own_group + "key");
   const std::string spacing = "NMLparameters/EBSDMasterNameList/dmin";
   master.choice = {file.number(own_group + "smallest_spacing").value_or(file.number(spacing).value_or(0) * angstroms),
                    static_cast<int>(std::clamp(file.number(own_group + "beams").value_or(0), 0.0, 1e4)),

@@ -237,15 +237,20 @@ double MasterPattern::at(const GridDirection& direction, std::size_t pattern) co
   return upper + down * (lower - upper);
 }
 
-MasterPattern master_pattern(const DynamicCrystal& crystal, const MasterSettings& settings, Task& task) {
+MasterPattern empty_master(const DynamicCrystal& crystal, const MasterSettings& settings) {
   MasterPattern master;
   master.choice = master_choice(crystal, settings);
-  task.expect(master_effort(crystal, settings));
   master.size = settings.size;
   master.kilovolts = settings.kilovolts;
   master.cell = crystal.cell;
   master.sites = crystal.sites;
   master.space_group = crystal.space_group;
+  return master;
+}
+
+MasterPattern master_pattern(const DynamicCrystal& crystal, const MasterSettings& settings, Task& task) {
+  MasterPattern master = empty_master(crystal, settings);
+  task.expect({master_effort(crystal, settings).seconds / std::max(1, settings.threads), 0});
   const SquareGrid square(settings.size);
   // Rings a quarter closer than the square grid, from which it is read.
   const RingGrid rings(2 * (settings.size - 1) / 3 + 1);

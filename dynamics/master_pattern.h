@@ -36,7 +36,7 @@ struct MasterChoice {
 /// @throws RunFailure  a setting out of its range
 [[nodiscard]] MasterChoice master_choice(const DynamicCrystal& crystal, const MasterSettings& settings);
 
-/// What a pattern takes, within a factor of two. @throws RunFailure  a setting out of its range
+/// What a pattern takes a core, within a factor of two. @throws RunFailure  a setting out of its range
 [[nodiscard]] Effort master_effort(const DynamicCrystal& crystal, const MasterSettings& settings);
 
 /// 1: what atoms far apart would yield.
@@ -51,12 +51,14 @@ struct MasterPattern {
   CellConstants cell;
   std::vector<DynamicSite> sites;
   int space_group = 1;
-  std::size_t directions = 0;  ///< that were computed, of one voltage
-  std::string key;             ///< of what it was made of, where it is kept in a cache
+  std::size_t directions = 0;  ///< that were computed, of one voltage; 0 where it was read
 
   /// In a direction of any length but 0, linear between grid points. @param pattern  number of the voltage
   [[nodiscard]] double at(const GridDirection& direction, std::size_t pattern = 0) const;
 };
+
+/// All that such a pattern has beside its values. @throws RunFailure  as master_choice
+[[nodiscard]] MasterPattern empty_master(const DynamicCrystal& crystal, const MasterSettings& settings);
 
 /// The same bytes for any number of threads. Reports directions done, checks the task all the time.
 /// @throws RunFailure  a setting out of its range, an element or the cell that does not do

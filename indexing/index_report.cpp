@@ -33,6 +33,12 @@ std::array<double, 3> euler(const ReportedSolution& reported) {
   return bunge_deg(reported.solution->crystal_from_picture * picture_from_sample(reported.sample_tilt_deg));
 }
 
+std::string correlation_text(const ReportedSolution& reported) {
+  const std::string correlation = Format(reported.solution->correlation, "0.000");
+  if (!reported.kinematic) return correlation;
+  return correlation + " dynamical, " + Format(*reported.kinematic, "0.000") + " kinematic";
+}
+
 }  // namespace
 
 std::array<double, 3> middle_direction(const ReportedSolution& reported) {
@@ -67,7 +73,7 @@ std::vector<std::string> report_lines(const ReportedSolution& reported) {
                   "): " + numbers(euler(reported), decimals2) + " deg");
   lines.push_back("bands matched " + std::to_string(solution.matched) + " of " + std::to_string(reported.bands.size()) +
                   ", mean deviation " + Format(solution.mean_deviation_deg, decimals2) + " deg, correlation " +
-                  Format(solution.correlation, "0.000") + ", confidence " + Format(solution.confidence, decimals2));
+                  correlation_text(reported) + ", confidence " + Format(solution.confidence, decimals2));
   for (const MatchedBand& match : reported.matches) {
     const DetectedBand& band = reported.bands[static_cast<std::size_t>(match.band)];
     std::string line = "band " + std::to_string(match.band + 1) + ": azimuth " +
@@ -102,6 +108,7 @@ std::string report_json(const ReportedSolution& reported) {
   json["matched"] = solution.matched;
   json["mean_deviation_deg"] = solution.mean_deviation_deg;
   json["correlation"] = solution.correlation;
+  if (reported.kinematic) json["kinematic_correlation"] = *reported.kinematic;
   json["confidence"] = solution.confidence;
   json["bands"] = nlohmann::json::array();
   for (const MatchedBand& match : reported.matches) {

@@ -1,6 +1,7 @@
 // A solution in words and as JSON, to be pasted into a notebook or read by another program.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -17,6 +18,7 @@ struct ReportedSolution {
   PictureSize size;
   PatternCentre centre;  ///< of the picture as it is, turned upside down
   double sample_tilt_deg = 70;
+  std::optional<double> kinematic = std::nullopt;  ///< correlation of the drawn bands, where the fit was dynamical
 };
 
 /// Components [u v w] of the direction in the middle of the picture, the largest 1.

@@ -4,12 +4,16 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+#include <random>
 #include <tuple>
 #include <utility>
 #include <vector>
 
+#include "analysis/former_solutions.h"
 #include "analysis/triple_table.h"
 #include "analysis/zone_azimuth.h"
+#include "core/run_failure.h"
 #include "tests/cartesian_cell.h"
 #include "tests/crystals.h"
 #include "tests/recorded_task.h"
@@ -141,6 +145,39 @@ TEST_F(Matching, OmitsEquivalentsAndStopsForAdjustment) {
   EXPECT_EQ(match(), (std::vector{row(4)}));
   EXPECT_EQ(task.steps.back().first, row(4));
   EXPECT_EQ(solutions.SolutionTriple(2), row(5)) << "rows of the former run stay behind";
+}
+
+// Values of a few kinds within, on and beyond 0.1 per cent of each other, in some tables also 0.
+TEST(FormerSolutions, AreFoundAsByLookingAtEach) {
+  std::mt19937 random(7);
+  int equivalents = 0;
+  for (int trial = 0; trial < 60; ++trial) {
+    constexpr int count = 6;
+    const auto value = [&](bool zeros) {
+      constexpr std::array values{1.0F, 1.0009F, 1.001F, 1.0011F, -1.0F, 2.0F, 0.0F};
+      return values[random() % (values.size() - (zeros ? 0 : 1))];
+    };
+    std::vector<TripleTable::Plane> planes(count);
+    for (auto& plane : planes) plane = {{}, value(trial % 6 == 0), value(trial % 3 == 0)};
+    TripleTable table(count * count * count + 2, planes, std::vector<Single>(count * count));
+    if (trial % 2 == 0) table.empty_indices_and_angles(1);
+    FormerSolutions former(table);
+    for (int step = 0; step < 40; ++step) {
+      const int row = static_cast<int>(random() % (count * count * count + (trial % 5 == 0 ? 3 : 1)));
+      const auto result = [row](auto has_equivalent) {
+        try {
+          return has_equivalent(row) ? std::string("yes") : "no";
+        } catch (const RunFailure& failure) {
+          return failure.message();
+        }
+      };
+      const std::string plain = result([&former](int at) { return former.has_equivalent_plainly(at); });
+      ASSERT_EQ(result([&former](int at) { return former.has_equivalent(at); }), plain) << trial << ' ' << step;
+      equivalents += plain == "yes" ? 1 : 0;
+      former.add(row);
+    }
+  }
+  EXPECT_GT(equivalents, 100);
 }
 
 TEST_F(Matching, LinesAreAsLongAsTheirHeading) {

@@ -9,6 +9,7 @@
 
 #include "core/structure.h"
 #include "tests/recorded_task.h"
+#include "tests/test_files.h"
 
 namespace zol {
 namespace {
@@ -143,6 +144,15 @@ TEST(Bonds, AreLookedForAsFarAsTheLimitAsks) {
   split.atoms[1].occupancy = 0.25;
   split.sites[0].occupancy = 0.75;
   EXPECT_TRUE(coordinations(split, {1, 0}, quiet).front().bonds.empty());
+}
+
+// An edge of 1e-30 would be walked through for ever.
+TEST(Bonds, RefuseCellsTooSmall) {
+  QuietTask quiet;
+  for (const auto& cell : {CellConstants{1e-30, 4, 4, 90, 90, 90}, CellConstants{0.2, 0.2, 0.2, 90, 90, 90}}) {
+    const auto tiny = crystal_of(cell, {{"X", o}});
+    EXPECT_TRUE(fails_with("the cell is too small", [&] { (void)coordinations(tiny, {15, 0}, quiet); }));
+  }
 }
 
 }  // namespace

@@ -5,12 +5,15 @@
 #include <complex>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <numbers>
 
+#include "core/read_file.h"
 #include "core/run_failure.h"
 #include "dynamics/master_cache.h"
 #include "dynamics/master_file.h"
 #include "dynamics/master_sphere.h"
+#include "dynamics/master_view.h"
 #include "dynamics/potential.h"
 #include "tests/test_files.h"
 
@@ -423,6 +426,32 @@ TEST(MasterSphere, ReadsBothHalves) {
   EXPECT_EQ(master_sphere(master_pattern(face_centred(nickel), small(21), quiet), 1, quiet)->opposite(), 0);
 }
 
+// The table of X-rays has ions and bonded atoms, that of electrons neutral ones alone.
+TEST(CrystalOfAtoms, TakesNeutralOnes) {
+  CrystalState state;
+  state.CellA = state.CellB = state.CellC = 3.5667F;
+  state.CellAlpha = state.CellBeta = state.CellGamma = 90;
+  state.NAtom = state.NCell = state.AsfECount = 1;
+  state.UCOcc(1) = 1;
+  state.AsfE(1).Z = 6;
+  state.AsfE(1).A1 = state.AsfE(1).B1 = 1;
+  for (const auto& [element, neutral] : std::map<std::string, std::string>{
+           {"C", "C"}, {"Cval", "C"}, {"Sival", "Si"}, {"Hiso", "H"}, {"Fe3+", "Fe"}, {"V5+", "V"}}) {
+    state.UCElement(1) = state.AtomElement(1) = element;
+    state.AsfE(1).Element = neutral;
+    EXPECT_EQ(dynamic_crystal(state, nullptr).kinds.front().atomic_number, 6) << element;
+  }
+  EXPECT_EQ(failure_of([&state] {
+              state.AsfE(1).Element = "Ni";
+              (void)kept_master(state, nullptr, small(21), quiet);
+            }),
+            "the element V has no scattering factor for electrons");
+  state.NAtom = 0;
+  state.JcpdsCount = 1;
+  EXPECT_EQ(failure_of([&state] { (void)kept_master(state, nullptr, small(21), quiet); }),
+            "it has observed lines and no atoms");
+}
+
 TEST(MasterCache, KeepsWithinItsLimitAndMendsWhatIsDamaged) {
   const ScratchFolder folder;
   const std::string place = folder.path("masters");
@@ -432,17 +461,33 @@ TEST(MasterCache, KeepsWithinItsLimitAndMendsWhatIsDamaged) {
     for (const auto& entry : std::filesystem::directory_iterator(place)) found.push_back(entry.path());
     return found;
   };
-  const auto crystal = face_centred(nickel);
-  const auto first = cache.get(crystal, small(21), quiet);
+  const auto crystal = zinc_blende();
+  MasterSettings settings = small(21);
+  settings.kilovolts = {20, 15};
+  const auto first = cache.get(crystal, settings, quiet);
   ASSERT_EQ(files().size(), 1U);
-  EXPECT_EQ(cache.get(crystal, small(21), quiet).directions, 0U);  // read
-  std::ofstream(files().front()) << "damaged";
-  const auto mended = cache.get(crystal, small(21), quiet);
-  EXPECT_EQ(mended.patterns[0].north, first.patterns[0].north);
-  EXPECT_GT(mended.directions, 0U);
-  EXPECT_EQ(cache.get(crystal, small(21), quiet).directions, 0U);
+  std::string bytes = read_file(files().front().string());
+  char& middle = bytes[bytes.size() / 2];
+  middle = static_cast<char>(middle ^ 1);  // a bit on the disk
+  for (const std::string& damaged : {std::string("damaged"), bytes.substr(0, bytes.size() - 1), bytes}) {
+    const auto read = cache.get(crystal, settings, quiet);
+    EXPECT_EQ(read.directions, 0U);  // it was not made again
+    EXPECT_EQ(read.patterns[1].south, first.patterns[1].south);
+    EXPECT_EQ(read.sites.size(), first.sites.size());
+    std::ofstream(files().front()) << damaged;
+    const auto mended = cache.get(crystal, settings, quiet);
+    EXPECT_EQ(mended.patterns[0].north, first.patterns[0].north);
+    EXPECT_GT(mended.directions, 0U);
+  }
   (void)cache.get(crystal, small(23), quiet);
   EXPECT_EQ(files().size(), 1U);
+}
+
+// A file where the folder would be, as a disk that can't be written.
+TEST(MasterCache, DoesNoHarmWhereNothingCanBeKept) {
+  const ScratchFolder folder;
+  const MasterCache cache(folder.write("masters", "a file"));
+  EXPECT_GT(cache.get(face_centred(nickel), small(21), quiet).directions, 0U);
 }
 
 }  // namespace

@@ -1,8 +1,10 @@
 // Runs tests where numbers are written with a comma: no text of the program may follow.
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <clocale>
 #include <cstdlib>
+#include <filesystem>
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);
@@ -19,5 +21,11 @@ int main(int argc, char** argv) {
     return 1;
   }
 #endif
-  return RUN_ALL_TESTS();
+  // What is kept for the next time: of this run alone, not the user's.
+  const auto cache = std::filesystem::temp_directory_path() / ("zol-cache-" + std::to_string(getpid()));
+  setenv("XDG_CACHE_HOME", cache.c_str(), 1);
+  const int failed = RUN_ALL_TESTS();
+  std::error_code error;
+  std::filesystem::remove_all(cache, error);
+  return failed;
 }

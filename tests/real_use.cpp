@@ -444,6 +444,9 @@ void index_automatically(const User& user) {
   user.take_picture("PATTERN3", "automatic-indexing-bands");
   user.click("AutoIndex", "Over");
   user.save("simulated", "simulated.bmp", [&user] { user.choose("AutoIndex", "SaveSimulated"); });
+  for (const auto* button : {"Dynamical", "Index", "Show"}) user.click("AutoIndex", button);
+  expect(user.widget<QLabel>("AutoIndex", "Status").text().contains("dynamical"), "there is no dynamical fit");
+  user.choose("Pattern2", "DynamicalBands");
   user.window("AutoIndex").close();
 }
 

@@ -172,6 +172,19 @@ INSTANTIATE_TEST_SUITE_P(Scripts, Task, testing::ValuesIn(tasks()), [](const aut
   return name;
 });
 
+// Those with pictures in files, which the program itself reads.
+TEST(Script, PrintsWhatIsStoredOfPictures) {
+  const ScratchFolder folder;
+  const std::filesystem::path source = ZOL_SOURCE_DIR "/tests/scripts/pictures";
+  for (const auto& entry : std::filesystem::directory_iterator(source)) {
+    if (entry.path().extension() != ".zs") continue;
+    const std::string line =
+        "cd " ZOL_SOURCE_DIR " && " ZOL_SCRIPT " " + entry.path().string() + " >" + folder.path("out");
+    EXPECT_EQ(WEXITSTATUS(std::system(line.c_str())), 0) << line;  // NOLINT(cert-env33-c,concurrency-mt-unsafe)
+    EXPECT_EQ(folder.read("out"), read_file(std::filesystem::path(entry.path()).replace_extension(".out").string()));
+  }
+}
+
 // The script or the output can break off at any time: nothing of it is lost in silence.
 TEST(ScriptProgram, EndsWithItsStatusAndTellsWhatIsLost) {
   struct Row {

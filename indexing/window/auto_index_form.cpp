@@ -96,11 +96,16 @@ int IndexResult::next_number() {
   return ++last;
 }
 
+bool IndexResult::compared() const {
+  return std::any_of(solutions.begin(), solutions.end(), [](const Solution& solution) { return solution.dynamical; });
+}
+
 void Stored<IndexResult>::store(StoreWriter& out, const IndexResult& result) {
   zol::store(out, result.size);
   zol::store(out, result.centre);
   zol::store(out, result.bands);
   out.number(std::uint64_t{result.picked});
+  zol::store(out, result.drawn_instead);
   std::vector<const CrystalModel*> models;  // each once
   for (const auto& solution : result.solutions) {
     if (std::find(models.begin(), models.end(), solution.model.get()) == models.end()) {
@@ -124,6 +129,8 @@ void Stored<IndexResult>::store(StoreWriter& out, const IndexResult& result) {
       out.number(number);
     }
     zol::store(out, solution.matches);
+    zol::store(out, solution.dynamical);
+    out.number(solution.kinematic);
   }
 }
 
@@ -133,6 +140,7 @@ IndexResult Stored<IndexResult>::load(StoreReader& in) {
   result.centre = zol::load<PatternCentre>(in);
   result.bands = zol::load<std::vector<DetectedBand>>(in);
   result.picked = in.number<std::uint64_t>();
+  result.drawn_instead = zol::load<std::vector<std::string>>(in);
   std::vector<std::shared_ptr<const CrystalModel>> models;
   for (std::size_t left = in.count(); left > 0; --left) models.push_back(load_model(in));
   for (std::size_t left = in.count(); left > 0; --left) {
@@ -148,6 +156,8 @@ IndexResult Stored<IndexResult>::load(StoreReader& in) {
       *value = in.number<double>();
     }
     solution.matches = zol::load<std::vector<MatchedBand>>(in);
+    solution.dynamical = zol::load<bool>(in);
+    solution.kinematic = in.number<double>();
     const auto planes = static_cast<int>(solution.model->table->planes().size());
     const bool fits = solution.matches.size() == result.bands.size() &&
                       std::all_of(solution.matches.begin(), solution.matches.end(), [planes](const MatchedBand& match) {
@@ -202,29 +212,34 @@ void AutoIndexForm::declare_tables() {
                                         {"k", "", 3},
                                         {"l", "", 3},
                                         {"off", "°", 6, number, ' ', "from the plane of the picked solution"}})});
-  constexpr int u = 6;
   const auto hexagonal = [this](const ListCells& row) {
     const auto rank = static_cast<std::size_t>(Val(row[0]));
     if (rank < 1 || rank > result.solutions.size()) return false;
     const CellConstants& cell = result.solutions[rank - 1].model->reflectors.cell;
     return has_hexagonal_axes(cell.a, cell.b, cell.alpha, cell.beta, cell.gamma);
   };
-  Solutions.table = table({"Solutions",
-                           always({{"no"},
-                                   {"matched", "", 0, number, '/', "bands that are explained"},
-                                   {"bands"},
-                                   {"off", "°", 0, number, ' ', "mean deviation of the bands"},
-                                   {"corr", "", 0, number, ' ', "correlation with the picture"},
-                                   {"conf", "", 0, number, ' ', "confidence"},
-                                   {"u"},
-                                   {"v"},
-                                   {"w"},
-                                   {"phi1", "°"},
-                                   {"Phi", "°"},
-                                   {"phi2", "°"},
-                                   {"crystal", "", ListColumn::to_the_end, word}}),
-                           {},
-                           [hexagonal] { return std::vector{direction_columns(u, hexagonal)}; }});
+  const auto columns = [this] {
+    std::vector<ListColumn> all{{"no"},
+                                {"matched", "", 0, number, '/', "bands that are explained"},
+                                {"bands"},
+                                {"off", "°", 0, number, ' ', "mean deviation of the bands"},
+                                {"corr", "", 0, number, ' ', "correlation with the picture"}};
+    if (result.compared())
+      all.push_back({"kin", "", 0, number, ' ', "correlation of the drawn bands with the picture"});
+    all.insert(all.end(), {{"conf", "", 0, number, ' ', "confidence"},
+                           {"u"},
+                           {"v"},
+                           {"w"},
+                           {"phi1", "°"},
+                           {"Phi", "°"},
+                           {"phi2", "°"},
+                           {"crystal", "", ListColumn::to_the_end, word}});
+    return all;
+  };
+  const auto directions = [this, hexagonal] {
+    return std::vector{direction_columns(result.compared() ? 7 : 6, hexagonal)};
+  };
+  Solutions.table = table({"Solutions", columns, {}, directions});
 }
 
 void AutoIndexForm::name_fields() {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -31,18 +30,23 @@ struct IndexResult {
     std::shared_ptr<const CrystalModel> model;
     IndexSolution found;
     std::vector<MatchedBand> matches;
+    bool dynamical = false;  ///< fitted to the crystal's dynamical pattern
+    double kinematic = 0;    ///< correlation of the drawn bands in its place
   };
   PictureSize size;
   PatternCentre centre;  ///< of the picture as it is in PATTERN3
   std::vector<DetectedBand> bands;
   std::vector<Solution> solutions;
   std::size_t picked = 0;
-  int number = next_number();  ///< of the indexing: results with the same one are the same
+  std::vector<std::string> drawn_instead;  ///< of a dynamical fit: crystals without such a pattern, and why
+  int number = next_number();              ///< of the indexing: results with the same one are the same
   /// Another one at each call.
   [[nodiscard]] static int next_number();
   [[nodiscard]] bool operator==(const IndexResult& other) const {
     return number == other.number && picked == other.picked;
   }
+  /// Whether solutions have both correlations.
+  [[nodiscard]] bool compared() const;
   [[nodiscard]] const Solution* solution() const { return picked < solutions.size() ? &solutions[picked] : nullptr; }
 };
 
@@ -80,8 +84,10 @@ struct AutoIndexForm : Window {
   CommandButton ToggleFamily{*this, "ToggleFamily", "Leave out / take in"};
   Label BandsHeading{*this, "BandsHeading", " no  azimuth distance  width strength   h  k  l   off"};
   ListBox Bands{*this, "Bands"};
-  Label SolutionsHeading{*this, "SolutionsHeading",
-                         "no bands    off  corr. conf.      u      v      w   phi1    Phi   phi2"};
+  static constexpr auto solutions_heading = "no bands    off  corr. conf.      u      v      w   phi1    Phi   phi2";
+  static constexpr auto compared_heading =
+      "no bands    off  corr.   kin. conf.      u      v      w   phi1    Phi   phi2";
+  Label SolutionsHeading{*this, "SolutionsHeading", solutions_heading};
   ListBox Solutions{*this, "Solutions"};
 
   Canvas Simulated;
@@ -104,7 +110,6 @@ struct AutoIndexForm : Window {
   // Made again where they are missing
   std::vector<ReadyCrystal> ready;
   std::vector<ReadySphere> spheres;
-  std::optional<double> kinematic_correlation;  ///< of the best solution, where it was fitted dynamically
   PatternIndexer indexer;
 
  private:

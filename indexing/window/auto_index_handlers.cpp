@@ -1,7 +1,9 @@
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <utility>
 
+#include "dynamics/master_sphere.h"
 #include "indexing/index_report.h"
 #include "indexing/window/auto_index_form.h"
 #include "indexing/window/crystal_models.h"
@@ -49,8 +51,10 @@ IndexSettings settings_of(const AutoIndexForm& form) {
 }
 
 ReportedSolution reported(const AutoIndexForm& form, const IndexResult::Solution& solution) {
-  return {&solution.found,  form.result.bands,  solution.matches,
-          form.result.size, form.result.centre, Val(form.SampleTilt.text())};
+  ReportedSolution report{&solution.found,  form.result.bands,  solution.matches,
+                          form.result.size, form.result.centre, Val(form.SampleTilt.text())};
+  if (solution.dynamical) report.kinematic = solution.kinematic;
+  return report;
 }
 
 std::string signed_field(double value, std::size_t width, const char* format) {
@@ -81,6 +85,8 @@ void show_bands(AutoIndexForm& form) {
 
 void show_solutions(AutoIndexForm& form) {
   form.Solutions.clear();
+  const bool compared = form.result.compared();
+  form.SolutionsHeading.set_caption(compared ? AutoIndexForm::compared_heading : AutoIndexForm::solutions_heading);
   int rank = 0;
   for (const auto& solution : form.result.solutions) {
     const ReportedSolution report = reported(form, solution);
@@ -90,7 +96,9 @@ void show_solutions(AutoIndexForm& form) {
         right_field(std::to_string(++rank), 2) +
         right_field(std::to_string(solution.found.matched) + "/" + std::to_string(form.result.bands.size()), 6) +
         signed_field(solution.found.mean_deviation_deg, 7, "0.00") +
-        signed_field(solution.found.correlation, 7, "0.000") + signed_field(solution.found.confidence, 6, "0.00");
+        signed_field(solution.found.correlation, 7, "0.000");
+    if (compared) line += signed_field(solution.kinematic, 7, "0.000");
+    line += signed_field(solution.found.confidence, 6, "0.00");
     for (const double component : uvw) line += signed_field(component, 7, "0.000");
     for (const double angle : euler) line += signed_field(angle, 7, "0.0");
     if (form.result.solutions.size() > 1 && !form.crystal_files.empty()) line += "  " + solution.model->title;
@@ -98,17 +106,49 @@ void show_solutions(AutoIndexForm& form) {
   }
 }
 
+/// A result that comes from a file has drawn bands alone: crystals that are still there get their patterns again.
+void renew_dynamical(Workbench& bench, AutoIndexForm& form) {
+  IndexResult& result = form.result;
+  const auto missing = [](const auto& solution) { return solution.dynamical && !solution.model->sphere->continuous(); };
+  if (std::none_of(result.solutions.begin(), result.solutions.end(), missing)) return;
+  try {
+    const auto present = dynamical_models(bench, form, crystal_models(bench, form),
+                                          fitted_pixel_deg(result.size.width, result.centre.z));
+    for (auto& solution : result.solutions) {
+      const auto same = std::find_if(present.models.begin(), present.models.end(), [&solution](const auto& model) {
+        return model->title == solution.model->title && model->reflectors.cell == solution.model->reflectors.cell;
+      });
+      if (!missing(solution) || same == present.models.end()) continue;
+      auto renewed = std::make_shared<CrystalModel>(*solution.model);
+      renewed->sphere = (*same)->sphere;
+      solution.model = std::move(renewed);
+      solution.found.model = solution.model.get();
+    }
+  } catch (const RunFailure&) {  // its crystals are gone: the drawn bands do
+    return;
+  }
+}
+
 /// What belongs to the picked solution.
 void show_picked(Workbench& bench, AutoIndexForm& form) {
   show_bands(form);
   draw_solution(pattern3(bench), form.result);
+  renew_dynamical(bench, form);
   WindowTask task(bench.services);
   if (const auto picture = pattern3(bench).Picture1.grey_picture()) draw_simulated(form, view_of(*picture), task);
 }
 
-std::string kinematic_text(const AutoIndexForm& form) {
-  if (!form.kinematic_correlation) return "";
-  return " dynamical, " + Format(*form.kinematic_correlation, "0.00") + " kinematic";
+/// "0.56", of a dynamical fit "0.56 dynamical, 0.44 kinematic".
+std::string correlation_text(const IndexResult& result, const IndexResult::Solution& solution) {
+  const std::string correlation = Format(solution.found.correlation, "0.00");
+  if (solution.dynamical) return correlation + " dynamical, " + Format(solution.kinematic, "0.00") + " kinematic";
+  return correlation + (result.drawn_instead.empty() ? "" : " kinematic");
+}
+
+std::string drawn_instead_text(const IndexResult& result) {
+  std::string text;
+  for (const auto& crystal : result.drawn_instead) text += "; " + crystal;
+  return text;
 }
 
 void show_result(Workbench& bench, AutoIndexForm& form) {
@@ -124,8 +164,8 @@ void show_result(Workbench& bench, AutoIndexForm& form) {
   form.Status.set_caption(best->model->title + ": " + std::to_string(best->found.matched) + " of " +
                           std::to_string(form.result.bands.size()) + " bands, off by " +
                           Format(best->found.mean_deviation_deg, "0.00") + " deg, correlation " +
-                          Format(best->found.correlation, "0.00") + kinematic_text(form) + ", confidence " +
-                          Format(best->found.confidence, "0.00"));
+                          correlation_text(form.result, *best) + ", confidence " +
+                          Format(best->found.confidence, "0.00") + drawn_instead_text(form.result));
 }
 
 /// What was found, with the crystals that it belongs to.
@@ -141,15 +181,20 @@ void keep_result(const AutoIndexForm& form, IndexResult& result,
   }
 }
 
-/// What the drawn bands of the same crystal would give in its place.
-double kinematic_correlation(Workbench& bench, AutoIndexForm& form, const IndexSolution& solution,
-                             const PatternCentre& centre, const IndexSettings& settings) {
-  const auto models = crystal_models(bench, form);
-  const auto model = std::find_if(models.begin(), models.end(), [&solution](const auto& known) {
-    return known->table == solution.model->table;  // of the model that the dynamical one was made from
-  });
-  return model == models.end() ? 0
-                               : form.indexer.fit(**model, solution.crystal_from_picture, centre, settings).correlation;
+/// What the drawn bands would give in the place of the dynamical patterns.
+void compare_with_bands(AutoIndexForm& form, IndexResult& result,
+                        const std::vector<std::shared_ptr<const CrystalModel>>& drawn, const IndexSettings& settings) {
+  for (auto& solution : result.solutions) {
+    solution.dynamical = solution.model->sphere->continuous();
+    solution.kinematic = solution.found.correlation;
+    if (!solution.dynamical || solution.found.correlation == 0) continue;
+    const auto bands = std::find_if(drawn.begin(), drawn.end(), [&solution](const auto& known) {
+      return known->table == solution.model->table;  // of the model that the dynamical one was made from
+    });
+    if (bands == drawn.end()) continue;
+    solution.kinematic =
+        form.indexer.fit(**bands, solution.found.crystal_from_picture, result.centre, settings).correlation;
+  }
 }
 
 /// The last steps of the fit to a dynamical pattern.
@@ -178,22 +223,24 @@ std::vector<std::shared_ptr<const CrystalModel>> index_picture(Workbench& bench,
   result.size = {picture.width, picture.height, 1};
   result.centre = centre_of(angles, result.size);
   const bool dynamical = form.Dynamical.checked();
-  auto models = dynamical ? dynamical_models(bench, form, picture.width, result.centre.z) : crystal_models(bench, form);
+  const auto drawn = crystal_models(bench, form);
+  DynamicalModels tried{drawn, {}};
+  if (dynamical) {
+    tried = dynamical_models(bench, form, drawn, fitted_pixel_deg(picture.width, result.centre.z));
+  }
+  result.drawn_instead = tried.drawn_instead;
   std::vector<const CrystalModel*> plain;
-  plain.reserve(models.size());
-  for (const auto& model : models) plain.push_back(model.get());
+  plain.reserve(tried.models.size());
+  for (const auto& model : tried.models) plain.push_back(model.get());
   WindowTask task(bench.services);
   const auto found = form.indexer.index(picture, result.centre, plain, settings, task);
-  std::vector<IndexSolution> solutions(found.begin(), found.end());
-  std::optional<double> kinematic;
-  if (dynamical && !solutions.empty()) {
-    kinematic = kinematic_correlation(bench, form, solutions.front(), result.centre, settings);
-    settle(form, solutions.front(), result.centre, settings);
+  keep_result(form, result, tried.models, found, settings);
+  if (dynamical && !result.solutions.empty()) {
+    compare_with_bands(form, result, drawn, settings);
+    settle(form, result.solutions.front().found, result.centre, settings);
   }
-  keep_result(form, result, models, solutions, settings);
-  form.kinematic_correlation = kinematic;
   form.result = std::move(result);
-  return models;
+  return tried.models;
 }
 
 void Index_Click(Workbench& bench, AutoIndexForm& form) {
@@ -361,6 +408,7 @@ void RemoveCrystal_Click(AutoIndexForm& form) {
 }
 
 void redraw_simulated(Workbench& bench, AutoIndexForm& form) {
+  renew_dynamical(bench, form);
   WindowTask task(bench.services);
   if (const auto picture = pattern3(bench).Picture1.grey_picture()) draw_simulated(form, view_of(*picture), task);
 }

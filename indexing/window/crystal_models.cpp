@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <numbers>
-#include <thread>
 
 #include "analysis/window/pattern3_form.h"
 #include "core/cell_geometry.h"
@@ -10,7 +9,7 @@
 #include "core/number_text.h"
 #include "core/space_group.h"
 #include "core/unit_cell.h"
-#include "dynamics/master_sphere.h"
+#include "dynamics/master_view.h"
 #include "indexing/crystal_reflectors.h"
 #include "reflections/window/main1_form.h"
 
@@ -103,31 +102,19 @@ std::shared_ptr<const CrystalModel> ready_model(Workbench& bench, AutoIndexForm&
   return model;
 }
 
-/// The same model with the crystal's dynamical pattern, from what is ready or made anew.
-std::shared_ptr<const CrystalModel> with_dynamical_sphere(Workbench& bench, AutoIndexForm& form,
-                                                          const CrystalModel& model, const CrystalState& state,
-                                                          double pixel_deg, Task& task) {
+/// The crystal's dynamical pattern, from what is ready, from the cache, or made anew.
+std::shared_ptr<const KinematicSphere> ready_sphere(Workbench& bench, AutoIndexForm& form, const CrystalState& state,
+                                                    double pixel_deg, Task& task) {
   const double kilovolt = Val(bench.windows.use<Pattern3Form>().Text5.text());
   const std::string key = key_of(state, kilovolt) + " / " + Format(pixel_deg, "0.0000");
   const auto known = std::find_if(form.spheres.begin(), form.spheres.end(),
                                   [&key](const ReadySphere& sphere) { return sphere.key == key; });
-  auto dynamical = std::make_shared<CrystalModel>(model);
-  if (known != form.spheres.end()) {
-    dynamical->sphere = known->sphere;
-    return dynamical;
-  }
-  // The cell's atoms may be those of the crystal before.
-  if (!(state.NAtom > 0)) throw RunFailure("it has observed lines and no atoms");
+  if (known != form.spheres.end()) return known->sphere;
   const SpaceGroup group = read_space_group(group_path(bench, state));
-  const DynamicCrystal crystal = dynamic_crystal(state, &group);
-  MasterSettings settings;
-  settings.kilovolts = {kilovolt};
-  settings.threads = static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
-  suit_to_pixels(settings, crystal, pixel_deg);
-  dynamical->sphere = master_sphere(master_pattern(crystal, settings, task), fitted_blur_deg(pixel_deg), task);
-  form.spheres.insert(form.spheres.begin(), {key, dynamical->sphere});
+  auto sphere = seen_sphere(state, &group, usual_master_settings(kilovolt), pixel_deg, task);
+  form.spheres.insert(form.spheres.begin(), {key, sphere});
   if (form.spheres.size() > most_ready) form.spheres.pop_back();
-  return dynamical;
+  return sphere;
 }
 
 }  // namespace
@@ -161,26 +148,31 @@ std::vector<std::shared_ptr<const CrystalModel>> crystal_models(Workbench& bench
   return models;
 }
 
-std::vector<std::shared_ptr<const CrystalModel>> dynamical_models(Workbench& bench, AutoIndexForm& form,
-                                                                  int picture_width, double distance) {
-  auto models = crystal_models(bench, form);
-  const double pixel_deg = fitted_pixel_deg(picture_width, distance);
-  const auto& main1 = bench.windows.use<Main1Form>();
+DynamicalModels dynamical_models(Workbench& bench, AutoIndexForm& form,
+                                 const std::vector<std::shared_ptr<const CrystalModel>>& models, double pixel_deg) {
+  const CrystalState& present = bench.windows.use<Main1Form>().state;
   WindowTask task(bench.services);
   const std::size_t of_files = models.size() - form.crystal_files.size();
+  DynamicalModels dynamical;
   for (std::size_t i = 0; i < models.size(); ++i) {
+    CrystalModel model = *models[i];
     try {
-      if (i < of_files) {
-        models[i] = with_dynamical_sphere(bench, form, *models[i], main1.state, pixel_deg, task);
-      } else {
-        const CrystalState state = loaded_crystal(bench, main1.state, form.crystal_files[i - of_files], task);
-        models[i] = with_dynamical_sphere(bench, form, *models[i], state, pixel_deg, task);
-      }
+      model.sphere = i < of_files ? ready_sphere(bench, form, present, pixel_deg, task)
+                                  : ready_sphere(bench, form,
+                                                 loaded_crystal(bench, present, form.crystal_files[i - of_files], task),
+                                                 pixel_deg, task);
     } catch (const RunFailure& failure) {
-      throw RunFailure(models[i]->title + " has no dynamical pattern: " + failure.message());
+      dynamical.drawn_instead.push_back(model.title + " has no dynamical pattern: " + failure.message());
     }
+    dynamical.models.push_back(std::make_shared<const CrystalModel>(std::move(model)));
   }
-  return models;
+  return dynamical;
+}
+
+std::shared_ptr<const KinematicSphere> present_dynamical_sphere(Workbench& bench, AutoIndexForm& form,
+                                                                double pixel_deg) {
+  WindowTask task(bench.services);
+  return ready_sphere(bench, form, main1_state(bench), pixel_deg, task);
 }
 
 void show_families(AutoIndexForm& form) {

@@ -7,6 +7,7 @@
 #include "core/lattice.h"
 #include "core/number_text.h"
 #include "core/run_failure.h"
+#include "dynamics/master_sphere.h"
 #include "indexing/window/crystal_models.h"
 #include "indexing/window/grey_range.h"
 #include "kikuchi/kikuchi_pattern.h"
@@ -31,6 +32,12 @@ Vector3 reference_of(const Lattice& lattice, const std::array<double, 3>& uvw) {
   const auto reference = reference_reflection(uvw[0], uvw[1], uvw[2]);
   return vector_of(lattice.cartesian(
       ReciprocalVector{1.0 * reference.h.value(), 1.0 * reference.k.value(), 1.0 * reference.l.value()}));
+}
+
+/// Of the picture of Pattern2, degrees.
+double pixel_of_pattern2(Workbench& bench, const GnomonicView& view) {
+  const double width = std::max(1e-3, std::abs(double{view.right} - double{view.left}));
+  return fitted_pixel_deg(bench.windows.use<Pattern2Form>().Picture1.pixel_width(), 1 / width);
 }
 
 double rounded(double value) { return std::round(value * 100) / 100; }
@@ -85,17 +92,21 @@ Rotation shown_orientation(const CrystalState& state) {
   return orientation;
 }
 
-void draw_bands_as_picture(Workbench& bench) {
+void draw_bands_as_picture(Workbench& bench, BandLook look) {
   constexpr auto title = "Bands as a picture";
   try {
     const CrystalState& state = main1_state(bench);
-    const auto model = present_crystal_model(bench, bench.windows.use<AutoIndexForm>());
+    auto& indexing = bench.windows.use<AutoIndexForm>();
+    const auto model = present_crystal_model(bench, indexing);
     if (!model) throw RunFailure("there is no crystal: load one in the main window");
     const Rotation orientation = shown_orientation(state);
     const GnomonicView view = gnomonic_view(state);
     auto& pattern2 = bench.windows.use<Pattern2Form>();
     const Hourglass hourglass(pattern2);
     WindowTask task(bench.services);
+    const auto sphere = look == BandLook::Kinematic
+                            ? model->sphere
+                            : present_dynamical_sphere(bench, indexing, pixel_of_pattern2(bench, view));
     pattern2.Picture1.edit_picture([&](Surface& image) {
       const double width = image.width();
       const double height = image.height();
@@ -105,7 +116,7 @@ void draw_bands_as_picture(Workbench& bench) {
         for (int x = 0; x < image.width(); ++x) {
           const Vector3 place(view.left + (double{view.right} - double{view.left}) * (x + 0.5) / width,
                               view.top + (double{view.bottom} - double{view.top}) * (y + 0.5) / height, 1);
-          values.push_back(model->sphere->at(orientation * place));
+          values.push_back(sphere->at(orientation * place));
         }
       }
       const GreyRange range(values, task);

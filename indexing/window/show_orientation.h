@@ -10,9 +10,11 @@ namespace zol {
 /// on a solution of PATTERN3 does.
 void show_orientation(Workbench& bench, const Rotation& crystal_from_picture);
 
-/// "Bands as a picture": the soft bands of the present crystal in the orientation and view of Pattern2 become its
-/// picture. Reports what is missing.
-void draw_bands_as_picture(Workbench& bench);
+enum class BandLook { Kinematic, Dynamical };
+
+/// "Bands as a picture": the soft bands, or the dynamical pattern, of the present crystal in the orientation and view
+/// of Pattern2 become its picture. Reports what is missing.
+void draw_bands_as_picture(Workbench& bench, BandLook look);
 
 /// The orientation that Pattern2 shows: zone axis in the pattern centre, turned by the pattern's angle.
 /// @throws RunFailure  the axis is zero

@@ -79,6 +79,7 @@ struct Pattern2Form : Window {
 
   MenuItem ISAVE{*this, "ISAVE", "PATTERN SAVE", "Image"};
   MenuItem BandsAsPicture{*this, "BandsAsPicture", "Bands as a picture", "Image"};
+  MenuItem DynamicalBands{*this, "DynamicalBands", "Dynamical bands as a picture", "Image"};
   MenuItem Imagesize{*this, "Imagesize", "Image size", "Image"};
   MenuItem ImageLoad{*this, "ImageLoad", "Superpose", "Image"};
   MenuItem ImageClear{*this, "ImageClear", "Clear", "Image"};

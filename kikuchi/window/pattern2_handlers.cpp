@@ -365,7 +365,8 @@ void wire(Workbench& bench, Pattern2Form& form) {
   form.Picture1.on_mouse_down = on(Picture1_MouseDown);
   form.Picture1.on_double_click = on(Command4_Click);
   form.ISAVE.on_click = on(ISAVE_Click);
-  form.BandsAsPicture.on_click = [&bench] { draw_bands_as_picture(bench); };
+  form.BandsAsPicture.on_click = [&bench] { draw_bands_as_picture(bench, BandLook::Kinematic); };
+  form.DynamicalBands.on_click = [&bench] { draw_bands_as_picture(bench, BandLook::Dynamical); };
   form.Imagesize.on_click = on(Imagesize_Click);
   form.ImageLoad.on_click = on(ImageLoad_Click);
   form.ImageClear.on_click = on(ImageClear_Click);

@@ -11,6 +11,7 @@
 #include "core/read_file.h"
 #include "core/run_failure.h"
 #include "core/trimmed.h"
+#include "core/user_folders.h"
 #include "shell/program/data_copy.h"
 #include "shell/program/program.h"
 
@@ -32,18 +33,6 @@ bool is_folder(const fs::path& path) {
 
 DataRoot below(const std::string& folder) {
   return {(fs::path(folder) / "ZOL").string(), (fs::path(folder) / "ZOLDATA").string()};
-}
-
-std::string environment(const char* name) {
-  const char* value = std::getenv(name);  // NOLINT(concurrency-mt-unsafe): one thread
-  return value == nullptr ? "" : value;
-}
-
-/// A folder of the user by the XDG base directory rules.
-fs::path user_folder(const char* variable, const char* below_home) {
-  if (const fs::path given = environment(variable); given.is_absolute()) return given / "zol";
-  const fs::path home = environment("HOME");
-  return home.is_absolute() ? home / below_home / "zol" : fs::path();
 }
 
 /// The user's own copy of the installed data, brought up to date, or else those themselves.
@@ -129,7 +118,6 @@ std::string examples_folder() {
 }
 
 std::string state_folder() { return user_folder("XDG_STATE_HOME", ".local/state").string(); }
-std::string cache_folder() { return user_folder("XDG_CACHE_HOME", ".cache").string(); }
 
 DataPlaces data_places() {
   std::error_code error;

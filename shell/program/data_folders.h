@@ -29,9 +29,6 @@ struct DataPlaces {
 /// The user's folder for what is kept between runs; empty where the system names none.
 [[nodiscard]] std::string state_folder();
 
-/// The user's folder for what can be made again; empty where the system names none.
-[[nodiscard]] std::string cache_folder();
-
 /// The folder of the examples: of the installation or, for a program run from its build, of the source tree.
 [[nodiscard]] std::string examples_folder();
 

@@ -5801,5 +5801,29 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <source>%1 is "%2"; expected is at most 15 angstroms</source>
         <translation>%1 ist „%2“; erwartet werden höchstens 15 Ångström</translation>
     </message>
+    <message>
+        <source>Dynamical bands as a picture</source>
+        <translation>Dynamische Bänder als Bild</translation>
+    </message>
+    <message>
+        <source>the dynamical pattern of the crystal in grey; it takes some seconds to calculate and is kept</source>
+        <translation>das dynamische Muster des Kristalls in Grau; es wird in einigen Sekunden berechnet und aufbewahrt</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 bands, off by %4 deg, correlation %5 dynamical, %6 kinematic, confidence %7</source>
+        <translation>%1: %2 von %3 Bändern, %4° daneben, Korrelation %5 dynamisch, %6 kinematisch, Sicherheit %7</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 bands, off by %4 deg, correlation %5 kinematic, confidence %6</source>
+        <translation>%1: %2 von %3 Bändern, %4° daneben, Korrelation %5 kinematisch, Sicherheit %6</translation>
+    </message>
+    <message>
+        <source>no bands    off  corr.   kin. conf.      u      v      w   phi1    Phi   phi2</source>
+        <translation>Nr Bänd.    Abw  Korr.   kin. Sich.      u      v      w   phi1    Phi   phi2</translation>
+    </message>
+    <message>
+        <source>correlation of the drawn bands with the picture</source>
+        <translation>Korrelation der gezeichneten Bänder mit dem Bild</translation>
+    </message>
 </context>
 </TS>

@@ -5801,5 +5801,29 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <source>%1 is "%2"; expected is at most 15 angstroms</source>
         <translation>%1 vaut « %2 » ; au plus 15 ångströms sont attendus</translation>
     </message>
+    <message>
+        <source>Dynamical bands as a picture</source>
+        <translation>Bandes dynamiques en image</translation>
+    </message>
+    <message>
+        <source>the dynamical pattern of the crystal in grey; it takes some seconds to calculate and is kept</source>
+        <translation>le diagramme dynamique du cristal en gris ; son calcul prend quelques secondes et il est conservé</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 bands, off by %4 deg, correlation %5 dynamical, %6 kinematic, confidence %7</source>
+        <translation>%1 : %2 bandes sur %3, écart %4°, corrélation %5 dynamique, %6 cinématique, confiance %7</translation>
+    </message>
+    <message>
+        <source>%1: %2 of %3 bands, off by %4 deg, correlation %5 kinematic, confidence %6</source>
+        <translation>%1 : %2 bandes sur %3, écart %4°, corrélation %5 cinématique, confiance %6</translation>
+    </message>
+    <message>
+        <source>no bands    off  corr.   kin. conf.      u      v      w   phi1    Phi   phi2</source>
+        <translation>no band.    éc.  corr.   cin. conf.      u      v      w   phi1    Phi   phi2</translation>
+    </message>
+    <message>
+        <source>correlation of the drawn bands with the picture</source>
+        <translation>corrélation des bandes dessinées avec l'image</translation>
+    </message>
 </context>
 </TS>
