@@ -31,7 +31,7 @@ ReportedSolution report_of(const IndexedPicture& found, double tilt) {
 /// Bands and zone axes over the picture, as the window draws them.
 class Overlays {
  public:
-  explicit Overlays(const IndexWords& words) : words_(words) {}
+  Overlays(const IndexWords& words, BatchProgram& program) : words_(words), program_(program) {}
   void write(const IndexedPicture& found) {
     const auto path = std::filesystem::path(words_.overlay) / (title_of(found.picture) + ".png");
     BatchProgram::naming(path.string(), [&] {
@@ -45,7 +45,7 @@ class Overlays {
 
  private:
   const IndexWords& words_;
-  BatchProgram program_;
+  BatchProgram& program_;
 };
 
 std::array<double, 3> centre_in_words(const IndexedPicture& found, const IndexWords& words) {
@@ -119,10 +119,10 @@ int run(const IndexWords& words) {
   }
   const int threads =
       words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  BatchProgram program;  // starts Qt, before threads read pictures by it
   const PictureModels models(words, threads);
   if (!models.remark().empty()) std::cerr << readable_utf8(models.remark()) << '\n';
-  std::optional<Overlays> overlays;
-  if (!words.overlay.empty()) overlays.emplace(words);
+  Overlays overlays(words, program);
   BatchProgress progress("pictures");
   auto all = nlohmann::ordered_json::array();
   std::size_t done = 0;
@@ -130,7 +130,7 @@ int run(const IndexWords& words) {
   if (words.csv) std::cout << csv_head;
   const auto tell = [&](const IndexedPicture& found) {
     if (!found.failure.empty()) throw RunFailure(found.failure);
-    if (overlays) overlays->write(found);
+    if (!words.overlay.empty()) overlays.write(found);
     if (words.json) {
       all.push_back(json_of(found, words));
     } else {

@@ -18,8 +18,12 @@ namespace {
 
 /// As it stands in the file; turned upside down, as the conventions of the program ask for, unless it is already.
 GreyPicture read_picture(const std::string& path, bool flipped) {
+  static std::mutex decoding;  // Qt loads its plug-ins as they are needed
   QtSurface surface(1, 1);
-  surface.load(path);
+  {
+    const std::lock_guard lock(decoding);
+    surface.load(path);
+  }
   GreyPicture picture = surface.grey();
   const auto width = static_cast<std::ptrdiff_t>(picture.width);
   for (int y = 0; !flipped && y < picture.height / 2; ++y) {
