@@ -126,6 +126,7 @@ void run(const CentreWords& words) {
 
 void add_centre_command(CLI::App& app) {
   const auto words = std::make_shared<CentreWords>();
+  words->map.master.masters = {"none"};
   CLI::App* centre = app.add_subcommand("centre", "fit the pattern centre of a scan on its clear points");
   centre->footer("Example:\n  zol-batch centre scan.h5 -c Ni.cif --pc 0.48,0.28,0.55 --convention bruker");
   add_scan_words(*centre, words->map);

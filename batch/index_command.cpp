@@ -6,124 +6,49 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <thread>
 
 #include "analysis/window/pattern3_form.h"
 #include "batch/batch_program.h"
 #include "batch/batch_progress.h"
 #include "batch/batch_status.h"
-#include "batch/crystal_source.h"
 #include "batch/figure.h"
+#include "batch/index_pictures.h"
 #include "batch/words.h"
 #include "core/number_text.h"
 #include "indexing/index_report.h"
 #include "indexing/window/overlay.h"
-#include "shell/program/data_folders.h"
 #include "shell/services/latin1.h"
 
 namespace zol {
 namespace {
 
-struct IndexWords {
-  std::vector<std::string> pictures, crystals;
-  std::string centre, convention = "bruker", overlay, mask;
-  double tilt = 70, kilovolt = 20, pixel = 1;
-  int bands = 9, families = 6;
-  bool flipped = false, refine = false, csv = false, json = false;
-};
+ReportedSolution report_of(const IndexedPicture& found, double tilt) {
+  const auto& best = found.result.solutions.front();
+  return {&best.found, found.result.bands, best.matches, found.result.size, found.result.centre, tilt};
+}
 
-/// What was found in one picture.
-struct Indexed {
-  std::string picture;
-  IndexResult result;
-  std::optional<PictureFit> refined;  ///< the centre of the result is that of this one
-  [[nodiscard]] ReportedSolution report(double tilt) const {
-    const auto& best = result.solutions.front();
-    return {&best.found, result.bands, best.matches, result.size, result.centre, tilt};
-  }
-};
-
-/// Indexes as the window of automatic indexing does, with the pictures of PATTERN3.
-class PictureIndexer {
+/// Bands and zone axes over the picture, as the window draws them.
+class Overlays {
  public:
-  explicit PictureIndexer(const IndexWords& words) : words_(words) {
-    BatchTask task;
-    const DataRoot data = find_data_root(data_places());
-    for (const auto& path : words.crystals) {
-      models_.push_back(std::make_shared<const CrystalModel>(
-          indexing_model(load_crystal(path, data, task), words.kilovolt, words.families, task)));
-      plain_.push_back(models_.back().get());
-    }
-    settings_.band_count = words.bands;
-    settings_.preparation.circle = words.mask == "circle";
-  }
-
-  /// @throws RunFailure  the picture can't be read, or nothing is found in it; the message names it
-  Indexed index(const std::string& path) {
-    Indexed found;
-    found.picture = path;
-    BatchProgram::naming(path, [&] { find(path, found); });
-    return found;
-  }
-
-  /// Bands and zone axes over the picture, as the window draws them.
-  void write_overlay(const Indexed& found) {
+  Overlays(const IndexWords& words, BatchProgram& program) : words_(words), program_(program) {}
+  void write(const IndexedPicture& found) {
     const auto path = std::filesystem::path(words_.overlay) / (title_of(found.picture) + ".png");
     BatchProgram::naming(path.string(), [&] {
       auto& pattern = program_.window<Pattern3Form>();
+      pattern.CommonDialog1.answering(found.picture, [&pattern] { pattern.ImageLoad.click(); });
+      if (!words_.flipped) pattern.ImageFlip.click();
       draw_solution(pattern, found.result);
       write_picture(program_, pattern.Picture1, path.string(), 1);
     });
   }
 
  private:
-  /// The picture turned upside down, as the conventions of the program ask for.
-  std::shared_ptr<const GreyPicture> loaded(const std::string& path) {
-    auto& pattern = program_.window<Pattern3Form>();
-    pattern.CommonDialog1.answering(path, [&pattern] { pattern.ImageLoad.click(); });
-    if (!words_.flipped) pattern.ImageFlip.click();
-    auto picture = pattern.Picture1.grey_picture();
-    if (!picture) throw RunFailure("there is no picture");
-    return picture;
-  }
-
-  void find(const std::string& path, Indexed& found) {
-    const auto grey = loaded(path);
-    const PictureView picture{grey->values, grey->width, grey->height};
-    const PictureSize size{grey->width, grey->height, words_.pixel};
-    found.result.size = size;
-    found.result.centre = upside_down(centre_of_words(words_.centre, words_.convention, size), size);
-    index_with(picture, found);
-    if (!words_.refine) return;
-    found.refined = indexer_.refine_centre(found.result.solutions.front().found, found.result.centre, settings_);
-    found.result.centre = found.refined->centre;
-    index_with(picture, found);
-  }
-
-  void index_with(const PictureView& picture, Indexed& found) {
-    BatchTask task;
-    const auto solutions = indexer_.index(picture, found.result.centre, plain_, settings_, task);
-    if (solutions.empty()) {
-      throw RunFailure(std::to_string(indexer_.bands().size()) + " bands, but no orientation explains three of them");
-    }
-    const auto bands = indexer_.bands();
-    found.result.bands.assign(bands.begin(), bands.end());
-    found.result.solutions.clear();
-    for (const auto& solution : solutions) {
-      const auto model = std::find_if(models_.begin(), models_.end(),
-                                      [&solution](const auto& known) { return known.get() == solution.model; });
-      found.result.solutions.push_back({*model, solution, indexer_.matches(solution, settings_.vote.tolerance_deg)});
-    }
-  }
-
   const IndexWords& words_;
-  BatchProgram program_;
-  std::vector<std::shared_ptr<const CrystalModel>> models_;
-  std::vector<const CrystalModel*> plain_;
-  IndexSettings settings_;
-  PatternIndexer indexer_;
+  BatchProgram& program_;
 };
 
-std::array<double, 3> centre_in_words(const Indexed& found, const IndexWords& words) {
+std::array<double, 3> centre_in_words(const IndexedPicture& found, const IndexWords& words) {
   const PictureSize& size = found.result.size;
   return written_centre(upside_down(found.result.centre, size), convention_of(words.convention), size);
 }
@@ -132,16 +57,22 @@ std::string numbers(const std::array<double, 3>& values, const char* format, con
   return Format(values[0], format) + between + Format(values[1], format) + between + Format(values[2], format);
 }
 
-std::array<double, 3> euler(const Indexed& found, const IndexWords& words) {
+std::array<double, 3> euler(const IndexedPicture& found, const IndexWords& words) {
   return bunge_deg(found.result.solutions.front().found.crystal_from_picture * picture_from_sample(words.tilt));
 }
 
-void write_text(const Indexed& found, const IndexWords& words) {
+std::string kinematic_text(const IndexedPicture& found) {
+  if (!found.kinematic) return "";
+  return " dynamical, " + Format(*found.kinematic, "0.000") + " kinematic";
+}
+
+void write_text(const IndexedPicture& found, const IndexWords& words) {
   const IndexSolution& best = found.result.solutions.front().found;
   std::cout << found.picture << ": " << readable_utf8(best.model->title) << ", Euler angles "
             << numbers(euler(found, words), "0.00", " ") << ", " << best.matched << " of " << found.result.bands.size()
             << " bands, off by " << Format(best.mean_deviation_deg, "0.00") << " deg, correlation "
-            << Format(best.correlation, "0.000") << ", confidence " << Format(best.confidence, "0.00");
+            << Format(best.correlation, "0.000") << kinematic_text(found) << ", confidence "
+            << Format(best.confidence, "0.00");
   if (found.refined) {
     std::cout << ", centre " << numbers(centre_in_words(found, words), "0.00000", " ") << " (" << words.convention
               << ")";
@@ -150,7 +81,7 @@ void write_text(const Indexed& found, const IndexWords& words) {
 }
 
 constexpr auto csv_head =
-    "picture,crystal,phi1,Phi,phi2,matched,bands,deviation,correlation,confidence,pc_x,pc_y,pc_z\n";
+    "picture,crystal,phi1,Phi,phi2,matched,bands,deviation,correlation,confidence,pc_x,pc_y,pc_z,kinematic\n";
 
 /// In double quotes where it needs them.
 std::string csv_field(const std::string& text) {
@@ -160,18 +91,19 @@ std::string csv_field(const std::string& text) {
   return quoted + '"';
 }
 
-void write_csv(const Indexed& found, const IndexWords& words) {
+void write_csv(const IndexedPicture& found, const IndexWords& words) {
   const IndexSolution& best = found.result.solutions.front().found;
   std::cout << csv_field(found.picture) << ',' << csv_field(readable_utf8(best.model->title)) << ','
             << numbers(euler(found, words), "0.0000", ",") << ',' << best.matched << ',' << found.result.bands.size()
             << ',' << Format(best.mean_deviation_deg, "0.0000") << ',' << Format(best.correlation, "0.0000") << ','
             << Format(best.confidence, "0.0000") << ',' << numbers(centre_in_words(found, words), "0.000000", ",")
-            << '\n';
+            << ',' << (found.kinematic ? Format(*found.kinematic, "0.0000") : "") << '\n';
 }
 
-nlohmann::ordered_json json_of(const Indexed& found, const IndexWords& words) {
-  auto json = nlohmann::ordered_json::parse(report_json(found.report(words.tilt)));
+nlohmann::ordered_json json_of(const IndexedPicture& found, const IndexWords& words) {
+  auto json = nlohmann::ordered_json::parse(report_json(report_of(found, words.tilt)));
   json["picture"] = {{"file", found.picture}, {"width", found.result.size.width}, {"height", found.result.size.height}};
+  if (found.kinematic) json["kinematic_correlation"] = *found.kinematic;
   if (found.refined) {
     const auto& errors = found.refined->errors;
     json["pattern_centre_errors_widths"] = {errors[3], errors[4], errors[5]};
@@ -185,27 +117,35 @@ int run(const IndexWords& words) {
   if (!words.overlay.empty() && !std::filesystem::is_directory(words.overlay)) {
     throw RunFailure("there is no folder " + words.overlay);
   }
-  PictureIndexer indexer(words);
+  const int threads =
+      words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
+  BatchProgram program;  // starts Qt, before threads read pictures by it
+  const PictureModels models(words, threads);
+  if (!models.remark().empty()) std::cerr << readable_utf8(models.remark()) << '\n';
+  Overlays overlays(words, program);
   BatchProgress progress("pictures");
   auto all = nlohmann::ordered_json::array();
+  std::size_t done = 0;
   std::size_t failed = 0;
   if (words.csv) std::cout << csv_head;
-  for (std::size_t i = 0; i < words.pictures.size(); ++i) {
-    BatchTask().check();
-    progress.show(i, words.pictures.size());
+  const auto tell = [&](const IndexedPicture& found) {
+    if (!found.failure.empty()) throw RunFailure(found.failure);
+    if (!words.overlay.empty()) overlays.write(found);
+    if (words.json) {
+      all.push_back(json_of(found, words));
+    } else {
+      words.csv ? write_csv(found, words) : write_text(found, words);
+    }
+  };
+  index_pictures(words, models, threads, [&](const IndexedPicture& found) {
+    progress.show(done++, words.pictures.size());
     try {
-      const Indexed found = indexer.index(words.pictures[i]);
-      if (!words.overlay.empty()) indexer.write_overlay(found);
-      if (words.json) {
-        all.push_back(json_of(found, words));
-      } else {
-        words.csv ? write_csv(found, words) : write_text(found, words);
-      }
+      tell(found);
     } catch (const RunFailure& failure) {
       ++failed;
       std::cerr << "zol-batch: " << readable_utf8(failure.message()) << '\n';
     }
-  }
+  });
   if (words.json) std::cout << all.dump(2, ' ', false, nlohmann::json::error_handler_t::replace) << '\n';
   return failed == 0 ? batch_done : batch_failed;
 }
@@ -251,11 +191,15 @@ void add_index_command(CLI::App& app, int& status) {
   index->add_option("--mask", words->mask, "circle: the pattern is round")
       ->group(indexing)
       ->check(CLI::IsMember({"circle"}));
+  add_master_options(*index, words->master);
   const auto* results = "Results";
   auto* json = index->add_flag("--json", words->json, "a list of objects")->group(results);
   index->add_flag("--csv", words->csv, "a table with commas")->group(results)->excludes(json);
   index->add_option("--overlay", words->overlay, "folder for pictures with the bands drawn over them, .png")
       ->group(results);
+  index->add_option("-j,--threads", words->threads, "0: one for each core")
+      ->group("Running")
+      ->check(CLI::Range(0, 4096));
   index->callback([words, &status] { status = run(*words); });
 }
 

@@ -109,6 +109,7 @@ int run(const MapWords& words, const MapRanks& ranks) {
   MapJob job = make_map_job(words, task);
   if (ranks.first()) {
     for (const auto& remark : job.scan->header().remarks) std::cerr << words.scan << ": " << remark << '\n';
+    if (!job.master_remark.empty() && !words.quiet) std::cerr << readable_utf8(job.master_remark) << '\n';
   }
   prepare_map_job(job, words, task);
   if (words.check) {

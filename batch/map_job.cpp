@@ -16,9 +16,16 @@ namespace zol {
 namespace {
 
 /// Dynamical patterns are fitted so closely that neighbours, turned by a little, only blur what is fitted.
-std::string average_of(const MapWords& words) {
+std::string average_of(const MapWords& words, bool dynamical) {
   if (!words.average.empty()) return words.average;
-  return words.master.masters.empty() ? "nlpar" : "none";
+  return dynamical ? "none" : "nlpar";
+}
+
+/// Nothing is fitted to a picture where only bands count.
+MapMasterWords masters_of(const MapWords& words) {
+  MapMasterWords masters = words.master;
+  if (masters.masters.empty() && words.refine != "pattern") masters.masters = {"none"};
+  return masters;
 }
 
 Background background_of(const std::string& word) {
@@ -52,7 +59,7 @@ std::vector<float> background_picture(const MapWords& words, const ScanHeader& h
   return std::move(image.values);
 }
 
-MapSettings settings_of(const MapWords& words, const ScanHeader& header) {
+MapSettings settings_of(const MapWords& words, const ScanHeader& header, bool dynamical) {
   MapSettings settings;
   constexpr double usual_tilt = 70;
   settings.geometry.sample_tilt_deg = words.tilt.value_or(header.sample_tilt_deg.value_or(usual_tilt));
@@ -69,7 +76,7 @@ MapSettings settings_of(const MapWords& words, const ScanHeader& header) {
                                                   : Refinement::none;
   settings.background = background_of(words.background);
   if (words.background.starts_with(static_picture)) settings.background_picture = background_picture(words, header);
-  read_average(average_of(words), settings);
+  read_average(average_of(words, dynamical), settings);
   settings.least_confidence = words.min_ci;
   settings.most_fit_deg = words.max_fit;
   settings.flip = words.flip;
@@ -161,21 +168,25 @@ MapJob make_map_job(const MapWords& words, Task& task) {
   job.scan = open_scan_of(words);
   const ScanHeader& header = job.scan->header();
   job.grid = grid_of(words, header);
-  job.settings = settings_of(words, header);
+  constexpr double usual_kilovolt = 20;
+  job.kilovolt = words.kilovolt > 0 ? words.kilovolt : header.kilovolt.value_or(usual_kilovolt);
+  std::vector<LoadedCrystal> crystals;
+  for (const auto& path : words.crystals) crystals.push_back(load_crystal(path, data, task));
+  const CrystalMasters masters(masters_of(words), crystals, job.kilovolt);
+  job.master_remark = masters.remark();
+  job.settings = settings_of(words, header, masters.any());
   Centres centres = centres_of(words, *job.scan, job.settings, job.grid);
   job.centre = centres.middle;
   job.centre_source = centres.source;
-  constexpr double usual_kilovolt = 20;
-  job.kilovolt = words.kilovolt > 0 ? words.kilovolt : header.kilovolt.value_or(usual_kilovolt);
   const int threads =
       words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
-  job.models.reserve(words.crystals.size());
-  for (const auto& path : words.crystals) {
-    const LoadedCrystal crystal = load_crystal(path, data, task);
-    const MasterView view{job.kilovolt, centres.of_map.at(job.grid.points() / 2), header.width, header.height, threads};
-    job.models.push_back(indexing_model(crystal, job.kilovolt, words.families, task,
-                                        master_sphere_of(words.master, job.models.size(), crystal, view, task)));
-    job.phases.push_back(map_phase(crystal, job.models.back()));
+  const MasterView view{job.kilovolt, centres.of_map.at(job.grid.points() / 2), header.width, header.height, threads};
+  job.models.reserve(crystals.size());
+  for (std::size_t i = 0; i < crystals.size(); ++i) {
+    job.models.push_back(
+        indexing_model(crystals[i], job.kilovolt, words.families, task, masters.sphere(i, view, task)));
+    job.phases.push_back(map_phase(crystals[i], job.models.back()));
+    job.fitted_to.push_back(masters.description(i));
   }
   std::vector<const CrystalModel*> pointers;
   pointers.reserve(job.models.size());

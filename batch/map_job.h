@@ -18,8 +18,10 @@ struct MapJob {
   double kilovolt = 0;
   std::vector<CrystalModel> models;
   std::vector<MapPhase> phases;
-  PatternCentre centre;       ///< of the middle point, widths
-  std::string centre_source;  ///< "of the scan" and so on
+  std::vector<std::string> fitted_to;  ///< of each crystal, for reports
+  std::string master_remark;           ///< why bands are drawn though nobody asked for that; mostly empty
+  PatternCentre centre;                ///< of the middle point, widths
+  std::string centre_source;           ///< "of the scan" and so on
   std::unique_ptr<MapIndexer> indexer;
 };
 

@@ -96,10 +96,12 @@ std::string decisions_text(const MapJob& job) {
     text += "likeness: length " + fixed(job.indexer->likeness(), 3) + " for an own share of " +
             short_text(job.settings.own_share, 3) + '\n';
   }
-  for (const auto& model : job.models) {
+  for (std::size_t i = 0; i < job.models.size(); ++i) {
+    const CrystalModel& model = job.models[i];
     text += model.title + ": " +
-            std::to_string(std::count(model.families_used.begin(), model.families_used.end(), true)) +
-            " families vote, " + std::to_string(model.reflectors.members.size()) + " planes are drawn\n";
+            std::to_string(std::count(model.families_used.begin(), model.families_used.end(), true)) + " families vote";
+    if (job.settings.refinement == Refinement::pattern) text += ", fitted to " + job.fitted_to[i];
+    text += '\n';
   }
   return text;
 }
@@ -146,14 +148,15 @@ void check_map(const MapJob& job, int threads, Task& task) {
   area.rows = tiles.back().row + tiles.back().rows - area.row;
   MapIndexer::Worker worker = job.indexer->make_worker();
   std::vector<Look> looks;
-  std::vector<PointResult> found;
   std::size_t points = 0;
   std::size_t indexed = 0;
   const auto start = std::chrono::steady_clock::now();
   constexpr int places = 9;
   for (int i = 0; i < places; ++i) {
     const auto [tile, column, row] = sample_of(area, i);
-    job.indexer->index_tile(tile, worker, found, task);
+    TileState state;
+    job.indexer->index_tile(tile, worker, state, task);
+    const auto& found = state.found;
     const auto at = static_cast<std::size_t>((row - tile.row) * tile.columns + column - tile.column);
     looks.push_back({{column, row}, found[at]});
     points += found.size();

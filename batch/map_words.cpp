@@ -39,7 +39,9 @@ void add_patterns(CLI::App& command, MapWords& words) {
         return text + " is none of auto, static, static=PICTURE, dynamic, none";
       })
       ->capture_default_str();
-  command.add_option("--average", words.average, "nlpar, nlpar=SHARE, 3x3, none; left out: nlpar, none with --master")
+  command
+      .add_option("--average", words.average,
+                  "nlpar, nlpar=SHARE, 3x3, none; left out: nlpar, none for dynamical patterns")
       ->group(group);
   command.add_option("--mask", words.mask, "circle")->group(group)->check(CLI::IsMember({"circle"}));
   command.add_option("--region", words.region, "X,Y,W,H of the map, in points")->group(group);

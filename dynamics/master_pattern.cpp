@@ -165,14 +165,6 @@ std::vector<float> on_square(const RingGrid& rings, const std::vector<float>& va
   return read;
 }
 
-/// Measured: 25 microseconds a direction with 64 beams, 140 with 144.
-Effort effort_of(const MasterPattern& master, int threads) {
-  constexpr double of_direction = 25e-6;
-  const double beams = std::pow(master.choice.beams / 64.0, 2.2);
-  const auto directions = static_cast<double>(master.directions * master.kilovolts.size());
-  return {directions * of_direction * beams / std::max(1, threads), 0};
-}
-
 /// Directions evenly over the sphere, by the golden angle.
 std::vector<GridDirection> spiral(int count) {
   std::vector<GridDirection> directions;
@@ -258,6 +250,7 @@ MasterPattern empty_master(const DynamicCrystal& crystal, const MasterSettings& 
 
 MasterPattern master_pattern(const DynamicCrystal& crystal, const MasterSettings& settings, Task& task) {
   MasterPattern master = empty_master(crystal, settings);
+  task.expect({master_effort(crystal, settings).seconds / std::max(1, settings.threads), 0});
   const SquareGrid square(settings.size);
   // Rings a quarter closer than the square grid, from which it is read.
   const RingGrid rings(2 * (settings.size - 1) / 3 + 1);
@@ -265,7 +258,6 @@ MasterPattern master_pattern(const DynamicCrystal& crystal, const MasterSettings
   const auto fill = [&](const auto& grid, const auto& read) {
     const GridPattern pattern(grid, crystal);
     master.directions = pattern.directions();
-    task.expect(effort_of(master, settings.threads));
     for (std::size_t i = 0; i < master.kilovolts.size(); ++i) {
       const CrystalPotential potential(crystal, {master.kilovolts[i], master.choice.smallest_spacing, true}, task);
       master.patterns.push_back(halves_of(read(pattern.compute(potential, master, settings, i, task))));

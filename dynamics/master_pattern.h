@@ -36,6 +36,9 @@ struct MasterChoice {
 /// @throws RunFailure  a setting out of its range
 [[nodiscard]] MasterChoice master_choice(const DynamicCrystal& crystal, const MasterSettings& settings);
 
+/// What a pattern takes a core, within a factor of two. @throws RunFailure  a setting out of its range
+[[nodiscard]] Effort master_effort(const DynamicCrystal& crystal, const MasterSettings& settings);
+
 /// 1: what atoms far apart would yield.
 struct MasterPattern {
   struct Halves {

@@ -81,6 +81,12 @@ bool PatternIndexer::take(const PictureView& picture, const IndexSettings& setti
   return true;
 }
 
+bool PatternIndexer::take(std::span<const float> gathered, const Gathering& gathering, const IndexSettings& settings) {
+  if (!prepared_.prepare(gathered, gathering, settings.preparation)) return false;
+  if (settings.fit_picture) fitter_.take(prepared_);
+  return true;
+}
+
 std::span<const IndexSolution> PatternIndexer::index_taken(const PatternCentre& centre,
                                                            std::span<const CrystalModel* const> models,
                                                            const IndexSettings& settings, Task& task) {

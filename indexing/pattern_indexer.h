@@ -79,6 +79,8 @@ class PatternIndexer {
 
   /// Makes a picture ready for the calls that follow. @returns false where it is blank
   [[nodiscard]] bool take(const PictureView& picture, const IndexSettings& settings, Task& task);
+  /// The same with pixels that have been gathered before, of as many pixels as the settings say.
+  [[nodiscard]] bool take(std::span<const float> gathered, const Gathering& gathering, const IndexSettings& settings);
   /// Fits an orientation to the picture taken.
   [[nodiscard]] PictureFit fit(const CrystalModel& model, const Rotation& start, const PatternCentre& centre,
                                const IndexSettings& settings) {

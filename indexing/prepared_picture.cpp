@@ -11,60 +11,52 @@ std::size_t index(int n) { return static_cast<std::size_t>(n); }
 
 }  // namespace
 
-void PreparedPicture::shape(const PictureView& picture, const PreparationSettings& settings) {
-  const double pixels = static_cast<double>(picture.width) * picture.height;
-  bin_ = std::max(1, static_cast<int>(std::lround(std::sqrt(pixels / settings.most_pixels))));
-  picture_width_ = picture.width;
-  picture_height_ = picture.height;
+void PreparedPicture::shape(const Gathering& gathering, const PreparationSettings& settings) {
+  const bool same = gathering.picture_width == gathering_.picture_width &&
+                    gathering.picture_height == gathering_.picture_height && settings.circle == circle_;
+  if (same) return;
+  gathering_ = gathering;
   circle_ = settings.circle;
-  width_ = picture.width / bin_;
-  height_ = picture.height / bin_;
-  projection_width_ = static_cast<double>(picture.width) / bin_;
-  const std::size_t size = index(width_) * index(height_);
-  values_.resize(size);
-  mask_.assign(size, 1);
+  const int w = width();
+  const int h = height();
+  projection_width_ = static_cast<double>(gathering.picture_width) / gathering.side;
+  values_.resize(gathering.pixels());
+  mask_.assign(gathering.pixels(), 1);
   if (circle_) {
-    const double radius = std::min(width_, height_) / 2.0;
-    for (int y = 0; y < height_; ++y) {
-      for (int x = 0; x < width_; ++x) {
-        const double distance = std::hypot(x + 0.5 - width_ / 2.0, y + 0.5 - height_ / 2.0);
-        mask_[index(y) * index(width_) + index(x)] = distance < radius ? 1.0F : 0.0F;
+    const double radius = std::min(w, h) / 2.0;
+    for (int y = 0; y < h; ++y) {
+      for (int x = 0; x < w; ++x) {
+        const double distance = std::hypot(x + 0.5 - w / 2.0, y + 0.5 - h / 2.0);
+        mask_[index(y) * index(w) + index(x)] = distance < radius ? 1.0F : 0.0F;
       }
     }
   }
-  background_radius_ = std::max(2, static_cast<int>(std::lround(settings.background * width_)));
-  even_.shape(width_, height_, mask_, background_radius_);
+  background_radius_ = std::max(2, static_cast<int>(std::lround(settings.background * w)));
+  even_.shape(w, h, mask_, background_radius_);
   ++shape_version_;
 }
 
-void PreparedPicture::gather(const PictureView& picture, Task& task) {
-  if (bin_ == 1) {
-    std::copy(picture.values.begin(), picture.values.end(), values_.begin());
-    return;
-  }
-  const float share = 1.0F / static_cast<float>(bin_ * bin_);
-  for (int y = 0; y < height_; ++y) {
-    task.check();
-    float* row = &values_[index(y) * index(width_)];
-    std::fill(row, row + width_, 0.0F);
-    for (int line = 0; line < bin_; ++line) {
-      const float* from = &picture.values[index(y * bin_ + line) * index(picture.width)];
-      for (int x = 0; x < width_; ++x) {
-        for (int i = 0; i < bin_; ++i) row[x] += from[x * bin_ + i];
-      }
-    }
-    for (int x = 0; x < width_; ++x) row[x] *= share;
-  }
-}
-
-bool PreparedPicture::prepare(const PictureView& picture, const PreparationSettings& settings, Task& task) {
-  const bool new_shape =
-      picture.width != picture_width_ || picture.height != picture_height_ || settings.circle != circle_;
-  if (new_shape) shape(picture, settings);
-  gather(picture, task);
+bool PreparedPicture::even() {
   const double contrast = even_.even(values_);
   if (contrast > 0) contrast_ = contrast;
   return contrast > 0;
+}
+
+bool PreparedPicture::prepare(const PictureView& picture, const PreparationSettings& settings, Task& task) {
+  shape({picture.width, picture.height, settings.most_pixels}, settings);
+  const auto row_at = [&picture](int y) { return &picture.values[index(y) * index(picture.width)]; };
+  for (int y = 0; y < height(); ++y) {
+    task.check();
+    gathering_.gather(y, row_at, &values_[index(y) * index(width())]);
+  }
+  return even();
+}
+
+bool PreparedPicture::prepare(std::span<const float> gathered, const Gathering& gathering,
+                              const PreparationSettings& settings) {
+  shape(gathering, settings);
+  std::copy(gathered.begin(), gathered.end(), values_.begin());
+  return even();
 }
 
 }  // namespace zol

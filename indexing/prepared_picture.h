@@ -1,10 +1,12 @@
 // A picture made ready for indexing: small enough, without background, of even contrast.
 #pragma once
 
+#include <span>
 #include <vector>
 
 #include "core/task.h"
 #include "indexing/even_contrast.h"
+#include "indexing/gathering.h"
 #include "indexing/picture.h"
 
 namespace zol {
@@ -25,8 +27,12 @@ class PreparedPicture {
     return prepare(picture, settings, task);
   }
 
-  [[nodiscard]] int width() const { return width_; }
-  [[nodiscard]] int height() const { return height_; }
+  /// Of pixels that have been gathered before. @param gathering  of as many pixels as the settings say
+  [[nodiscard]] bool prepare(std::span<const float> gathered, const Gathering& gathering,
+                             const PreparationSettings& settings);
+
+  [[nodiscard]] int width() const { return gathering_.width; }
+  [[nodiscard]] int height() const { return gathering_.height; }
   /// Projection of this picture where that of the whole one has this centre.
   [[nodiscard]] Projection projection(const PatternCentre& centre) const { return {centre, projection_width_}; }
   /// Mean about 0, spread about 1; 0 where there is no pattern.
@@ -41,12 +47,12 @@ class PreparedPicture {
   [[nodiscard]] int shape_version() const { return shape_version_; }
 
  private:
-  void shape(const PictureView& picture, const PreparationSettings& settings);
-  void gather(const PictureView& picture, Task& task);
+  void shape(const Gathering& gathering, const PreparationSettings& settings);
+  [[nodiscard]] bool even();
 
-  int picture_width_ = 0, picture_height_ = 0;
+  Gathering gathering_;
   bool circle_ = false;
-  int bin_ = 1, width_ = 0, height_ = 0, shape_version_ = 0, background_radius_ = 0;
+  int shape_version_ = 0, background_radius_ = 0;
   double projection_width_ = 0, contrast_ = 0;
   EvenContrast even_;
   std::vector<float> values_, mask_;

@@ -97,7 +97,7 @@ std::optional<std::size_t> farthest(const CentrePlane& plane) {
 std::optional<CentrePoint> fit_point(MapIndexer& indexer, int column, int row, bool with_centre,
                                      MapIndexer::Worker& worker, Task& task) {
   const auto point = indexer.grid().point(column, row);
-  if (!point || !indexer.take_point(*point, worker, task)) return std::nullopt;
+  if (!point || !indexer.take_point(*point, worker)) return std::nullopt;
   const PatternCentre start = indexer.turned_centre(*point);
   const auto solutions = worker.indexer.index_taken(start, indexer.models(), indexer.index_settings(), task);
   if (solutions.empty()) return std::nullopt;

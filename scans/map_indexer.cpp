@@ -20,6 +20,9 @@ constexpr double as_good = 0.85;
 /// Spread of a picture in steps of its grey values below which it shows nothing but their rounding, 0.29.
 constexpr double least_contrast = 0.5;
 
+/// A gathered pixel is saturated where all of its pixels are; their mean is rounded.
+constexpr double nearly_all = 1 - 1e-6;
+
 std::size_t index(int n) { return static_cast<std::size_t>(n); }
 
 /// How smooth a picture is: the mean correlation of pixels with those beside and below them. It is the mean cosine of
@@ -69,24 +72,20 @@ StepTimes& StepTimes::operator+=(const StepTimes& other) {
   return *this;
 }
 
-/// An orientation that was found beside a point.
-struct MapIndexer::Guess {
-  const CrystalModel* model = nullptr;
-  Rotation crystal_from_picture = Rotation::Identity();
-  double correlation = 0;
-};
-
 MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std::vector<const CrystalModel*> models,
                        const MapSettings& settings)
     : scan_(scan),
       grid_(grid),
+      reader_(scan, grid_, settings.index.preparation.most_pixels, settings.flip),
       centres_(std::move(centres)),
       models_(std::move(models)),
       settings_(settings),
       picture_from_sample_(
           picture_from_sample(settings.geometry.sample_tilt_deg - settings.geometry.detector_tilt_deg)),
-      saturated_(static_cast<float>(std::ldexp(1.0, std::min(scan.header().bits, 24)) - 1)),
-      rounding_(scan.header().whole ? 1.0F / 12 : 0.0F) {
+      saturated_(static_cast<float>((std::ldexp(1.0, std::min(scan.header().bits, 24)) - 1) * nearly_all)),
+      rounding_(scan.header().whole
+                    ? 1.0F / static_cast<float>(12 * reader_.gathering().side * reader_.gathering().side)
+                    : 0.0F) {
   settings_.index.fit_picture = settings.refinement == Refinement::pattern;
   settings_.index.vote.turn_onto_bands = settings.refinement != Refinement::none;
   auto [left, top, width, height] = settings.region;
@@ -106,15 +105,15 @@ MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std
   }
 }
 
-/// Smaller for large patterns, so that a tile with its margin takes no more than some memory.
+/// Smaller for many pixels, so that a tile with its margin takes no more than some memory.
 std::array<int, 2> MapIndexer::tile_size() const {
-  constexpr std::size_t most_bytes = std::size_t{192} << 20U;
+  constexpr std::size_t most_bytes = std::size_t{40} << 20U;
   constexpr int least_columns = 8;
   constexpr int least_rows = 2;
   int columns = tile_columns;
   int rows = tile_rows;
   const auto too_large = [&] {
-    return index(columns + 2 * margin()) * index(rows + 2 * margin()) * scan_.header().pixels() * sizeof(float) >
+    return index(columns + 2 * margin()) * index(rows + 2 * margin()) * reader_.gathering().pixels() * sizeof(float) >
            most_bytes;
   };
   while (too_large() && columns > least_columns) columns /= 2;
@@ -124,30 +123,7 @@ std::array<int, 2> MapIndexer::tile_size() const {
 
 void MapIndexer::read_tile(const MapTile& tile, int margin, Worker& worker) {
   const Timed timed(worker.times.reading);
-  const std::size_t pixels = scan_.header().pixels();
-  PatternTile& into = worker.tile;
-  into.columns = tile.columns + 2 * margin;
-  into.rows = tile.rows + 2 * margin;
-  into.pixels = pixels;
-  into.values.assign(index(into.columns) * index(into.rows) * pixels, 0);
-  into.present.assign(index(into.columns) * index(into.rows), 0);
-  const std::lock_guard lock(reading_);
-  for (int row = 0; row < into.rows; ++row) {
-    const int map_row = tile.row - margin + row;
-    const int first = std::max(0, tile.column - margin);
-    const int last = std::min(grid_.columns - 1, tile.column + tile.columns + margin - 1);
-    const auto begin = grid_.point(first, map_row);
-    if (!begin) continue;
-    const int end = grid_.point(last, map_row) ? last : last - 1;
-    if (end < first) continue;
-    scan_.read(*begin, index(end - first + 1), worker.block);
-    for (int i = 0; i <= end - first; ++i) {
-      const std::size_t to = into.place(first - (tile.column - margin) + i, row);
-      const auto pattern = std::as_const(worker.block).pattern(index(i));
-      std::copy(pattern.begin(), pattern.end(), into.values.begin() + static_cast<std::ptrdiff_t>(to * pixels));
-      into.present[to] = worker.block.present[index(i)];
-    }
-  }
+  reader_.read(tile, margin, worker.block, worker.tile);
 }
 
 void MapIndexer::prepare(Task& task) {
@@ -183,6 +159,11 @@ void MapIndexer::find_background(Task& task) {
     if (used < least) background_.clear();
     for (float& value : background_) value /= static_cast<float>(used);
   }
+  if (!background_.empty()) {
+    std::vector<float> reduced(reader_.gathering().pixels());
+    reader_.reduce(background_, reduced);
+    background_ = std::move(reduced);
+  }
   background_mean_ = 0;
   for (const float value : background_) background_mean_ += static_cast<double>(value);
   background_mean_ /= static_cast<double>(std::max<std::size_t>(background_.size(), 1));
@@ -213,13 +194,11 @@ void MapIndexer::find_likeness(Task& task) {
   likeness_ = length_of_likeness(distances, settings_.own_share);
 }
 
-/// The pattern of a place of the worker's tile as it is indexed: averaged, without background, turned upside down so
-/// that its frame is right-handed.
+/// The pattern of a place of the worker's tile as it is indexed: averaged, without background.
 void MapIndexer::pattern_of(int column, int row, Worker& worker) const {
   const Timed timed(worker.times.averaging);
   const PatternTile& tile = worker.tile;
   worker.pattern.resize(tile.pixels);
-  worker.picture.resize(tile.pixels);
   if (settings_.averaging == Averaging::likeness) {
     worker.likeness.average(column, row, likeness_, worker.pattern);
   } else {
@@ -243,13 +222,6 @@ void MapIndexer::pattern_of(int column, int row, Worker& worker) const {
     const auto scale = static_cast<float>(mean / static_cast<double>(tile.pixels) / background_mean_);
     for (std::size_t i = 0; i < tile.pixels; ++i) worker.pattern[i] -= scale * background_[i];
   }
-  const std::size_t width = index(scan_.header().width);
-  const std::size_t height = index(scan_.header().height);
-  for (std::size_t y = 0; y < height; ++y) {
-    const std::size_t from = settings_.flip ? y : height - 1 - y;
-    std::copy_n(worker.pattern.begin() + static_cast<std::ptrdiff_t>(from * width), width,
-                worker.picture.begin() + static_cast<std::ptrdiff_t>(y * width));
-  }
 }
 
 /// Points about a tile that its own ones are averaged with.
@@ -262,72 +234,73 @@ bool MapIndexer::shows_something(const Worker& worker) const {
   return !scan_.header().whole || worker.indexer.prepared().contrast() >= least_contrast;
 }
 
-bool MapIndexer::take_point(std::size_t point, Worker& worker, Task& task) {
+bool MapIndexer::take_point(std::size_t point, Worker& worker) {
   const int margin = this->margin();
   const auto [column, row] = grid_.place(point);
   read_tile({column, row, 1, 1}, margin, worker);
   if (worker.tile.present[worker.tile.place(margin, margin)] == 0) return false;
   if (settings_.averaging == Averaging::likeness) worker.likeness.look_at(worker.tile);
   pattern_of(margin, margin, worker);
-  const PictureView picture{worker.picture, scan_.header().width, scan_.header().height};
-  return worker.indexer.take(picture, settings_.index, task) && shows_something(worker);
+  return worker.indexer.take(worker.pattern, reader_.gathering(), settings_.index) && shows_something(worker);
 }
 
-void MapIndexer::index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task) {
+void MapIndexer::index_tile(const MapTile& tile, Worker& worker, TileState& state, Task& task,
+                            const std::function<void()>& after_point) {
   const int margin = this->margin();
   read_tile(tile, margin, worker);
   if (settings_.averaging == Averaging::likeness) {
     const Timed timed(worker.times.averaging);
     worker.likeness.look_at(worker.tile);
   }
-  found.assign(index(tile.columns) * index(tile.rows), {});
-  std::vector<Guess> known(found.size());
-  std::vector<Guess> guesses;
-  for (int row = 0; row < tile.rows; ++row) {
-    for (int column = 0; column < tile.columns; ++column) {
-      task.check();
-      const auto point = grid_.point(tile.column + column, tile.row + row);
-      const std::size_t here = index(row) * index(tile.columns) + index(column);
-      if (!point || worker.tile.present[worker.tile.place(column + margin, row + margin)] == 0) {
-        found[here].missing = 1;
-        continue;
-      }
-      pattern_of(column + margin, row + margin, worker);
-      guesses.clear();
-      if (column > 0 && known[here - 1].model != nullptr) guesses.push_back(known[here - 1]);
-      if (row > 0 && known[here - index(tile.columns)].model != nullptr) {
-        guesses.push_back(known[here - index(tile.columns)]);
-      }
-      found[here] = index_point(*point, guesses, worker, known[here], task);
+  const auto across = index(tile.columns);
+  state.found.resize(across * index(tile.rows));
+  state.known.resize(state.found.size());
+  std::vector<KnownOrientation> guesses;
+  for (std::size_t& here = state.done; here < state.found.size(); after_point()) {
+    task.check();
+    const int column = static_cast<int>(here % across);
+    const int row = static_cast<int>(here / across);
+    const auto point = grid_.point(tile.column + column, tile.row + row);
+    if (!point || worker.tile.present[worker.tile.place(column + margin, row + margin)] == 0) {
+      state.found[here++].missing = 1;
+      continue;
     }
+    pattern_of(column + margin, row + margin, worker);
+    guesses.clear();
+    if (column > 0 && state.known[here - 1].model >= 0) guesses.push_back(state.known[here - 1]);
+    if (row > 0 && state.known[here - across].model >= 0) guesses.push_back(state.known[here - across]);
+    state.found[here] = index_point(*point, guesses, worker, state.known[here], task);
+    ++here;
   }
 }
 
-PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> guesses, Worker& worker, Guess& known,
-                                    Task& task) const {
+PointResult MapIndexer::index_point(std::size_t point, std::span<const KnownOrientation> guesses, Worker& worker,
+                                    KnownOrientation& known, Task& task) const {
   PointResult result;
   const PictureSize size{scan_.header().width, scan_.header().height, 1};
-  const PictureView picture{worker.picture, size.width, size.height};
   PatternIndexer& indexer = worker.indexer;
   {
     const Timed timed(worker.times.preparing);
-    if (!indexer.take(picture, settings_.index, task)) return result;
+    if (!indexer.take(worker.pattern, reader_.gathering(), settings_.index)) return result;
     if (!shows_something(worker)) return result;
     result.quality = smoothness(indexer.prepared());
   }
   const PatternCentre centre = upside_down(centres_.at(point), size);
   const bool on_picture = settings_.index.fit_picture;
-  Guess best;
+  KnownOrientation best;
+  const auto model_of = [this](const KnownOrientation& one) -> const CrystalModel& {
+    return *models_[index(one.model)];
+  };
   PictureFit best_fit;
   int bands = 0;
   double fit_deg = 0;
   bool settled = false;
   if (on_picture) {
     const Timed timed(worker.times.trying);
-    for (const Guess& guess : guesses) {
-      const PictureFit fit = indexer.fit(*guess.model, guess.crystal_from_picture, centre, settings_.index);
+    for (const KnownOrientation& guess : guesses) {
+      const PictureFit fit = indexer.fit(model_of(guess), guess.crystal_from_picture, centre, settings_.index);
       if (fit.correlation <= best.correlation) continue;
-      best = {guess.model, fit.crystal_from_picture, fit.correlation};
+      best = {guess.model, fit.correlation, fit.crystal_from_picture};
       best_fit = fit;
       settled = fit.correlation >= as_good * guess.correlation;
       if (settled) break;
@@ -338,33 +311,34 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
     bool replaced = false;
     for (const IndexSolution& solution : indexer.index_taken(centre, models_, settings_.index, task)) {
       if (on_picture && solution.correlation <= best.correlation) continue;
-      if (!on_picture && best.model != nullptr) break;  // they stand in order
-      best = {solution.model, solution.crystal_from_picture, on_picture ? solution.correlation : solution.confidence};
+      if (!on_picture && best.model >= 0) break;  // they stand in order
+      best = {static_cast<int>(std::find(models_.begin(), models_.end(), solution.model) - models_.begin()),
+              on_picture ? solution.correlation : solution.confidence, solution.crystal_from_picture};
       bands = solution.matched;
       fit_deg = solution.mean_deviation_deg;
       best_fit = {};
       replaced = true;
     }
     if (on_picture && replaced && bands > 0) {
-      best_fit = indexer.fit(*best.model, best.crystal_from_picture, centre, settings_.index);
+      best_fit = indexer.fit(model_of(best), best.crystal_from_picture, centre, settings_.index);
       best.crystal_from_picture = best_fit.crystal_from_picture;
       best.correlation = best_fit.correlation;
     }
   };
   const auto choose = [&] {
     best_fit.crystal_from_picture = best.crystal_from_picture;
-    const ChosenFit chosen = indexer.choose(*best.model, best_fit, centre, settings_.index);
+    const ChosenFit chosen = indexer.choose(model_of(best), best_fit, centre, settings_.index);
     best_fit = chosen.fit;
     best.crystal_from_picture = best_fit.crystal_from_picture;
     if (!chosen.lead) return true;
-    best.correlation = indexer.correlation(*best.model, best.crystal_from_picture, centre);
+    best.correlation = indexer.correlation(model_of(best), best.crystal_from_picture, centre);
     constexpr double steps = 1000;
     constexpr double most = 127;
     result.lead = static_cast<std::int8_t>(std::lround(std::clamp(steps * *chosen.lead, -most, most)));
     return *chosen.lead >= 0;
   };
   if (!settled) find();
-  if (best.model == nullptr) return result;
+  if (best.model < 0) return result;
   // A neighbour of the other hand fits nearly as well: the crystal that this one belongs to may be among the others.
   if (on_picture && !choose() && settled && models_.size() > 1) {
     find();
@@ -379,8 +353,7 @@ PointResult MapIndexer::index_point(std::size_t point, std::span<const Guess> gu
   for (std::size_t i = 0; i < 3; ++i) {
     result.bunge_rad[i] = static_cast<float>(angles[i] * std::numbers::pi / 180);
   }
-  const auto phase = std::find(models_.begin(), models_.end(), best.model) - models_.begin();
-  result.phase = static_cast<std::int8_t>(phase + 1);
+  result.phase = static_cast<std::int8_t>(best.model + 1);
   known = best;
   return result;
 }

@@ -8,7 +8,6 @@
 
 #include <array>
 #include <functional>
-#include <mutex>
 #include <span>
 #include <vector>
 
@@ -16,6 +15,7 @@
 #include "scans/map_geometry.h"
 #include "scans/map_result.h"
 #include "scans/neighbour_average.h"
+#include "scans/tile_reader.h"
 
 namespace zol {
 
@@ -50,9 +50,18 @@ struct StepTimes {
   StepTimes& operator+=(const StepTimes& other);
 };
 
-/// A part of the map that is worked on at once.
-struct MapTile {
-  int column = 0, row = 0, columns = 0, rows = 0;
+/// An orientation that was found at a point, to be tried at its neighbours.
+struct KnownOrientation {
+  int model = -1;  ///< its number; -1: none
+  double correlation = 0;
+  Rotation crystal_from_picture = Rotation::Identity();
+};
+
+/// How far a tile is. What follows depends on it alone, so that another run can go on with it.
+struct TileState {
+  std::size_t done = 0;                 ///< points, row by row
+  std::vector<PointResult> found;       ///< of the whole tile
+  std::vector<KnownOrientation> known;  ///< of the whole tile; a row of it is looked back at
 };
 
 /// @param scan  read by one thread at a time
@@ -86,37 +95,39 @@ class MapIndexer {
     PatternTile tile;
     LikenessAverage likeness;
     PatternIndexer indexer;
-    std::vector<float> pattern, picture;
+    std::vector<float> pattern;
     StepTimes times;
   };
   [[nodiscard]] Worker make_worker() const { return {saturated_, rounding_}; }
-  /// What is found in a tile, row by row. Many threads may call it, each with a worker of its own.
-  void index_tile(const MapTile& tile, Worker& worker, std::vector<PointResult>& found, Task& task);
+  /// Goes on with a tile to its end. Many threads may call it, each with a worker of its own.
+  /// @param after_point  is called after each point
+  void index_tile(
+      const MapTile& tile, Worker& worker, TileState& state, Task& task,
+      const std::function<void()>& after_point = [] {});
   /// Makes the pattern of one point ready in the worker's indexer, as the map has it.
   /// @returns false where there is none, or it is blank
-  [[nodiscard]] bool take_point(std::size_t point, Worker& worker, Task& task);
+  [[nodiscard]] bool take_point(std::size_t point, Worker& worker);
 
  private:
-  struct Guess;
   void read_tile(const MapTile& tile, int margin, Worker& worker);
   void find_background(Task& task);
   void find_likeness(Task& task);
-  PointResult index_point(std::size_t point, std::span<const Guess> guesses, Worker& worker, Guess& known,
-                          Task& task) const;
+  PointResult index_point(std::size_t point, std::span<const KnownOrientation> guesses, Worker& worker,
+                          KnownOrientation& known, Task& task) const;
   void pattern_of(int column, int row, Worker& worker) const;
   [[nodiscard]] bool shows_something(const Worker& worker) const;
   [[nodiscard]] int margin() const;
   [[nodiscard]] std::array<int, 2> tile_size() const;
 
   Scan& scan_;
-  std::mutex reading_;
   ScanGrid grid_;
+  TileReader reader_;
   MapCentres centres_;
   std::vector<const CrystalModel*> models_;
   MapSettings settings_;
   Rotation picture_from_sample_;
   std::vector<MapTile> tiles_;
-  std::vector<float> background_;  ///< empty: none
+  std::vector<float> background_;  ///< as patterns are worked on; empty: none
   double background_mean_ = 0;
   BackgroundKind background_kind_ = BackgroundKind::none;
   double likeness_ = 0;

@@ -3,14 +3,18 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <cstring>
 #include <exception>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <memory>
 #include <mutex>
+#include <span>
 #include <system_error>
 #include <thread>
 #include <utility>
@@ -20,28 +24,49 @@
 namespace zol {
 namespace {
 
-constexpr std::string_view sign = "ZOLMAP1\n";
+constexpr std::string_view sign = "ZOLMAP2\n";
 
+/// What stands before points of a tile, which end with its last one or with what is known of the row behind them.
 struct Record {
-  std::uint64_t tile = 0, count = 0, checksum = 0;
+  std::uint64_t tile = 0, first = 0, count = 0;  ///< points, counted in the tile
+  std::uint64_t known = 0;                       ///< orientations
+  std::uint64_t checksum = 0;                    ///< of what follows, going on from the tile
 };
 
-std::string_view bytes_of(const std::vector<PointResult>& results) {
-  return {reinterpret_cast<const char*>(results.data()), results.size() * sizeof(PointResult)};
+constexpr std::size_t known_bytes = sizeof(double) * 11;
+
+std::string bytes_of(std::span<const PointResult> results) {
+  return {reinterpret_cast<const char*>(results.data()), results.size_bytes()};
 }
 
-/// The file of finished tiles. Each is appended as a whole with its checksum; a tail that is not is cut off.
+std::string bytes_of(const KnownOrientation& known) {
+  std::array<double, 11> numbers{static_cast<double>(known.model), known.correlation};
+  Eigen::Map<Eigen::Matrix<double, 3, 3>>(numbers.data() + 2) = known.crystal_from_picture;
+  return {reinterpret_cast<const char*>(numbers.data()), known_bytes};
+}
+
+KnownOrientation known_of(const char* bytes) {
+  std::array<double, 11> numbers{};
+  std::memcpy(numbers.data(), bytes, known_bytes);
+  KnownOrientation known{static_cast<int>(numbers[0]), numbers[1], {}};
+  known.crystal_from_picture = Eigen::Map<const Eigen::Matrix<double, 3, 3>>(numbers.data() + 2);
+  return known;
+}
+
+/// The file of tiles that are finished or begun. Records are appended as a whole with a checksum; a tail that is not is
+/// cut off.
 class PartFile {
  public:
-  using Take = std::function<void(std::size_t tile, const std::vector<PointResult>& results)>;
+  using Finish = std::function<void(std::size_t tile, const std::vector<PointResult>& results)>;
 
-  /// @param take  is told each tile that was kept by an earlier run
-  PartFile(const MapRun& run, std::size_t tiles, const Take& take) : path_(run.part_path), finished_(tiles) {
+  /// @param finish  is told each tile that an earlier run has finished
+  PartFile(const MapRun& run, const std::vector<MapTile>& tiles, Finish finish)
+      : path_(run.part_path), tiles_(tiles), finish_(std::move(finish)), finished_(tiles.size()) {
     if (path_.empty()) return;
     std::string head(sign);
     head.append(reinterpret_cast<const char*>(&run.fingerprint), sizeof run.fingerprint);
     std::size_t good = 0;
-    if (run.resume && access(path_.c_str(), F_OK) == 0) good = take_kept(head, take);
+    if (run.resume && access(path_.c_str(), F_OK) == 0) good = take_kept(head);
     file_ = open(path_.c_str(), O_WRONLY | O_CREAT | O_CLOEXEC, 0666);
     if (file_ < 0) fail();
     if (ftruncate(file_, static_cast<off_t>(good)) != 0 || lseek(file_, 0, SEEK_END) < 0) fail();
@@ -54,13 +79,22 @@ class PartFile {
   }
 
   [[nodiscard]] bool finished(std::size_t tile) const { return finished_[tile]; }
+  /// How far an earlier run had come with a tile.
+  [[nodiscard]] const TileState* begun(std::size_t tile) const {
+    const auto found = begun_.find(tile);
+    return found == begun_.end() ? nullptr : &found->second;
+  }
+  [[nodiscard]] std::size_t points_of(std::size_t tile) const {
+    return static_cast<std::size_t>(tiles_[tile].columns) * static_cast<std::size_t>(tiles_[tile].rows);
+  }
 
-  void keep(std::size_t tile, const std::vector<PointResult>& results) {
+  void keep(std::size_t tile, std::size_t first, std::span<const PointResult> results,
+            std::span<const KnownOrientation> row) {
     if (file_ < 0) return;
-    const Record record{tile, results.size(), fingerprint_of(bytes_of(results), tile)};
-    std::string bytes(reinterpret_cast<const char*>(&record), sizeof record);
-    bytes += bytes_of(results);
-    append(bytes);
+    std::string bytes = bytes_of(results);
+    for (const auto& known : row) bytes += bytes_of(known);
+    const Record record{tile, first, results.size(), row.size(), fingerprint_of(bytes, tile)};
+    append(std::string(reinterpret_cast<const char*>(&record), sizeof record) + bytes);
   }
   void remove() {
     if (file_ >= 0) (void)unlink(path_.c_str());
@@ -70,7 +104,7 @@ class PartFile {
   [[noreturn]] void fail() const { throw RunFailure("can't write " + path_ + ": " + std::strerror(errno)); }
 
   /// @returns the bytes that are good
-  std::size_t take_kept(const std::string& head, const Take& take) {
+  std::size_t take_kept(const std::string& head) {
     std::ifstream file(path_, std::ios::binary);
     if (!file) throw RunFailure("can't open " + path_);
     const auto size = static_cast<std::size_t>(std::filesystem::file_size(path_));
@@ -82,19 +116,38 @@ class PartFile {
     }
     std::size_t at = head.size();
     Record record;
-    std::vector<PointResult> results;
+    std::string bytes;
     while (file.read(reinterpret_cast<char*>(&record), sizeof record)) {
       const std::size_t left = size - at - sizeof record;
-      if (record.tile >= finished_.size() || record.count > left / sizeof(PointResult)) break;
-      results.resize(record.count);
-      const std::size_t bytes = record.count * sizeof(PointResult);
-      if (!file.read(reinterpret_cast<char*>(results.data()), static_cast<std::streamsize>(bytes))) break;
-      if (fingerprint_of(bytes_of(results), record.tile) != record.checksum) break;
-      if (!finished_[record.tile]) take(record.tile, results);
-      finished_[record.tile] = true;
-      at += sizeof record + bytes;
+      if (record.count > left / sizeof(PointResult) || record.known > left / known_bytes) break;
+      bytes.resize(record.count * sizeof(PointResult) + record.known * known_bytes);
+      if (!file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()))) break;
+      if (fingerprint_of(bytes, record.tile) != record.checksum) break;
+      take(record, bytes);
+      at += sizeof record + bytes.size();
     }
     return at;
+  }
+
+  void take(const Record& record, const std::string& bytes) {
+    const std::size_t points = record.tile < tiles_.size() ? points_of(record.tile) : 0;
+    const std::size_t end = record.first + record.count;
+    if (record.first > points || record.count > points - record.first || record.known > end) {
+      throw RunFailure(path_ + " does not fit the map; remove it, or run without resume");
+    }
+    if (finished_[record.tile]) return;
+    TileState& state = begun_[record.tile];
+    if (state.done != record.first) return;
+    state.found.resize(points);
+    state.known.resize(state.found.size());
+    std::memcpy(&state.found[record.first], bytes.data(), record.count * sizeof(PointResult));
+    const char* known = bytes.data() + record.count * sizeof(PointResult);
+    for (std::size_t i = end - record.known; i < end; ++i, known += known_bytes) state.known[i] = known_of(known);
+    state.done = end;
+    if (end < points) return;
+    finish_(record.tile, state.found);
+    finished_[record.tile] = true;
+    begun_.erase(record.tile);
   }
 
   void append(const std::string& bytes) const {
@@ -106,8 +159,11 @@ class PartFile {
   }
 
   std::string path_;
+  const std::vector<MapTile>& tiles_;
+  Finish finish_;
   int file_ = -1;
   std::vector<bool> finished_;
+  std::map<std::size_t, TileState> begun_;
 };
 
 /// Stops a thread when the run is stopped.
@@ -128,29 +184,39 @@ class RunTask : public Task {
 /// Hands out the tiles of a map that are not finished, and keeps what is found.
 class Ledger : public TileDesk {
  public:
-  Ledger(MapIndexer& indexer, const ScanGrid& grid, const MapRun& run, std::vector<PointResult>& points)
-      : indexer_(indexer),
+  Ledger(const MapIndexer& indexer, const ScanGrid& grid, const MapRun& run, std::vector<PointResult>& points)
+      : tiles_(indexer.tiles()),
         grid_(grid),
         run_(run),
         points_(points),
-        part_(run, indexer.tiles().size(), [this](std::size_t tile, const std::vector<PointResult>& kept) {
-          const auto& place = indexer_.tiles()[tile];
-          if (kept.size() != static_cast<std::size_t>(place.columns) * static_cast<std::size_t>(place.rows)) {
-            throw RunFailure(run_.part_path + " does not fit the map; remove it, or run without resume");
-          }
-          put(tile, kept);
-        }) {}
+        part_(run, tiles_, [this](std::size_t tile, const std::vector<PointResult>& results) { put(tile, results); }),
+        kept_(tiles_.size()) {}
 
   std::optional<std::size_t> next() override {
     while (true) {
       const std::size_t tile = next_++;
-      if (tile >= indexer_.tiles().size()) return std::nullopt;
-      if (!part_.finished(tile)) return tile;
+      if (tile >= tiles_.size()) return std::nullopt;
+      if (part_.finished(tile)) continue;
+      if (const auto* state = part_.begun(tile)) kept_[tile] = state->done;
+      return tile;
     }
+  }
+  TileState begun(std::size_t tile) override {
+    const auto* state = part_.begun(tile);
+    return state != nullptr ? *state : TileState{};
+  }
+  void keep(std::size_t tile, const TileState& state) override {
+    const std::lock_guard lock(mutex_);
+    const std::size_t first = kept_[tile];
+    if (first == state.done) return;
+    const std::size_t row = std::min(state.done, static_cast<std::size_t>(tiles_[tile].columns));
+    part_.keep(tile, first, std::span(state.found).subspan(first, state.done - first),
+               std::span(state.known).subspan(state.done - row, row));
+    kept_[tile] = state.done;
   }
   void deliver(std::size_t tile, const std::vector<PointResult>& results) override {
     const std::lock_guard lock(mutex_);
-    part_.keep(tile, results);
+    part_.keep(tile, kept_[tile], std::span(results).subspan(kept_[tile]), {});
     put(tile, results);
     run_.progress(done_, points_.size());
   }
@@ -158,7 +224,7 @@ class Ledger : public TileDesk {
 
  private:
   void put(std::size_t number, const std::vector<PointResult>& results) {
-    const MapTile& tile = indexer_.tiles()[number];
+    const MapTile& tile = tiles_[number];
     std::size_t i = 0;
     for (int row = 0; row < tile.rows; ++row) {
       for (int column = 0; column < tile.columns; ++column, ++i) {
@@ -169,12 +235,13 @@ class Ledger : public TileDesk {
     done_ += results.size();
   }
 
-  MapIndexer& indexer_;
+  const std::vector<MapTile>& tiles_;
   const ScanGrid& grid_;
   const MapRun& run_;
   std::vector<PointResult>& points_;
-  std::size_t done_ = 0;  ///< counts what the next one takes
+  std::size_t done_ = 0;
   PartFile part_;
+  std::vector<std::size_t> kept_;  ///< points of each tile that stand in the file
   std::atomic<std::size_t> next_ = 0;
   std::mutex mutex_;
 };
@@ -196,17 +263,33 @@ struct Crew {
   }
 };
 
+/// With a tile to its end, keeping it every now and then and when it is stopped.
+void go_on(Crew& crew, std::size_t tile, MapIndexer::Worker& worker, TileState& state, Task& task) {
+  auto kept = std::chrono::steady_clock::now();
+  try {
+    crew.indexer.index_tile(crew.indexer.tiles()[tile], worker, state, task, [&] {
+      const auto now = std::chrono::steady_clock::now();
+      if (now - kept < crew.run.keep_every || state.done == state.found.size()) return;
+      kept = now;
+      crew.desk.keep(tile, state);
+    });
+  } catch (const Cancelled&) {
+    crew.desk.keep(tile, state);
+    throw;
+  }
+}
+
 void work(Crew& crew) {
   try {
     MapIndexer::Worker worker = crew.indexer.make_worker();
     const std::function<bool()> stop = [&crew] { return crew.stop(); };
     RunTask task(stop);
-    std::vector<PointResult> results;
     while (!stop()) {
       const auto tile = crew.desk.next();
       if (!tile) return;
-      crew.indexer.index_tile(crew.indexer.tiles()[*tile], worker, results, task);
-      crew.desk.deliver(*tile, results);
+      TileState state = crew.desk.begun(*tile);
+      go_on(crew, *tile, worker, state, task);
+      crew.desk.deliver(*tile, state.found);
       const std::lock_guard lock(crew.mutex);
       if (crew.run.times != nullptr) *crew.run.times += std::exchange(worker.times, {});
     }

@@ -1,6 +1,7 @@
 // A map indexed by all cores, so that a run that was stopped or killed is gone on with.
 #pragma once
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <optional>
@@ -13,8 +14,10 @@ namespace zol {
 
 struct MapRun {
   int threads = 1;
-  std::string part_path;          ///< where finished tiles are kept until the end; empty: nowhere
-  bool resume = false;            ///< tiles that are kept are not indexed again
+  std::string part_path;  ///< where finished tiles are kept until the end; empty: nowhere
+  bool resume = false;    ///< tiles that are kept are not indexed again
+  /// A tile that takes long is kept as far as it is, so often: a process that is killed loses no more.
+  std::chrono::milliseconds keep_every{1000};
   std::uint64_t fingerprint = 0;  ///< of scan and settings: tiles of another run are not taken
   /// Asked every now and then, by any thread.
   std::function<bool()> stop = [] { return false; };
@@ -32,6 +35,10 @@ class TileDesk {
   virtual ~TileDesk() = default;
   /// The next tile; none when all are handed out, or nobody is to go on.
   virtual std::optional<std::size_t> next() = 0;
+  /// How far an earlier run had come with a tile.
+  virtual TileState begun(std::size_t /*tile*/) { return {}; }
+  /// A tile that is not done yet.
+  virtual void keep(std::size_t /*tile*/, const TileState& /*state*/) {}
   virtual void deliver(std::size_t tile, const std::vector<PointResult>& results) = 0;
 };
 

@@ -16,7 +16,7 @@ BEGIN { u32(3); u32(60); u32(60); u32(42); printf "%c", 0; u32(24); u32(40); pri
         v = 90 + (x * 7 + y * 13 + point * 5) % 11
         for (k = 0; k < 4; ++k) { a = 0.4 + 0.8 * k + point / 900; d = x * cos(a) + y * sin(a) - 6 * k + 8; if (d * d < 9) v += 30 }
         printf "%c", v } }' >scan.up1
-run() { out=$1; shift; "$@" "$batch" map scan.up1 -c "$crystal" --pc 0.5,0.3,0.6 -j 1 -q -o "$out"; }
+run() { out=$1; shift; "$@" "$batch" map scan.up1 -c "$crystal" --pc 0.5,0.3,0.6 --master none -j 1 -q -o "$out"; }
 run plain.csv
 for ranks in 1 2 3; do
   run "$ranks.csv" $mpirun -n "$ranks"
@@ -35,5 +35,5 @@ chmod +x mortal
 if run killed.csv $mpirun -n 3 ./mortal 2>message; then echo "the run outlived a killed process"; exit 1; fi
 grep -q "signal 9" message || { cat message; exit 1; }
 [ -s killed.csv.part ] && [ ! -e killed.csv ]
-"$batch" map scan.up1 -c "$crystal" --pc 0.5,0.3,0.6 -j 1 -q -o killed.csv --resume
+"$batch" map scan.up1 -c "$crystal" --pc 0.5,0.3,0.6 --master none -j 1 -q -o killed.csv --resume
 cmp plain.csv killed.csv

@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 #include <hdf5.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <cmath>
@@ -424,8 +426,70 @@ TEST(MapIndexer, FindsBothGrainsAndTheHoleWithAnyNumberOfThreadsAndAfterAStop) {
   run.resume = true;
   EXPECT_EQ(indexed(run), points);
   EXPECT_EQ(folder.entries(), 0U) << "what was kept goes at the end";
-  folder.write("map.part", "ZOLMAP1\n" + bytes(std::uint64_t{6}));
+  folder.write("map.part", "ZOLMAP2\n" + bytes(std::uint64_t{6}));
   EXPECT_TRUE(fails_with("other settings", [&] { (void)run_map(indexer, grid, run, part); }));
+}
+
+// A tile of 108 points is the whole map, so that all that is kept stands within it.
+TEST(MapRun, AProcessThatIsKilledLosesOnlyWhatItDidSinceItKeptItsPointsLast) {
+  const ScratchFolder folder;
+  DriftingScan scan;
+  const ScanGrid grid = *scan.header().grid;
+  MapIndexer indexer(scan, grid, DriftingScan::truth(), {&metal()}, {});
+  indexer.prepare(quiet);
+  const auto asked_of = [&](MapRun run, std::vector<PointResult>& points) {
+    int asked = 0;
+    run.stop = [&asked] { return ++asked < 0; };
+    EXPECT_TRUE(run_map(indexer, grid, run, points));
+    return asked;
+  };
+  std::vector<PointResult> whole;
+  const int all = asked_of({}, whole);
+  MapRun run;
+  run.part_path = folder.path("map.part");
+  run.keep_every = std::chrono::milliseconds(0);
+  const pid_t child = fork();
+  if (child == 0) {
+    int left = all / 2;
+    run.stop = [&left] { return --left < 0 && raise(SIGKILL) != 0; };
+    std::vector<PointResult> points;
+    (void)run_map(indexer, grid, run, points);
+    _exit(0);
+  }
+  int status = 0;
+  ASSERT_EQ(waitpid(child, &status, 0), child);
+  ASSERT_TRUE(WIFSIGNALED(status) && WTERMSIG(status) == SIGKILL);
+  run.resume = true;
+  std::vector<PointResult> points;
+  EXPECT_LE(asked_of(run, points), all - all / 2 + 2) << "it is asked evenly as points go on, of " << all;
+  EXPECT_GE(all, 10);
+  EXPECT_EQ(points, whole);
+}
+
+TEST(MapRun, KeepsATileAsOftenAsItIsTold) {
+  struct Desk : TileDesk {
+    std::optional<std::size_t> next() override {
+      return given ? std::nullopt : (given = true, std::optional<std::size_t>(0));
+    }
+    void keep(std::size_t /*tile*/, const TileState& state) override {
+      ++times;
+      done = state.done;
+    }
+    void deliver(std::size_t /*tile*/, const std::vector<PointResult>& /*results*/) override {}
+    bool given = false;
+    int times = 0;
+    std::size_t done = 0;
+  };
+  DriftingScan scan;
+  const ScanGrid grid = *scan.header().grid;
+  MapIndexer indexer(scan, grid, DriftingScan::truth(), {&metal()}, {});
+  indexer.prepare(quiet);
+  MapRun run;
+  run.keep_every = std::chrono::milliseconds(2);
+  Desk desk;
+  EXPECT_TRUE(work_on_tiles(indexer, desk, run));
+  EXPECT_GT(desk.times, 5);
+  EXPECT_GT(desk.done, 50U) << "of 108, which take much longer than that";
 }
 
 // 4 pi and -1 for what is not indexed; a quarter turn and, on a hexagonal cell, 30 degrees between the two makers.
