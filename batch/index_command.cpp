@@ -73,6 +73,7 @@ void write_text(const IndexedPicture& found, const IndexWords& words) {
             << " bands, off by " << Format(best.mean_deviation_deg, "0.00") << " deg, correlation "
             << Format(best.correlation, "0.000") << kinematic_text(found) << ", confidence "
             << Format(best.confidence, "0.00");
+  if (best.lead) std::cout << ", " << lookalike_text(best);
   if (found.refined) {
     std::cout << ", centre " << numbers(centre_in_words(found, words), "0.00000", " ") << " (" << words.convention
               << ")";

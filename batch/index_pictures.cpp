@@ -10,6 +10,7 @@
 #include "batch/batch_program.h"
 #include "batch/batch_progress.h"
 #include "batch/words.h"
+#include "indexing/band_contrast.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/program/data_folders.h"
 
@@ -215,9 +216,7 @@ std::shared_ptr<const PictureModels::Models> PictureModels::fitted(const Picture
   for (std::size_t i = 0; i < models->size(); ++i) {
     const auto sphere = masters_->sphere(i, view, task);
     if (!sphere) continue;
-    CrystalModel dynamical = *drawn_[i];
-    dynamical.sphere = sphere;
-    (*models)[i] = std::make_shared<const CrystalModel>(std::move(dynamical));
+    (*models)[i] = std::make_shared<const CrystalModel>(with_pattern(*drawn_[i], sphere, words_.families, task));
   }
   known = models;
   return known;
