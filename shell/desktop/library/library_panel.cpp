@@ -1,6 +1,7 @@
 #include "shell/desktop/library/library_panel.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 #include <QAction>
@@ -140,13 +141,13 @@ void LibraryPanel::lay_out() {
   setWidget(inside);
 }
 
-/// The window grows by the panel where the screen has room; where the window can't get narrow enough for both, the
-/// panel floats.
-void LibraryPanel::come_up() {
+/// The window grows by the panel where the screen has room, unless its kept place has the panel already; where the
+/// window can't get narrow enough for both, the panel floats.
+void LibraryPanel::come_up(bool window_has_room) {
   const QRect room = top_.screen()->availableGeometry();
   const bool fits = top_.minimumSizeHint().width() + panel_width <= room.width();
   top_.addDockWidget(Qt::LeftDockWidgetArea, this);
-  if (fits && !top_.isMaximized()) {
+  if (fits && !window_has_room && !top_.isMaximized()) {
     const int width = std::min(top_.width() + panel_width, room.width());
     top_.resize(width, top_.height());
     const int frame = top_.frameGeometry().width() - top_.width();
@@ -250,17 +251,22 @@ void offer_library(QMainWindow& top, const LibrarySetup& setup, QSettings* setti
     action->setChecked(open);
     if (settings != nullptr) settings->setValue(QLatin1String(open_key), open);
   };
+  auto at_start = std::make_shared<bool>(false);
   QObject::connect(action, &QAction::triggered, &top,
-                   [&top, setup, keep, panel = QPointer<LibraryPanel>()](bool wanted) mutable {
+                   [&top, setup, keep, at_start, panel = QPointer<LibraryPanel>()](bool wanted) mutable {
                      if (!panel) {
                        panel = new LibraryPanel(setup, top);
                        QObject::connect(panel, &LibraryPanel::shown, panel, keep);
                      }
-                     wanted ? panel->come_up() : panel->hide();
+                     wanted ? panel->come_up(*at_start) : panel->hide();
                      keep(wanted);
                    });
   if (settings != nullptr && settings->value(QLatin1String(open_key)).toBool()) {
-    QTimer::singleShot(0, action, &QAction::trigger);
+    QTimer::singleShot(0, action, [action, at_start] {
+      *at_start = true;
+      action->trigger();
+      *at_start = false;
+    });
   }
 }
 

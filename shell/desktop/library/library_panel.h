@@ -32,7 +32,8 @@ class LibraryPanel : public QDockWidget {
  public:
   LibraryPanel(LibrarySetup setup, QMainWindow& top);
   /// Comes up with the search, beside the window as far as the screen has room.
-  void come_up();
+  /// @param window_has_room  its size has the panel in it, as a kept one does
+  void come_up(bool window_has_room);
 
  signals:
   void shown(bool open);
