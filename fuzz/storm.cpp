@@ -264,7 +264,7 @@ class StormMaker::Storm {
   static bool ends_program(const std::string& path) { return path == "MAIN_MENU.Command5" || path == "Main1.OWARI"; }
   /// Under the sanitizers dynamical patterns take minutes, and a script stops nothing.
   static bool takes_minutes(const std::string& path) {
-    return path == "AutoIndex.Dynamical" || path == "MasterPattern.Make";
+    return path == "AutoIndex.Dynamical" || path == "MasterPattern.Make" || path == "Pattern2.DynamicalBands";
   }
 
   void act_on_box(const std::string& path) {
