@@ -31,7 +31,7 @@ void TileReader::read(const MapTile& tile, int margin, PatternBlock& block, Patt
     if (!begin) continue;
     const int end = grid_.point(last, map_row) ? last : last - 1;
     if (end < first) continue;
-    read_run(*begin, static_cast<std::size_t>(end - first + 1), into.place(first - (tile.column - margin), row), block,
+    read_run(*begin, static_cast<std::size_t>(end - first) + 1, into.place(first - (tile.column - margin), row), block,
              into);
   }
 }
