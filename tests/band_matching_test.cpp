@@ -159,7 +159,7 @@ TEST(FormerSolutions, AreFoundAsByLookingAtEach) {
     };
     std::vector<TripleTable::Plane> planes(count);
     for (auto& plane : planes) plane = {{}, value(trial % 6 == 0), value(trial % 3 == 0)};
-    TripleTable table(count * count * count + 2, planes, std::vector<Single>(count * count));
+    TripleTable table(count * count * count + 2, planes, std::vector<Single>(std::size_t{count} * count));
     if (trial % 2 == 0) table.empty_indices_and_angles(1);
     FormerSolutions former(table);
     for (int step = 0; step < 40; ++step) {
