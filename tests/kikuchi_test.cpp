@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <random>
 #include <vector>
 
+#include "core/number_text.h"
+#include "kikuchi/degrees_text.h"
 #include "kikuchi/kikuchi_pattern.h"
 #include "kikuchi/zone_map.h"
 #include "tests/cartesian_cell.h"
@@ -107,6 +111,17 @@ TEST(ZoneMap, GivesUpOnTheAxisItself) {
   EXPECT_TRUE(fails_with("the length of the zone axis", [&] { (void)place_of_direction(state, 0, 0, 0); }));
   state.OriginH = state.OriginK = state.OriginL = 0;
   EXPECT_FALSE(place_of_direction(state, 1, 0, 0)) << "no reference before the first drawing";
+}
+
+TEST(OnePlace, IsAsFormatHasIt) {
+  std::mt19937_64 random(1);
+  std::vector<double> angles{0.0, -0.0, -0.04, 0.05, -0.05, 99.95, 359.95, 99999.96, 1e5, 1e30};
+  for (int i = 0; i < 20000; ++i) {
+    const double angle = std::uniform_real_distribution<>(-400, 400)(random);
+    const double half = std::round(angle * 20) / 20;
+    angles.insert(angles.end(), {angle, angle * 1e-3, half, to_single(angle), to_single(half)});
+  }
+  for (const double angle : angles) ASSERT_EQ(one_place(angle), Format(angle, "##0.0")) << angle;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <cmath>
 
 #include "core/cell_geometry.h"
+#include "kikuchi/degrees_text.h"
 #include "kikuchi/kikuchi_pattern.h"
 #include "kikuchi/window/kikuchi_operations.h"
 #include "kikuchi/window/pattern2_form.h"
@@ -42,17 +43,6 @@ void draw_line(Canvas& picture, const KikuchiLine& line, double reach, Colour co
   const double along_x = 2 * reach * line.unit_y;
   const double along_y = 2 * reach * line.unit_x;
   picture.line(line.foot_x + along_x, line.foot_y - along_y, line.foot_x - along_x, line.foot_y + along_y, colour);
-}
-
-/// As Format with "##0.0" has it, several times as quick where no half is near.
-std::string one_place(double degrees) {
-  constexpr double near_half = 1e-6;
-  constexpr double largest = 1e6;
-  const double tenths = std::abs(degrees) * 10;
-  const double whole = std::floor(tenths);
-  if (!(tenths < largest) || std::abs(tenths - whole - 0.5) < near_half) return Format(degrees, "##0.0");
-  const int rounded = static_cast<int>(tenths - whole < 0.5 ? whole : whole + 1);
-  return (degrees < 0 ? "-" : "") + plain_text(rounded / 10) + '.' + static_cast<char>('0' + rounded % 10);
 }
 
 std::string band_text(int number, const KikuchiLine& line, int level) {
