@@ -164,7 +164,6 @@ void index_a_measured_pattern(const User& user) {
   const QString said = user.widget<QLabel>("AutoIndex", "Status").text();
   expect(said.contains(QStringLiteral("correlation 0.5")), "the measured pattern is indexed as: " + said.toStdString());
   user.take_picture("AutoIndex", "day-indexed");
-  user.take_picture("PATTERN3", "day-bands");
   user.click("AutoIndex", "Show");
   user.choose("Pattern2", "ImageLoad");
   user.take_picture("Pattern2", "day-simulated");
