@@ -112,7 +112,7 @@ nlohmann::ordered_json json_of(const IndexedPicture& found, const IndexWords& wo
   return json;
 }
 
-/// All pictures that can be indexed are told; one that can't fails the command at its end.
+/// All pictures that can be indexed are told; one that cannot fails the command at its end.
 int run(const IndexWords& words) {
   (void)centre_of_words(words.centre, words.convention, {1, 1, words.pixel});
   if (!words.overlay.empty() && !std::filesystem::is_directory(words.overlay)) {

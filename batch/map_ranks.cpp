@@ -158,7 +158,7 @@ MapRanks::MapRanks() {
   if (!launched()) return;
   int given = 0;
   if (MPI_Init_thread(nullptr, nullptr, MPI_THREAD_SERIALIZED, &given) != MPI_SUCCESS) {
-    throw RunFailure("MPI can't begin");
+    throw RunFailure("MPI cannot begin");
   }
   begun_ = true;
   if (given < MPI_THREAD_SERIALIZED) throw RunFailure("this MPI knows no threads");

@@ -72,7 +72,7 @@ void write_png(const MasterPattern& master, bool south, const std::string& path)
       line[column] = static_cast<uchar>(std::clamp((value - darkest) / range, 0.0F, 1.0F) * white);
     }
   }
-  if (!image.save(QString::fromStdString(path), "PNG")) throw RunFailure("can't write " + path);
+  if (!image.save(QString::fromStdString(path), "PNG")) throw RunFailure("cannot write " + path);
 }
 
 std::string percent(double correlation) {

@@ -9,7 +9,7 @@
 namespace zol {
 namespace {
 
-constexpr auto statuses = "0 done, 1 a failure, 2 words that can't be read, 3 stopped by a signal.";
+constexpr auto statuses = "0 done, 1 a failure, 2 words that cannot be read, 3 stopped by a signal.";
 
 /// The value of an option as its choices, or by its kind.
 std::string value_of(const WordOption& option, const char* between) {

@@ -106,7 +106,7 @@ void read_words(CLI::App& command, const std::string& path) {
     try {
       option->run_callback();
     } catch (const CLI::ParseError& error) {
-      throw failure(std::string("can't be taken: ") + error.what());
+      throw failure(std::string("cannot be taken: ") + error.what());
     }
   }
 }

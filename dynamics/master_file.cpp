@@ -76,7 +76,7 @@ std::vector<std::size_t> ascending(const std::vector<double>& kilovolts) {
 }
 
 [[noreturn]] void fail(const std::string& path, const std::string& why) {
-  throw RunFailure("can't read the master pattern " + path + ": " + why);
+  throw RunFailure("cannot read the master pattern " + path + ": " + why);
 }
 
 /// Sites summed, of one voltage.

@@ -151,7 +151,7 @@ const std::vector<Row>& rows() {
       {powder + "set Xd.Text1 2\nset Xd.Text2 2\n", "click Xd.Command1\nprint Xd.List1",
        "2theta.min and 2theta.max are the same", Outcome::Prints, "2-Theta   d     I/Io\n", powder},
       {"", "click Xd.Command6", "there is no curve yet: \"CALC\" makes one", Outcome::Ends, "", powder},
-      {powder + "set Xd.Text5 0\n", R"(type Xd.Text5 "\r")", "an intensity of 0 can't be drawn at full height",
+      {powder + "set Xd.Text5 0\n", R"(type Xd.Text5 "\r")", "an intensity of 0 cannot be drawn at full height",
        Outcome::Ends, "", powder},
       {silicon, "click Pattern.Command8", no_axis, Outcome::Ends, "", spots},
       {silicon + "set FiberTexture.Text5 0\n", "click FiberTexture.Command8", "the fiber direction H, K, L is 0 0 0",
@@ -176,7 +176,7 @@ const std::vector<Row>& rows() {
              return zoomed;
            }(),
        "click Zaxis.Command2\nclick Zaxis.Command2\nprint Zaxis.MapScale",
-       "the map can't be made larger: it would turn over", Outcome::Prints, "-.1000002\n", kikuchi},
+       "the map cannot be made larger: it would turn over", Outcome::Prints, "-.1000002\n", kikuchi},
       {silicon, "click PATTERN3.Command1\nprint PATTERN3.SolutionCount", "no lines are picked", Outcome::Ends, "",
        silicon + lines_drawn},
       {silicon + line_drawn, "click PATTERN3.Command1\nprint PATTERN3.SolutionCount", "1 of 3 lines are picked",
@@ -264,14 +264,14 @@ TEST(GuardTable, PromptsTellWhatAnAnswerDoes) {
   }
 }
 
-// A crystal saved with neither atoms nor reflections can't be loaded again.
+// A crystal saved with neither atoms nor reflections cannot be loaded again.
 TEST(GuardTable, WarnsOfAFileThatCannotBeLoaded) {
   const ScratchFolder folder;
   const std::string file = "answer " + folder.path("bare.cry") + "\n";
   GuardedProgram of;
   of.prepare("set Main1.Text1 4\n");
   EXPECT_EQ(reason_against(of.program, "click Main1.DATA_SAVE"),
-            "without atoms and reflections the file can't be loaded again");
+            "without atoms and reflections the file cannot be loaded again");
   EXPECT_EQ(of.run(file + "click Main1.DATA_SAVE"), "");
   EXPECT_NE(of.run(file + "click Main1.DATA_LOAD"), "");
 }

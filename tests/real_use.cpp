@@ -143,7 +143,7 @@ void save_table(const User& user) {
   QTest::keyClick(&rows, Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
   user.save("reflections", "reflections.csv", [&rows] { QTest::keyClick(&rows, Qt::Key_S, Qt::ControlModifier); });
   QFile file(user.file("reflections.csv"));
-  expect(file.open(QIODevice::ReadOnly), "the table can't be read");
+  expect(file.open(QIODevice::ReadOnly), "the table cannot be read");
   const QList<QByteArray> lines = file.readAll().trimmed().split('\n');
   expect(lines.front().startsWith("h,k,l,") && lines.front().endsWith(",sum I"), "the heads of the table are others");
   double before = 2;
@@ -500,7 +500,7 @@ int main(int argc, char** argv) {
   const int pictures_at = is_day ? 3 : 2;
   const std::optional<QString> pictures =
       argc == pictures_at + 1 ? std::optional(QFile::decodeName(argv[pictures_at])) : std::nullopt;
-  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // those of a desktop can't be filled in from here
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // those of a desktop cannot be filled in from here
   return zol::run_application(argc, argv, [&](zol::Desktop& desktop) {
     const zol::User user(desktop, files, pictures);
     const std::string_view mode = argc > 3 ? argv[2] : "";

@@ -21,7 +21,7 @@ std::string box_text(double value) {
   return plain_text(std::round(value * unit) / unit);
 }
 
-/// What can't be done is told and leaves all as it was.
+/// What cannot be done is told and leaves all as it was.
 template <class Action>
 void told_where_it_fails(Workbench& bench, const char* title, const Action& action) {
   try {

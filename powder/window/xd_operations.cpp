@@ -98,7 +98,7 @@ void XdForm::declare(const Workbench& bench) {
   const auto no_curve = [this] { return when(Profile.upper() < 0, "there is no curve yet: \"CALC\" makes one"); };
   warn({&Command6, &Command7, &Command3}, no_curve);
   Text5.warn_when = [this, no_curve] {
-    return first_of({no_curve(), when(Val(Text5.text()) == 0, "an intensity of 0 can't be drawn at full height")});
+    return first_of({no_curve(), when(Val(Text5.text()) == 0, "an intensity of 0 cannot be drawn at full height")});
   };
   Picture1.warn_when = [this, no_curve] {
     return first_of({no_curve(), when(PeakMax == 0, R"("Clear" has taken the curve away: "CALC" first)")});

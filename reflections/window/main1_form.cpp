@@ -47,7 +47,7 @@ void Main1Form::declare_guards(const Workbench& bench) {
   };
   Command11.warn_when = [&seen] { return when(seen.NAtom < 1, "there are no atoms"); };
   DATA_SAVE.warn_when = [&seen] {
-    return when(seen.NAtom < 1 && seen.JcpdsCount < 1, "without atoms and reflections the file can't be loaded again");
+    return when(seen.NAtom < 1 && seen.JcpdsCount < 1, "without atoms and reflections the file cannot be loaded again");
   };
   Text7.warn_text = [&bench](const std::string& text) {
     const double number = Val(text);

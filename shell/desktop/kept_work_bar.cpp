@@ -97,7 +97,7 @@ void KeptWorkBar::add_row(const LeftOver& left) {
   auto* columns = new QHBoxLayout(row);
   columns->setContentsMargins(0, 0, 0, 0);
   const QString told = left.fault.empty() ? told_of(left.note)
-                                          : tr("%1: can't be restored, %2").arg(told_of(left.note), to_qt(left.fault));
+                                          : tr("%1: cannot be restored, %2").arg(told_of(left.note), to_qt(left.fault));
   columns->addWidget(label(told), 1);
   const auto add_button = [&](const char* name, const QString& text, const QString& tip, auto action) {
     auto* button = new QPushButton(text);

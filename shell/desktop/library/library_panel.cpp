@@ -142,7 +142,7 @@ void LibraryPanel::lay_out() {
 }
 
 /// The window grows by the panel where the screen has room, unless its kept place has the panel already; where the
-/// window can't get narrow enough for both, the panel floats.
+/// window cannot get narrow enough for both, the panel floats.
 void LibraryPanel::come_up(bool window_has_room) {
   const QRect room = top_.screen()->availableGeometry();
   const bool fits = top_.minimumSizeHint().width() + panel_width <= room.width();

@@ -2520,15 +2520,15 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Öffnen</translation>
     </message>
     <message>
-        <source>can't print the window %1</source>
+        <source>cannot print the window %1</source>
         <translation>das Fenster %L1 lässt sich nicht drucken</translation>
     </message>
     <message>
-        <source>can't print the report: the printer does not answer</source>
+        <source>cannot print the report: the printer does not answer</source>
         <translation>der Bericht lässt sich nicht drucken: der Drucker antwortet nicht</translation>
     </message>
     <message>
-        <source>can't export to %1: the name must end in .bmp, .png, .svg or .pdf</source>
+        <source>cannot export to %1: the name must end in .bmp, .png, .svg or .pdf</source>
         <translation>kein Export nach %1: der Name muss auf .bmp, .png, .svg oder .pdf enden</translation>
     </message>
     <message>
@@ -2656,7 +2656,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>und %1 ältere</translation>
     </message>
     <message>
-        <source>%1: can't be restored, %2</source>
+        <source>%1: cannot be restored, %2</source>
         <translation>%L1: nicht wiederherstellbar, %L2</translation>
     </message>
     <message>
@@ -2752,7 +2752,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Messen</translation>
     </message>
     <message>
-        <source>can't make an image of %1 x %2 pixels: %3</source>
+        <source>cannot make an image of %1 x %2 pixels: %3</source>
         <translation>ein Bild von %1 x %2 Pixeln geht nicht: %L3</translation>
     </message>
     <message>
@@ -2776,7 +2776,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>eine Bitmap</translation>
     </message>
     <message>
-        <source>can't read %1 as %2: %3</source>
+        <source>cannot read %1 as %2: %3</source>
         <translation>%1 ist nicht als %L2 lesbar: %L3</translation>
     </message>
     <message>
@@ -2792,7 +2792,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>nicht genug Speicher für ein Bild</translation>
     </message>
     <message>
-        <source>can't write %1: no picture of the kind %2 can be made</source>
+        <source>cannot write %1: no picture of the kind %2 can be made</source>
         <translation>%1 ist nicht schreibbar: Bilder der Art %2 gibt es nicht</translation>
     </message>
     <message>
@@ -2824,7 +2824,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>%L1; die Liste der letzten Dateien nennt sie nicht mehr</translation>
     </message>
     <message>
-        <source>Your work can't be kept for the next start: %1</source>
+        <source>Your work cannot be kept for the next start: %1</source>
         <translation>Ihre Arbeit lässt sich nicht für den nächsten Start aufbewahren: %L1</translation>
     </message>
     <message>
@@ -3208,7 +3208,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Kristalle, Beugung, Kikuchi-Bilder</translation>
     </message>
     <message>
-        <source>can't copy the data files from %1 to %2: %3</source>
+        <source>cannot copy the data files from %1 to %2: %3</source>
         <translation>die Datendateien lassen sich nicht von %1 nach %2 kopieren: %L3</translation>
     </message>
     <message>
@@ -3220,11 +3220,11 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>%1: eine Zeile „data_root = ORDNER“ fehlt</translation>
     </message>
     <message>
-        <source>can't write into %1: %2</source>
+        <source>cannot write into %1: %2</source>
         <translation>in %1 lässt sich nicht schreiben: %L2</translation>
     </message>
     <message>
-        <source>can't make %1: %2</source>
+        <source>cannot make %1: %2</source>
         <translation>%1 lässt sich nicht anlegen: %L2</translation>
     </message>
     <message>
@@ -3280,7 +3280,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Ein-/Ausgabefehler</translation>
     </message>
     <message>
-        <source>can't write %1: %2</source>
+        <source>cannot write %1: %2</source>
         <translation>%1 ist nicht schreibbar: %L2</translation>
     </message>
     <message>
@@ -3356,27 +3356,27 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>keine endliche Zahl</translation>
     </message>
     <message>
-        <source>can't read %1: it is %2, not a file</source>
+        <source>cannot read %1: it is %2, not a file</source>
         <translation>%1 ist nicht lesbar: es ist %L2, keine Datei</translation>
     </message>
     <message>
-        <source>can't read %1: it has %2 bytes or more, at most %3 are taken</source>
+        <source>cannot read %1: it has %2 bytes or more, at most %3 are taken</source>
         <translation>%1 ist nicht lesbar: es hat %2 Bytes oder mehr, höchstens %3 werden genommen</translation>
     </message>
     <message>
-        <source>can't open %1: %2</source>
+        <source>cannot open %1: %2</source>
         <translation>%1 lässt sich nicht öffnen: %L2</translation>
     </message>
     <message>
-        <source>can't read %1: %2</source>
+        <source>cannot read %1: %2</source>
         <translation>%1 ist nicht lesbar: %L2</translation>
     </message>
     <message>
-        <source>can't read the folder %1: %2</source>
+        <source>cannot read the folder %1: %2</source>
         <translation>der Ordner %1 ist nicht lesbar: %L2</translation>
     </message>
     <message>
-        <source>can't load %1: there are no pixel images here</source>
+        <source>cannot load %1: there are no pixel images here</source>
         <translation>%1 lässt sich nicht laden: hier gibt es keine Pixelbilder</translation>
     </message>
     <message>
@@ -3692,7 +3692,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>die Zelle ist zu klein oder zu flach für Atome</translation>
     </message>
     <message>
-        <source>it can't be unpacked</source>
+        <source>it cannot be unpacked</source>
         <translation>sie lässt sich nicht entpacken</translation>
     </message>
     <message>
@@ -3968,7 +3968,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>2: alle Atome der Zelle stehen da</translation>
     </message>
     <message>
-        <source>the reflection list can't have %1 entries: cell constants give %2</source>
+        <source>the reflection list cannot have %1 entries: cell constants give %2</source>
         <translation>die Reflexliste kann keine %1 Einträge haben: die Gitterkonstanten geben %L2</translation>
     </message>
     <message>
@@ -4004,7 +4004,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>es sind 200 Reflexe, für die die Tabelle keinen Platz hat</translation>
     </message>
     <message>
-        <source>without atoms and reflections the file can't be loaded again</source>
+        <source>without atoms and reflections the file cannot be loaded again</source>
         <translation>ohne Atome und Reflexe lässt sich die Datei nicht wieder laden</translation>
     </message>
     <message>
@@ -4164,7 +4164,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>%1 beginnt mit anderen Bytes</translation>
     </message>
     <message>
-        <source>the interference function can't have %1 steps along an axis</source>
+        <source>the interference function cannot have %1 steps along an axis</source>
         <translation>die Interferenzfunktion kann keine %1 Schritte entlang einer Achse haben</translation>
     </message>
     <message>
@@ -4380,7 +4380,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>2theta min und 2theta max sind gleich</translation>
     </message>
     <message>
-        <source>an intensity of 0 can't be drawn at full height</source>
+        <source>an intensity of 0 cannot be drawn at full height</source>
         <translation>eine Intensität von 0 lässt sich nicht mit voller Höhe zeichnen</translation>
     </message>
     <message>
@@ -4596,7 +4596,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>„Rechnen“ im Kikuchi-Fenster füllt die Karte</translation>
     </message>
     <message>
-        <source>the map can't be made larger: it would turn over</source>
+        <source>the map cannot be made larger: it would turn over</source>
         <translation>die Karte lässt sich nicht weiter vergrößern: sie würde umklappen</translation>
     </message>
     <message>
@@ -4988,7 +4988,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Nr Bänd.    Abw  Korr. Sich.      u      v      w   phi1    Phi   phi2</translation>
     </message>
     <message>
-        <source>can't read %1 as a bitmap: %2</source>
+        <source>cannot read %1 as a bitmap: %2</source>
         <translation>%1 ist nicht als Bitmap lesbar: %L2</translation>
     </message>
     <message>
@@ -5084,7 +5084,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>es gibt kein Fenster %1</translation>
     </message>
     <message>
-        <source>can't lock a file in %1: %2</source>
+        <source>cannot lock a file in %1: %2</source>
         <translation>eine Datei in %1 lässt sich nicht sperren: %L2</translation>
     </message>
     <message>
@@ -5144,7 +5144,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>eine Orientierung ist keine</translation>
     </message>
     <message>
-        <source>the planes of a crystal don't fit together</source>
+        <source>the planes of a crystal do not fit together</source>
         <translation>die Ebenen eines Kristalls passen nicht zusammen</translation>
     </message>
     <message>
@@ -5706,7 +5706,7 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <translation>eine Tabelle hat zu viele Spalten</translation>
     </message>
     <message>
-        <source>its parts don't fit together</source>
+        <source>its parts do not fit together</source>
         <translation>ihre Teile passen nicht zusammen</translation>
     </message>
     <message>

@@ -2520,15 +2520,15 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Ouvrir</translation>
     </message>
     <message>
-        <source>can't print the window %1</source>
+        <source>cannot print the window %1</source>
         <translation>impossible d'imprimer la fenêtre %L1</translation>
     </message>
     <message>
-        <source>can't print the report: the printer does not answer</source>
+        <source>cannot print the report: the printer does not answer</source>
         <translation>impossible d'imprimer le rapport : l'imprimante ne répond pas</translation>
     </message>
     <message>
-        <source>can't export to %1: the name must end in .bmp, .png, .svg or .pdf</source>
+        <source>cannot export to %1: the name must end in .bmp, .png, .svg or .pdf</source>
         <translation>impossible d'exporter vers %1 : le nom doit finir par .bmp, .png, .svg ou .pdf</translation>
     </message>
     <message>
@@ -2656,7 +2656,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>et %1 plus anciens</translation>
     </message>
     <message>
-        <source>%1: can't be restored, %2</source>
+        <source>%1: cannot be restored, %2</source>
         <translation>%L1 : ne peut être rétabli, %L2</translation>
     </message>
     <message>
@@ -2752,7 +2752,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Mesurer</translation>
     </message>
     <message>
-        <source>can't make an image of %1 x %2 pixels: %3</source>
+        <source>cannot make an image of %1 x %2 pixels: %3</source>
         <translation>impossible de faire une image de %1 x %2 pixels : %L3</translation>
     </message>
     <message>
@@ -2776,7 +2776,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>un bitmap</translation>
     </message>
     <message>
-        <source>can't read %1 as %2: %3</source>
+        <source>cannot read %1 as %2: %3</source>
         <translation>impossible de lire %1 comme %L2 : %L3</translation>
     </message>
     <message>
@@ -2792,7 +2792,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>pas assez de mémoire pour une image</translation>
     </message>
     <message>
-        <source>can't write %1: no picture of the kind %2 can be made</source>
+        <source>cannot write %1: no picture of the kind %2 can be made</source>
         <translation>impossible d'écrire %1 : aucune image du genre %2 ne peut être faite</translation>
     </message>
     <message>
@@ -2824,7 +2824,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>%L1 ; la liste des fichiers récents ne le nomme plus</translation>
     </message>
     <message>
-        <source>Your work can't be kept for the next start: %1</source>
+        <source>Your work cannot be kept for the next start: %1</source>
         <translation>Votre travail ne peut être gardé pour le prochain démarrage : %L1</translation>
     </message>
     <message>
@@ -3208,7 +3208,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Cristaux, diffraction, clichés de Kikuchi</translation>
     </message>
     <message>
-        <source>can't copy the data files from %1 to %2: %3</source>
+        <source>cannot copy the data files from %1 to %2: %3</source>
         <translation>impossible de copier les données de %1 vers %2 : %L3</translation>
     </message>
     <message>
@@ -3220,11 +3220,11 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>%1 : une ligne « data_root = DOSSIER » manque</translation>
     </message>
     <message>
-        <source>can't write into %1: %2</source>
+        <source>cannot write into %1: %2</source>
         <translation>impossible d'écrire dans %1 : %L2</translation>
     </message>
     <message>
-        <source>can't make %1: %2</source>
+        <source>cannot make %1: %2</source>
         <translation>impossible de créer %1 : %L2</translation>
     </message>
     <message>
@@ -3280,7 +3280,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>erreur d'entrée-sortie</translation>
     </message>
     <message>
-        <source>can't write %1: %2</source>
+        <source>cannot write %1: %2</source>
         <translation>impossible d'écrire %1 : %L2</translation>
     </message>
     <message>
@@ -3356,27 +3356,27 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>pas un nombre fini</translation>
     </message>
     <message>
-        <source>can't read %1: it is %2, not a file</source>
+        <source>cannot read %1: it is %2, not a file</source>
         <translation>impossible de lire %1 : c'est %L2, pas un fichier</translation>
     </message>
     <message>
-        <source>can't read %1: it has %2 bytes or more, at most %3 are taken</source>
+        <source>cannot read %1: it has %2 bytes or more, at most %3 are taken</source>
         <translation>impossible de lire %1 : il a %2 octets ou plus, %3 au plus sont pris</translation>
     </message>
     <message>
-        <source>can't open %1: %2</source>
+        <source>cannot open %1: %2</source>
         <translation>impossible d'ouvrir %1 : %L2</translation>
     </message>
     <message>
-        <source>can't read %1: %2</source>
+        <source>cannot read %1: %2</source>
         <translation>impossible de lire %1 : %L2</translation>
     </message>
     <message>
-        <source>can't read the folder %1: %2</source>
+        <source>cannot read the folder %1: %2</source>
         <translation>impossible de lire le dossier %1 : %L2</translation>
     </message>
     <message>
-        <source>can't load %1: there are no pixel images here</source>
+        <source>cannot load %1: there are no pixel images here</source>
         <translation>impossible de charger %1 : il n'y a pas d'images en pixels ici</translation>
     </message>
     <message>
@@ -3692,7 +3692,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>la maille est trop petite ou trop plate pour des atomes</translation>
     </message>
     <message>
-        <source>it can't be unpacked</source>
+        <source>it cannot be unpacked</source>
         <translation>il ne peut être décompressé</translation>
     </message>
     <message>
@@ -3968,7 +3968,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>2 : tous les atomes de la maille sont listés</translation>
     </message>
     <message>
-        <source>the reflection list can't have %1 entries: cell constants give %2</source>
+        <source>the reflection list cannot have %1 entries: cell constants give %2</source>
         <translation>la liste des réflexions ne peut avoir %1 entrées : les paramètres de maille donnent %L2</translation>
     </message>
     <message>
@@ -4004,7 +4004,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>il y a 200 réflexions, la table n'a pas la place</translation>
     </message>
     <message>
-        <source>without atoms and reflections the file can't be loaded again</source>
+        <source>without atoms and reflections the file cannot be loaded again</source>
         <translation>sans atomes ni réflexions le fichier ne pourra être rechargé</translation>
     </message>
     <message>
@@ -4164,7 +4164,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>%1 commence par d'autres octets</translation>
     </message>
     <message>
-        <source>the interference function can't have %1 steps along an axis</source>
+        <source>the interference function cannot have %1 steps along an axis</source>
         <translation>la fonction d'interférence ne peut avoir %1 pas selon un axe</translation>
     </message>
     <message>
@@ -4380,7 +4380,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>2thêta min et 2thêta max sont égaux</translation>
     </message>
     <message>
-        <source>an intensity of 0 can't be drawn at full height</source>
+        <source>an intensity of 0 cannot be drawn at full height</source>
         <translation>une intensité de 0 ne peut être dessinée à pleine hauteur</translation>
     </message>
     <message>
@@ -4596,7 +4596,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>« Calculer » de la fenêtre de Kikuchi remplit la carte</translation>
     </message>
     <message>
-        <source>the map can't be made larger: it would turn over</source>
+        <source>the map cannot be made larger: it would turn over</source>
         <translation>la carte ne peut être agrandie : elle se retournerait</translation>
     </message>
     <message>
@@ -4988,7 +4988,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>no band.    éc.  corr. conf.      u      v      w   phi1    Phi   phi2</translation>
     </message>
     <message>
-        <source>can't read %1 as a bitmap: %2</source>
+        <source>cannot read %1 as a bitmap: %2</source>
         <translation>impossible de lire %1 comme bitmap : %L2</translation>
     </message>
     <message>
@@ -5084,7 +5084,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>il n'y a pas de fenêtre %1</translation>
     </message>
     <message>
-        <source>can't lock a file in %1: %2</source>
+        <source>cannot lock a file in %1: %2</source>
         <translation>impossible de verrouiller un fichier dans %1 : %L2</translation>
     </message>
     <message>
@@ -5144,7 +5144,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>une orientation n'en est pas une</translation>
     </message>
     <message>
-        <source>the planes of a crystal don't fit together</source>
+        <source>the planes of a crystal do not fit together</source>
         <translation>les plans d'un cristal ne vont pas ensemble</translation>
     </message>
     <message>
@@ -5706,7 +5706,7 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <translation>une table a trop de colonnes</translation>
     </message>
     <message>
-        <source>its parts don't fit together</source>
+        <source>its parts do not fit together</source>
         <translation>ses parties ne vont pas ensemble</translation>
     </message>
     <message>
