@@ -178,10 +178,10 @@ void add_index_command(CLI::App& app, int& status) {
       ->group(geometry)
       ->check(CLI::PositiveNumber)
       ->capture_default_str();
-  index->add_flag("--flipped", words->flipped, "the pictures stand upside down already")->group(geometry);
+  index->add_flag("--flipped", words->flipped, "the pictures are upside down already")->group(geometry);
   index->add_flag("--refine-pc", words->refine, "fit the pattern centre too, on each picture")->group(geometry);
   const auto* indexing = "Indexing";
-  index->add_option("--bands", words->bands, "that are looked for")
+  index->add_option("--bands", words->bands, "number of bands to look for")
       ->group(indexing)
       ->check(CLI::Range(3, 30))
       ->capture_default_str();

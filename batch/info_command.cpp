@@ -189,7 +189,7 @@ int run(const InfoWords& words) {
 
 void add_info_command(CLI::App& app, int& status) {
   const auto words = std::make_shared<InfoWords>();
-  CLI::App* info = app.add_subcommand("info", "what is in structure files, a line each");
+  CLI::App* info = app.add_subcommand("info", "what is in structure files, one line per file");
   info->footer("Example:\n  zol-batch info quartz.cif calcite.cif --json");
   info->add_option("FILE", words->files, "structure file or crystal: .cif, .res, .ins, POSCAR, .cry; also .gz")
       ->required();

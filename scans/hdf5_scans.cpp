@@ -303,7 +303,7 @@ class Hdf5Scan : public Scan {
     header_.centres = {{{to_the_right ? -*x : *x, *y, *distance}, CentreConvention::Emsoft}};
     if (!told) {
       header_.remarks.emplace_back(
-          "the file tells no version of EMsoft; the centre is taken as 5 writes it, earlier ones reverse its first "
+          "the file has no version of EMsoft; the centre is taken as 5 writes it, earlier ones reverse its first "
           "number");
     }
   }

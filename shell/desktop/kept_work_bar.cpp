@@ -107,7 +107,7 @@ void KeptWorkBar::add_row(const LeftOver& left) {
     columns->addWidget(button);
   };
   if (left.fault.empty()) {
-    add_button("Restore", tr("Restore"), tr("Brings crystal and windows back; undo takes that back"),
+    add_button("Restore", tr("Restore"), tr("Restores crystal and windows; undo reverses this"),
                [this, left] { act(left, actions_.restore); });
   }
   add_button("NotNow", tr("Not now"), tr("The next start offers it again"), [this, left] { take_off(left.path); });

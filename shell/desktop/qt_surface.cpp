@@ -96,7 +96,7 @@ QImage read_picture(const std::string& path, const std::string& bytes) {
   QImageReader::setAllocationLimit(most_megabytes);  // Qt's own is below what is possible here
   QImage read = reader.read();
   if (read.isNull()) {
-    constexpr auto reasons = "; it is cut short or damaged, or its pixels have not 8 or 16 bits a colour";
+    constexpr auto reasons = "; it is cut short or damaged, or its pixels do not have 8 or 16 bits per colour";
     fail(reader.errorString().toStdString() + (kind.format == bitmap ? "" : reasons));
   }
   return read;

@@ -107,7 +107,7 @@ void LibraryPanel::lay_out() {
   search_->setPlaceholderText(tr("quartz, +Si -Al, Fm-3m, a=5.43"));
   search_->setClearButtonEnabled(true);
   search_->setToolTip(
-      tr("Words that all have to hold:\n"
+      tr("A crystal has to match all words:\n"
          "quartz - in the name, the title or a folder\n"
          "SiO2 - this formula\n"
          "+Si -Al - with, without an element\n"
