@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -151,6 +152,47 @@ class User {
       return;
     }
     give_up(std::string("no menu holds ") + item);
+  }
+  /// Sets an entry by its text, wherever it stands in the menus of a window.
+  void choose_text(const char* window_name, const QString& text) const {
+    for (auto* menu : window(window_name).findChildren<QMenu*>()) {
+      for (auto* action : menu->actions()) {
+        if (action->text().remove(u'&') == text) return action->trigger();
+      }
+    }
+    give_up("no menu says " + text.toStdString());
+  }
+  /// Clicks an entry of the menu of a picture.
+  void choose_in_picture(const char* window_name, const char* picture_name, const char* entry) const {
+    auto& picture = widget<CanvasView>(window_name, picture_name);
+    const QPoint centre = picture.rect().center();
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, centre, picture.mapToGlobal(centre));
+    QApplication::sendEvent(&picture, &asked);
+    const auto opened = [] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); };
+    expect(QTest::qWaitFor([&opened] { return opened() != nullptr; }), "a picture has no context menu");
+    QMenu& menu = *opened();
+    QString mnemonics;
+    for (auto* action : menu.actions()) mnemonics += action->text().section(u'&', 1).left(1).toUpper();
+    for (const QChar c : mnemonics) expect(mnemonics.count(c) == 1, "a mnemonic twice in " + mnemonics.toStdString());
+    for (auto* action : menu.actions()) {
+      if (action->text() != QString::fromLatin1(entry)) continue;
+      return QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
+    }
+    give_up(std::string("the context menu has no ") + entry);
+  }
+  /// Drags from one place of a picture to another, in parts of its sides.
+  void drag(const char* window_name, const char* picture_name, QPointF from, QPointF to) const {
+    auto& picture = widget<CanvasView>(window_name, picture_name);
+    const QPoint start = place(picture, from);
+    const QPoint end = place(picture, to);
+    QTest::mousePress(&picture, Qt::LeftButton, {}, start);
+    constexpr int steps = 5;
+    for (int i = 1; i <= steps; ++i) {
+      const QPoint at = start + (end - start) * i / steps;
+      QMouseEvent move(QEvent::MouseMove, at, picture.mapToGlobal(at), Qt::NoButton, Qt::LeftButton, {});
+      QApplication::sendEvent(&picture, &move);
+    }
+    QTest::mouseRelease(&picture, Qt::LeftButton, {}, end);
   }
   void load_crystal(const char* name) const {
     window("Main1").activateWindow();
