@@ -297,6 +297,7 @@ TEST_P(Shown, UsesEachMnemonicOnceAndGivesTheAddedMenusOne) {
   for (const auto* label : window.findChildren<QLabel*>()) {
     if (label->buddy()) use(*label, label->text());
   }
+  for (const auto* group : window.findChildren<QGroupBox*>()) use(*group, group->title());
   for (const QChar key : seen) EXPECT_EQ(seen.count(key), 1) << key.toLatin1() << " in " << seen.toStdString();
   for (const auto* action : window.menuBar()->actions()) {
     const QString text = action->text();
