@@ -44,7 +44,7 @@ TEST_F(Pictures, DrawnBitByBitAreTheSame) {
   (void)canvas.stored_image();  // starts Qt
   for (const int size : {100, 170}) {
     canvas.clear();
-    CanvasPainting bits(canvas, QPixmap(size, size));
+    CanvasPainting bits(canvas, {size, size});
     for (int i = 0; i < 100; ++i) {
       canvas.scale(-1 - i % 2, 1, 1, -1);
       canvas.circle(std::cos(i), std::sin(i), 0.05, i % 3 == 0 ? red : green);
@@ -53,14 +53,14 @@ TEST_F(Pictures, DrawnBitByBitAreTheSame) {
     }
     while (!bits.go_on([] { return true; })) {
     }
-    CanvasPainting whole(canvas, QPixmap(size, size));
+    CanvasPainting whole(canvas, {size, size});
     EXPECT_TRUE(whole.go_on([] { return false; }));
-    EXPECT_TRUE(bits.pixmap().toImage() == whole.pixmap().toImage()) << size;
+    EXPECT_TRUE(bits.image() == whole.image()) << size;
     if (size == 100) {
-      EXPECT_TRUE(whole.pixmap().toImage().convertToFormat(QImage::Format_RGB32) == picture_image(canvas));
+      EXPECT_TRUE(whole.image().convertToFormat(QImage::Format_RGB32) == picture_image(canvas));
     }
     canvas.clear();
-    EXPECT_TRUE(bits.go_on([] { return false; }) && bits.pixmap().toImage().pixelColor(50, 50) == Qt::white);
+    EXPECT_TRUE(bits.go_on([] { return false; }) && bits.image().pixelColor(50, 50) == Qt::white);
   }
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 #include <string>
 #include <vector>
@@ -43,7 +44,7 @@ struct Times {
 
 /// Each step of a drag along a circle that draws.
 Times drag(CanvasView& view, Qt::KeyboardModifiers keys, const Canvas& canvas) {
-  constexpr int moves = 24;
+  const int moves = std::getenv("DRAG_MOVES") ? atoi(std::getenv("DRAG_MOVES")) : 24;
   const QPointF centre = view.picture_rect().center();
   const double radius = view.picture_rect().width() * 0.35;
   const auto place = [&](int i) {
@@ -122,6 +123,7 @@ int main(int argc, char** argv) {
     }
   };
   drag_over("Pattern2", program.windows().use<Pattern2Form>().Picture1);
+  if (std::getenv("DRAG_MOVES")) return 0;
   auto& pattern = program.windows().use<PatternForm>();
   desktop.enter("spots", [&] {
     pattern.show();
