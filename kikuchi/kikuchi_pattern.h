@@ -47,6 +47,7 @@ struct KikuchiLine {
   Single unit_y = 0;
   Single foot_x = 0;  ///< foot of the perpendicular from the centre
   Single foot_y = 0;
+  bool operator==(const KikuchiLine&) const = default;
 };
 
 /// The lines of the strongest KikuchiRefLimit reflections, in the order of the list, without those far

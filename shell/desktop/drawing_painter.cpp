@@ -232,8 +232,8 @@ bool CanvasPainting::draw_list(const std::function<bool()>& enough) {
     drawn_ = 0;
   }
   constexpr std::size_t between_questions = 16;
-  ListPainter list = rough_ ? ListPainter(painter, canvas_, scale_, quick)
-                            : ListPainter(painter, canvas_, scale_, Lines::Smooth);
+  ListPainter list =
+      rough_ ? ListPainter(painter, canvas_, scale_, quick) : ListPainter(painter, canvas_, scale_, Lines::Smooth);
   bool stops = false;
   for (; drawn_ < canvas_.drawing().size() && !stops; ++drawn_) {
     const auto& what = canvas_.drawing()[drawn_].what;

@@ -7,9 +7,9 @@
 
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QLineF>
 #include <QPainter>
-#include <QImage>
 #include <QRectF>
 
 #include "core/task.h"

@@ -6,8 +6,8 @@
 #include <optional>
 #include <vector>
 
-#include <QPainter>
 #include <QImage>
+#include <QPainter>
 #include <QRectF>
 
 #include "shell/services/canvas.h"
