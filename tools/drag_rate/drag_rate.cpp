@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
 #include <string>
 #include <vector>
@@ -44,7 +43,7 @@ struct Times {
 
 /// Each step of a drag along a circle that draws.
 Times drag(CanvasView& view, Qt::KeyboardModifiers keys, const Canvas& canvas) {
-  const int moves = std::getenv("DRAG_MOVES") ? atoi(std::getenv("DRAG_MOVES")) : 24;
+  constexpr int moves = 24;
   const QPointF centre = view.picture_rect().center();
   const double radius = view.picture_rect().width() * 0.35;
   const auto place = [&](int i) {
@@ -123,7 +122,6 @@ int main(int argc, char** argv) {
     }
   };
   drag_over("Pattern2", program.windows().use<Pattern2Form>().Picture1);
-  if (std::getenv("DRAG_MOVES")) return 0;
   auto& pattern = program.windows().use<PatternForm>();
   desktop.enter("spots", [&] {
     pattern.show();
