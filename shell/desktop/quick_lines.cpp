@@ -22,7 +22,7 @@ void draw_run(QRgb* pixels, Run run, int length, int breadth, qsizetype along, q
   constexpr double one = 1LL << fraction_bits;
   const double slope = run.x2 > run.x1 ? (run.y2 - run.y1) / (run.x2 - run.x1) : 0;
   constexpr double middle = 0.5;
-  const auto place = [one](double y) { return static_cast<std::int64_t>(std::floor(y * one)); };
+  const auto place = [](double y) { return static_cast<std::int64_t>(std::floor(y * one)); };
   std::int64_t y = place(run.y1 + slope * (first + middle - run.x1));
   const std::int64_t step = place(slope);
   QRgb* pixel = pixels + first * along;
