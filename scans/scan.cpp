@@ -1,7 +1,6 @@
 #include "scans/scan.h"
 
 #include "core/run_failure.h"
-#include "scans/map_result.h"
 
 namespace zol {
 
@@ -43,20 +42,6 @@ void take_size(ScanHeader& header, const std::array<int, 2>& size, const std::st
                      std::to_string(size[0]) + " x " + std::to_string(size[1]));
   }
   header.grid = grid;
-}
-
-std::string laue_class_of(int space_group) {
-  struct Last {
-    int number;
-    const char* name;
-  };
-  constexpr std::array last_of{Last{2, "-1"},      Last{15, "2/m"},  Last{74, "mmm"},  Last{88, "4/m"},
-                               Last{142, "4/mmm"}, Last{148, "-3"},  Last{167, "-3m"}, Last{176, "6/m"},
-                               Last{194, "6/mmm"}, Last{206, "m-3"}, Last{230, "m-3m"}};
-  for (const auto& [number, name] : last_of) {
-    if (space_group >= 1 && space_group <= number) return name;
-  }
-  return "-1";
 }
 
 }  // namespace zol
