@@ -249,13 +249,14 @@ class Hdf5Scan : public Scan {
     const auto x = file_.numbers(group + "IX");
     const auto y = file_.numbers(group + "IY");
     if (x.size() != stored_ || y.size() != stored_) return;
+    const auto known = [](double number) { return std::isfinite(number); };
+    const bool all_known = std::all_of(x.begin(), x.end(), known) && std::all_of(y.begin(), y.end(), known);
     const auto [least_x, most_x] = std::minmax_element(x.begin(), x.end());
     const auto [least_y, most_y] = std::minmax_element(y.begin(), y.end());
     const double columns = *most_x - *least_x + 1;
     const double rows = *most_y - *least_y + 1;
     constexpr double most = 1 << 20;
-    if (!(columns >= 1 && rows >= 1 && columns <= most && rows <= most) ||
-        columns * rows > 4.0 * static_cast<double>(stored_) + 16) {
+    if (!all_known || columns > most || rows > most || columns * rows > 4.0 * static_cast<double>(stored_) + 16) {
       header_.remarks.emplace_back("the places of the points can't be, they are taken in order");
       return;
     }

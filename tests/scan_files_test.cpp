@@ -3,6 +3,7 @@
 #include <hdf5.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <vector>
 
@@ -87,8 +88,8 @@ struct Hdf5Maker {
     H5Sclose(space);
   }
   void number(const std::string& path, double value) const { put(path, H5T_NATIVE_DOUBLE, {1}, &value); }
-  void numbers(const std::string& path, const std::vector<int>& values) const {
-    put(path, H5T_NATIVE_INT, {values.size()}, values.data());
+  void numbers(const std::string& path, const std::vector<double>& values) const {
+    put(path, H5T_NATIVE_DOUBLE, {values.size()}, values.data());
   }
   hid_t file, links;
 };
@@ -112,16 +113,10 @@ void make_kikuchipy(const std::string& path) {
 }
 
 /// The last point first, with its column and row beside it.
-void make_bruker(const std::string& path) {
+void make_bruker_at(const std::string& path, const std::vector<double>& x, const std::vector<double>& y) {
   const Hdf5Maker out(path);
   std::string turned;
-  std::vector<int> x;
-  std::vector<int> y;
-  for (int point = columns * rows - 1; point >= 0; --point) {
-    turned += pattern(point);
-    x.push_back(7 + point % columns);
-    y.push_back(9 + point / columns);
-  }
+  for (int point = columns * rows - 1; point >= 0; --point) turned += pattern(point);
   out.put("Area/EBSD/Data/RawPatterns", H5T_NATIVE_UINT8, {points_of_all, height, width}, turned.data());
   out.number("Area/EBSD/Header/NCOLS", columns);
   out.number("Area/EBSD/Header/NROWS", rows);
@@ -130,6 +125,7 @@ void make_bruker(const std::string& path) {
   out.numbers("Area/EBSD/SEM/IX", x);
   out.numbers("Area/EBSD/SEM/IY", y);
 }
+void make_bruker(const std::string& path) { make_bruker_at(path, {9, 8, 7, 9, 8, 7}, {10, 10, 10, 9, 9, 9}); }
 
 void make_edax(const std::string& path) {
   const Hdf5Maker out(path);
@@ -196,6 +192,22 @@ TEST(Scans, OfAllMakersGiveTheirPatternsInMapOrder) {
       ASSERT_EQ(block.present[k] != 0, there);
       EXPECT_EQ(block.pattern(k)[7], there ? 10.0F * static_cast<float>(i + 1) + 7 : 0);
     }
+  }
+}
+
+// Of an area of any outline: 6 points may stand on 4 x 6 + 16 = 40 places, and no more; what is no number is no place.
+TEST(Scans, OfPointsInNoOrderHaveTheirPlacesWhereTheseCanBe) {
+  const ScratchFolder folder;
+  for (const auto& [last_x, last_y, wide, high] :
+       {std::array<double, 4>{14, 13, 8, 5}, {15, 13, 3, 2}, {9, std::nan(""), 3, 2}, {HUGE_VAL, 10, 3, 2}}) {
+    make_bruker_at(folder.path("a.h5"), {9, last_x, 7, 9, 8, 7}, {10, last_y, 10, 9, 9, 9});
+    const auto scan = open_scan(folder.path("a.h5"), {});
+    const auto& header = scan->header();
+    EXPECT_EQ(header.grid->columns, wide) << last_x;
+    EXPECT_EQ(header.grid->rows, high) << last_x;
+    EXPECT_EQ(header.remarks, wide == 8 ? std::vector<std::string>{}
+                                        : std::vector<std::string>{"the places of the points can't be, they are taken "
+                                                                   "in order"});
   }
 }
 
