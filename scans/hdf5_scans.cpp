@@ -148,9 +148,9 @@ class Hdf5Scan : public Scan {
     header_.whole = file_.holds_whole_numbers(layout_.patterns);
     if (rows_of_patterns_) row_length_ = sides[1];
     for (const auto& [name, side] : {std::pair(layout_.width, header_.width), {layout_.height, header_.height}}) {
-      const auto said = header_number(name);
-      if (said && static_cast<int>(*said) != side) {
-        header_.remarks.push_back("the header says " + std::to_string(static_cast<int>(*said)) + " for \"" + name +
+      const auto said = whole(header_number(name));
+      if (said && *said != side) {
+        header_.remarks.push_back("the header says " + std::to_string(*said) + " for \"" + name +
                                   "\", the patterns have " + std::to_string(side));
       }
     }

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -127,14 +128,14 @@ void make_bruker_at(const std::string& path, const std::vector<double>& x, const
 }
 void make_bruker(const std::string& path) { make_bruker_at(path, {9, 8, 7, 9, 8, 7}, {10, 10, 10, 9, 9, 9}); }
 
-void make_edax(const std::string& path) {
+/// @param told  by the header, beside the usual or in its place
+void make_edax_telling(const std::string& path, std::map<std::string, double> told) {
   const Hdf5Maker out(path);
   out.put(" Scan 1/EBSD/Data/Pattern", H5T_NATIVE_UINT8, {points_of_all, height, width}, all_patterns.data());
-  out.number(" Scan 1/EBSD/Header/ nColumns", columns);
-  out.number(" Scan 1/EBSD/Header/nRows", rows);
-  out.number(" Scan 1/EBSD/Header/Step X", 1.5);
-  out.number(" Scan 1/EBSD/Header/Step Y", 2.5);
+  told.insert({{" nColumns", columns}, {"nRows", rows}, {"Step X", 1.5}, {"Step Y", 2.5}});
+  for (const auto& [name, value] : told) out.number(" Scan 1/EBSD/Header/" + name, value);
 }
+void make_edax(const std::string& path) { make_edax_telling(path, {}); }
 
 GreyImage fake_image(const std::string& path) {
   GreyImage image{width, height, 8, {}};
@@ -208,6 +209,34 @@ TEST(Scans, OfPointsInNoOrderHaveTheirPlacesWhereTheseCanBe) {
     EXPECT_EQ(header.remarks, wide == 8 ? std::vector<std::string>{}
                                         : std::vector<std::string>{"the places of the points can't be, they are taken "
                                                                    "in order"});
+  }
+}
+
+TEST(Scans, WhoseHeadersCannotBeSaySoAndAreRead) {
+  const ScratchFolder folder;
+  const std::string z_star = "Pattern Center Calibration/z-star";
+  struct Row {
+    std::map<std::string, double> told;
+    double step_x, step_y;  ///< 0: no grid
+    const char* remark;
+  };
+  for (const auto& [told, step_x, step_y, remark] :
+       {Row{{{"Pattern Width", 6}}, 1.5, 2.5, "the header says 6 for \"Pattern Width\", the patterns have 5"},
+        Row{{{"Pattern Height", std::nan("")}}, 1.5, 2.5, ""}, Row{{{"Step X", 0}}, 1, 2.5, ""},
+        Row{{{"Step Y", HUGE_VAL}}, 1.5, 1.5, ""},
+        Row{{{"nRows", 3}}, 0, 0, "the header says 3 x 3 points, the file holds 6 patterns"},
+        Row{{{"Pattern Center Calibration/x-star", .5}, {"Pattern Center Calibration/y-star", .5}, {z_star, 0}},
+            1.5,
+            2.5,
+            "the file's pattern centre is none"}}) {
+    SCOPED_TRACE(told.begin()->first);
+    make_edax_telling(folder.path("a.h5"), told);
+    const auto scan = open_scan(folder.path("a.h5"), {});
+    const auto& header = scan->header();
+    const ScanGrid grid = header.grid.value_or(ScanGrid{0, 0, 0, 0});
+    EXPECT_EQ(grid.step_x, step_x);
+    EXPECT_EQ(grid.step_y, step_y);
+    EXPECT_EQ(header.remarks.empty() ? "" : header.remarks.front(), remark);
   }
 }
 
