@@ -169,10 +169,7 @@ class Hdf5Scan : public Scan {
     } else {
       return;
     }
-    grid.step_x = header_number(layout_.step_x).value_or(1);
-    grid.step_y = header_number(layout_.step_y).value_or(grid.step_x);
-    if (!(grid.step_x > 0) || !std::isfinite(grid.step_x)) grid.step_x = 1;
-    if (!(grid.step_y > 0) || !std::isfinite(grid.step_y)) grid.step_y = grid.step_x;
+    grid.take_steps(header_number(layout_.step_x).value_or(0), header_number(layout_.step_y).value_or(0));
     if (grid.points() != header_.points) {
       header_.remarks.push_back("the header says " + std::to_string(grid.columns) + " x " + std::to_string(grid.rows) +
                                 " points, the file holds " + std::to_string(header_.points) + " patterns");

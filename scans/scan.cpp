@@ -1,5 +1,7 @@
 #include "scans/scan.h"
 
+#include <cmath>
+
 #include "core/run_failure.h"
 
 namespace zol {
@@ -23,6 +25,12 @@ std::optional<std::size_t> ScanGrid::point(int column, int row) const {
   if (is_short && row % 2 == 1 && column == columns - 1) return std::nullopt;
   const auto before = static_cast<std::size_t>(row) * static_cast<std::size_t>(columns);
   return before - static_cast<std::size_t>(is_short ? row / 2 : 0) + static_cast<std::size_t>(column);
+}
+
+void ScanGrid::take_steps(double along_x, double along_y) {
+  const auto is_length = [](double step) { return step > 0 && std::isfinite(step); };
+  step_x = is_length(along_x) ? along_x : 1;
+  step_y = is_length(along_y) ? along_y : step_x;
 }
 
 void PatternBlock::begin(std::size_t first_point, std::size_t points, std::size_t pixels_of_each) {

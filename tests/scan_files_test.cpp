@@ -37,11 +37,11 @@ std::string patterns() {
   return text;
 }
 
-std::string up(std::uint32_t version, const std::string& pixels_of_all) {
+std::string up(std::uint32_t version, const std::string& pixels_of_all, double step_x = 1.5) {
   std::string text = bytes(version) + bytes(std::uint32_t{width}) + bytes(std::uint32_t{height});
   if (version < 2) return text + bytes(std::uint32_t{16}) + pixels_of_all;
   return text + bytes(std::uint32_t{42}) + std::string(1, '\0') + bytes(std::uint32_t{columns}) +
-         bytes(std::uint32_t{rows}) + std::string(1, '\0') + bytes(1.5) + bytes(2.5) + pixels_of_all;
+         bytes(std::uint32_t{rows}) + std::string(1, '\0') + bytes(step_x) + bytes(2.5) + pixels_of_all;
 }
 
 /// Patterns stand the last first, beams where the points are; point 4 was not stored.
@@ -237,6 +237,20 @@ TEST(Scans, WhoseHeadersCannotBeSaySoAndAreRead) {
     EXPECT_EQ(grid.step_x, step_x);
     EXPECT_EQ(grid.step_y, step_y);
     EXPECT_EQ(header.remarks.empty() ? "" : header.remarks.front(), remark);
+  }
+}
+
+TEST(Scans, WhoseStepsAreNoLengthsHaveStepsOfOne) {
+  const ScratchFolder folder;
+  folder.write("a.up1", up(3, all_patterns, std::nan("")));
+  folder.write("b.up1", up(3, all_patterns, -1));
+  folder.write("nordif/Pattern.dat", all_patterns);
+  folder.write("nordif/Setting.txt",
+               "[Acquisition settings]\nResolution\t5x4\tpx\n[Area]\nStep size\tinf\tum\nNumber of samples\t2x3\t#\n");
+  for (const auto& [name, step_y] : {std::pair{"a.up1", 2.5}, {"b.up1", 2.5}, {"nordif", 1.0}}) {
+    const auto scan = open_scan(folder.path(name), {});
+    EXPECT_EQ(scan->header().grid->step_x, 1) << name;
+    EXPECT_EQ(scan->header().grid->step_y, step_y) << name;
   }
 }
 
