@@ -316,6 +316,17 @@ TEST_F(PictureToolsTest, LayersAreOnTheScreenAndInExportsThatAskForThem) {
   EXPECT_TRUE(text_of("/b.svg").contains(QStringLiteral("NaCl")));
 }
 
+TEST_F(PictureToolsTest, TheCircleOfAnAngleIsDashedInItsColour) {
+  draw<Pattern2Form>();
+  const QTemporaryDir folder;
+  services.answers = {(folder.path() + "/a").toStdString()};
+  for (const auto* entry : {"Angle circle", "Export SVG..."}) choose(view("Pattern2"), QLatin1String(entry));
+  QFile file(folder.path() + "/a.svg");
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QString text = QString::fromUtf8(file.readAll());
+  EXPECT_TRUE(text.contains(QStringLiteral("stroke=\"#d13b00\"")) && text.contains(QStringLiteral("dasharray")));
+}
+
 TEST_F(PictureToolsTest, ALoupeShowsWhileALineIsDrawnAndSolutionsAreWalkedByKeys) {
   show_main1();
   load("Silicon.cry");
