@@ -1,9 +1,7 @@
 // The windows with calculated pictures, and the calculators.
 #include <array>
 
-#include <QContextMenuEvent>
 #include <QFile>
-#include <QTimer>
 
 #include "tests/real_steps.h"
 
@@ -27,48 +25,27 @@ QString measured_pattern(const User& user) {
   return measured.fileName();
 }
 
+}  // namespace
+
 void lay_measured_pattern_under(const User& user) {
   user.drop_file("Xd", measured_pattern(user));
   user.click("Xd", "FitBoxes");
   const double zero = user.widget<QLineEdit>("Xd", "MeasuredZero").text().toDouble();
   expect(std::abs(zero - 0.08) < 0.005, "the zero was fitted as " + std::to_string(zero));
-  auto& view = user.widget<CanvasView>("Xd", "Picture1");
-  const QPoint from = User::place(view, {0.2, 0.5});
-  const QPoint to = User::place(view, {0.8, 0.5});
-  QTest::mousePress(&view, Qt::LeftButton, {}, from);
-  QMouseEvent drag(QEvent::MouseMove, to, view.mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
-  QApplication::sendEvent(&view, &drag);
-  QTest::mouseRelease(&view, Qt::LeftButton, {}, to);
-  for (auto* menu : user.window("Xd").findChildren<QMenu*>()) {
-    for (auto* action : menu->actions()) {
-      for (const auto* wanted : {"peaks", "icks", "second", "Radiation"}) {
-        if (action->isCheckable() && action->text().contains(QLatin1String(wanted))) action->trigger();
-      }
-    }
+  user.drag("Xd", "Picture1", {0.2, 0.5}, {0.8, 0.5});
+  for (const auto* entry :
+       {"h k l at the peaks", "Ticks of all reflections", "d as second axis", "Radiation in the picture"}) {
+    user.choose_text("Xd", QString::fromLatin1(entry));
   }
   user.take_picture("Xd", "curve-measured");
-  QTest::mouseDClick(&view, Qt::LeftButton, {}, from);
+  user.choose_text("Xd", QStringLiteral("Show all"));
 }
+
+namespace {
 
 /// By the context menu of a picture.
 void export_picture(const User& user, const char* window_name, const char* entry, const char* name) {
-  auto& picture = user.widget<CanvasView>(window_name, "Picture1");
-  QTimer::singleShot(100, &picture, [entry] {
-    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
-    expect(menu != nullptr, "a picture has no context menu");
-    QString mnemonics;
-    for (auto* action : menu->actions()) mnemonics += action->text().section(u'&', 1).left(1).toUpper();
-    for (const QChar c : mnemonics) expect(mnemonics.count(c) == 1, "a mnemonic twice in " + mnemonics.toStdString());
-    for (auto* action : menu->actions()) {
-      if (action->text() != QString::fromLatin1(entry)) continue;
-      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
-      return;
-    }
-    give_up(std::string("the context menu has no ") + entry);
-  });
-  const QPoint centre = picture.rect().center();
-  QContextMenuEvent asked(QContextMenuEvent::Mouse, centre, picture.mapToGlobal(centre));
-  user.save(name, name, [&] { QApplication::sendEvent(&picture, &asked); });
+  user.save(name, name, [&] { user.choose_in_picture(window_name, "Picture1", entry); });
 }
 
 /// The pattern of a crystal as a sphere, dragged to the left.
@@ -77,12 +54,7 @@ void use_master_pattern(const User& user) {
   user.choose("Pattern2", "ShowMasterPattern");
   user.fill("MasterPattern", {{"Points", "201"}});
   for (const auto* control : {"Make", "Bands", "Globe"}) user.click("MasterPattern", control);
-  auto& view = user.widget<CanvasView>("MasterPattern", "Picture");
-  const QPoint to = User::place(view, {0.3, 0.4});
-  QTest::mousePress(&view, Qt::LeftButton, {}, User::place(view, {0.5, 0.5}));
-  QMouseEvent drag(QEvent::MouseMove, to, view.mapToGlobal(to), Qt::NoButton, Qt::LeftButton, {});
-  QApplication::sendEvent(&view, &drag);
-  QTest::mouseRelease(&view, Qt::LeftButton, {}, to);
+  user.drag("MasterPattern", "Picture", {0.5, 0.5}, {0.3, 0.4});
   expect(user.widget<QLineEdit>("MasterPattern", "MiddleU").text().toDouble() > 0.2, "a drag does not turn the sphere");
   user.take_picture("MasterPattern", "master-pattern");
   user.save("master", "master.png", [&user] { user.choose("MasterPattern", "SavePicture"); });

@@ -12,6 +12,8 @@ void search_library(const User& user);
 void copy_lines(const User& user);
 /// By keys alone: the list as a table, merged, sorted by d, filtered and saved; the file says what was seen.
 void save_table(const User& user);
+/// A measured pattern is made from the saved one, laid under the curve and fitted; then the curve is labelled.
+void lay_measured_pattern_under(const User& user);
 void use_powder_windows(const User& user);
 void use_spot_windows(const User& user);
 void use_kikuchi_windows(const User& user);

@@ -207,8 +207,8 @@ TEST(Scans, OfPointsInNoOrderHaveTheirPlacesWhereTheseCanBe) {
     EXPECT_EQ(header.grid->columns, wide) << last_x;
     EXPECT_EQ(header.grid->rows, high) << last_x;
     EXPECT_EQ(header.remarks, wide == 8 ? std::vector<std::string>{}
-                                        : std::vector<std::string>{"the places of the points can't be, they are taken "
-                                                                   "in order"});
+                                        : std::vector<std::string>{"the places of the points are impossible, the "
+                                                                   "points are taken in order"});
   }
 }
 
@@ -295,7 +295,7 @@ TEST(Scans, ThatAreWrongAreRefusedWithTheReason) {
         Row{folder.write("far.ebsp", far), "outside the file", {}},
         Row{folder.path("empty.h5"), "holds no patterns", {}},
         Row{folder.write("a.txt", "text"), "not a known kind of scan", {}},
-        Row{folder.path("gone.up1"), "can't open", {}}}) {
+        Row{folder.path("gone.up1"), "cannot open", {}}}) {
     EXPECT_TRUE(fails_with(row.words, [&] { (void)open_scan(row.file, {row.size, "", false, {}}); })) << row.file;
   }
 }
