@@ -10,6 +10,7 @@
 
 #include "hdf5/lzf.h"
 #include "scans/readers.h"
+#include "scans/tile_reader.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -312,6 +313,22 @@ TEST(Lzf, UnpacksRunsAndCopiesAndNothingBeyondItsPlace) {
   EXPECT_EQ(unpacked({1, 'a', 'b', 3U << 5U, 1}, 6), "damaged");
   EXPECT_EQ(unpacked({1, 'a'}, 9), "damaged");
   EXPECT_EQ(unpacked({0, 'a', 3U << 5U, 1}, 9), "damaged") << "from before the start";
+}
+
+// The last column of the map, as the last tile of a row may be, and what lies about it. Patterns are turned: pixel 15
+// is the first of the last row.
+TEST(TileReader, ReadsASingleColumnAndItsNeighbours) {
+  const ScratchFolder folder;
+  const auto scan = open_scan(folder.write("a.up1", up(3, all_patterns)), {});
+  TileReader reader(*scan, *scan->header().grid, pixels, false);
+  PatternBlock block;
+  PatternTile tile;
+  reader.read({2, 0, 1, 2}, 0, block, tile);
+  EXPECT_EQ(tile.present, std::vector<char>({1, 1}));
+  EXPECT_EQ(tile.values.at(0), 2 * 10 + 15);
+  EXPECT_EQ(tile.values.at(pixels), 5 * 10 + 15);
+  reader.read({2, 0, 1, 2}, 1, block, tile);
+  EXPECT_EQ(tile.present, std::vector<char>({0, 0, 0, 1, 1, 0, 1, 1, 0, 0, 0, 0}));
 }
 
 TEST(ScanGrid, ShortRowsOfHexagonalGridsAreCounted) {
