@@ -152,8 +152,7 @@ TEST_F(Batch, IsStoppedByASignalAndLeavesNothing) {
 }
 
 // Densities and distances are those of the papers that the crystals were taken from, or follow by hand from cell and Z.
-// Stripes that turn, EDAX .up1 of version 1: a map of ten tiles, of which one is kept when it is
-// stopped.
+// Stripes that turn, EDAX .up1 of version 1: a map of ten tiles, of which one is kept when it is stopped.
 TEST_F(Batch, AMapThatIsStoppedWritesNoneAndIsResumed) {
   constexpr int side = 30;
   constexpr int points = 24 * 80;
@@ -168,10 +167,10 @@ TEST_F(Batch, AMapThatIsStoppedWritesNoneAndIsResumed) {
   folder.write("scan.up1", scan);
   const std::string map =
       "map scan.up1 --size 24x80 -c " + crystals + "Copper.cry --pc .5,.3,.6 --master none -j 1 -q -o x.csv";
-  const auto stopped =
-      run_program("{ " ZOL_BATCH " " + map +
-                  " & until [ \"$(stat -c %s x.csv.part 2>&1)\" -gt 16 ]; do sleep .02; done 2>/dev/null; "
-                  "kill -TERM $!; wait $!; }");
+  const auto stopped = run_program(
+      "{ " ZOL_BATCH " " + map +
+      " & until [ \"$(stat -c %s x.csv.part 2>&1)\" -gt 16 ] || ! kill -0 $!; do sleep .02; done 2>/dev/null; "
+      "kill -TERM $!; wait $!; }");
   EXPECT_EQ(stopped.status, 3) << stopped.err;
   EXPECT_EQ(stopped.err, "stopped; what is finished is in x.csv.part, --resume continues from there\n");
   EXPECT_EQ(folder.read("x.csv"), "");
