@@ -162,6 +162,18 @@ TEST(Indexing, DrawnPicturesOfFourSystemsAreFoundWithinADegree) {
   }
 }
 
+// 24 rotations want 20 + 40 / 24 planes: {100}, {110} and {210} are 3 + 6 + 12 of them; a second order is none.
+TEST(Indexing, FamiliesVoteUntilThereAreEnoughPlanes) {
+  const Lattice lattice(crystals[0].cell);
+  const auto rotations = proper_rotations(lattice, group_of(crystals[0]));
+  const std::vector<ListedReflection> list{
+      {{1, 0, 0}, 64}, {{2, 0, 0}, 16}, {{1, 1, 0}, 8}, {{2, 1, 0}, 2}, {{1, 1, 1}, 1}};
+  const auto set = make_reflectors(lattice, rotations, list, wavelength, quiet);
+  ASSERT_EQ(rotations.size(), 24U);
+  EXPECT_EQ(voting_families(set, 1), std::vector(4, true));
+  EXPECT_EQ(voting_families(set, 5), std::vector(5, true));
+}
+
 TEST(Indexing, WhatCannotBeIndexedIsTold) {
   const Crystal& cubic = crystals[0];
   const CrystalModel model = model_of(cubic, reflections_of(cubic, Lattice(cubic.cell)));
