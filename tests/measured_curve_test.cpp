@@ -210,8 +210,8 @@ TEST(ReflectionLines, GatherReflectionsOfOneSpacing) {
                    {0, 2, 0, 8e-6F},
                    {2, 1, 0, 1},
                    {1, 2, 0, 4},
-                   {2, 1, 1, .043F},
-                   {2, -1, 1, .04301F},
+                   {2, 1, 1, 1},
+                   {2, -1, 1, 1.0001220703125F},
                    {-1, -1, 1, 2},
                    {1, -1, 1, 2},
                    {1, 1, -1, 2}});
@@ -219,7 +219,7 @@ TEST(ReflectionLines, GatherReflectionsOfOneSpacing) {
   for (const auto& line : reflection_lines(state)) {
     told += indices_text(line) + ": " + Format(1 / line.d_star, "0.000") + ' ' + plain_text(line.intensity) + '|';
   }
-  EXPECT_EQ(told, "1 0 0: 5.000 9|1 1 -1: 2.887 6|1 2 0: 2.236 5|2 1 1: 2.041 .08601|");
+  EXPECT_EQ(told, "1 0 0: 5.000 9|1 1 -1: 2.887 6|1 2 0: 2.236 5|2 1 1: 2.041 2.0001220703125|");
 }
 
 }  // namespace
