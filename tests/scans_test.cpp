@@ -16,6 +16,7 @@
 #include "scans/map_files.h"
 #include "scans/map_run.h"
 #include "scans/readers.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -23,7 +24,6 @@ namespace {
 
 constexpr int columns = 3, rows = 2, width = 5, height = 4, pixels = width * height;
 constexpr std::size_t points_of_all = 6;
-QuietTask quiet;
 
 template <class Value>
 std::string bytes(Value value) {
