@@ -8,7 +8,7 @@
 namespace zol {
 
 /// PREFIX-ipf-x.png and so on for each kind of picture, and PREFIX-legend.png. A point is a rectangle of its steps'
-/// shape, small maps are enlarged. @throws RunFailure  one can't be written
+/// shape, small maps are enlarged. @throws RunFailure  one cannot be written
 void write_map_pictures(const MapResult& map, const std::string& prefix);
 
 }  // namespace zol

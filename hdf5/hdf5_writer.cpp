@@ -74,7 +74,7 @@ void write_hdf5(const std::string& path, const std::function<void(Hdf5Writer&)>&
   if (good) std::filesystem::rename(beside, path, error);
   if (!good || error) {
     std::filesystem::remove(beside, error);
-    throw RunFailure("can't write " + path);
+    throw RunFailure("cannot write " + path);
   }
 }
 

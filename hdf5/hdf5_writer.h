@@ -52,7 +52,7 @@ class Hdf5Writer {
 };
 
 /// Writes a file beside its place and gives it that place when it is complete.
-/// @throws RunFailure  it can't be written
+/// @throws RunFailure  it cannot be written
 void write_hdf5(const std::string& path, const std::function<void(Hdf5Writer&)>& write);
 
 }  // namespace zol

@@ -46,13 +46,13 @@ ZOL_VECTOR_CLONES void look_up(const float* grid, int size, int count, const int
   }
 }
 
-/// Sums of a row of a picture and the measured one.
+/// Sums of a piece of a picture and the measured one.
 struct PictureSums {
   float computed = 0, square = 0, product = 0;
 };
 
-ZOL_VECTOR_CLONES void add_row(const float* measured, const float* computed, const float* mask, int count,
-                               PictureSums& sums) {
+ZOL_VECTOR_CLONES void add_piece(const float* measured, const float* computed, const float* mask, int count,
+                                 PictureSums& sums) {
   float sum = 0;
   float square = 0;
   float product = 0;
@@ -66,6 +66,17 @@ ZOL_VECTOR_CLONES void add_row(const float* measured, const float* computed, con
   sums.computed = sum;
   sums.square = square;
   sums.product = product;
+}
+
+/// Pixels that are added up as float before a double takes their sum: few enough to stay exact, and several rows, so
+/// that little is lost at the ends. The frame between two rows adds nothing: mask and slopes are 0 there.
+constexpr int piece_size = 512;
+
+/// Calls work(start, count) for all pieces of the rows between the first and the last.
+template <class Work>
+void for_each_piece(int width, int height, const Work& work) {
+  const int end = width * (height - 1);
+  for (int start = width; start < end; start += piece_size) work(index(start), std::min(piece_size, end - start));
 }
 
 constexpr int most_parameters = 6;
@@ -127,7 +138,7 @@ void PictureFitter::take(const PreparedPicture& picture) {
     even_.shape(w, h, picture.mask(), picture.background_radius());
     places_.resize(index(w));
     parts_.resize(2 * index(w));
-    slopes_.resize(most_parameters * size);
+    slopes_.assign(most_parameters * size, 0);
   }
   double sum = 0;
   count_ = 0;
@@ -193,16 +204,14 @@ void PictureFitter::draw(const KinematicSphere& sphere, const Place& place) {
 }
 
 double PictureFitter::correlate() {
-  const int w = picture_->width();
   sums_ = {};
-  for (int y = 1; y + 1 < picture_->height(); ++y) {
-    const std::size_t start = index(y) * index(w);
-    PictureSums row;
-    add_row(&measured_[start], &computed_[start], &mask_[start], w, row);
-    sums_.computed += static_cast<double>(row.computed);
-    sums_.square += static_cast<double>(row.square);
-    sums_.product += static_cast<double>(row.product);
-  }
+  for_each_piece(picture_->width(), picture_->height(), [this](std::size_t start, int count) {
+    PictureSums piece;
+    add_piece(&measured_[start], &computed_[start], &mask_[start], count, piece);
+    sums_.computed += static_cast<double>(piece.computed);
+    sums_.square += static_cast<double>(piece.square);
+    sums_.product += static_cast<double>(piece.product);
+  });
   const double variance = sums_.square - sums_.computed * sums_.computed / count_;
   return variance > 0 && norm_ > 0 ? sums_.product / (norm_ * std::sqrt(variance)) : 0;
 }
@@ -246,14 +255,11 @@ void PictureFitter::slopes_from_draws(const KinematicSphere& sphere, const Place
 }
 
 void PictureFitter::sum_up(int parameters, Normal& normal, Parameters& right) const {
-  const int w = picture_->width();
   normal.setZero();
   right.setZero();
   Parameters sum = Parameters::Zero();
   Parameters along = Parameters::Zero();
-  const int count = w - 2;
-  for (int y = 1; y + 1 < picture_->height(); ++y) {
-    const std::size_t start = index(y) * index(w) + 1;
+  for_each_piece(picture_->width(), picture_->height(), [&](std::size_t start, int count) {
     for (int p = 0; p < parameters; ++p) {
       const float* slope = &slopes_[index(p) * computed_.size() + start];
       sum[p] += static_cast<double>(total(slope, count));
@@ -263,7 +269,7 @@ void PictureFitter::sum_up(int parameters, Normal& normal, Parameters& right) co
         normal(p, q) += static_cast<double>(dot(slope, &slopes_[index(q) * computed_.size() + start], count));
       }
     }
-  }
+  });
   // What only changes the mean or the contrast of the computed picture is of no account.
   const double mean = sums_.computed / count_;
   const double variance = sums_.square - sums_.computed * mean;
@@ -293,6 +299,9 @@ PictureFit PictureFitter::fit(const KinematicSphere& sphere, const Rotation& sta
   PictureFit best{start, centre, correlate(), 0, {}};
   Normal normal;
   Parameters right;
+  // Rotations do little to each other, so that what overshoots is halved. The centre does nearly what rotations do:
+  // there the damping has to be felt for.
+  const double first_damping = settings.centre ? 1e-2 : 1;
   double damping = settings.centre ? 1e-3 : 0;
   bool fresh = true;  // whether the sums are to be made anew
   while (best.correlation > 0 && best.steps < settings.most_steps) {
@@ -326,7 +335,7 @@ PictureFit PictureFitter::fit(const KinematicSphere& sphere, const Rotation& sta
       best.correlation = found;
       damping = damping > 1e-4 ? damping / 5 : 0;
     } else {
-      damping = std::max(damping * 10, 1e-2);
+      damping = std::max(damping * 10, first_damping);
     }
     if (size < settings.least_turn_deg || damping > most_damping) break;
   }

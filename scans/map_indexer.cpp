@@ -1,7 +1,6 @@
 #include "scans/map_indexer.h"
 
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstddef>
 #include <numbers>
@@ -15,9 +14,6 @@ namespace {
 
 constexpr int tile_columns = 32;
 constexpr int tile_rows = 8;
-/// What the neighbour's orientation has to reach of the neighbour's correlation to be taken without a look at the
-/// bands.
-constexpr double as_good = 0.85;
 /// Spread of a picture in steps of its grey values below which it shows nothing but their rounding, 0.29.
 constexpr double least_contrast = 0.5;
 
@@ -47,29 +43,13 @@ float smoothness(const PreparedPicture& picture) {
   return square > 0 ? static_cast<float>(std::clamp(product / (2 * square), 0.0, 1.0)) : 0.0F;
 }
 
-/// Adds the time until it goes.
-class Timed {
- public:
-  explicit Timed(double& seconds) : seconds_(seconds) {}
-  Timed(const Timed&) = delete;
-  Timed& operator=(const Timed&) = delete;
-  ~Timed() { seconds_ += std::chrono::duration<double>(std::chrono::steady_clock::now() - start_).count(); }
-
- private:
-  double& seconds_;
-  std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
-};
+std::int8_t thousandths(double part) {
+  constexpr double steps = 1000;
+  constexpr double most = 127;
+  return static_cast<std::int8_t>(std::lround(std::clamp(steps * part, -most, most)));
+}
 
 }  // namespace
-
-StepTimes& StepTimes::operator+=(const StepTimes& other) {
-  reading += other.reading;
-  averaging += other.averaging;
-  preparing += other.preparing;
-  trying += other.trying;
-  finding += other.finding;
-  return *this;
-}
 
 MapIndexer::MapIndexer(Scan& scan, const ScanGrid& grid, MapCentres centres, std::vector<const CrystalModel*> models,
                        const MapSettings& settings)
@@ -127,47 +107,9 @@ void MapIndexer::read_tile(const MapTile& tile, int margin, Worker& worker) {
 
 void MapIndexer::prepare(Task& task) {
   if (settings_.background == Background::automatic || settings_.background == Background::stored) {
-    find_background(task);
+    background_.find(scan_, reader_, grid_.points(), settings_, task);
   }
   if (settings_.averaging == Averaging::likeness) find_likeness(task);
-}
-
-/// The file's own background, or the mean of many points: bands move from point to point and cancel.
-void MapIndexer::find_background(Task& task) {
-  constexpr std::size_t looked_at = 400;
-  constexpr std::size_t least = 100;  ///< fewer do not cancel
-  const bool given = !settings_.background_picture.empty();
-  background_ = given ? settings_.background_picture : scan_.header().static_background;
-  background_kind_ = given ? BackgroundKind::given : BackgroundKind::of_scan;
-  if (background_.empty() && settings_.background == Background::stored) {
-    throw RunFailure("the scan holds no static background");
-  }
-  const std::size_t points = grid_.points();
-  if (background_.empty() && points >= least) {
-    background_kind_ = BackgroundKind::mean_of_points;
-    background_.assign(scan_.header().pixels(), 0);
-    PatternBlock block;
-    std::size_t used = 0;
-    for (std::size_t i = 0; i < looked_at; ++i) {
-      task.check();
-      scan_.read(i * points / looked_at, 1, block);
-      if (block.present[0] == 0) continue;
-      ++used;
-      for (std::size_t p = 0; p < background_.size(); ++p) background_[p] += block.values[p];
-    }
-    if (used < least) background_.clear();
-    for (float& value : background_) value /= static_cast<float>(used);
-  }
-  if (!background_.empty()) {
-    std::vector<float> reduced(reader_.gathering().pixels());
-    reader_.reduce(background_, reduced);
-    background_ = std::move(reduced);
-  }
-  background_mean_ = 0;
-  for (const float value : background_) background_mean_ += static_cast<double>(value);
-  background_mean_ /= static_cast<double>(std::max<std::size_t>(background_.size(), 1));
-  if (!(background_mean_ > 0)) background_.clear();
-  if (background_.empty()) background_kind_ = BackgroundKind::none;
 }
 
 void MapIndexer::find_likeness(Task& task) {
@@ -215,12 +157,7 @@ void MapIndexer::pattern_of(int column, int row, Worker& worker) const {
       for (float& value : worker.pattern) value /= count;
     }
   }
-  if (!background_.empty()) {
-    double mean = 0;
-    for (const float value : worker.pattern) mean += static_cast<double>(value);
-    const auto scale = static_cast<float>(mean / static_cast<double>(tile.pixels) / background_mean_);
-    for (std::size_t i = 0; i < tile.pixels; ++i) worker.pattern[i] -= scale * background_[i];
-  }
+  background_.take_off(worker.pattern);
 }
 
 /// Points about a tile that its own ones are averaged with.
@@ -276,84 +213,27 @@ void MapIndexer::index_tile(const MapTile& tile, Worker& worker, TileState& stat
 PointResult MapIndexer::index_point(std::size_t point, std::span<const KnownOrientation> guesses, Worker& worker,
                                     KnownOrientation& known, Task& task) const {
   PointResult result;
-  const PictureSize size{scan_.header().width, scan_.header().height, 1};
-  PatternIndexer& indexer = worker.indexer;
   {
     const Timed timed(worker.times.preparing);
-    if (!indexer.take(worker.pattern, reader_.gathering(), settings_.index)) return result;
+    if (!worker.indexer.take(worker.pattern, reader_.gathering(), settings_.index)) return result;
     if (!shows_something(worker)) return result;
-    result.quality = smoothness(indexer.prepared());
+    result.quality = smoothness(worker.indexer.prepared());
   }
-  const PatternCentre centre = upside_down(centres_.at(point), size);
-  const bool on_picture = settings_.index.fit_picture;
-  KnownOrientation best;
-  const auto model_of = [this](const KnownOrientation& one) -> const CrystalModel& {
-    return *models_[index(one.model)];
-  };
-  PictureFit best_fit;
-  int bands = 0;
-  double fit_deg = 0;
-  bool settled = false;
-  if (on_picture) {
-    const Timed timed(worker.times.trying);
-    for (const KnownOrientation& guess : guesses) {
-      const PictureFit fit = indexer.fit(model_of(guess), guess.crystal_from_picture, centre, settings_.index);
-      if (fit.correlation <= best.correlation) continue;
-      best = {guess.model, fit.correlation, fit.crystal_from_picture};
-      best_fit = fit;
-      settled = fit.correlation >= as_good * guess.correlation;
-      if (settled) break;
-    }
-  }
-  const auto find = [&] {
-    const Timed timed(worker.times.finding);
-    bool replaced = false;
-    for (const IndexSolution& solution : indexer.index_taken(centre, models_, settings_.index, task)) {
-      if (on_picture && solution.correlation <= best.correlation) continue;
-      if (!on_picture && best.model >= 0) break;  // they stand in order
-      best = {static_cast<int>(std::find(models_.begin(), models_.end(), solution.model) - models_.begin()),
-              on_picture ? solution.correlation : solution.confidence, solution.crystal_from_picture};
-      bands = solution.matched;
-      fit_deg = solution.mean_deviation_deg;
-      best_fit = {};
-      replaced = true;
-    }
-    if (on_picture && replaced && bands > 0) {
-      best_fit = indexer.fit(model_of(best), best.crystal_from_picture, centre, settings_.index);
-      best.crystal_from_picture = best_fit.crystal_from_picture;
-      best.correlation = best_fit.correlation;
-    }
-  };
-  const auto choose = [&] {
-    best_fit.crystal_from_picture = best.crystal_from_picture;
-    const ChosenFit chosen = indexer.choose(model_of(best), best_fit, centre, settings_.index);
-    best_fit = chosen.fit;
-    best.crystal_from_picture = best_fit.crystal_from_picture;
-    if (!chosen.lead) return true;
-    best.correlation = indexer.correlation(model_of(best), best.crystal_from_picture, centre);
-    constexpr double steps = 1000;
-    constexpr double most = 127;
-    result.lead = static_cast<std::int8_t>(std::lround(std::clamp(steps * *chosen.lead, -most, most)));
-    return *chosen.lead >= 0;
-  };
-  if (!settled) find();
-  if (best.model < 0) return result;
-  // A neighbour of the other hand fits nearly as well: the crystal that this one belongs to may be among the others.
-  if (on_picture && !choose() && settled && models_.size() > 1) {
-    find();
-    (void)choose();
-  }
-  if (on_picture) fit_deg = std::hypot(best_fit.errors[0], best_fit.errors[1], best_fit.errors[2]);
-  result.confidence = static_cast<float>(best.correlation);
-  result.fit_deg = static_cast<float>(fit_deg);
-  result.bands = static_cast<std::uint8_t>(std::clamp(bands, 0, 255));
-  if (best.correlation < settings_.least_confidence || fit_deg > settings_.most_fit_deg) return result;
-  const auto angles = bunge_deg(best.crystal_from_picture * picture_from_sample_);
+  const PatternCentre centre = turned_centre(point);
+  const FoundOrientation found =
+      PointIndexer(worker.indexer, centre, models_, settings_.index, worker.times).index(guesses, task);
+  if (found.model < 0) return result;
+  result.confidence = static_cast<float>(found.correlation);
+  result.fit_deg = static_cast<float>(found.fit_deg);
+  result.bands = static_cast<std::uint8_t>(std::clamp(found.bands, 0, 255));
+  if (found.lead) result.lead = thousandths(*found.lead);
+  if (found.correlation < settings_.least_confidence || found.fit_deg > settings_.most_fit_deg) return result;
+  const auto angles = bunge_deg(found.crystal_from_picture * picture_from_sample_);
   for (std::size_t i = 0; i < 3; ++i) {
     result.bunge_rad[i] = static_cast<float>(angles[i] * std::numbers::pi / 180);
   }
-  result.phase = static_cast<std::int8_t>(best.model + 1);
-  known = best;
+  result.phase = static_cast<std::int8_t>(found.model + 1);
+  known = found;
   return result;
 }
 

@@ -11,51 +11,14 @@
 #include <span>
 #include <vector>
 
-#include "indexing/pattern_indexer.h"
-#include "scans/map_geometry.h"
 #include "scans/map_result.h"
-#include "scans/neighbour_average.h"
+#include "scans/map_settings.h"
+#include "scans/point_indexer.h"
+#include "scans/static_background.h"
+#include "scans/step_times.h"
 #include "scans/tile_reader.h"
 
 namespace zol {
-
-enum class Refinement { none, bands, pattern };
-enum class Background { automatic, stored, dynamic, none };
-
-/// What static background was found.
-enum class BackgroundKind { none, given, of_scan, mean_of_points };
-
-struct MapSettings {
-  MapGeometry geometry;
-  IndexSettings index;
-  Refinement refinement = Refinement::pattern;
-  Background background = Background::automatic;
-  std::vector<float> background_picture;  ///< to be taken as the stored one instead of the scan's own
-  Averaging averaging = Averaging::likeness;
-  double own_share = 0.34;        ///< that the middle point keeps of itself when it is averaged by likeness
-  double least_confidence = 0.1;  ///< below it a point counts as not indexed
-  double most_fit_deg = 3;
-  bool flip = false;            ///< patterns stand upside down in the file
-  std::array<int, 4> region{};  ///< x, y, width, height of the part of the map that is indexed; all 0: the whole
-};
-
-/// Seconds of a thread.
-struct StepTimes {
-  double reading = 0;    ///< with the wait for other threads that read
-  double averaging = 0;  ///< and the background
-  double preparing = 0;
-  double trying = 0;   ///< of the neighbours' orientations
-  double finding = 0;  ///< bands, votes, and the fits of what they give
-
-  StepTimes& operator+=(const StepTimes& other);
-};
-
-/// An orientation that was found at a point, to be tried at its neighbours.
-struct KnownOrientation {
-  int model = -1;  ///< its number; -1: none
-  double correlation = 0;
-  Rotation crystal_from_picture = Rotation::Identity();
-};
 
 /// How far a tile is. What follows depends on it alone, so that another run can go on with it.
 struct TileState {
@@ -75,7 +38,7 @@ class MapIndexer {
   void prepare(Task& task);
   /// Of averaging by likeness: the length at which weights have fallen to 1/e.
   [[nodiscard]] double likeness() const { return likeness_; }
-  [[nodiscard]] BackgroundKind background_kind() const { return background_kind_; }
+  [[nodiscard]] BackgroundKind background_kind() const { return background_.kind(); }
 
   [[nodiscard]] const ScanGrid& grid() const { return grid_; }
   [[nodiscard]] const std::vector<const CrystalModel*>& models() const { return models_; }
@@ -110,7 +73,6 @@ class MapIndexer {
 
  private:
   void read_tile(const MapTile& tile, int margin, Worker& worker);
-  void find_background(Task& task);
   void find_likeness(Task& task);
   PointResult index_point(std::size_t point, std::span<const KnownOrientation> guesses, Worker& worker,
                           KnownOrientation& known, Task& task) const;
@@ -127,9 +89,7 @@ class MapIndexer {
   MapSettings settings_;
   Rotation picture_from_sample_;
   std::vector<MapTile> tiles_;
-  std::vector<float> background_;  ///< as patterns are worked on; empty: none
-  double background_mean_ = 0;
-  BackgroundKind background_kind_ = BackgroundKind::none;
+  StaticBackground background_;
   double likeness_ = 0;
   float saturated_, rounding_;
 };

@@ -58,34 +58,40 @@ void LikenessAverage::look_at(const PatternTile& tile) {
   constexpr float none = std::numeric_limits<float>::max();
   variance_.assign(points, none);
   twins_.assign(points, 0);
-  for (std::size_t o = 0; o < offsets().size(); ++o) {
-    const auto [right, down] = offsets()[o];
-    for (int row = 0; row + down < tile.rows; ++row) {
-      for (int column = std::max(0, -right); column + std::max(0, right) < tile.columns; ++column) {
-        const std::size_t here = tile.place(column, row);
-        const std::size_t there = tile.place(column + right, row + down);
-        if (tile.present[here] == 0 || tile.present[there] == 0) continue;
-        Difference found;
-        compare(tile.pattern(here).data(), tile.pattern(there).data(), tile.pixels, saturated_, found);
-        if (found.count < 1) continue;
-        const float mean = found.square / found.count;
-        squares_[o * points + here] = mean;
-        counts_[o * points + here] = found.count;
-        if (std::abs(right) > 1 || down > 1) continue;
-        if (mean <= 0) {
-          ++twins_[here];
-          ++twins_[there];
-          continue;
-        }
-        variance_[here] = std::min(variance_[here], mean / 2);
-        variance_[there] = std::min(variance_[there], mean / 2);
-      }
-    }
+  // Point by point, so that a pattern and those about it stay in the cache for all steps.
+  for (int row = 0; row < tile.rows; ++row) {
+    for (int column = 0; column < tile.columns; ++column) compare_with_neighbours(column, row);
   }
   // Identical twins, which some detectors deliver, tell nothing of the noise; many of them tell that there is none.
   constexpr int many = 3;
   for (std::size_t i = 0; i < points; ++i) {
     if (twins_[i] >= many) variance_[i] = rounding_;
+  }
+}
+
+void LikenessAverage::compare_with_neighbours(int column, int row) {
+  const PatternTile& tile = *tile_;
+  const std::size_t here = tile.place(column, row);
+  if (tile.present[here] == 0) return;
+  for (std::size_t o = 0; o < offsets().size(); ++o) {
+    const auto [right, down] = offsets()[o];
+    if (column + right < 0 || column + right >= tile.columns || row + down >= tile.rows) continue;
+    const std::size_t there = tile.place(column + right, row + down);
+    if (tile.present[there] == 0) continue;
+    Difference found;
+    compare(tile.pattern(here).data(), tile.pattern(there).data(), tile.pixels, saturated_, found);
+    if (found.count < 1) continue;
+    const float mean = found.square / found.count;
+    squares_[o * variance_.size() + here] = mean;
+    counts_[o * variance_.size() + here] = found.count;
+    if (std::abs(right) > 1 || down > 1) continue;
+    if (mean <= 0) {
+      ++twins_[here];
+      ++twins_[there];
+      continue;
+    }
+    variance_[here] = std::min(variance_[here], mean / 2);
+    variance_[there] = std::min(variance_[there], mean / 2);
   }
 }
 

@@ -50,6 +50,7 @@ class LikenessAverage {
     int right, down;
   };
   static const std::vector<Offset>& offsets();
+  void compare_with_neighbours(int column, int row);
   [[nodiscard]] double difference(std::size_t i, std::size_t offset, bool forward, const Offset& step) const;
   template <class Visit>
   void each_neighbour(int column, int row, const Visit& visit) const;

@@ -104,7 +104,7 @@ TEST_F(Batch, EndsWithTheStatusOfItsKindAndSaysWhy) {
       {"rings NaCl.cry --index -o x.svg", 2, "--draw profile"},
       {"rings NaCl.cry CopperLines.cry --draw rings -o x.svg", 2, "--draw"},
       {"pattern NaCl.cry --axis 1,1 --kind spots -o x.svg", 2, "is not 3 numbers"},
-      {"pattern NaCl.cry --axis 0,0,0 --kind map -o x.svg", 2, "0,0,0 is no direction"},
+      {"pattern NaCl.cry --axis 0,0,0 --kind map -o x.svg", 2, "0,0,0 is not a direction"},
       {"pattern NaCl.cry --axis 1,1,x --kind spots -o x.svg", 2, "1,1,x"},
       {"pattern NaCl.cry --axis 1,1,1 --kind stars -o x.svg", 2, "stars"},
       {"pattern NaCl.cry --axis 1,1,1 --kind spots -o x.xy", 2, "x.xy does not end in .svg"},

@@ -3,6 +3,8 @@
 #include <cmath>
 
 #include "core/run_failure.h"
+#include "core/task.h"
+#include "shell/services/attempt.h"
 #include "shell/services/event_gate.h"
 #include "shell/services/pasted_rows.h"
 #include "shell/services/ruler.h"
@@ -168,6 +170,19 @@ TEST(Gate, LetsEventsWaitAndEndsWithTheFirstFailure) {
   gate.fail(std::make_exception_ptr(std::bad_alloc()));
   EXPECT_EQ(log, "\ndialog: runs.\nfirst:.\nsecond:.\nthird:! the program is at fault, it does not say how");
   EXPECT_EQ(script_line({"set", "A.B", "a\"\\ \n#"}), R"(set A.B "a\"\\ \n#")");
+}
+
+TEST_F(Controls, AttemptsTellWhatGoesWrongAndLetAStopThrough) {
+  FakeServices services;
+  Label status{form, "Status"};
+  const auto told_of = [&](const std::function<void()>& action) {
+    attempt(services, form, status, action);
+    return status.caption() + "|" + (services.messages.empty() ? "" : services.messages.back());
+  };
+  EXPECT_EQ(told_of([] {}), "|");
+  EXPECT_EQ(told_of([] { throw RunFailure("no file"); }), "no file|no file");
+  EXPECT_EQ(told_of([] { throw std::bad_alloc(); }), "not enough memory|not enough memory");
+  EXPECT_THROW(attempt(services, form, status, [] { throw Cancelled(); }), Cancelled);
 }
 
 TEST(SaveDialogs, KnowTheNameThatWillBeWritten) {

@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -134,7 +135,7 @@ class User {
 
   void click(const char* window_name, const char* button) const {
     auto& target = widget<QAbstractButton>(window_name, button);
-    expect(target.isVisible() && target.isEnabled(), std::string(button) + " can't be clicked");
+    expect(target.isVisible() && target.isEnabled(), std::string(button) + " cannot be clicked");
     QTest::mouseClick(&target, Qt::LeftButton, {}, {6, 8});
   }
   /// Opens the menu that an item stands in and clicks it; or clicks an item of the menu bar itself.
@@ -151,6 +152,47 @@ class User {
       return;
     }
     give_up(std::string("no menu holds ") + item);
+  }
+  /// Sets an entry by its text, wherever it stands in the menus of a window.
+  void choose_text(const char* window_name, const QString& text) const {
+    for (auto* menu : window(window_name).findChildren<QMenu*>()) {
+      for (auto* action : menu->actions()) {
+        if (action->text().remove(u'&') == text) return action->trigger();
+      }
+    }
+    give_up("no menu says " + text.toStdString());
+  }
+  /// Clicks an entry of the menu of a picture.
+  void choose_in_picture(const char* window_name, const char* picture_name, const char* entry) const {
+    auto& picture = widget<CanvasView>(window_name, picture_name);
+    const QPoint centre = picture.rect().center();
+    QContextMenuEvent asked(QContextMenuEvent::Mouse, centre, picture.mapToGlobal(centre));
+    QApplication::sendEvent(&picture, &asked);
+    const auto opened = [] { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); };
+    expect(QTest::qWaitFor([&opened] { return opened() != nullptr; }), "a picture has no context menu");
+    QMenu& menu = *opened();
+    QString mnemonics;
+    for (auto* action : menu.actions()) mnemonics += action->text().section(u'&', 1).left(1).toUpper();
+    for (const QChar c : mnemonics) expect(mnemonics.count(c) == 1, "a mnemonic twice in " + mnemonics.toStdString());
+    for (auto* action : menu.actions()) {
+      if (action->text() != QString::fromLatin1(entry)) continue;
+      return QTest::mouseClick(&menu, Qt::LeftButton, {}, menu.actionGeometry(action).center());
+    }
+    give_up(std::string("the context menu has no ") + entry);
+  }
+  /// Drags from one place of a picture to another, in parts of its sides.
+  void drag(const char* window_name, const char* picture_name, QPointF from, QPointF to) const {
+    auto& picture = widget<CanvasView>(window_name, picture_name);
+    const QPoint start = place(picture, from);
+    const QPoint end = place(picture, to);
+    QTest::mousePress(&picture, Qt::LeftButton, {}, start);
+    constexpr int steps = 5;
+    for (int i = 1; i <= steps; ++i) {
+      const QPoint at = start + (end - start) * i / steps;
+      QMouseEvent move(QEvent::MouseMove, at, picture.mapToGlobal(at), Qt::NoButton, Qt::LeftButton, {});
+      QApplication::sendEvent(&picture, &move);
+    }
+    QTest::mouseRelease(&picture, Qt::LeftButton, {}, end);
   }
   void load_crystal(const char* name) const {
     window("Main1").activateWindow();
@@ -221,7 +263,7 @@ class User {
     if (!pictures_) return;
     QTest::qWait(50);
     const QString path = *pictures_ + u'/' + QString::fromLatin1(name) + QStringLiteral(".png");
-    expect(shown.grab().save(path), "a picture can't be saved");
+    expect(shown.grab().save(path), "a picture cannot be saved");
   }
   /// The same with a number beside each of these controls, from 1 on, as the guide's legends have them.
   void take_numbered_picture(const char* window_name, const char* name,
@@ -245,7 +287,7 @@ class User {
     }
     painter.end();
     const QString path = *pictures_ + u'/' + QString::fromLatin1(name) + QStringLiteral(".png");
-    expect(picture.save(path), "a picture can't be saved");
+    expect(picture.save(path), "a picture cannot be saved");
   }
   /// Lets a file fall on a window.
   void drop_file(const char* window_name, const QString& path) const {
@@ -256,7 +298,7 @@ class User {
     QDragEnterEvent over(middle.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, {});
     QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(&target, &over);
-    expect(over.isAccepted(), path.toStdString() + " can't be dropped");
+    expect(over.isAccepted(), path.toStdString() + " cannot be dropped");
     QApplication::sendEvent(&target, &drop);
   }
 

@@ -1,28 +1,16 @@
 #include "dynamics/window/globe_drag.h"
 #include "dynamics/window/master_drawing.h"
+#include "shell/services/attempt.h"
 #include "shell/services/wiring.h"
 
 namespace zol::master_pattern_window {
 namespace {
 
-constexpr auto title = "MASTER PATTERN";
 constexpr auto nothing_drawn = "nothing is drawn yet: press Make";
 constexpr auto not_kept = "the pattern was not kept with the picture: press Make, which computes it again";
 
-/// What goes wrong is told; the program goes on.
-void attempt(Workbench& bench, MasterPatternForm& form, const std::function<void()>& action) {
-  const Hourglass hourglass(form);
-  try {
-    action();
-  } catch (const RunFailure& failure) {
-    form.Status.set_caption(failure.message());
-    bench.services.message(failure.message(), title);
-  } catch (const std::bad_alloc&) {
-    bench.services.message("not enough memory", title);
-  }
-}
-
 void draw(Workbench& bench, MasterPatternForm& form, const ShownMaster& shown) {
+  const Hourglass hourglass(form);
   WindowTask task(bench.services);
   draw_master(form, shown, task);
   form.Place.set_caption("");
@@ -30,7 +18,10 @@ void draw(Workbench& bench, MasterPatternForm& form, const ShownMaster& shown) {
 }
 
 void Make_Click(Workbench& bench, MasterPatternForm& form) {
-  attempt(bench, form, [&] { draw(bench, form, *make_master(bench, form)); });
+  attempt(bench, form, [&] {
+    const Hourglass hourglass(form);
+    draw(bench, form, *make_master(bench, form));
+  });
 }
 
 /// @throws RunFailure  there is none, or it was drawn in an earlier run of the program

@@ -10,28 +10,16 @@
 #include "indexing/window/overlay.h"
 #include "indexing/window/show_orientation.h"
 #include "reflections/window/main1_form.h"
+#include "shell/services/attempt.h"
 #include "shell/services/wiring.h"
 
 namespace zol::auto_index {
 namespace {
 
-constexpr auto title = "AUTOMATIC INDEXING";
 constexpr double per_radian = 180 / std::numbers::pi;
 constexpr auto no_solution = "there is no solution yet: press Index";
 
 Pattern3Form& pattern3(Workbench& bench) { return bench.windows.use<Pattern3Form>(); }
-
-/// Runs what a button does. What goes wrong is told; the program goes on.
-void attempt(Workbench& bench, AutoIndexForm& form, const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RunFailure& failure) {
-    form.Status.set_caption(failure.message());
-    bench.services.message(failure.message(), title);
-  } catch (const std::bad_alloc&) {
-    bench.services.message("not enough memory", title);
-  }
-}
 
 /// The file's own pixels as they stand in PATTERN3.
 std::shared_ptr<const GreyPicture> measured_picture(Workbench& bench) {
@@ -281,7 +269,7 @@ void RefineCentre_Click(Workbench& bench, AutoIndexForm& form) {
 
 /// "bruker 0.5 0.25 0.6", for emsoft with the pixel size in micrometres behind. @throws RunFailure  it is none
 PatternCentre typed_centre(const std::string& text, PictureSize size) {
-  constexpr auto form = R"(expected are a maker and its numbers, as "bruker 0.5 0.25 0.6", or )"
+  constexpr auto form = R"(a maker and its numbers are expected, as "bruker 0.5 0.25 0.6", or )"
                         R"("emsoft 10 -20 15000 70" with the size of a pixel in micrometres)";
   std::string word;
   std::vector<std::string> words;
@@ -323,7 +311,7 @@ void MakerCentre_Click(Workbench& bench, AutoIndexForm& form) {
     const std::string answer = bench.services.prompt(
         "Pattern centre of the detector software: bruker, edax, oxford or emsoft and its three numbers, "
         "as edax 0.52 0.76 0.80",
-        title);
+        form.caption());
     if (answer.empty()) return;
     const PictureSize size{picture->width, picture->height, 1};
     write_centre(bench, typed_centre(answer, size), size);
@@ -362,7 +350,7 @@ void CopyReport_Click(Workbench& bench, AutoIndexForm& form) {
       lines.push_back(line);
       line.clear();
     }
-    bench.services.copy_text(lines, title);
+    bench.services.copy_text(lines, form.caption());
   });
 }
 

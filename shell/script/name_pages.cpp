@@ -15,9 +15,9 @@ constexpr std::array<std::string_view, 13> kind_words = {"text box",  "label", "
                                                          "combo box", "list",  "frame",  "menu item", "progress bar",
                                                          "slider",    "table", "picture"};
 
-std::string cell_text(std::string_view latin1) {
+std::string cell_text(std::string_view caption) {
   std::string text;
-  for (const char letter : utf8_of_latin1(latin1)) {
+  for (const char letter : readable_utf8(caption)) {
     if (letter == '|' || letter == '<') text += '\\';
     text += letter == '\n' ? ' ' : letter;
   }
