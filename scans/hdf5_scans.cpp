@@ -2,17 +2,15 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <numbers>
 #include <utility>
 
 #include "core/run_failure.h"
 #include "hdf5/hdf5_file.h"
+#include "indexing/units.h"
 #include "scans/readers.h"
 
 namespace zol {
 namespace {
-
-constexpr double degrees = 180 / std::numbers::pi;
 
 /// Where the patterns of one scan stand and what is said of them.
 struct Layout {

@@ -9,11 +9,11 @@
 #include "core/atomic_file.h"
 #include "core/run_failure.h"
 #include "indexing/orientation.h"
+#include "indexing/units.h"
 
 namespace zol {
 namespace {
 
-constexpr double degrees = 180 / std::numbers::pi;
 constexpr double turn_deg = 360;
 
 std::string fixed(double value, int decimals) {

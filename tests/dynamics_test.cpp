@@ -8,13 +8,13 @@
 #include "dynamics/potential.h"
 #include "dynamics/summed_voltages.h"
 #include "tests/dynamic_crystals.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
 
 using Complex = std::complex<double>;
-QuietTask quiet;
 
 /// Yields of directions and of their images.
 std::vector<double> yields(const DynamicCrystal& crystal, const std::vector<GridDirection>& directions) {

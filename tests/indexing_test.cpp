@@ -11,6 +11,7 @@
 #include "indexing/detector.h"
 #include "indexing/pattern_centre_fit.h"
 #include "indexing/pattern_indexer.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -19,7 +20,6 @@ namespace {
 using Operator = std::array<std::array<double, 3>, 3>;
 using Position = std::array<double, 3>;
 
-QuietTask quiet;
 constexpr double radians = std::numbers::pi / 180;
 constexpr double wavelength = 0.0859;  // angstroms, at 20 kV
 

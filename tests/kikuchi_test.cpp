@@ -14,12 +14,11 @@
 #include "kikuchi/zone_map.h"
 #include "tests/cartesian_cell.h"
 #include "tests/plain_kikuchi.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
-
-QuietTask quiet;
 
 /// Down [113] of a cell, with a list of four reflections.
 CrystalState with_four_bands(const CellNumbers& cell) {
