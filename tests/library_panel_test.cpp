@@ -8,6 +8,7 @@
 #include <QTreeView>
 
 #include "shell/desktop/group_search_box.h"
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/note_line.h"
 #include "tests/offscreen_desktop.h"
 
@@ -88,6 +89,16 @@ TEST_F(GroupSearchTest, PicksTheGroupAndFollowsTheNumber) {
     EXPECT_EQ(list.lit(), static_cast<int>(Val(number)) - 1);
     EXPECT_EQ(search.text(), QString());
   }
+  const auto& nothing = child<QLabel>("Main1", "List3SearchNothing");
+  for (const auto& [language, typed, rows] :
+       {std::tuple{"de", "kubisch", 36}, {"de", "cubic", 36}, {"fr", "triclin", 2}, {"fr", "nichts", 0}}) {
+    use_language(QLatin1String(language));
+    search.setText(QString::fromLatin1(typed));
+    EXPECT_EQ(shown(), rows) << typed;
+    EXPECT_EQ(!nothing.isHidden(), rows == 0) << typed;
+  }
+  use_language(QStringLiteral("en"));
+  search.clear();
   desktop.enter("typed", [this] { main1().Text7.set_text("5"); });
   EXPECT_EQ(list.lit(), 4);
   EXPECT_TRUE(failures.empty());

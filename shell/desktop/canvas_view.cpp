@@ -1,5 +1,8 @@
 #include "shell/desktop/canvas_view.h"
 
+#include <algorithm>
+#include <variant>
+
 #include <QBackingStore>
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -155,8 +158,13 @@ void CanvasView::paint_layers(QPainter& painter, const QRectF& place) {
   if (canvas_->loupe && pressed_) tools_->layers().paint_loupe(painter, at, painting_->image());
 }
 
+/// A scale alone draws nothing.
 bool CanvasView::shows_something() const {
-  return canvas_ != nullptr && (canvas_->has_picture() || !canvas_->drawing().empty());
+  if (canvas_ == nullptr) return false;
+  const auto& list = canvas_->drawing();
+  return canvas_->has_picture() || std::any_of(list.begin(), list.end(), [](const Primitive& entry) {
+           return !std::holds_alternative<UserScale>(entry.what);
+         });
 }
 
 QMarginsF CanvasView::ruler_margins() const {
