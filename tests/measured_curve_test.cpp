@@ -13,6 +13,7 @@
 #include "powder/doublet.h"
 #include "powder/reflection_lines.h"
 #include "tests/crystals.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -145,8 +146,6 @@ double lines_at(double x) {
   };
   return 100 * (line(27.4, 1) + line(31.7, 0.4) + line(45.4, 0.7));
 }
-
-QuietTask quiet;
 
 SampledCurve sampled_lines() {
   std::vector<double> samples;
