@@ -1,5 +1,7 @@
 #include "batch/map_words.h"
 
+#include "batch/number_check.h"
+
 namespace zol {
 namespace {
 
@@ -9,13 +11,16 @@ void add_geometry(CLI::App& command, MapWords& words) {
   command.add_option("--convention", words.convention, "of --pc: bruker, edax, oxford, emsoft")
       ->group(group)
       ->capture_default_str();
-  command.add_option("--tilt", words.tilt, "of the sample, degrees; left out: the scan's own, else 70")->group(group);
+  command.add_option("--tilt", words.tilt, "of the sample, degrees; left out: the scan's own, else 70")
+      ->group(group)
+      ->check(tilt());
   command.add_option("--camera", words.camera, "tilt of the screen, degrees; left out: the scan's own, else 0")
-      ->group(group);
+      ->group(group)
+      ->check(tilt());
   command.add_option("--screen", words.screen_mm, "width of the screen, mm: the centre drifts with the beam")
       ->group(group)
-      ->check(CLI::NonNegativeNumber);
-  command.add_option("--step", words.step, "between points, micrometres")->group(group)->check(CLI::PositiveNumber);
+      ->check(number_from(0, 1000));
+  command.add_option("--step", words.step, "between points, micrometres")->group(group)->check(number_from(1e-5, 1e5));
   command.add_option("--size", words.size, "COLUMNSxROWS where the scan does not tell it")->group(group);
   command.add_option("--scan-x", words.scan_x, "columns run to the right or left")
       ->group(group)
@@ -26,7 +31,9 @@ void add_geometry(CLI::App& command, MapWords& words) {
       ->check(CLI::IsMember({"down", "up"}))
       ->capture_default_str();
   command.add_flag("--flip", words.flip, "patterns stand upside down in the file")->group(group);
-  command.add_option("--voltage", words.kilovolt, "kV; left out: the scan's own, else 20")->group(group);
+  command.add_option("--voltage", words.kilovolt, "kV; left out: the scan's own, else 20")
+      ->group(group)
+      ->check(kilovolt());
 }
 
 void add_patterns(CLI::App& command, MapWords& words) {
@@ -58,8 +65,12 @@ void add_indexing(CLI::App& command, MapWords& words) {
       ->capture_default_str();
   command.add_option("--min-ci", words.min_ci, "confidence below which a point is not indexed")
       ->group(group)
+      ->check(number_from(-1, 1))
       ->capture_default_str();
-  command.add_option("--max-fit", words.max_fit, "degrees above which it is not")->group(group)->capture_default_str();
+  command.add_option("--max-fit", words.max_fit, "degrees above which it is not")
+      ->group(group)
+      ->check(number_from(0, 180))
+      ->capture_default_str();
   add_master_options(command, words.master);
 }
 
@@ -79,11 +90,11 @@ void add_band_words(CLI::App& command, MapWords& words) {
   const auto* group = "Indexing";
   command.add_option("--bands", words.bands, "that are looked for")
       ->group(group)
-      ->check(CLI::Range(3, 40))
+      ->check(whole_from(3, 40))
       ->capture_default_str();
   command.add_option("--families", words.families, "of planes that vote")
       ->group(group)
-      ->check(CLI::Range(1, 100))
+      ->check(whole_from(1, 100))
       ->capture_default_str();
 }
 
@@ -91,16 +102,20 @@ void add_map_words(CLI::App& command, MapWords& words) {
   command
       .add_option("--fit-pc", words.fit_centre, "fit the centre at so many clear points first, a plane through them")
       ->group("Geometry")
-      ->check(CLI::Range(5, 10000));
+      ->check(whole_from(5, 10000));
   command
       .add_option("-o,--output", words.outputs,
                   "result: .ang, .ctf, .h5, .oh5, .csv; once for each; needed but with --check")
       ->allow_extra_args(false);
   command.add_option("--pictures", words.pictures,
                      "PREFIX of pictures: ipf-x, ipf-y, ipf-z, iq, ci, fit, phase, kam, legend; .png");
+  command
+      .add_option("--picture-scale", words.picture_scale,
+                  "pixels of --pictures a point across; left out: as many as make small maps easy to look at")
+      ->check(whole_from(1, 64));
   add_indexing(command, words);
   const auto* running = "Running";
-  command.add_option("-j,--threads", words.threads, "0: one for each core")->group(running)->check(CLI::Range(0, 4096));
+  command.add_option("-j,--threads", words.threads, "0: one for each core")->group(running)->check(whole_from(0, 4096));
   command.add_flag("--check", words.check, "look at nine places of the map, tell rate and fit, write nothing")
       ->group(running);
   command.add_flag("--resume", words.resume, "go on with a run that was stopped")->group(running);

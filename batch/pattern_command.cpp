@@ -4,6 +4,8 @@
 #include <optional>
 
 #include "batch/figure.h"
+#include "batch/number_check.h"
+#include "batch/output_guard.h"
 #include "batch/words.h"
 #include "core/number_text.h"
 #include "kikuchi/window/pattern2_form.h"
@@ -88,6 +90,7 @@ Canvas& draw(BatchProgram& program, const PatternWords& words, const std::array<
 
 void run(const PatternWords& words) {
   check_figure_path("-o", words.output);
+  check_output(words.output, {words.file});
   const auto axis = numbers_of<3>("--axis", words.axis);
   if (axis == std::array<double, 3>{}) throw CLI::ValidationError("--axis", "0,0,0 is no direction");
   BatchProgram program;
@@ -118,16 +121,15 @@ void add_pattern_command(CLI::App& app) {
   pattern->add_option("-o,--output", words->output, "figure: .svg, .pdf, .png, .bmp")->required();
   pattern->add_option("--radiation", words->radiation,
                       "electrons: 5kV, 10kV, ... 1250kV; left out: 20kV, of spots and fiber 200kV");
-  pattern->add_option("--dmin", words->dmin, "smallest spacing, angstroms; left out: 1")->check(CLI::PositiveNumber);
+  pattern->add_option("--dmin", words->dmin, "smallest spacing, angstroms; left out: 1")->check(spacing());
   pattern
       ->add_option("--area", words->area,
                    "half the width: degrees, of spots and fiber inverse angstroms; left out: the window's")
-      ->check(CLI::PositiveNumber);
-  pattern->add_option("--bands", words->bands, "reflections of a Kikuchi pattern")->check(CLI::Range(1, 32767));
-  pattern->add_option("--dispersion", words->dispersion, "of a fiber, degrees; left out: 5")
-      ->check(CLI::NonNegativeNumber);
+      ->check(number_from(1e-3, 100));
+  pattern->add_option("--bands", words->bands, "reflections of a Kikuchi pattern")->check(whole_from(1, 32767));
+  pattern->add_option("--dispersion", words->dispersion, "of a fiber, degrees; left out: 5")->check(number_from(0, 90));
   pattern->add_option("--scale", words->scale, "pixels of .png and .bmp per pixel of the window")
-      ->check(CLI::Range(0.1, 20.0))
+      ->check(number_from(0.1, 20))
       ->capture_default_str();
   pattern->add_flag("--index", words->index, "indices beside the spots");
   pattern->add_flag("--roots", words->roots, "square roots of the intensities, for weak ones");
