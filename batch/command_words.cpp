@@ -59,7 +59,7 @@ WordOption option_of(const CLI::Option& option) {
   } else if (const std::string bounds = bounds_text(check); !bounds.empty()) {
     found.description += "; " + bounds;
   }
-  if (!option.get_default_str().empty()) found.description += "; left out: " + option.get_default_str();
+  if (!option.get_default_str().empty()) found.description += "; default: " + option.get_default_str();
   return found;
 }
 

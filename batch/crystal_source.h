@@ -22,7 +22,7 @@ struct LoadedCrystal {
   std::vector<std::string> report;  ///< what was read and taken for granted, of a structure file
 };
 
-/// @throws RunFailure  it can't be read, or leaves something open that an option has to tell; the message names it
+/// @throws RunFailure  it cannot be read, or leaves something open that an option has to tell; the message names it
 [[nodiscard]] LoadedCrystal load_crystal(const std::string& path, const DataRoot& data, Task& task);
 
 /// @param sphere  null: the bands of its planes

@@ -39,7 +39,7 @@ struct NumberColumns {
   std::vector<Single> places;
   std::vector<std::vector<Single>> values;  ///< one list a crystal
 };
-/// Lines of numbers behind a head of comments. @throws RunFailure  the file can't be written
+/// Lines of numbers behind a head of comments. @throws RunFailure  the file cannot be written
 void write_columns(const NumberColumns& columns, const std::string& path);
 
 }  // namespace zol

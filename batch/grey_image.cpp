@@ -11,7 +11,7 @@ GreyImage read_grey_image(const std::string& path) {
   QImageReader reader(QString::fromStdString(path));
   reader.setAutoTransform(false);
   const QImage image = reader.read();
-  if (image.isNull()) throw RunFailure("can't read the picture " + path + ": " + reader.errorString().toStdString());
+  if (image.isNull()) throw RunFailure("cannot read the picture " + path + ": " + reader.errorString().toStdString());
   GreyImage grey;
   const bool deep = image.depth() > 8 && (image.format() == QImage::Format_Grayscale16);
   const QImage plain = image.convertToFormat(deep ? QImage::Format_Grayscale16 : QImage::Format_Grayscale8);

@@ -134,7 +134,7 @@ nlohmann::ordered_json json_of(const IndexedPicture& found, const IndexWords& wo
   return json;
 }
 
-/// All pictures that can be indexed are told; one that can't fails the command at its end.
+/// All pictures that can be indexed are told; one that cannot fails the command at its end.
 int run(const IndexWords& words) {
   (void)centre_of_words(words.centre, words.convention, {1, 1, words.pixel});
   check_overlays(words);
@@ -196,10 +196,10 @@ void add_index_command(CLI::App& app, int& status) {
       ->check(tilt())
       ->capture_default_str();
   index->add_option("--voltage", words->kilovolt, "kV")->group(geometry)->check(kilovolt())->capture_default_str();
-  index->add_flag("--flipped", words->flipped, "the pictures stand upside down already")->group(geometry);
+  index->add_flag("--flipped", words->flipped, "the pictures are upside down already")->group(geometry);
   index->add_flag("--refine-pc", words->refine, "fit the pattern centre too, on each picture")->group(geometry);
   const auto* indexing = "Indexing";
-  index->add_option("--bands", words->bands, "that are looked for")
+  index->add_option("--bands", words->bands, "number of bands to look for")
       ->group(indexing)
       ->check(whole_from(3, 30))
       ->capture_default_str();

@@ -38,7 +38,7 @@ class PictureModels {
  public:
   using Models = std::vector<std::shared_ptr<const CrystalModel>>;
 
-  /// @throws RunFailure  a crystal can't be read; the message names it
+  /// @throws RunFailure  a crystal cannot be read; the message names it
   PictureModels(const IndexWords& words, int threads);
   /// With their bands drawn.
   [[nodiscard]] const Models& drawn() const { return drawn_; }

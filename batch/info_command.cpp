@@ -26,7 +26,7 @@ struct InfoWords {
   bool json = false;
 };
 
-/// What is told of a crystal; what a file of observed lines can't have is none.
+/// What is told of a crystal; what a file of observed lines cannot have is none.
 struct CrystalInfo {
   std::string file, formula, group, setting;
   CellConstants cell;
@@ -49,7 +49,7 @@ class InfoReader {
     for (int i = 1; i <= rows.value(); ++i) keys_.insert(table(i).Element);
   }
 
-  /// @throws RunFailure  it can't be read, or leaves something open
+  /// @throws RunFailure  it cannot be read, or leaves something open
   [[nodiscard]] CrystalInfo read(const std::string& path) {
     const std::string name = path.substr(path.rfind('/') + 1);
     const std::string bytes = read_file(path, task_);
@@ -161,7 +161,7 @@ nlohmann::ordered_json json_of(const CrystalInfo& info) {
   return json;
 }
 
-/// All that can be read are told; one that can't fails the command at its end.
+/// All that can be read are told; one that cannot fails the command at its end.
 int run(const InfoWords& words) {
   BatchTask task;
   InfoReader reader(task);
@@ -189,7 +189,7 @@ int run(const InfoWords& words) {
 
 void add_info_command(CLI::App& app, int& status) {
   const auto words = std::make_shared<InfoWords>();
-  CLI::App* info = app.add_subcommand("info", "what is in structure files, a line each");
+  CLI::App* info = app.add_subcommand("info", "what is in structure files, one line per file");
   info->footer("Example:\n  zol-batch info quartz.cif calcite.cif --json");
   info->add_option("FILE", words->files, "structure file or crystal: .cif, .res, .ins, POSCAR, .cry; also .gz")
       ->required();

@@ -76,7 +76,7 @@ int main(int argc, char** argv) {
     const int status = run(argc, argv);
     std::cout.flush();
     if (std::cout || status != zol::batch_done) return status;
-    if (!reader_has_gone()) std::cerr << "zol-batch: can't write to standard output\n";
+    if (!reader_has_gone()) std::cerr << "zol-batch: cannot write to standard output\n";
     return zol::batch_failed;
   } catch (...) {  // no memory even for the words of the command line
     return zol::batch_failed;

@@ -108,7 +108,7 @@ bool index_map(const MapJob& job, const MapWords& words, const MapRanks& ranks, 
   }
   if (!ranks.run(*job.indexer, job.grid, running, map.points)) {
     if (ranks.first()) {
-      std::cerr << "stopped; what is done stands in " << running.part_path << ", --resume goes on with it\n";
+      std::cerr << "stopped; what is finished is in " << running.part_path << ", --resume continues from there\n";
     }
     return false;
   }

@@ -117,7 +117,7 @@ ScanGrid grid_of(const MapWords& words, const ScanHeader& header) {
   if (!header.grid && header.points == 1) return {1, 1};
   if (!header.grid) {
     throw RunFailure(words.scan + " holds " + std::to_string(header.points) +
-                     " patterns and does not tell the size of the map: tell it by --size COLUMNSxROWS");
+                     " patterns and no size of the map: give it by --size COLUMNSxROWS");
   }
   ScanGrid grid = *header.grid;
   if (words.step) grid.step_x = grid.step_y = *words.step;
@@ -140,10 +140,10 @@ Centres centres_of(const MapWords& words, Scan& scan, const MapSettings& setting
   const PictureSize size = picture_size(header);
   if (!words.centre.empty()) {
     const PatternCentre centre = centre_of_words(words.centre, words.convention, size);
-    return {MapCentres(centre, settings.geometry, grid), centre, "as --pc tells"};
+    return {MapCentres(centre, settings.geometry, grid), centre, "from --pc"};
   }
   if (stored.empty()) {
-    throw RunFailure(words.scan + " tells no pattern centre: tell it by --pc X,Y,Z and --convention");
+    throw RunFailure(words.scan + " has no pattern centre: give it by --pc X,Y,Z and --convention");
   }
   const auto read = [&size](const StoredCentre& centre) {
     return read_centre(centre.numbers, centre.convention, size);

@@ -26,7 +26,7 @@ struct MapJob {
 };
 
 /// Opens the scan, loads the crystals and makes the indexer, which is not prepared yet.
-/// @throws RunFailure  a file can't be read, or leaves open what an option has to tell; the message names it
+/// @throws RunFailure  a file cannot be read, or leaves open what an option has to tell; the message names it
 /// @throws CLI::ValidationError  wrong words
 [[nodiscard]] MapJob make_map_job(const MapWords& words, Task& task);
 

@@ -62,7 +62,7 @@ void add_master_options(CLI::App& command, MapMasterWords& words) {
   const auto* group = "Indexing";
   command
       .add_option("--master", words.masters,
-                  "dynamical pattern: auto, none, or a file for each crystal in their order; left out: auto where it "
+                  "dynamical pattern: auto, none, or a file for each crystal in their order; default: auto where it "
                   "takes less than a minute")
       ->group(group)
       ->allow_extra_args(false);
@@ -92,7 +92,7 @@ CrystalMasters::CrystalMasters(MapMasterWords words, const std::vector<LoadedCry
   }
   if (of_crystal_.size() < crystals.size()) {
     throw RunFailure("--master: the crystal " + crystals[of_crystal_.size()].title +
-                     " has none; tell auto, none, or a file for each crystal");
+                     " has none; give auto, none, or a file for each crystal");
   }
   for (std::size_t i = 0; !told && remark_.empty() && i < crystals.size(); ++i) {
     const std::string reason = obstacle(words_, crystals[i], kilovolt);

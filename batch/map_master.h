@@ -39,7 +39,7 @@ struct MasterView {
 class CrystalMasters {
  public:
   /// @param crystals  have to live as long
-  /// @throws RunFailure  the words leave a crystal without, a file can't be read, or a crystal can't have what was
+  /// @throws RunFailure  the words leave a crystal without, a file cannot be read, or a crystal cannot have what was
   /// asked
   CrystalMasters(MapMasterWords words, const std::vector<LoadedCrystal>& crystals, double kilovolt);
 
@@ -51,7 +51,7 @@ class CrystalMasters {
   [[nodiscard]] std::string description(std::size_t number) const;
   /// @param number  of the crystal, from 0
   /// @returns null where its bands are to be drawn
-  /// @throws RunFailure  it can't be made
+  /// @throws RunFailure  it cannot be made
   [[nodiscard]] std::shared_ptr<const KinematicSphere> sphere(std::size_t number, const MasterView& view,
                                                               Task& task) const;
 

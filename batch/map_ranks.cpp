@@ -171,10 +171,10 @@ MapRanks::MapRanks() {
   if (!launched()) return;
   int given = 0;
   if (MPI_Init_thread(nullptr, nullptr, MPI_THREAD_SERIALIZED, &given) != MPI_SUCCESS) {
-    throw RunFailure("MPI can't begin");
+    throw RunFailure("MPI cannot begin");
   }
   begun_ = true;
-  if (given < MPI_THREAD_SERIALIZED) throw RunFailure("this MPI knows no threads");
+  if (given < MPI_THREAD_SERIALIZED) throw RunFailure("this MPI does not support threads");
   MPI_Comm_rank(MPI_COMM_WORLD, &rank_);
   MPI_Comm_size(MPI_COMM_WORLD, &count_);
   MPI_Comm machine = MPI_COMM_NULL;

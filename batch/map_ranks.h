@@ -9,7 +9,7 @@ namespace zol {
 /// The processes of this run. One object a process, which lives as long as MPI is used.
 class MapRanks {
  public:
-  /// Joins the others where a launcher has started the program. @throws RunFailure  MPI can't begin
+  /// Joins the others where a launcher has started the program. @throws RunFailure  MPI cannot begin
   MapRanks();
   MapRanks(const MapRanks&) = delete;
   MapRanks& operator=(const MapRanks&) = delete;

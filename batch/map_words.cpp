@@ -7,21 +7,21 @@ namespace {
 
 void add_geometry(CLI::App& command, MapWords& words) {
   const auto* group = "Geometry";
-  command.add_option("--pc", words.centre, "X,Y,Z of the map's middle point; left out: the scan's own")->group(group);
+  command.add_option("--pc", words.centre, "X,Y,Z of the map's middle point; default: the scan's own")->group(group);
   command.add_option("--convention", words.convention, "of --pc: bruker, edax, oxford, emsoft")
       ->group(group)
       ->capture_default_str();
-  command.add_option("--tilt", words.tilt, "of the sample, degrees; left out: the scan's own, else 70")
+  command.add_option("--tilt", words.tilt, "of the sample, degrees; default: the scan's own, otherwise 70")
       ->group(group)
       ->check(tilt());
-  command.add_option("--camera", words.camera, "tilt of the screen, degrees; left out: the scan's own, else 0")
+  command.add_option("--camera", words.camera, "tilt of the screen, degrees; default: the scan's own, otherwise 0")
       ->group(group)
       ->check(tilt());
   command.add_option("--screen", words.screen_mm, "width of the screen, mm: the centre drifts with the beam")
       ->group(group)
       ->check(number_from(0, 1000));
   command.add_option("--step", words.step, "between points, micrometres")->group(group)->check(number_from(1e-5, 1e5));
-  command.add_option("--size", words.size, "COLUMNSxROWS where the scan does not tell it")->group(group);
+  command.add_option("--size", words.size, "COLUMNSxROWS, for a scan without it")->group(group);
   command.add_option("--scan-x", words.scan_x, "columns run to the right or left")
       ->group(group)
       ->check(CLI::IsMember({"right", "left"}))
@@ -30,8 +30,8 @@ void add_geometry(CLI::App& command, MapWords& words) {
       ->group(group)
       ->check(CLI::IsMember({"down", "up"}))
       ->capture_default_str();
-  command.add_flag("--flip", words.flip, "patterns stand upside down in the file")->group(group);
-  command.add_option("--voltage", words.kilovolt, "kV; left out: the scan's own, else 20")
+  command.add_flag("--flip", words.flip, "patterns are upside down in the file")->group(group);
+  command.add_option("--voltage", words.kilovolt, "kV; default: the scan's own, otherwise 20")
       ->group(group)
       ->check(kilovolt());
 }
@@ -48,7 +48,7 @@ void add_patterns(CLI::App& command, MapWords& words) {
       ->capture_default_str();
   command
       .add_option("--average", words.average,
-                  "nlpar, nlpar=SHARE, 3x3, none; left out: nlpar, none for dynamical patterns")
+                  "nlpar, nlpar=SHARE, 3x3, none; default: nlpar, none for dynamical patterns")
       ->group(group);
   command.add_option("--mask", words.mask, "circle")->group(group)->check(CLI::IsMember({"circle"}));
   command.add_option("--region", words.region, "X,Y,W,H of the map, in points")->group(group);
@@ -88,7 +88,7 @@ void add_scan_words(CLI::App& command, MapWords& words) {
 
 void add_band_words(CLI::App& command, MapWords& words) {
   const auto* group = "Indexing";
-  command.add_option("--bands", words.bands, "that are looked for")
+  command.add_option("--bands", words.bands, "number of bands to look for")
       ->group(group)
       ->check(whole_from(3, 40))
       ->capture_default_str();
@@ -105,21 +105,21 @@ void add_map_words(CLI::App& command, MapWords& words) {
       ->check(whole_from(5, 10000));
   command
       .add_option("-o,--output", words.outputs,
-                  "result: .ang, .ctf, .h5, .oh5, .csv; once for each; needed but with --check")
+                  "result: .ang, .ctf, .h5, .oh5, .csv; once for each; required unless --check is given")
       ->allow_extra_args(false);
   command.add_option("--pictures", words.pictures,
                      "PREFIX of pictures: ipf-x, ipf-y, ipf-z, iq, ci, fit, phase, kam, legend; .png");
   command
       .add_option("--picture-scale", words.picture_scale,
-                  "pixels of --pictures a point across; left out: as many as make small maps easy to look at")
+                  "pixels of --pictures a point across; default: as many as make small maps easy to look at")
       ->check(whole_from(1, 64));
   add_indexing(command, words);
   const auto* running = "Running";
   command.add_option("-j,--threads", words.threads, "0: one for each core")->group(running)->check(whole_from(0, 4096));
-  command.add_flag("--check", words.check, "look at nine places of the map, tell rate and fit, write nothing")
+  command.add_flag("--check", words.check, "index nine points of the map, print rate and fit, write no file")
       ->group(running);
-  command.add_flag("--resume", words.resume, "go on with a run that was stopped")->group(running);
-  auto* quiet = command.add_flag("-q,--quiet", words.quiet, "nothing but failures")->group(running);
+  command.add_flag("--resume", words.resume, "continue a run that was stopped")->group(running);
+  auto* quiet = command.add_flag("-q,--quiet", words.quiet, "print only failures")->group(running);
   command.add_flag("-v,--verbose", words.verbose, "what was decided, and the time of each step")
       ->group(running)
       ->excludes(quiet);

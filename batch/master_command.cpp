@@ -74,7 +74,7 @@ void write_png(const MasterPattern& master, bool south, const std::string& path)
       line[column] = static_cast<uchar>(std::clamp((value - darkest) / range, 0.0F, 1.0F) * white);
     }
   }
-  if (!image.save(QString::fromStdString(path), "PNG")) throw RunFailure("can't write " + path);
+  if (!image.save(QString::fromStdString(path), "PNG")) throw RunFailure("cannot write " + path);
 }
 
 std::string percent(double correlation) {
@@ -86,7 +86,7 @@ void tell(const DynamicCrystal& crystal, const MasterPattern& master, const Mast
           bool check) {
   const MasterChoice& choice = master.choice;
   if (crystal.assumed_b > 0) {
-    std::cout << crystal.assumed_b << " sites tell no B: " << Format(usual_b_iso, "0.0#")
+    std::cout << crystal.assumed_b << " sites without B: " << Format(usual_b_iso, "0.0#")
               << " square angstroms taken\n";
   }
   std::cout << (choice.rule ? "beams by coupling" : std::to_string(choice.beams) + " beams") << ", spacings down to "
@@ -164,9 +164,9 @@ void add_master_command(CLI::App& app, int& status) {
       ->check(whole_from(11, 2001));
   master->add_option("--depth", words->settings.depth_nm, "mean depth that the electrons come from, nm")
       ->check(number_from(0.1, 100));
-  master->add_option("--dmin", words->settings.smallest_spacing, "smallest spacing, angstroms; left out: by the cell")
+  master->add_option("--dmin", words->settings.smallest_spacing, "smallest spacing, angstroms; default: by the cell")
       ->check(number_from(0.2, 5));
-  master->add_option("--beams", words->settings.beams, "of each direction; left out: by the cell")
+  master->add_option("--beams", words->settings.beams, "of each direction; default: by the cell")
       ->check(whole_from(2, 1000));
   master->add_option("--coupling", words->rule, "STRONG,WEAK,LISTED in place of --beams, as 4,8,50")
       ->delimiter(',')
@@ -175,7 +175,7 @@ void add_master_command(CLI::App& app, int& status) {
   master->add_flag("--png", words->png, "the stereographic picture beside it, of both halves where they differ");
   master->add_flag("!--no-check", words->check, "do not compare a sample with more beams and finer spacings");
   master->add_option("-j,--threads", words->settings.threads, "0: one for each core")->check(whole_from(0, 4096));
-  master->add_flag("-q,--quiet", words->quiet, "nothing but failures");
+  master->add_flag("-q,--quiet", words->quiet, "print only failures");
   words->settings.threads = 0;
   master->callback([words, &status] { status = run(*words); });
 }

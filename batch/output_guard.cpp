@@ -58,14 +58,14 @@ void check_folder(const std::string& file, MissingFolder missing) {
   if (missing == MissingFolder::is_made && !fs::exists(folder, error) && fs::is_directory(folder_of(folder), error)) {
     return;
   }
-  throw RunFailure("can't write " + file + ": there is no folder " + folder.string());
+  throw RunFailure("cannot write " + file + ": there is no folder " + folder.string());
 }
 
 void make_folder_of(const std::string& file) {
   std::error_code error;
   const fs::path folder = folder_of(file);
   fs::create_directory(folder, error);
-  if (error) throw RunFailure("can't make the folder " + folder.string() + ": " + error.message());
+  if (error) throw RunFailure("cannot make the folder " + folder.string() + ": " + error.message());
 }
 
 }  // namespace zol

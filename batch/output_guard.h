@@ -23,7 +23,7 @@ void check_output(const std::string& output, const std::vector<std::string>& fil
 enum class MissingFolder { fails, is_made };
 /// @throws RunFailure  there is no folder to write the file in, or to make its folder in
 void check_folder(const std::string& file, MissingFolder missing = MissingFolder::fails);
-/// Makes the folder of a file where there is none. @throws RunFailure  it can't be made
+/// Makes the folder of a file where there is none. @throws RunFailure  it cannot be made
 void make_folder_of(const std::string& file);
 
 }  // namespace zol

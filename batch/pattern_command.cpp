@@ -92,7 +92,7 @@ void run(const PatternWords& words) {
   check_figure_path("-o", words.output);
   check_output(words.output, {words.file});
   const auto axis = numbers_of<3>("--axis", words.axis);
-  if (axis == std::array<double, 3>{}) throw CLI::ValidationError("--axis", "0,0,0 is no direction");
+  if (axis == std::array<double, 3>{}) throw CLI::ValidationError("--axis", "0,0,0 is not a direction");
   BatchProgram program;
   const bool spots = words.kind == "spots" || words.kind == "fiber";
   program.choose_radiation(!words.radiation.empty() ? words.radiation : spots ? "200kV" : "20kV");
@@ -120,14 +120,14 @@ void add_pattern_command(CLI::App& app) {
       ->check(CLI::IsMember({"spots", "kikuchi", "fiber", "map", "picture"}));
   pattern->add_option("-o,--output", words->output, "figure: .svg, .pdf, .png, .bmp")->required();
   pattern->add_option("--radiation", words->radiation,
-                      "electrons: 5kV, 10kV, ... 1250kV; left out: 20kV, of spots and fiber 200kV");
-  pattern->add_option("--dmin", words->dmin, "smallest spacing, angstroms; left out: 1")->check(spacing());
+                      "electrons: 5kV, 10kV, ... 1250kV; default: 20kV, of spots and fiber 200kV");
+  pattern->add_option("--dmin", words->dmin, "smallest spacing, angstroms; default: 1")->check(spacing());
   pattern
       ->add_option("--area", words->area,
-                   "half the width: degrees, of spots and fiber inverse angstroms; left out: the window's")
+                   "half the width: degrees, of spots and fiber inverse angstroms; default: the window's")
       ->check(number_from(1e-3, 100));
   pattern->add_option("--bands", words->bands, "reflections of a Kikuchi pattern")->check(whole_from(1, 32767));
-  pattern->add_option("--dispersion", words->dispersion, "of a fiber, degrees; left out: 5")->check(number_from(0, 90));
+  pattern->add_option("--dispersion", words->dispersion, "of a fiber, degrees; default: 5")->check(number_from(0, 90));
   pattern->add_option("--scale", words->scale, "pixels of .png and .bmp per pixel of the window")
       ->check(number_from(0.1, 20))
       ->capture_default_str();

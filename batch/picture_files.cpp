@@ -27,7 +27,7 @@ void write_png(const QImage& image, const std::string& path) {
   QByteArray bytes;
   QBuffer buffer(&bytes);
   buffer.open(QIODevice::WriteOnly);
-  if (!image.save(&buffer, "PNG")) throw RunFailure("can't make the picture " + path);
+  if (!image.save(&buffer, "PNG")) throw RunFailure("cannot make the picture " + path);
   AtomicFile file(path);
   file.contain(bytes.toStdString());
   file.commit();

@@ -108,8 +108,9 @@ class Diagram {
 
 void check_index(const PowderWords& words) {
   if (!words.index) return;
-  if (words.files.size() > 1) throw CLI::ValidationError("--index", "the peaks of several crystals bear no indices");
-  if (of_numbers(words.output)) throw CLI::ValidationError("--index", "numbers bear no indices: -o is to be a figure");
+  if (words.files.size() > 1) throw CLI::ValidationError("--index", "only peaks of one crystal can have indices");
+  if (of_numbers(words.output))
+    throw CLI::ValidationError("--index", "numbers have no indices: the file of -o must be a figure");
 }
 
 void calculate_powder(BatchProgram& program, const PowderWords& words) {
@@ -219,7 +220,7 @@ void add_words(CLI::App& command, PowderWords& words) {
   command.add_option("--radiation", words.radiation, "CuKa, MoKa, or electrons: 5kV, 10kV, ... 1250kV")
       ->capture_default_str();
   command.add_option("--dmin", words.dmin, "smallest spacing, angstroms")->check(spacing())->capture_default_str();
-  command.add_option("--cells", words.cells, "size of the crystallites in cells along each axis; left out: 10000")
+  command.add_option("--cells", words.cells, "size of the crystallites in cells along each axis; default: 10000")
       ->check(number_from(1, 1e6));
   command.add_flag("--index", words.index, "h k l at the peaks of a figure of one crystal");
   command.add_option("--scale", words.scale, "pixels of .png and .bmp per pixel of the window")
@@ -235,13 +236,13 @@ void add_powder_command(CLI::App& app) {
   CLI::App* powder = app.add_subcommand("powder", "the X-ray powder diagram of one or more crystals");
   powder->footer("Example:\n  zol-batch powder quartz.cif calcite.cif --from 15 --to 70 -o mixture.svg");
   add_words(*powder, *words);
-  powder->add_option("--from", words->from, "2-theta, degrees; left out: 0")->check(number_from(0, 180));
-  powder->add_option("--to", words->to, "2-theta, degrees; left out: that of --dmin")->check(number_from(0, 180));
-  powder->add_option("--step", words->step, "between numbers of .xy, degrees; left out: a thousandth of the range")
+  powder->add_option("--from", words->from, "2-theta, degrees; default: 0")->check(number_from(0, 180));
+  powder->add_option("--to", words->to, "2-theta, degrees; default: that of --dmin")->check(number_from(0, 180));
+  powder->add_option("--step", words->step, "between numbers of .xy, degrees; default: a thousandth of the range")
       ->check(number_from(1e-4, 10));
-  powder->add_option("--width", words->width, "full width at half maximum, degrees; left out: 0.2")
+  powder->add_option("--width", words->width, "full width at half maximum, degrees; default: 0.2")
       ->check(number_from(1e-4, 20));
-  powder->add_option("--gauss", words->gauss, "Gaussian share of a line, per cent; left out: 50")
+  powder->add_option("--gauss", words->gauss, "Gaussian share of a line, per cent; default: 50")
       ->check(number_from(0, 100));
   powder->callback([words] { run_powder(*words); });
 }
@@ -252,11 +253,11 @@ void add_rings_command(CLI::App& app) {
   CLI::App* rings = app.add_subcommand("rings", "the Debye rings of electrons, or their profile");
   rings->footer("Example:\n  zol-batch rings gold.cif --radiation 200kV --centred -o rings.png");
   add_words(*rings, *words);
-  rings->add_option("--draw", words->draw, "rings or profile; left out: rings, of several crystals the profile")
+  rings->add_option("--draw", words->draw, "rings or profile; default: rings, of several crystals the profile")
       ->check(CLI::IsMember({"rings", "profile"}));
-  rings->add_option("--to", words->to, "end of 1/d, inverse angstroms; left out: that of --dmin")
+  rings->add_option("--to", words->to, "end of 1/d, inverse angstroms; default: that of --dmin")
       ->check(number_from(1e-3, 100));
-  rings->add_option("--width", words->width, "full width at half maximum, inverse angstroms; left out: 0.003")
+  rings->add_option("--width", words->width, "full width at half maximum, inverse angstroms; default: 0.003")
       ->check(number_from(1e-5, 1));
   rings->add_flag("--roots", words->roots, "square roots of the intensities");
   rings->add_flag("--centred", words->centred, "the beam in the middle of the picture");

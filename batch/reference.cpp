@@ -9,7 +9,7 @@
 namespace zol {
 namespace {
 
-constexpr auto statuses = "0 done, 1 a failure, 2 words that can't be read, 3 stopped by a signal.";
+constexpr auto statuses = "0 done, 1 a failure, 2 words that cannot be read, 3 stopped by a signal.";
 
 /// The value of an option as its choices, or by its kind.
 std::string value_of(const WordOption& option, const char* between) {
@@ -114,7 +114,7 @@ std::string reference_page(const std::vector<WordCommand>& commands) {
       "# Commands of zol-batch\n\n"
       "Made from the words of the program by `zol-batch --write-reference FOLDER`. [zol-batch](batch.md) "
       "shows what to do with them.\n"
-      "An option that stands once for each may be repeated. Status: " +
+      "An option with \"once for each\" may be repeated. Status: " +
       std::string(statuses) + "\n";
   for (const auto& command : commands) {
     page += "\n## " + command.name + "\n\n" + markdown_text(command.description) + ":\n\n    " + command.example +

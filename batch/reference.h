@@ -8,7 +8,7 @@ namespace zol {
 
 /// Writes into a folder: zol-batch.1 and a page zol-batch-COMMAND.1 of each command; the completions zol-batch.bash,
 /// _zol-batch (zsh) and zol-batch.fish; batch-reference.md.
-/// @throws RunFailure  a file can't be written
+/// @throws RunFailure  a file cannot be written
 void write_reference(const CLI::App& app, const std::string& folder);
 
 }  // namespace zol

@@ -91,7 +91,7 @@ void read_words(CLI::App& command, const std::string& path) {
   try {
     all = Json::parse(text);
   } catch (const Json::parse_error& error) {
-    throw RunFailure(path + ", " + place_of(error, text) + ": this is no JSON");
+    throw RunFailure(path + ", " + place_of(error, text) + ": this is not JSON");
   }
   if (!all.is_object()) throw RunFailure(path + ": expected are names and values between { and }");
   for (const auto& [name, value] : all.items()) {
@@ -99,14 +99,14 @@ void read_words(CLI::App& command, const std::string& path) {
       return RunFailure(path + ", line " + std::to_string(line_of(text, key)) + ": \"" + key + "\" " + what);
     };
     CLI::Option* option = find_option(command, name);
-    if (option == nullptr) throw failure("is no option of zol-batch " + command.get_name());
+    if (option == nullptr) throw failure("is not an option of zol-batch " + command.get_name());
     const std::string wrong = take_value(*option, value);
     if (!wrong.empty()) throw failure(wrong);
     if (option->count() == 0 || option->get_callback_run()) continue;
     try {
       option->run_callback();
     } catch (const CLI::ParseError& error) {
-      throw failure(std::string("can't be taken: ") + error.what());
+      throw failure(std::string("cannot be taken: ") + error.what());
     }
   }
 }
@@ -120,9 +120,9 @@ void add_settings_words(CLI::App& command, std::string& read_from, std::string& 
             read_from = path;
             read_words(command, path);
           },
-          "JSON with the same names, for what is not told here")
+          "JSON with the same names, for options that are not given here")
       ->group(group);
-  command.add_option("--write-settings", write_to, "where all words are written, to repeat the run by --settings")
+  command.add_option("--write-settings", write_to, "file for all options of this run, to repeat it with --settings")
       ->group(group);
 }
 

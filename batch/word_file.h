@@ -15,7 +15,7 @@ void add_settings_words(CLI::App& command, std::string& read_from, std::string& 
 [[nodiscard]] std::string words_text(const CLI::App& command, const std::vector<std::string>& left_out);
 
 /// Tells the command what a file says, where its command line is silent.
-/// @throws RunFailure  it can't be read, or has a name or value that the command does not know; the message tells the
+/// @throws RunFailure  it cannot be read, or has a name or value that the command does not know; the message tells the
 ///                     line
 void read_words(CLI::App& command, const std::string& path);
 

@@ -6,7 +6,11 @@ install(TARGETS zol zol-batch zol-script RUNTIME DESTINATION ${CMAKE_INSTALL_BIN
 install(DIRECTORY data/ DESTINATION ${CMAKE_INSTALL_DATADIR}/zol)
 install(FILES packaging/zol.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES packaging/io.github.zol.mime.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages RENAME io.github.zol.xml)
-install(FILES packaging/io.github.zol.metainfo.xml DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+set(ZOL_HOMEPAGE "" CACHE STRING "Address of the project, for metainfo and package; without one they name none")
+set(ZOL_SCREENSHOTS "" CACHE STRING "Address of the folder docs/images; empty: docs/images below ZOL_HOMEPAGE")
+set(metainfo ${CMAKE_BINARY_DIR}/io.github.zol.metainfo.xml)
+include(packaging/metainfo.cmake)
+install(FILES ${metainfo} DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES shell/desktop/images/zol.svg DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES packaging/zol.1 packaging/zol-script.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 # Those of zol-batch are made with it.
@@ -31,14 +35,18 @@ install(CODE "file(CREATE_LINK ../../zol \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX
 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_VENDOR "ZOL developers")
-set(CPACK_PACKAGE_CONTACT "ZOL developers <zol@example.org>")
+# No mail reaches a host below .invalid (RFC 2606): whoever publishes the package gives an address.
+set(ZOL_DEBIAN_MAINTAINER "ZOL developers <no-address@zol.invalid>" CACHE STRING
+  "Name <address> of who publishes the Debian package")
+set(CPACK_PACKAGE_CONTACT "${ZOL_DEBIAN_MAINTAINER}")
+set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "${ZOL_HOMEPAGE}")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "reflection lists and diffraction patterns of a crystal")
 set(CPACK_PACKAGE_DESCRIPTION
 "A workbench for crystallographers and electron microscopists. It holds one
 crystal, computes its reflections with structure factors for X-rays or
 electrons, and draws powder diagrams, Debye rings, spot, fiber texture and
-Kikuchi patterns of it. From bands picked on a measured Kikuchi pattern it
-finds the orientation of the crystal.")
+Kikuchi patterns of it. It also finds the orientation of a crystal from a
+measured Kikuchi pattern (EBSD), and indexes whole scans.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS ${CMAKE_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS})
 set(CPACK_STRIP_FILES ON)

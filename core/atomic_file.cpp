@@ -58,7 +58,7 @@ bool copy_attributes(const std::string& from, int to) {
   return true;
 }
 
-/// Gives owner, attributes and permissions of the old file to the new one. @returns false when that can't be
+/// Gives owner, attributes and permissions of the old file to the new one. @returns false where it fails
 bool takes_over(const struct stat& old, const std::string& path, int descriptor) {
   struct stat made {};
   if (fstat(descriptor, &made) != 0) return false;
@@ -141,7 +141,7 @@ AtomicFile::~AtomicFile() {
   if (in_place_ >= 0) close(in_place_);
 }
 
-void AtomicFile::fail(const std::string& why) const { throw RunFailure("can't write " + path_ + ": " + why); }
+void AtomicFile::fail(const std::string& why) const { throw RunFailure("cannot write " + path_ + ": " + why); }
 void AtomicFile::fail(int reason) const { fail(std::strerror(reason)); }
 
 void AtomicFile::begin_temporary() { temporary_.emplace(folder_part(target_), Temporary::Kind::file); }

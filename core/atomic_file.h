@@ -31,7 +31,7 @@ class AtomicFile {
   void write(std::string_view text) { text_ += text; }
   /// All of the file.
   void contain(std::string text) { text_ = std::move(text); }
-  /// Takes what was written so far out of memory, where a file stands beside. @throws RunFailure  it can't be written
+  /// Takes what was written so far out of memory, where a file stands beside. @throws RunFailure  it cannot be written
   void flush();
   /// Renames the file once all of it is on the disk, so that even a crash of the machine leaves either the old file or
   /// the new one.

@@ -36,13 +36,13 @@ const char* other_kind(mode_t mode) {
 
 void check_kind(const std::string& path, const struct stat& file) {
   if (const std::string kind = other_kind(file.st_mode); !kind.empty()) {
-    throw RunFailure("can't read " + path + ": it is " + kind + ", not a file");
+    throw RunFailure("cannot read " + path + ": it is " + kind + ", not a file");
   }
 }
 
 void check_size(const std::string& path, std::uintmax_t size, std::size_t most_bytes) {
   if (size <= most_bytes) return;
-  throw RunFailure("can't read " + path + ": it has " + std::to_string(size) + " bytes or more, at most " +
+  throw RunFailure("cannot read " + path + ": it has " + std::to_string(size) + " bytes or more, at most " +
                    std::to_string(most_bytes) + " are taken");
 }
 
@@ -52,8 +52,8 @@ std::string read_bytes(const std::string& path, std::size_t most_bytes, bool cut
   // Looked at before it is opened, since a device may start by that, and once more, for it may be another file by then.
   if (stat(path.c_str(), &file) == 0) check_kind(path, file);
   const OpenFile open_file(open(path.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-  if (open_file.descriptor < 0) throw RunFailure("can't open " + path + ": " + std::strerror(errno));
-  if (fstat(open_file.descriptor, &file) != 0) throw RunFailure("can't read " + path + ": " + std::strerror(errno));
+  if (open_file.descriptor < 0) throw RunFailure("cannot open " + path + ": " + std::strerror(errno));
+  if (fstat(open_file.descriptor, &file) != 0) throw RunFailure("cannot read " + path + ": " + std::strerror(errno));
   check_kind(path, file);
   if (!cut) check_size(path, static_cast<std::uintmax_t>(file.st_size), most_bytes);
 
@@ -67,7 +67,7 @@ std::string read_bytes(const std::string& path, std::size_t most_bytes, bool cut
     if (length == text.size()) text.resize(length + std::max(length, least_room));
     const ssize_t count = read(open_file.descriptor, text.data() + length, text.size() - length);
     if (count < 0 && errno == EINTR) continue;
-    if (count < 0) throw RunFailure("can't read " + path + ": " + std::strerror(errno));
+    if (count < 0) throw RunFailure("cannot read " + path + ": " + std::strerror(errno));
     if (count == 0) break;
     length += static_cast<std::size_t>(count);
     if (!cut) check_size(path, length, most_bytes);

@@ -1,4 +1,4 @@
-// Work of a library that can't be asked to stop: it runs on a thread of its own while the task is asked.
+// Work of a library that cannot be asked to stop: it runs on a thread of its own while the task is asked.
 #pragma once
 
 #include <chrono>

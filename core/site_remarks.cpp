@@ -69,7 +69,7 @@ std::vector<std::string> site_remarks(const CrystalState& state) {
   if (state.NAtom > 0 && state.SGNumber == 1)
     remarks.emplace_back("P 1 has no symmetry operators: only the sites fill the cell");
   if (state.NAtom > 0 && !state.SGFile.empty() && (state.SGNumber < 1 || state.SGNumber > max_space_group_number)) {
-    remarks.push_back("group " + plain_text(state.SGNumber) + " has no operators: those of the group before stay");
+    remarks.push_back("group " + plain_text(state.SGNumber) + " has no operators: those of the previous group stay");
   }
   return remarks;
 }

@@ -20,7 +20,7 @@ class MasterCache {
       : folder_(std::move(folder)), most_bytes_(most_bytes) {}
 
   /// By crystal, voltages and settings, threads aside; the same values whether made or read. One that is damaged or
-  /// that of something else is made anew; what can't be kept does no harm.
+  /// that of something else is made anew; what cannot be kept does no harm.
   /// @throws RunFailure  as master_pattern
   [[nodiscard]] MasterPattern get(const DynamicCrystal& crystal, const MasterSettings& settings, Task& task) const;
 

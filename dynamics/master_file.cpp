@@ -76,7 +76,7 @@ std::vector<std::size_t> ascending(const std::vector<double>& kilovolts) {
 }
 
 [[noreturn]] void fail(const std::string& path, const std::string& why) {
-  throw RunFailure("can't read the master pattern " + path + ": " + why);
+  throw RunFailure("cannot read the master pattern " + path + ": " + why);
 }
 
 /// Sites summed, of one voltage.
@@ -96,7 +96,7 @@ std::vector<float> read_half(const Hdf5File& file, const std::string& name, std:
     for (std::size_t i = 0; i < sum.size(); ++i) sum[i] += all[voltage * side * side + i];
   }
   if (!std::all_of(sum.begin(), sum.end(), [](float value) { return std::isfinite(value); })) {
-    fail(file.path(), place + " holds what is no number");
+    fail(file.path(), place + " holds something that is not a number");
   }
   return sum;
 }
@@ -189,7 +189,7 @@ MasterPattern read_master(const std::string& path) {
     fail(path, "mLPNH has too many voltages or sites, or none");
   }
   const auto kilovolts = file.numbers(patterns_group + "EkeVs");
-  if (kilovolts.size() != voltages) fail(path, "EkeVs does not tell as many voltages as mLPNH has");
+  if (kilovolts.size() != voltages) fail(path, "the voltages in EkeVs are not as many as in mLPNH");
   const auto highest =
       static_cast<std::size_t>(std::max_element(kilovolts.begin(), kilovolts.end()) - kilovolts.begin());
 

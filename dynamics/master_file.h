@@ -10,7 +10,7 @@ namespace zol {
 /// EMData/EBSDmaster: mLPNH and mLPSH (sites x voltages x n x n, square Lambert grid), masterSPNH and masterSPSH
 /// (voltages x n x n, stereographic), EkeVs; CrystalData in nanometres; the settings under ZOL. Written beside its
 /// place first.
-/// @throws RunFailure  it can't be written
+/// @throws RunFailure  it cannot be written
 void write_master(const MasterPattern& master, const std::string& path);
 
 /// The highest voltage of a file; sites are summed. Crystal and settings are those that the file tells.

@@ -13,7 +13,7 @@ namespace zol {
 /// One voltage, all cores, the rest as it is left out.
 [[nodiscard]] MasterSettings usual_master_settings(double kilovolt);
 
-/// From the user's cache, or made and kept there. A cache that is full, damaged or can't be written does no harm.
+/// From the user's cache, or made and kept there. A cache that is full, damaged or cannot be written does no harm.
 /// @throws RunFailure  as master_pattern
 [[nodiscard]] MasterPattern kept_master(const DynamicCrystal& crystal, const MasterSettings& settings, Task& task);
 

@@ -76,7 +76,7 @@ void bound_answer(std::string& answer) {
   }
 }
 
-/// No words for a line that can't be read.
+/// No words for a line that cannot be read.
 std::vector<std::string> words_of(const std::string& line) {
   try {
     return split_words(line);

@@ -48,7 +48,7 @@ std::vector<std::string> raw_names(std::int64_t file, const std::string& group) 
 }  // namespace
 
 Hdf5File::Hdf5File(const std::string& path) : path_(path), file_(file_handle(path)) {
-  if (!file_) throw RunFailure("can't read " + path + ": it is no HDF5 file, or a damaged one");
+  if (!file_) throw RunFailure("cannot read " + path + ": it is not an HDF5 file, or it is damaged");
 }
 
 std::string Hdf5File::real_path(const std::string& place) const {

@@ -31,10 +31,10 @@ class Hdf5Handle {
   Close close_;
 };
 
-/// An open file. Paths are as "Scan 1/EBSD/Header/n_rows"; what can't be read is none.
+/// An open file. Paths are as "Scan 1/EBSD/Header/n_rows"; what cannot be read is none.
 class Hdf5File {
  public:
-  /// @throws RunFailure  it is no HDF5 file, or can't be opened
+  /// @throws RunFailure  it is no HDF5 file, or cannot be opened
   explicit Hdf5File(const std::string& path);
 
   [[nodiscard]] const std::string& path() const { return path_; }
@@ -51,7 +51,7 @@ class Hdf5File {
   /// The first of them.
   [[nodiscard]] std::optional<double> number(const std::string& dataset) const;
   [[nodiscard]] std::string text(const std::string& dataset) const;
-  /// Entries of the first side, as grey values. @returns false where they can't be read
+  /// Entries of the first side, as grey values. @returns false where they cannot be read
   [[nodiscard]] bool read_entries(const std::string& dataset, std::uint64_t first, std::uint64_t count,
                                   std::span<float> values) const;
 

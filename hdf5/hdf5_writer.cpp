@@ -86,7 +86,7 @@ void write_hdf5(const std::string& path, const std::function<void(Hdf5Writer&)>&
     write(out);
     bytes = out.bytes();
   }
-  if (!bytes) throw RunFailure("can't write " + path);
+  if (!bytes) throw RunFailure("cannot write " + path);
   file.contain(std::move(*bytes));
   file.commit();
 }

@@ -54,7 +54,7 @@ class Hdf5Writer {
 };
 
 /// The file appears as a whole or not at all.
-/// @throws RunFailure  it can't be written
+/// @throws RunFailure  it cannot be written
 void write_hdf5(const std::string& path, const std::function<void(Hdf5Writer&)>& write);
 
 }  // namespace zol

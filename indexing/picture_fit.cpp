@@ -303,6 +303,9 @@ PictureFit PictureFitter::fit(const KinematicSphere& sphere, const Rotation& sta
   PictureFit best{start, centre, correlate(), 0, {}};
   Normal normal;
   Parameters right;
+  // Rotations do little to each other, so that what overshoots is halved. The centre does nearly what rotations do:
+  // there the damping has to be felt for.
+  const double first_damping = settings.centre ? 1e-2 : 1;
   double damping = settings.centre ? 1e-3 : 0;
   bool fresh = true;  // whether the sums are to be made anew
   while (best.correlation > 0 && best.steps < settings.most_steps) {
@@ -336,7 +339,7 @@ PictureFit PictureFitter::fit(const KinematicSphere& sphere, const Rotation& sta
       best.correlation = found;
       damping = damping > 1e-4 ? damping / 5 : 0;
     } else {
-      damping = std::max(damping * 10, 1e-2);
+      damping = std::max(damping * 10, first_damping);
     }
     if (size < settings.least_turn_deg || damping > most_damping) break;
   }

@@ -20,7 +20,7 @@ double interference(double cells, double t) {
 std::vector<double> along_axis(const InterferenceGrid& grid, std::size_t axis, double cells) {
   const int steps = grid.steps[axis].value();
   if (steps < 0) {
-    throw RunFailure("the interference function can't have " + std::to_string(steps) + " steps along an axis");
+    throw RunFailure("the interference function cannot have " + std::to_string(steps) + " steps along an axis");
   }
   std::vector<double> values;
   for (int i = 0; i <= steps; ++i) values.push_back(interference(cells, i * double{grid.width[axis]}));

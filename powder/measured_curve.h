@@ -38,7 +38,7 @@ struct LineList {
 /// Reads a file by its ending: .xrdml and .raw, .rd, .udf, .uxd, .cpi as those of the makers of diffractometers, all
 /// others as columns of numbers: x, intensity and, in a file .xye, the standard deviation. x has to rise, or to fall
 /// throughout.
-/// @throws RunFailure  the file can't be read, or is none; it names file, line and what was expected
+/// @throws RunFailure  the file cannot be read, or is none; it names file, line and what was expected
 [[nodiscard]] MeasuredCurve read_measured_curve(const std::string& path, Task& task);
 
 /// Only the columns, of a text. @param file  its name, which may end in .xye

@@ -1,6 +1,7 @@
 #include "powder/reflection_lines.h"
 
 #include <algorithm>
+#include <cmath>
 #include <tuple>
 #include <vector>
 
@@ -9,16 +10,22 @@ namespace {
 
 /// Spacings that agree to this part are one line; those of equivalent reflections differ by the rounding of the cell.
 constexpr double same_spacing = 2e-5;
-/// Intensities of equivalent reflections agree to this part.
-constexpr double same_intensity = 1e-4;
+/// Structure factors of equivalent reflections agree to these parts of themselves and of the strongest one: the phases
+/// of atoms are rounded, which shows where strong contributions cancel.
+constexpr double same_factor = 5e-5;
+constexpr double rounding_of_factors = 2e-5;
 /// Of the strongest line; what is weaker is extinct, and its intensity the rounding of structure factors.
 constexpr double least_intensity = 1e-6;
 
 int negatives(const ReflectionLine& line) { return int{line.h < 0} + int{line.k < 0} + int{line.l < 0}; }
 
-bool leads(const ReflectionLine& a, const ReflectionLine& b) {
-  if (a.intensity > b.intensity * (1 + same_intensity)) return true;
-  if (b.intensity > a.intensity * (1 + same_intensity)) return false;
+/// @param rounding  of the square roots of intensities
+bool leads(const ReflectionLine& a, const ReflectionLine& b, double rounding) {
+  const auto stronger = [rounding](double x, double y) {
+    return std::sqrt(x) > std::sqrt(y) * (1 + same_factor) + rounding;
+  };
+  if (stronger(a.intensity, b.intensity)) return true;
+  if (stronger(b.intensity, a.intensity)) return false;
   if (negatives(a) != negatives(b)) return negatives(a) < negatives(b);
   return std::tie(a.h, a.k, a.l) > std::tie(b.h, b.k, b.l);
 }
@@ -27,11 +34,14 @@ bool leads(const ReflectionLine& a, const ReflectionLine& b) {
 
 SharedVector<ReflectionLine> reflection_lines(const CrystalState& state) {
   std::vector<ReflectionLine> all;
+  double largest = 0;
   for (int i = 1; i <= state.RefCount.value(); ++i) {
     if (!(state.RefI(i) > 0)) continue;
     all.push_back({2.0 * double{state.RefS(i)}, state.RefI(i), state.RefH(i).value(), state.RefK(i).value(),
                    state.RefL(i).value()});
+    largest = std::max(largest, all.back().intensity);
   }
+  const double rounding = rounding_of_factors * std::sqrt(largest);
   std::stable_sort(all.begin(), all.end(),
                    [](const ReflectionLine& a, const ReflectionLine& b) { return a.d_star < b.d_star; });
   std::vector<ReflectionLine> gathered;
@@ -42,7 +52,7 @@ SharedVector<ReflectionLine> reflection_lines(const CrystalState& state) {
     const double end = all[i].d_star * (1 + same_spacing);
     for (; i < all.size() && all[i].d_star <= end; ++i) {
       sum += all[i].intensity;
-      if (leads(all[i], leader)) leader = all[i];
+      if (leads(all[i], leader, rounding)) leader = all[i];
     }
     leader.intensity = sum;
     strongest = std::max(strongest, sum);

@@ -46,7 +46,7 @@ void check_bound(const CrystalState& state, const std::array<Integer, 3>& limits
                          Edge{"b", "beta", state.BStar, state.CellB, state.CellBeta},
                          Edge{"c", "gamma", state.CStar, state.CellC, state.CellGamma}};
   std::ostringstream message;
-  message << "the reflection list can't have " << plain_text(bound) << " entries: cell constants give";
+  message << "the reflection list cannot have " << plain_text(bound) << " entries: cell constants give";
   for (std::size_t axis = 0; axis < 3; ++axis) {
     if (limits[axis] >= 0) continue;
     const auto& [edge, angle, reciprocal, length, angle_deg] = edges[axis];
@@ -217,7 +217,7 @@ void sort_list(ReflectionList& list, Task& task) {
 }
 
 void compute_list(const CrystalState& state, const Radiation& radiation, ReflectionList& list, Task& task) {
-  // Observed reflections left from another crystal don't count beside atoms, however absurd they are.
+  // Observed reflections left from another crystal do not count beside atoms, however absurd they are.
   const bool observed_count = state.NAtom <= 0 && list.count > 0;
   const auto observed = observed_count ? ObservedReflections(state) : ObservedReflections();
   const ScatteringCell atoms(state, radiation);

@@ -13,11 +13,11 @@ namespace zol {
 
 BinaryFile::BinaryFile(std::string path) : path_(std::move(path)) {
   descriptor_ = open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
-  if (descriptor_ < 0) throw RunFailure("can't open " + path_ + ": " + std::strerror(errno));
+  if (descriptor_ < 0) throw RunFailure("cannot open " + path_ + ": " + std::strerror(errno));
   struct stat file {};
   if (fstat(descriptor_, &file) != 0 || !S_ISREG(file.st_mode)) {
     close(descriptor_);
-    throw RunFailure("can't read " + path_ + ": it is not a file");
+    throw RunFailure("cannot read " + path_ + ": it is not a file");
   }
   size_ = static_cast<std::uint64_t>(file.st_size);
 }
@@ -30,7 +30,7 @@ bool BinaryFile::read(std::uint64_t offset, std::span<std::byte> bytes) const {
   while (done < bytes.size()) {
     const ssize_t got = pread(descriptor_, bytes.data() + done, bytes.size() - done, static_cast<off_t>(offset + done));
     if (got < 0 && errno == EINTR) continue;
-    if (got < 0) throw RunFailure("can't read " + path_ + ": " + std::strerror(errno));
+    if (got < 0) throw RunFailure("cannot read " + path_ + ": " + std::strerror(errno));
     if (got == 0) return false;
     done += static_cast<std::size_t>(got);
   }

@@ -17,7 +17,7 @@ static_assert(std::endian::native == std::endian::little, "the files are little-
 /// A file open for reading.
 class BinaryFile {
  public:
-  /// @throws RunFailure  it can't be opened, or is no regular file
+  /// @throws RunFailure  it cannot be opened, or is no regular file
   explicit BinaryFile(std::string path);
   BinaryFile(const BinaryFile&) = delete;
   BinaryFile& operator=(const BinaryFile&) = delete;

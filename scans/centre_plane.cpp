@@ -93,7 +93,7 @@ std::optional<std::size_t> farthest(const CentrePlane& plane) {
   return found;
 }
 
-/// The centre of a point, fitted from where the indexer has it. @returns none where it can't be indexed
+/// The centre of a point, fitted from where the indexer has it. @returns none where it cannot be indexed
 std::optional<CentrePoint> fit_point(MapIndexer& indexer, int column, int row, bool with_centre,
                                      MapIndexer::Worker& worker, Task& task) {
   const auto point = indexer.grid().point(column, row);

@@ -55,7 +55,7 @@ class EdaxUp : public RawScan {
     constexpr std::uint32_t most = 1U << 20U;
     if (columns == 0 || rows == 0 || columns > most || rows > most) {
       header_.remarks.push_back("the size of the map is said to be " + std::to_string(columns) + " x " +
-                                std::to_string(rows) + ", which can't be");
+                                std::to_string(rows) + ", which is impossible");
       return;
     }
     grid.columns = static_cast<int>(columns);

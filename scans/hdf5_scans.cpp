@@ -140,7 +140,7 @@ class Hdf5Scan : public Scan {
     rows_of_patterns_ = sides.size() == 4;
     const std::uint64_t points = rows_of_patterns_ ? sides[0] * sides[1] : sides[0];
     if (points == 0 || points > most_points) {
-      throw RunFailure(file_.path() + ": " + std::to_string(points) + " patterns can't be");
+      throw RunFailure(file_.path() + " says it holds " + std::to_string(points) + " patterns, which is impossible");
     }
     header_.points = points;
     stored_ = points;
@@ -256,7 +256,7 @@ class Hdf5Scan : public Scan {
     constexpr double most = 1 << 20;
     if (!(columns >= 1 && rows >= 1 && columns <= most && rows <= most) ||
         columns * rows > 4.0 * static_cast<double>(stored_) + 16) {
-      header_.remarks.emplace_back("the places of the points can't be, they are taken in order");
+      header_.remarks.emplace_back("the places of the points are impossible, the points are taken in order");
       return;
     }
     ScanGrid grid = header_.grid.value_or(said_);
@@ -303,7 +303,7 @@ class Hdf5Scan : public Scan {
     header_.centres = {{{to_the_right ? -*x : *x, *y, *distance}, CentreConvention::Emsoft}};
     if (!told) {
       header_.remarks.emplace_back(
-          "the file tells no version of EMsoft; the centre is taken as 5 writes it, earlier ones reverse its first "
+          "the file has no version of EMsoft; the centre is taken as 5 writes it, earlier ones reverse its first "
           "number");
     }
   }

@@ -16,7 +16,7 @@ namespace zol {
 [[nodiscard]] std::string csv_text(const MapResult& map);
 
 /// Writes what the ending of the path names: .ang, .ctf, .csv, .h5, .oh5.
-/// @throws RunFailure  another ending, or it can't be written
+/// @throws RunFailure  another ending, or it cannot be written
 void write_map(const MapResult& map, const std::string& path);
 /// Whether write_map knows the ending. @throws RunFailure  it does not; the message tells those it knows
 void check_map_path(const std::string& path);

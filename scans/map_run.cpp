@@ -101,12 +101,12 @@ class PartFile {
   }
 
  private:
-  [[noreturn]] void fail() const { throw RunFailure("can't write " + path_ + ": " + std::strerror(errno)); }
+  [[noreturn]] void fail() const { throw RunFailure("cannot write " + path_ + ": " + std::strerror(errno)); }
 
   /// @returns the bytes that are good
   std::size_t take_kept(const std::string& head) {
     std::ifstream file(path_, std::ios::binary);
-    if (!file) throw RunFailure("can't open " + path_);
+    if (!file) throw RunFailure("cannot open " + path_);
     const auto size = static_cast<std::size_t>(std::filesystem::file_size(path_));
     std::string begin(head.size(), ' ');
     if (!file.read(begin.data(), static_cast<std::streamsize>(begin.size()))) return 0;

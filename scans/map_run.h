@@ -53,7 +53,7 @@ using AlongsideWork = std::function<bool(TileDesk& desk, const std::function<boo
 
 /// Results are the same for any number of threads and for a run gone on with.
 /// @returns false where it was stopped; what is finished is kept
-/// @throws RunFailure  the scan can't be read, the kept tiles are those of another run, or can't be written
+/// @throws RunFailure  the scan cannot be read, the kept tiles are those of another run, or cannot be written
 [[nodiscard]] bool run_map(MapIndexer& indexer, const ScanGrid& grid, const MapRun& run,
                            std::vector<PointResult>& points, const AlongsideWork& alongside = {});
 

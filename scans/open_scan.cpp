@@ -30,7 +30,7 @@ std::string ending_of(const std::string& path) {
 void check_pattern_size(std::int64_t width, std::int64_t height, const std::string& path) {
   if (width >= 1 && height >= 1 && width <= most_side && height <= most_side) return;
   throw RunFailure(path + ": patterns of " + std::to_string(width) + " x " + std::to_string(height) +
-                   " pixels can't be; expected are 1 to " + std::to_string(most_side));
+                   " pixels are impossible; expected are 1 to " + std::to_string(most_side));
 }
 
 std::unique_ptr<Scan> open_scan(const std::string& path, const OpenScanSettings& settings) {

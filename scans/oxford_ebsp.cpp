@@ -29,7 +29,7 @@ class OxfordEbsp : public RawScan {
     read_table(table);
     const auto known = std::find_if(places_.begin(), places_.end(), [](std::int64_t at) { return at != 0; });
     const auto found = pattern_header(static_cast<std::uint64_t>(*known));
-    if (found.compressed != 0) throw RunFailure(path + ": its patterns are compressed, which can't be read");
+    if (found.compressed != 0) throw RunFailure(path + ": its patterns are compressed, which cannot be read");
     check_pattern_size(found.columns, found.rows, path);
     header_.width = found.columns;
     header_.height = found.rows;

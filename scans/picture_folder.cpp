@@ -40,7 +40,7 @@ bool is_picture(const fs::path& path) {
 class PictureFolder : public Scan {
  public:
   PictureFolder(const std::string& path, const OpenScanSettings& settings) : read_image_(settings.read_image) {
-    if (!read_image_) throw RunFailure(path + " is a folder; pictures can't be read here");
+    if (!read_image_) throw RunFailure(path + " is a folder; pictures cannot be read here");
     list(path);
     if (files_.empty()) throw RunFailure(path + " holds no pictures (png, tif, bmp, jpg)");
     const auto known = std::find_if(files_.begin(), files_.end(), [](const auto& file) { return !file.empty(); });
@@ -76,7 +76,7 @@ class PictureFolder : public Scan {
     for (const auto& entry : fs::directory_iterator(path, error)) {
       if (entry.is_regular_file(error) && is_picture(entry.path())) files.push_back(entry.path().string());
     }
-    if (error) throw RunFailure("can't read the folder " + path + ": " + error.message());
+    if (error) throw RunFailure("cannot read the folder " + path + ": " + error.message());
     std::sort(files.begin(), files.end());
     if (!place_by_names(files)) files_ = std::move(files);
   }

@@ -84,7 +84,7 @@ class Scan {
   /// Hands the centres over; the header has none then. Those of a large map take much memory.
   [[nodiscard]] std::vector<StoredCentre> take_centres() { return std::exchange(header_.centres, {}); }
   /// Patterns first to first + count - 1, which there are.
-  /// @throws RunFailure  the file can't be read any more; a damaged or missing pattern is none
+  /// @throws RunFailure  the file cannot be read any more; a damaged or missing pattern is none
   virtual void read(std::size_t first, std::size_t count, PatternBlock& block) = 0;
 
  protected:

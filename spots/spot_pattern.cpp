@@ -117,7 +117,7 @@ void visit_reflections_on_level(const CrystalState& state, const std::function<v
 
 namespace {
 
-/// 0 where it can't be worked out: that fails later, for a spot.
+/// 0 where it cannot be worked out: that fails later, for a spot.
 double length_of_axis(const CrystalState& state) {
   try {
     return DHKLT(state, state.ZoneU, state.ZoneV, state.ZoneW);

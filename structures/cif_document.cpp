@@ -31,7 +31,7 @@ void add_column(CifDocument& document, CifBlock& block, const std::string& tag, 
   if (is_new) return;
   if (place->second.values != column.values) {
     document.notes.assume("line " + std::to_string(column.line) + ": " + tag +
-                          " is there a second time; the first one with a value is used");
+                          " occurs twice; the first one with a value is used");
   }
   if (!has_value(place->second)) place->second = std::move(column);
 }

@@ -183,14 +183,14 @@ class BlockReader {
     cell.a = cell_number({"_cell_length_a"}, 0);
     cell.b = cell_number({"_cell_length_b"}, 0);
     cell.c = cell_number({"_cell_length_c"}, 0);
-    if (cell.a <= 0) throw RunFailure("_cell_length_a is missing or no length");
+    if (cell.a <= 0) throw RunFailure("_cell_length_a is missing or is not a length");
     const bool cubic = claims.number >= 195;
     if (cell.b <= 0 || cell.c <= 0) {
-      if (claims.number < 75) throw RunFailure("_cell_length_b or _cell_length_c is missing or no length");
+      if (claims.number < 75) throw RunFailure("_cell_length_b or _cell_length_c is missing or is not a length");
       if (cell.b <= 0) cell.b = cell.a;
       if (cell.c <= 0 && cubic) cell.c = cell.a;
-      if (cell.c <= 0) throw RunFailure("_cell_length_c is missing or no length");
-      read_.notes.assume("edges that the cell lacks follow from its system");
+      if (cell.c <= 0) throw RunFailure("_cell_length_c is missing or is not a length");
+      read_.notes.assume("missing cell edges follow from the crystal system");
     }
     cell.alpha = cell_number({"_cell_angle_alpha"}, 0);
     cell.beta = cell_number({"_cell_angle_beta"}, 0);
@@ -210,7 +210,7 @@ class BlockReader {
     if (cell.alpha <= 0) cell.alpha = 90;
     if (cell.beta <= 0) cell.beta = 90;
     if (cell.gamma <= 0) cell.gamma = hexagonal ? 120 : 90;
-    read_.notes.assume("angles that the cell lacks follow from its system");
+    read_.notes.assume("missing cell angles follow from the crystal system");
   }
 
   void read_formula() {

@@ -15,7 +15,7 @@ struct Inflation {
   z_stream stream{};
   Inflation() {
     constexpr int gzip_window = 15 + 16;
-    if (inflateInit2(&stream, gzip_window) != Z_OK) throw RunFailure("it can't be unpacked");
+    if (inflateInit2(&stream, gzip_window) != Z_OK) throw RunFailure("it cannot be unpacked");
   }
   Inflation(const Inflation&) = delete;
   Inflation& operator=(const Inflation&) = delete;

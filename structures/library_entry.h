@@ -39,7 +39,7 @@ class EntryReader {
   explicit EntryReader(const SpaceGroupLibrary& groups) : groups_(groups) {}
 
   /// Fills in what the bytes of a file hold. Where a file leaves something open, the first answer is taken, as of
-  /// several crystals the first. A crystal file without atoms has a cell and a group alone. What can't be read is told
+  /// several crystals the first. A crystal file without atoms has a cell and a group alone. What cannot be read is told
   /// as fault.
   /// @param entry  with its path
   /// @throws Cancelled  the task stops

@@ -112,7 +112,7 @@ LibraryEntry entry_of(const std::vector<std::string_view>& fields) {
   return entry;
 }
 
-/// Whether it may hold something of the library. A folder that can't be looked into is none.
+/// Whether it may hold something of the library. A folder that cannot be looked into is none.
 void note_file(LibraryEntries& entries, const fs::directory_entry& file, const fs::path& folder) {
   std::error_code error;
   if (!is_crystal_name(file.path().filename().native()) || !file.is_regular_file(error)) return;
@@ -232,7 +232,7 @@ std::optional<LibraryEntries> entries_of(std::string_view text) {
 LibraryEntries files_of_library(const std::string& folder, Task& task) {
   std::error_code error;
   fs::recursive_directory_iterator files(folder, fs::directory_options::skip_permission_denied, error);
-  if (error) throw RunFailure("can't read the folder " + folder + ": " + error.message());
+  if (error) throw RunFailure("cannot read the folder " + folder + ": " + error.message());
   LibraryEntries entries;
   while (files != fs::recursive_directory_iterator()) {
     task.check();

@@ -124,7 +124,7 @@ LibraryQuery::Condition LibraryQuery::condition_of(std::string_view word) {
       return !entry.formula.empty() && entry.formula.contains(element) == wanted;
     };
   }
-  if (word[0] == '+') throw RunFailure(quoted(word) + ": an element is expected behind the sign, as in +Si");
+  if (word[0] == '+') throw RunFailure(quoted(word) + ": an element is expected after the sign, as in +Si");
   if (const auto at = word.find_first_of("=<>"); at != std::string_view::npos) {
     std::string name(word.substr(0, at));
     std::transform(name.begin(), name.end(), name.begin(), small_letter);

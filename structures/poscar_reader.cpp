@@ -6,7 +6,7 @@
 #include <cmath>
 
 #include "core/run_failure.h"
-#include "structures/contents.h"
+#include "structures/cell_vectors.h"
 #include "structures/field_numbers.h"
 #include "structures/line_format.h"
 #include "structures/structure_reading.h"
@@ -65,15 +65,18 @@ class PoscarReader {
     return v;
   }
 
+  [[nodiscard]] CartesianVector scaled(const CartesianVector& v) const {
+    return {v.x * scale_[0], v.y * scale_[1], v.z * scale_[2]};
+  }
+
   /// A negative scale is the volume of the cell.
   void read_cell() {
     const auto scales = words_at(1);
-    std::array<CartesianVector, 3> edges{};
     for (std::size_t i = 0; i < 3; ++i) {
       const auto v = vector_at(i + 2);
-      edges[i] = {v[0], v[1], v[2]};
+      vectors_.edges[i] = {v[0], v[1], v[2]};
     }
-    const double volume = dot(edges[0], cross(edges[1], edges[2]));
+    const double volume = vectors_.volume();
     const double first = number_in(scales[0], lines_[1].number, "the scale");
     if (first == 0 || volume == 0) fail_in_line(lines_[1].number, "the cell has no volume");
     scale_ = {first, first, first};
@@ -83,16 +86,8 @@ class PoscarReader {
     } else if (scales.size() >= 3) {
       for (std::size_t i = 0; i < 3; ++i) scale_[i] = number_in(scales[i], lines_[1].number, "the scale");
     }
-    for (auto& edge : edges) edge = {edge.x * scale_[0], edge.y * scale_[1], edge.z * scale_[2]};
-    edges_ = edges;
-    read_.structure.cell = {length(edges[0]),
-                            length(edges[1]),
-                            length(edges[2]),
-                            angle_deg(edges[1], edges[2]),
-                            angle_deg(edges[2], edges[0]),
-                            angle_deg(edges[0], edges[1])};
-    if (volume < 0) read_.notes.doubt("the cell vectors are left-handed; the crystal is mirrored");
-    check_cell(read_.structure.cell);
+    for (auto& edge : vectors_.edges) edge = scaled(edge);
+    read_.structure.cell = vectors_.cell(read_.notes);
   }
 
   [[nodiscard]] std::vector<int> counts_at(std::size_t line) const {
@@ -148,16 +143,13 @@ class PoscarReader {
   [[nodiscard]] DirectVector position_at(std::size_t line, bool cartesian) const {
     const auto v = vector_at(line);
     if (!cartesian) return {v[0], v[1], v[2]};
-    const CartesianVector x{v[0] * scale_[0], v[1] * scale_[1], v[2] * scale_[2]};
-    const double volume = dot(edges_[0], cross(edges_[1], edges_[2]));
-    return {dot(x, cross(edges_[1], edges_[2])) / volume, dot(x, cross(edges_[2], edges_[0])) / volume,
-            dot(x, cross(edges_[0], edges_[1])) / volume};
+    return vectors_.fractional(scaled({v[0], v[1], v[2]}));
   }
 
   std::vector<NumberedLine> lines_;
   ReadStructure read_;
   std::array<double, 3> scale_{};
-  std::array<CartesianVector, 3> edges_{};
+  CellVectors vectors_;
 };
 
 }  // namespace

@@ -91,7 +91,7 @@ void tell_crowded_sites(const Structure& structure, Task& task, Notes& notes) {
       is_first = is_first && j >= i;
     }
     if (is_first && sum > 1.02) {
-      notes.doubt("the occupancies on the place of " + structure.sites[i].label + " sum up to " + rounded(sum, 3));
+      notes.doubt("the occupancies at the place of " + structure.sites[i].label + " sum up to " + rounded(sum, 3));
     }
   }
 }

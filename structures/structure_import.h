@@ -30,7 +30,7 @@ using Import = std::variant<ImportedCrystal, Question>;
 /// @param bytes         of the file
 /// @param name          of the file without its folder
 /// @param factor_keys   of the table of scattering factors
-/// @throws RunFailure   the file can't be read, or the crystal is beyond the limits of the program; nothing is changed
+/// @throws RunFailure   the file cannot be read, or the crystal is beyond the limits of the program; nothing is changed
 [[nodiscard]] Import import_structure(std::string_view bytes, const std::string& name, const ImportAnswers& answers,
                                       const SpaceGroupLibrary& groups, const std::set<std::string>& factor_keys,
                                       Task& task);

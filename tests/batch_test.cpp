@@ -132,7 +132,7 @@ TEST_F(Batch, EndsWithTheStatusOfItsKindAndSaysWhy) {
       {"rings NaCl.cry --index -o x.svg", 2, "--draw profile"},
       {"rings NaCl.cry CopperLines.cry --draw rings -o x.svg", 2, "--draw"},
       {"pattern NaCl.cry --axis 1,1 --kind spots -o x.svg", 2, "is not 3 numbers"},
-      {"pattern NaCl.cry --axis 0,0,0 --kind map -o x.svg", 2, "0,0,0 is no direction"},
+      {"pattern NaCl.cry --axis 0,0,0 --kind map -o x.svg", 2, "0,0,0 is not a direction"},
       {"pattern NaCl.cry --axis 1,1,x --kind spots -o x.svg", 2, "1,1,x"},
       {"pattern NaCl.cry --axis 1,1,1 --kind stars -o x.svg", 2, "stars"},
       {"pattern NaCl.cry --axis 1,1,1 --kind spots -o x.xy", 2, "x.xy does not end in .svg"},
@@ -232,7 +232,7 @@ TEST_F(Batch, MapsTellWhatLiesOutsideTheRegionAndKeepWhatIsThere) {
   EXPECT_EQ(batch(map + "--check -q").out, "");
   const auto limited = run_program("(ulimit -f 1; " ZOL_BATCH " " + map + "-o limited.h5)");
   EXPECT_EQ(limited.status, 1);
-  EXPECT_NE(limited.err.find("can't write limited.h5"), std::string::npos) << limited.err;
+  EXPECT_NE(limited.err.find("cannot write limited.h5"), std::string::npos) << limited.err;
 }
 
 TEST_F(Batch, IsStoppedByASignalAndLeavesNothing) {

@@ -16,7 +16,7 @@ TEST(Bitmaps, HaveAllTheirPixels) {
   const auto seed = [](const std::string& name) { return read_file(ZOL_SOURCE_DIR "/fuzz/seeds/bitmap/" + name); };
   const auto refused = [&](const std::string& bytes, const std::string& message) {
     const auto failure = failure_of([&] { check_bitmap("a.bmp", bytes); });
-    EXPECT_TRUE(failure.starts_with("can't read a.bmp as a bitmap: " + message)) << failure;
+    EXPECT_TRUE(failure.starts_with("cannot read a.bmp as a bitmap: " + message)) << failure;
   };
   for (const auto& [name, end] :
        {std::pair{"1-bit.bmp", 74U}, {"8-bit.bmp", 130U}, {"24-bit.bmp", 102U}, {"rle.bmp", 1098U}}) {

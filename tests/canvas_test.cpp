@@ -106,7 +106,7 @@ TEST(CanvasWithoutPixels, DrawsAndTellsWhatItLacks) {
   canvas.line(1, 2, 3, 4);
   canvas.clear();
   EXPECT_EQ(failure_of([&] { (void)canvas.point(1, 1); }), "the picture Sample.Picture1 has no pixels here");
-  EXPECT_EQ(failure_of([&] { canvas.load_picture("x"); }), "can't load x: there are no pixel images here");
+  EXPECT_EQ(failure_of([&] { canvas.load_picture("x"); }), "cannot load x: there are no pixel images here");
 }
 
 TEST_F(CanvasTest, KeepsItsBackgroundPictureUnderTheDrawing) {

@@ -57,7 +57,7 @@ TEST(DataCopy, FailureNamesTheFoldersAndLeavesNothing) {
        {std::pair{"home", "share/ZOL/unreadable: No such file"}, {"file", "file/copy: Not a directory"}}) {
     const std::string copy = folder.path(home) + "/copy";
     const std::string message = failure_of([&] { update_data_copy(folder.path("share"), copy, "1"); });
-    EXPECT_TRUE(message.starts_with("can't copy the data files from " + folder.path("share") + " to " + copy + ": "))
+    EXPECT_TRUE(message.starts_with("cannot copy the data files from " + folder.path("share") + " to " + copy + ": "))
         << message;
     EXPECT_NE(message.find(reason), std::string::npos) << message;
   }

@@ -59,7 +59,7 @@ TEST(DataFolders, AreTheInstalledOnesWhereNoCopyCanBeMade) {
   places.installed_version = "2";
   fs::remove(folder.path("home/zol/copied-version"));
   fs::create_directories(folder.path("home/zol/copied-version"));
-  EXPECT_EQ(find_data_root(places).root, folder.path("home/zol/ZOL")) << "a copy that can't be renewed still serves";
+  EXPECT_EQ(find_data_root(places).root, folder.path("home/zol/ZOL")) << "a copy that cannot be renewed still serves";
   EXPECT_NE(find_data_root(places).read_only.find("it is a folder"), std::string::npos);
 }
 

@@ -60,7 +60,7 @@ class FakeSurface : public Surface {
   }
   [[nodiscard]] GreyPicture grey() const override { return {width_, height_, {}}; }
   void load(const std::string& path) override {
-    if (path != "four.bmp") throw RunFailure("can't read " + path);
+    if (path != "four.bmp") throw RunFailure("cannot read " + path);
     width_ = height_ = 2;
     for (int i = 0; i < 4; ++i) set_pixel(i % 2, i / 2, 100 + i);
   }

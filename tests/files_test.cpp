@@ -206,10 +206,10 @@ TEST(Files, ThatCantBeReadAreNamed) {
   std::ofstream(folder.path("large")).close();
   fs::resize_file(folder.path("large"), most_text_bytes + 1);
   for (const auto& [path, message] :
-       {std::pair{folder.path("none"), "can't open " + folder.path("none") + ": No such file or directory"},
+       {std::pair{folder.path("none"), "cannot open " + folder.path("none") + ": No such file or directory"},
         {folder.path(""), "it is a folder"},
         {folder.path("pipe"), "it is a pipe"},
-        {std::string("/dev/zero"), "can't read /dev/zero: it is a device"},
+        {std::string("/dev/zero"), "cannot read /dev/zero: it is a device"},
         {folder.path("large"), "it has 67108865 bytes or more, at most 67108864 are taken"}}) {
     EXPECT_TRUE(fails_with(message, [&path = path] { (void)read_file(path); })) << path;
   }

@@ -120,17 +120,15 @@ const std::vector<Row>& rows() {
        Outcome::Prints, ""},
       {silicon + "set Main1.Text15 0\n", "click Main1.Command9", "the box Dmin holds 0", Outcome::Ends},
       {silicon, "click Main1.Command15\nclick InputJCPDS.Command2\nprint Module1.NAtom",
-       "the atoms are taken away, even by a cancel there", Outcome::Prints, "0\n", ""},
+       "this removes the atoms, even if you cancel there", Outcome::Prints, "0\n", ""},
       {"", "set Main1.Text7 251", "there is no file of this space group", Outcome::Ends, "", "-"},
       {"", "set Main1.Text7 40000", "there is no such space group", Outcome::Ends, "", "-"},
       {silicon, "set Main1.Text18 40000\nclick Main1.Command6", "the box takes whole numbers up to 32767",
        Outcome::Ends, "", "-"},
       {silicon, "select Main1.Combo2 5\ncall Main1.AtomCcalc\nprint Module1.NCell",
-       "no operators can be turned to -cba: every atom falls on 0 0 0", Outcome::Prints, "1\n", "-"},
-      {"sites 200", "click Main1.Command1", "there are 200 atoms or more, for which the table has no room",
-       Outcome::Ends},
-      {"rows 200", "click Main1.Command15", "there are 200 reflections, for which the table has no room", Outcome::Ends,
-       "", ""},
+       "-cba has no operators: every atom falls on 0 0 0", Outcome::Prints, "1\n", "-"},
+      {"sites 200", "click Main1.Command1", "the table has no room for 200 atoms or more", Outcome::Ends},
+      {"rows 200", "click Main1.Command15", "the table has no room for 200 reflections", Outcome::Ends, "", ""},
       {"", "click InputAtom.Command1", "no space group has been chosen", Outcome::Ends},
       {"cell InputAtom.G 200 7\n", R"(type InputAtom.G "\r")", "this is the last cell: there is no next row",
        Outcome::Ends, "", "cell InputAtom.G 200 6\n"},
@@ -138,20 +136,20 @@ const std::vector<Row>& rows() {
       {"", "click AtomDistance.BondsAndAngles\nprint Bonds.BondList", "there are no atoms", Outcome::Prints},
       {"", "click AtomDistance.Command1\nprint AtomDistance.List1", "there are no atoms", Outcome::Prints, "",
        silicon + "set AtomDistance.Text1 3\n"},
-      {powder + "click Xd.Command2\n", "press Xd.Picture1 2 0.5", R"("Clear" has taken the curve away: "CALC" first)",
-       Outcome::Ends, "", powder},
+      {powder + "click Xd.Command2\n", "press Xd.Picture1 2 0.5",
+       R"("Clear" has removed the curve: press "CALC" first)", Outcome::Ends, "", powder},
       {powder + "set Xd.Text1 1\nset Xd.Text2 2\n", "press Xd.Picture1 4 0.5", "the curve does not reach to this place",
        Outcome::Ends, "", powder},
       {powder + "click Dring.Command2\n", "press Dring.Picture1 0.5 0.5",
-       R"("Clear" has taken the curve away: "CALC" first)", Outcome::Ends, "", powder},
+       R"("Clear" has removed the curve: press "CALC" first)", Outcome::Ends, "", powder},
       {powder + "set Xd.Text6 0\n", "click Xd.Command1", "division by zero: the crystallite size P is 0", Outcome::Ends,
        "", powder},
       {powder + "set Xd.Text3 0\n", "click Dring.Command1\nset Dring.Text3 0\nclick Dring.Command1", "",
        Outcome::Prints, "", "-"},
       {powder + "set Xd.Text1 2\nset Xd.Text2 2\n", "click Xd.Command1\nprint Xd.List1",
        "2theta.min and 2theta.max are the same", Outcome::Prints, "2-Theta   d     I/Io\n", powder},
-      {"", "click Xd.Command6", "there is no curve yet: \"CALC\" makes one", Outcome::Ends, "", powder},
-      {powder + "set Xd.Text5 0\n", R"(type Xd.Text5 "\r")", "an intensity of 0 can't be drawn at full height",
+      {"", "click Xd.Command6", "there is no curve yet: press \"CALC\" first", Outcome::Ends, "", powder},
+      {powder + "set Xd.Text5 0\n", R"(type Xd.Text5 "\r")", "an intensity of 0 cannot be drawn at full height",
        Outcome::Ends, "", powder},
       {silicon, "click Pattern.Command8", no_axis, Outcome::Ends, "", spots},
       {silicon + "set FiberTexture.Text5 0\n", "click FiberTexture.Command8", "the fiber direction H, K, L is 0 0 0",
@@ -176,7 +174,7 @@ const std::vector<Row>& rows() {
              return zoomed;
            }(),
        "click Zaxis.Command2\nclick Zaxis.Command2\nprint Zaxis.MapScale",
-       "the map can't be made larger: it would turn over", Outcome::Prints, "-.1000002\n", kikuchi},
+       "the map cannot be made larger: it would turn over", Outcome::Prints, "-.1000002\n", kikuchi},
       {silicon, "click PATTERN3.Command1\nprint PATTERN3.SolutionCount", "no lines are picked", Outcome::Ends, "",
        silicon + lines_drawn},
       {silicon + line_drawn, "click PATTERN3.Command1\nprint PATTERN3.SolutionCount", "1 of 3 lines are picked",
@@ -264,14 +262,14 @@ TEST(GuardTable, PromptsTellWhatAnAnswerDoes) {
   }
 }
 
-// A crystal saved with neither atoms nor reflections can't be loaded again.
+// A crystal saved with neither atoms nor reflections cannot be loaded again.
 TEST(GuardTable, WarnsOfAFileThatCannotBeLoaded) {
   const ScratchFolder folder;
   const std::string file = "answer " + folder.path("bare.cry") + "\n";
   GuardedProgram of;
   of.prepare("set Main1.Text1 4\n");
   EXPECT_EQ(reason_against(of.program, "click Main1.DATA_SAVE"),
-            "without atoms and reflections the file can't be loaded again");
+            "a file without atoms and reflections cannot be loaded again");
   EXPECT_EQ(of.run(file + "click Main1.DATA_SAVE"), "");
   EXPECT_NE(of.run(file + "click Main1.DATA_LOAD"), "");
 }

@@ -1,4 +1,4 @@
-// What the scripts of Pattern2, Zaxis and CameraParameters (scripts/kikuchi_window.zs, zone_map.zs, detector.zs) can't
+// What the scripts of Pattern2, Zaxis and CameraParameters (scripts/kikuchi_window.zs, zone_map.zs, detector.zs) cannot
 // show: failures, prompts, pictures, files, and which windows stand on the screen.
 #include <gtest/gtest.h>
 

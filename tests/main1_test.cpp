@@ -1,4 +1,4 @@
-// What the script of the main window (scripts/main_window.zs) can't show: failures, report files, and where Enter
+// What the script of the main window (scripts/main_window.zs) cannot show: failures, report files, and where Enter
 // leads.
 #include <gtest/gtest.h>
 

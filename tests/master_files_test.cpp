@@ -180,7 +180,7 @@ TEST(SphereView, ShowsThreefoldAxesOfACube) {
   EXPECT_GT(difference(seen(60)), .1) << "it has no sixfold one";
 }
 
-// A file where the folder would be, as a disk that can't be written.
+// A file where the folder would be, as a disk that cannot be written.
 TEST(MasterCache, DoesNoHarmWhereNothingCanBeKept) {
   const ScratchFolder folder;
   const MasterCache cache(folder.write("masters", "a file"));

@@ -199,7 +199,8 @@ TEST(Doublet, IsThatOfTheTubeOrNone) {
   EXPECT_FALSE(doublet_at(0));
 }
 
-// {210} of two intensities; what is extinct, or is not but for rounding, is no line.
+// {210} of two intensities; what is extinct, or is not but for rounding, is no line. Of two weak reflections that
+// differ by rounding the one without signs gives the name.
 TEST(ReflectionLines, GatherReflectionsOfOneSpacing) {
   auto state = with_cell({5, 5, 5, 90, 90, 90});
   set_list(state, {{0, 0, 1, 3},
@@ -209,6 +210,8 @@ TEST(ReflectionLines, GatherReflectionsOfOneSpacing) {
                    {0, 2, 0, 8e-6F},
                    {2, 1, 0, 1},
                    {1, 2, 0, 4},
+                   {2, 1, 1, .043F},
+                   {2, -1, 1, .04301F},
                    {-1, -1, 1, 2},
                    {1, -1, 1, 2},
                    {1, 1, -1, 2}});
@@ -216,7 +219,7 @@ TEST(ReflectionLines, GatherReflectionsOfOneSpacing) {
   for (const auto& line : reflection_lines(state)) {
     told += indices_text(line) + ": " + Format(1 / line.d_star, "0.000") + ' ' + plain_text(line.intensity) + '|';
   }
-  EXPECT_EQ(told, "1 0 0: 5.000 9|1 1 -1: 2.887 6|1 2 0: 2.236 5|");
+  EXPECT_EQ(told, "1 0 0: 5.000 9|1 1 -1: 2.887 6|1 2 0: 2.236 5|2 1 1: 2.041 .08601|");
 }
 
 }  // namespace

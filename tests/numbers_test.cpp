@@ -92,7 +92,7 @@ TEST(BoundedArrays, CheckEveryIndex) {
   EXPECT_EQ(table.upper_row(), -1);
 }
 
-// 8 GB free in a machine of which a control group may have 2 GB, less what it uses and can't give back.
+// 8 GB free in a machine of which a control group may have 2 GB, less what it uses and cannot give back.
 TEST(AvailableMemory, IsTheLeastOfMachineAndControlGroups) {
   constexpr std::uint64_t kb = 1024;
   constexpr std::uint64_t gb = kb * kb * kb;
@@ -222,7 +222,7 @@ TEST(PlainText, HasSevenDigitsOfASingleFifteenOfADoubleAndNoExponent) {
         Row{3.0e38F, "300000000000000000000000000000000000000"},
         Row{1.0000005F, "1"},            // 1.00000047683716, below the half
         Row{8388608.5F, "8388608"},      // an exact half goes to the even digit
-        Row{9999999.5F, "10000000"}}) {  // 9999999.5 isn't a Single: it is 10000000
+        Row{9999999.5F, "10000000"}}) {  // 9999999.5 is not a Single: it is 10000000
     EXPECT_EQ(plain_text(value), text);
   }
   EXPECT_EQ(plain_text(2.0 / 3.0), ".666666666666667");

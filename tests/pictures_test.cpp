@@ -94,7 +94,7 @@ TEST_F(Pictures, AreOfASizeThatFitsTheMemory) {
   EXPECT_EQ(canvas.stored_image().width(), 1);
   canvas.set_width(std::numeric_limits<int>::max());
   EXPECT_EQ(failure_of([this] { (void)canvas.stored_image(); }),
-            "can't make an image of 143165576 x 8192 pixels: at most 8192 x 8192 are possible");
+            "cannot make an image of 143165576 x 8192 pixels: at most 8192 x 8192 are possible");
 }
 
 TEST_F(Pictures, ExportHasTheKindThatItsNameSays) {
@@ -118,7 +118,7 @@ TEST_F(Pictures, ExportHasTheKindThatItsNameSays) {
   EXPECT_GT(qRed(image.pixel(200, 200)), 200);
   const std::pair<const char*, std::function<void()>> failures[] = {
       {"No such file", [&] { canvas.load_picture(folder.path("none.bmp")); }},
-      {"can't write", [&] { canvas.save_stored_image(folder.path("none/out.bmp")); }},
+      {"cannot write", [&] { canvas.save_stored_image(folder.path("none/out.bmp")); }},
       {"must end in .bmp, .png, .svg or .pdf", [&] { services.pictures.export_picture(canvas, "/a.b/out"); }}};
   for (const auto& [message, act] : failures) EXPECT_NE(failure_of(act).find(message), std::string::npos) << message;
 }
@@ -174,7 +174,7 @@ TEST_F(Pictures, HaveTheGreyValuesOfTheirFiles) {
     const std::string whole = folder.read(name);
     const std::string cut = folder.write("cut", whole.substr(0, whole.size() - 40));
     const auto failure = failure_of([&] { canvas.load_picture(cut); });
-    EXPECT_NE(failure.find("can't read " + cut + " as a " + kind), std::string::npos) << failure;
+    EXPECT_NE(failure.find("cannot read " + cut + " as a " + kind), std::string::npos) << failure;
     values_are(0, 0);
   }
   canvas.remove_picture();

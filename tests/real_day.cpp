@@ -101,7 +101,7 @@ void table_of_a_structure(const User& user) {
   QTest::qWait(100);  // a shortcut goes to what has the focus
   user.save("strong.csv", "strong.csv", [&rows] { QTest::keyClick(&rows, Qt::Key_S, Qt::ControlModifier); });
   QFile saved(user.file("strong.csv"));
-  expect(saved.open(QIODevice::ReadOnly), "the CSV can't be read");
+  expect(saved.open(QIODevice::ReadOnly), "the CSV cannot be read");
   const QList<QByteArray> lines = saved.readAll().trimmed().split('\n');
   expect(lines.size() == strong + 1 && lines.front().startsWith("h,k,l,") && !lines.back().contains(' '),
          "the CSV reads: " + lines.front().toStdString() + " ... " + lines.back().toStdString());

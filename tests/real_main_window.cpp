@@ -138,7 +138,7 @@ void save_table(const User& user) {
   QTest::keyClick(&rows, Qt::Key_O, Qt::ControlModifier | Qt::ShiftModifier);
   user.save("reflections", "reflections.csv", [&rows] { QTest::keyClick(&rows, Qt::Key_S, Qt::ControlModifier); });
   QFile file(user.file("reflections.csv"));
-  expect(file.open(QIODevice::ReadOnly), "the table can't be read");
+  expect(file.open(QIODevice::ReadOnly), "the table cannot be read");
   const QList<QByteArray> lines = file.readAll().trimmed().split('\n');
   expect(lines.front().startsWith("h,k,l,") && lines.front().endsWith(",sum I"), "the heads of the table are others");
   double before = 2;

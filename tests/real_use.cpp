@@ -106,7 +106,7 @@ int main(int argc, char** argv) {
   const int pictures_at = is_day ? 3 : 2;
   const std::optional<QString> pictures =
       argc == pictures_at + 1 ? std::optional(QFile::decodeName(argv[pictures_at])) : std::nullopt;
-  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // those of a desktop can't be filled in from here
+  QApplication::setAttribute(Qt::AA_DontUseNativeDialogs);  // those of a desktop cannot be filled in from here
   return zol::run_application(argc, argv, [&](zol::Desktop& desktop) {
     const zol::User user(desktop, files, pictures);
     const std::string_view mode = argc > 3 ? argv[2] : "";

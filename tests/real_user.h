@@ -135,7 +135,7 @@ class User {
 
   void click(const char* window_name, const char* button) const {
     auto& target = widget<QAbstractButton>(window_name, button);
-    expect(target.isVisible() && target.isEnabled(), std::string(button) + " can't be clicked");
+    expect(target.isVisible() && target.isEnabled(), std::string(button) + " cannot be clicked");
     QTest::mouseClick(&target, Qt::LeftButton, {}, {6, 8});
   }
   /// Opens the menu that an item stands in and clicks it; or clicks an item of the menu bar itself.
@@ -263,7 +263,7 @@ class User {
     if (!pictures_) return;
     QTest::qWait(50);
     const QString path = *pictures_ + u'/' + QString::fromLatin1(name) + QStringLiteral(".png");
-    expect(shown.grab().save(path), "a picture can't be saved");
+    expect(shown.grab().save(path), "a picture cannot be saved");
   }
   /// The same with a number beside each of these controls, from 1 on, as the guide's legends have them.
   void take_numbered_picture(const char* window_name, const char* name,
@@ -287,7 +287,7 @@ class User {
     }
     painter.end();
     const QString path = *pictures_ + u'/' + QString::fromLatin1(name) + QStringLiteral(".png");
-    expect(picture.save(path), "a picture can't be saved");
+    expect(picture.save(path), "a picture cannot be saved");
   }
   /// Lets a file fall on a window.
   void drop_file(const char* window_name, const QString& path) const {
@@ -298,7 +298,7 @@ class User {
     QDragEnterEvent over(middle.toPoint(), Qt::CopyAction, &data, Qt::LeftButton, {});
     QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, {});
     QApplication::sendEvent(&target, &over);
-    expect(over.isAccepted(), path.toStdString() + " can't be dropped");
+    expect(over.isAccepted(), path.toStdString() + " cannot be dropped");
     QApplication::sendEvent(&target, &drop);
   }
 

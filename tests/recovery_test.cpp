@@ -185,7 +185,7 @@ TEST_F(RecoveryTest, AFolderThatTakesNothingIsToldOnceAndEndsNothing) {
   run.load(nacl);
   EXPECT_TRUE(QTest::qWaitFor([&] {
     run.run([&] { run.main1().Text1.set_text(run.main1().Text1.text() + "1"); });
-    return line.currentMessage().startsWith(QStringLiteral("Your work can't be kept"));
+    return line.currentMessage().startsWith(QStringLiteral("Your work cannot be kept"));
   }));
   EXPECT_TRUE(run.failures.empty());
   dynamic_cast<QMainWindow&>(run.widget("MAIN_MENU")).statusBar()->clearMessage();
@@ -217,7 +217,7 @@ TEST_F(RecoveryTest, TheTenLatestStayAndWhatCantBeReadSaysWhy) {
 
   Session next(state);
   ASSERT_EQ(next.offers().size(), 4) << "three of them and the count of the others";
-  EXPECT_TRUE(next.offers()[0].contains(QStringLiteral(": can't be restored, it is not a file of kept work")));
+  EXPECT_TRUE(next.offers()[0].contains(QStringLiteral(": cannot be restored, it is not a file of kept work")));
   next.press("Restore");
   EXPECT_TRUE(next.offers().value(1).endsWith(QStringLiteral("damaged: its checksum is another one")));
   EXPECT_TRUE(next.failures.empty());

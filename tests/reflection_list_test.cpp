@@ -184,7 +184,7 @@ TEST(Enumeration, FailsWithoutACellAndBeyond16Bits) {
   negative.CellA = -4;
   ASSERT_TRUE(calc_cell(negative));
   EXPECT_EQ(failure_of([&] { enumerate_reflections(negative, {}); }),
-            "the reflection list can't have -4335 entries: cell constants give a* = -.25 (a is -4 angstroms, alpha 90 "
+            "the reflection list cannot have -4335 entries: cell constants give a* = -.25 (a is -4 angstroms, alpha 90 "
             "degrees)");
   auto fine = cubic("P", 1e-5F);
   EXPECT_TRUE(fails_with("does not fit an Integer", [&] { enumerate_reflections(fine, {}); }));

@@ -31,7 +31,7 @@ TEST(Remarks, StandBesideWhatIsRightByRuleAlone) {
         Remark{silicon + "set Main1.Text7 1\ncall Main1.AtomCcalc\n", "Main1.List1",
                "P 1 has no symmetry operators: only the sites fill the cell"},
         Remark{silicon + "set Main1.Text7 300\ncall Main1.AtomCcalc\n", "Main1.List1",
-               "group 300 has no operators: those of the group before stay"}}) {
+               "group 300 has no operators: those of the previous group stay"}}) {
     SCOPED_TRACE(script);
     GuardedProgram of;
     of.prepare(script);

@@ -240,7 +240,7 @@ TEST(Scans, ThatAreWrongAreRefusedWithTheReason) {
         Row{folder.write("far.ebsp", far), "outside the file", {}},
         Row{folder.path("empty.h5"), "holds no patterns", {}},
         Row{folder.write("a.txt", "text"), "not a known kind of scan", {}},
-        Row{folder.path("gone.up1"), "can't open", {}}}) {
+        Row{folder.path("gone.up1"), "cannot open", {}}}) {
     EXPECT_TRUE(fails_with(row.words, [&] { (void)open_scan(row.file, {row.size, "", false, {}}); })) << row.file;
   }
 }

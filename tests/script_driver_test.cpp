@@ -61,7 +61,7 @@ TEST(Script, TellsWhatIsWrongWithItsLine) {
         {"set Main1.Text99 1", "line 2: window Main1 has no control Text99"},
         {"set Main1.Command6 1", "line 2: Main1.Command6 is a control of another kind"},
         {"set Main1 1", "line 2: \"Main1\" is not a name of the form Window.Control"},
-        {"click Main1.Text1", "line 2: Main1.Text1 can't be clicked"},
+        {"click Main1.Text1", "line 2: Main1.Text1 cannot be clicked"},
         {"select Main1.Text1 1", "line 2: Main1.Text1 has no items"},
         {"select Main1.List3 x", "line 2: INDEX is \"x\", a whole number is expected"},
         {"select Main1.Combo1 -1", "line 2: Main1.Combo1 has no item -1, it has 15, the first is 0"},
@@ -193,7 +193,7 @@ TEST(ScriptProgram, EndsWithItsStatusAndTellsWhatIsLost) {
     std::string error;  // begins standard error
   };
   const ScratchFolder folder;
-  const std::string full = "zol-script: can't write to standard output: No space left on device\n";
+  const std::string full = "zol-script: cannot write to standard output: No space left on device\n";
   const std::string stopped = "zol-script: stopped by a signal\n";
   folder.write("a.zs", "echo a\n");
   folder.write("long.zs",
@@ -204,8 +204,8 @@ TEST(ScriptProgram, EndsWithItsStatusAndTellsWhatIsLost) {
        {Row{"echo 'click MAIN_MENU.Command5\njump' | $zol", 0, ""},
         {"$zol --help", 0, ""},
         {"$zol --version", 0, ""},
-        {"echo set Main1.Text7 260 | $zol", 1, "failure of the run: can't open "},
-        {"$zol --data /nowhere", 1, "failure of the run: can't open /nowhere/Camera_Parameters_New"},
+        {"echo set Main1.Text7 260 | $zol", 1, "failure of the run: cannot open "},
+        {"$zol --data /nowhere", 1, "failure of the run: cannot open /nowhere/Camera_Parameters_New"},
         {"echo jump | $zol", 2, "line 1: "},
         {"$zol --wrong", 2, "zol-script: unknown option"},
         {"$zol a.zs second.zs", 2, "zol-script: one script at most"},
@@ -213,17 +213,17 @@ TEST(ScriptProgram, EndsWithItsStatusAndTellsWhatIsLost) {
         {"$zol a.zs >/dev/full", 1, full},
         {"$zol --help >/dev/full", 1, full},
         {"echo 'echo a\njump' | $zol >/dev/full", 2, "line 2: unknown operation \"jump\"\n" + full},
-        {"$zol a.zs >&-", 1, "zol-script: can't write to standard output: Bad file descriptor\n"},
+        {"$zol a.zs >&-", 1, "zol-script: cannot write to standard output: Bad file descriptor\n"},
         {"{ while ! [ -e gone ]; do sleep 0.01; done; $zol a.zs; echo $? >piped; } | { exec <&-; touch gone; };"
          " while ! [ -s piped ]; do sleep 0.01; done; (exit `cat piped`)",
-         1, "zol-script: can't write to standard output: Broken pipe\n"},
+         1, "zol-script: cannot write to standard output: Broken pipe\n"},
         // Long work, then nothing but waiting for a line.
         {"timeout --preserve-status -s INT 0.3 $zol long.zs", 130, stopped},
         {"timeout --preserve-status -s TERM 0.3 $zol long.zs", 143, stopped},
         {"sleep 1 | timeout --preserve-status -s INT 0.3 $zol", 130, stopped},
-        {"$zol .", 1, "failure of the run: can't read the script after line 0: Is a directory\n"},
-        {"$zol <.", 1, "failure of the run: can't read the script after line 0: Is a directory\n"},
-        {"$zol /proc/self/mem", 1, "failure of the run: can't read the script after line 0: Input/output error\n"}}) {
+        {"$zol .", 1, "failure of the run: cannot read the script after line 0: Is a directory\n"},
+        {"$zol <.", 1, "failure of the run: cannot read the script after line 0: Is a directory\n"},
+        {"$zol /proc/self/mem", 1, "failure of the run: cannot read the script after line 0: Input/output error\n"}}) {
     const std::string line = "cd " + folder.path("") + "; zol=" ZOL_SCRIPT "; exec >out 2>err; " + command;
     EXPECT_EQ(WEXITSTATUS(std::system(line.c_str())), status) << command;  // NOLINT(cert-env33-c,concurrency-mt-unsafe)
     const std::string told = folder.read("err");

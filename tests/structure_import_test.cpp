@@ -111,7 +111,7 @@ TEST(StructureImport, MendsTheSyntaxOfCif) {
           "K4 | 225 abc | 0.50",
           {{"block", "2"}}},
          {"no atoms", "data_x\n" + cubic, "failure: no atoms: a loop with _atom_site_fract_x is expected"},
-         {"no cell", "data_x\n" + halite_atoms, "failure: _cell_length_a is missing or no length"},
+         {"no cell", "data_x\n" + halite_atoms, "failure: _cell_length_a is missing or is not a length"},
          {"a cell of words", "data_x\n_cell_length_a long\n" + halite_atoms,
           "failure: line 2: _cell_length_a is \"long\", a number is expected"}});
 }
@@ -204,7 +204,7 @@ TEST(StructureImport, TakesElementsPositionsAndDisplacementsThatAreMeant) {
         "Na | 1 abc | 0.50\nWarning: 1 atom whose element is not known left out: Xx1"},
        {"a mixed site as text", p1 + typed + "T '0.75Si + 0.25Al' 0 0 0 1\n", "Al0.25 Si0.75 | 1 abc | 0.50"},
        {"nobody there, too much there", p1 + typed + "A Na 0 0 0 0\nB K .5 .5 .5 1\nC Cl .5 .5 .5 .5\n",
-        "Cl0.5 K | 1 abc | 0.50\nWarning: the occupancies on the place of B sum up to 1.500"},
+        "Cl0.5 K | 1 abc | 0.50\nWarning: the occupancies at the place of B sum up to 1.500"},
        {"thirds with four digits", hexagonal_sites + xyz + "Zn1 0.3333 0.6667 0.25\n", "Zn2 | 194 abc | 0.50"},
        {"near an axis, not by rounding", hexagonal_sites + xyz + "Zn1 0.335 0.665 0.25\n", "Zn2 | 194 abc | 0.50"},
        {"a split site", hexagonal_sites + typed + "Zn1 Zn 0 0 0.02 0.5\n",

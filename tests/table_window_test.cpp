@@ -82,7 +82,7 @@ TEST_F(TableWindowTest, SortsFiltersCopiesAndSaves) {
       folder.read("reflections.csv").starts_with("h,k,l,s (Å⁻¹),d (Å),2theta (°),A,B,F,I\n1,0,1,0.150,3.3427,"));
   services.answers = {folder.path("none/reflections")};
   QTest::keyClick(&table, Qt::Key_S, Qt::ControlModifier);
-  EXPECT_EQ(services.messages.size(), 1U) << "a file that can't be written is told, and the program goes on";
+  EXPECT_EQ(services.messages.size(), 1U) << "a file that cannot be written is told, and the program goes on";
   EXPECT_TRUE(failures.empty());
 }
 

@@ -36,8 +36,8 @@ TEST(Phrases, FindTextsTemplatesAndParts) {
                          {"drawn", "gemalt"},
                          {"radiation", "Strahlung"},
                          {"no such file", "keine Datei"},
-                         {"can't open %1: %2", "%1 geht nicht auf: %L2"},
-                         {"can't open %1: %2 is a folder", "%1 ist im Ordner %2"},
+                         {"cannot open %1: %2", "%1 geht nicht auf: %L2"},
+                         {"cannot open %1: %2 is a folder", "%1 ist im Ordner %2"},
                          {"%1 of %2 bands", "von %2 Bändern %1"},
                          {"%1 and %2", "%L1 und %L2"},
                          {"%1 changed since", "seitdem anders: %L1"},
@@ -48,9 +48,9 @@ TEST(Phrases, FindTextsTemplatesAndParts) {
       {"Cop&y", "Drucken"},
       {"&Copy", "Kopieren"},
       {"  area(deg.) = ", "  Öffnung (°) = "},
-      {"can't open a: b.cry: no such file", "a geht nicht auf: b.cry: no such file"},
-      {"can't open A&B.cry: no such file", "A&B.cry geht nicht auf: keine Datei"},
-      {"can't open x: y is a folder", "x ist im Ordner y"},
+      {"cannot open a: b.cry: no such file", "a geht nicht auf: b.cry: no such file"},
+      {"cannot open A&B.cry: no such file", "A&B.cry geht nicht auf: keine Datei"},
+      {"cannot open x: y is a folder", "x ist im Ordner y"},
       {"3 of 12 bands", "von 12 Bändern 3"},
       {"drawn; cell and radiation changed since", "gemalt; seitdem anders: Zelle und Strahlung"},
       {"Cell. Radiation", "Zelle. Strahlung"},
@@ -322,7 +322,7 @@ TEST_F(ChosenLanguage, OfTheDesktopIsTheFirstThatIsKnown) {
 TEST_F(ChosenLanguage, TranslatesWhatIsSaidWithNames) {
   use_language(QStringLiteral("de"));
   const std::vector<std::array<const char*, 2>> cases{
-      {"can't open /tmp/Ä&B.cry: No such file or directory",
+      {"cannot open /tmp/Ä&B.cry: No such file or directory",
        "/tmp/Ä&B.cry lässt sich nicht öffnen: Datei oder Ordner nicht gefunden"},
       {"/d/x.cry, line 7: the cell edge a is \"five\", a number is expected, while Main1.DATA_LOAD was clicked",
        "/d/x.cry, Zeile 7: die Zellkante a ist \"five\", erwartet wird eine Zahl, bei: Klick auf Main1.DATA_LOAD"},

@@ -60,7 +60,7 @@ class WindowCopies : public testing::Test {
     return text;
   }
 
-  /// All that a script prints, and what it doesn't.
+  /// All that a script prints, and what it does not.
   std::map<std::string, std::string> everything() {
     std::map<std::string, std::string> shown;
     const auto add_fields = [&shown](const std::string& owner, const NamedValues& values) {

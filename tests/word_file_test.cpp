@@ -63,11 +63,11 @@ TEST(WordFile, TellsPlaceAndNameOfWhatItDoesNotKnow) {
     const char *text, *words;
   };
   for (const auto& [text, words] :
-       {Row{"{\n\"scan\": \"a\",\n\"scann\": 1}", "line 3: \"scann\" is no option of zol-batch map"},
+       {Row{"{\n\"scan\": \"a\",\n\"scann\": 1}", "line 3: \"scann\" is not an option of zol-batch map"},
         Row{R"({"settings": "b.json"})", "line 1: \"settings\" is no option"},
-        Row{"{\"count\": 99}", "not in range 3 to 40"}, Row{R"({"count": "few"})", "\"count\" can't be taken"},
+        Row{"{\"count\": 99}", "not in range 3 to 40"}, Row{R"({"count": "few"})", "\"count\" cannot be taken"},
         Row{"{\"flag\": 1}", "\"flag\" is true or false"}, Row{R"({"name": ["a", "b"]})", "\"name\" has one value"},
-        Row{"{\"name\": {}}", "\"name\" has"}, Row{"{\n\"name\": a}", "line 2, column 9: this is no JSON"},
+        Row{"{\"name\": {}}", "\"name\" has"}, Row{"{\n\"name\": a}", "line 2, column 9: this is not JSON"},
         Row{"[]", "names and values"}}) {
     Command command;
     const std::string path = folder.write("a.json", text);

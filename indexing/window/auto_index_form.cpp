@@ -76,7 +76,7 @@ ReflectorSet load_reflectors(StoreReader& in) {
     set.members.push_back(member);
   }
   for (std::size_t left = in.count(); left > 0; --left) load_matrix(in, set.symmetry.emplace_back());
-  if (!fit_together(set)) StoreReader::fail("the planes of a crystal don't fit together");
+  if (!fit_together(set)) StoreReader::fail("the planes of a crystal do not fit together");
   return set;
 }
 

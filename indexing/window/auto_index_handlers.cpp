@@ -269,7 +269,7 @@ void RefineCentre_Click(Workbench& bench, AutoIndexForm& form) {
 
 /// "bruker 0.5 0.25 0.6", for emsoft with the pixel size in micrometres behind. @throws RunFailure  it is none
 PatternCentre typed_centre(const std::string& text, PictureSize size) {
-  constexpr auto form = R"(expected are a maker and its numbers, as "bruker 0.5 0.25 0.6", or )"
+  constexpr auto form = R"(a maker and its numbers are expected, as "bruker 0.5 0.25 0.6", or )"
                         R"("emsoft 10 -20 15000 70" with the size of a pixel in micrometres)";
   std::string word;
   std::vector<std::string> words;

@@ -11,7 +11,7 @@ namespace zol {
 
 /// The present crystal and those of the list, in this order; what was made for an earlier picture is taken again. Sets
 /// the families of the form and their marks where crystal or count are new.
-/// @throws RunFailure  a crystal can't be read or has too few reflections; the message names it
+/// @throws RunFailure  a crystal cannot be read or has too few reflections; the message names it
 [[nodiscard]] std::vector<std::shared_ptr<const CrystalModel>> crystal_models(Workbench& bench, AutoIndexForm& form);
 
 struct DynamicalModels {

@@ -69,7 +69,7 @@ struct ZaxisForm : Window {
     warn({&Command3, &Check1, &Check2, &Check3, &Option1, &Option2}, undrawn);
     Command2.warn_when = [this, undrawn] {
       constexpr double least = 0.15;  // the next step of 0.1 would reach 0
-      return first_of({undrawn(), when(MapScale < least, "the map can't be made larger: it would turn over")});
+      return first_of({undrawn(), when(MapScale < least, "the map cannot be made larger: it would turn over")});
     };
     for (TextBox* limit : {&Text1, &Text2, &Text3}) whole_number(*limit);
     for (TextBox* box : {&Text1, &Text2, &Text3, &Text4, &Text5, &Text6}) {

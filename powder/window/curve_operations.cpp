@@ -21,7 +21,7 @@ std::string box_text(double value) {
   return plain_text(std::round(value * unit) / unit);
 }
 
-/// What can't be done is told and leaves all as it was.
+/// What cannot be done is told and leaves all as it was.
 template <class Action>
 void told_where_it_fails(Workbench& bench, const char* title, const Action& action) {
   try {
@@ -64,7 +64,7 @@ void fit_measured(Workbench& bench, CurveControls& curves) {
   told_where_it_fails(bench, "Fit", [&] {
     const auto curve = curves.sampled();
     if (curves.data.measured.points.empty()) throw RunFailure("there is no measured pattern");
-    if (!curve) throw RunFailure("there is no calculated curve: \"CALC\" makes one");
+    if (!curve) throw RunFailure("there is no calculated curve: press \"CALC\" first");
     constexpr double part = 0.02;  // of the range
     const double most_zero = part * (curve->to() - curve->from());
     WindowTask task(bench.services);

@@ -125,10 +125,10 @@ void DringForm::declare(const Workbench& bench) {
     return first_of({fault(seen), when(DStarMax == 0, "the end of the profile, d*-max, is 0")});
   };
   warn({&Command1, &Command6, &Command7}, unmade);
-  const auto no_curve = [this] { return when(Profile.upper() < 0, "there is no curve yet: \"CALC\" makes one"); };
+  const auto no_curve = [this] { return when(Profile.upper() < 0, "there is no curve yet: press \"CALC\" first"); };
   Command4.warn_when = no_curve;
   Picture1.warn_when = [this, no_curve] {
-    return first_of({no_curve(), when(DisplayMax == 0, R"("Clear" has taken the curve away: "CALC" first)")});
+    return first_of({no_curve(), when(DisplayMax == 0, R"("Clear" has removed the curve: press "CALC" first)")});
   };
   Picture1.warn_at = [this](double x, double /*y*/) {
     const std::string off_curve = failure_of([&] { return Profile(nearest_ring_sample(DStarMax, to_single(x))); });

@@ -95,13 +95,13 @@ void XdForm::declare(const Workbench& bench) {
     return first_of(
         {fault(seen), when(TwoThetaMax == TwoThetaMin && TwoThetaMax != 0, "2theta.min and 2theta.max are the same")});
   };
-  const auto no_curve = [this] { return when(Profile.upper() < 0, "there is no curve yet: \"CALC\" makes one"); };
+  const auto no_curve = [this] { return when(Profile.upper() < 0, "there is no curve yet: press \"CALC\" first"); };
   warn({&Command6, &Command7, &Command3}, no_curve);
   Text5.warn_when = [this, no_curve] {
-    return first_of({no_curve(), when(Val(Text5.text()) == 0, "an intensity of 0 can't be drawn at full height")});
+    return first_of({no_curve(), when(Val(Text5.text()) == 0, "an intensity of 0 cannot be drawn at full height")});
   };
   Picture1.warn_when = [this, no_curve] {
-    return first_of({no_curve(), when(PeakMax == 0, R"("Clear" has taken the curve away: "CALC" first)")});
+    return first_of({no_curve(), when(PeakMax == 0, R"("Clear" has removed the curve: press "CALC" first)")});
   };
   Picture1.warn_at = [this](double x, double /*y*/) {
     const std::string off_curve = failure_of([&] { return Profile(range().nearest(to_single(x))); });

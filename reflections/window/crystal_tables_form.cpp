@@ -44,7 +44,7 @@ std::vector<AddedColumns> reflection_columns(const CrystalState& seen) {
        [symmetry](const ListCells& row) { return ListCells{plain_text(symmetry->multiplicity(indices_of(row)))}; }});
   added.push_back(
       {"Systematic absences",
-       {{"absent", "", 0, word, ' ', "where a screw axis or a glide plane leaves nothing of it"}},
+       {{"absent", "", 0, word, ' ', "where a screw axis or a glide plane forbids the reflection"}},
        [symmetry](const ListCells& row) { return ListCells{symmetry->absent(indices_of(row)) ? "extinct" : ""}; }});
   return added;
 }
@@ -53,7 +53,7 @@ RowFamilies reflection_families(const CrystalState& seen) {
   constexpr int intensity = 9;
   return {"Families of equivalents",
           "Merge equivalents",
-          {"form", "", 0, word, ' ', "the reflection that stands for all of the family"},
+          {"form", "", 0, word, ' ', "the reflection that represents the family"},
           [symmetry = symmetry_of(seen)](const ListCells& row) {
             const auto hkl = indices_of(row);
             const auto leader = symmetry->leader(hkl);

@@ -31,23 +31,23 @@ void Main1Form::declare_guards(const Workbench& bench) {
     button->warn_when = [&seen] { return no_reflections(seen); };
   }
   Command6.warn_when = [&seen] {
-    return first_of({no_cell(seen), when(!(seen.Dmin > 0), "Dmin is not above 0: it is asked for until it is")});
+    return first_of(
+        {no_cell(seen), when(!(seen.Dmin > 0), "Dmin is not above 0: the program asks for it until it is")});
   };
   Command9.warn_when = [this, &seen] {
     return first_of({no_reflections(seen), when(seen.NAtom < 1, "there are no atoms"),
                      when(Val(Text15.text()) == 0, "the box Dmin holds 0")});
   };
   Command1.warn_when = [&seen] {
-    return when(seen.NAtom >= table_rows, "there are 200 atoms or more, for which the table has no room");
+    return when(seen.NAtom >= table_rows, "the table has no room for 200 atoms or more");
   };
   Command15.warn_when = [&seen] {
-    return first_of(
-        {when(seen.NAtom > 0, "the atoms are taken away, even by a cancel there"),
-         when(seen.JcpdsCount >= table_rows, "there are 200 reflections, for which the table has no room")});
+    return first_of({when(seen.NAtom > 0, "this removes the atoms, even if you cancel there"),
+                     when(seen.JcpdsCount >= table_rows, "the table has no room for 200 reflections")});
   };
   Command11.warn_when = [&seen] { return when(seen.NAtom < 1, "there are no atoms"); };
   DATA_SAVE.warn_when = [&seen] {
-    return when(seen.NAtom < 1 && seen.JcpdsCount < 1, "without atoms and reflections the file can't be loaded again");
+    return when(seen.NAtom < 1 && seen.JcpdsCount < 1, "a file without atoms and reflections cannot be loaded again");
   };
   Text7.warn_text = [&bench](const std::string& text) {
     const double number = Val(text);
@@ -59,7 +59,7 @@ void Main1Form::declare_guards(const Workbench& bench) {
   };
   Combo2.warn_row = [this](int row) {
     const auto& setting = Combo2.items()[static_cast<std::size_t>(row)];
-    return when(setting == "-cba", "no operators can be turned to -cba: every atom falls on 0 0 0");
+    return when(setting == "-cba", "-cba has no operators: every atom falls on 0 0 0");
   };
   for (auto* box : {&Text18, &Text19, &Text20}) whole_number(*box);
 }

@@ -24,7 +24,7 @@ void settle_dmin(Workbench& bench, Main1Form& form) {
     const std::string answer = bench.services.ask_text(
         {"Input D-value Minimum", "D-value Minimum", "Angstroms, above 0; the list grows with 1/d cubed.",
          [](const std::string& typed) {
-           return guard::when(!(Val(typed) > 0), "without a number above 0 it is asked for again, without end");
+           return guard::when(!(Val(typed) > 0), "without a number above 0 the question comes again, without end");
          }});
     state.Dmin = typed_number("the smallest d", answer, to_single);
     form.Text15.set_text(plain_text(state.Dmin));

@@ -13,7 +13,7 @@ struct Main1Form;
 void CalcCell(Workbench& bench);
 
 /// Sites to unit cell: reads the operators of SGFile, fills the UC arrays, List1 and Label20.
-/// @throws RunFailure  SGFile can't be read, or the cell has more than 2000 atoms
+/// @throws RunFailure  SGFile cannot be read, or the cell has more than 2000 atoms
 void AtomCcalc(Workbench& bench);
 
 /// Reads the names of the 250 space group files.

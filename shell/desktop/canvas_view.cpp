@@ -387,7 +387,7 @@ void CanvasView::copy_to_clipboard() const {
   }
 }
 
-// A copy that can't be written is no failure of the run: the program knows nothing of it.
+// A copy that cannot be written is no failure of the run: the program knows nothing of it.
 void CanvasView::ask_export(double factor, const char* ending) {
   const auto ask = [this, factor, suffix = NameEnding{ending}] {
     Services& services = canvas_->services();

@@ -212,7 +212,7 @@ void DesktopServices::print_window(Window& window) {
   const QPixmap image = binder->widget().grab();
   print_pages(*chosen, [&](QPagedPaintDevice& pages) {
     QPainter painter(&pages);
-    if (!painter.isActive()) throw RunFailure("can't print the window " + window.caption());
+    if (!painter.isActive()) throw RunFailure("cannot print the window " + window.caption());
     const QSizeF size = QSizeF(image.size()).scaled(page_size(pages), Qt::KeepAspectRatio);
     painter.drawPixmap(QRectF({}, size), image, QRectF(image.rect()));
   });
@@ -229,7 +229,7 @@ void DesktopServices::export_picture(Canvas& canvas, const std::string& path) {
 
 void print_lines(QPagedPaintDevice& pages, const QStringList& lines, Task& task) {
   QPainter painter(&pages);
-  if (!painter.isActive()) throw RunFailure("can't print the report: the printer does not answer");
+  if (!painter.isActive()) throw RunFailure("cannot print the report: the printer does not answer");
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
   constexpr int points = 9;
   font.setPointSize(points);

@@ -63,7 +63,7 @@ void write_drawing(const FileDrawing& drawing, const std::string& path, double f
   if (name.endsWith(u".png")) return write_image(drawn_image(drawing, factor), path, "PNG");
   if (name.endsWith(u".svg")) return write_bytes(svg_of(drawing), path);
   if (name.endsWith(u".pdf")) return write_bytes(pdf_of(drawing), path);
-  throw RunFailure("can't export to " + path + ": the name must end in .bmp, .png, .svg or .pdf");
+  throw RunFailure("cannot export to " + path + ": the name must end in .bmp, .png, .svg or .pdf");
 }
 
 }  // namespace zol

@@ -23,7 +23,7 @@ struct FileDrawing {
 [[nodiscard]] QImage drawn_image(const FileDrawing& drawing, double factor);
 
 /// Writes the kind that the ending of the path names: .bmp, .png, .svg, .pdf.
-/// @throws RunFailure  another ending, or the file can't be written
+/// @throws RunFailure  another ending, or the file cannot be written
 void write_drawing(const FileDrawing& drawing, const std::string& path, double factor);
 
 }  // namespace zol

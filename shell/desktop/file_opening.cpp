@@ -34,7 +34,7 @@ std::string fault_of_file(const std::string& path) {
   const auto status = std::filesystem::status(path, error);
   if (!std::filesystem::exists(status)) return "there is no file " + path;
   if (!std::filesystem::is_regular_file(status)) return path + " is not a file";
-  return access(path.c_str(), R_OK) == 0 ? "" : "can't open " + path + ": " + std::generic_category().message(errno);
+  return access(path.c_str(), R_OK) == 0 ? "" : "cannot open " + path + ": " + std::generic_category().message(errno);
 }
 
 void FileOpening::open(Window& from, const FileWay& way, const std::string& path) {

@@ -21,7 +21,7 @@ class Window;
 /// The first way for the ending of a file; nullptr where there is none.
 [[nodiscard]] const FileWay* way_for(const std::vector<FileWay>& ways, const std::string& path);
 
-/// Why a file can't be opened, as far as is known before it is read; empty when nothing is known against it.
+/// Why a file cannot be opened, as far as is known before it is read; empty when nothing is known against it.
 [[nodiscard]] std::string fault_of_file(const std::string& path);
 
 class FileOpening {

@@ -97,7 +97,7 @@ void KeptWorkBar::add_row(const LeftOver& left) {
   auto* columns = new QHBoxLayout(row);
   columns->setContentsMargins(0, 0, 0, 0);
   const QString told = left.fault.empty() ? told_of(left.note)
-                                          : tr("%1: can't be restored, %2").arg(told_of(left.note), to_qt(left.fault));
+                                          : tr("%1: cannot be restored, %2").arg(told_of(left.note), to_qt(left.fault));
   columns->addWidget(label(told), 1);
   const auto add_button = [&](const char* name, const QString& text, const QString& tip, auto action) {
     auto* button = new QPushButton(text);
@@ -107,7 +107,7 @@ void KeptWorkBar::add_row(const LeftOver& left) {
     columns->addWidget(button);
   };
   if (left.fault.empty()) {
-    add_button("Restore", tr("Restore"), tr("Brings crystal and windows back; undo takes that back"),
+    add_button("Restore", tr("Restore"), tr("Restores crystal and windows; undo reverses this"),
                [this, left] { act(left, actions_.restore); });
   }
   add_button("NotNow", tr("Not now"), tr("The next start offers it again"), [this, left] { take_off(left.path); });

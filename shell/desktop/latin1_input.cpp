@@ -36,9 +36,10 @@ void say_beside(QWidget& widget, const QString& text) {
 }
 
 void say_refused(QWidget& widget) {
-  say_beside(widget, QCoreApplication::translate("zol",
-                                                 "Not taken: characters here and in the files are of Latin-1 "
-                                                 "(Western European letters and signs)"));
+  say_beside(widget,
+             QCoreApplication::translate("zol",
+                                         "Not taken: here and in the files only characters of Latin-1 are possible "
+                                         "(Western European letters and signs)"));
 }
 
 void take_latin1_only(QLineEdit& edit) {

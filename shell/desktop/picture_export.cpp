@@ -147,7 +147,7 @@ void export_picture(Canvas& canvas, const std::string& path, double factor, Task
   if (ending == "png") return write_image(image(), path, "PNG");
   if (ending == "svg") return write_bytes(svg_of(canvas, below, extras, task), path);
   if (ending == "pdf") return write_bytes(pdf_of(canvas, below, extras, task), path);
-  throw RunFailure("can't export to " + path + ": the name must end in .bmp, .png, .svg or .pdf");
+  throw RunFailure("cannot export to " + path + ": the name must end in .bmp, .png, .svg or .pdf");
 }
 
 struct OffscreenPictures::Platform {

@@ -25,7 +25,7 @@ struct ExportExtras {
 
 /// Writes the kind that the ending of the path names: .bmp, .png, .svg, .pdf.
 /// @param factor   pixels per canvas pixel, for .bmp and .png
-/// @throws RunFailure  another ending, or the file can't be written
+/// @throws RunFailure  another ending, or the file cannot be written
 /// @throws Cancelled  the task stops; there is no file then
 void export_picture(Canvas& canvas, const std::string& path, double factor, Task& task,
                     const ExportExtras& extras = {});

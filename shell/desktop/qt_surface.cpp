@@ -29,7 +29,7 @@ int to_pixel(double coordinate) { return static_cast<int>(std::nearbyint(coordin
 QImage new_image(int width, int height) {
   const QSize size(std::max(width, 1), std::max(height, 1));
   const auto fail = [size](const std::string& why) {
-    throw RunFailure("can't make an image of " + std::to_string(size.width()) + " x " + std::to_string(size.height()) +
+    throw RunFailure("cannot make an image of " + std::to_string(size.width()) + " x " + std::to_string(size.height()) +
                      " pixels: " + why);
   };
   if (qint64{size.width()} * size.height() > qint64{most_picture_pixels}) fail("at most 8192 x 8192 are possible");
@@ -48,7 +48,7 @@ struct PictureKind {
 constexpr std::string_view bitmap = "bmp";
 constexpr std::string_view jpeg = "jpeg";
 
-/// What is of no other kind is to be a bitmap, and told where it isn't.
+/// What is of no other kind is to be a bitmap, and told where it is not.
 PictureKind kind_of(std::string_view bytes) {
   using namespace std::string_view_literals;
   static constexpr PictureKind kinds[] = {{"\x89PNG\r\n\x1a\n"sv, "png", "a PNG picture"},
@@ -72,7 +72,7 @@ bool has_its_end(std::string_view bytes) {
 QImage read_picture(const std::string& path, const std::string& bytes) {
   const PictureKind kind = kind_of(bytes);
   const auto fail = [&](const std::string& why) {
-    throw RunFailure("can't read " + path + " as " + kind.name + ": " + why);
+    throw RunFailure("cannot read " + path + " as " + kind.name + ": " + why);
   };
   if (kind.format == bitmap) check_bitmap(path, bytes);
   if (kind.format == jpeg && !has_its_end(bytes)) fail("it is cut short: its end is missing");
@@ -96,7 +96,7 @@ QImage read_picture(const std::string& path, const std::string& bytes) {
   QImageReader::setAllocationLimit(most_megabytes);  // Qt's own is below what is possible here
   QImage read = reader.read();
   if (read.isNull()) {
-    constexpr auto reasons = "; it is cut short or damaged, or its pixels have not 8 or 16 bits a colour";
+    constexpr auto reasons = "; it is cut short or damaged, or its pixels do not have 8 or 16 bits per colour";
     fail(reader.errorString().toStdString() + (kind.format == bitmap ? "" : reasons));
   }
   return read;
@@ -313,7 +313,7 @@ void write_image(const QImage& image, const std::string& path, const char* kind)
   QBuffer bytes;
   // The picture covers all of its area: no alpha in the file.
   if (!image.convertToFormat(QImage::Format_RGB32).save(&bytes, kind)) {
-    throw RunFailure("can't write " + path + ": no picture of the kind " + kind + " can be made");
+    throw RunFailure("cannot write " + path + ": no picture of the kind " + kind + " can be made");
   }
   write_bytes(bytes.data(), path);
 }

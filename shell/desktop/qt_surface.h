@@ -46,9 +46,9 @@ class QtSurface final : public Surface {
 };
 
 /// Writes an image to a file of a kind that Qt knows ("BMP", "PNG"), whole or not at all.
-/// @throws RunFailure  it can't be written
+/// @throws RunFailure  it cannot be written
 void write_image(const QImage& image, const std::string& path, const char* kind);
-/// Writes a file, whole or not at all. @throws RunFailure  it can't be written
+/// Writes a file, whole or not at all. @throws RunFailure  it cannot be written
 void write_bytes(const QByteArray& bytes, const std::string& path);
 
 }  // namespace zol

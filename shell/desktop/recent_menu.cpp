@@ -116,7 +116,7 @@ void RecentMenu::fill(QMenu& menu, Window& window, FileKind kind) {
 void RecentMenu::open(Window& window, FileKind kind, const std::string& path) {
   if (const std::string fault = fault_of_file(path); !fault.empty()) {
     change([this, kind, &path] { files_.drop(kind, path); });
-    return tell_(fault + "; the list of recent files does not name it any more");
+    return tell_(fault + "; it is no longer in the list of recent files");
   }
   const auto ways = file_ways(window);
   const auto way = std::find_if(ways.begin(), ways.end(), [kind](const FileWay& one) { return one.kind == kind; });

@@ -63,7 +63,7 @@ Recovery::~Recovery() { program_.set_changed({}); }
 
 void Recovery::changed(const std::shared_ptr<const Snapshot>& now) {
   if (const auto fault = file_.fault()) {
-    tell_in_status_lines(Desktop::tr("Your work can't be kept for the next start: %1").arg(to_qt(*fault)));
+    tell_in_status_lines(Desktop::tr("Your work cannot be kept for the next start: %1").arg(to_qt(*fault)));
   }
   const auto before = std::exchange(seen_, now);
   // Windows that were only opened are no work.
@@ -98,7 +98,7 @@ void Recovery::end() noexcept {
   }
 }
 
-/// The left-over goes when its work is on the disk as that of this run. @returns why it can't be brought back, or
+/// The left-over goes when its work is on the disk as that of this run. @returns why it cannot be brought back, or
 /// nothing
 std::string Recovery::restore(const LeftOver& left) {
   std::string fault;

@@ -63,12 +63,12 @@ void TableWindow::lay_out() {
   filter_.setObjectName(QStringLiteral("filter"));
   filter_.setClearButtonEnabled(true);
   filter_.setPlaceholderText(tr("d>1.5 h=1, or a word"));
-  filter_.setToolTip(tr("only rows for which all parts hold: a column compared by = <> < > <= >=, or any text"));
+  filter_.setToolTip(tr("only rows that match all parts: a column compared by = <> < > <= >=, or any text"));
   auto* label = new QLabel(tr("&Filter:"), this);
   label->setBuddy(&filter_);
   filter_.setAccessibleName(tr("Filter"));
   auto* columns = new QPushButton(tr("C&olumns"), this);
-  columns->setToolTip(tr("what may stand beside the columns of the list"));
+  columns->setToolTip(tr("columns that can be added to those of the list"));
   columns_ = new QMenu(columns);
   columns->setMenu(columns_);
   columns->setVisible(!ListTable::choices(*list_.table).empty());

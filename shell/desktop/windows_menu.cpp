@@ -41,7 +41,7 @@ void WindowsMenu::add(const Window& window, QMainWindow& top) {
   menu->addActions(QList<QAction*>(actions_.begin(), actions_.end()));
   menu->addSeparator();
   QAction* side_by_side = menu->addAction(tr("&Arrange"), this, [this, &top] { arrange(top); });
-  side_by_side->setToolTip(tr("Puts the open windows side by side, as far as the screen goes"));
+  side_by_side->setToolTip(tr("Puts the open windows side by side, as far as the screen allows"));
   menu->setToolTipsVisible(true);
   connect(menu, &QMenu::aboutToShow, this, [this, &top] { check(top); });
   entries_[window.name()] = {&window, &top, to_qt(window.caption()).trimmed(), menu};

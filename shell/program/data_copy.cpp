@@ -61,7 +61,7 @@ void make_copy(const fs::path& installed, const fs::path& copy, const std::strin
 
 void update_data_copy(const std::string& installed, const std::string& copy, const std::string& version) {
   const auto failure = [&](const std::string& reason) {
-    return RunFailure("can't copy the data files from " + installed + " to " + copy + ": " + reason);
+    return RunFailure("cannot copy the data files from " + installed + " to " + copy + ": " + reason);
   };
   try {
     if (!fs::exists(copy)) {

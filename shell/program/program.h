@@ -25,7 +25,7 @@ class Program {
   Program(const Program&) = delete;
   Program& operator=(const Program&) = delete;
 
-  /// Opens MAIN_MENU, as the start of the program. @throws RunFailure  the camera file can't be read
+  /// Opens MAIN_MENU, as the start of the program. @throws RunFailure  the camera file cannot be read
   void start();
 
   [[nodiscard]] Windows& windows() { return windows_; }

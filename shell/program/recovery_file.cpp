@@ -99,10 +99,10 @@ HeldLock HeldLock::make(const std::string& folder) {
   for (;;) {
     std::string path = folder + '/' + std::string(name_begin) + std::string(unique_part) + std::string(lock_ending);
     const int descriptor = mkostemps(path.data(), static_cast<int>(lock_ending.size()), O_CLOEXEC);
-    if (descriptor < 0) throw RunFailure("can't write into " + folder + ": " + std::strerror(errno));
+    if (descriptor < 0) throw RunFailure("cannot write into " + folder + ": " + std::strerror(errno));
     HeldLock held(path, descriptor);
     if (!lock_file(descriptor, LOCK_EX))
-      throw RunFailure("can't lock a file in " + folder + ": " + std::strerror(errno));
+      throw RunFailure("cannot lock a file in " + folder + ": " + std::strerror(errno));
     if (has_name(descriptor)) return held;
   }
 }
@@ -214,7 +214,7 @@ bool RecoveryFile::write_locked(const KeptWork& work) {
     if (!lock_) {
       fs::create_directories(fs::path(folder_).parent_path());
       if (mkdir(folder_.c_str(), own_alone) != 0 && errno != EEXIST) {
-        throw RunFailure("can't make " + folder_ + ": " + std::strerror(errno));
+        throw RunFailure("cannot make " + folder_ + ": " + std::strerror(errno));
       }
       lock_.emplace(HeldLock::make(folder_));
     }

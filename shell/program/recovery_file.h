@@ -45,7 +45,7 @@ class HeldLock {
 struct LeftOver {
   std::string path;
   WorkNote note;
-  std::string fault;  ///< why it can't be read; empty where it can
+  std::string fault;  ///< why it cannot be read; empty where it can
 };
 
 /// Those in a folder, the latest first. Of more than most_left_overs the oldest are removed.

@@ -28,7 +28,7 @@ class ResultNotes {
     std::string made;     ///< as "drawn for Quartz, 20 kV"; empty where nothing is shown
     std::string changed;  ///< as "crystal and settings changed since"; empty where nothing has
     std::vector<std::string> remarks;
-    std::vector<const CommandButton*> again;    ///< what makes it again, one after the other; empty where it isn't old
+    std::vector<const CommandButton*> again;    ///< what makes it again, one after the other; empty where it is not old
     [[nodiscard]] std::string line() const;     ///< what is to be said now; empty: nothing
     [[nodiscard]] std::string caption() const;  ///< what goes with an exported picture
   };

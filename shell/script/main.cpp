@@ -108,7 +108,7 @@ Outcome run_program(int argc, char** argv) {
     if (arguments.script && *arguments.script != "-") {
       file.open(*arguments.script);
       if (!file) {
-        return {script_wrong, "zol-script: can't open " + *arguments.script + ": " + std::strerror(errno)};
+        return {script_wrong, "zol-script: cannot open " + *arguments.script + ": " + std::strerror(errno)};
       }
     }
     run(arguments, file.is_open() ? static_cast<std::istream&>(file) : std::cin);
@@ -134,7 +134,9 @@ void keep_standard_descriptors() {
   }
 }
 
-std::string lost_output() { return std::string("zol-script: can't write to standard output: ") + std::strerror(errno); }
+std::string lost_output() {
+  return std::string("zol-script: cannot write to standard output: ") + std::strerror(errno);
+}
 
 }  // namespace
 

@@ -121,7 +121,7 @@ void ScriptDriver::run(std::istream& script) {
     }
   }
   if (script.bad()) {
-    throw RunFailure("can't read the script after line " + std::to_string(line_) + ": " + std::strerror(errno));
+    throw RunFailure("cannot read the script after line " + std::to_string(line_) + ": " + std::strerror(errno));
   }
 }
 
@@ -172,7 +172,7 @@ void ScriptDriver::click(const Words& words) {
   if (auto* item = dynamic_cast<MenuItem*>(&target)) return item->click();
   if (auto* check = dynamic_cast<CheckBox*>(&target)) return check->click();
   if (auto* option = dynamic_cast<OptionButton*>(&target)) return option->click();
-  fail_script(words[1] + " can't be clicked");
+  fail_script(words[1] + " cannot be clicked");
 }
 
 void ScriptDriver::select(const Words& words) {

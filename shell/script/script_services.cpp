@@ -33,7 +33,7 @@ std::unique_ptr<Surface> ScriptServices::make_surface(int width, int height) {
 }
 
 void ScriptServices::export_picture(Canvas& canvas, const std::string& path) {
-  if (pictures_ == nullptr) throw RunFailure("can't export to " + path + ": there are no pixel images here");
+  if (pictures_ == nullptr) throw RunFailure("cannot export to " + path + ": there are no pixel images here");
   pictures_->export_picture(canvas, path);
 }
 

@@ -15,7 +15,7 @@
 
 namespace zol {
 
-/// An operation that can't be read or names no control.
+/// An operation that cannot be read or names no control.
 class ScriptError : public std::exception {
  public:
   /// @param line  where it is when that is not the line that runs

@@ -46,7 +46,7 @@ class BitmapCheck {
   static constexpr std::size_t pixels_at = 10;  // where the file header tells the place of the pixels
 
   [[noreturn]] void fail(const std::string& what) const {
-    throw RunFailure("can't read " + path_ + " as a bitmap: " + what);
+    throw RunFailure("cannot read " + path_ + " as a bitmap: " + what);
   }
   [[nodiscard]] std::uint32_t number(std::size_t at, std::size_t size) const {
     std::uint32_t value = 0;

@@ -13,7 +13,7 @@ inline constexpr auto possible_picture_sizes = "a side has 1 to 32767, and 8192 
 /// Holds for bitmaps (BMP) of 1 to 32 bits a pixel, plain, with bit fields or run-length encoded, that have all of
 /// their pixels.
 /// @param path  names the file in messages
-/// @throws RunFailure  another kind of file, a header that can't be, or pixels that are missing: which
+/// @throws RunFailure  another kind of file, an impossible header, or pixels that are missing: which
 /// Source: the layout as in "Bitmap Storage" of Microsoft's documentation of Windows GDI.
 void check_bitmap(const std::string& path, std::string_view bytes);
 

@@ -150,7 +150,7 @@ void Canvas::set_height(int twips) {
 
 void Canvas::load_picture(const std::string& path) {
   auto picture = services_.make_surface(1, 1);
-  if (!picture) throw RunFailure("can't load " + path + ": there are no pixel images here");
+  if (!picture) throw RunFailure("cannot load " + path + ": there are no pixel images here");
   WindowTask task(services_);
   const auto loaded = run_aside<std::shared_ptr<Surface>>(task, [path, picture = std::shared_ptr(std::move(picture))] {
     picture->load(path);

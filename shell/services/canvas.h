@@ -84,7 +84,7 @@ class Canvas : public Control {
   [[nodiscard]] int pixel_height() const { return drawing_.pixel_height(); }
 
   /// Background picture. Each replaces the stored image, so that what was drawn into it goes.
-  /// A file holds a bitmap, PNG, JPEG or TIFF, by its content. @throws RunFailure  it can't be read
+  /// A file holds a bitmap, PNG, JPEG or TIFF, by its content. @throws RunFailure  it cannot be read
   void load_picture(const std::string& path);
   void take_picture(Canvas& other, bool upside_down);  ///< the stored image of another canvas
   void remove_picture();

@@ -79,7 +79,7 @@ class NamedValues {
       add(name.text, field);
     });
   }
-  /// A value that is put together when asked. It can't be put back: what it comes from is kept beside it.
+  /// A value that is put together when asked. It cannot be put back: what it comes from is kept beside it.
   void add_computed(const std::string& name, int dimensions, std::function<std::string(std::span<const int>)> text) {
     printed_[name] = {dimensions, std::move(text)};
   }

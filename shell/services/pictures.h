@@ -18,7 +18,7 @@ class PictureMaker {
 
   virtual std::unique_ptr<Surface> make_surface(int width, int height) = 0;
   /// Writes a picture with its overlay; the kind by the ending: .bmp, .png, .svg, .pdf.
-  /// @throws RunFailure  another ending, or the file can't be written
+  /// @throws RunFailure  another ending, or the file cannot be written
   virtual void export_picture(Canvas& canvas, const std::string& path) = 0;
 };
 

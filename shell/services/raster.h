@@ -38,12 +38,12 @@ class Surface {
   /// A new image, turned over left to right or upside down.
   [[nodiscard]] virtual std::unique_ptr<Surface> mirrored(bool left_to_right, bool upside_down) const = 0;
   /// Takes an image from a file, with its size: a bitmap, or by its content PNG, JPEG or TIFF.
-  /// @throws RunFailure  it can't be read
+  /// @throws RunFailure  it cannot be read
   virtual void load(const std::string& path) = 0;
   /// Luminance of the pixels, over white where they are transparent; as fine as the file where it was loaded and not
   /// changed since.
   [[nodiscard]] virtual GreyPicture grey() const = 0;
-  /// @throws RunFailure  it can't be written
+  /// @throws RunFailure  it cannot be written
   virtual void save_bitmap(const std::string& path) const = 0;
   /// All of its pixels, to the bit. @throws RunFailure  the bytes hold no image
   virtual void store(StoreWriter& out) const = 0;
@@ -112,7 +112,7 @@ class Raster {
   std::shared_ptr<const Surface> picture_;
   std::shared_ptr<const GreyPicture> grey_;  // of the picture, where it has been asked for
   bool complete_ = false;                    // the images hold all of the list
-  std::size_t painted_ = 0;                  // entries of the list, as long as they don't
+  std::size_t painted_ = 0;                  // entries of the list, as long as they do not
   UserScale painted_scale_;                  // in force behind those
   std::unique_ptr<Surface> stored_;          // both or none
   std::unique_ptr<Surface> overlay_;

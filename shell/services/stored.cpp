@@ -25,7 +25,7 @@ std::uint64_t checksum(std::string_view bytes) {
 
 void StoreWriter::count(std::size_t number) {
   if (number > std::numeric_limits<std::uint32_t>::max()) {
-    throw RunFailure("what is to be kept has " + std::to_string(number) + " parts, at most 4294967295 can be");
+    throw RunFailure("the work to be kept has " + std::to_string(number) + " parts, at most 4294967295 are possible");
   }
   this->number(static_cast<std::uint32_t>(number));
 }

@@ -63,7 +63,7 @@ class StoreReader {
   /// @param services  make the pixel images that are read; none where there are none to be read
   explicit StoreReader(std::string_view bytes, Services* services = nullptr) : left_(bytes), services_(services) {}
 
-  // Each @throws RunFailure  the bytes are cut short or tell something that can't be
+  // Each @throws RunFailure  the bytes are cut short or impossible
   [[nodiscard]] std::string_view raw(std::size_t count);
   template <class Number>
   [[nodiscard]] Number number() {
@@ -308,7 +308,7 @@ void load_elements(StoreReader& in, std::span<Element> elements) {
     for (Element& element : elements) element = load<Element>(in);
   }
 }
-/// Upper bound of an array. @throws RunFailure  more than any list has; or texts that aren't there
+/// Upper bound of an array. @throws RunFailure  more than any list has; or texts that are not there
 template <class Element>
 [[nodiscard]] int load_bound(StoreReader& in) {
   constexpr std::int32_t most = std::is_trivially_copyable_v<Element> ? (1 << 28) : (1 << 20);
@@ -365,7 +365,7 @@ requires(std::is_class_v<Struct> && (std::is_aggregate_v<Struct> || detail::HasP
     std::apply([&in](auto&... parts) { ((parts = zol::load<std::remove_reference_t<decltype(parts)>>(in)), ...); },
                detail::parts_of(value));
     if constexpr (requires { value.sound(); }) {
-      if (!value.sound()) StoreReader::fail("its parts don't fit together");
+      if (!value.sound()) StoreReader::fail("its parts do not fit together");
     }
     return value;
   }

@@ -24,7 +24,7 @@ set Xd.MeasuredScale 0
 print Xd.MeasuredResidual
 undo
 print Xd.MeasuredResidual
-echo what can't be read is told and leaves all as it was
+echo what cannot be read is told and leaves all as it was
 answer tests/scripts/measured_curve.zs
 click Xd.AddMeasured
 print Xd.MeasuredOffset

@@ -9,7 +9,7 @@ namespace zol {
 /// fitted to their sum, the constant is 0.
 /// Source: International Tables for Crystallography C (2011), table 4.3.2.2.
 /// @returns the largest difference from the source between s = 0 and 2 / Å, in Å
-/// @throws RunFailure  the table can't be written
+/// @throws RunFailure  the table cannot be written
 double write_electron_table(const std::string& path);
 
 }  // namespace zol

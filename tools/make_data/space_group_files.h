@@ -6,7 +6,7 @@
 namespace zol {
 
 /// Writes No001.dat to No250.dat into the folder.
-/// @throws RunFailure  a file can't be written
+/// @throws RunFailure  a file cannot be written
 void write_space_group_files(const std::string& folder);
 
 }  // namespace zol

@@ -79,10 +79,10 @@ void write_reflections(std::FILE* output, const gemmi::SmallStructure& structure
 void make_list(const std::string& crystal_path, const std::string& output_path) {
   const auto structure = structure_of(read_crystal(crystal_path));
   std::FILE* output = std::fopen(output_path.c_str(), "wb");
-  if (output == nullptr) throw RunFailure("can't write " + output_path);
+  if (output == nullptr) throw RunFailure("cannot write " + output_path);
   write_reflections(output, structure);
   const bool lost = std::ferror(output) != 0;
-  if (std::fclose(output) != 0 || lost) throw RunFailure("can't write " + output_path);
+  if (std::fclose(output) != 0 || lost) throw RunFailure("cannot write " + output_path);
 }
 
 }  // namespace

@@ -107,7 +107,7 @@ void LibraryPanel::lay_out() {
   search_->setPlaceholderText(tr("quartz, +Si -Al, Fm-3m, a=5.43"));
   search_->setClearButtonEnabled(true);
   search_->setToolTip(
-      tr("Words that all have to hold:\n"
+      tr("A crystal has to match all words:\n"
          "quartz - in the name, the title or a folder\n"
          "SiO2 - this formula\n"
          "+Si -Al - with, without an element\n"
@@ -142,7 +142,7 @@ void LibraryPanel::lay_out() {
 }
 
 /// The window grows by the panel where the screen has room, unless its kept place has the panel already; where the
-/// window can't get narrow enough for both, the panel floats.
+/// window cannot get narrow enough for both, the panel floats.
 void LibraryPanel::come_up(bool window_has_room) {
   const QRect room = top_.screen()->availableGeometry();
   const bool fits = top_.minimumSizeHint().width() + panel_width <= room.width();

@@ -28,7 +28,7 @@ inline constexpr std::array<NamedColour, 28> colour_table{{
     {"hair", 0xBAC4CE, 0x485360},          // border of lists, line under what can only be read
     {"text", 0x18222C, 0xE4E9EE},          //
     {"muted", 0x55616D, 0xA3AFBA},         // units, heads, summaries
-    {"disabled", 0x8C97A2, 0x6A7682},      // text that can't be acted on
+    {"disabled", 0x8C97A2, 0x6A7682},      // text that cannot be acted on
     {"button", 0xE3E8ED, 0x2D3640},        //
     {"button_hover", 0xD7DEE5, 0x38434E},  //
     {"button_press", 0xC7D0D9, 0x232B33},  //

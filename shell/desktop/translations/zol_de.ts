@@ -36,7 +36,7 @@
         <translation>Bänder</translation>
     </message>
     <message>
-        <source>bands to be looked for, 3 to 30; the strongest of the picture</source>
+        <source>number of bands to look for, 3 to 30; the strongest of the picture</source>
         <translation>Bänder, die gesucht werden, 3 bis 30; die stärksten des Bildes</translation>
     </message>
     <message>
@@ -100,7 +100,7 @@
         <translation>Bericht kopieren</translation>
     </message>
     <message>
-        <source>crystal, centre, orientation and bands as text and JSON, to be pasted elsewhere</source>
+        <source>copies crystal, centre, orientation and bands as text and JSON</source>
         <translation>Kristall, Zentrum, Orientierung und Bänder als Text und JSON, zum Einfügen anderswo</translation>
     </message>
     <message>
@@ -1108,7 +1108,7 @@
         <translation>gleichwertige Richtung weglassen</translation>
     </message>
     <message>
-        <source>of solutions whose planes have the same spacings and intensities list only the first</source>
+        <source>list only the first of the solutions whose planes have the same spacings and intensities</source>
         <translation>von Lösungen, deren Ebenen gleiche Abstände und Intensitäten haben, nur die erste aufführen</translation>
     </message>
     <message>
@@ -2520,15 +2520,15 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Öffnen</translation>
     </message>
     <message>
-        <source>can't print the window %1</source>
+        <source>cannot print the window %1</source>
         <translation>das Fenster %L1 lässt sich nicht drucken</translation>
     </message>
     <message>
-        <source>can't print the report: the printer does not answer</source>
+        <source>cannot print the report: the printer does not answer</source>
         <translation>der Bericht lässt sich nicht drucken: der Drucker antwortet nicht</translation>
     </message>
     <message>
-        <source>can't export to %1: the name must end in .bmp, .png, .svg or .pdf</source>
+        <source>cannot export to %1: the name must end in .bmp, .png, .svg or .pdf</source>
         <translation>kein Export nach %1: der Name muss auf .bmp, .png, .svg oder .pdf enden</translation>
     </message>
     <message>
@@ -2656,7 +2656,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>und %1 ältere</translation>
     </message>
     <message>
-        <source>%1: can't be restored, %2</source>
+        <source>%1: cannot be restored, %2</source>
         <translation>%L1: nicht wiederherstellbar, %L2</translation>
     </message>
     <message>
@@ -2664,7 +2664,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Wiederherstellen</translation>
     </message>
     <message>
-        <source>Brings crystal and windows back; undo takes that back</source>
+        <source>Restores crystal and windows; undo reverses this</source>
         <translation>Bringt Kristall und Fenster zurück; „Rückgängig“ nimmt das zurück</translation>
     </message>
     <message>
@@ -2684,7 +2684,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Wirft diese Arbeit weg</translation>
     </message>
     <message>
-        <source>Not taken: characters here and in the files are of Latin-1 (Western European letters and signs)</source>
+        <source>Not taken: here and in the files only characters of Latin-1 are possible (Western European letters and signs)</source>
         <translation>Nicht übernommen: Zeichen sind hier und in den Dateien aus Latin-1 (westeuropäische Buchstaben und Zeichen)</translation>
     </message>
     <message>
@@ -2752,7 +2752,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Messen</translation>
     </message>
     <message>
-        <source>can't make an image of %1 x %2 pixels: %3</source>
+        <source>cannot make an image of %1 x %2 pixels: %3</source>
         <translation>ein Bild von %1 x %2 Pixeln geht nicht: %L3</translation>
     </message>
     <message>
@@ -2776,7 +2776,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>eine Bitmap</translation>
     </message>
     <message>
-        <source>can't read %1 as %2: %3</source>
+        <source>cannot read %1 as %2: %3</source>
         <translation>%1 ist nicht als %L2 lesbar: %L3</translation>
     </message>
     <message>
@@ -2792,7 +2792,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>nicht genug Speicher für ein Bild</translation>
     </message>
     <message>
-        <source>can't write %1: no picture of the kind %2 can be made</source>
+        <source>cannot write %1: no picture of the kind %2 can be made</source>
         <translation>%1 ist nicht schreibbar: Bilder der Art %2 gibt es nicht</translation>
     </message>
     <message>
@@ -2820,11 +2820,11 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>noch keine</translation>
     </message>
     <message>
-        <source>%1; the list of recent files does not name it any more</source>
+        <source>%1; it is no longer in the list of recent files</source>
         <translation>%L1; die Liste der letzten Dateien nennt sie nicht mehr</translation>
     </message>
     <message>
-        <source>Your work can't be kept for the next start: %1</source>
+        <source>Your work cannot be kept for the next start: %1</source>
         <translation>Ihre Arbeit lässt sich nicht für den nächsten Start aufbewahren: %L1</translation>
     </message>
     <message>
@@ -2848,7 +2848,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Anordnen</translation>
     </message>
     <message>
-        <source>Puts the open windows side by side, as far as the screen goes</source>
+        <source>Puts the open windows side by side, as far as the screen allows</source>
         <translation>Stellt die offenen Fenster nebeneinander, soweit der Bildschirm reicht</translation>
     </message>
     <message>
@@ -2916,7 +2916,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>es hat %1 x %2 Pixel</translation>
     </message>
     <message>
-        <source>the list of recent files does not name it any more</source>
+        <source>it is no longer in the list of recent files</source>
         <translation>die Liste der letzten Dateien nennt sie nicht mehr</translation>
     </message>
     <message>
@@ -3208,7 +3208,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Kristalle, Beugung, Kikuchi-Bilder</translation>
     </message>
     <message>
-        <source>can't copy the data files from %1 to %2: %3</source>
+        <source>cannot copy the data files from %1 to %2: %3</source>
         <translation>die Datendateien lassen sich nicht von %1 nach %2 kopieren: %L3</translation>
     </message>
     <message>
@@ -3220,11 +3220,11 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>%1: eine Zeile „data_root = ORDNER“ fehlt</translation>
     </message>
     <message>
-        <source>can't write into %1: %2</source>
+        <source>cannot write into %1: %2</source>
         <translation>in %1 lässt sich nicht schreiben: %L2</translation>
     </message>
     <message>
-        <source>can't make %1: %2</source>
+        <source>cannot make %1: %2</source>
         <translation>%1 lässt sich nicht anlegen: %L2</translation>
     </message>
     <message>
@@ -3280,7 +3280,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Ein-/Ausgabefehler</translation>
     </message>
     <message>
-        <source>can't write %1: %2</source>
+        <source>cannot write %1: %2</source>
         <translation>%1 ist nicht schreibbar: %L2</translation>
     </message>
     <message>
@@ -3356,27 +3356,27 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>keine endliche Zahl</translation>
     </message>
     <message>
-        <source>can't read %1: it is %2, not a file</source>
+        <source>cannot read %1: it is %2, not a file</source>
         <translation>%1 ist nicht lesbar: es ist %L2, keine Datei</translation>
     </message>
     <message>
-        <source>can't read %1: it has %2 bytes or more, at most %3 are taken</source>
+        <source>cannot read %1: it has %2 bytes or more, at most %3 are taken</source>
         <translation>%1 ist nicht lesbar: es hat %2 Bytes oder mehr, höchstens %3 werden genommen</translation>
     </message>
     <message>
-        <source>can't open %1: %2</source>
+        <source>cannot open %1: %2</source>
         <translation>%1 lässt sich nicht öffnen: %L2</translation>
     </message>
     <message>
-        <source>can't read %1: %2</source>
+        <source>cannot read %1: %2</source>
         <translation>%1 ist nicht lesbar: %L2</translation>
     </message>
     <message>
-        <source>can't read the folder %1: %2</source>
+        <source>cannot read the folder %1: %2</source>
         <translation>der Ordner %1 ist nicht lesbar: %L2</translation>
     </message>
     <message>
-        <source>can't load %1: there are no pixel images here</source>
+        <source>cannot load %1: there are no pixel images here</source>
         <translation>%1 lässt sich nicht laden: hier gibt es keine Pixelbilder</translation>
     </message>
     <message>
@@ -3588,7 +3588,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>P 1 hat keine Symmetrieoperatoren: allein die Plätze füllen die Zelle</translation>
     </message>
     <message>
-        <source>group %1 has no operators: those of the group before stay</source>
+        <source>group %1 has no operators: those of the previous group stay</source>
         <translation>Gruppe %1 hat keine Operatoren: die der vorigen bleiben</translation>
     </message>
     <message>
@@ -3640,23 +3640,23 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>es gibt keinen Block „%1“ mit Atomen</translation>
     </message>
     <message>
-        <source>edges that the cell lacks follow from its system</source>
+        <source>missing cell edges follow from the crystal system</source>
         <translation>fehlende Zellkanten folgen aus dem Kristallsystem</translation>
     </message>
     <message>
-        <source>angles that the cell lacks follow from its system</source>
+        <source>missing cell angles follow from the crystal system</source>
         <translation>fehlende Zellwinkel folgen aus dem Kristallsystem</translation>
     </message>
     <message>
-        <source>_cell_length_a is missing or no length</source>
+        <source>_cell_length_a is missing or is not a length</source>
         <translation>_cell_length_a fehlt oder ist keine Länge</translation>
     </message>
     <message>
-        <source>_cell_length_b or _cell_length_c is missing or no length</source>
+        <source>_cell_length_b or _cell_length_c is missing or is not a length</source>
         <translation>_cell_length_b oder _cell_length_c fehlt oder ist keine Länge</translation>
     </message>
     <message>
-        <source>_cell_length_c is missing or no length</source>
+        <source>_cell_length_c is missing or is not a length</source>
         <translation>_cell_length_c fehlt oder ist keine Länge</translation>
     </message>
     <message>
@@ -3684,7 +3684,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>kein Atom ist lesbar</translation>
     </message>
     <message>
-        <source>%1 is there a second time; the first one with a value is used</source>
+        <source>%1 occurs twice; the first one with a value is used</source>
         <translation>%1 steht dort ein zweites Mal; das erste mit einem Wert gilt</translation>
     </message>
     <message>
@@ -3692,7 +3692,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>die Zelle ist zu klein oder zu flach für Atome</translation>
     </message>
     <message>
-        <source>it can't be unpacked</source>
+        <source>it cannot be unpacked</source>
         <translation>sie lässt sich nicht entpacken</translation>
     </message>
     <message>
@@ -3836,7 +3836,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>die Zelle passt nicht zur Symmetrie</translation>
     </message>
     <message>
-        <source>the occupancies on the place of %1 sum up to %2</source>
+        <source>the occupancies at the place of %1 sum up to %2</source>
         <translation>die Besetzungen auf dem Platz von %1 ergeben zusammen %2</translation>
     </message>
     <message>
@@ -3968,7 +3968,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>2: alle Atome der Zelle stehen da</translation>
     </message>
     <message>
-        <source>the reflection list can't have %1 entries: cell constants give %2</source>
+        <source>the reflection list cannot have %1 entries: cell constants give %2</source>
         <translation>die Reflexliste kann keine %1 Einträge haben: die Gitterkonstanten geben %L2</translation>
     </message>
     <message>
@@ -3980,7 +3980,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>die Tabelle hat mehr als %1 Zeilen</translation>
     </message>
     <message>
-        <source>Dmin is not above 0: it is asked for until it is</source>
+        <source>Dmin is not above 0: the program asks for it until it is</source>
         <translation>Dmin ist nicht über 0: es wird gefragt, bis es das ist</translation>
     </message>
     <message>
@@ -3992,19 +3992,19 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>das Feld Dmin enthält 0</translation>
     </message>
     <message>
-        <source>there are 200 atoms or more, for which the table has no room</source>
+        <source>the table has no room for 200 atoms or more</source>
         <translation>es sind 200 Atome oder mehr, für die die Tabelle keinen Platz hat</translation>
     </message>
     <message>
-        <source>the atoms are taken away, even by a cancel there</source>
+        <source>this removes the atoms, even if you cancel there</source>
         <translation>die Atome werden weggenommen, auch durch ein Abbrechen dort</translation>
     </message>
     <message>
-        <source>there are 200 reflections, for which the table has no room</source>
+        <source>the table has no room for 200 reflections</source>
         <translation>es sind 200 Reflexe, für die die Tabelle keinen Platz hat</translation>
     </message>
     <message>
-        <source>without atoms and reflections the file can't be loaded again</source>
+        <source>a file without atoms and reflections cannot be loaded again</source>
         <translation>ohne Atome und Reflexe lässt sich die Datei nicht wieder laden</translation>
     </message>
     <message>
@@ -4016,7 +4016,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>für diese Raumgruppe gibt es keine Datei</translation>
     </message>
     <message>
-        <source>no operators can be turned to -cba: every atom falls on 0 0 0</source>
+        <source>-cba has no operators: every atom falls on 0 0 0</source>
         <translation>keine Operatoren lassen sich auf -cba drehen: jedes Atom fällt auf 0 0 0</translation>
     </message>
     <message>
@@ -4036,7 +4036,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Ångström, über 0; die Liste wächst mit der dritten Potenz von 1/d.</translation>
     </message>
     <message>
-        <source>without a number above 0 it is asked for again, without end</source>
+        <source>without a number above 0 the question comes again, without end</source>
         <translation>ohne eine Zahl über 0 wird ohne Ende neu gefragt</translation>
     </message>
     <message>
@@ -4164,7 +4164,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>%1 beginnt mit anderen Bytes</translation>
     </message>
     <message>
-        <source>the interference function can't have %1 steps along an axis</source>
+        <source>the interference function cannot have %1 steps along an axis</source>
         <translation>die Interferenzfunktion kann keine %1 Schritte entlang einer Achse haben</translation>
     </message>
     <message>
@@ -4328,7 +4328,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>es gibt kein gemessenes Diagramm</translation>
     </message>
     <message>
-        <source>there is no calculated curve: "CALC" makes one</source>
+        <source>there is no calculated curve: press "CALC" first</source>
         <translation>es gibt keine berechnete Kurve: „RECHNEN“ macht eine</translation>
     </message>
     <message>
@@ -4348,11 +4348,11 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>das Ende des Profils, d*-max, ist 0</translation>
     </message>
     <message>
-        <source>there is no curve yet: "CALC" makes one</source>
+        <source>there is no curve yet: press "CALC" first</source>
         <translation>es gibt noch keine Kurve: „RECHNEN“ macht eine</translation>
     </message>
     <message>
-        <source>"Clear" has taken the curve away: "CALC" first</source>
+        <source>"Clear" has removed the curve: press "CALC" first</source>
         <translation>„Löschen“ hat die Kurve weggenommen: erst „RECHNEN“</translation>
     </message>
     <message>
@@ -4380,7 +4380,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>2theta min und 2theta max sind gleich</translation>
     </message>
     <message>
-        <source>an intensity of 0 can't be drawn at full height</source>
+        <source>an intensity of 0 cannot be drawn at full height</source>
         <translation>eine Intensität von 0 lässt sich nicht mit voller Höhe zeichnen</translation>
     </message>
     <message>
@@ -4596,7 +4596,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>„Rechnen“ im Kikuchi-Fenster füllt die Karte</translation>
     </message>
     <message>
-        <source>the map can't be made larger: it would turn over</source>
+        <source>the map cannot be made larger: it would turn over</source>
         <translation>die Karte lässt sich nicht weiter vergrößern: sie würde umklappen</translation>
     </message>
     <message>
@@ -4756,7 +4756,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>keine Orientierung gefunden, um das Zentrum zu verfeinern</translation>
     </message>
     <message>
-        <source>expected are a maker and its numbers, as "bruker 0.5 0.25 0.6", or "emsoft 10 -20 15000 70" with the size of a pixel in micrometres</source>
+        <source>a maker and its numbers are expected, as "bruker 0.5 0.25 0.6", or "emsoft 10 -20 15000 70" with the size of a pixel in micrometres</source>
         <translation>erwartet werden ein Hersteller und seine Zahlen, wie „bruker 0.5 0.25 0.6“ oder „emsoft 10 -20 15000 70“ mit der Pixelgröße in Mikrometern</translation>
     </message>
     <message>
@@ -4988,7 +4988,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Nr Bänd.    Abw  Korr. Sich.      u      v      w   phi1    Phi   phi2</translation>
     </message>
     <message>
-        <source>can't read %1 as a bitmap: %2</source>
+        <source>cannot read %1 as a bitmap: %2</source>
         <translation>%1 ist nicht als Bitmap lesbar: %L2</translation>
     </message>
     <message>
@@ -5068,7 +5068,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>hier gibt es keine Pixelbilder</translation>
     </message>
     <message>
-        <source>what is to be kept has %1 parts, at most 4294967295 can be</source>
+        <source>the work to be kept has %1 parts, at most 4294967295 are possible</source>
         <translation>was aufzubewahren ist, hat %1 Teile, höchstens 4294967295 gehen</translation>
     </message>
     <message>
@@ -5084,7 +5084,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>es gibt kein Fenster %1</translation>
     </message>
     <message>
-        <source>can't lock a file in %1: %2</source>
+        <source>cannot lock a file in %1: %2</source>
         <translation>eine Datei in %1 lässt sich nicht sperren: %L2</translation>
     </message>
     <message>
@@ -5144,7 +5144,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>eine Orientierung ist keine</translation>
     </message>
     <message>
-        <source>the planes of a crystal don't fit together</source>
+        <source>the planes of a crystal do not fit together</source>
         <translation>die Ebenen eines Kristalls passen nicht zusammen</translation>
     </message>
     <message>
@@ -5208,7 +5208,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>%1: erwartet wird eine Zahl, wie in a=5.43</translation>
     </message>
     <message>
-        <source>%1: an element is expected behind the sign, as in +Si</source>
+        <source>%1: an element is expected after the sign, as in +Si</source>
         <translation>%1: hinter dem Zeichen wird ein Element erwartet, wie in +Si</translation>
     </message>
     <message>
@@ -5224,11 +5224,11 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>wie viele Reflexe gleichwertig sind, samt den Friedel-Partnern</translation>
     </message>
     <message>
-        <source>where a screw axis or a glide plane leaves nothing of it</source>
+        <source>where a screw axis or a glide plane forbids the reflection</source>
         <translation>wo eine Schraubenachse oder Gleitspiegelebene nichts davon lässt</translation>
     </message>
     <message>
-        <source>the reflection that stands for all of the family</source>
+        <source>the reflection that represents the family</source>
         <translation>der Reflex, der für die ganze Familie steht</translation>
     </message>
     <message>
@@ -5372,7 +5372,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>d&gt;1.5 h=1 oder ein Wort</translation>
     </message>
     <message>
-        <source>only rows for which all parts hold: a column compared by = &lt;&gt; &lt; &gt; &lt;= &gt;=, or any text</source>
+        <source>only rows that match all parts: a column compared by = &lt;&gt; &lt; &gt; &lt;= &gt;=, or any text</source>
         <translation>nur Zeilen, für die alle Teile gelten: eine Spalte verglichen durch = &lt;&gt; &lt; &gt; &lt;= &gt;=, oder irgendein Text</translation>
     </message>
     <message>
@@ -5384,7 +5384,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Spalten</translation>
     </message>
     <message>
-        <source>what may stand beside the columns of the list</source>
+        <source>columns that can be added to those of the list</source>
         <translation>was neben den Spalten der Liste stehen kann</translation>
     </message>
     <message>
@@ -5432,7 +5432,7 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
         <translation>Quarz, +Si -Al, Fm-3m, a=5.43</translation>
     </message>
     <message>
-        <source>Words that all have to hold:
+        <source>A crystal has to match all words:
 quartz - in the name, the title or a folder
 SiO2 - this formula
 +Si -Al - with, without an element
@@ -5706,7 +5706,7 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <translation>eine Tabelle hat zu viele Spalten</translation>
     </message>
     <message>
-        <source>its parts don't fit together</source>
+        <source>its parts do not fit together</source>
         <translation>ihre Teile passen nicht zusammen</translation>
     </message>
     <message>
@@ -5726,7 +5726,7 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <translation>sie ist länger als ihr Inhalt</translation>
     </message>
     <message>
-        <source>it is cut short or damaged, or its pixels have not 8 or 16 bits a colour</source>
+        <source>it is cut short or damaged, or its pixels do not have 8 or 16 bits per colour</source>
         <translation>sie ist abgeschnitten oder beschädigt, oder ihre Pixel haben nicht 8 oder 16 Bits je Farbe</translation>
     </message>
     <message>
@@ -5926,7 +5926,7 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
         <translation>dreht die Kugel, bis diese Richtung in der Mitte ist</translation>
     </message>
     <message>
-        <source>the pattern in all directions; a click tells the direction, a drag turns the sphere</source>
+        <source>the pattern in all directions; a click shows the direction, a drag turns the sphere</source>
         <translation>das Muster in allen Richtungen; ein Klick nennt die Richtung, Ziehen dreht die Kugel</translation>
     </message>
     <message>

@@ -36,7 +36,7 @@
         <translation>Bandes</translation>
     </message>
     <message>
-        <source>bands to be looked for, 3 to 30; the strongest of the picture</source>
+        <source>number of bands to look for, 3 to 30; the strongest of the picture</source>
         <translation>bandes cherchées, 3 à 30 ; les plus fortes de l'image</translation>
     </message>
     <message>
@@ -100,7 +100,7 @@
         <translation>Copier le rapport</translation>
     </message>
     <message>
-        <source>crystal, centre, orientation and bands as text and JSON, to be pasted elsewhere</source>
+        <source>copies crystal, centre, orientation and bands as text and JSON</source>
         <translation>cristal, centre, orientation et bandes en texte et JSON, à coller ailleurs</translation>
     </message>
     <message>
@@ -1108,7 +1108,7 @@
         <translation>omettre direction équivalente</translation>
     </message>
     <message>
-        <source>of solutions whose planes have the same spacings and intensities list only the first</source>
+        <source>list only the first of the solutions whose planes have the same spacings and intensities</source>
         <translation>des solutions dont les plans ont mêmes distances et intensités, ne lister que la première</translation>
     </message>
     <message>
@@ -2520,15 +2520,15 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Ouvrir</translation>
     </message>
     <message>
-        <source>can't print the window %1</source>
+        <source>cannot print the window %1</source>
         <translation>impossible d'imprimer la fenêtre %L1</translation>
     </message>
     <message>
-        <source>can't print the report: the printer does not answer</source>
+        <source>cannot print the report: the printer does not answer</source>
         <translation>impossible d'imprimer le rapport : l'imprimante ne répond pas</translation>
     </message>
     <message>
-        <source>can't export to %1: the name must end in .bmp, .png, .svg or .pdf</source>
+        <source>cannot export to %1: the name must end in .bmp, .png, .svg or .pdf</source>
         <translation>impossible d'exporter vers %1 : le nom doit finir par .bmp, .png, .svg ou .pdf</translation>
     </message>
     <message>
@@ -2656,7 +2656,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>et %1 plus anciens</translation>
     </message>
     <message>
-        <source>%1: can't be restored, %2</source>
+        <source>%1: cannot be restored, %2</source>
         <translation>%L1 : ne peut être rétabli, %L2</translation>
     </message>
     <message>
@@ -2664,7 +2664,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Rétablir</translation>
     </message>
     <message>
-        <source>Brings crystal and windows back; undo takes that back</source>
+        <source>Restores crystal and windows; undo reverses this</source>
         <translation>Ramène cristal et fenêtres ; « Annuler » le défait</translation>
     </message>
     <message>
@@ -2684,7 +2684,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Jette ce travail</translation>
     </message>
     <message>
-        <source>Not taken: characters here and in the files are of Latin-1 (Western European letters and signs)</source>
+        <source>Not taken: here and in the files only characters of Latin-1 are possible (Western European letters and signs)</source>
         <translation>Refusé : les caractères sont ici et dans les fichiers en Latin-1 (lettres et signes d'Europe de l'Ouest)</translation>
     </message>
     <message>
@@ -2752,7 +2752,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Mesurer</translation>
     </message>
     <message>
-        <source>can't make an image of %1 x %2 pixels: %3</source>
+        <source>cannot make an image of %1 x %2 pixels: %3</source>
         <translation>impossible de faire une image de %1 x %2 pixels : %L3</translation>
     </message>
     <message>
@@ -2776,7 +2776,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>un bitmap</translation>
     </message>
     <message>
-        <source>can't read %1 as %2: %3</source>
+        <source>cannot read %1 as %2: %3</source>
         <translation>impossible de lire %1 comme %L2 : %L3</translation>
     </message>
     <message>
@@ -2792,7 +2792,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>pas assez de mémoire pour une image</translation>
     </message>
     <message>
-        <source>can't write %1: no picture of the kind %2 can be made</source>
+        <source>cannot write %1: no picture of the kind %2 can be made</source>
         <translation>impossible d'écrire %1 : aucune image du genre %2 ne peut être faite</translation>
     </message>
     <message>
@@ -2820,11 +2820,11 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>aucun encore</translation>
     </message>
     <message>
-        <source>%1; the list of recent files does not name it any more</source>
+        <source>%1; it is no longer in the list of recent files</source>
         <translation>%L1 ; la liste des fichiers récents ne le nomme plus</translation>
     </message>
     <message>
-        <source>Your work can't be kept for the next start: %1</source>
+        <source>Your work cannot be kept for the next start: %1</source>
         <translation>Votre travail ne peut être gardé pour le prochain démarrage : %L1</translation>
     </message>
     <message>
@@ -2848,7 +2848,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Arranger</translation>
     </message>
     <message>
-        <source>Puts the open windows side by side, as far as the screen goes</source>
+        <source>Puts the open windows side by side, as far as the screen allows</source>
         <translation>Met les fenêtres ouvertes côte à côte, autant que l'écran le permet</translation>
     </message>
     <message>
@@ -2916,7 +2916,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>elle a %1 x %2 pixels</translation>
     </message>
     <message>
-        <source>the list of recent files does not name it any more</source>
+        <source>it is no longer in the list of recent files</source>
         <translation>la liste des fichiers récents ne le nomme plus</translation>
     </message>
     <message>
@@ -3208,7 +3208,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Cristaux, diffraction, clichés de Kikuchi</translation>
     </message>
     <message>
-        <source>can't copy the data files from %1 to %2: %3</source>
+        <source>cannot copy the data files from %1 to %2: %3</source>
         <translation>impossible de copier les données de %1 vers %2 : %L3</translation>
     </message>
     <message>
@@ -3220,11 +3220,11 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>%1 : une ligne « data_root = DOSSIER » manque</translation>
     </message>
     <message>
-        <source>can't write into %1: %2</source>
+        <source>cannot write into %1: %2</source>
         <translation>impossible d'écrire dans %1 : %L2</translation>
     </message>
     <message>
-        <source>can't make %1: %2</source>
+        <source>cannot make %1: %2</source>
         <translation>impossible de créer %1 : %L2</translation>
     </message>
     <message>
@@ -3280,7 +3280,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>erreur d'entrée-sortie</translation>
     </message>
     <message>
-        <source>can't write %1: %2</source>
+        <source>cannot write %1: %2</source>
         <translation>impossible d'écrire %1 : %L2</translation>
     </message>
     <message>
@@ -3356,27 +3356,27 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>pas un nombre fini</translation>
     </message>
     <message>
-        <source>can't read %1: it is %2, not a file</source>
+        <source>cannot read %1: it is %2, not a file</source>
         <translation>impossible de lire %1 : c'est %L2, pas un fichier</translation>
     </message>
     <message>
-        <source>can't read %1: it has %2 bytes or more, at most %3 are taken</source>
+        <source>cannot read %1: it has %2 bytes or more, at most %3 are taken</source>
         <translation>impossible de lire %1 : il a %2 octets ou plus, %3 au plus sont pris</translation>
     </message>
     <message>
-        <source>can't open %1: %2</source>
+        <source>cannot open %1: %2</source>
         <translation>impossible d'ouvrir %1 : %L2</translation>
     </message>
     <message>
-        <source>can't read %1: %2</source>
+        <source>cannot read %1: %2</source>
         <translation>impossible de lire %1 : %L2</translation>
     </message>
     <message>
-        <source>can't read the folder %1: %2</source>
+        <source>cannot read the folder %1: %2</source>
         <translation>impossible de lire le dossier %1 : %L2</translation>
     </message>
     <message>
-        <source>can't load %1: there are no pixel images here</source>
+        <source>cannot load %1: there are no pixel images here</source>
         <translation>impossible de charger %1 : il n'y a pas d'images en pixels ici</translation>
     </message>
     <message>
@@ -3588,7 +3588,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>P 1 n'a pas d'opérateurs de symétrie : les sites seuls remplissent la maille</translation>
     </message>
     <message>
-        <source>group %1 has no operators: those of the group before stay</source>
+        <source>group %1 has no operators: those of the previous group stay</source>
         <translation>le groupe %1 n'a pas d'opérateurs : ceux du précédent restent</translation>
     </message>
     <message>
@@ -3640,23 +3640,23 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>il n'y a pas de bloc « %1 » avec des atomes</translation>
     </message>
     <message>
-        <source>edges that the cell lacks follow from its system</source>
+        <source>missing cell edges follow from the crystal system</source>
         <translation>les arêtes absentes découlent du système</translation>
     </message>
     <message>
-        <source>angles that the cell lacks follow from its system</source>
+        <source>missing cell angles follow from the crystal system</source>
         <translation>les angles absents découlent du système</translation>
     </message>
     <message>
-        <source>_cell_length_a is missing or no length</source>
+        <source>_cell_length_a is missing or is not a length</source>
         <translation>_cell_length_a manque ou n'est pas une longueur</translation>
     </message>
     <message>
-        <source>_cell_length_b or _cell_length_c is missing or no length</source>
+        <source>_cell_length_b or _cell_length_c is missing or is not a length</source>
         <translation>_cell_length_b ou _cell_length_c manque ou n'est pas une longueur</translation>
     </message>
     <message>
-        <source>_cell_length_c is missing or no length</source>
+        <source>_cell_length_c is missing or is not a length</source>
         <translation>_cell_length_c manque ou n'est pas une longueur</translation>
     </message>
     <message>
@@ -3684,7 +3684,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>aucun atome n'est lisible</translation>
     </message>
     <message>
-        <source>%1 is there a second time; the first one with a value is used</source>
+        <source>%1 occurs twice; the first one with a value is used</source>
         <translation>%1 s'y trouve une seconde fois ; le premier qui a une valeur est pris</translation>
     </message>
     <message>
@@ -3692,7 +3692,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>la maille est trop petite ou trop plate pour des atomes</translation>
     </message>
     <message>
-        <source>it can't be unpacked</source>
+        <source>it cannot be unpacked</source>
         <translation>il ne peut être décompressé</translation>
     </message>
     <message>
@@ -3836,7 +3836,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>la maille ne convient pas à la symétrie</translation>
     </message>
     <message>
-        <source>the occupancies on the place of %1 sum up to %2</source>
+        <source>the occupancies at the place of %1 sum up to %2</source>
         <translation>les occupations à la place de %1 font au total %2</translation>
     </message>
     <message>
@@ -3968,7 +3968,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>2 : tous les atomes de la maille sont listés</translation>
     </message>
     <message>
-        <source>the reflection list can't have %1 entries: cell constants give %2</source>
+        <source>the reflection list cannot have %1 entries: cell constants give %2</source>
         <translation>la liste des réflexions ne peut avoir %1 entrées : les paramètres de maille donnent %L2</translation>
     </message>
     <message>
@@ -3980,7 +3980,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>la table a plus de %1 lignes</translation>
     </message>
     <message>
-        <source>Dmin is not above 0: it is asked for until it is</source>
+        <source>Dmin is not above 0: the program asks for it until it is</source>
         <translation>Dmin n'est pas au-dessus de 0 : il sera demandé jusqu'à ce qu'il le soit</translation>
     </message>
     <message>
@@ -3992,19 +3992,19 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>le champ Dmin contient 0</translation>
     </message>
     <message>
-        <source>there are 200 atoms or more, for which the table has no room</source>
+        <source>the table has no room for 200 atoms or more</source>
         <translation>il y a 200 atomes ou plus, la table n'a pas la place</translation>
     </message>
     <message>
-        <source>the atoms are taken away, even by a cancel there</source>
+        <source>this removes the atoms, even if you cancel there</source>
         <translation>les atomes seront enlevés, même en annulant là</translation>
     </message>
     <message>
-        <source>there are 200 reflections, for which the table has no room</source>
+        <source>the table has no room for 200 reflections</source>
         <translation>il y a 200 réflexions, la table n'a pas la place</translation>
     </message>
     <message>
-        <source>without atoms and reflections the file can't be loaded again</source>
+        <source>a file without atoms and reflections cannot be loaded again</source>
         <translation>sans atomes ni réflexions le fichier ne pourra être rechargé</translation>
     </message>
     <message>
@@ -4016,7 +4016,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>il n'y a pas de fichier pour ce groupe d'espace</translation>
     </message>
     <message>
-        <source>no operators can be turned to -cba: every atom falls on 0 0 0</source>
+        <source>-cba has no operators: every atom falls on 0 0 0</source>
         <translation>aucun opérateur ne peut être tourné vers -cba : chaque atome tombe sur 0 0 0</translation>
     </message>
     <message>
@@ -4036,7 +4036,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Angströms, au-dessus de 0 ; la liste croît avec le cube de 1/d.</translation>
     </message>
     <message>
-        <source>without a number above 0 it is asked for again, without end</source>
+        <source>without a number above 0 the question comes again, without end</source>
         <translation>sans nombre au-dessus de 0 la question revient sans fin</translation>
     </message>
     <message>
@@ -4164,7 +4164,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>%1 commence par d'autres octets</translation>
     </message>
     <message>
-        <source>the interference function can't have %1 steps along an axis</source>
+        <source>the interference function cannot have %1 steps along an axis</source>
         <translation>la fonction d'interférence ne peut avoir %1 pas selon un axe</translation>
     </message>
     <message>
@@ -4328,7 +4328,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>il n'y a pas de diagramme mesuré</translation>
     </message>
     <message>
-        <source>there is no calculated curve: "CALC" makes one</source>
+        <source>there is no calculated curve: press "CALC" first</source>
         <translation>il n'y a pas de courbe calculée : « CALCULER » en fait une</translation>
     </message>
     <message>
@@ -4348,11 +4348,11 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>la fin du profil, d* max, vaut 0</translation>
     </message>
     <message>
-        <source>there is no curve yet: "CALC" makes one</source>
+        <source>there is no curve yet: press "CALC" first</source>
         <translation>il n'y a pas encore de courbe : « CALCULER » en fait une</translation>
     </message>
     <message>
-        <source>"Clear" has taken the curve away: "CALC" first</source>
+        <source>"Clear" has removed the curve: press "CALC" first</source>
         <translation>« Effacer » a enlevé la courbe : d'abord « CALCULER »</translation>
     </message>
     <message>
@@ -4380,7 +4380,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>2thêta min et 2thêta max sont égaux</translation>
     </message>
     <message>
-        <source>an intensity of 0 can't be drawn at full height</source>
+        <source>an intensity of 0 cannot be drawn at full height</source>
         <translation>une intensité de 0 ne peut être dessinée à pleine hauteur</translation>
     </message>
     <message>
@@ -4596,7 +4596,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>« Calculer » de la fenêtre de Kikuchi remplit la carte</translation>
     </message>
     <message>
-        <source>the map can't be made larger: it would turn over</source>
+        <source>the map cannot be made larger: it would turn over</source>
         <translation>la carte ne peut être agrandie : elle se retournerait</translation>
     </message>
     <message>
@@ -4756,7 +4756,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>aucune orientation trouvée pour affiner le centre</translation>
     </message>
     <message>
-        <source>expected are a maker and its numbers, as "bruker 0.5 0.25 0.6", or "emsoft 10 -20 15000 70" with the size of a pixel in micrometres</source>
+        <source>a maker and its numbers are expected, as "bruker 0.5 0.25 0.6", or "emsoft 10 -20 15000 70" with the size of a pixel in micrometres</source>
         <translation>un fabricant et ses nombres sont attendus, comme « bruker 0.5 0.25 0.6 », ou « emsoft 10 -20 15000 70 » avec la taille d'un pixel en micromètres</translation>
     </message>
     <message>
@@ -4988,7 +4988,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>no band.    éc.  corr. conf.      u      v      w   phi1    Phi   phi2</translation>
     </message>
     <message>
-        <source>can't read %1 as a bitmap: %2</source>
+        <source>cannot read %1 as a bitmap: %2</source>
         <translation>impossible de lire %1 comme bitmap : %L2</translation>
     </message>
     <message>
@@ -5068,7 +5068,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>il n'y a pas d'images en pixels ici</translation>
     </message>
     <message>
-        <source>what is to be kept has %1 parts, at most 4294967295 can be</source>
+        <source>the work to be kept has %1 parts, at most 4294967295 are possible</source>
         <translation>ce qui est à garder a %1 parties, 4294967295 au plus sont possibles</translation>
     </message>
     <message>
@@ -5084,7 +5084,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>il n'y a pas de fenêtre %1</translation>
     </message>
     <message>
-        <source>can't lock a file in %1: %2</source>
+        <source>cannot lock a file in %1: %2</source>
         <translation>impossible de verrouiller un fichier dans %1 : %L2</translation>
     </message>
     <message>
@@ -5144,7 +5144,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>une orientation n'en est pas une</translation>
     </message>
     <message>
-        <source>the planes of a crystal don't fit together</source>
+        <source>the planes of a crystal do not fit together</source>
         <translation>les plans d'un cristal ne vont pas ensemble</translation>
     </message>
     <message>
@@ -5208,7 +5208,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>%1 : un nombre est attendu, comme dans a=5.43</translation>
     </message>
     <message>
-        <source>%1: an element is expected behind the sign, as in +Si</source>
+        <source>%1: an element is expected after the sign, as in +Si</source>
         <translation>%1 : un élément est attendu après le signe, comme dans +Si</translation>
     </message>
     <message>
@@ -5224,11 +5224,11 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>combien de réflexions sont équivalentes, paires de Friedel comprises</translation>
     </message>
     <message>
-        <source>where a screw axis or a glide plane leaves nothing of it</source>
+        <source>where a screw axis or a glide plane forbids the reflection</source>
         <translation>où un axe hélicoïdal ou un plan de glissement n'en laisse rien</translation>
     </message>
     <message>
-        <source>the reflection that stands for all of the family</source>
+        <source>the reflection that represents the family</source>
         <translation>la réflexion qui représente toute la famille</translation>
     </message>
     <message>
@@ -5372,7 +5372,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>d&gt;1.5 h=1, ou un mot</translation>
     </message>
     <message>
-        <source>only rows for which all parts hold: a column compared by = &lt;&gt; &lt; &gt; &lt;= &gt;=, or any text</source>
+        <source>only rows that match all parts: a column compared by = &lt;&gt; &lt; &gt; &lt;= &gt;=, or any text</source>
         <translation>seulement les lignes où tout est vrai : une colonne comparée par = &lt;&gt; &lt; &gt; &lt;= &gt;=, ou un texte quelconque</translation>
     </message>
     <message>
@@ -5384,7 +5384,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>Colonnes</translation>
     </message>
     <message>
-        <source>what may stand beside the columns of the list</source>
+        <source>columns that can be added to those of the list</source>
         <translation>ce qui peut s'ajouter aux colonnes de la liste</translation>
     </message>
     <message>
@@ -5432,7 +5432,7 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
         <translation>quartz, +Si -Al, Fm-3m, a=5.43</translation>
     </message>
     <message>
-        <source>Words that all have to hold:
+        <source>A crystal has to match all words:
 quartz - in the name, the title or a folder
 SiO2 - this formula
 +Si -Al - with, without an element
@@ -5706,7 +5706,7 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <translation>une table a trop de colonnes</translation>
     </message>
     <message>
-        <source>its parts don't fit together</source>
+        <source>its parts do not fit together</source>
         <translation>ses parties ne vont pas ensemble</translation>
     </message>
     <message>
@@ -5726,7 +5726,7 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <translation>il est plus long que son contenu</translation>
     </message>
     <message>
-        <source>it is cut short or damaged, or its pixels have not 8 or 16 bits a colour</source>
+        <source>it is cut short or damaged, or its pixels do not have 8 or 16 bits per colour</source>
         <translation>il est tronqué ou abîmé, ou ses pixels n'ont pas 8 ou 16 bits par couleur</translation>
     </message>
     <message>
@@ -5926,7 +5926,7 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
         <translation>tourne la sphère pour que cette direction soit au milieu</translation>
     </message>
     <message>
-        <source>the pattern in all directions; a click tells the direction, a drag turns the sphere</source>
+        <source>the pattern in all directions; a click shows the direction, a drag turns the sphere</source>
         <translation>le diagramme dans toutes les directions ; un clic dit la direction, glisser tourne la sphère</translation>
     </message>
     <message>
