@@ -149,7 +149,7 @@ TEST_F(Batch, EndsWithTheStatusOfItsKindAndSaysWhy) {
       {"index silicon-pattern.bmp -c CopperLines.cry --pc .5,.5,.77 --master auto", 1,
        "CopperLines: the crystal has no"},
       {"index silicon-pattern.bmp -c NaCl.cry --pc .5,.5,.77 --master none.h5", 1, "none.h5"},
-      {"index silicon-pattern.bmp -c NaCl.cry -c NaCl.cry --pc .5,.5,.77 --master none.h5", 1, "NaCl has none; tell"},
+      {"index silicon-pattern.bmp -c NaCl.cry -c NaCl.cry --pc .5,.5,.77 --master none.h5", 1, "NaCl has none; give"},
       {"index silicon-pattern.bmp -c NaCl.cry --pc .5,.5,.7 --overlay none/there", 1, "there is no folder none/there"},
       {"centre missing.h5 -c NaCl.cry", 1, "missing.h5"},
       {"centre nothing.ang -c NaCl.cry", 1, "nothing.ang"},
