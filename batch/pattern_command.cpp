@@ -6,6 +6,7 @@
 #include "batch/figure.h"
 #include "batch/number_check.h"
 #include "batch/output_guard.h"
+#include "batch/set_number.h"
 #include "batch/words.h"
 #include "core/number_text.h"
 #include "kikuchi/window/pattern2_form.h"
@@ -26,10 +27,6 @@ struct PatternWords {
 };
 
 constexpr double usual_dispersion_deg = 5;
-
-void set_number(TextBox& box, std::optional<double> number) {
-  if (number) box.set_text(plain_text(to_single(*number)));
-}
 
 void set_axis(const std::array<double, 3>& axis, std::initializer_list<TextBox*> boxes) {
   std::size_t i = 0;

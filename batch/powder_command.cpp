@@ -8,6 +8,7 @@
 #include "batch/figure.h"
 #include "batch/number_check.h"
 #include "batch/output_guard.h"
+#include "batch/set_number.h"
 #include "core/number_text.h"
 #include "powder/histogram.h"
 #include "powder/window/dring_form.h"
@@ -29,10 +30,6 @@ struct PowderWords {
   std::string draw;
   bool roots = false, centred = false, inverse = false;
 };
-
-void set_number(TextBox& box, std::optional<double> number) {
-  if (number) box.set_text(plain_text(to_single(*number)));
-}
 
 void set_cells(const std::optional<double>& cells, std::initializer_list<TextBox*> boxes) {
   for (TextBox* box : boxes) set_number(*box, cells);

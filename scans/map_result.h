@@ -40,10 +40,6 @@ struct MapPhase {
   std::vector<Rotation> rotations;  ///< proper ones of the Laue group, in the crystal's frame
 };
 
-/// "-1" to "m-3m" of a space group's number, 1 to 230; files of other settings bear higher ones: "-1".
-/// Source: International Tables for Crystallography A (2016) 2.1.
-[[nodiscard]] std::string laue_class_of(int space_group);
-
 struct MapResult {
   ScanGrid grid;
   std::vector<PointResult> points;

@@ -85,6 +85,21 @@ TEST_F(AdviceTest, SignsSayWhyAndAClickAsksFirst) {
       << "the reason has gone with the atoms";
 }
 
+TEST_F(AdviceTest, AnEmptyWindowHasOneSignForOneReason) {
+  desktop.enter("a test", [this] { form<Pattern2Form>().show(); });
+  std::vector<const QWidget*> signs;
+  for (const auto* part : widget("Pattern2").findChildren<QWidget*>()) {
+    if (dynamic_cast<const WarningSign*>(part) != nullptr && !part->isHidden()) signs.push_back(part);
+  }
+  EXPECT_EQ(signs.size(), 1U);
+  const auto& calc = child<QWidget>("Pattern2", "Command8");
+  const auto& tilt = child<QWidget>("Pattern2", "Command1(0)");
+  EXPECT_EQ(calc.property("warning"), tilt.property("warning")) << "the reason stands at all of them";
+  EXPECT_FALSE(tilt.toolTip().isEmpty());
+  const QRect at(calc.mapTo(&widget("Pattern2"), QPoint()), calc.size());
+  EXPECT_TRUE(at.adjusted(-20, -20, 20, 20).contains(signs.at(0)->mapTo(&widget("Pattern2"), QPoint()))) << "at Calc";
+}
+
 // What is refused is shown as it was.
 TEST_F(AdviceTest, RefusedTextsAndChoicesGoBack) {
   agrees = false;

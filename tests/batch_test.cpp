@@ -247,6 +247,34 @@ TEST_F(Batch, IsStoppedByASignalAndLeavesNothing) {
 }
 
 // Densities and distances are those of the papers that the crystals were taken from, or follow by hand from cell and Z.
+// Stripes that turn, EDAX .up1 of version 1: a map of ten tiles, of which one is kept when it is stopped.
+TEST_F(Batch, AMapThatIsStoppedWritesNoneAndIsResumed) {
+  constexpr int side = 30;
+  constexpr int points = 24 * 80;
+  std::string scan;
+  for (const int number : {1, side, side, 16}) scan += {static_cast<char>(number), 0, 0, 0};
+  for (int i = 0; i < points * side * side; ++i) {
+    const int x = i % side;
+    const int y = i / side % side;
+    const int point = i / (side * side);
+    scan += static_cast<char>(60 + (x * 7 + y * 13 + point * 5) % 11 + ((x + y * (point % 7)) % 19 < 3 ? 30 : 0));
+  }
+  folder.write("scan.up1", scan);
+  const std::string map =
+      "map scan.up1 --size 24x80 -c " + crystals + "Copper.cry --pc .5,.3,.6 --master none -j 1 -q -o x.csv";
+  const auto stopped = run_program(
+      "{ " ZOL_BATCH " " + map +
+      " & until [ \"$(stat -c %s x.csv.part 2>&1)\" -gt 16 ] || ! kill -0 $!; do sleep .02; done 2>/dev/null; "
+      "kill -TERM $!; wait $!; }");
+  EXPECT_EQ(stopped.status, 3) << stopped.err;
+  EXPECT_EQ(stopped.err, "stopped; what is finished is in x.csv.part, --resume continues from there\n");
+  EXPECT_EQ(folder.read("x.csv"), "");
+  const auto resumed = batch(map + " --resume");
+  EXPECT_EQ(resumed.status, 0) << resumed.err;
+  EXPECT_EQ(lines(folder.read("x.csv")).size(), points + 1U);
+  EXPECT_EQ(folder.read("x.csv.part"), "");
+}
+
 TEST_F(Batch, InfoTellsWhatAFileHoldsAndWhatWasAssumed) {
   folder.write("broken.cif", "data_x\n");
   const auto text = batch("info " + crystals + "Silicon.cry " + crystals + "CopperLines.cry");

@@ -64,6 +64,31 @@ TEST(DeskLayout, AWindowComesUpBesideTheOneThatOpenedIt) {
   }
 }
 
+TEST(DeskLayout, BothAWindowAndItsOpenerBecomeNarrowerWhereThatGivesRoom) {
+  struct Case {
+    const char* what;
+    Narrowing opener, opened;
+    std::string places;
+  };
+  for (const auto& [what, opener, opened, places] : {
+           Case{"both are wide", {680, {0, 0, 1360, 700}}, {650, {0, 0, 1300, 720}}, "698x700+0+0 668x720+698+0"},
+           {"the new one is small",
+            {680, {0, 48, 1360, 720}},
+            {200, {0, 0, 300, 200}},
+            "1066x720+0+48 300x200+1066+48"},
+           {"the opener stands in the middle",
+            {600, {300, 0, 700, 400}},
+            {300, {0, 0, 500, 300}},
+            "700x400+166+0 500x300+866+0"},
+           {"it stands at the right", {400, {800, 0, 566, 400}}, {300, {0, 0, 900, 300}}, "566x400+800+0 800x300+0+0"},
+           {"a part stays covered", {680, {60, 0, 1300, 700}}, {1000, {0, 0, 1000, 700}}, "680x700+0+0 1000x700+366+0"},
+           {"too wide", {1000, {0, 0, 1300, 400}}, {900, {0, 0, 900, 400}}, ""},
+       }) {
+    const auto found = both_beside(opener, opened, laptop);
+    EXPECT_EQ(found ? text(found->opener) + ' ' + text(found->opened) : "", places) << what;
+  }
+}
+
 TEST(DeskLayout, ArrangedWindowsStandSideBySideAsFarAsTheScreenGoes) {
   struct Case {
     const char* what;
@@ -83,6 +108,32 @@ TEST(DeskLayout, ArrangedWindowsStandSideBySideAsFarAsTheScreenGoes) {
        }) {
     std::vector<std::string> found;
     for (const Tile& tile : arranged(least, laptop))
+      found.push_back(std::to_string(tile.page) + ' ' + text(tile.place));
+    EXPECT_EQ(found, tiles) << what;
+  }
+}
+
+TEST(DeskLayout, TheLastWindowGivesWay) {
+  struct Case {
+    const char* what;
+    QSize last;
+    std::vector<QSize> least;
+    std::vector<std::string> tiles;
+  };
+  for (const auto& [what, last, least, tiles] : {
+           Case{"alone", {700, 400}, {}, {"0 700x400+0+0"}},
+           {"side by side", {600, 400}, {{700, 600}}, {"0 733x768+0+0", "0 600x400+733+0"}},
+           {"behind two",
+            {700, 400},
+            {{683, 700}, {683, 600}},
+            {"0 683x736+0+32", "0 683x736+683+32", "1 700x400+0+0"}},
+           {"behind two pages",
+            {700, 400},
+            {{700, 700}, {700, 600}},
+            {"0 1366x704+0+64", "1 1366x736+0+32", "2 700x400+0+0"}},
+       }) {
+    std::vector<std::string> found;
+    for (const Tile& tile : arranged_before(last, least, laptop))
       found.push_back(std::to_string(tile.page) + ' ' + text(tile.place));
     EXPECT_EQ(found, tiles) << what;
   }

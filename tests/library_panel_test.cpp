@@ -8,6 +8,7 @@
 #include <QTreeView>
 
 #include "shell/desktop/group_search_box.h"
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/note_line.h"
 #include "tests/offscreen_desktop.h"
 
@@ -30,7 +31,7 @@ class LibraryPanelTest : public DesktopTest {
 
 TEST_F(LibraryPanelTest, IsSearchedAndOpensByTheKeyboard) {
   ASSERT_TRUE(says("libraryState", QStringLiteral("31 crystals"))) << said("libraryState").toStdString();
-  EXPECT_TRUE(QTest::qWaitFor([this] { return search().hasFocus(); }));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return search().hasFocus(); }, 20000));
   QTest::keyClicks(&search(), QStringLiteral("+Ti +O"));
   EXPECT_TRUE(says("libraryState", QStringLiteral("2 of 31 crystals")));
   EXPECT_EQ(said("libraryDetails"), QString());
@@ -88,6 +89,16 @@ TEST_F(GroupSearchTest, PicksTheGroupAndFollowsTheNumber) {
     EXPECT_EQ(list.lit(), static_cast<int>(Val(number)) - 1);
     EXPECT_EQ(search.text(), QString());
   }
+  const auto& nothing = child<QLabel>("Main1", "List3SearchNothing");
+  for (const auto& [language, typed, rows] :
+       {std::tuple{"de", "kubisch", 36}, {"de", "cubic", 36}, {"fr", "triclin", 2}, {"fr", "nichts", 0}}) {
+    use_language(QLatin1String(language));
+    search.setText(QString::fromLatin1(typed));
+    EXPECT_EQ(shown(), rows) << typed;
+    EXPECT_EQ(!nothing.isHidden(), rows == 0) << typed;
+  }
+  use_language(QStringLiteral("en"));
+  search.clear();
   desktop.enter("typed", [this] { main1().Text7.set_text("5"); });
   EXPECT_EQ(list.lit(), 4);
   EXPECT_TRUE(failures.empty());

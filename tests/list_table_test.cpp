@@ -80,6 +80,16 @@ TEST(ListTables, AreSortedFilteredAndWritten) {
   }
   EXPECT_EQ(table.text({1, 2}, ','), "n,d (Å),name\n2,9.5,\"\"\"b,\"\"\"\n3,x,eé\n");
   EXPECT_EQ(table.text({3}, '\t'), "n\td (Å)\tname\n4\t-.5\tab\n");
+  const ListTable zeros(declared(), lines({"1 -0.00 a", "-0 - -0", "2 -0.01 b"}), {});
+  EXPECT_EQ(zeros.text({0, 1, 2}, ','), "n,d (Å),name\n1,0.00,a\n0,-,-0\n2,-0.01,b\n");
+  for (const auto& [filter, fault] : {std::pair{"d>1,5 a", ""},
+                                      {"d>", ""},
+                                      {"name=x other", ""},
+                                      {"n=1 d<abc", "d<abc: \"abc\" is not a number"},
+                                      {"other=1", "other=1: there is no column \"other\""},
+                                      {"=1", ""}}) {
+    EXPECT_EQ(table.fault_of_filter(filter), fault);
+  }
   EXPECT_EQ(table.line_of(2), 3);
   EXPECT_EQ(table.row_of(0), -1);
   EXPECT_EQ(table.row_of(5), 4);

@@ -114,11 +114,13 @@ TEST(SharedParts, TellTheStateThatWindowsShare) {
   EXPECT_EQ(shared::radiation(state), "20 kV, λ 0.0866 Å");
   EXPECT_EQ(shared::order(state), "list by I/d");
   EXPECT_EQ(shared::half_angle(state), "area 37°");
+  EXPECT_EQ(shared::zone_axis(state), "") << "none yet";
   of.prepare("call Main1.CalcReflections");
   EXPECT_EQ(shared::order(state), "list by 1/d");
   of.prepare("set FiberTexture.Text1 2\nset FiberTexture.Text5 1\nclick FiberTexture.Command8\n");
   EXPECT_EQ(shared::order(state), "list by I, weakest first");
   EXPECT_EQ(shared::half_width(state), "half width 1 Å⁻¹");
+  EXPECT_EQ(shared::half_angle(state), "") << "1 degree is no angle of the Kikuchi window";
   EXPECT_EQ(shared::fiber_axis(state), "HKL 0 0 1");
   of.prepare("set Pattern2.Text1 37\nset Pattern2.Text5 1\nclick Pattern2.Command8\n");
   EXPECT_EQ(shared::order(state), "list by I/d, weakest first");

@@ -280,6 +280,32 @@ TEST_P(Translated, UsesEachMnemonicOnceAndGivesEnglishBack) {
   }
 }
 
+// Begun in one language and shown in another: what the menu bar and what can be seen share their letters.
+TEST_P(Shown, UsesEachMnemonicOnceAndGivesTheAddedMenusOne) {
+  use_language(QStringLiteral("de"));
+  QMainWindow& window = shown_top();
+  use_language(language());
+  settle();
+  QString used = letters(window.menuBar()->actions());
+  for (const auto* button : window.findChildren<QAbstractButton*>()) {
+    if (const auto at = mnemonic_at(button->text()); at >= 0 && button->isVisible())
+      used += button->text()[at].toUpper();
+  }
+  for (const auto* label : window.findChildren<QLabel*>()) {
+    const auto at = mnemonic_at(label->text());
+    if (at >= 0 && label->buddy() && label->isVisible()) used += label->text()[at].toUpper();
+  }
+  for (const QChar key : used) EXPECT_EQ(used.count(key), 1) << key.toLatin1() << " in " << used.toStdString();
+  for (const auto* action : window.menuBar()->actions()) {
+    const QString text = action->text();
+    const bool none_left = std::all_of(text.begin(), text.end(), [&used](QChar letter) {
+      return !letter.isLetter() || used.contains(letter.toUpper());
+    });
+    EXPECT_TRUE(mnemonic_at(text) >= 0 || none_left) << text.toStdString() << ", used: " << used.toStdString();
+  }
+  EXPECT_GE(window.minimumSizeHint().width(), window.menuBar()->sizeHint().width());
+}
+
 class ChosenLanguage : public DesktopTest {
  protected:
   ChosenLanguage() { look_settings().clear(); }

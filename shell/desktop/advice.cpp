@@ -1,6 +1,8 @@
 #include "shell/desktop/advice.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -41,7 +43,16 @@ class Sign {
     shown_.setProperty("toolTip", reason.isEmpty() ? tool_tip_ : tool_tip_ + QLatin1Char('\n') + reason);
     if (auto* action = qobject_cast<QAction*>(&shown_)) return sign_item(*action);
     delete sign_;
-    if (auto* widget = qobject_cast<QWidget*>(&shown_); widget != nullptr && !reason.isEmpty()) {
+  }
+
+  [[nodiscard]] const Control& control() const { return control_; }
+  /// Empty where there is none, and for menu items, which have signs of their own.
+  [[nodiscard]] QString reason_beside() const { return shown_.isWidgetType() ? reason_ : QString(); }
+  void show_sign(bool wanted) {
+    if (wanted == (sign_ != nullptr)) return;
+    if (!wanted) {
+      delete sign_;
+    } else if (auto* widget = qobject_cast<QWidget*>(&shown_)) {
       sign_ = new WarningSign(*widget);
     }
   }
@@ -79,6 +90,7 @@ class Advice::OfWindow : public QObject {
       if (shown == nullptr) continue;
       if (control->warn_when) signs_.emplace_back(*control, *shown);
       if (control->made_from || control->remarks) add_line(*control, *shown);
+      if (control->made_from) makers_.insert(control->made_from->again.begin(), control->made_from->again.end());
     }
     if (!window.reads.empty()) add_foot();
   }
@@ -87,6 +99,7 @@ class Advice::OfWindow : public QObject {
     if (!top_.isVisible()) return;
     auto* top = qobject_cast<QMainWindow*>(&top_);
     for (Sign& sign : signs_) sign.update(top == nullptr ? nullptr : top->statusBar());
+    show_signs();
     for (const auto& [control, line] : lines_) {
       const auto note = advice_.notes_.note_of(*control);
       line->set_note(to_qt(note.line()), !note.again.empty());
@@ -101,6 +114,21 @@ class Advice::OfWindow : public QObject {
   }
 
  private:
+  /// Where one reason stands against many controls, as in an empty window, one sign is enough: at what would make the
+  /// result, else at the first.
+  void show_signs() {
+    constexpr int few = 4;
+    std::map<QString, std::vector<Sign*>> by_reason;
+    for (Sign& sign : signs_) by_reason[sign.reason_beside()].push_back(&sign);
+    for (const auto& [reason, signs] : by_reason) {
+      const auto makes = std::find_if(signs.begin(), signs.end(),
+                                      [this](const Sign* sign) { return makers_.count(&sign->control()) > 0; });
+      const Sign* chosen = makes == signs.end() ? signs.front() : *makes;
+      const bool all = static_cast<int>(signs.size()) <= few;
+      for (Sign* sign : signs) sign->show_sign(!reason.isEmpty() && (all || sign == chosen));
+    }
+  }
+
   void add_line(const Control& control, QObject& shown) {
     const auto again = [this, &control] {
       for (const CommandButton* button : advice_.notes_.note_of(control).again) {
@@ -145,6 +173,7 @@ class Advice::OfWindow : public QObject {
   Window& window_;
   QWidget& top_;
   std::vector<Sign> signs_;
+  std::set<const Control*> makers_;                          ///< buttons that make the results
   std::vector<std::pair<const Control*, NoteLine*>> lines_;  ///< children of their views
   WordLine* foot_ = nullptr;                                 ///< a child of the top level
 };

@@ -42,7 +42,7 @@ Desk::Desk(Program& program, UserEvents& events, const QString& settings_file)
       recent_(settings_.get(), opening_,
               [this](const std::string& fault) { program_.bench().services.message(fault, "ZOL"); }),
       places_(settings_.get()),
-      tables_(program.bench().services, events, settings_.get()) {
+      tables_(program.bench().services, events, settings_.get(), [this] { return program_.crystal_name(); }) {
   program_.bench().services.set_chosen(
       [this](const FileQuestion& question, const std::string& path) { recent_.chosen(question, path); });
 }

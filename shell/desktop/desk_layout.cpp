@@ -113,9 +113,29 @@ QRect beside(const QSize& size, const QRect& opener, const std::vector<QRect>& o
   return best;
 }
 
-std::vector<Tile> arranged(const std::vector<QSize>& least, const QRect& room) {
-  const auto lowered = [&room](std::size_t strips) {
-    return room.adjusted(0, std::min(page_strip * static_cast<int>(strips), room.height() / 2), 0, 0);
+std::optional<Pair> both_beside(const Narrowing& opener, const Narrowing& opened, const QRect& room) {
+  const int covered = opener.least_width + opened.least_width - room.width();
+  if (covered > opener.least_width / 2) return std::nullopt;
+  const auto shared = [&room](const Narrowing& one, int other_width) {
+    return std::min(one.place.width(), std::max(one.least_width, room.width() - other_width));
+  };
+  const int fair = opener.least_width + std::max(0, -covered) / 2;
+  const int opened_width = shared(opened, std::min(opener.place.width(), fair));
+  const int opener_width = shared(opener, opened_width);
+  const bool wide = opener.place.width() > room.width() / 2;
+  const bool at_left = wide || opener.place.center().x() <= room.center().x();
+  const int least_left = room.left() + (at_left ? 0 : opened_width);
+  const int spare = std::max(0, room.width() - opener_width - opened_width);
+  const int left = std::clamp(opener.place.left(), least_left, least_left + spare);
+  const QRect narrowed = moved_into({{left, opener.place.top()}, QSize(opener_width, opener.place.height())}, room);
+  const int beside_it = at_left ? narrowed.right() + 1 : narrowed.left() - opened_width;
+  const QSize size(opened_width, std::min(opened.place.height(), room.height()));
+  return Pair{narrowed, moved_into({{beside_it, narrowed.top()}, size}, room)};
+}
+
+std::vector<Tile> arranged(const std::vector<QSize>& least, const QRect& room, int strip) {
+  const auto lowered = [&room, strip](std::size_t strips) {
+    return room.adjusted(0, std::min(strip * static_cast<int>(strips), room.height() / 2), 0, 0);
   };
   std::vector<Page> pages = pages_of(least, room.size());
   for (std::size_t before = 1; pages.size() > before;) {  // the strips take some of the room
@@ -126,6 +146,18 @@ std::vector<Tile> arranged(const std::vector<QSize>& least, const QRect& room) {
   for (std::size_t i = 0; i < pages.size(); ++i) {
     place_page(pages[i], static_cast<int>(i), lowered(pages.size() - 1 - i), tiles);
   }
+  return tiles;
+}
+
+std::vector<Tile> arranged_before(const QSize& last, const std::vector<QSize>& least, const QRect& room, int strip) {
+  std::vector<QSize> all = least;
+  all.push_back(last);
+  auto tiles = arranged(all, room, strip);
+  if (tiles.back().page > 0) {
+    tiles = arranged(least, room.adjusted(0, std::min(strip, room.height() / 2), 0, 0), strip);
+    tiles.push_back({room, tiles.empty() ? 0 : tiles.back().page + 1});
+  }
+  tiles.back().place.setSize(last.boundedTo(tiles.back().place.size()));
   return tiles;
 }
 

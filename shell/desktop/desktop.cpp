@@ -29,6 +29,7 @@
 #include "shell/desktop/language/shown_widgets.h"
 #include "shell/desktop/look/folding.h"
 #include "shell/desktop/look/look.h"
+#include "shell/desktop/mnemonics.h"
 #include "shell/desktop/note_line.h"
 #include "shell/desktop/qt_text.h"
 #include "shell/desktop/screen_fit.h"
@@ -164,7 +165,11 @@ void Desktop::end(int status) {
 }
 
 void Desktop::show_changes(bool with_lists) {
-  for (const auto& [name, shown] : shown_) shown.binder->show_changes(with_lists);
+  Binder* last = binder(active_);  // it may be one of several that come up: it stands in front of the others
+  for (const auto& [name, shown] : shown_) {
+    if (shown.binder.get() != last) shown.binder->show_changes(with_lists);
+  }
+  if (last != nullptr) last->show_changes(with_lists);
 }
 
 void Desktop::show_crystal() {
@@ -250,8 +255,8 @@ void Desktop::open_files(const std::vector<std::string>& paths) {
 
 /// The keys in every window; the menu, which names the step, where there is a menu bar.
 void Desktop::add_undo(QWidget& widget) {
-  auto* bar = widget.findChild<QMenuBar*>();
-  QMenu* menu = bar == nullptr ? nullptr : bar->addMenu(tr("Edit"));
+  const auto* top = widget.findChild<QMenuBar*>() == nullptr ? nullptr : qobject_cast<QMainWindow*>(&widget);
+  QMenu* menu = top == nullptr ? nullptr : top->menuBar()->addMenu(with_free_mnemonic(*top, tr("Edit")));
   struct Entry {
     QString text;
     QKeySequence keys;
@@ -334,7 +339,10 @@ void Desktop::breathe() {
 }
 
 bool Desktop::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::LanguageChange && desk_ && !ended()) desk_->update();
+  if (event->type() == QEvent::LanguageChange && desk_ && !ended()) {
+    desk_->update();
+    if (auto* top = qobject_cast<QWidget*>(watched)) return_to_screen(*top);
+  }
   const bool closes = event->type() == QEvent::Close;
   if ((!closes && event->type() != QEvent::WindowActivate) || ended()) return QObject::eventFilter(watched, event);
   const auto found = std::find_if(shown_.begin(), shown_.end(),

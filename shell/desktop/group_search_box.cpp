@@ -2,12 +2,15 @@
 
 #include <QBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QListView>
 #include <QMainWindow>
 
 #include "core/number_text.h"
+#include "shell/desktop/language/language.h"
 #include "shell/desktop/note_line.h"
 #include "structures/group_search.h"
+#include "structures/library_entry.h"
 
 namespace zol {
 namespace {
@@ -15,6 +18,17 @@ namespace {
 QString row_text(const QListView& list, int row) { return list.model()->index(row, 0).data().toString(); }
 
 int rows_of(const QListView& list) { return list.model() == nullptr ? 0 : list.model()->rowCount(); }
+
+/// A crystal system in the language that is shown, as "kubi", in English; all else as it was typed.
+std::string english(const QString& typed) {
+  constexpr int letters_of_system = 4;
+  constexpr int last_group = 230;
+  for (int group = 1; typed.size() >= letters_of_system && group <= last_group; ++group) {
+    const std::string system(crystal_system(group));
+    if (shown(QString::fromStdString(system)).startsWith(typed, Qt::CaseInsensitive)) return system;
+  }
+  return typed.toStdString();
+}
 
 }  // namespace
 
@@ -24,14 +38,24 @@ GroupSearchBox::GroupSearchBox(QListView& list) : list_(list) {
   setPlaceholderText(tr("Fm-3m, 225, cubic"));
   setToolTip(tr("number, symbol or crystal system of a space group; Enter takes the first one found"));
   connect(this, &QLineEdit::textChanged, this, &GroupSearchBox::filter);
+  nothing_ = new QLabel(list.viewport());
+  nothing_->setObjectName(objectName() + QStringLiteral("Nothing"));
+  nothing_->setProperty("look", QStringLiteral("muted"));
+  nothing_->setAttribute(Qt::WA_TransparentForMouseEvents);
+  nothing_->move(4, 4);
+  nothing_->hide();
 }
 
 void GroupSearchBox::filter() {
-  const std::string typed = text().trimmed().toStdString();
+  const std::string typed = english(text().trimmed());
   const GroupSearch search(typed);
   for (int row = 0; row < rows_of(list_); ++row) {
     list_.setRowHidden(row, !finds_row(typed, search, row_text(list_, row).toStdString()));
   }
+  const bool nothing = rows_of(list_) > 0 && first_shown() < 0;
+  nothing_->setText(nothing ? shown(tr("nothing found")) : QString());  // a folded group tells what labels say
+  nothing_->setVisible(nothing);
+  nothing_->adjustSize();
 }
 
 int GroupSearchBox::first_shown() const {

@@ -4,6 +4,7 @@
 
 #include <QLineEdit>
 
+class QLabel;
 class QListView;
 class QMainWindow;
 
@@ -27,6 +28,7 @@ class GroupSearchBox : public QLineEdit {
   [[nodiscard]] int first_shown() const;  ///< -1 where there is none
 
   QListView& list_;
+  QLabel* nothing_;  ///< shown in the list where no row is found; its child
 };
 
 /// Gives one to each list whose layout says `searches` "groups"; `follows` there names the box with the number.

@@ -22,7 +22,7 @@ void ListTables::offer(ListBox& list, QListView& view, QMainWindow& top) {
   view.addAction(action);
   connect(action, &QAction::triggered, this, [this, &list, &top, shown = QPointer<TableWindow>()]() mutable {
     if (shown == nullptr) {
-      shown = new TableWindow(list, top, services_, events_, settings_);
+      shown = new TableWindow(list, top, services_, events_, settings_, crystal_);
       tables_.emplace_back(shown);
     }
     shown->open();

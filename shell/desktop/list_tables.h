@@ -1,6 +1,9 @@
 // Gives lists of columns the command "Show as table", by key and in their context menus.
 #pragma once
 
+#include <functional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include <QPointer>
@@ -15,8 +18,9 @@ namespace zol {
 class ListTables : public QObject {
  public:
   /// @param settings  where tables keep what they show; nullptr: nowhere
-  ListTables(Services& services, UserEvents& events, QSettings* settings)
-      : services_(services), events_(events), settings_(settings) {}
+  /// @param crystal  its name, Latin-1
+  ListTables(Services& services, UserEvents& events, QSettings* settings, std::function<std::string()> crystal)
+      : services_(services), events_(events), settings_(settings), crystal_(std::move(crystal)) {}
 
   /// A window has come into being, and its lists are tied to their views.
   void add(Window& window, QMainWindow& top);
@@ -29,6 +33,7 @@ class ListTables : public QObject {
   Services& services_;
   UserEvents& events_;
   QSettings* settings_;
+  std::function<std::string()> crystal_;
   std::vector<QPointer<TableWindow>> tables_;  ///< each goes with the window of its list
 };
 

@@ -4,15 +4,103 @@
 #include <vector>
 
 #include <QApplication>
+#include <QEvent>
 #include <QMainWindow>
+#include <QMenuBar>
 #include <QScreen>
 #include <QScrollArea>
+#include <QStatusBar>
+#include <QTimer>
 
 #include "shell/desktop/desk_layout.h"
 
 namespace zol {
+namespace {
+
+constexpr int settled_ms = 100;         // by then a window has its frame and its layout
+constexpr auto size_given = "zolSize";  // by the program; a window of another one was changed by the user
+
+bool is_usual(const QWidget& window) {
+  return (window.windowState() & (Qt::WindowMinimized | Qt::WindowMaximized | Qt::WindowFullScreen)) == 0;
+}
+
+bool as_given(const QWidget& window) {
+  return is_usual(window) && window.size() == window.property(size_given).toSize();
+}
+
+void give_size(QWidget& window, const QSize& size) {
+  window.resize(size);
+  window.setProperty(size_given, window.size());
+}
+
+/// What a window that is not on the screen yet gets as its frame is not known.
+QSize frame_of(const QWidget& window) {
+  return window.isVisible() ? window.frameGeometry().size() - window.size() : usual_frame;
+}
+
+Narrowing narrowing_of(const QWidget& window) {
+  const int least = window.minimumSizeHint().expandedTo(window.minimumSize()).width();
+  const QSize frame = frame_of(window);
+  return {least + frame.width(), {window.pos(), window.size() + frame}};
+}
+
+/// Once more where the size has changed since: the window manager takes the place then for that without the frame.
+void move_frame(QWidget& window, const QPoint& place) {
+  window.move(place);
+  QTimer::singleShot(settled_ms, &window, [&window, place] {
+    if (window.isVisible() && is_usual(window) && window.pos() != place) window.move(place);
+  });
+}
+
+bool share(QWidget& window, QWidget& other, const QRect& room) {
+  if (!as_given(window) || !as_given(other) || gives_way(other)) return false;
+  const auto pair = both_beside(narrowing_of(other), narrowing_of(window), room);
+  if (!pair) return false;
+  give_size(window, pair->opened.size() - frame_of(window));
+  move_frame(window, pair->opened.topLeft());
+  give_size(other, pair->opener.size() - frame_of(other));
+  move_frame(other, pair->opener.topLeft());
+  return true;
+}
+
+/// No menu hides behind a sign at the end of the bar: the window does not get narrower than its menu bar. The status
+/// line carries that, since a least width of the window itself would stand in place of that of its contents.
+class MenuRoom : public QObject {
+ public:
+  MenuRoom(QMenuBar& bar, QStatusBar& status) : QObject(&bar), bar_(bar), status_(status) {
+    bar.installEventFilter(this);
+    measure();
+  }
+
+ protected:
+  bool eventFilter(QObject* /*watched*/, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::ActionAdded:
+      case QEvent::ActionChanged:
+      case QEvent::ActionRemoved:
+      case QEvent::FontChange:
+      case QEvent::StyleChange:
+        QTimer::singleShot(0, this, [this] { measure(); });  // the bar has not seen it yet
+        break;
+      default:
+        break;
+    }
+    return false;
+  }
+
+ private:
+  void measure() { status_.setMinimumWidth(bar_.sizeHint().width()); }
+
+  QMenuBar& bar_;
+  QStatusBar& status_;
+};
+
+}  // namespace
+
+bool gives_way(const QWidget& window) { return window.property("givesWay").toBool(); }
 
 void fit_to_screen(QMainWindow& window) {
+  new MenuRoom(*window.menuBar(), *window.statusBar());
   const QSize room = window.screen()->availableSize() - usual_frame;
   const QSize least = window.minimumSizeHint();
   if (least.boundedTo(room) != least) {
@@ -24,10 +112,22 @@ void fit_to_screen(QMainWindow& window) {
     window.setCentralWidget(area);
     window.setMinimumSize(least.boundedTo(room));
   }
-  window.resize(window.size().expandedTo(least).boundedTo(room));
+  give_size(window, window.size().expandedTo(least).boundedTo(room));
 }
 
-void place_beside(QWidget& window, const QWidget& other) {
+void return_to_screen(QWidget& window) {
+  QTimer::singleShot(settled_ms, &window, [&window] {
+    if (!window.isVisible() || !is_usual(window)) return;
+    const QRect place = on_screens(window.frameGeometry(), {window.screen()->availableGeometry()});
+    if (place == window.frameGeometry()) return;
+    window.resize(place.size() - frame_of(window));
+    window.move(place.topLeft());
+  });
+}
+
+void keep_place(QWidget& window) { window.setProperty(size_given, QSize()); }
+
+void place_beside(QWidget& window, QWidget& other) {
   std::vector<QRect> others;
   for (const QWidget* top : QApplication::topLevelWidgets()) {
     if (top->isVisible() && top != &window && top != &other && top->windowType() == Qt::Window) {
@@ -35,7 +135,9 @@ void place_beside(QWidget& window, const QWidget& other) {
     }
   }
   const QRect room = other.screen()->availableGeometry();
-  window.move(beside(window.size() + usual_frame, other.frameGeometry(), others, room).topLeft());
+  const QRect place = beside(window.size() + usual_frame, other.frameGeometry(), others, room);
+  const bool covers = place.intersects(other.frameGeometry());
+  if (!covers || !share(window, other, room)) move_frame(window, place.topLeft());
 }
 
 }  // namespace zol

@@ -10,7 +10,17 @@ namespace zol {
 /// scroll.
 void fit_to_screen(QMainWindow& window);
 
-/// Moves a window to where it covers the least of another one, and then of the others.
-void place_beside(QWidget& window, const QWidget& other);
+/// Whether its layout says `givesWay`: it opens others, and is of least use beside them.
+[[nodiscard]] bool gives_way(const QWidget& window);
+
+/// Moves a window to where it covers the least of another one, and then of the others. Where it would cover that one,
+/// both become narrower as far as they can, unless the user has changed one of them.
+void place_beside(QWidget& window, QWidget& other);
+
+/// Moves a window that has grown beyond its screen back, once its layout has settled.
+void return_to_screen(QWidget& window);
+
+/// It stands where the user wants it, and stays there.
+void keep_place(QWidget& window);
 
 }  // namespace zol

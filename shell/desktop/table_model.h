@@ -38,6 +38,7 @@ class TableModel : public QAbstractTableModel {
   [[nodiscard]] int line_of(int row) const { return table_.line_of(shown_[static_cast<std::size_t>(row)]); }
   /// The row that shows a line of the list now, -1 when none does.
   [[nodiscard]] int row_of(int line) const;
+  [[nodiscard]] std::string fault_of_filter() const { return table_.fault_of_filter(english_filter()); }
   [[nodiscard]] int all_rows() const { return table_.rows(); }
   /// Heads and these rows. @param between  see ListTable
   [[nodiscard]] std::string text(const std::vector<int>& rows, char between) const;

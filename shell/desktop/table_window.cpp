@@ -25,15 +25,16 @@
 
 namespace zol {
 
-TableWindow::TableWindow(ListBox& list, QWidget& owner, Services& services, UserEvents& events, QSettings* settings)
+TableWindow::TableWindow(ListBox& list, QWidget& owner, Services& services, UserEvents& events, QSettings* settings,
+                         std::function<std::string()> crystal)
     : QWidget(&owner, Qt::Window),
       list_(list),
       services_(services),
       events_(events),
       settings_(settings),
+      crystal_(std::move(crystal)),
       model_(list, this) {
   setObjectName(QString::fromStdString(list.name() + "Table"));
-  setWindowTitle(tr("Table: %1").arg(QString::fromStdString(list.table->title)));
   lay_out();
   take_kept();
   tie();
@@ -188,6 +189,14 @@ void TableWindow::read() {
   show_after_change();
 }
 
+void TableWindow::show_title() {
+  const std::string crystal = crystal_();
+  if (!windowTitle().isEmpty() && crystal == titled_crystal_) return;
+  titled_crystal_ = crystal;
+  const QString title = QString::fromStdString(list_.table->title);
+  setWindowTitle(crystal.empty() ? tr("Table: %1").arg(title) : tr("Table: %1 - %2").arg(title, to_qt(crystal)));
+}
+
 /// To their contents, apart from those that the user has drawn to another width.
 void TableWindow::fit_columns() {
   const bool showing = std::exchange(showing_, true);
@@ -247,14 +256,17 @@ void TableWindow::show_all_columns() {
 
 void TableWindow::update_rows() {
   if (!isVisible() && read_revision_ >= 0) return;
+  show_title();
   if (read_revision_ != list_.revision()) return read();
   if (shown_line_ != list_.list_index()) show_line();
 }
 
 void TableWindow::show_after_change() {
   const int shown = model_.rowCount();
-  count_.setText(shown == model_.all_rows() ? tr("%1 rows").arg(shown)
-                                            : tr("%1 of %2 rows").arg(shown).arg(model_.all_rows()));
+  const QString count =
+      shown == model_.all_rows() ? tr("%1 rows").arg(shown) : tr("%1 of %2 rows").arg(shown).arg(model_.all_rows());
+  const QString fault = QString::fromStdString(model_.fault_of_filter());
+  count_.setText(fault.isEmpty() ? count : fault);
   show_line();
 }
 
@@ -307,22 +319,25 @@ void TableWindow::copy() {
 }
 
 void TableWindow::save() {
-  events_.act(list_.window(), {list_.path() + " was saved as a table", "", [this] {
-                                 const NameEnding ending{".csv"};
-                                 const std::string answer = services_.ask_file({.kind = FileKind::Export,
-                                                                                .save = true,
-                                                                                .file_name = list_.table->title,
-                                                                                .filter = "CSV|*.csv|",
-                                                                                .ending = ending});
-                                 if (answer.empty()) return;
-                                 try {
-                                   AtomicFile file(ending.added_to(answer));
-                                   file.contain(model_.text(all_rows(), ','));
-                                   file.commit();
-                                 } catch (const RunFailure& failure) {
-                                   services_.message(failure.message(), "Save as CSV");
-                                 }
-                               }});
+  events_.act(list_.window(),
+              {list_.path() + " was saved as a table", "", [this] {
+                 const NameEnding ending{".csv"};
+                 const std::string crystal = crystal_();
+                 const std::string answer = services_.ask_file(
+                     {.kind = FileKind::Export,
+                      .save = true,
+                      .file_name = crystal.empty() ? list_.table->title : crystal + " - " + list_.table->title,
+                      .filter = "CSV|*.csv|",
+                      .ending = ending});
+                 if (answer.empty()) return;
+                 try {
+                   AtomicFile file(ending.added_to(answer));
+                   file.contain(model_.text(all_rows(), ','));
+                   file.commit();
+                 } catch (const RunFailure& failure) {
+                   services_.message(failure.message(), "Save as CSV");
+                 }
+               }});
 }
 
 bool TableWindow::eventFilter(QObject* watched, QEvent* event) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include <QLabel>
 #include <QLineEdit>
@@ -24,7 +25,9 @@ class TableWindow : public QWidget {
  public:
   /// @param owner  the window that holds the list; it goes with that one
   /// @param settings  where columns, order, widths and size are kept between runs; nullptr: nowhere
-  TableWindow(ListBox& list, QWidget& owner, Services& services, UserEvents& events, QSettings* settings);
+  /// @param crystal  its name, Latin-1, for the title and for files; empty where there is none
+  TableWindow(ListBox& list, QWidget& owner, Services& services, UserEvents& events, QSettings* settings,
+              std::function<std::string()> crystal);
 
   /// Comes to the front.
   void open();
@@ -39,6 +42,7 @@ class TableWindow : public QWidget {
 
  private:
   void lay_out();
+  void show_title();
   void tie();
   void add_command(const QString& text, const QKeySequence& keys, const std::function<void()>& run);
   void fill_columns_menu();
@@ -63,6 +67,8 @@ class TableWindow : public QWidget {
   Services& services_;
   UserEvents& events_;
   QSettings* settings_;
+  std::function<std::string()> crystal_;
+  std::string titled_crystal_;
   TableModel model_;
   QTableView view_;
   QLineEdit filter_;

@@ -10,6 +10,7 @@
 #include <QSettings>
 
 #include "shell/desktop/desk_layout.h"
+#include "shell/desktop/screen_fit.h"
 #include "shell/services/window.h"
 
 namespace zol {
@@ -45,6 +46,7 @@ void WindowPlaces::follow(const Window& window, QMainWindow& top) {
     const QRect place = on_screens({kept.topLeft(), kept.size() + usual_frame}, screens());
     top.resize(place.size() - usual_frame);
     top.move(place.topLeft());
+    keep_place(top);
   }
   top.setProperty(name_of, name);
   top.installEventFilter(this);

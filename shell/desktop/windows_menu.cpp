@@ -12,6 +12,7 @@
 #include "shell/desktop/language/language.h"
 #include "shell/desktop/mnemonics.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/desktop/screen_fit.h"
 #include "shell/services/window.h"
 
 namespace zol {
@@ -103,26 +104,43 @@ void WindowsMenu::check(const QMainWindow& current) {
   for (std::size_t i = 0; i < listed_.size(); ++i) actions_[i]->setChecked(listed_[i] == &current);
 }
 
-void WindowsMenu::arrange(QMainWindow& current) {
-  std::vector<QMainWindow*> tops{&current};  // on the first page
-  for (const Entry* entry : open()) {
+/// The current one and those that were opened last, which it is likely to need; what gives way stands at the end.
+std::vector<QMainWindow*> WindowsMenu::in_order_of_use(QMainWindow& current) const {
+  std::vector<QMainWindow*> tops{&current};
+  auto others = open();
+  std::reverse(others.begin(), others.end());
+  for (const Entry* entry : others) {
     if (entry->top != &current && entry->top->isVisible() && !entry->top->isMinimized()) tops.push_back(entry->top);
+  }
+  std::stable_partition(tops.begin(), tops.end(), [](const QMainWindow* top) { return !gives_way(*top); });
+  return tops;
+}
+
+void WindowsMenu::arrange(QMainWindow& current) {
+  const auto tops = in_order_of_use(current);
+  for (QMainWindow* top : tops) {
+    if (top->isMaximized()) top->showNormal();
   }
   std::vector<QSize> least;
   least.reserve(tops.size());
+  int title = 0;
   for (const QMainWindow* top : tops) {
     least.push_back(top->minimumSizeHint().expandedTo(top->minimumSize()) + frame_of(*top));
+    title = std::max(title, top->geometry().top() - top->frameGeometry().top());
   }
-  const auto tiles = arranged(least, current.screen()->availableGeometry());
+  if (title == 0) title = page_strip;  // the frames are not known
+  const QRect room = current.screen()->availableGeometry();
+  const QMainWindow& last = *tops.back();
+  if (gives_way(last)) least.pop_back();
+  const auto tiles =
+      gives_way(last) ? arranged_before(last.frameGeometry().size(), least, room, title) : arranged(least, room, title);
   for (std::size_t i = tops.size(); i-- > 0;) {  // the first page comes to the front
     QMainWindow& top = *tops[i];
-    if (top.isMaximized()) top.showNormal();
     top.resize(tiles[i].place.size() - frame_of(top));
     top.move(tiles[i].place.topLeft());
     top.raise();
   }
-  current.raise();
-  current.activateWindow();
+  tops.front()->activateWindow();
 }
 
 }  // namespace zol

@@ -40,6 +40,7 @@ class WindowsMenu : public QObject {
     int opened = 0;  ///< the how many-th window that was opened; 0 while it is not open
   };
   [[nodiscard]] std::vector<const Entry*> open() const;
+  [[nodiscard]] std::vector<QMainWindow*> in_order_of_use(QMainWindow& current) const;
   void add_action();
   void check(const QMainWindow& current);
 

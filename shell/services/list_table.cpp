@@ -26,6 +26,12 @@ std::string quoted(const std::string& cell, char between) {
   return text + '"';
 }
 
+/// A rounded number keeps the sign of what it was: "-0.00" says no more than "0.00".
+std::string without_sign_of_zero(const std::string& cell) {
+  const bool zero = cell.starts_with('-') && cell.find_first_not_of("-0.") == std::string::npos;
+  return zero && cell.find('0') != std::string::npos ? cell.substr(1) : cell;
+}
+
 }  // namespace
 
 std::vector<std::string> ListTable::choices(const ListColumns& declared) {
@@ -166,7 +172,7 @@ ListCells ListTable::cells(int row) const {
                               : head.from == From::Family ? of_family
                                                           : of_added[head.added];
     const std::string& cell = source.at(head.cell);
-    shown.push_back(head.column.kind == ListColumn::Number ? cell : utf8_of_latin1(cell));
+    shown.push_back(head.column.kind == ListColumn::Number ? without_sign_of_zero(cell) : utf8_of_latin1(cell));
   }
   return shown;
 }
@@ -203,6 +209,8 @@ std::vector<int> ListTable::arranged(int sorted_by, bool descending, std::string
   for (const std::size_t place : places) arranged.push_back(order[place]);
   return arranged;
 }
+
+std::string ListTable::fault_of_filter(std::string_view filter) const { return TableFilter(filter, *this).fault(); }
 
 std::string ListTable::text(const std::vector<int>& rows, char between) const {
   std::string text;

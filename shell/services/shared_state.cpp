@@ -38,7 +38,10 @@ std::string radiation(const CrystalState& state) {
   return state.AccVoltage > 0 ? number(state.AccVoltage) + " kV, " + length : length;
 }
 
-std::string half_angle(const CrystalState& state) { return "area " + number(state.CamAcquisition) + "°"; }
+std::string half_angle(const CrystalState& state) {
+  constexpr double least = 3;  // what is less is a width of spots, instead of which the window takes its own angle
+  return state.CamAcquisition < least ? "" : "area " + number(state.CamAcquisition) + "°";
+}
 
 std::string half_width(const CrystalState& state) { return "half width " + number(state.CamAcquisition) + " Å⁻¹"; }
 
@@ -47,6 +50,7 @@ std::string shifts(const CrystalState& state) {
 }
 
 std::string zone_axis(const CrystalState& state) {
+  if (state.ZoneU == 0 && state.ZoneV == 0 && state.ZoneW == 0) return "";  // none has been set
   return "axis [" + three(state.ZoneU, state.ZoneV, state.ZoneW) + "]";
 }
 

@@ -35,8 +35,21 @@ TableFilter::TableFilter(std::string_view text, const ListTable& table) {
   while (!text.empty()) {
     const auto word = text.substr(0, text.find(' '));
     text.remove_prefix(std::min(text.size(), word.size() + 1));
-    if (!word.empty()) parts_.push_back(part_of(word, table));
+    if (word.empty()) continue;
+    parts_.push_back(part_of(word, table));
+    if (fault_.empty()) fault_ = fault_of(word, parts_.back(), table);
   }
+}
+
+std::string TableFilter::fault_of(std::string_view word, const Part& part, const ListTable& table) {
+  const std::string name(word.substr(0, word.find_first_of("<>=")));
+  const std::string typed(word);
+  if (part.column < 0) {
+    const bool compares = !name.empty() && name.size() < word.size();
+    return compares && table.column_named(name) < 0 ? typed + R"(: there is no column ")" + name + R"(")" : "";
+  }
+  const bool misses = table.column(part.column).kind == ListColumn::Number && !part.number;
+  return misses ? typed + R"(: ")" + part.text + R"(" is not a number)" : "";
 }
 
 TableFilter::Part TableFilter::part_of(std::string_view word, const ListTable& table) {

@@ -18,6 +18,8 @@ class TableFilter {
   /// @param text  UTF-8; small and capital letters are the same, and so are a decimal comma and a point
   TableFilter(std::string_view text, const ListTable& table);
 
+  /// The first part that can't be read, and why; empty where all can.
+  [[nodiscard]] const std::string& fault() const { return fault_; }
   [[nodiscard]] bool lets_all() const { return parts_.empty(); }
   /// @param cells  UTF-8, of all columns of the table
   [[nodiscard]] bool lets(const ListCells& cells) const;
@@ -30,9 +32,11 @@ class TableFilter {
     std::optional<double> number = {};
   };
   [[nodiscard]] static Part part_of(std::string_view word, const ListTable& table);
+  [[nodiscard]] static std::string fault_of(std::string_view word, const Part& part, const ListTable& table);
   [[nodiscard]] static bool holds(const Part& part, const ListCells& cells);
 
   std::vector<Part> parts_;
+  std::string fault_;
 };
 
 /// Latin letters made small.

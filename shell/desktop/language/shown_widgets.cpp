@@ -1,5 +1,6 @@
 #include "shell/desktop/language/shown_widgets.h"
 
+#include <algorithm>
 #include <optional>
 #include <vector>
 
@@ -14,6 +15,7 @@
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
+#include <QMenuBar>
 #include <QSignalBlocker>
 #include <QStatusBar>
 #include <QToolBar>
@@ -106,6 +108,14 @@ bool takes_mnemonic(const QObject& object, const char* property) {
   return label == nullptr || label->buddy() != nullptr;
 }
 
+bool in_menu_bar(const QObject& object) {
+  const auto* action = qobject_cast<const QAction*>(&object);
+  if (action == nullptr) return false;
+  const auto places = action->associatedObjects();
+  return std::any_of(places.begin(), places.end(),
+                     [](const QObject* place) { return qobject_cast<const QMenuBar*>(place) != nullptr; });
+}
+
 std::optional<Change> change_of(QObject& object, const char* property) {
   const QString now = object.property(property).toString();
   if (now.isEmpty()) return std::nullopt;
@@ -119,8 +129,10 @@ std::optional<Change> change_of(QObject& object, const char* property) {
     if (done) object.setProperty(mark_of(property), {});
     return std::nullopt;
   }
-  const qsizetype at = takes_mnemonic(object, property) ? mnemonic_at(change.done.source) : -1;
-  if (at >= 0 && change.done.shown != change.done.source) change.mnemonic = change.done.source[at];
+  if (change.done.shown == change.done.source || !takes_mnemonic(object, property)) return change;
+  const qsizetype at = mnemonic_at(change.done.source);
+  if (at >= 0) change.mnemonic = change.done.source[at];
+  if (at < 0 && in_menu_bar(object)) change.mnemonic = change.done.shown.front();  // in English all letters were used
   return change;
 }
 
@@ -132,7 +144,7 @@ void make(const Change& change) {
   change.object->setProperty(change.property, done.shown);
 }
 
-/// All changes of a kind are known before any is made: the letters are shared among them.
+/// All changes of a kind are known before any is made: the letters are shared among them, and menus choose first.
 void make_all(std::vector<Change>& changes) {
   std::vector<const QObject*> changed;
   for (const Change& change : changes) {
@@ -144,6 +156,8 @@ void make_all(std::vector<Change>& changes) {
       used.take(*change.object, change.done.shown);
     }
   }
+  std::stable_partition(changes.begin(), changes.end(),
+                        [](const Change& change) { return in_menu_bar(*change.object); });
   for (Change& change : changes) {
     if (!change.mnemonic.isNull()) change.done.shown = used.add(*change.object, change.done.shown, change.mnemonic);
     make(change);

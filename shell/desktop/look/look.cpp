@@ -16,6 +16,7 @@
 #include "shell/desktop/look/desktop_shade.h"
 #include "shell/desktop/look/look_style.h"
 #include "shell/desktop/look/picture_alone.h"
+#include "shell/desktop/mnemonics.h"
 
 namespace zol {
 namespace {
@@ -147,7 +148,7 @@ void use_look(Look look) {
 QMenu& view_menu(QMainWindow& window) {
   const QString name = QStringLiteral("menuView");
   if (auto* there = window.menuBar()->findChild<QMenu*>(name)) return *there;
-  auto* menu = window.menuBar()->addMenu(QCoreApplication::translate("zol", "View"));
+  auto* menu = window.menuBar()->addMenu(with_free_mnemonic(window, QCoreApplication::translate("zol", "View")));
   menu->setObjectName(name);
   return *menu;
 }

@@ -5353,11 +5353,11 @@ Das Programm arbeitet mit den Dateien in %2, wie sie sind. Wählen Sie beim Spei
     </message>
     <message>
         <source>Fm-3m, 225, cubic</source>
-        <translation>Fm-3m, 225, cubic</translation>
+        <translation>Fm-3m, 225, kubisch</translation>
     </message>
     <message>
         <source>number, symbol or crystal system of a space group; Enter takes the first one found</source>
-        <translation>Nummer, Symbol oder Kristallsystem (englisch) einer Raumgruppe; Enter nimmt die erste gefundene</translation>
+        <translation>Nummer, Symbol oder Kristallsystem einer Raumgruppe; Enter nimmt die erste gefundene</translation>
     </message>
     <message>
         <source>Show as table</source>
@@ -6240,6 +6240,22 @@ a=5.43 - auf 1 %; a=5.43~0.01, a=5.4..5.5, a&gt;5; auch b, c, alpha, beta, gamma
     <message>
         <source>master pattern: the weights of voltages must be 0 and above, and one above 0</source>
         <translation>Masterpattern: Gewichte von Spannungen müssen 0 oder größer sein und eines über 0</translation>
+    </message>
+    <message>
+        <source>nothing found</source>
+        <translation>nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Table: %1 - %2</source>
+        <translation>Tabelle: %L1 - %2</translation>
+    </message>
+    <message>
+        <source>%1: there is no column "%2"</source>
+        <translation>%1: es gibt keine Spalte "%2"</translation>
+    </message>
+    <message>
+        <source>%1: "%2" is not a number</source>
+        <translation>%1: "%2" ist keine Zahl</translation>
     </message>
 </context>
 </TS>

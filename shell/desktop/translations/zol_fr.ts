@@ -5353,11 +5353,11 @@ Le programme utilise les fichiers de %2 tels qu'ils sont. Choisissez un autre do
     </message>
     <message>
         <source>Fm-3m, 225, cubic</source>
-        <translation>Fm-3m, 225, cubic</translation>
+        <translation>Fm-3m, 225, cubique</translation>
     </message>
     <message>
         <source>number, symbol or crystal system of a space group; Enter takes the first one found</source>
-        <translation>numéro, symbole ou système cristallin (en anglais) d'un groupe d'espace ; Entrée prend le premier trouvé</translation>
+        <translation>numéro, symbole ou système cristallin d'un groupe d'espace ; Entrée prend le premier trouvé</translation>
     </message>
     <message>
         <source>Show as table</source>
@@ -6240,6 +6240,22 @@ a=5.43 - à 1 % près ; a=5.43~0.01, a=5.4..5.5, a&gt;5 ; aussi b, c, alpha, b
     <message>
         <source>master pattern: the weights of voltages must be 0 and above, and one above 0</source>
         <translation>diagramme maître : les poids des tensions doivent être positifs ou nuls, et l'un au moins positif</translation>
+    </message>
+    <message>
+        <source>nothing found</source>
+        <translation>rien trouvé</translation>
+    </message>
+    <message>
+        <source>Table: %1 - %2</source>
+        <translation>Table : %L1 - %2</translation>
+    </message>
+    <message>
+        <source>%1: there is no column "%2"</source>
+        <translation>%1 : il n'y a pas de colonne « %2 »</translation>
+    </message>
+    <message>
+        <source>%1: "%2" is not a number</source>
+        <translation>%1 : « %2 » n'est pas un nombre</translation>
     </message>
 </context>
 </TS>
