@@ -48,6 +48,7 @@ struct MapResult {
   double sample_tilt_deg = 70, detector_tilt_deg = 0, kilovolt = 20;
   int width = 0, height = 0;  ///< pixels of a pattern
   std::string source;         ///< name of the scan
+  std::string creator;        ///< name and version of the program
   std::string settings;       ///< text from which the run can be repeated
 };
 
