@@ -62,18 +62,25 @@ void use_main_window(const User& user) {
 }
 
 void find_windows(const User& user) {
-  QTest::keyClick(&user.window("Main1"), Qt::Key_1, Qt::ControlModifier);
+  QWidget& main1 = user.window("Main1");
   QWidget& menu = user.window("MAIN_MENU");
+  QTest::keyClick(&main1, Qt::Key_1, Qt::ControlModifier);
   expect(menu.isActiveWindow(), "Ctrl+1 leads elsewhere");
+  const QSize size = menu.size();
   for (const int key : {Qt::Key_W, Qt::Key_A}) {  // "Windows", "Arrange"
     QTest::keyClick(key == Qt::Key_W ? &menu : QApplication::activePopupWidget(), static_cast<Qt::Key>(key),
                     key == Qt::Key_W ? Qt::AltModifier : Qt::NoModifier);
   }
-  const auto on_screen = [&menu] { return menu.screen()->availableGeometry().contains(menu.frameGeometry()); };
-  expect(QTest::qWaitFor(on_screen) && menu.height() > 600, "the windows are not arranged");
-  menu.resize(1, 1);
+  const QRect room = menu.screen()->availableGeometry();
+  const auto arranged = [&] {  // Main1 alone, below the title of the menu
+    const QRect place = main1.frameGeometry();
+    return room.contains(place) && place.width() == room.width() && place.top() == menu.geometry().top();
+  };
+  expect(QTest::qWaitFor(arranged) && menu.size() == size, "the windows are not arranged");
+  expect(QTest::qWaitForWindowActive(&main1), "a window that gives way is in front");
+  QTest::keyClick(&main1, Qt::Key_1, Qt::ControlModifier);
   QTest::keyClick(&menu, Qt::Key_2, Qt::ControlModifier);
-  expect(user.window("Main1").isActiveWindow(), "Ctrl+2 leads elsewhere");
+  expect(main1.isActiveWindow(), "Ctrl+2 leads elsewhere");
 }
 
 void search_library(const User& user) {
