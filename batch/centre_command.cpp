@@ -7,6 +7,7 @@
 
 #include "batch/batch_progress.h"
 #include "batch/map_job.h"
+#include "batch/number_check.h"
 #include "batch/words.h"
 #include "core/number_text.h"
 #include "core/run_failure.h"
@@ -131,7 +132,7 @@ void add_centre_command(CLI::App& app) {
   centre->footer("Example:\n  zol-batch centre scan.h5 -c Ni.cif --pc 0.48,0.28,0.55 --convention bruker");
   add_scan_words(*centre, words->map);
   centre->add_option("--points", words->points, "fields of the map that a clear point is taken from")
-      ->check(CLI::Range(5, 10000))
+      ->check(whole_from(5, 10000))
       ->capture_default_str();
   add_band_words(*centre, words->map);
   const auto* results = "Results";

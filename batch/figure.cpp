@@ -57,6 +57,7 @@ void write_curves(Canvas& canvas, const std::vector<NamedCurve>& curves, const C
   for (std::size_t i = 0; i < curves.size(); ++i) {
     const Colour ink = curve_inks[i % curve_inks.size()];
     if (curves.size() == 1) {
+      scene.radiation = curves[i].name + ", " + scene.radiation;
       scene.curves.push_back({curves[i].points, colours::black});
     } else {
       const auto stroke = i < curve_inks.size() ? CurveStroke::Solid : CurveStroke::Dashed;

@@ -28,7 +28,7 @@ struct CurveFile {
   double scale = 1;      ///< pixels of the file per pixel of the window, for .png and .bmp
   bool indices = false;  ///< h k l at the peaks, of the crystal that was calculated last
 };
-/// A curve with its axes; several ones of different colours with a legend.
+/// A curve with its axes and the names of crystal and radiation; several ones of different colours with a legend.
 void write_curves(Canvas& canvas, const std::vector<NamedCurve>& curves, const CurveFile& file);
 
 /// Columns of numbers: the place, and the intensity of each crystal.

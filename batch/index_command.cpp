@@ -6,6 +6,7 @@
 #include <memory>
 #include <nlohmann/json.hpp>
 #include <optional>
+#include <set>
 #include <thread>
 
 #include "analysis/window/pattern3_form.h"
@@ -14,6 +15,8 @@
 #include "batch/batch_status.h"
 #include "batch/figure.h"
 #include "batch/index_pictures.h"
+#include "batch/number_check.h"
+#include "batch/output_guard.h"
 #include "batch/words.h"
 #include "core/number_text.h"
 #include "indexing/index_report.h"
@@ -28,18 +31,37 @@ ReportedSolution report_of(const IndexedPicture& found, double tilt) {
   return {&best.found, found.result.bands, best.matches, found.result.size, found.result.centre, tilt};
 }
 
+std::string overlay_path(const IndexWords& words, const std::string& picture) {
+  return (std::filesystem::path(words.overlay) / (title_of(picture) + ".png")).string();
+}
+
+/// A picture that is told twice has one overlay. @throws CLI::ValidationError  one would take the place of a file
+void check_overlays(const IndexWords& words) {
+  if (words.overlay.empty()) return;
+  std::vector<NamedFile> inputs;
+  for (const auto& crystal : words.crystals) inputs.push_back({"--crystal", crystal});
+  for (const auto& master : words.master.masters) inputs.push_back({"--master", master});
+  for (const auto& picture : words.pictures) inputs.push_back({"PICTURE", picture});
+  std::vector<NamedFile> outputs;
+  const std::set<std::string> pictures(words.pictures.begin(), words.pictures.end());
+  for (const auto& picture : pictures) outputs.push_back({"--overlay", overlay_path(words, picture)});
+  check_outputs(outputs, inputs);
+  check_folder(outputs.front().path, MissingFolder::is_made);
+}
+
 /// Bands and zone axes over the picture, as the window draws them.
 class Overlays {
  public:
   Overlays(const IndexWords& words, BatchProgram& program) : words_(words), program_(program) {}
   void write(const IndexedPicture& found) {
-    const auto path = std::filesystem::path(words_.overlay) / (title_of(found.picture) + ".png");
-    BatchProgram::naming(path.string(), [&] {
+    const std::string path = overlay_path(words_, found.picture);
+    BatchProgram::naming(path, [&] {
+      make_folder_of(path);
       auto& pattern = program_.window<Pattern3Form>();
       pattern.CommonDialog1.answering(found.picture, [&pattern] { pattern.ImageLoad.click(); });
       if (!words_.flipped) pattern.ImageFlip.click();
       draw_solution(pattern, found.result);
-      write_picture(program_, pattern.Picture1, path.string(), 1);
+      write_picture(program_, pattern.Picture1, path, 1);
     });
   }
 
@@ -115,9 +137,7 @@ nlohmann::ordered_json json_of(const IndexedPicture& found, const IndexWords& wo
 /// All pictures that can be indexed are told; one that cannot fails the command at its end.
 int run(const IndexWords& words) {
   (void)centre_of_words(words.centre, words.convention, {1, 1, words.pixel});
-  if (!words.overlay.empty() && !std::filesystem::is_directory(words.overlay)) {
-    throw RunFailure("there is no folder " + words.overlay);
-  }
+  check_overlays(words);
   const int threads =
       words.threads > 0 ? words.threads : static_cast<int>(std::max(1U, std::thread::hardware_concurrency()));
   BatchProgram program;  // starts Qt, before threads read pictures by it
@@ -170,24 +190,22 @@ void add_index_command(CLI::App& app, int& status) {
       ->capture_default_str();
   index->add_option("--pixel", words->pixel, "size of a pixel on the screen, micrometres; emsoft needs it")
       ->group(geometry)
-      ->check(CLI::PositiveNumber);
+      ->check(number_from(1e-3, 1e4));
   index->add_option("--tilt", words->tilt, "of the sample, less that of the screen, degrees")
       ->group(geometry)
+      ->check(tilt())
       ->capture_default_str();
-  index->add_option("--voltage", words->kilovolt, "kV")
-      ->group(geometry)
-      ->check(CLI::PositiveNumber)
-      ->capture_default_str();
+  index->add_option("--voltage", words->kilovolt, "kV")->group(geometry)->check(kilovolt())->capture_default_str();
   index->add_flag("--flipped", words->flipped, "the pictures are upside down already")->group(geometry);
   index->add_flag("--refine-pc", words->refine, "fit the pattern centre too, on each picture")->group(geometry);
   const auto* indexing = "Indexing";
   index->add_option("--bands", words->bands, "number of bands to look for")
       ->group(indexing)
-      ->check(CLI::Range(3, 30))
+      ->check(whole_from(3, 30))
       ->capture_default_str();
   index->add_option("--families", words->families, "of planes that vote")
       ->group(indexing)
-      ->check(CLI::Range(1, 100))
+      ->check(whole_from(1, 100))
       ->capture_default_str();
   index->add_option("--mask", words->mask, "circle: the pattern is round")
       ->group(indexing)
@@ -200,7 +218,7 @@ void add_index_command(CLI::App& app, int& status) {
       ->group(results);
   index->add_option("-j,--threads", words->threads, "0: one for each core")
       ->group("Running")
-      ->check(CLI::Range(0, 4096));
+      ->check(whole_from(0, 4096));
   index->callback([words, &status] { status = run(*words); });
 }
 

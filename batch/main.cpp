@@ -1,4 +1,7 @@
 // zol-batch: the program without windows, for people and for whole scans.
+#include <poll.h>
+#include <unistd.h>
+
 #include <CLI/CLI.hpp>
 #include <csignal>
 #include <exception>
@@ -57,16 +60,23 @@ int run(int argc, char** argv) {
   }
 }
 
+/// Whoever has read enough, as "head" has, closes the pipe: nothing to complain of.
+bool reader_has_gone() {
+  pollfd out{STDOUT_FILENO, POLLOUT, 0};
+  return poll(&out, 1, 0) == 1 && (out.revents & POLLERR) != 0;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);  // NOLINT(cert-err33-c): a closed pipe fails the write
+  std::signal(SIGXFSZ, SIG_IGN);  // NOLINT(cert-err33-c): so does a file that gets too long
   zol::take_stop_signals();
   try {
     const int status = run(argc, argv);
     std::cout.flush();
     if (std::cout || status != zol::batch_done) return status;
-    std::cerr << "zol-batch: cannot write to standard output\n";
+    if (!reader_has_gone()) std::cerr << "zol-batch: cannot write to standard output\n";
     return zol::batch_failed;
   } catch (...) {  // no memory even for the words of the command line
     return zol::batch_failed;

@@ -9,9 +9,11 @@
 #include "batch/batch_status.h"
 #include "batch/map_job.h"
 #include "batch/map_master.h"
+#include "batch/map_outputs.h"
 #include "batch/map_ranks.h"
 #include "batch/map_report.h"
 #include "batch/map_words.h"
+#include "batch/output_guard.h"
 #include "batch/picture_files.h"
 #include "batch/word_file.h"
 #include "core/atomic_file.h"
@@ -40,20 +42,32 @@ std::uint64_t fingerprint(const MapWords& words) {
   return fingerprint_of(text + fingerprint_text(words.master));
 }
 
-void summarise(const MapResult& map) {
+bool within(const std::array<int, 4>& region, const std::array<int, 2>& place) {
+  if (region[2] == 0) return true;
+  return place[0] >= region[0] && place[0] < region[0] + region[2] && place[1] >= region[1] &&
+         place[1] < region[1] + region[3];
+}
+
+void summarise(const MapResult& map, const std::array<int, 4>& region) {
   std::vector<std::size_t> of_phase(map.phases.size() + 1);
   std::size_t missing = 0;
-  for (const auto& point : map.points) {
-    ++of_phase[static_cast<std::size_t>(point.phase)];
-    missing += point.missing;
+  std::size_t outside = 0;
+  for (std::size_t i = 0; i < map.points.size(); ++i) {
+    if (!within(region, map.grid.place(i))) {
+      ++outside;
+      continue;
+    }
+    ++of_phase[static_cast<std::size_t>(map.points[i].phase)];
+    missing += map.points[i].missing;
   }
   for (std::size_t i = 0; i < map.phases.size(); ++i) {
-    std::cout << map.phases[i].name << ": " << of_phase[i + 1] << " of " << map.points.size() << " points\n"
+    std::cout << map.phases[i].name << ": " << of_phase[i + 1] << " of " << map.points.size() - outside << " points\n"
               << lookalike_text(map, i);
   }
   std::cout << "not indexed: " << of_phase[0];
   if (missing > 0) std::cout << ", of which " << missing << " have no pattern";
   std::cout << '\n';
+  if (outside > 0) std::cout << "outside the region: " << outside << '\n';
 }
 
 MapResult empty_result(const MapJob& job, const MapWords& words) {
@@ -66,6 +80,7 @@ MapResult empty_result(const MapJob& job, const MapWords& words) {
   map.kilovolt = job.kilovolt;
   map.width = job.scan->header().width;
   map.height = job.scan->header().height;
+  map.creator = "ZOL " + std::string(program_version);
   map.settings = words.settings_text;
   map.source = std::filesystem::path(words.scan).filename().string();
   return map;
@@ -87,7 +102,7 @@ bool index_map(const MapJob& job, const MapWords& words, const MapRanks& ranks, 
   running.stop = [] { return stop_signal() != 0; };
   running.times = &times;
   if (ranks.first()) {
-    running.part_path = words.outputs.front() + ".part";
+    running.part_path = part_path(words);
     running.fingerprint = fingerprint(words);
     running.progress = [&line](std::size_t done, std::size_t all) { line.show(done, all); };
   }
@@ -103,8 +118,9 @@ bool index_map(const MapJob& job, const MapWords& words, const MapRanks& ranks, 
 
 int run(const MapWords& words, const MapRanks& ranks) {
   if (words.outputs.empty() && !words.check) throw CLI::RequiredError("--output");
-  for (const auto& output : words.outputs) check_map_path(output);
+  check_map_outputs(words);
   if (words.check && !ranks.first()) return batch_done;
+  if (!words.check && ranks.first()) check_part(words);
   BatchTask task;
   MapJob job = make_map_job(words, task);
   if (ranks.first()) {
@@ -113,7 +129,7 @@ int run(const MapWords& words, const MapRanks& ranks) {
   }
   prepare_map_job(job, words, task);
   if (words.check) {
-    check_map(job, words.threads > 0 ? words.threads : ranks.cores(), task);
+    check_map(job, words.threads > 0 ? words.threads : ranks.cores(), words.quiet, task);
     return batch_done;
   }
   if (ranks.first()) {
@@ -124,8 +140,11 @@ int run(const MapWords& words, const MapRanks& ranks) {
   if (!index_map(job, words, ranks, map)) return batch_stopped;
   if (!ranks.first()) return batch_done;
   for (const auto& output : words.outputs) write_map(map, output);
-  if (!words.pictures.empty()) write_map_pictures(map, words.pictures);
-  if (!words.quiet) summarise(map);
+  if (!words.pictures.empty()) {
+    make_folder_of(words.pictures);
+    write_map_pictures(map, words.pictures, words.picture_scale);
+  }
+  if (!words.quiet) summarise(map, job.settings.region);
   return batch_done;
 }
 
@@ -136,6 +155,11 @@ int run_with_others(const MapWords& words) {
     return run(words, ranks);
   } catch (const CLI::ParseError&) {
     throw;  // all have the same words
+  } catch (const Cancelled&) {
+    if (ranks.count() == 1) throw;
+    if (ranks.first()) std::cerr << "zol-batch: stopped" << std::endl;
+    ranks.abandon();
+    throw;
   } catch (...) {
     if (ranks.count() == 1) throw;
     std::cerr << "zol-batch: " << readable_utf8(failure_text(std::current_exception())) << std::endl;
@@ -156,7 +180,7 @@ void add_map_command(CLI::App& app, int& status) {
   map->callback([words, map, &status] {
     std::vector<std::string> of_this_run{"resume", "check", "quiet", "verbose"};
     words->settings_text = words_text(*map, of_this_run);
-    of_this_run.insert(of_this_run.end(), {"output", "threads", "pictures"});
+    of_this_run.insert(of_this_run.end(), {"output", "threads", "pictures", "picture-scale"});
     words->results_text = words_text(*map, of_this_run);
     status = run_with_others(*words);
   });

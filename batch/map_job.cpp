@@ -6,6 +6,7 @@
 
 #include "batch/crystal_source.h"
 #include "batch/grey_image.h"
+#include "batch/number_check.h"
 #include "batch/words.h"
 #include "core/number_text.h"
 #include "core/run_failure.h"
@@ -36,10 +37,10 @@ Background background_of(const std::string& word) {
 void read_average(const std::string& word, MapSettings& settings) {
   constexpr std::string_view with_share = "nlpar=";
   if (word.starts_with(with_share)) {
-    settings.own_share = numbers_of<1>("--average", word.substr(with_share.size()), ',')[0];
-    if (!(settings.own_share > 0 && settings.own_share <= 1)) {
-      throw CLI::ValidationError("--average", word + ": the share lies between 0 and 1");
-    }
+    const std::string share = word.substr(with_share.size());
+    const std::string wrong = number_from(1e-6, 1)(share);
+    if (!wrong.empty()) throw CLI::ValidationError("--average", wrong);
+    settings.own_share = numbers_of<1>("--average", share)[0];
   } else if (word != "nlpar" && word != "3x3" && word != "none") {
     throw CLI::ValidationError("--average", word + " is none of nlpar, nlpar=SHARE, 3x3, none");
   }
@@ -59,7 +60,22 @@ std::vector<float> background_picture(const MapWords& words, const ScanHeader& h
   return std::move(image.values);
 }
 
-MapSettings settings_of(const MapWords& words, const ScanHeader& header, bool dynamical) {
+std::array<int, 4> region_of(const std::string& words, const ScanGrid& grid) {
+  const std::array region = whole_numbers_of<4>("--region", words, ',', {0, 0, 1, 1});
+  if (region[2] > grid.columns - region[0] || region[3] > grid.rows - region[1]) {
+    throw CLI::ValidationError("--region", words + " lies outside the map of " + std::to_string(grid.columns) + " x " +
+                                               std::to_string(grid.rows) + " points");
+  }
+  return region;
+}
+
+/// A scan's own centre has its own convention.
+void check_convention(const MapWords& words) {
+  const bool usual = convention_of(words.convention) == CentreConvention::Bruker;
+  if (words.centre.empty() && !usual) throw CLI::ValidationError("--convention", "needs --pc, whose convention it is");
+}
+
+MapSettings settings_of(const MapWords& words, const ScanHeader& header, const ScanGrid& grid, bool dynamical) {
   MapSettings settings;
   constexpr double usual_tilt = 70;
   settings.geometry.sample_tilt_deg = words.tilt.value_or(header.sample_tilt_deg.value_or(usual_tilt));
@@ -81,8 +97,7 @@ MapSettings settings_of(const MapWords& words, const ScanHeader& header, bool dy
   settings.most_fit_deg = words.max_fit;
   settings.flip = words.flip;
   if (!words.region.empty()) {
-    const auto numbers = numbers_of<4>("--region", words.region, ',');
-    for (std::size_t i = 0; i < 4; ++i) settings.region[i] = static_cast<int>(numbers[i]);
+    settings.region = region_of(words.region, grid);
   }
   return settings;
 }
@@ -93,8 +108,7 @@ std::unique_ptr<Scan> open_scan_of(const MapWords& words) {
   open.raw = words.raw;
   open.read_image = read_grey_image;
   if (!words.size.empty()) {
-    const auto numbers = numbers_of<2>("--size", words.size, 'x');
-    open.size = std::array{static_cast<int>(numbers[0]), static_cast<int>(numbers[1])};
+    open.size = whole_numbers_of<2>("--size", words.size, 'x', {1, 1});
   }
   return open_scan(words.scan, open);
 }
@@ -163,6 +177,7 @@ void prepare_map_job(MapJob& job, const MapWords& words, Task& task) {
 }
 
 MapJob make_map_job(const MapWords& words, Task& task) {
+  check_convention(words);
   MapJob job;
   const DataRoot data = find_data_root(data_places());
   job.scan = open_scan_of(words);
@@ -174,7 +189,7 @@ MapJob make_map_job(const MapWords& words, Task& task) {
   for (const auto& path : words.crystals) crystals.push_back(load_crystal(path, data, task));
   const CrystalMasters masters(masters_of(words), crystals, job.kilovolt);
   job.master_remark = masters.remark();
-  job.settings = settings_of(words, header, masters.any());
+  job.settings = settings_of(words, header, job.grid, masters.any());
   Centres centres = centres_of(words, *job.scan, job.settings, job.grid);
   job.centre = centres.middle;
   job.centre_source = centres.source;

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <utility>
 
+#include "batch/number_check.h"
 #include "core/number_text.h"
 #include "core/run_failure.h"
 #include "dynamics/master_file.h"
@@ -67,7 +68,7 @@ void add_master_options(CLI::App& command, MapMasterWords& words) {
       ->allow_extra_args(false);
   command.add_option("--master-depth", words.depth_nm, "mean depth that the electrons come from, nm, of patterns made")
       ->group(group)
-      ->check(CLI::Range(0.1, 100.0));
+      ->check(number_from(0.1, 100));
 }
 
 std::string fingerprint_text(const MapMasterWords& words) {

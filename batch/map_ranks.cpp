@@ -12,8 +12,10 @@
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
+#include <iostream>
 #include <mutex>
 #include <string>
+#include <vector>
 
 #include "core/run_failure.h"
 #endif
@@ -92,7 +94,7 @@ class FarDesk : public TileDesk {
 /// Serves the other processes until each has left.
 class Server {
  public:
-  Server(TileDesk& desk, int others) : desk_(desk), others_(others) {}
+  Server(TileDesk& desk, int others) : desk_(desk), others_(others), left_(static_cast<std::size_t>(others) + 1) {}
 
   bool serve(const std::function<bool()>& stopped) {
     while (others_ > 0) {
@@ -101,7 +103,10 @@ class Server {
       MPI_Iprobe(MPI_ANY_SOURCE, to_first, MPI_COMM_WORLD, &there, &status);
       if (there == 0) {
         // One that is dead does not leave any more, and a launcher that has noticed allows a second.
-        if (stopped() && std::chrono::steady_clock::now() - last_heard_ > std::chrono::milliseconds(300)) return false;
+        if (stopped() && std::chrono::steady_clock::now() - last_heard_ > std::chrono::milliseconds(300)) {
+          tell_of_the_dead();
+          return false;
+        }
         std::this_thread::sleep_for(std::chrono::microseconds(500));
         continue;
       }
@@ -142,11 +147,19 @@ class Server {
         failure_ = "process " + std::to_string(status.MPI_SOURCE) + " of the run: " + std::string(behind);
         break;
     }
+    left_[static_cast<std::size_t>(status.MPI_SOURCE)] = true;
     --others_;
+  }
+
+  void tell_of_the_dead() const {
+    for (std::size_t rank = 1; rank < left_.size(); ++rank) {
+      if (!left_[rank]) std::cerr << "zol-batch: process " << rank << " of the run has died\n";
+    }
   }
 
   TileDesk& desk_;
   int others_;
+  std::vector<bool> left_;  ///< by number; the first, that of this process, is not used
   std::chrono::steady_clock::time_point last_heard_ = std::chrono::steady_clock::now();
   bool one_stopped_ = false;
   std::string failure_;

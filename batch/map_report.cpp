@@ -140,8 +140,8 @@ std::string times_text(const StepTimes& times, std::size_t points) {
   return text;
 }
 
-void check_map(const MapJob& job, int threads, Task& task) {
-  std::cout << header_text(job) << decisions_text(job) << std::flush;
+void check_map(const MapJob& job, int threads, bool quiet, Task& task) {
+  if (!quiet) std::cout << header_text(job) << decisions_text(job) << std::flush;
   const auto& tiles = job.indexer->tiles();
   MapTile area = tiles.front();
   area.columns = tiles.back().column + tiles.back().columns - area.column;
@@ -163,6 +163,7 @@ void check_map(const MapJob& job, int threads, Task& task) {
     indexed += static_cast<std::size_t>(
         std::count_if(found.begin(), found.end(), [](const PointResult& point) { return point.phase > 0; }));
   }
+  if (quiet) return;
   const double seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
   const double rate = static_cast<double>(points) / std::max(seconds, 1e-6);
   tell_looks(job, looks);

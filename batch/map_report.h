@@ -17,7 +17,7 @@ namespace zol {
 [[nodiscard]] std::string times_text(const StepTimes& times, std::size_t points);
 
 /// Tells header and decisions, indexes nine places all over the map, and tells what was found and how fast. Writes
-/// nothing. @param threads  that the whole map would be indexed by
-void check_map(const MapJob& job, int threads, Task& task);
+/// nothing. @param threads  that the whole map would be indexed by @param quiet  only a failure is told
+void check_map(const MapJob& job, int threads, bool quiet, Task& task);
 
 }  // namespace zol

@@ -1,5 +1,7 @@
 #include "batch/map_words.h"
 
+#include "batch/number_check.h"
+
 namespace zol {
 namespace {
 
@@ -10,13 +12,15 @@ void add_geometry(CLI::App& command, MapWords& words) {
       ->group(group)
       ->capture_default_str();
   command.add_option("--tilt", words.tilt, "of the sample, degrees; default: the scan's own, otherwise 70")
-      ->group(group);
+      ->group(group)
+      ->check(tilt());
   command.add_option("--camera", words.camera, "tilt of the screen, degrees; default: the scan's own, otherwise 0")
-      ->group(group);
+      ->group(group)
+      ->check(tilt());
   command.add_option("--screen", words.screen_mm, "width of the screen, mm: the centre drifts with the beam")
       ->group(group)
-      ->check(CLI::NonNegativeNumber);
-  command.add_option("--step", words.step, "between points, micrometres")->group(group)->check(CLI::PositiveNumber);
+      ->check(number_from(0, 1000));
+  command.add_option("--step", words.step, "between points, micrometres")->group(group)->check(number_from(1e-5, 1e5));
   command.add_option("--size", words.size, "COLUMNSxROWS, for a scan without it")->group(group);
   command.add_option("--scan-x", words.scan_x, "columns run to the right or left")
       ->group(group)
@@ -27,7 +31,9 @@ void add_geometry(CLI::App& command, MapWords& words) {
       ->check(CLI::IsMember({"down", "up"}))
       ->capture_default_str();
   command.add_flag("--flip", words.flip, "patterns are upside down in the file")->group(group);
-  command.add_option("--voltage", words.kilovolt, "kV; default: the scan's own, otherwise 20")->group(group);
+  command.add_option("--voltage", words.kilovolt, "kV; default: the scan's own, otherwise 20")
+      ->group(group)
+      ->check(kilovolt());
 }
 
 void add_patterns(CLI::App& command, MapWords& words) {
@@ -59,8 +65,12 @@ void add_indexing(CLI::App& command, MapWords& words) {
       ->capture_default_str();
   command.add_option("--min-ci", words.min_ci, "confidence below which a point is not indexed")
       ->group(group)
+      ->check(number_from(-1, 1))
       ->capture_default_str();
-  command.add_option("--max-fit", words.max_fit, "degrees above which it is not")->group(group)->capture_default_str();
+  command.add_option("--max-fit", words.max_fit, "degrees above which it is not")
+      ->group(group)
+      ->check(number_from(0, 180))
+      ->capture_default_str();
   add_master_options(command, words.master);
 }
 
@@ -80,11 +90,11 @@ void add_band_words(CLI::App& command, MapWords& words) {
   const auto* group = "Indexing";
   command.add_option("--bands", words.bands, "number of bands to look for")
       ->group(group)
-      ->check(CLI::Range(3, 40))
+      ->check(whole_from(3, 40))
       ->capture_default_str();
   command.add_option("--families", words.families, "of planes that vote")
       ->group(group)
-      ->check(CLI::Range(1, 100))
+      ->check(whole_from(1, 100))
       ->capture_default_str();
 }
 
@@ -92,16 +102,20 @@ void add_map_words(CLI::App& command, MapWords& words) {
   command
       .add_option("--fit-pc", words.fit_centre, "fit the centre at so many clear points first, a plane through them")
       ->group("Geometry")
-      ->check(CLI::Range(5, 10000));
+      ->check(whole_from(5, 10000));
   command
       .add_option("-o,--output", words.outputs,
                   "result: .ang, .ctf, .h5, .oh5, .csv; once for each; required unless --check is given")
       ->allow_extra_args(false);
   command.add_option("--pictures", words.pictures,
                      "PREFIX of pictures: ipf-x, ipf-y, ipf-z, iq, ci, fit, phase, kam, legend; .png");
+  command
+      .add_option("--picture-scale", words.picture_scale,
+                  "pixels of --pictures a point across; default: as many as make small maps easy to look at")
+      ->check(whole_from(1, 64));
   add_indexing(command, words);
   const auto* running = "Running";
-  command.add_option("-j,--threads", words.threads, "0: one for each core")->group(running)->check(CLI::Range(0, 4096));
+  command.add_option("-j,--threads", words.threads, "0: one for each core")->group(running)->check(whole_from(0, 4096));
   command.add_flag("--check", words.check, "index nine points of the map, print rate and fit, write no file")
       ->group(running);
   command.add_flag("--resume", words.resume, "continue a run that was stopped")->group(running);

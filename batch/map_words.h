@@ -16,6 +16,7 @@ struct MapWords {
   std::string centre, convention = "bruker", size, background = "auto", average, refine = "pattern";
   std::string scan_x = "right", scan_y = "down", dataset, region, mask;
   std::string pictures;        ///< what their names begin with; empty: none
+  int picture_scale = 0;       ///< pixels of a point; 0: by the size of the map
   std::string settings_file;   ///< where words are read that the command line does not tell
   std::string write_settings;  ///< where all words are written
   std::string settings_text;   ///< of all words, as they are written there

@@ -12,6 +12,8 @@
 
 #include "batch/batch_status.h"
 #include "batch/crystal_source.h"
+#include "batch/number_check.h"
+#include "batch/output_guard.h"
 #include "core/number_text.h"
 #include "core/run_failure.h"
 #include "dynamics/master_file.h"
@@ -101,7 +103,20 @@ void tell(const DynamicCrystal& crystal, const MasterPattern& master, const Mast
             << percent(convergence.finer_spacing) << " (1 - correlation)\n";
 }
 
+std::string picture_path(const std::string& output, bool south) {
+  return output.substr(0, output.rfind('.')) + (south ? "-south.png" : "-north.png");
+}
+
+void check_files(const MasterWords& words) {
+  std::vector<NamedFile> outputs{{"--output", words.output}};
+  for (const bool south : {false, true}) {
+    if (words.png) outputs.push_back({"--png", picture_path(words.output, south)});
+  }
+  check_outputs(outputs, {{"FILE", words.crystal}});
+}
+
 int run(MasterWords words) {
+  check_files(words);
   const DataRoot data = find_data_root(data_places());
   CommandTask task(words.quiet);
   const LoadedCrystal loaded = load_crystal(words.crystal, data, task);
@@ -116,9 +131,8 @@ int run(MasterWords words) {
     if (!words.weights.empty()) master = summed_voltages(std::move(master), words.weights);
     write_master(master, words.output);
     if (words.png) {
-      const std::string stem = words.output.substr(0, words.output.rfind('.'));
-      write_png(master, false, stem + "-north.png");
-      if (!crystal.centrosymmetric) write_png(master, true, stem + "-south.png");
+      write_png(master, false, picture_path(words.output, false));
+      if (!crystal.centrosymmetric) write_png(master, true, picture_path(words.output, true));
     }
     if (!words.quiet) tell(crystal, master, settings, task, words.check);
   } catch (const RunFailure& failure) {
@@ -139,28 +153,28 @@ void add_master_command(CLI::App& app, int& status) {
   master->footer("Example:\n  zol-batch master Ni.cif --voltage 20 -o Ni.h5");
   master->add_option("FILE", words->crystal, "structure file or crystal")->required();
   master->add_option("-o,--output", words->output, "master pattern, HDF5")->required();
-  master->add_option("--voltage", words->kilovolt, "kV")->check(CLI::Range(1.0, 400.0));
+  master->add_option("--voltage", words->kilovolt, "kV")->check(kilovolt());
   master->add_option("--energies", words->kilovolts, "kV,kV,...: a pattern each, in place of --voltage")
       ->delimiter(',')
-      ->check(CLI::Range(1.0, 400.0));
+      ->check(kilovolt());
   master->add_option("--weights", words->weights, "W,W,... of --energies: their sum as one pattern")
       ->delimiter(',')
-      ->check(CLI::NonNegativeNumber);
+      ->check(number_from(0, 1e6));
   master->add_option("--size", words->settings.size, "points along a side of the square map, odd")
-      ->check(CLI::Range(11, 2001));
+      ->check(whole_from(11, 2001));
   master->add_option("--depth", words->settings.depth_nm, "mean depth that the electrons come from, nm")
-      ->check(CLI::Range(0.1, 100.0));
+      ->check(number_from(0.1, 100));
   master->add_option("--dmin", words->settings.smallest_spacing, "smallest spacing, angstroms; default: by the cell")
-      ->check(CLI::Range(0.2, 5.0));
+      ->check(number_from(0.2, 5));
   master->add_option("--beams", words->settings.beams, "of each direction; default: by the cell")
-      ->check(CLI::Range(2, 1000));
+      ->check(whole_from(2, 1000));
   master->add_option("--coupling", words->rule, "STRONG,WEAK,LISTED in place of --beams, as 4,8,50")
       ->delimiter(',')
       ->expected(3)
-      ->check(CLI::PositiveNumber);
+      ->check(number_from(1e-3, 1e6));
   master->add_flag("--png", words->png, "the stereographic picture beside it, of both halves where they differ");
   master->add_flag("!--no-check", words->check, "do not compare a sample with more beams and finer spacings");
-  master->add_option("-j,--threads", words->settings.threads, "0: one for each core")->check(CLI::Range(0, 4096));
+  master->add_option("-j,--threads", words->settings.threads, "0: one for each core")->check(whole_from(0, 4096));
   master->add_flag("-q,--quiet", words->quiet, "print only failures");
   words->settings.threads = 0;
   master->callback([words, &status] { status = run(*words); });

@@ -4,6 +4,9 @@
 #include <optional>
 
 #include "batch/figure.h"
+#include "batch/number_check.h"
+#include "batch/output_guard.h"
+#include "batch/set_number.h"
 #include "batch/words.h"
 #include "core/number_text.h"
 #include "kikuchi/window/pattern2_form.h"
@@ -24,10 +27,6 @@ struct PatternWords {
 };
 
 constexpr double usual_dispersion_deg = 5;
-
-void set_number(TextBox& box, std::optional<double> number) {
-  if (number) box.set_text(plain_text(to_single(*number)));
-}
 
 void set_axis(const std::array<double, 3>& axis, std::initializer_list<TextBox*> boxes) {
   std::size_t i = 0;
@@ -88,6 +87,7 @@ Canvas& draw(BatchProgram& program, const PatternWords& words, const std::array<
 
 void run(const PatternWords& words) {
   check_figure_path("-o", words.output);
+  check_output(words.output, {words.file});
   const auto axis = numbers_of<3>("--axis", words.axis);
   if (axis == std::array<double, 3>{}) throw CLI::ValidationError("--axis", "0,0,0 is not a direction");
   BatchProgram program;
@@ -118,16 +118,15 @@ void add_pattern_command(CLI::App& app) {
   pattern->add_option("-o,--output", words->output, "figure: .svg, .pdf, .png, .bmp")->required();
   pattern->add_option("--radiation", words->radiation,
                       "electrons: 5kV, 10kV, ... 1250kV; default: 20kV, of spots and fiber 200kV");
-  pattern->add_option("--dmin", words->dmin, "smallest spacing, angstroms; default: 1")->check(CLI::PositiveNumber);
+  pattern->add_option("--dmin", words->dmin, "smallest spacing, angstroms; default: 1")->check(spacing());
   pattern
       ->add_option("--area", words->area,
                    "half the width: degrees, of spots and fiber inverse angstroms; default: the window's")
-      ->check(CLI::PositiveNumber);
-  pattern->add_option("--bands", words->bands, "reflections of a Kikuchi pattern")->check(CLI::Range(1, 32767));
-  pattern->add_option("--dispersion", words->dispersion, "of a fiber, degrees; default: 5")
-      ->check(CLI::NonNegativeNumber);
+      ->check(number_from(1e-3, 100));
+  pattern->add_option("--bands", words->bands, "reflections of a Kikuchi pattern")->check(whole_from(1, 32767));
+  pattern->add_option("--dispersion", words->dispersion, "of a fiber, degrees; default: 5")->check(number_from(0, 90));
   pattern->add_option("--scale", words->scale, "pixels of .png and .bmp per pixel of the window")
-      ->check(CLI::Range(0.1, 20.0))
+      ->check(number_from(0.1, 20))
       ->capture_default_str();
   pattern->add_flag("--index", words->index, "indices beside the spots");
   pattern->add_flag("--roots", words->roots, "square roots of the intensities, for weak ones");

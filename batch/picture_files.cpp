@@ -38,17 +38,18 @@ struct Block {
   int width = 1, height = 1;
 };
 
-Block block_of(const ScanGrid& grid) {
+Block block_of(const ScanGrid& grid, int scale) {
   constexpr int wanted = 480;
   constexpr int most = 64;
   Block block;
-  block.width = std::clamp(wanted / std::max(1, std::max(grid.columns, grid.rows)), grid.hexagonal ? 2 : 1, most);
+  block.width = std::clamp(scale > 0 ? scale : wanted / std::max(1, std::max(grid.columns, grid.rows)),
+                           grid.hexagonal ? 2 : 1, most);
   block.height = std::clamp(static_cast<int>(std::lround(block.width * grid.step_y / grid.step_x)), 1, most);
   return block;
 }
 
-QImage image_of(const MapPicture& picture, const ScanGrid& grid) {
-  const Block block = block_of(grid);
+QImage image_of(const MapPicture& picture, const ScanGrid& grid, int scale) {
+  const Block block = block_of(grid, scale);
   const int shift = grid.hexagonal ? block.width / 2 : 0;
   QImage image(picture.width * block.width + shift, picture.height * block.height, QImage::Format_RGB32);
   if (image.isNull()) throw RunFailure("the map is too large for pictures");
@@ -173,14 +174,21 @@ class Legend {
 
 }  // namespace
 
-void write_map_pictures(const MapResult& map, const std::string& prefix) {
+std::vector<std::string> map_picture_paths(const std::string& prefix) {
+  std::vector<std::string> paths;
+  for (const MapPictureKind kind : all_map_pictures) paths.push_back(prefix + '-' + name_of(kind) + ".png");
+  paths.push_back(prefix + "-legend.png");
+  return paths;
+}
+
+void write_map_pictures(const MapResult& map, const std::string& prefix, int scale) {
   OffscreenPictures qt;  // texts of the legend need its fonts
   (void)qt.make_surface(1, 1);
   Legend legend;
   for (std::size_t i = 0; i < map.phases.size(); ++i) legend.phase(map.phases[i], static_cast<int>(i) + 1);
   for (const MapPictureKind kind : all_map_pictures) {
     const MapPicture picture = map_picture(map, kind);
-    write_png(image_of(picture, map.grid), prefix + '-' + name_of(kind) + ".png");
+    write_png(image_of(picture, map.grid, scale), prefix + '-' + name_of(kind) + ".png");
     if (!picture.scale.empty()) legend.scale(name_of(kind), picture);
   }
   write_png(legend.image(), prefix + "-legend.png");

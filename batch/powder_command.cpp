@@ -6,6 +6,9 @@
 
 #include "batch/batch_progress.h"
 #include "batch/figure.h"
+#include "batch/number_check.h"
+#include "batch/output_guard.h"
+#include "batch/set_number.h"
 #include "core/number_text.h"
 #include "powder/histogram.h"
 #include "powder/window/dring_form.h"
@@ -27,10 +30,6 @@ struct PowderWords {
   std::string draw;
   bool roots = false, centred = false, inverse = false;
 };
-
-void set_number(TextBox& box, std::optional<double> number) {
-  if (number) box.set_text(plain_text(to_single(*number)));
-}
 
 void set_cells(const std::optional<double>& cells, std::initializer_list<TextBox*> boxes) {
   for (TextBox* box : boxes) set_number(*box, cells);
@@ -125,6 +124,7 @@ void calculate_powder(BatchProgram& program, const PowderWords& words) {
 
 void run_powder(const PowderWords& words) {
   check_figure_path("-o", words.output, true);
+  check_output(words.output, words.files);
   check_index(words);
   BatchProgram program;
   program.choose_radiation(words.radiation);
@@ -177,6 +177,7 @@ void calculate_rings(BatchProgram& program, const PowderWords& words) {
 
 void run_rings(PowderWords words) {
   check_figure_path("-o", words.output, true);
+  check_output(words.output, words.files);
   check_index(words);
   if (words.draw.empty()) words.draw = words.files.size() > 1 || of_numbers(words.output) ? "profile" : "rings";
   if (words.draw == "rings" && words.index) throw CLI::ValidationError("--index", "needs --draw profile");
@@ -215,14 +216,12 @@ void add_words(CLI::App& command, PowderWords& words) {
   command.add_option("-o,--output", words.output, "result: .xy (numbers), .svg, .pdf, .png, .bmp")->required();
   command.add_option("--radiation", words.radiation, "CuKa, MoKa, or electrons: 5kV, 10kV, ... 1250kV")
       ->capture_default_str();
-  command.add_option("--dmin", words.dmin, "smallest spacing, angstroms")
-      ->check(CLI::PositiveNumber)
-      ->capture_default_str();
+  command.add_option("--dmin", words.dmin, "smallest spacing, angstroms")->check(spacing())->capture_default_str();
   command.add_option("--cells", words.cells, "size of the crystallites in cells along each axis; default: 10000")
-      ->check(CLI::PositiveNumber);
+      ->check(number_from(1, 1e6));
   command.add_flag("--index", words.index, "h k l at the peaks of a figure of one crystal");
   command.add_option("--scale", words.scale, "pixels of .png and .bmp per pixel of the window")
-      ->check(CLI::Range(0.1, 20.0))
+      ->check(number_from(0.1, 20))
       ->capture_default_str();
 }
 
@@ -234,14 +233,14 @@ void add_powder_command(CLI::App& app) {
   CLI::App* powder = app.add_subcommand("powder", "the X-ray powder diagram of one or more crystals");
   powder->footer("Example:\n  zol-batch powder quartz.cif calcite.cif --from 15 --to 70 -o mixture.svg");
   add_words(*powder, *words);
-  powder->add_option("--from", words->from, "2-theta, degrees; default: 0");
-  powder->add_option("--to", words->to, "2-theta, degrees; default: that of --dmin");
+  powder->add_option("--from", words->from, "2-theta, degrees; default: 0")->check(number_from(0, 180));
+  powder->add_option("--to", words->to, "2-theta, degrees; default: that of --dmin")->check(number_from(0, 180));
   powder->add_option("--step", words->step, "between numbers of .xy, degrees; default: a thousandth of the range")
-      ->check(CLI::Range(1e-4, 10.0));
+      ->check(number_from(1e-4, 10));
   powder->add_option("--width", words->width, "full width at half maximum, degrees; default: 0.2")
-      ->check(CLI::PositiveNumber);
+      ->check(number_from(1e-4, 20));
   powder->add_option("--gauss", words->gauss, "Gaussian share of a line, per cent; default: 50")
-      ->check(CLI::Range(0.0, 100.0));
+      ->check(number_from(0, 100));
   powder->callback([words] { run_powder(*words); });
 }
 
@@ -254,9 +253,9 @@ void add_rings_command(CLI::App& app) {
   rings->add_option("--draw", words->draw, "rings or profile; default: rings, of several crystals the profile")
       ->check(CLI::IsMember({"rings", "profile"}));
   rings->add_option("--to", words->to, "end of 1/d, inverse angstroms; default: that of --dmin")
-      ->check(CLI::PositiveNumber);
+      ->check(number_from(1e-3, 100));
   rings->add_option("--width", words->width, "full width at half maximum, inverse angstroms; default: 0.003")
-      ->check(CLI::PositiveNumber);
+      ->check(number_from(1e-5, 1));
   rings->add_flag("--roots", words->roots, "square roots of the intensities");
   rings->add_flag("--centred", words->centred, "the beam in the middle of the picture");
   rings->add_flag("--inverse", words->inverse, "dark rings on white");

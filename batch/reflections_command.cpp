@@ -8,6 +8,7 @@
 
 #include "batch/batch_program.h"
 #include "batch/batch_progress.h"
+#include "batch/number_check.h"
 #include "core/number_text.h"
 #include "reflections/merged_reflections.h"
 #include "reflections/window/main1_form.h"
@@ -211,9 +212,7 @@ void add_reflections_command(CLI::App& app) {
   list->add_option("FILE", words->files, "structure files or crystals; several go into one table")->required();
   list->add_option("--radiation", words->radiation, "CuKa, MoKa, or electrons: 5kV, 10kV, ... 1250kV")
       ->capture_default_str();
-  list->add_option("--dmin", words->dmin, "smallest spacing, angstroms")
-      ->check(CLI::PositiveNumber)
-      ->capture_default_str();
+  list->add_option("--dmin", words->dmin, "smallest spacing, angstroms")->check(spacing())->capture_default_str();
   list->add_flag("--merge", words->merge, "equivalent reflections as one, with their multiplicity");
   auto* json = list->add_flag("--json", words->json, "a list of objects");
   list->add_flag("--csv", words->csv, "a table with commas")->excludes(json);

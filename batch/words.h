@@ -4,6 +4,7 @@
 #include <CLI/CLI.hpp>
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <string>
 
 #include "indexing/detector.h"
@@ -20,13 +21,31 @@ std::array<double, count> numbers_of(const std::string& option, const std::strin
     const std::string part = text.substr(at, end - at);
     const auto [stop, error] = std::from_chars(part.data(), part.data() + part.size(), numbers[i]);
     const bool last = i + 1 == count;
-    if (error != std::errc() || stop != part.data() + part.size() || last != (end == text.size())) {
+    if (error != std::errc() || !std::isfinite(numbers[i]) || stop != part.data() + part.size() ||
+        last != (end == text.size())) {
       throw CLI::ValidationError(
           option, "\"" + text + "\" is not " + std::to_string(count) + " numbers with '" + between + "' between");
     }
     at = end + 1;
   }
   return numbers;
+}
+
+/// "3,4,5", each at least the one of its place. @throws CLI::ValidationError  it is something else
+template <std::size_t count>
+std::array<int, count> whole_numbers_of(const std::string& option, const std::string& text, char between,
+                                        const std::array<int, count>& least) {
+  const auto numbers = numbers_of<count>(option, text, between);
+  std::array<int, count> whole{};
+  constexpr double most = 1e9;
+  for (std::size_t i = 0; i < count; ++i) {
+    if (!(numbers[i] >= least[i] && numbers[i] <= most) || numbers[i] != std::floor(numbers[i])) {
+      throw CLI::ValidationError(option, text + ": number " + std::to_string(i + 1) + " is to be a whole one from " +
+                                             std::to_string(least[i]));
+    }
+    whole[i] = static_cast<int>(numbers[i]);
+  }
+  return whole;
 }
 
 /// @throws CLI::ValidationError  it is none

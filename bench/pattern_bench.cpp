@@ -5,6 +5,7 @@
 #include "kikuchi/kikuchi_pattern.h"
 #include "spots/fiber_texture.h"
 #include "spots/spot_pattern.h"
+#include "tests/plain_kikuchi.h"
 
 namespace zol {
 namespace {
@@ -17,21 +18,47 @@ std::unique_ptr<CrystalState> listed_crystal(benchmark::State& run) {
   return state;
 }
 
-/// The sort of the list, the grey scale, all lines.
-void KikuchiPattern(benchmark::State& run) {
-  const auto state = listed_crystal(run);
+std::unique_ptr<CrystalState> kikuchi_crystal(benchmark::State& run) {
+  auto state = listed_crystal(run);
   state->CamAcquisition = 37;
   state->ZoneU = state->ZoneV = 1;
   state->ZoneW = 3;
   state->OriginH = state->OriginK = 3;
   state->OriginL = -2;
   state->KikuchiRefLimit = state->RefCount;
+  return state;
+}
+
+/// The sort of the list, the grey scale, all lines.
+void KikuchiPattern(benchmark::State& run) {
+  const auto state = kikuchi_crystal(run);
   QuietTask task;
   for (auto _ : run) {
     reorder(*state, order_for_kikuchi(*state, task), task);
     const auto view = gnomonic_view(*state);
-    state->DisplayScale = strongest_in_view(*state, view, task);
-    benchmark::DoNotOptimize(kikuchi_lines(*state, view, false, task));
+    ListedPlanes planes(*state);
+    state->DisplayScale = strongest_in_view(planes, view, task);
+    benchmark::DoNotOptimize(kikuchi_lines(planes, view, false, task));
+  }
+}
+
+/// Grey scale and lines alone.
+void KikuchiLines(benchmark::State& run) {
+  const auto state = kikuchi_crystal(run);
+  QuietTask task;
+  const auto view = gnomonic_view(*state);
+  for (auto _ : run) {
+    ListedPlanes planes(*state);
+    benchmark::DoNotOptimize(strongest_in_view(planes, view, task));
+    benchmark::DoNotOptimize(kikuchi_lines(planes, view, false, task));
+  }
+}
+void KikuchiLinesPlain(benchmark::State& run) {
+  const auto state = kikuchi_crystal(run);
+  const auto view = gnomonic_view(*state);
+  for (auto _ : run) {
+    benchmark::DoNotOptimize(plain_strongest(*state, view));
+    benchmark::DoNotOptimize(plain_lines(*state, view, false));
   }
 }
 
@@ -62,6 +89,8 @@ void SpotsOfAWideZone(benchmark::State& run) {
 
 BENCHMARK(SpotsOfAWideZone)->Unit(benchmark::kMillisecond);
 BENCHMARK(KikuchiPattern)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
+BENCHMARK(KikuchiLines)->Arg(10000)->Unit(benchmark::kMillisecond);
+BENCHMARK(KikuchiLinesPlain)->Arg(10000)->Unit(benchmark::kMillisecond);
 BENCHMARK(FiberTexture)->RangeMultiplier(10)->Range(1000, 100000)->Unit(benchmark::kMillisecond);
 
 }  // namespace

@@ -10,7 +10,7 @@
 namespace zol {
 namespace {
 
-constexpr double same_place = 0.01;  // angstroms
+constexpr double coincident = 0.01;  // angstroms
 
 /// The hydrogen molecule, the shortest bond, has 0.74 angstroms.
 bool share_a_place(const BondAtom& site, const BondAtom& atom, double distance) {
@@ -47,7 +47,7 @@ class Neighbours {
         for (double r = first(apart.w, reciprocal_.c); r <= last(apart.w, reciprocal_.c); ++r) {
           const CartesianVector along = lattice_.cartesian(DirectVector{apart.u + p, apart.v + q, apart.w + r});
           const double distance = length(along);
-          if (distance < same_place || distance > limit || share_a_place(site, atom, distance)) continue;
+          if (distance < coincident || distance > limit || share_a_place(site, atom, distance)) continue;
           found.push_back({number, distance, {atom.position.u + p, atom.position.v + q, atom.position.w + r}, along});
         }
       }

@@ -3,7 +3,11 @@ add_library(project_includes INTERFACE)
 target_include_directories(project_includes INTERFACE ${PROJECT_SOURCE_DIR})
 
 add_library(project_warnings INTERFACE)
-target_compile_options(project_warnings INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wconversion)
+target_compile_options(project_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
+# Where several sources are compiled as one, local names may be those of another source.
+if(NOT CMAKE_UNITY_BUILD)
+  target_compile_options(project_warnings INTERFACE -Wshadow)
+endif()
 if(ZOL_WERROR)
   target_compile_options(project_warnings INTERFACE -Werror)
 endif()

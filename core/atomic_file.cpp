@@ -19,6 +19,7 @@
 #include <system_error>
 #include <utility>
 
+#include "core/file_links.h"
 #include "core/read_file.h"
 #include "core/run_aside.h"
 #include "core/run_failure.h"
@@ -27,19 +28,6 @@ namespace zol {
 namespace {
 
 namespace fs = std::filesystem;
-
-/// The file behind symbolic links, whether it is there or not. Links of the system itself, to the files that a process
-/// has open, are left: what they say is no path.
-std::string behind_links(std::string path) {
-  constexpr int most_links = 40;  // as the kernel
-  std::error_code error;
-  for (int i = 0; i < most_links && fs::is_symlink(path, error); ++i) {
-    const std::string folder = fs::canonical(fs::path(path).parent_path() / ".", error).string();
-    if (error || folder.starts_with("/proc/")) break;
-    path = (fs::path(folder) / fs::read_symlink(path, error)).string();
-  }
-  return path;
-}
 
 /// The number of a file that this process has open, when the path names it as /dev/stdout does.
 std::optional<int> own_descriptor(const std::string& path) {

@@ -33,14 +33,19 @@ namespace zol {
 /// @param length  of the reciprocal vector, inverse angstroms
 /// @param what    names the length of the direction in the message
 /// @throws RunFailure  one of them has no length
-[[nodiscard]] inline Single latitude_deg(const Main1State& cell, const Indices<Integer>& hkl, Single length,
-                                         const SingleTriple& direction, std::string_view what) {
+[[nodiscard]] inline Single latitude_deg(const Indices<Integer>& hkl, Single length, const SingleTriple& direction,
+                                         Single direction_length, std::string_view what) {
   const auto& [u, v, w] = direction;
-  const Single direction_length = DHKLT(cell, u, v, w);
   const double product = hkl.h.value() * double{u} + hkl.k.value() * double{v} + hkl.l.value() * double{w};
   const Single cosine =
       to_single(divide(divide(product, length, "the length of a reflection"), direction_length, what));
   return to_single(90.0 - double{ArcCos(cosine)});
+}
+/// With the length of the direction in this cell.
+[[nodiscard]] inline Single latitude_deg(const Main1State& cell, const Indices<Integer>& hkl, Single length,
+                                         const SingleTriple& direction, std::string_view what) {
+  const auto& [u, v, w] = direction;
+  return latitude_deg(hkl, length, direction, DHKLT(cell, u, v, w), what);
 }
 
 }  // namespace zol

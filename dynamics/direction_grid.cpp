@@ -8,7 +8,7 @@
 namespace zol {
 namespace {
 
-constexpr double pi = std::numbers::pi;
+using std::numbers::pi;
 constexpr double nearly = 0.01;  // of an element of an operation: far above rounding, far below 30 degrees
 
 bool near(double a, double b) { return std::abs(a - b) < nearly; }

@@ -17,7 +17,7 @@
 namespace zol {
 namespace {
 
-constexpr double pi = std::numbers::pi;
+using std::numbers::pi;
 constexpr double nanometre = 10;
 
 DepthSettings depth_settings(double depth_nm) {
@@ -118,7 +118,7 @@ double deepest_nm(const DynamicCrystal& crystal, double kilovolt) {
 }
 
 template <class Grid>
-std::size_t kept(const DynamicCrystal& crystal) {
+std::size_t directions_of(const DynamicCrystal& crystal) {
   return static_cast<std::size_t>(std::count_if(crystal.operations.begin(), crystal.operations.end(),
                                                 [](const auto& o) { return Grid::keeps(o); }));
 }
@@ -254,7 +254,7 @@ MasterPattern master_pattern(const DynamicCrystal& crystal, const MasterSettings
   const SquareGrid square(settings.size);
   // Rings a quarter closer than the square grid, from which it is read.
   const RingGrid rings(2 * (settings.size - 1) / 3 + 1);
-  const bool by_rings = kept<RingGrid>(crystal) > kept<SquareGrid>(crystal);
+  const bool by_rings = directions_of<RingGrid>(crystal) > directions_of<SquareGrid>(crystal);
   const auto fill = [&](const auto& grid, const auto& read) {
     const GridPattern pattern(grid, crystal);
     master.directions = pattern.directions();

@@ -11,7 +11,7 @@ namespace zol {
 namespace {
 
 using Complex = std::complex<double>;
-constexpr double pi = std::numbers::pi;
+using std::numbers::pi;
 constexpr double faint = 1e-5;         ///< |U_g| of a reflection that is absent
 constexpr double as_if_absent = 0.01;  ///< the strength by which an absent one is ranked
 

@@ -1,26 +1,43 @@
 #include "hdf5/hdf5_writer.h"
 
 #include <hdf5.h>
-#include <unistd.h>
 
-#include <filesystem>
-#include <system_error>
+#include <utility>
 
+#include "core/atomic_file.h"
 #include "core/run_failure.h"
 
 namespace zol {
 
 static_assert(std::is_same_v<hid_t, std::int64_t>);
 
-Hdf5Writer::Hdf5Writer(const std::string& path)
-    : file_(H5Fcreate(path.c_str(), H5F_ACC_TRUNC, H5P_DEFAULT, H5P_DEFAULT),
-            [](std::int64_t id) { return H5Fclose(id); }),
+namespace {
+
+/// @returns the number of a file in memory that no disk has
+hid_t make_in_memory() {
+  constexpr std::size_t grows_by = std::size_t{1} << 20U;
+  const Hdf5Handle access(H5Pcreate(H5P_FILE_ACCESS), [](std::int64_t id) { return H5Pclose(id); });
+  (void)H5Pset_fapl_core(access.id(), grows_by, 0);
+  return H5Fcreate("in memory", H5F_ACC_TRUNC, H5P_DEFAULT, access.id());
+}
+
+}  // namespace
+
+Hdf5Writer::Hdf5Writer()
+    : file_(make_in_memory(), [](std::int64_t id) { return H5Fclose(id); }),
       links_(H5Pcreate(H5P_LINK_CREATE), [](std::int64_t id) { return H5Pclose(id); }) {
   (void)H5Pset_create_intermediate_group(links_.id(), 1);
   good_ = bool(file_);
 }
 
-bool Hdf5Writer::flush() { return good_ && H5Fflush(file_.id(), H5F_SCOPE_GLOBAL) >= 0; }
+std::optional<std::string> Hdf5Writer::bytes() {
+  if (!good_ || H5Fflush(file_.id(), H5F_SCOPE_GLOBAL) < 0) return std::nullopt;
+  const ssize_t size = H5Fget_file_image(file_.id(), nullptr, 0);
+  if (size < 0) return std::nullopt;
+  std::string bytes(static_cast<std::size_t>(size), '\0');
+  if (H5Fget_file_image(file_.id(), bytes.data(), bytes.size()) != size) return std::nullopt;
+  return bytes;
+}
 
 void Hdf5Writer::text(const std::string& place, const std::string& value) {
   const Hdf5Handle type(H5Tcopy(H5T_C_S1), [](std::int64_t id) { return H5Tclose(id); });
@@ -62,20 +79,16 @@ void Hdf5Writer::put_as(const std::string& place, std::int64_t type, const std::
 }
 
 void write_hdf5(const std::string& path, const std::function<void(Hdf5Writer&)>& write) {
-  // The library writes the file itself: beside its place first, so that no half one stands there.
-  const std::string beside = path + ".part-" + std::to_string(getpid());
-  bool good = false;
+  AtomicFile file(path);
+  std::optional<std::string> bytes;
   {
-    Hdf5Writer out(beside);
+    Hdf5Writer out;
     write(out);
-    good = out.flush();
+    bytes = out.bytes();
   }
-  std::error_code error;
-  if (good) std::filesystem::rename(beside, path, error);
-  if (!good || error) {
-    std::filesystem::remove(beside, error);
-    throw RunFailure("cannot write " + path);
-  }
+  if (!bytes) throw RunFailure("cannot write " + path);
+  file.contain(std::move(*bytes));
+  file.commit();
 }
 
 }  // namespace zol

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <functional>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -12,12 +13,13 @@
 
 namespace zol {
 
-/// The first failure is remembered, what follows it does nothing.
+/// Makes the file in memory: the library ends the process where a disk fails it. The first failure is remembered, what
+/// follows it does nothing.
 class Hdf5Writer {
  public:
-  explicit Hdf5Writer(const std::string& path);
-  [[nodiscard]] bool good() const { return good_; }
-  [[nodiscard]] bool flush();
+  Hdf5Writer();
+  /// The bytes of the file; none where something failed.
+  [[nodiscard]] std::optional<std::string> bytes();
 
   template <class Value>
   void array(const std::string& place, const std::vector<Value>& values) {
@@ -51,7 +53,7 @@ class Hdf5Writer {
   bool good_ = false;
 };
 
-/// Writes a file beside its place and gives it that place when it is complete.
+/// The file appears as a whole or not at all.
 /// @throws RunFailure  it cannot be written
 void write_hdf5(const std::string& path, const std::function<void(Hdf5Writer&)>& write);
 

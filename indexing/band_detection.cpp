@@ -6,15 +6,13 @@
 #include <numbers>
 #include <tuple>
 
+#include "indexing/units.h"
 #include "indexing/vector_clones.h"
 
 namespace zol {
 namespace {
 
-constexpr double radians = std::numbers::pi / 180;
 constexpr double first_azimuth = -std::numbers::pi / 4;
-
-std::size_t index(int n) { return static_cast<std::size_t>(n); }
 
 /// Adds a row to the line of sums at an offset of whole bins and a part of one.
 ZOL_VECTOR_CLONES void add_shifted(const float* row, int count, float part, float* sums) {

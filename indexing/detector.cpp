@@ -3,13 +3,12 @@
 #include <algorithm>
 #include <cctype>
 #include <cmath>
-#include <numbers>
 #include <string>
+
+#include "indexing/units.h"
 
 namespace zol {
 namespace {
-
-constexpr double radians = std::numbers::pi / 180;
 
 /// Height in widths.
 double aspect(const PictureSize& size) { return static_cast<double>(size.height) / size.width; }

@@ -4,12 +4,12 @@
 #include <cmath>
 #include <cstddef>
 
+#include "indexing/units.h"
+
 namespace zol {
 namespace {
 
 constexpr float most_spread = 3;  // of a pixel: hot ones count no more
-
-std::size_t index(int n) { return static_cast<std::size_t>(n); }
 
 }  // namespace
 

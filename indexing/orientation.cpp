@@ -29,15 +29,6 @@ double misorientation_deg(const Rotation& a, const Rotation& b, std::span<const 
   return angle_of_chord(smallest);
 }
 
-Rotation smallest_equivalent(const Rotation& orientation, std::span<const Rotation> symmetry) {
-  Rotation best = orientation;
-  for (const Rotation& rotation : symmetry) {
-    const Rotation other = rotation * orientation;
-    if (other.trace() > best.trace() + 1e-12) best = other;
-  }
-  return best;
-}
-
 Rotation rotation_of(const Vector3& axis_angle) {
   const double angle = axis_angle.norm();
   if (angle == 0) return Rotation::Identity();

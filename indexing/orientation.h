@@ -21,9 +21,6 @@ using Rotation = Eigen::Matrix3d;
 /// The same, the smallest over rotations of the crystal that leave it as it is.
 [[nodiscard]] double misorientation_deg(const Rotation& a, const Rotation& b, std::span<const Rotation> symmetry);
 
-/// The one nearest to the identity among those that the crystal's rotations make equal; the first of equal ones.
-[[nodiscard]] Rotation smallest_equivalent(const Rotation& orientation, std::span<const Rotation> symmetry);
-
 /// Rotation by a vector along the axis, its length the angle in radians.
 [[nodiscard]] Rotation rotation_of(const Vector3& axis_angle);
 

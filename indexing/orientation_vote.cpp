@@ -6,11 +6,11 @@
 #include <numbers>
 
 #include "core/run_failure.h"
+#include "indexing/units.h"
 
 namespace zol {
 namespace {
 
-constexpr double radians = std::numbers::pi / 180;
 constexpr int map_size = 129;
 constexpr double map_middle = 64;
 constexpr double map_nearest = map_middle + 0.5;  ///< cut off, it gives the nearest point
@@ -19,8 +19,6 @@ constexpr double map_reach_deg = 6;
 constexpr double least_angle_deg = 12;  ///< between two planes that give an orientation
 constexpr std::size_t examined = 400;   ///< candidates that are looked at closely
 constexpr std::size_t kept_at_once = 16 * examined;
-
-std::size_t index(int n) { return static_cast<std::size_t>(n); }
 
 /// Frame of two unit vectors: their bisector, the direction across, their vector product.
 Rotation frame_of(const Vector3& a, const Vector3& b) {

@@ -2,13 +2,13 @@
 
 #include <Eigen/Cholesky>
 #include <cmath>
-#include <numbers>
 #include <vector>
+
+#include "indexing/units.h"
 
 namespace zol {
 namespace {
 
-constexpr double radians = std::numbers::pi / 180;
 constexpr int unknowns = 6;
 constexpr int most_rounds = 20;
 constexpr double most_shift = 0.15;  ///< of the centre, in widths: beyond, the bands do not tell

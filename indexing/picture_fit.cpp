@@ -4,17 +4,13 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <numbers>
 #include <utility>
 
+#include "indexing/units.h"
 #include "indexing/vector_clones.h"
 
 namespace zol {
 namespace {
-
-constexpr double radians = std::numbers::pi / 180;
-
-std::size_t index(int n) { return static_cast<std::size_t>(n); }
 
 /// A row of directions: the first and the step to the next.
 struct DirectionRow {

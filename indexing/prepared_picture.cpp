@@ -4,12 +4,10 @@
 #include <cmath>
 #include <cstddef>
 
+#include "indexing/units.h"
+
 namespace zol {
-namespace {
-
-std::size_t index(int n) { return static_cast<std::size_t>(n); }
-
-}  // namespace
+namespace {}  // namespace
 
 void PreparedPicture::shape(const Gathering& gathering, const PreparationSettings& settings) {
   const bool same = gathering.picture_width == gathering_.picture_width &&

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <optional>
 
-#include "core/metric_forms.h"
+#include "core/cell_geometry.h"
 #include "core/run_failure.h"
 #include "reflections/reflection_list.h"
 #include "spots/zone_geometry.h"
@@ -12,52 +12,40 @@
 namespace zol {
 namespace {
 
+constexpr int between_checks = 64;  // reflections, of a microsecond each
+
 double tangent(double angle_deg) { return std::tan(angle_deg * degree); }
 
-/// What a line needs of a reflection before its place is worked out.
-struct Inclination {
-  Single length = 0;  ///< 1/d
-  Single latitude_deg = 0;
-};
-
-/// Angle of the reciprocal vector above the plane normal to the axis.
-Inclination inclination(const CrystalState& state, const Indices<Integer>& hkl) {
-  Inclination result;
-  result.length = DHKL(state, hkl.h, hkl.k, hkl.l);
-  result.latitude_deg =
-      latitude_deg(state, hkl, result.length, {state.ZoneU, state.ZoneV, state.ZoneW}, "the length of the zone axis");
-  return result;
-}
-
-/// Bragg angle in degrees.
-Single bragg_angle(const CrystalState& state, Single length) {
-  return ArcSin(to_single(double{length} * state.WaveLength / 2));
-}
-
-/// Of the pattern, by PatternAngle.
-struct Rotation {
-  explicit Rotation(double angle) : cosine(std::cos(angle)), sine(std::sin(angle)) {}
+/// What all lines of a pattern share: azimuths count from the reference reflection, the pattern is turned by
+/// PatternAngle.
+struct PatternFrame {
+  explicit PatternFrame(const CrystalState& state)
+      : reference{state.OriginH, state.OriginK, state.OriginL},
+        cosine(std::cos(double{state.PatternAngle})),
+        sine(std::sin(double{state.PatternAngle})) {}
+  Indices<Integer> reference;
+  std::optional<Single> reference_length;  ///< where it has been asked for
   double cosine, sine;
 };
 
 /// Unit vector from the centre towards the line, from the cosine of the angle to the reference reflection within the
 /// plane of the pattern and the side on which the reflection lies, turned by PatternAngle.
-void set_direction(const CrystalState& state, const Inclination& place, const Rotation& rotation, bool clip,
+void set_direction(const CrystalState& state, const ListedPlanes::Place& place, PatternFrame& frame, bool clip,
                    KikuchiLine& line) {
-  const Indices<Integer> reference{state.OriginH, state.OriginK, state.OriginL};
+  const auto& reference = frame.reference;
   const auto& [h, k, l] = line.hkl;
-  const double reference_length = DHKL(state, reference.h, reference.k, reference.l);
+  if (!frame.reference_length) frame.reference_length = DHKL(state, reference.h, reference.k, reference.l);
   double cosine = to_single(divide(divide(divide(Product(state, h, k, l, reference.h, reference.k, reference.l),
                                                  place.length, "the length of a reflection"),
-                                          reference_length, "the length of the reference reflection"),
+                                          *frame.reference_length, "the length of the reference reflection"),
                                    std::cos(double{place.latitude_deg} * degree), "the cosine of a latitude"));
   if (clip) cosine = std::clamp(cosine, -1.0, 1.0);
   const auto [u, v, w] = as_singles(cross_vector(line.hkl, reference));
   const Single side = ProductTS(state, state.ZoneU, state.ZoneV, state.ZoneW, u, v, w);
   const double sign = side <= 0 ? 1.0 : -1.0;
   const double sine = to_single(sign * std::sqrt(std::abs(1.0 - cosine * cosine)));
-  line.unit_x = to_single(-(cosine * rotation.cosine - sine * rotation.sine));
-  line.unit_y = to_single(-(cosine * rotation.sine + sine * rotation.cosine));
+  line.unit_x = to_single(-(cosine * frame.cosine - sine * frame.sine));
+  line.unit_y = to_single(-(cosine * frame.sine + sine * frame.cosine));
 }
 
 Single list_azimuth(const CrystalState& state, const KikuchiLine& line) {
@@ -75,8 +63,6 @@ void set_foot(Single theta_deg, bool trace_only, KikuchiLine& line) {
   line.foot_x = to_single(distance * line.unit_x);
   line.foot_y = to_single(distance * line.unit_y);
 }
-
-Indices<Integer> reflection(const CrystalState& state, int i) { return {state.RefH(i), state.RefK(i), state.RefL(i)}; }
 
 bool is_zero(const Indices<Integer>& hkl) { return hkl == Indices<Integer>{}; }
 
@@ -124,44 +110,51 @@ ListOrder order_for_kikuchi(const CrystalState& state, Task& task) {
   return {exchange_order(keys, 1, last_under_rounded_bound, false, task)};
 }
 
-Single strongest_in_view(const CrystalState& state, const GnomonicView& view, Task& task) {
+Single strongest_in_view(ListedPlanes& planes, const GnomonicView& view, Task& task) {
+  const CrystalState& state = planes.state();
   const char letter = state.LatticeLetter.empty() ? 'P' : state.LatticeLetter.front();
-  const double limit = 2.0 * view.reach;
+  const TangentLimit limit(2.0 * view.reach);
   Single strongest = 0;
   for (int i = 1; i <= state.RefCount.value(); ++i) {
-    task.check();
-    const auto hkl = reflection(state, i);
+    if ((i - 1) % between_checks == 0) task.check();
+    const auto hkl = planes.indices(i);
     if (!centring_allows(letter, hkl.h.value(), hkl.k.value(), hkl.l.value()) || is_zero(hkl)) continue;
-    const auto place = inclination(state, hkl);
-    if (!(tangent(std::abs(place.latitude_deg)) < limit)) continue;
+    const auto place = planes.place(i);
+    if (!limit.above(std::abs(place.latitude_deg))) continue;
     const Single intensity = pattern_intensity(state, i);
     constexpr double angle_exists = 0.99;
     const bool is_certain = double{place.length} * state.WaveLength / 2 < angle_exists;  // else it may fail
     if (is_certain && intensity <= strongest) continue;
-    if (tangent(bragg_angle(state, place.length)) < limit && intensity > strongest) strongest = intensity;
+    if (limit.above(planes.bragg_angle_deg(i)) && intensity > strongest) strongest = intensity;
   }
   return strongest;
 }
 
-std::vector<KikuchiLine> kikuchi_lines(const CrystalState& state, const GnomonicView& view, bool trace_only,
-                                       Task& task) {
+std::vector<KikuchiLine> kikuchi_lines(ListedPlanes& planes, const GnomonicView& view, bool trace_only, Task& task) {
+  const CrystalState& state = planes.state();
   std::vector<KikuchiLine> lines;
-  const Rotation rotation(state.PatternAngle);
+  lines.reserve(static_cast<std::size_t>(std::max(0, std::min(state.KikuchiRefLimit, state.RefCount).value())));
+  PatternFrame frame(state);
+  const TangentLimit latitudes(2.0 * view.reach);
+  const TangentLimit bragg_angles(view.reach);
   const int first = (state.RefCount - state.KikuchiRefLimit + 1).value();
   for (int i = first; i <= state.RefCount.value(); ++i) {
-    task.report(i - first, state.RefCount.value() - first);
-    task.check();
+    if ((i - first) % between_checks == 0) {
+      task.report(i - first, state.RefCount.value() - first);
+      task.check();
+    }
     KikuchiLine line;
-    line.hkl = reflection(state, i);
+    line.hkl = planes.indices(i);
     if (is_zero(line.hkl)) continue;
-    const auto place = inclination(state, line.hkl);
-    if (!(tangent(std::abs(place.latitude_deg)) < 2.0 * view.reach)) continue;
+    const auto place = planes.place(i);
+    if (!latitudes.above(std::abs(place.latitude_deg))) continue;
     line.intensity = pattern_intensity(state, i);
+    line.length = place.length;
     line.latitude_deg = place.latitude_deg;
-    set_direction(state, place, rotation, true, line);
+    set_direction(state, place, frame, true, line);
     line.azimuth_deg = list_azimuth(state, line);
-    const Single theta_deg = bragg_angle(state, place.length);
-    if (!(tangent(theta_deg) < view.reach)) continue;
+    const Single theta_deg = planes.bragg_angle_deg(i);
+    if (!bragg_angles.above(theta_deg)) continue;
     set_foot(theta_deg, trace_only, line);
     lines.push_back(line);
   }
@@ -171,10 +164,13 @@ std::vector<KikuchiLine> kikuchi_lines(const CrystalState& state, const Gnomonic
 KikuchiLine marked_line(const CrystalState& state, bool trace_only) {
   KikuchiLine line;
   line.hkl = {state.MarkH, state.MarkK, state.MarkL};
-  const auto place = inclination(state, line.hkl);
+  std::optional<Single> axis_length;
+  const auto place = place_of_plane(state, line.hkl, axis_length);
+  line.length = place.length;
   line.latitude_deg = place.latitude_deg;
-  set_direction(state, place, Rotation(state.PatternAngle), false, line);
-  set_foot(bragg_angle(state, place.length), trace_only, line);
+  PatternFrame frame(state);
+  set_direction(state, place, frame, false, line);
+  set_foot(bragg_angle_deg(state, place.length), trace_only, line);
   return line;
 }
 

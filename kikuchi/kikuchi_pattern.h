@@ -14,6 +14,7 @@
 #include "core/list_order.h"
 #include "core/task.h"
 #include "core/triples.h"
+#include "kikuchi/listed_planes.h"
 
 namespace zol {
 
@@ -33,26 +34,28 @@ struct GnomonicView {
 
 /// Intensity that maps to full grey: the largest 2 RefS RefI of a reflection that the lattice letter allows and whose
 /// line lies within twice the reach.
-[[nodiscard]] Single strongest_in_view(const CrystalState& state, const GnomonicView& view, Task& task);
+[[nodiscard]] Single strongest_in_view(ListedPlanes& planes, const GnomonicView& view, Task& task);
 
 /// One line of the pattern.
 struct KikuchiLine {
   Indices<Integer> hkl{};
   Single intensity = 0;     ///< 2 RefS RefI
+  Single length = 0;        ///< 1/d
   Single latitude_deg = 0;  ///< of the plane normal above the plane of the pattern
   Single azimuth_deg = 0;   ///< for the list: the rotation of the pattern, in radians, is added to the degrees
   Single unit_x = 0;        ///< unit vector from the centre towards the line
   Single unit_y = 0;
   Single foot_x = 0;  ///< foot of the perpendicular from the centre
   Single foot_y = 0;
+  bool operator==(const KikuchiLine&) const = default;
 };
 
 /// The lines of the strongest KikuchiRefLimit reflections, in the order of the list, without those far
 /// outside the picture.
 /// @param trace_only  the trace of the plane instead of the line at the Bragg angle
 /// @throws RunFailure  a zero axis or reference, an index below 0, or products beyond 16 bits
-[[nodiscard]] std::vector<KikuchiLine> kikuchi_lines(const CrystalState& state, const GnomonicView& view,
-                                                     bool trace_only, Task& task);
+[[nodiscard]] std::vector<KikuchiLine> kikuchi_lines(ListedPlanes& planes, const GnomonicView& view, bool trace_only,
+                                                     Task& task);
 
 /// The line of the reflection MarkH, MarkK, MarkL, also outside the picture.
 /// @throws RunFailure  a zero axis, reference or reflection

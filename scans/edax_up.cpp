@@ -49,8 +49,7 @@ class EdaxUp : public RawScan {
     const auto columns = file_.number<std::uint32_t>(17, "the columns of the map");
     const auto rows = file_.number<std::uint32_t>(21, "the rows of the map");
     grid.hexagonal = file_.number<std::uint8_t>(25, "the kind of grid") == 1;
-    grid.step_x = file_.number<double>(26, "the step");
-    grid.step_y = file_.number<double>(34, "the step");
+    grid.take_steps(file_.number<double>(26, "the step"), file_.number<double>(34, "the step"));
     grid.short_rows = grid.hexagonal && !extra;
     constexpr std::uint32_t most = 1U << 20U;
     if (columns == 0 || rows == 0 || columns > most || rows > most) {

@@ -2,17 +2,15 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdlib>
-#include <numbers>
 #include <utility>
 
 #include "core/run_failure.h"
 #include "hdf5/hdf5_file.h"
+#include "indexing/units.h"
 #include "scans/readers.h"
 
 namespace zol {
 namespace {
-
-constexpr double degrees = 180 / std::numbers::pi;
 
 /// Where the patterns of one scan stand and what is said of them.
 struct Layout {
@@ -148,9 +146,9 @@ class Hdf5Scan : public Scan {
     header_.whole = file_.holds_whole_numbers(layout_.patterns);
     if (rows_of_patterns_) row_length_ = sides[1];
     for (const auto& [name, side] : {std::pair(layout_.width, header_.width), {layout_.height, header_.height}}) {
-      const auto said = header_number(name);
-      if (said && static_cast<int>(*said) != side) {
-        header_.remarks.push_back("the header says " + std::to_string(static_cast<int>(*said)) + " for \"" + name +
+      const auto said = whole(header_number(name));
+      if (said && *said != side) {
+        header_.remarks.push_back("the header says " + std::to_string(*said) + " for \"" + name +
                                   "\", the patterns have " + std::to_string(side));
       }
     }
@@ -169,10 +167,7 @@ class Hdf5Scan : public Scan {
     } else {
       return;
     }
-    grid.step_x = header_number(layout_.step_x).value_or(1);
-    grid.step_y = header_number(layout_.step_y).value_or(grid.step_x);
-    if (!(grid.step_x > 0) || !std::isfinite(grid.step_x)) grid.step_x = 1;
-    if (!(grid.step_y > 0) || !std::isfinite(grid.step_y)) grid.step_y = grid.step_x;
+    grid.take_steps(header_number(layout_.step_x).value_or(0), header_number(layout_.step_y).value_or(0));
     if (grid.points() != header_.points) {
       header_.remarks.push_back("the header says " + std::to_string(grid.columns) + " x " + std::to_string(grid.rows) +
                                 " points, the file holds " + std::to_string(header_.points) + " patterns");
@@ -249,13 +244,14 @@ class Hdf5Scan : public Scan {
     const auto x = file_.numbers(group + "IX");
     const auto y = file_.numbers(group + "IY");
     if (x.size() != stored_ || y.size() != stored_) return;
+    const auto known = [](double number) { return std::isfinite(number); };
+    const bool all_known = std::all_of(x.begin(), x.end(), known) && std::all_of(y.begin(), y.end(), known);
     const auto [least_x, most_x] = std::minmax_element(x.begin(), x.end());
     const auto [least_y, most_y] = std::minmax_element(y.begin(), y.end());
     const double columns = *most_x - *least_x + 1;
     const double rows = *most_y - *least_y + 1;
     constexpr double most = 1 << 20;
-    if (!(columns >= 1 && rows >= 1 && columns <= most && rows <= most) ||
-        columns * rows > 4.0 * static_cast<double>(stored_) + 16) {
+    if (!all_known || columns > most || rows > most || columns * rows > 4.0 * static_cast<double>(stored_) + 16) {
       header_.remarks.emplace_back("the places of the points are impossible, the points are taken in order");
       return;
     }

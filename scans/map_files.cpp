@@ -9,11 +9,11 @@
 #include "core/atomic_file.h"
 #include "core/run_failure.h"
 #include "indexing/orientation.h"
+#include "indexing/units.h"
 
 namespace zol {
 namespace {
 
-constexpr double degrees = 180 / std::numbers::pi;
 constexpr double turn_deg = 360;
 
 std::string fixed(double value, int decimals) {
@@ -202,7 +202,6 @@ void check_grid_of_ctf(const MapResult& map) {
 }  // namespace
 
 int edax_symmetry(const std::string& laue_class) { return laue(laue_class).edax; }
-int oxford_laue_group(const std::string& laue_class) { return laue(laue_class).oxford; }
 
 std::string ang_text(const MapResult& map) { return whole(ang, map); }
 std::string ctf_text(const MapResult& map) {

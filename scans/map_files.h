@@ -21,9 +21,8 @@ void write_map(const MapResult& map, const std::string& path);
 /// Whether write_map knows the ending. @throws RunFailure  it does not; the message tells those it knows
 void check_map_path(const std::string& path);
 
-/// EDAX's number of a Laue class, as 43 for m-3m, and Oxford's, as 11.
+/// EDAX's number of a Laue class, as 43 for m-3m.
 [[nodiscard]] int edax_symmetry(const std::string& laue_class);
-[[nodiscard]] int oxford_laue_group(const std::string& laue_class);
 
 /// HDF5 of EDAX's layout and of kikuchipy's and orix's in one.
 void write_map_hdf5(const MapResult& map, const std::string& path);

@@ -135,6 +135,7 @@ void write_map_hdf5(const MapResult& map, const std::string& path) {
                   return p.lead / steps;
                 }));
     }
+    out.text("ZOL/creator", map.creator);
     out.text("ZOL/settings", map.settings);
     out.text("ZOL/source", map.source);
   });

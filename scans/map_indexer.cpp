@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "core/run_failure.h"
+#include "indexing/units.h"
 
 namespace zol {
 namespace {
@@ -18,8 +19,6 @@ constexpr double least_contrast = 0.5;
 
 /// A gathered pixel is saturated where all of its pixels are; their mean is rounded.
 constexpr double nearly_all = 1 - 1e-6;
-
-std::size_t index(int n) { return static_cast<std::size_t>(n); }
 
 /// How smooth a picture is: the mean correlation of pixels with those beside and below them. It is the mean cosine of
 /// its power spectrum, 0 for white noise, and so akin to the measure of Krieger Lassen, Conradsen & Juul Jensen,

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
+
+#include "indexing/units.h"
 
 namespace zol {
 namespace {
 
-constexpr double degrees = 180 / std::numbers::pi;
 constexpr int scale_colours = 256;
 
 std::uint8_t byte_of(double part) {

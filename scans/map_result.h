@@ -40,10 +40,6 @@ struct MapPhase {
   std::vector<Rotation> rotations;  ///< proper ones of the Laue group, in the crystal's frame
 };
 
-/// "-1" to "m-3m" of a space group's number, 1 to 230; files of other settings bear higher ones: "-1".
-/// Source: International Tables for Crystallography A (2016) 2.1.
-[[nodiscard]] std::string laue_class_of(int space_group);
-
 struct MapResult {
   ScanGrid grid;
   std::vector<PointResult> points;
@@ -52,6 +48,7 @@ struct MapResult {
   double sample_tilt_deg = 70, detector_tilt_deg = 0, kilovolt = 20;
   int width = 0, height = 0;  ///< pixels of a pattern
   std::string source;         ///< name of the scan
+  std::string creator;        ///< name and version of the program
   std::string settings;       ///< text from which the run can be repeated
 };
 

@@ -190,7 +190,9 @@ class Ledger : public TileDesk {
         run_(run),
         points_(points),
         part_(run, tiles_, [this](std::size_t tile, const std::vector<PointResult>& results) { put(tile, results); }),
-        kept_(tiles_.size()) {}
+        kept_(tiles_.size()) {
+    for (std::size_t tile = 0; tile < tiles_.size(); ++tile) all_ += part_.points_of(tile);
+  }
 
   std::optional<std::size_t> next() override {
     while (true) {
@@ -218,7 +220,7 @@ class Ledger : public TileDesk {
     const std::lock_guard lock(mutex_);
     part_.keep(tile, kept_[tile], std::span(results).subspan(kept_[tile]), {});
     put(tile, results);
-    run_.progress(done_, points_.size());
+    run_.progress(done_, all_);
   }
   void remove_part() { part_.remove(); }
 
@@ -239,7 +241,7 @@ class Ledger : public TileDesk {
   const ScanGrid& grid_;
   const MapRun& run_;
   std::vector<PointResult>& points_;
-  std::size_t done_ = 0;
+  std::size_t done_ = 0, all_ = 0;  ///< points of the tiles
   PartFile part_;
   std::vector<std::size_t> kept_;  ///< points of each tile that stand in the file
   std::atomic<std::size_t> next_ = 0;

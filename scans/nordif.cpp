@@ -80,7 +80,8 @@ class Nordif : public RawScan {
       ScanGrid grid;
       grid.rows = (*samples)[0];
       grid.columns = (*samples)[1];
-      grid.step_x = grid.step_y = leading_number(find("Area/Step size")).value_or(1);
+      const double step = leading_number(find("Area/Step size")).value_or(0);
+      grid.take_steps(step, step);
       header_.points = grid.points();
       header_.grid = grid;
     }

@@ -123,8 +123,7 @@ class OxfordEbsp : public RawScan {
     ScanGrid grid;
     grid.columns = static_cast<int>(columns);
     grid.rows = static_cast<int>(places_.size() / static_cast<std::size_t>(grid.columns));
-    grid.step_x = step;
-    grid.step_y = grid.rows > 1 ? std::abs((*c)[1] - (*a)[1]) / (grid.rows - 1) : step;
+    grid.take_steps(step, grid.rows > 1 ? std::abs((*c)[1] - (*a)[1]) / (grid.rows - 1) : step);
     if (grid.points() == header_.points) header_.grid = grid;
   }
 

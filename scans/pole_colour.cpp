@@ -2,15 +2,14 @@
 
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <numeric>
 #include <optional>
 #include <utility>
 
+#include "indexing/units.h"
+
 namespace zol {
 namespace {
-
-constexpr double degrees = 180 / std::numbers::pi;
 
 /// 1, 2, 3, 4 or 6.
 int order_of(const Rotation& rotation) {

@@ -1,7 +1,8 @@
 #include "scans/scan.h"
 
+#include <cmath>
+
 #include "core/run_failure.h"
-#include "scans/map_result.h"
 
 namespace zol {
 
@@ -26,6 +27,12 @@ std::optional<std::size_t> ScanGrid::point(int column, int row) const {
   return before - static_cast<std::size_t>(is_short ? row / 2 : 0) + static_cast<std::size_t>(column);
 }
 
+void ScanGrid::take_steps(double along_x, double along_y) {
+  const auto is_length = [](double step) { return step > 0 && std::isfinite(step); };
+  step_x = is_length(along_x) ? along_x : 1;
+  step_y = is_length(along_y) ? along_y : step_x;
+}
+
 void PatternBlock::begin(std::size_t first_point, std::size_t points, std::size_t pixels_of_each) {
   first = first_point;
   count = points;
@@ -43,20 +50,6 @@ void take_size(ScanHeader& header, const std::array<int, 2>& size, const std::st
                      std::to_string(size[0]) + " x " + std::to_string(size[1]));
   }
   header.grid = grid;
-}
-
-std::string laue_class_of(int space_group) {
-  struct Last {
-    int number;
-    const char* name;
-  };
-  constexpr std::array last_of{Last{2, "-1"},      Last{15, "2/m"},  Last{74, "mmm"},  Last{88, "4/m"},
-                               Last{142, "4/mmm"}, Last{148, "-3"},  Last{167, "-3m"}, Last{176, "6/m"},
-                               Last{194, "6/mmm"}, Last{206, "m-3"}, Last{230, "m-3m"}};
-  for (const auto& [number, name] : last_of) {
-    if (space_group >= 1 && space_group <= number) return name;
-  }
-  return "-1";
 }
 
 }  // namespace zol

@@ -32,6 +32,8 @@ struct ScanGrid {
   [[nodiscard]] std::array<int, 2> place(std::size_t point) const;
   /// The point at a place, none outside the map and at the end of a short row.
   [[nodiscard]] std::optional<std::size_t> point(int column, int row) const;
+  /// As a file has them. What is no length counts as 1 along x, and along y as the step along x.
+  void take_steps(double along_x, double along_y);
 };
 
 /// A pattern centre as a maker writes it.

@@ -39,7 +39,7 @@ void clip(Long& first, Long& second, Long& third) {
 
 }  // namespace
 
-Orientation orientation(const Main1State& state) {
+PatternAxes orientation(const Main1State& state) {
   const SingleTriple a = reciprocal_metric_times(state, as_singles({state.OriginH, state.OriginK, state.OriginL}));
   const SingleTriple zone{state.ZoneU, state.ZoneV, state.ZoneW};
   const SingleTriple cross{to_single(double{a[2]} * zone[1] - double{a[1]} * zone[2]),
@@ -64,7 +64,7 @@ TiltAngles angles_of_point(Single x, Single y) {
   return angles;
 }
 
-Indices<Integer> zone_axis_of(const Orientation& frame, const TiltAngles& direction) {
+Indices<Integer> zone_axis_of(const PatternAxes& frame, const TiltAngles& direction) {
   const double theta = direction.theta;
   const double phi = direction.phi;
   const double ex = to_single(std::cos(theta) * std::cos(phi));

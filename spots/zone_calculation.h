@@ -13,14 +13,14 @@
 namespace zol {
 
 /// Unit vectors X, Y, Z of the pattern frame in components of the direct lattice.
-struct Orientation {
+struct PatternAxes {
   SingleTriple x{}, y{}, z{};
 };
 
 /// From the zone axis ZoneU..W and the reference reflection OriginH..L:
 /// X = G* h0 / |..|, Y = G* (zone x G* h0) / |..| with the product taken on bare numbers, Z = zone / |zone|.
 /// @throws RunFailure  a zero axis or reference
-[[nodiscard]] Orientation orientation(const Main1State& state);
+[[nodiscard]] PatternAxes orientation(const Main1State& state);
 
 /// A direction in the pattern frame: azimuth from X towards Y, latitude above the XY plane.
 struct TiltAngles {
@@ -35,7 +35,7 @@ struct TiltAngles {
 /// Whole zone axis nearest below a direction: its largest component is 1000, floors, then reduced by common divisors
 /// from 1000 down to 2, once each.
 /// @throws RunFailure  a zero direction
-[[nodiscard]] Indices<Integer> zone_axis_of(const Orientation& frame, const TiltAngles& direction);
+[[nodiscard]] Indices<Integer> zone_axis_of(const PatternAxes& frame, const TiltAngles& direction);
 
 /// Indices of the plane whose normal is the direction [u v w], in percent of the sum of their magnitudes, rounded down.
 /// @throws RunFailure  a zero direction

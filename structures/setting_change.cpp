@@ -278,12 +278,6 @@ std::optional<SettingChange> best_change(const std::vector<ExactMatrix>& bases, 
   return std::nullopt;
 }
 
-Operators sorted_once(Operators operators) {
-  std::sort(operators.begin(), operators.end());
-  operators.erase(std::unique(operators.begin(), operators.end()), operators.end());
-  return operators;
-}
-
 }  // namespace
 
 std::optional<SettingChange> setting_change(const Operators& from, const CellConstants& cell, const Operators& to) {

@@ -12,13 +12,13 @@ namespace {
 
 using Numbers = std::array<double, 3>;
 
+}  // namespace
+
 Operators sorted_once(Operators operators) {
   std::sort(operators.begin(), operators.end());
   operators.erase(std::unique(operators.begin(), operators.end()), operators.end());
   return operators;
 }
-
-}  // namespace
 
 Operators few_generators(const Operators& group) {
   Operators generators;

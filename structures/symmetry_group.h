@@ -16,6 +16,9 @@ using ExactMatrix = std::array<std::array<int, 3>, 3>;  ///< elements in 24ths
 /// More operators than any setting of a group has within a cell of up to 16 primitive ones.
 inline constexpr std::size_t most_operators = 1536;
 
+/// In order, each once.
+[[nodiscard]] Operators sorted_once(Operators operators);
+
 /// All products of the generators, each once, sorted; the identity is among them.
 /// @throws RunFailure  they make more than most_operators
 [[nodiscard]] Operators generated_group(const Operators& generators);

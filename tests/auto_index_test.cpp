@@ -59,7 +59,8 @@ TEST_F(AutoIndexTest, PictureIsIndexedShownAndTaken) {
   EXPECT_LT(error_deg(), 0.1);
   EXPECT_GE(form().result.solution()->found.matched, 8);
   EXPECT_GT(form().result.solution()->found.confidence, 0.2);
-  EXPECT_EQ(form().Bands.list_count(), 9);
+  ASSERT_EQ(form().Bands.list_count(), 9);
+  EXPECT_EQ(form().Bands.items().front().size(), form().BandsHeading.caption().size()) << "numbers below their heads";
   const std::array<int, 2> place{1, 3};
   EXPECT_NEAR(Val(form().fields().text("Orientation", place)),
               form().result.solution()->found.crystal_from_picture(0, 2), 1e-12);

@@ -126,14 +126,14 @@ const SymmetryOperator inversion{{{{-1, 0, 0}, {0, -1, 0}, {0, 0, -1}}}, {}};
 const SpaceGroup without_centre{"TRICL", "P1", {identity}};
 const SpaceGroup with_centre{"TRICL", "P-1", {identity, inversion}};
 
-struct Site {
+struct OldSite {
   std::string label;
   const char* element;
   std::array<Single, 3> at;
   Single occupancy = 1;
 };
 
-CrystalState expanded(const std::vector<Site>& sites, const SpaceGroup& group, const char* axis_setting = "abc") {
+CrystalState expanded(const std::vector<OldSite>& sites, const SpaceGroup& group, const char* axis_setting = "abc") {
   CrystalState state;
   state.AxisSetting = axis_setting;
   for (const auto& site : sites) {
@@ -171,7 +171,8 @@ TEST(UnitCell, MergesImagesNearerThanTheTolerance) {
 }
 
 TEST(UnitCell, MergesOnlyEqualLabelsAndElementsOfTwoThousandAtoms) {
-  std::vector<Site> sites{{"M1", "Mg", {}, 0.75F}, {"M1", "Fe", {}, 0.25F}, {"M2", "Mg", {}, 0.5F}, {"M1", "Mg", {}}};
+  std::vector<OldSite> sites{
+      {"M1", "Mg", {}, 0.75F}, {"M1", "Fe", {}, 0.25F}, {"M2", "Mg", {}, 0.5F}, {"M1", "Mg", {}}};
   EXPECT_EQ(unit_cell_summary(expanded(sites, without_centre)), " 3(1.5)");
   EXPECT_EQ(unit_cell_summary(expanded({}, without_centre)), " 0(0.0)");
   for (int i = 1; i <= 998; ++i) sites.push_back({std::to_string(i), "Si", {0.1F, 0.2F, 0.3F}});

@@ -6,12 +6,11 @@
 #include <cmath>
 
 #include "tests/crystals.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
-
-QuietTask quiet;
 
 /// Cubic, 4 angstroms, with one reflection at the end of a list of three; the fiber axis is [111].
 CrystalState textured(int h, int k, int l) {

@@ -29,6 +29,19 @@ double covered(Surface& image, const PictureLine& line) {
   return samples == 0 ? 0 : 1.0 * hits / samples;
 }
 
+/// The farthest that a mark's foot, or a place 100 pixels along it, is from a line.
+double off_line(const PictureMark& mark, const PictureLine& line) {
+  const double length = std::hypot(line.x2 - line.x1, line.y2 - line.y1);
+  const double step = 100 / std::hypot(mark.along_x, mark.along_y);
+  double most = 0;
+  for (const double t : {0.0, step}) {
+    const double x = mark.x + t * mark.along_x - line.x1;
+    const double y = mark.y + t * mark.along_y - line.y1;
+    most = std::max(most, std::abs(x * (line.y2 - line.y1) - y * (line.x2 - line.x1)) / length);
+  }
+  return most;
+}
+
 TEST_F(DesktopTest, SolutionLiesOnTheBandsOfThePicture) {
   const ScratchFolder folder;
   auto& analysis = program.windows().use<Pattern3Form>();
@@ -87,6 +100,19 @@ TEST_F(DesktopTest, SolutionLiesOnTheBandsOfThePicture) {
     EXPECT_GT(covered(picture.stored_image(), drawn), 0.9);
   }
   EXPECT_EQ(marks.size(), 6U);
+
+  std::size_t lit = 0;  // what the mouse over the list lights up: the two edges of each of the three bands
+  for (const auto& mark : picture.row_marks(number - 1)) {
+    for (std::size_t i = 0; i < 3; ++i) {
+      const auto& [h, k, l] = choice.planes[i];
+      if (!mark.is_of({static_cast<int>(h), static_cast<int>(k), static_cast<int>(l)})) continue;
+      const double off = std::min(off_line(mark, *pattern.line(choice.planes[i], choice.thetas[i])),
+                                  off_line(mark, *pattern.line(choice.planes[i], -choice.thetas[i])));
+      EXPECT_LT(off, 1);
+      ++lit;
+    }
+  }
+  EXPECT_EQ(lit, 6U);
 }
 
 }  // namespace

@@ -11,6 +11,7 @@
 #include "indexing/detector.h"
 #include "indexing/pattern_centre_fit.h"
 #include "indexing/pattern_indexer.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -19,7 +20,6 @@ namespace {
 using Operator = std::array<std::array<double, 3>, 3>;
 using Position = std::array<double, 3>;
 
-QuietTask quiet;
 constexpr double radians = std::numbers::pi / 180;
 constexpr double wavelength = 0.0859;  // angstroms, at 20 kV
 
@@ -160,6 +160,18 @@ TEST(Indexing, DrawnPicturesOfFourSystemsAreFoundWithinADegree) {
           << crystal.name << " noise " << row.noise;
     }
   }
+}
+
+// 24 rotations want 20 + 40 / 24 planes: {100}, {110} and {210} are 3 + 6 + 12 of them; a second order is none.
+TEST(Indexing, FamiliesVoteUntilThereAreEnoughPlanes) {
+  const Lattice lattice(crystals[0].cell);
+  const auto rotations = proper_rotations(lattice, group_of(crystals[0]));
+  const std::vector<ListedReflection> list{
+      {{1, 0, 0}, 64}, {{2, 0, 0}, 16}, {{1, 1, 0}, 8}, {{2, 1, 0}, 2}, {{1, 1, 1}, 1}};
+  const auto set = make_reflectors(lattice, rotations, list, wavelength, quiet);
+  ASSERT_EQ(rotations.size(), 24U);
+  EXPECT_EQ(voting_families(set, 1), std::vector(4, true));
+  EXPECT_EQ(voting_families(set, 5), std::vector(5, true));
 }
 
 TEST(Indexing, WhatCannotBeIndexedIsTold) {

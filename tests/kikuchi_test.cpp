@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
 #include <random>
+#include <string>
+#include <tuple>
+#include <utility>
 #include <vector>
 
 #include "core/number_text.h"
@@ -9,12 +13,12 @@
 #include "kikuchi/kikuchi_pattern.h"
 #include "kikuchi/zone_map.h"
 #include "tests/cartesian_cell.h"
+#include "tests/plain_kikuchi.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
-
-QuietTask quiet;
 
 /// Down [113] of a cell, with a list of four reflections.
 CrystalState with_four_bands(const CellNumbers& cell) {
@@ -35,7 +39,8 @@ TEST(Bands, StandOnTheSideOfTheirNormalAndTurnWithThePattern) {
     const CartesianCell cartesian(state);
     const PatternFrame frame(state);
     for (const bool trace_only : {false, true}) {
-      const auto lines = kikuchi_lines(state, gnomonic_view(state), trace_only, quiet);
+      ListedPlanes planes(state);
+      const auto lines = kikuchi_lines(planes, gnomonic_view(state), trace_only, quiet);
       EXPECT_GE(lines.size(), 2U);
       for (const auto& line : lines) {
         const auto normal = cartesian.normal(line.hkl.h.value(), line.hkl.k.value(), line.hkl.l.value());
@@ -60,8 +65,9 @@ TEST(Bands, StandOnTheSideOfTheirNormalAndTurnWithThePattern) {
 TEST(Bands, AreNotMoreThanTheListHolds) {
   auto state = with_four_bands(cells_of_all_systems[0]);
   state.KikuchiRefLimit = 6;
+  ListedPlanes planes(state);
   EXPECT_TRUE(fails_with("index -1 of RefH is outside 0 to 5",
-                         [&] { (void)kikuchi_lines(state, gnomonic_view(state), false, quiet); }));
+                         [&] { (void)kikuchi_lines(planes, gnomonic_view(state), false, quiet); }));
   EXPECT_TRUE(fails_with("index 1 of the reflection list", [] { (void)order_for_kikuchi(CrystalState(), quiet); }));
 }
 
@@ -74,7 +80,8 @@ TEST(GreyScale, LeavesOutWhatTheLatticeForbids) {
   std::vector<ListedReflection> list{{1, 1, 1, 0.5F}, {1, 0, 0, 10}, {2, 0, 0, 0.7F}};
   for (int turned = 0; turned < 2; ++turned) {  // the strongest last, then first
     set_list(state, list);
-    EXPECT_NEAR(strongest_in_view(state, gnomonic_view(state), quiet), 2 * 0.25 * 0.7, 1e-5);
+    ListedPlanes planes(state);
+    EXPECT_NEAR(strongest_in_view(planes, gnomonic_view(state), quiet), 2 * 0.25 * 0.7, 1e-5);
     std::swap(list.front(), list.back());
   }
 }
@@ -113,7 +120,7 @@ TEST(ZoneMap, GivesUpOnTheAxisItself) {
   EXPECT_FALSE(place_of_direction(state, 1, 0, 0)) << "no reference before the first drawing";
 }
 
-TEST(OnePlace, IsAsFormatHasIt) {
+TEST(NumbersOfBands, AreAsFormatHasThem) {
   std::mt19937_64 random(1);
   std::vector<double> angles{0.0, -0.0, -0.04, 0.05, -0.05, 99.95, 359.95, 99999.96, 1e5, 1e30};
   for (int i = 0; i < 20000; ++i) {
@@ -121,7 +128,61 @@ TEST(OnePlace, IsAsFormatHasIt) {
     const double half = std::round(angle * 20) / 20;
     angles.insert(angles.end(), {angle, angle * 1e-3, half, to_single(angle), to_single(half)});
   }
-  for (const double angle : angles) ASSERT_EQ(one_place(angle), Format(angle, "##0.0")) << angle;
+  std::string field(6, '?');
+  for (const double angle : angles) {
+    put_one_place(field, angle);
+    ASSERT_EQ(field, right_field(Format(angle, "##0.0"), field.size())) << angle;
+  }
+  for (const int number : {0, 7, -7, 1234, -123456, 1234567, std::numeric_limits<int>::min()}) {
+    put_whole(field, number);
+    EXPECT_EQ(field, right_field(plain_text(number), field.size()));
+  }
+}
+
+TEST(TangentLimits, AreThoseOfTheTangent) {
+  for (const double tangent : {0.0, 0.05, 0.7535, 2.0, 57.0, 60.0, 1e6}) {
+    const TangentLimit limit(tangent);
+    const auto at = static_cast<Single>(std::atan(tangent) / degree);
+    std::vector<Single> angles{0, 1, 45, 88.9F, 89, 89.5F, 90, 90.0003F};
+    for (Single up = at, down = at; angles.size() < 50; up = std::nextafter(up, 99.0F)) {
+      angles.insert(angles.end(), {up, down});
+      down = std::max(0.0F, std::nextafter(down, 0.0F));
+    }
+    for (const Single angle : angles) EXPECT_EQ(limit.above(angle), std::tan(angle * degree) < tangent) << angle;
+  }
+}
+
+// Narrow and wide pictures; down a plane normal, where latitudes are 90 degrees, and down none; electrons and a
+// wavelength beyond some spacings.
+TEST(Bands, AgreeWithThePlainWayToTheBit) {
+  std::vector<ListedReflection> list;
+  for (int n = 0; n < 9 * 9 * 9; ++n) {
+    const ListedReflection entry{n % 9 - 4, n / 9 % 9 - 4, n / 81 - 4, to_single(1 + n * 37 % 101)};
+    if (entry.h != 0 || entry.k != 0 || entry.l != 0) list.push_back(entry);
+  }
+  for (const auto& cell : cells_of_all_systems) {
+    for (const SingleTriple& axis : {SingleTriple{1, 1, 3}, {0, 0, 1}, {-0.3F, 0.2F, 7.1F}, {2, 1, 0}}) {
+      auto state = oriented_crystal(cell, {1, 1, 3});
+      set_list(state, list);
+      const auto [u, v, w] = axis;
+      const auto [h, k, l] = reference_reflection(u, v, w);
+      std::tie(state.ZoneU, state.ZoneV, state.ZoneW) = std::tie(u, v, w);
+      std::tie(state.OriginH, state.OriginK, state.OriginL) = std::tie(h, k, l);
+      state.CamXYRatio = 1;
+      state.PatternAngle = -0.7F;
+      for (const auto& [opening, wavelength] : {std::pair{3.0F, 0.0251F}, {37.0F, 0.0859F}, {85.0F, 1.542F}}) {
+        state.CamAcquisition = opening;
+        state.WaveLength = wavelength;
+        const auto view = gnomonic_view(state);
+        ListedPlanes planes(state);
+        EXPECT_EQ(strongest_in_view(planes, view, quiet), plain_strongest(state, view));
+        for (const bool trace_only : {false, true}) {
+          const auto lines = kikuchi_lines(planes, view, trace_only, quiet);
+          EXPECT_TRUE(!lines.empty() && lines == plain_lines(state, view, trace_only));
+        }
+      }
+    }
+  }
 }
 
 }  // namespace

@@ -31,7 +31,7 @@ class LibraryPanelTest : public DesktopTest {
 
 TEST_F(LibraryPanelTest, IsSearchedAndOpensByTheKeyboard) {
   ASSERT_TRUE(says("libraryState", QStringLiteral("31 crystals"))) << said("libraryState").toStdString();
-  EXPECT_TRUE(QTest::qWaitFor([this] { return search().hasFocus(); }));
+  EXPECT_TRUE(QTest::qWaitFor([this] { return search().hasFocus(); }, 20000));
   QTest::keyClicks(&search(), QStringLiteral("+Ti +O"));
   EXPECT_TRUE(says("libraryState", QStringLiteral("2 of 31 crystals")));
   EXPECT_EQ(said("libraryDetails"), QString());

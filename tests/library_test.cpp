@@ -11,7 +11,7 @@
 namespace zol {
 namespace {
 
-const SpaceGroupLibrary& groups() {
+const SpaceGroupLibrary& shipped_groups() {
   static const SpaceGroupLibrary library([](int number) {
     std::string digits = std::to_string(number);
     digits.insert(0, 3 - digits.size(), '0');
@@ -31,7 +31,7 @@ std::pair<LibraryEntries, int> library_of(const std::string& folder, const std::
   LibraryEntries last;
   CountingTask task;
   update_library(
-      folder, index, groups(), [&last](LibraryEntries entries) { last = std::move(entries); }, task);
+      folder, index, shipped_groups(), [&last](LibraryEntries entries) { last = std::move(entries); }, task);
   return {last, task.read};
 }
 
@@ -176,7 +176,7 @@ TEST(LibraryIndex, KeepsWhatWasReadBeforeItWasStopped) {
     bool stopped = false;
   } stopping;
   EXPECT_THROW(update_library(
-                   scratch.path("c"), index, groups(), [](const LibraryEntries&) {}, stopping),
+                   scratch.path("c"), index, shipped_groups(), [](const LibraryEntries&) {}, stopping),
                Cancelled);
   EXPECT_EQ(library_of(scratch.path("c"), index).second, 1);
 }

@@ -64,6 +64,13 @@ class LongWorkTest : public DesktopTest {
   bool ran_out = false;
 };
 
+TEST(LongWork, DurationsAreInSecondsAndFromAMinuteOnInMinutes) {
+  for (const auto& [seconds, text] :
+       {std::pair(-1.0, "0 s"), {59.4, "59 s"}, {59.5, "1 min 00 s"}, {125.0, "2 min 05 s"}}) {
+    EXPECT_EQ(duration_text(seconds).toStdString(), text);
+  }
+}
+
 TEST_F(LongWorkTest, EndsByEscInAnyWindowAndSwallowsTheRest) {
   show_main1();
   QApplication::processEvents();

@@ -203,6 +203,16 @@ TEST_P(NarrowWindows, GoDownToHalfAScreen) {
   }
 }
 
+// Opened narrow, on this small screen: what the wide form needs is no bound.
+TEST_P(NarrowWindows, GoDownInThePlainLookToo) {
+  use_look(Look::Plain);
+  desktop.enter("a test", [&] { program.windows().use(GetParam()).show(); });
+  QMainWindow& top = shown();
+  top.resize(680, top.height());
+  QApplication::processEvents();
+  EXPECT_LE(top.width(), 680) << top.centralWidget()->minimumWidth();
+}
+
 class Folding : public Windows {
  protected:
   QGroupBox& group(const QString& title) {

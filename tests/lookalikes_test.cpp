@@ -16,12 +16,12 @@
 #include "indexing/index_report.h"
 #include "reflections/scattering.h"
 #include "scans/map_run.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
 
-QuietTask quiet;
 const PatternCentre centre{.48, .55, .6};
 constexpr int side = 60;
 

@@ -13,12 +13,11 @@
 #include "scans/centre_plane.h"
 #include "scans/map_files.h"
 #include "scans/map_run.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
-
-QuietTask quiet;
 
 TEST(MapCentres, DriftWithTheBeam) {
   MapGeometry geometry;

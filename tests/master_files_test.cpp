@@ -14,12 +14,11 @@
 #include "dynamics/sphere_view.h"
 #include "hdf5/hdf5_file.h"
 #include "tests/dynamic_crystals.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
 namespace {
-
-QuietTask quiet;
 
 TEST(MasterFile, IsReadAsItWasWritten) {
   const ScratchFolder folder;

@@ -295,7 +295,13 @@ TEST_F(PictureToolsTest, LayersAreOnTheScreenAndInExportsThatAskForThem) {
   const auto drawing = form.Picture1.contents().drawing;
   choose(picture, QStringLiteral("Scale bar"));
   const QImage with_scale = picture.grab().toImage();
-  EXPECT_NE(with_scale, plain);
+  QRect drawn;
+  for (int place = 0; place < plain.width() * plain.height(); ++place) {
+    const QPoint point(place % plain.width(), place / plain.width());
+    if (plain.pixel(point) != with_scale.pixel(point)) drawn |= QRect(point, point);
+  }
+  EXPECT_FALSE(drawn.isEmpty());
+  EXPECT_TRUE(picture.picture_rect().adjusted(2, 2, -2, -2).contains(drawn)) << "the bar stands within the picture";
   choose(picture, QStringLiteral("Labels h k l"));
   EXPECT_NE(picture.grab().toImage(), with_scale);
   EXPECT_EQ(form.Picture1.contents().drawing, drawing);
@@ -314,6 +320,22 @@ TEST_F(PictureToolsTest, LayersAreOnTheScreenAndInExportsThatAskForThem) {
   EXPECT_FALSE(text_of("/a.svg").contains(QStringLiteral("ZOL")));
   EXPECT_TRUE(text_of("/b.svg").contains(QStringLiteral("ZOL"))) << "as text";
   EXPECT_TRUE(text_of("/b.svg").contains(QStringLiteral("NaCl")));
+}
+
+TEST_F(PictureToolsTest, TheCircleOfAnAngleIsDrawnInItsColour) {
+  draw<Pattern2Form>();
+  const auto coloured = [this] {
+    const QImage seen = view("Pattern2").grab().toImage();
+    int count = 0;
+    for (int place = 0; place < seen.width() * seen.height(); ++place) {
+      const QColor colour = seen.pixelColor(place % seen.width(), place / seen.width());
+      count += colour.red() > 180 && colour.green() < 120 && colour.blue() < 90 ? 1 : 0;
+    }
+    return count;
+  };
+  EXPECT_EQ(coloured(), 0);
+  choose(view("Pattern2"), QStringLiteral("Angle circle"));
+  EXPECT_GT(coloured(), 300) << "dashes along a circle of 0.4 of the picture";
 }
 
 TEST_F(PictureToolsTest, ALoupeShowsWhileALineIsDrawnAndSolutionsAreWalkedByKeys) {

@@ -10,6 +10,7 @@
 #include "shell/desktop/drawing_painter.h"
 #include "shell/desktop/picture_export.h"
 #include "shell/desktop/qt_surface.h"
+#include "shell/desktop/quick_lines.h"
 #include "tests/fake_services.h"
 #include "tests/test_files.h"
 
@@ -39,12 +40,34 @@ class Pictures : public testing::Test {
   ScratchFolder folder;
 };
 
+// Pixels in rows, marked by hand: level, upright, at 45 degrees upward, flat through places between, beyond the image.
+TEST(QuickLines, SetThePixelsNearestToThem) {
+  const auto picture = [](const QLineF& line) {
+    QImage image(5, 4, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QuickLines(image).draw(line, qRgb(255, 0, 0));
+    std::string rows;
+    for (int i = 0; i < 20; ++i) {
+      rows += image.pixel(i % 5, i / 5) == qRgb(255, 0, 0) ? '#' : '.';
+      if (i % 5 == 4 && i < 19) rows += ' ';
+    }
+    return rows;
+  };
+  EXPECT_EQ(picture({1.2, 2.7, 3.9, 2.7}), "..... ..... .###. .....");
+  EXPECT_EQ(picture({2.1, 3.5, 2.1, 0.5}), "..#.. ..#.. ..#.. ..#..");
+  EXPECT_EQ(picture({3.5, 0.5, 0.5, 3.5}), "...#. ..#.. .#... #....");
+  EXPECT_EQ(picture({0.5, 1.25, 4.5, 3.25}), "..... ##... ..##. ....#");  // y 1.25, 1.75, 2.25, 2.75, 3.25
+  EXPECT_EQ(picture({-9, 3.5, 99, 3.5}), "..... ..... ..... #####");
+  EXPECT_EQ(picture({2.5, -50, 2.5, 50}), "..#.. ..#.. ..#.. ..#..");
+  EXPECT_EQ(picture({-3, 9, 9, 9}), "..... ..... ..... .....");
+}
+
 // Bit by bit, and with more drawn between two bits, it becomes what it is in one go, in any size.
 TEST_F(Pictures, DrawnBitByBitAreTheSame) {
   (void)canvas.stored_image();  // starts Qt
   for (const int size : {100, 170}) {
     canvas.clear();
-    CanvasPainting bits(canvas, QPixmap(size, size));
+    CanvasPainting bits(canvas, {size, size});
     for (int i = 0; i < 100; ++i) {
       canvas.scale(-1 - i % 2, 1, 1, -1);
       canvas.circle(std::cos(i), std::sin(i), 0.05, i % 3 == 0 ? red : green);
@@ -53,14 +76,23 @@ TEST_F(Pictures, DrawnBitByBitAreTheSame) {
     }
     while (!bits.go_on([] { return true; })) {
     }
-    CanvasPainting whole(canvas, QPixmap(size, size));
+    CanvasPainting whole(canvas, {size, size});
     EXPECT_TRUE(whole.go_on([] { return false; }));
-    EXPECT_TRUE(bits.pixmap().toImage() == whole.pixmap().toImage()) << size;
+    EXPECT_TRUE(bits.image() == whole.image()) << size;
     if (size == 100) {
-      EXPECT_TRUE(whole.pixmap().toImage().convertToFormat(QImage::Format_RGB32) == picture_image(canvas));
+      EXPECT_TRUE(whole.image().convertToFormat(QImage::Format_RGB32) == picture_image(canvas));
+    }
+    if (size != 100) {  // while it follows the pointer, and then as before
+      whole.set_rough(true);
+      canvas.line(-1, 0, 1, 0, red);
+      EXPECT_TRUE(whole.go_on([] { return false; }) && whole.rough());
+      EXPECT_TRUE(whole.image().pixelColor(3 * size / 4, size / 2) == Qt::red);
+      whole.set_rough(false);
+      EXPECT_TRUE(whole.go_on([] { return false; }) && bits.go_on([] { return false; }));
+      EXPECT_TRUE(bits.image() == whole.image());
     }
     canvas.clear();
-    EXPECT_TRUE(bits.go_on([] { return false; }) && bits.pixmap().toImage().pixelColor(50, 50) == Qt::white);
+    EXPECT_TRUE(bits.go_on([] { return false; }) && bits.image().pixelColor(50, 50) == Qt::white);
   }
 }
 

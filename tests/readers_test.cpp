@@ -3,6 +3,7 @@
 
 #include "entry/atom_lists.h"
 #include "entry/structure_readers.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -10,7 +11,6 @@ namespace {
 
 using Box = BoxText::Box;
 using Words = std::vector<std::string>;
-QuietTask quiet;
 
 TEST(Words, AreCutAtBlanksAlone) {
   EXPECT_EQ(cut_words("  a\tb,c 'd e' ", "x", 1), (Words{"a\tb,c", "'d", "e'"}));

@@ -3,11 +3,14 @@
 #include <hdf5.h>
 
 #include <algorithm>
+#include <cmath>
+#include <map>
 #include <string>
 #include <vector>
 
 #include "hdf5/lzf.h"
 #include "scans/readers.h"
+#include "scans/tile_reader.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -35,11 +38,11 @@ std::string patterns() {
   return text;
 }
 
-std::string up(std::uint32_t version, const std::string& pixels_of_all) {
+std::string up(std::uint32_t version, const std::string& pixels_of_all, double step_x = 1.5) {
   std::string text = bytes(version) + bytes(std::uint32_t{width}) + bytes(std::uint32_t{height});
   if (version < 2) return text + bytes(std::uint32_t{16}) + pixels_of_all;
   return text + bytes(std::uint32_t{42}) + std::string(1, '\0') + bytes(std::uint32_t{columns}) +
-         bytes(std::uint32_t{rows}) + std::string(1, '\0') + bytes(1.5) + bytes(2.5) + pixels_of_all;
+         bytes(std::uint32_t{rows}) + std::string(1, '\0') + bytes(step_x) + bytes(2.5) + pixels_of_all;
 }
 
 /// Patterns stand the last first, beams where the points are; point 4 was not stored.
@@ -87,8 +90,8 @@ struct Hdf5Maker {
     H5Sclose(space);
   }
   void number(const std::string& path, double value) const { put(path, H5T_NATIVE_DOUBLE, {1}, &value); }
-  void numbers(const std::string& path, const std::vector<int>& values) const {
-    put(path, H5T_NATIVE_INT, {values.size()}, values.data());
+  void numbers(const std::string& path, const std::vector<double>& values) const {
+    put(path, H5T_NATIVE_DOUBLE, {values.size()}, values.data());
   }
   hid_t file, links;
 };
@@ -112,16 +115,10 @@ void make_kikuchipy(const std::string& path) {
 }
 
 /// The last point first, with its column and row beside it.
-void make_bruker(const std::string& path) {
+void make_bruker_at(const std::string& path, const std::vector<double>& x, const std::vector<double>& y) {
   const Hdf5Maker out(path);
   std::string turned;
-  std::vector<int> x;
-  std::vector<int> y;
-  for (int point = columns * rows - 1; point >= 0; --point) {
-    turned += pattern(point);
-    x.push_back(7 + point % columns);
-    y.push_back(9 + point / columns);
-  }
+  for (int point = columns * rows - 1; point >= 0; --point) turned += pattern(point);
   out.put("Area/EBSD/Data/RawPatterns", H5T_NATIVE_UINT8, {points_of_all, height, width}, turned.data());
   out.number("Area/EBSD/Header/NCOLS", columns);
   out.number("Area/EBSD/Header/NROWS", rows);
@@ -130,15 +127,16 @@ void make_bruker(const std::string& path) {
   out.numbers("Area/EBSD/SEM/IX", x);
   out.numbers("Area/EBSD/SEM/IY", y);
 }
+void make_bruker(const std::string& path) { make_bruker_at(path, {9, 8, 7, 9, 8, 7}, {10, 10, 10, 9, 9, 9}); }
 
-void make_edax(const std::string& path) {
+/// @param told  by the header, beside the usual or in its place
+void make_edax_telling(const std::string& path, std::map<std::string, double> told) {
   const Hdf5Maker out(path);
   out.put(" Scan 1/EBSD/Data/Pattern", H5T_NATIVE_UINT8, {points_of_all, height, width}, all_patterns.data());
-  out.number(" Scan 1/EBSD/Header/ nColumns", columns);
-  out.number(" Scan 1/EBSD/Header/nRows", rows);
-  out.number(" Scan 1/EBSD/Header/Step X", 1.5);
-  out.number(" Scan 1/EBSD/Header/Step Y", 2.5);
+  told.insert({{" nColumns", columns}, {"nRows", rows}, {"Step X", 1.5}, {"Step Y", 2.5}});
+  for (const auto& [name, value] : told) out.number(" Scan 1/EBSD/Header/" + name, value);
 }
+void make_edax(const std::string& path) { make_edax_telling(path, {}); }
 
 GreyImage fake_image(const std::string& path) {
   GreyImage image{width, height, 8, {}};
@@ -196,6 +194,64 @@ TEST(Scans, OfAllMakersGiveTheirPatternsInMapOrder) {
       ASSERT_EQ(block.present[k] != 0, there);
       EXPECT_EQ(block.pattern(k)[7], there ? 10.0F * static_cast<float>(i + 1) + 7 : 0);
     }
+  }
+}
+
+// Of an area of any outline: 6 points may stand on 4 x 6 + 16 = 40 places, and no more; what is no number is no place.
+TEST(Scans, OfPointsInNoOrderHaveTheirPlacesWhereTheseCanBe) {
+  const ScratchFolder folder;
+  for (const auto& [last_x, last_y, wide, high] :
+       {std::array<double, 4>{14, 13, 8, 5}, {15, 13, 3, 2}, {9, std::nan(""), 3, 2}, {HUGE_VAL, 10, 3, 2}}) {
+    make_bruker_at(folder.path("a.h5"), {9, last_x, 7, 9, 8, 7}, {10, last_y, 10, 9, 9, 9});
+    const auto scan = open_scan(folder.path("a.h5"), {});
+    const auto& header = scan->header();
+    EXPECT_EQ(header.grid->columns, wide) << last_x;
+    EXPECT_EQ(header.grid->rows, high) << last_x;
+    EXPECT_EQ(header.remarks, wide == 8 ? std::vector<std::string>{}
+                                        : std::vector<std::string>{"the places of the points are impossible, the "
+                                                                   "points are taken in order"});
+  }
+}
+
+TEST(Scans, WhoseHeadersCannotBeSaySoAndAreRead) {
+  const ScratchFolder folder;
+  const std::string z_star = "Pattern Center Calibration/z-star";
+  struct Row {
+    std::map<std::string, double> told;
+    double step_x, step_y;  ///< 0: no grid
+    const char* remark;
+  };
+  for (const auto& [told, step_x, step_y, remark] :
+       {Row{{{"Pattern Width", 6}}, 1.5, 2.5, "the header says 6 for \"Pattern Width\", the patterns have 5"},
+        Row{{{"Pattern Height", std::nan("")}}, 1.5, 2.5, ""}, Row{{{"Step X", 0}}, 1, 2.5, ""},
+        Row{{{"Step Y", HUGE_VAL}}, 1.5, 1.5, ""},
+        Row{{{"nRows", 3}}, 0, 0, "the header says 3 x 3 points, the file holds 6 patterns"},
+        Row{{{"Pattern Center Calibration/x-star", .5}, {"Pattern Center Calibration/y-star", .5}, {z_star, 0}},
+            1.5,
+            2.5,
+            "the file's pattern centre is none"}}) {
+    SCOPED_TRACE(told.begin()->first);
+    make_edax_telling(folder.path("a.h5"), told);
+    const auto scan = open_scan(folder.path("a.h5"), {});
+    const auto& header = scan->header();
+    const ScanGrid grid = header.grid.value_or(ScanGrid{0, 0, 0, 0});
+    EXPECT_EQ(grid.step_x, step_x);
+    EXPECT_EQ(grid.step_y, step_y);
+    EXPECT_EQ(header.remarks.empty() ? "" : header.remarks.front(), remark);
+  }
+}
+
+TEST(Scans, WhoseStepsAreNoLengthsHaveStepsOfOne) {
+  const ScratchFolder folder;
+  folder.write("a.up1", up(3, all_patterns, std::nan("")));
+  folder.write("b.up1", up(3, all_patterns, -1));
+  folder.write("nordif/Pattern.dat", all_patterns);
+  folder.write("nordif/Setting.txt",
+               "[Acquisition settings]\nResolution\t5x4\tpx\n[Area]\nStep size\tinf\tum\nNumber of samples\t2x3\t#\n");
+  for (const auto& [name, step_y] : {std::pair{"a.up1", 2.5}, {"b.up1", 2.5}, {"nordif", 1.0}}) {
+    const auto scan = open_scan(folder.path(name), {});
+    EXPECT_EQ(scan->header().grid->step_x, 1) << name;
+    EXPECT_EQ(scan->header().grid->step_y, step_y) << name;
   }
 }
 
@@ -257,6 +313,22 @@ TEST(Lzf, UnpacksRunsAndCopiesAndNothingBeyondItsPlace) {
   EXPECT_EQ(unpacked({1, 'a', 'b', 3U << 5U, 1}, 6), "damaged");
   EXPECT_EQ(unpacked({1, 'a'}, 9), "damaged");
   EXPECT_EQ(unpacked({0, 'a', 3U << 5U, 1}, 9), "damaged") << "from before the start";
+}
+
+// The last column of the map, as the last tile of a row may be, and what lies about it. Patterns are turned: pixel 15
+// is the first of the last row.
+TEST(TileReader, ReadsASingleColumnAndItsNeighbours) {
+  const ScratchFolder folder;
+  const auto scan = open_scan(folder.write("a.up1", up(3, all_patterns)), {});
+  TileReader reader(*scan, *scan->header().grid, pixels, false);
+  PatternBlock block;
+  PatternTile tile;
+  reader.read({2, 0, 1, 2}, 0, block, tile);
+  EXPECT_EQ(tile.present, std::vector<char>({1, 1}));
+  EXPECT_EQ(tile.values.at(0), 2 * 10 + 15);
+  EXPECT_EQ(tile.values.at(pixels), 5 * 10 + 15);
+  reader.read({2, 0, 1, 2}, 1, block, tile);
+  EXPECT_EQ(tile.present, std::vector<char>({0, 0, 0, 1, 1, 0, 1, 1, 0, 0, 0, 0}));
 }
 
 TEST(ScanGrid, ShortRowsOfHexagonalGridsAreCounted) {

@@ -148,8 +148,8 @@ TEST(Script, IsUtf8WhereBoxesAreLatin1) {
 
 /// Whole tasks: each script of these folders prints what stands in the file beside it, failures of the run on the way
 /// included. Paths in them start at the source tree.
-class Task : public testing::TestWithParam<std::string> {};
-TEST_P(Task, PrintsWhatIsStored) {
+class TaskScript : public testing::TestWithParam<std::string> {};
+TEST_P(TaskScript, PrintsWhatIsStored) {
   std::filesystem::current_path(ZOL_SOURCE_DIR);
   const auto result = run(read_file(GetParam() + ".zs"));
   EXPECT_EQ(result.error, "");
@@ -165,7 +165,7 @@ std::vector<std::string> tasks() {
   std::sort(names.begin(), names.end());
   return names;
 }
-INSTANTIATE_TEST_SUITE_P(Scripts, Task, testing::ValuesIn(tasks()), [](const auto& row) {
+INSTANTIATE_TEST_SUITE_P(Scripts, TaskScript, testing::ValuesIn(tasks()), [](const auto& row) {
   std::string name = row.param;
   std::replace_if(
       name.begin(), name.end(), [](char c) { return c == '-' || c == '/'; }, '_');

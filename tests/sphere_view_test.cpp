@@ -7,12 +7,12 @@
 
 #include "core/run_failure.h"
 #include "dynamics/sphere_names.h"
+#include "tests/quiet.h"
 
 namespace zol {
 namespace {
 
 using Place = std::array<double, 2>;
-QuietTask quiet;
 
 constexpr auto stereographic = SphereProjection::Stereographic;
 constexpr auto lambert = SphereProjection::Lambert;

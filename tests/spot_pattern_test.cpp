@@ -9,6 +9,7 @@
 
 #include "tests/crystals.h"
 #include "tests/lists.h"
+#include "tests/quiet.h"
 #include "tests/test_files.h"
 
 namespace zol {
@@ -17,7 +18,6 @@ namespace {
 using Triple = std::array<int, 3>;
 using ZoneAxis = std::array<Single, 3>;
 
-QuietTask quiet;
 constexpr Radiation electrons{false, true};
 constexpr EnumerationSettings full_sphere{{true, true, true}, {}};
 

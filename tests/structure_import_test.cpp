@@ -245,6 +245,10 @@ TEST(StructureImport, ReadsOtherFormats) {
       "cubic\n-179.4\n1 0 0\n0 1 0\n0 0 1\nNa Cl\n1 1\nSelective\nCartesian\n0 0 0 T T F\n.5 .5 .5 F F F\n";
   check(
       {{"SHELX, occupancy on an axis, a free variable", shelx, "O6 Si3 | 152 abc | 0.79"},
+       // 8 pi^2 (4/3 (.02 + .03 - .01) + .01) / 3 in a hexagonal cell
+       {"SHELX, displacements by six numbers",
+        "TITL x\nCELL 1 5 5 6 90 90 120\nLATT -1\nSFAC Na\nUNIT 1\nNa1 1 0 0 0 11 .02 .03 =\n .01 0 0 .01\nHKLF 4\n",
+        "Na | 1 abc | 1.67"},
        {"no elements", "TITL x\nCELL 1 5 5 5 90 90 90\nLATT 1\nNa1 1 0 0 0\nHKLF 4\n",
         "failure: line 4: an atom before SFAC"},
        {"POSCAR", poscar, "Cl Na | 1 abc | 0.50"},
@@ -259,6 +263,17 @@ TEST(StructureImport, ReadsOtherFormats) {
        {"our own", read_file(ZOL_SOURCE_DIR "/data/ZOLDATA/Quartz.cry"), "O6 Si3 | 154 abc | 0.60"},
        {"no structure", "hello\n", "failure: it is none of the known kinds: CIF, SHELX, POSCAR, crystal file"},
        {"a broken archive", "\x1F\x8B broken", "failure: the compressed file is broken or cut short"}});
+}
+
+TEST(StructureImport, HasTheLettersOfTitlesInLatin1) {
+  for (const auto& [in_file, title] : {std::pair{"Kr\xC3\xB6hnkite", "Kr\xF6hnkite"},
+                                       {"\xCE\xB1-quartz", "?-quartz"},
+                                       {"1 \xE2\x80\x93 2", "1 ? 2"},
+                                       {"Kr\xF6hnkite", "Kr\xF6hnkite"}}) {
+    const std::string name = std::string("_chemical_name_mineral '") + in_file + "'\n";
+    const auto crystal = std::get<ImportedCrystal>(import_text("data_x\n" + name + cubic + fm3m + halite_atoms));
+    EXPECT_EQ(crystal.structure.title, title);
+  }
 }
 
 TEST(StructureImport, RefusesWhatIsBeyondTheLimits) {

@@ -86,6 +86,19 @@ TEST_F(TableWindowTest, SortsFiltersCopiesAndSaves) {
   EXPECT_TRUE(failures.empty());
 }
 
+TEST_F(TableWindowTest, HasItsCommandsInTheContextMenu) {
+  auto& table = open();
+  QStringList entries;
+  for (auto* action : rows(table).actions()) {
+    entries << action->text() + u' ' + action->shortcut().toString(QKeySequence::PortableText);
+    if (entries.last().startsWith(QStringLiteral("Select"))) action->trigger();
+  }
+  EXPECT_EQ(entries.join(u'|').toStdString(),
+            "&Copy Ctrl+C|Select &All Ctrl+A|S&ort by this column Ctrl+Shift+O|&Save as CSV... Ctrl+S|&Filter Ctrl+F|"
+            "User &guide F1|C&lose Ctrl+W");
+  EXPECT_EQ(rows(table).selectionModel()->selectedRows().size(), main1().List2.list_count());
+}
+
 TEST_F(TableWindowTest, FollowsTheListAndPicksInIt) {
   auto& table = open();
   EXPECT_EQ(main1().List2.list_index(), -1) << "opening picks nothing";

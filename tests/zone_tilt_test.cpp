@@ -8,9 +8,9 @@
 namespace zol {
 namespace {
 
-using Axis = std::array<double, 3>;
+using Direction = std::array<double, 3>;
 
-Main1State cubic(const Axis& axis) {
+Main1State cubic(const Direction& axis) {
   Main1State state;
   state.CellA = state.CellB = state.CellC = 4;
   state.CellAlpha = state.CellBeta = state.CellGamma = 90;
@@ -28,17 +28,17 @@ TEST(ZoneTilt, GoesFromAxisToAxis) {
     state.PatternAngle = to_single(turn_rad);
     return axis_of_tilt(state, picture_frame(state), right_deg * M_PI / 180, up_deg * M_PI / 180);
   };
-  EXPECT_EQ(after(0, 0), (Axis{0, 0, 1}));
-  EXPECT_EQ(after(35.26, 0), (Axis{-1, -1, 2}));
-  EXPECT_EQ(after(-54.74, 0), (Axis{1, 1, 1}));
-  EXPECT_EQ(after(0, 54.74), (Axis{1, -1, 1}));
-  EXPECT_EQ(after(0, 43.31), (Axis{2, -2, 3}));
-  EXPECT_EQ(after(45, 0, M_PI / 4), (Axis{0, -1, 1})) << "turned clockwise, x of the screen lies along (0 1 0)";
+  EXPECT_EQ(after(0, 0), (Direction{0, 0, 1}));
+  EXPECT_EQ(after(35.26, 0), (Direction{-1, -1, 2}));
+  EXPECT_EQ(after(-54.74, 0), (Direction{1, 1, 1}));
+  EXPECT_EQ(after(0, 54.74), (Direction{1, -1, 1}));
+  EXPECT_EQ(after(0, 43.31), (Direction{2, -2, 3}));
+  EXPECT_EQ(after(45, 0, M_PI / 4), (Direction{0, -1, 1})) << "turned clockwise, x of the screen lies along (0 1 0)";
 }
 
 TEST(ZoneTilt, StaysAtTheAxisWhichIsNearest) {
   const Main1State state = cubic({0, 0, 2});
-  EXPECT_EQ(axis_of_tilt(state, picture_frame(state), 1e-9, 0), (Axis{0, 0, 2}));
+  EXPECT_EQ(axis_of_tilt(state, picture_frame(state), 1e-9, 0), (Direction{0, 0, 2}));
   EXPECT_ANY_THROW((void)picture_frame(cubic({0, 0, 0})));
 }
 

@@ -56,7 +56,8 @@ PictureMarks bands_of_solution(const CrystalState& seen, const Pattern3Form& for
     constexpr int strongest = 60;
     state.KikuchiRefLimit = std::min(strongest, state.RefCount.value());
     const auto view = gnomonic_view(state);
-    for (const auto& line : kikuchi_lines(state, view, false, task)) {
+    ListedPlanes planes(state);
+    for (const auto& line : kikuchi_lines(planes, view, false, task)) {
       marks.push_back(mark_of(state, view, line, row));
     }
   } catch (const RunFailure&) {  // the crystal has changed since: there are none to be shown

@@ -3,13 +3,13 @@
 namespace zol {
 namespace {
 
-constexpr int picture_twips = 15 * 600;
+constexpr int sphere_twips = 15 * 600;
 
 }  // namespace
 
 MasterPatternForm::MasterPatternForm(Workbench& bench)
     : Window(window_name, "MASTER PATTERN"),
-      Picture(*this, bench.services, "Picture", picture_twips, picture_twips),
+      Picture(*this, bench.services, "Picture", sphere_twips, sphere_twips),
       CommonDialog1(*this, bench.services, "CommonDialog1") {
   fields().keep("drawn", drawn);
   Depth.set_text("8");

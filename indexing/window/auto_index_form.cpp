@@ -12,7 +12,7 @@
 namespace zol {
 namespace {
 
-constexpr int picture_twips = 15 * 640;  // 640 x 320 pixels: two pictures side by side
+constexpr int pictures_twips = 15 * 640;  // 640 x 320 pixels: two pictures side by side
 
 /// The orientation of the picked solution, or no rotation.
 Rotation orientation(const IndexResult& result) {
@@ -173,7 +173,7 @@ IndexResult Stored<IndexResult>::load(StoreReader& in) {
 
 AutoIndexForm::AutoIndexForm(Workbench& bench)
     : Window(window_name, "AUTOMATIC INDEXING"),
-      Simulated(*this, bench.services, "Simulated", picture_twips, picture_twips / 2),
+      Simulated(*this, bench.services, "Simulated", pictures_twips, pictures_twips / 2),
       CommonDialog1(*this, bench.services, "CommonDialog1") {
   name_fields();
   BandCount.set_text("9");

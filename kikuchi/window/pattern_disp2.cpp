@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cmath>
+#include <span>
 
-#include "core/cell_geometry.h"
 #include "kikuchi/degrees_text.h"
 #include "kikuchi/kikuchi_pattern.h"
 #include "kikuchi/window/kikuchi_operations.h"
@@ -48,10 +48,17 @@ void draw_line(Canvas& picture, const KikuchiLine& line, double reach, Colour co
 std::string band_text(int number, const KikuchiLine& line, int level) {
   constexpr std::size_t whole = 4;
   constexpr std::size_t angle = 6;
-  return right_field(plain_text(number), whole) + right_field(plain_text(line.hkl.h), whole) +
-         right_field(plain_text(line.hkl.k), whole) + right_field(plain_text(line.hkl.l), whole) +
-         right_field(one_place(std::abs(line.latitude_deg)), angle) + right_field(one_place(line.azimuth_deg), angle) +
-         right_field(plain_text(level), whole);
+  std::string text(5 * whole + 2 * angle, ' ');
+  std::span<char> left(text);
+  const auto field = [&left](std::size_t width) {
+    const auto taken = left.first(width);
+    left = left.subspan(width);
+    return taken;
+  };
+  for (const int n : {number, line.hkl.h.value(), line.hkl.k.value(), line.hkl.l.value()}) put_whole(field(whole), n);
+  for (const Single degrees : {std::abs(line.latitude_deg), line.azimuth_deg}) put_one_place(field(angle), degrees);
+  put_whole(field(whole), level);
+  return text;
 }
 
 struct ShownLine {
@@ -59,42 +66,58 @@ struct ShownLine {
   int grey_level = 0;
 };
 
+constexpr int between_checks = 64;  // lines
+
 /// The lines above the lowest grey level.
 std::vector<ShownLine> shown_lines(const CrystalState& state, const Pattern2Form& form,
                                    const std::vector<KikuchiLine>& lines, Integer lowest_level, Task& task) {
   const GreyScale scale{form.Option2.on(), exponent_in(form.Text10)};
   std::vector<ShownLine> shown;
+  shown.reserve(lines.size());
+  int left = 0;
   for (const auto& line : lines) {
-    task.check();
+    if (left-- == 0) {
+      task.check();
+      left = between_checks;
+    }
     const int level = grey_level(state, line.intensity, scale);
     if (level > lowest_level.value()) shown.push_back({line, level});
   }
   return shown;
 }
 
+PictureMark mark_of(const KikuchiLine& line, int row) {
+  return {.h = line.hkl.h.value(),
+          .k = line.hkl.k.value(),
+          .l = line.hkl.l.value(),
+          .x = line.foot_x,
+          .y = line.foot_y,
+          .along_x = line.unit_y,
+          .along_y = -line.unit_x,
+          .d = 1 / double{line.length},
+          .intensity = line.intensity,
+          .row = row};
+}
+
 void draw_bands(CrystalState& state, Pattern2Form& form, const GnomonicView& view, const std::vector<ShownLine>& lines,
                 Task& task) {
-  int count = 0;
-  for (const auto& [line, level] : lines) {
-    task.report(count, static_cast<int>(lines.size()));
-    task.check();
-    draw_line(form.Picture1, line, view.reach, line_colour(level, !form.ImageMark.empty()));
-    ++count;
-    form.List1.add_item(band_text(count, line, level));
-    form.Picture1.mark({.h = line.hkl.h.value(),
-                        .k = line.hkl.k.value(),
-                        .l = line.hkl.l.value(),
-                        .x = line.foot_x,
-                        .y = line.foot_y,
-                        .along_x = line.unit_y,
-                        .along_y = -line.unit_x,
-                        .d = 1 / double{DHKL(state, line.hkl.h, line.hkl.k, line.hkl.l)},
-                        .intensity = line.intensity,
-                        .row = count - 1});
-    state.BandHKL(count - 1, 0) = line.hkl.h;
-    state.BandHKL(count - 1, 1) = line.hkl.k;
-    state.BandHKL(count - 1, 2) = line.hkl.l;
+  const bool over_image = !form.ImageMark.empty();
+  std::vector<std::string> rows;
+  rows.reserve(lines.size());
+  for (int row = 0; row < static_cast<int>(lines.size()); ++row) {
+    const auto& [line, level] = lines[static_cast<std::size_t>(row)];
+    if (row % between_checks == 0) {
+      task.report(row, static_cast<int>(lines.size()));
+      task.check();
+    }
+    draw_line(form.Picture1, line, view.reach, line_colour(level, over_image));
+    rows.push_back(band_text(row + 1, line, level));
+    form.Picture1.mark(mark_of(line, row));
+    state.BandHKL(row, 0) = line.hkl.h;
+    state.BandHKL(row, 1) = line.hkl.k;
+    state.BandHKL(row, 2) = line.hkl.l;
   }
+  form.List1.add_items(std::move(rows), task);
 }
 
 void draw_disc(Canvas& picture, double x, double y, double radius, Colour colour) {
@@ -150,8 +173,9 @@ std::vector<ShownLine> find_lines(CrystalState& state, Pattern2Form& form, Integ
   if (state.PatternFlag == 1) {
     state.PatternAngle = to_single(double{state.PatternAngle} + double{state.PatternAngleStep} * degree);
   }
-  if (!form.Check4.checked() || state.DisplayScale == 0) state.DisplayScale = strongest_in_view(state, view, task);
-  const auto lines = kikuchi_lines(state, view, form.Check3.checked(), task);
+  ListedPlanes planes(state);
+  if (!form.Check4.checked() || state.DisplayScale == 0) state.DisplayScale = strongest_in_view(planes, view, task);
+  const auto lines = kikuchi_lines(planes, view, form.Check3.checked(), task);
   return shown_lines(state, form, lines, lowest_level, task);
 }
 

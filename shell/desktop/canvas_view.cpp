@@ -103,9 +103,7 @@ void CanvasView::draw_some(bool all) {
   try {
     up_to_date_ = painting_->go_on([&clock, all, at_once_ms] { return !all && clock.elapsed() > at_once_ms; });
   } catch (const RunFailure&) {  // no room to draw, or too large an image: nothing to show, and no event to fail
-    QPixmap empty(painting_->pixmap().size());
-    empty.fill(to_qt(canvas_->back_colour()));
-    painting_.emplace(*canvas_, std::move(empty));
+    painting_->show_nothing();
     up_to_date_ = true;
   }
   constexpr int pause_ms = 2;
@@ -121,8 +119,8 @@ void CanvasView::paint() {
   const QRectF place = picture_rect();
   const QSize device_size = (place.size() * devicePixelRatioF()).toSize();
   if (device_size.isEmpty()) return;
-  if (!painting_ || painting_->pixmap().size() != device_size) {
-    painting_.emplace(*canvas_, QPixmap(device_size));
+  if (!painting_ || painting_->image().size() != device_size) {
+    painting_.emplace(*canvas_, device_size);
     before_ = {};
     up_to_date_ = false;
   }
@@ -132,7 +130,7 @@ void CanvasView::paint() {
       backingStore() != nullptr && painter.paintEngine()->paintDevice() == backingStore()->paintDevice();
   if (on_screen) paint_mat(painter);
   if (!up_to_date_) draw_some(!on_screen);
-  painter.drawPixmap(place, before_.isNull() ? painting_->pixmap() : before_, QRectF(QPointF(), QSizeF(device_size)));
+  painter.drawImage(place, before_.isNull() ? painting_->image() : before_, QRectF(QPointF(), QSizeF(device_size)));
   paint_layers(painter, place);
   painter.setPen(palette().color(QPalette::WindowText));
   if (canvas_->x_axis) draw_x_ruler(painter, place);
@@ -157,7 +155,7 @@ void CanvasView::paint_layers(QPainter& painter, const QRectF& place) {
   }
   const PicturePlace at{canvas_, place};
   tools_->layers().paint(painter, at);
-  if (canvas_->loupe && pressed_) tools_->layers().paint_loupe(painter, at, painting_->pixmap());
+  if (canvas_->loupe && pressed_) tools_->layers().paint_loupe(painter, at, painting_->image());
 }
 
 /// A scale alone draws nothing.
@@ -332,7 +330,7 @@ void CanvasView::mouseReleaseEvent(QMouseEvent* event) {
 /// Behind a drag; what was drawn shows until all is smooth.
 void CanvasView::smooth() {
   if (!up_to_date_ || !painting_ || !painting_->rough()) return;
-  before_ = painting_->pixmap();
+  before_ = painting_->image();
   up_to_date_ = false;
   update();
 }

@@ -106,7 +106,7 @@ class CanvasView : public QWidget {
   std::function<std::string()> file_name_;
   std::unique_ptr<PictureTools> tools_;
   std::optional<CanvasPainting> painting_;
-  QPixmap before_;  ///< shown in its place as long as it is not whole; mostly null
+  QImage before_;  ///< shown in its place as long as it is not whole; mostly null
   bool up_to_date_ = false;
 };
 

@@ -11,9 +11,9 @@
 namespace zol {
 namespace {
 
-constexpr double large_tick = curve_room::large_tick;
+using curve_room::large_tick;
 constexpr double small_tick = 3;  // pixels
-constexpr double gap = curve_room::gap;
+using curve_room::gap;
 
 QString title_of(const Axis& axis) { return to_qt(axis.quantity + " (" + axis.unit + ")"); }
 

@@ -14,8 +14,8 @@
 namespace zol {
 namespace {
 
-constexpr double large_tick = curve_room::large_tick;
-constexpr double gap = curve_room::gap;
+using curve_room::gap;
+using curve_room::large_tick;
 constexpr double reflection_tick = 9;
 constexpr double share_below = 0.2;  // of the picture, for the strip below the curve
 constexpr double swatch = 18;

@@ -23,8 +23,6 @@
 namespace zol {
 namespace {
 
-QString tr(const char* text) { return QCoreApplication::translate("zol", text); }
-
 /// What is changed by a check mark.
 void add_choice(QMenu& menu, CurveView& view, const QString& text, bool CurveLook::*wanted) {
   auto* action = menu.addAction(text);

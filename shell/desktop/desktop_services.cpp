@@ -33,8 +33,6 @@
 namespace zol {
 namespace {
 
-QString tr(const char* text) { return QCoreApplication::translate("zol", text); }
-
 /// "name|*.ending|" as a filter of Qt, with "all files" behind it.
 QString qt_filter(const FileQuestion& question) {
   QStringList filters;

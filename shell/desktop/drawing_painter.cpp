@@ -9,6 +9,7 @@
 #include "core/run_failure.h"
 #include "shell/desktop/qt_surface.h"
 #include "shell/desktop/qt_text.h"
+#include "shell/desktop/quick_lines.h"
 
 namespace zol {
 namespace {
@@ -16,13 +17,18 @@ namespace {
 /// Beyond this many pixels a disc that crosses the picture is not worth a path of its own.
 constexpr double largest_radius = 1e6;
 
-enum class Lines { OfFiles, Smooth, Rough };
+enum class Lines { OfFiles, Smooth };
 
 class ListPainter {
  public:
   /// @param scale  in force where it begins, and then where it is
   ListPainter(QPainter& painter, const Canvas& canvas, UserScale& scale, Lines lines)
       : painter_(painter), picture_(0, 0, canvas.pixel_width(), canvas.pixel_height()), scale_(scale), lines_(lines) {}
+  /// With lines that are as thin as the image can show them, each written into it at once.
+  ListPainter(QPainter& painter, const Canvas& canvas, UserScale& scale, const QuickLines& quick)
+      : ListPainter(painter, canvas, scale, Lines::Smooth) {
+    quick_ = &quick;
+  }
 
   void operator()(const UserScale& scale) { scale_ = scale; }
 
@@ -31,17 +37,13 @@ class ListPainter {
   }
   void draw_gathered() {
     if (gathered_.isEmpty()) return;
-    QPen ink = pen(gathered_colour_);
-    ink.setCosmetic(lines_ == Lines::Rough);
-    painter_.setPen(ink);
-    if (lines_ == Lines::Rough) painter_.setRenderHint(QPainter::Antialiasing, false);
+    painter_.setPen(pen(gathered_colour_));
     // On a screen of high resolution Qt takes more than ten times as long for a polyline of two points.
     if (gathered_.size() == 2 && lines_ != Lines::OfFiles) {
       painter_.drawLine(gathered_.front(), gathered_.back());
     } else {
       painter_.drawPolyline(gathered_);
     }
-    if (lines_ == Lines::Rough) painter_.setRenderHint(QPainter::Antialiasing);
     gathered_.clear();
   }
 
@@ -91,6 +93,7 @@ class ListPainter {
   void gather(const QLineF& whole, Colour colour) {
     const auto line = clipped(whole, picture_);
     if (!line) return;
+    if (quick_ != nullptr) return quick_->draw(painter_.transform().map(*line), to_qt(colour).rgb());
     // To the bit: Qt's own comparison of points is not.
     const bool goes_on = !gathered_.isEmpty() && gathered_colour_ == colour && gathered_.back().x() == line->x1() &&
                          gathered_.back().y() == line->y1();
@@ -126,6 +129,7 @@ class ListPainter {
   QRectF picture_;
   UserScale& scale_;
   Lines lines_;
+  const QuickLines* quick_ = nullptr;
   QPolygonF gathered_;
   Colour gathered_colour_ = 0;
 };
@@ -188,21 +192,26 @@ void paint_canvas(QPainter& painter, Canvas& canvas, Task& task) {
 }
 
 bool CanvasPainting::go_on(const std::function<bool()>& enough) {
-  const QSize own_size(canvas_.pixel_width(), canvas_.pixel_height());
-  const bool needs_pixels = pixmap_.size() == own_size || canvas_.has_raster_base() || canvas_.has_picture();
+  const bool of_own_size = image_.size() == own_size();
+  const bool needs_pixels = of_own_size || canvas_.has_raster_base() || canvas_.has_picture();
   if (needs_pixels && !canvas_.make_some_images(enough)) {
-    if (pixmap_.size() == own_size) take_pixels();
+    if (of_own_size) take_pixels();
     return false;
   }
-  if (pixmap_.size() == own_size) {
+  if (of_own_size) {
     take_pixels();
     return true;
   }
   return draw_list(enough);
 }
 
+void CanvasPainting::show_nothing() {
+  image_.fill(to_qt(canvas_.back_colour()));
+  begun_ = false;
+}
+
 void CanvasPainting::take_pixels() {
-  QPainter painter(&pixmap_);
+  QPainter painter(&image_);
   for (const Surface* surface : {&canvas_.stored_so_far(), &canvas_.overlay_so_far()}) {
     painter.drawImage(0, 0, dynamic_cast<const QtSurface&>(*surface).image());
   }
@@ -210,10 +219,11 @@ void CanvasPainting::take_pixels() {
 
 /// From where the last time has ended, unless more has changed since than that something was drawn.
 bool CanvasPainting::draw_list(const std::function<bool()>& enough) {
-  QPainter painter(&pixmap_);
-  painter.setClipRect(pixmap_.rect());  // Qt draws lines several times as quick with a clip as without
+  const QuickLines quick(image_);
+  QPainter painter(&image_);
+  painter.setClipRect(image_.rect());  // Qt draws lines several times as quick with a clip as without
   painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
-  painter.scale(1.0 * pixmap_.width() / canvas_.pixel_width(), 1.0 * pixmap_.height() / canvas_.pixel_height());
+  painter.scale(1.0 * image_.width() / canvas_.pixel_width(), 1.0 * image_.height() / canvas_.pixel_height());
   if (!begun_ || redrawn_ != canvas_.redrawn()) {
     paint_base(painter, canvas_, QRectF(0, 0, canvas_.pixel_width(), canvas_.pixel_height()));
     begun_ = true;
@@ -222,7 +232,8 @@ bool CanvasPainting::draw_list(const std::function<bool()>& enough) {
     drawn_ = 0;
   }
   constexpr std::size_t between_questions = 16;
-  ListPainter list(painter, canvas_, scale_, rough_ ? Lines::Rough : Lines::Smooth);
+  ListPainter list =
+      rough_ ? ListPainter(painter, canvas_, scale_, quick) : ListPainter(painter, canvas_, scale_, Lines::Smooth);
   bool stops = false;
   for (; drawn_ < canvas_.drawing().size() && !stops; ++drawn_) {
     const auto& what = canvas_.drawing()[drawn_].what;

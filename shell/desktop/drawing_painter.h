@@ -7,9 +7,9 @@
 
 #include <QColor>
 #include <QFont>
+#include <QImage>
 #include <QLineF>
 #include <QPainter>
-#include <QPixmap>
 #include <QRectF>
 
 #include "core/task.h"
@@ -35,26 +35,30 @@ void paint_canvas(QPainter& painter, Canvas& canvas, Task& task);
 /// stored image and the overlay, otherwise the list at the resolution of the view.
 class CanvasPainting {
  public:
-  /// @param pixmap  of the size of the view
-  CanvasPainting(Canvas& canvas, QPixmap pixmap) : canvas_(canvas), pixmap_(std::move(pixmap)) {}
+  /// @param size  of the view
+  CanvasPainting(Canvas& canvas, const QSize& size) : canvas_(canvas), image_(size, QImage::Format_RGB32) {}
 
-  /// For pictures that follow the pointer: where the view enlarges the picture, lines have no smoothing and are as thin
-  /// as the screen can show them, which is several times as quick. They are drawn anew when that ends.
+  /// For pictures that follow the pointer: where the view does not show the picture in its own size, lines have no
+  /// smoothing and are as thin as the screen can show them, which is many times as quick. They are drawn anew when that
+  /// ends.
   void set_rough(bool rough) {
-    if (std::exchange(rough_, rough && pixmap_.width() > canvas_.pixel_width()) && !rough) begun_ = false;
+    if (std::exchange(rough_, rough && image_.size() != own_size()) && !rough) begun_ = false;
   }
   [[nodiscard]] bool rough() const { return rough_; }
   /// Draws until all is there or the answer is true. @returns whether all is there
   /// @throws RunFailure  the picture has a fault
   bool go_on(const std::function<bool()>& enough);
-  [[nodiscard]] const QPixmap& pixmap() const { return pixmap_; }
+  /// The bare ground, for a picture that has a fault.
+  void show_nothing();
+  [[nodiscard]] const QImage& image() const { return image_; }
 
  private:
+  [[nodiscard]] QSize own_size() const { return {canvas_.pixel_width(), canvas_.pixel_height()}; }
   void take_pixels();
   bool draw_list(const std::function<bool()>& enough);
 
   Canvas& canvas_;
-  QPixmap pixmap_;
+  QImage image_;
   bool begun_ = false;
   bool rough_ = false;
   unsigned redrawn_ = 0;   ///< Canvas::redrawn() when the list was begun

@@ -252,12 +252,12 @@ void PictureLayers::paint_labels(QPainter& painter, const PicturePlace& place) {
 }
 
 /// Four times as large, beside the pointer, in the corner where it hides nothing that is drawn.
-void PictureLayers::paint_loupe(QPainter& painter, const PicturePlace& place, const QPixmap& pixmap) const {
+void PictureLayers::paint_loupe(QPainter& painter, const PicturePlace& place, const QImage& image) const {
   if (!loupe_at) return;
   constexpr double size = 128;
   constexpr double factor = 4;
   constexpr double away = 24;
-  const double per_pixel = pixmap.width() / place.rect.width();
+  const double per_pixel = image.width() / place.rect.width();
   const QPointF centre = (*loupe_at - place.rect.topLeft()) * per_pixel;
   const QSizeF part = QSizeF(size, size) / factor * per_pixel;
   const QRectF source(centre - QPointF(part.width() / 2, part.height() / 2), part);
@@ -270,7 +270,7 @@ void PictureLayers::paint_loupe(QPainter& painter, const PicturePlace& place, co
   round.addEllipse(target);
   painter.setClipPath(round);
   painter.fillRect(target, Qt::lightGray);
-  painter.drawPixmap(target, pixmap, source);
+  painter.drawImage(target, image, source);
   painter.setPen(QPen(accent, 1));
   painter.drawLine(target.center() - QPointF(size / 8, 0), target.center() + QPointF(size / 8, 0));
   painter.drawLine(target.center() - QPointF(0, size / 8), target.center() + QPointF(0, size / 8));

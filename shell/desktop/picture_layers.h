@@ -6,8 +6,8 @@
 #include <optional>
 #include <vector>
 
+#include <QImage>
 #include <QPainter>
-#include <QPixmap>
 #include <QRectF>
 
 #include "shell/services/canvas.h"
@@ -45,7 +45,7 @@ class PictureLayers {
   void paint(QPainter& painter, const PicturePlace& place);
   /// Only scale and labels, for an export.
   void paint_wanted(QPainter& painter, const PicturePlace& place);
-  void paint_loupe(QPainter& painter, const PicturePlace& place, const QPixmap& pixmap) const;
+  void paint_loupe(QPainter& painter, const PicturePlace& place, const QImage& image) const;
   /// What to do, in the place of a picture.
   static void paint_hint(QPainter& painter, const QRectF& room, const Canvas& canvas, const QString& words);
 

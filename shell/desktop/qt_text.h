@@ -4,11 +4,15 @@
 #include <algorithm>
 #include <string>
 
+#include <QCoreApplication>
 #include <QString>
 
 #include "shell/services/latin1.h"
 
 namespace zol {
+
+/// A text of the program in the language of the user.
+[[nodiscard]] inline QString tr(const char* text) { return QCoreApplication::translate("zol", text); }
 
 /// A caption, a message or the name of a file.
 [[nodiscard]] inline QString to_qt(const std::string& text) { return QString::fromStdString(readable_utf8(text)); }

@@ -25,7 +25,6 @@ QTextCharFormat format_of(const QString& line) {
 
 void show_report(const std::vector<std::string>& lines, const std::string& title) {
   QDialog dialog(QApplication::activeWindow());
-  dialog.setObjectName(QStringLiteral("Report"));
   dialog.setWindowTitle(latin1_to_qt(title));
   auto* text = new QPlainTextEdit(&dialog);
   text->setReadOnly(true);

@@ -157,8 +157,11 @@ void ListBox::add_items(std::vector<std::string> items, Task& task) {
   contents_.items.own().reserve(contents_.items.size() + items.size());
   for (auto& item : items) {
     if (count++ % between_checks == 0) task.check();
-    add_item(std::move(item));
+    contents_.items.push_back(std::move(item));
+    contents_.colours.push_back(contents_.fore_colour);
   }
+  ++revision_;
+  changed();
 }
 
 void ListBox::add_item(std::string item) {

@@ -42,7 +42,7 @@ class ListTable {
   /// cells without a number stand at the end.
   [[nodiscard]] std::vector<int> arranged(int sorted_by, bool descending, std::string_view filter) const;
 
-  /// Why a filter can't let through what was meant, as the part of it that can't be read; empty where it can.
+  /// Why a filter cannot let through what was meant, as the part of it that cannot be read; empty where it can.
   [[nodiscard]] std::string fault_of_filter(std::string_view filter) const;
 
   /// Heads and rows, UTF-8, a line each. @param between  ',' for CSV, where cells are quoted as that needs

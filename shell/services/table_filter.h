@@ -18,7 +18,7 @@ class TableFilter {
   /// @param text  UTF-8; small and capital letters are the same, and so are a decimal comma and a point
   TableFilter(std::string_view text, const ListTable& table);
 
-  /// The first part that can't be read, and why; empty where all can.
+  /// The first part that cannot be read, and why; empty where all can.
   [[nodiscard]] const std::string& fault() const { return fault_; }
   [[nodiscard]] bool lets_all() const { return parts_.empty(); }
   /// @param cells  UTF-8, of all columns of the table
