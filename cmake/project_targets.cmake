@@ -4,9 +4,12 @@ target_include_directories(project_includes INTERFACE ${PROJECT_SOURCE_DIR})
 
 add_library(project_warnings INTERFACE)
 target_compile_options(project_warnings INTERFACE -Wall -Wextra -Wpedantic -Wconversion)
-# Where several sources are compiled as one, local names may be those of another source.
+# Where several sources are compiled as one, local names may be those of another source, and classes of one source have
+# members of its unnamed namespace.
 if(NOT CMAKE_UNITY_BUILD)
   target_compile_options(project_warnings INTERFACE -Wshadow)
+elseif(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+  target_compile_options(project_warnings INTERFACE -Wno-subobject-linkage)
 endif()
 if(ZOL_WERROR)
   target_compile_options(project_warnings INTERFACE -Werror)

@@ -22,7 +22,7 @@
 namespace zol {
 namespace {
 
-CrystalState with_list(const std::vector<ListedReflection>& entries) {
+CrystalState with_list(const std::vector<GivenReflection>& entries) {
   CrystalState state = with_cell(cubic_cell(4));
   set_list(state, entries);
   return state;
@@ -69,7 +69,7 @@ TEST(TripleTable, HoldsEveryOrderedTriple) {
 }
 
 TEST(TripleTable, HoldsAHundredMillionRowsInAMegabyte) {
-  const auto state = with_list(std::vector<ListedReflection>(500, {1, 1, 0, 2}));
+  const auto state = with_list(std::vector<GivenReflection>(500, {1, 1, 0, 2}));
   TripleTable table;
   QuietTask task;
   EXPECT_TRUE(fails_with("TripleS, which has not been allocated yet", [&] { (void)table.TripleS(0, 0); }));
@@ -99,7 +99,7 @@ TEST(TripleTable, RoundsRowsAndReflectionsEachForItself) {
 /// Bands of (1 0 0), (1 1 0) and (-1 1 1) of a cubic crystal, their angles alone.
 class Matching : public testing::Test {
  protected:
-  void make_table(const std::vector<ListedReflection>& entries, Single wanted) {
+  void make_table(const std::vector<GivenReflection>& entries, Single wanted) {
     state = with_list(entries);
     used = wanted;
     QuietTask unseen;

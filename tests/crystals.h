@@ -31,14 +31,14 @@ inline CrystalState with_cell(const CellNumbers& cell) {
   return state;
 }
 
-struct ListedReflection {
+struct GivenReflection {
   int h, k, l;
   Single intensity = 1;
   Single s = 0;  ///< sin(theta)/lambda; 0 for that of the cell
 };
 
 /// The reflection list of the state, all of it for Kikuchi patterns: one entry spare, RefA 0.
-inline void set_list(CrystalState& state, const std::vector<ListedReflection>& entries) {
+inline void set_list(CrystalState& state, const std::vector<GivenReflection>& entries) {
   const int count = static_cast<int>(entries.size());
   state.RefCount = state.KikuchiRefLimit = count;
   state.BandHKL.allocate(count, 2);

@@ -77,7 +77,7 @@ TEST(GreyScale, LeavesOutWhatTheLatticeForbids) {
   state.CamAcquisition = 45;
   state.CamXYRatio = 1;
   state.LatticeLetter = "F";
-  std::vector<ListedReflection> list{{1, 1, 1, 0.5F}, {1, 0, 0, 10}, {2, 0, 0, 0.7F}};
+  std::vector<GivenReflection> list{{1, 1, 1, 0.5F}, {1, 0, 0, 10}, {2, 0, 0, 0.7F}};
   for (int turned = 0; turned < 2; ++turned) {  // the strongest last, then first
     set_list(state, list);
     ListedPlanes planes(state);
@@ -155,9 +155,9 @@ TEST(TangentLimits, AreThoseOfTheTangent) {
 // Narrow and wide pictures; down a plane normal, where latitudes are 90 degrees, and down none; electrons and a
 // wavelength beyond some spacings.
 TEST(Bands, AgreeWithThePlainWayToTheBit) {
-  std::vector<ListedReflection> list;
+  std::vector<GivenReflection> list;
   for (int n = 0; n < 9 * 9 * 9; ++n) {
-    const ListedReflection entry{n % 9 - 4, n / 9 % 9 - 4, n / 81 - 4, to_single(1 + n * 37 % 101)};
+    const GivenReflection entry{n % 9 - 4, n / 9 % 9 - 4, n / 81 - 4, to_single(1 + n * 37 % 101)};
     if (entry.h != 0 || entry.k != 0 || entry.l != 0) list.push_back(entry);
   }
   for (const auto& cell : cells_of_all_systems) {

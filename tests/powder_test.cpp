@@ -17,7 +17,7 @@
 namespace zol {
 namespace {
 
-CrystalState listed(const CellNumbers& cell, const std::vector<ListedReflection>& reflections) {
+CrystalState listed(const CellNumbers& cell, const std::vector<GivenReflection>& reflections) {
   auto state = with_cell(cell);
   state.Dmin = 1;
   set_list(state, reflections);
@@ -91,9 +91,9 @@ TEST(BinCount, HasTheLimitsOfSixteenBits) {
   EXPECT_THROW((void)highest_bin(bin_count(0.219606F), 10000), RunFailure) << "22768";
 }
 
-const std::vector<ListedReflection> some_reflections{{1, 0, 0, 10},    {1, 1, -1, 731.25F}, {0, 0, 3, 0.125F},
-                                                     {-2, 1, 0, 0},    {-3, 2, 1, 42},      {0, 0, 0, 7},
-                                                     {2, -1, 3, 1e-3F}};
+const std::vector<GivenReflection> some_reflections{{1, 0, 0, 10},    {1, 1, -1, 731.25F}, {0, 0, 3, 0.125F},
+                                                    {-2, 1, 0, 0},    {-3, 2, 1, 42},      {0, 0, 0, 7},
+                                                    {2, -1, 3, 1e-3F}};
 
 TEST(Histogram, AgreesWithThePlainLoopToTheBit) {
   struct Row {

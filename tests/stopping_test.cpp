@@ -106,7 +106,7 @@ TEST(Stopping, OfPatterns) {
   const auto off_level = crystal({0, 0, 0}, 1);
   const auto view = gnomonic_view(down_c);
   auto many = crystal();
-  set_list(many, std::vector<ListedReflection>(129, {1, 0, 0}));
+  set_list(many, std::vector<GivenReflection>(129, {1, 0, 0}));
   const InterferenceGrid grid{{2, 1, 1}, {0.0078125F, 0.0078125F, 0.0078125F}};
   const CrystalliteSize size{9, 9, 9};
   const auto pass = [](const Indices<Integer>&) {};
@@ -199,7 +199,7 @@ TEST(Estimates, AskBeforeWhatTakesMinutesOrMuchMemoryAlone) {
   const auto arcs_of = [](int reflections, Single dispersion) {
     return [reflections, dispersion](Task& t) {
       auto state = crystal();
-      set_list(state, std::vector<ListedReflection>(static_cast<std::size_t>(reflections), {1, 0, 0, 1}));
+      set_list(state, std::vector<GivenReflection>(static_cast<std::size_t>(reflections), {1, 0, 0, 1}));
       state.Dispersion = dispersion;
       t.expect(effort_of_arcs(state, {512, 512, {}}, t));
     };

@@ -33,11 +33,6 @@ void give_size(QWidget& window, const QSize& size) {
   window.setProperty(size_given, window.size());
 }
 
-/// What a window that is not on the screen yet gets as its frame is not known.
-QSize frame_of(const QWidget& window) {
-  return window.isVisible() ? window.frameGeometry().size() - window.size() : usual_frame;
-}
-
 Narrowing narrowing_of(const QWidget& window) {
   const int least = window.minimumSizeHint().expandedTo(window.minimumSize()).width();
   const QSize frame = frame_of(window);
@@ -96,6 +91,10 @@ class MenuRoom : public QObject {
 };
 
 }  // namespace
+
+QSize frame_of(const QWidget& window) {
+  return window.isVisible() ? window.frameGeometry().size() - window.size() : usual_frame;
+}
 
 bool gives_way(const QWidget& window) { return window.property("givesWay").toBool(); }
 

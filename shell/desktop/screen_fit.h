@@ -1,6 +1,8 @@
 // Windows on small screens.
 #pragma once
 
+#include <QSize>
+
 class QMainWindow;
 class QWidget;
 
@@ -9,6 +11,9 @@ namespace zol {
 /// Keeps a window within the screen: it begins no larger, and where its widgets need more room than there is, they
 /// scroll.
 void fit_to_screen(QMainWindow& window);
+
+/// What the frame adds to a window; that of a usual window while it is not on the screen.
+[[nodiscard]] QSize frame_of(const QWidget& window);
 
 /// Whether its layout says `givesWay`: it opens others, and is of least use beside them.
 [[nodiscard]] bool gives_way(const QWidget& window);

@@ -20,9 +20,6 @@ namespace {
 
 constexpr std::size_t with_keys = 9;  // Ctrl+1 to Ctrl+9
 
-/// What the frame adds to a window.
-QSize frame_of(const QWidget& top) { return top.frameGeometry().size() - top.size(); }
-
 }  // namespace
 
 QString listed_title(const QString& kind, const QString& title) {
