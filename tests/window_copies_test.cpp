@@ -198,7 +198,7 @@ constexpr std::pair<const char*, int> long_events[]{
     {"Main1.DATA_LOAD", 200},   {"Main1.Command6", 100},     {"Main1.Command7", 100},
     {"Main1.Command8", 100},    {"InputAtom.Command1", 6},   {"Xd.Command1", 100},
     {"Dring.Command6", 100},    {"Pattern.Command2", 100},   {"FiberTexture.Command8", 400},
-    {"Pattern2.Command4", 400}, {"Pattern2.Command16", 200}, {"Zaxis.Text1", 90},
+    {"Pattern2.Command4", 200}, {"Pattern2.Command16", 200}, {"Zaxis.Text1", 90},
     {"Zaxis.Check2", 40},       {"PATTERN3.Text2", 5},       {"PATTERN3.Command1", 2},
     {"PATTERN3.Command4", 512}, {"PATTERN3.Command15", 243}, {"AtomDistance.Command1", 54},
     {"Utility.Command1", 90},   {"Main1.Command5", 100},
