@@ -64,7 +64,7 @@ TEST(WordFile, TellsPlaceAndNameOfWhatItDoesNotKnow) {
   };
   for (const auto& [text, words] :
        {Row{"{\n\"scan\": \"a\",\n\"scann\": 1}", "line 3: \"scann\" is not an option of zol-batch map"},
-        Row{R"({"settings": "b.json"})", "line 1: \"settings\" is no option"},
+        Row{R"({"settings": "b.json"})", "line 1: \"settings\" is not an option"},
         Row{"{\"count\": 99}", "not in range 3 to 40"}, Row{R"({"count": "few"})", "\"count\" cannot be taken"},
         Row{"{\"flag\": 1}", "\"flag\" is true or false"}, Row{R"({"name": ["a", "b"]})", "\"name\" has one value"},
         Row{"{\"name\": {}}", "\"name\" has"}, Row{"{\n\"name\": a}", "line 2, column 9: this is not JSON"},

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QGroupBox>
 #include <QMainWindow>
 #include <QMenuBar>
 #include <QScreen>
@@ -18,6 +19,7 @@ namespace zol {
 namespace {
 
 constexpr int settled_ms = 100;         // by then a window has its frame and its layout
+constexpr int half_a_screen = 676;      // of 1366 pixels, less the frame
 constexpr auto size_given = "zolSize";  // by the program; a window of another one was changed by the user
 
 bool is_usual(const QWidget& window) {
@@ -58,11 +60,21 @@ bool share(QWidget& window, QWidget& other, const QRect& room) {
   return true;
 }
 
-/// No menu hides behind a sign at the end of the bar: the window does not get narrower than its menu bar. The status
-/// line carries that, since a least width of the window itself would stand in place of that of its contents.
+/// Whether it is made to stand on half a screen.
+bool goes_narrow(const QWidget& window) {
+  const auto groups = window.findChildren<QGroupBox*>();
+  return std::any_of(groups.begin(), groups.end(), [](const QGroupBox* group) {
+    return group->property("folds").toString() == QLatin1String("narrow");
+  });
+}
+
+/// No menu hides behind a sign at the end of the bar: the window does not get narrower than its menu bar, but for those
+/// that go down to half a screen. The status line carries that, since a least width of the window itself would stand in
+/// place of that of its contents.
 class MenuRoom : public QObject {
  public:
-  MenuRoom(QMenuBar& bar, QStatusBar& status) : QObject(&bar), bar_(bar), status_(status) {
+  MenuRoom(QMenuBar& bar, QStatusBar& status, bool narrow)
+      : QObject(&bar), bar_(bar), status_(status), most_(narrow ? half_a_screen : QWIDGETSIZE_MAX) {
     bar.installEventFilter(this);
     measure();
   }
@@ -84,10 +96,11 @@ class MenuRoom : public QObject {
   }
 
  private:
-  void measure() { status_.setMinimumWidth(bar_.sizeHint().width()); }
+  void measure() { status_.setMinimumWidth(std::min(most_, bar_.sizeHint().width())); }
 
   QMenuBar& bar_;
   QStatusBar& status_;
+  int most_;
 };
 
 }  // namespace
@@ -99,7 +112,7 @@ QSize frame_of(const QWidget& window) {
 bool gives_way(const QWidget& window) { return window.property("givesWay").toBool(); }
 
 void fit_to_screen(QMainWindow& window) {
-  new MenuRoom(*window.menuBar(), *window.statusBar());
+  new MenuRoom(*window.menuBar(), *window.statusBar(), goes_narrow(window));
   const QSize room = window.screen()->availableSize() - usual_frame;
   const QSize least = window.minimumSizeHint();
   if (least.boundedTo(room) != least) {
