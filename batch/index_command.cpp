@@ -44,6 +44,7 @@ void check_overlays(const IndexWords& words) {
   for (const auto& picture : words.pictures) inputs.push_back({"PICTURE", picture});
   std::vector<NamedFile> outputs;
   const std::set<std::string> pictures(words.pictures.begin(), words.pictures.end());
+  outputs.reserve(pictures.size());
   for (const auto& picture : pictures) outputs.push_back({"--overlay", overlay_path(words, picture)});
   check_outputs(outputs, inputs);
   check_folder(outputs.front().path, MissingFolder::is_made);

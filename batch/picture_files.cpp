@@ -176,6 +176,7 @@ class Legend {
 
 std::vector<std::string> map_picture_paths(const std::string& prefix) {
   std::vector<std::string> paths;
+  paths.reserve(all_map_pictures.size() + 1);
   for (const MapPictureKind kind : all_map_pictures) paths.push_back(prefix + '-' + name_of(kind) + ".png");
   paths.push_back(prefix + "-legend.png");
   return paths;

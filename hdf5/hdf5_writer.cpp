@@ -17,7 +17,7 @@ namespace {
 hid_t make_in_memory() {
   constexpr std::size_t grows_by = std::size_t{1} << 20U;
   const Hdf5Handle access(H5Pcreate(H5P_FILE_ACCESS), [](std::int64_t id) { return H5Pclose(id); });
-  (void)H5Pset_fapl_core(access.id(), grows_by, 0);
+  (void)H5Pset_fapl_core(access.id(), grows_by, false);
   return H5Fcreate("in memory", H5F_ACC_TRUNC, H5P_DEFAULT, access.id());
 }
 

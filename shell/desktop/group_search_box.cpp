@@ -24,7 +24,7 @@ std::string english(const QString& typed) {
   constexpr int letters_of_system = 4;
   constexpr int last_group = 230;
   for (int group = 1; typed.size() >= letters_of_system && group <= last_group; ++group) {
-    const std::string system(crystal_system(group));
+    std::string system(crystal_system(group));
     if (shown(QString::fromStdString(system)).startsWith(typed, Qt::CaseInsensitive)) return system;
   }
   return typed.toStdString();
