@@ -1,5 +1,6 @@
 #include "kikuchi/listed_planes.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "core/metric_forms.h"
